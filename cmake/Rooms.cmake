@@ -1,0 +1,35 @@
+# A room is one folder of src/. Its logic is a static library that sees the rooms to its left and the standard
+# library; its ui/ folder goes into glimmerpane_ui. ROOMS is the row, left to right.
+set(ROOMS platform document colour palette drawing files alpha effects animation incoming extraction output shell)
+
+# gp_core_rooms(): one library per room that has sources, each linking the nearest one to its left, and the
+# interface library glimmerpane_core over all of them.
+function(gp_core_rooms)
+  add_library(glimmerpane_core INTERFACE)
+  set(left "")
+  foreach(room IN LISTS ROOMS)
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${room}/*.cpp)
+    list(FILTER sources EXCLUDE REGEX "/src/${room}/(ui|qt)/")
+    if(sources)
+      add_library(gp_${room} STATIC ${sources})
+      target_include_directories(gp_${room} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+      if(left)
+        target_link_libraries(gp_${room} PUBLIC ${left})
+      endif()
+      set(left gp_${room})
+    endif()
+  endforeach()
+  target_link_libraries(glimmerpane_core INTERFACE ${left})
+endfunction()
+
+# gp_ui_sources(OUT): every ui/ folder and platform/qt.
+function(gp_ui_sources out)
+  set(all "")
+  foreach(room IN LISTS ROOMS)
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS
+         ${CMAKE_SOURCE_DIR}/src/${room}/ui/*.cpp ${CMAKE_SOURCE_DIR}/src/${room}/ui/*.h
+         ${CMAKE_SOURCE_DIR}/src/${room}/qt/*.cpp ${CMAKE_SOURCE_DIR}/src/${room}/qt/*.h)
+    list(APPEND all ${sources})
+  endforeach()
+  set(${out} ${all} PARENT_SCOPE)
+endfunction()

@@ -1,0 +1,49 @@
+// The file system as the program uses it: files are read whole and written once from memory. Paths are UTF-8 or
+// whatever bytes the system has. Only regular files are ever opened, so that a pipe or a device cannot hang a reader.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace gp {
+
+// The bytes of one file, read whole.
+class FileBytes {
+ public:
+  FileBytes() = default;
+  explicit FileBytes(std::vector<std::uint8_t> bytes);
+  FileBytes(std::unique_ptr<std::uint8_t[]> bytes, std::size_t size) : bytes_(std::move(bytes)), size_(size) {}
+  std::span<const std::uint8_t> span() const { return {bytes_.get(), size_}; }
+
+ private:
+  std::unique_ptr<std::uint8_t[]> bytes_;
+  std::size_t size_ = 0;
+};
+
+// The whole file; nothing when it is no regular file or cannot be read.
+std::optional<FileBytes> readFile(const std::string& path);
+// The first `count` bytes of a file, or fewer if it is shorter; nothing as above.
+std::optional<FileBytes> readFileStart(const std::string& path, std::size_t count);
+// Deletes an existing file and writes a new one. False when the old file is read-only or the new one cannot be
+// written whole.
+[[nodiscard]] bool replaceFile(const std::string& path, std::span<const std::uint8_t> bytes);
+
+// True when the path is a regular file that can be opened for reading.
+bool FileExists(const std::string& path);
+bool directoryExists(const std::string& path);
+// True when the file is there and is read-only (no write permission for its owner), hidden, or a directory.
+bool HasFileAttribute(const std::string& path);
+// Names of the regular files directly in a folder that match a pattern, sorted by name with case ignored.
+std::vector<std::string> filesInFolder(const std::string& folder, const std::string& pattern);
+std::vector<std::string> foldersInFolder(const std::string& folder);
+
+// The folder of the program's own files, with no trailing separator: the executable's folder if it can be written to,
+// otherwise "$XDG_CONFIG_HOME/Glimmerpane" (or "~/.config/Glimmerpane"), made on first need.
+std::string programFolder();
+
+}  // namespace gp

@@ -1,0 +1,93 @@
+// A Surface is the program's pixel buffer: 32-bit pixels 0x00BBGGRR, top row first. It has two layers: the drawing,
+// which all operations read and write, and the picture, which is what the drawing falls back to when it is cleared.
+// The platform's drawing operations on it stand in RasterOps.h, Stretch.h, Pens.h and FloodFill.h.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace gp {
+
+// 0x00BBGGRR. Signed, so that "no pixel" can be told.
+using Color = std::int32_t;
+
+inline constexpr Color kNoColor = -1;
+inline constexpr Color kBlack = 0x000000;
+inline constexpr Color kWhite = 0xFFFFFF;
+// The ground behind transparent pixels, everywhere in the program.
+inline constexpr Color kGround = 0xC0C0C0;
+
+constexpr Color rgb(int red, int green, int blue) { return red | green << 8 | blue << 16; }
+constexpr int redOf(Color c) { return c & 0xFF; }
+constexpr int greenOf(Color c) { return c >> 8 & 0xFF; }
+constexpr int blueOf(Color c) { return c >> 16 & 0xFF; }
+
+enum class FillMode { Transparent, Solid };
+enum class PenStyle { Solid, Dot };
+enum class DrawMode { Copy, Invert };
+// The values are the platform's own.
+enum class StretchMode { BlackOnWhite = 1, KeepOrDrop = 3, Halftone = 4 };
+
+class Surface {
+ public:
+  // Sizes are in pixels; negative ones count as 0. All pixels start with the back colour.
+  explicit Surface(int width = 0, int height = 0, Color backColor = kWhite);
+
+  int width() const { return width_; }
+  int height() const { return height_; }
+
+  // The colour of a pixel of the drawing; kNoColor outside.
+  Color GetPixel(int x, int y) const {
+    return contains(x, y) ? static_cast<Color>(pixels_[index(x, y)]) : kNoColor;
+  }
+  // Sets one pixel of the drawing; outside it does nothing.
+  void SetPixelV(int x, int y, Color color) {
+    if (!contains(x, y)) return;
+    pixels_[index(x, y)] = static_cast<std::uint32_t>(color);
+    touch(x, y, x + 1, y + 1);
+  }
+  bool contains(int x, int y) const { return x >= 0 && y >= 0 && x < width_ && y < height_; }
+
+  // The drawing, row by row from the top.
+  std::span<const std::uint32_t> pixels() const { return pixels_; }
+  std::span<const std::uint32_t> row(int y) const;
+  // The same for writing. [x1, x2) x [y1, y2) is what the caller is going to change; it must lie inside.
+  std::uint32_t* rowForWriting(int y, int x1, int x2);
+
+  // Gives a new size; picture and drawing are lost, all pixels take the back colour.
+  void resize(int width, int height);
+  // The picture is lost and the drawing takes the back colour.
+  void clearPicture();
+  // The drawing returns to the picture, or to the back colour where there is none.
+  void clearDrawing();
+  // The drawing becomes the picture.
+  void makePersistent();
+  bool hasPicture() const { return hasPicture_; }
+  // Fills the whole drawing with one colour; the picture stays.
+  void fill(Color color);
+
+  Color backColor = kWhite;
+  Color fillColor = kBlack;
+  FillMode fillMode = FillMode::Transparent;
+  int penWidth = 1;
+  PenStyle penStyle = PenStyle::Solid;
+  DrawMode drawMode = DrawMode::Copy;
+  StretchMode stretchMode = StretchMode::KeepOrDrop;
+  // Difference between the outer and the client size, in pixels; MakeSameSize keeps it.
+  int border = 0;
+
+ private:
+  std::size_t index(int x, int y) const { return static_cast<std::size_t>(y) * width_ + x; }
+  void touch(int x1, int y1, int x2, int y2);
+
+  int width_ = 0;
+  int height_ = 0;
+  std::vector<std::uint32_t> pixels_;
+  std::vector<std::uint32_t> picture_;
+  bool hasPicture_ = false;
+  // The part of the drawing that may differ from the picture: what clearing and keeping have to copy.
+  int dirtyX1_ = 0, dirtyY1_ = 0, dirtyX2_ = 0, dirtyY2_ = 0;
+};
+
+}  // namespace gp

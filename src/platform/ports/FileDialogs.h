@@ -1,0 +1,46 @@
+// The port for the desktop's dialogs. clsGPDialog (platform/dialogs) speaks to it; the rest of the program speaks to
+// clsGPDialog.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/gdi/Surface.h"
+
+namespace gp {
+
+// One line of a dialog's file-type list: "Icon files (*.ico)" and "*.ico".
+struct FileFilter {
+  std::string description;
+  std::string pattern;
+  bool operator==(const FileFilter&) const = default;
+};
+
+struct FileDialogRequest {
+  std::string title;
+  std::string fileName;  // proposed name
+  std::string folder;    // where to start; empty: the current directory
+  std::vector<FileFilter> filters;
+  std::string defaultExtension;
+  unsigned flags = 0;  // the flag word of the platform's dialog, see clsGPDialog
+};
+
+struct PrinterRequest {
+  unsigned flags = 0;
+  int copies = 1;
+};
+
+class FileDialogs {
+ public:
+  virtual ~FileDialogs() = default;
+  // True with `path` set when the user chose one. On false `error` is 0 for a cancel, otherwise the dialog's error.
+  virtual bool openFile(const FileDialogRequest& request, std::string& path, int& error) = 0;
+  virtual bool saveFile(const FileDialogRequest& request, std::string& path, int& error) = 0;
+  // `color` in and out.
+  virtual bool chooseColor(Color& color) = 0;
+  virtual bool choosePrinter(PrinterRequest& request) = 0;
+  // The program's own folder chooser: the folder, empty on Cancel. `pattern` is such as "*.ICO" or "*.*".
+  virtual std::string chooseFolder(const std::string& pattern, const std::string& startFolder) = 0;
+};
+
+}  // namespace gp

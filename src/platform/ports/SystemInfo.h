@@ -1,0 +1,37 @@
+// The port for what the program asks of the machine: the screen, folders, memory and other processes.
+#pragma once
+
+#include <string>
+
+namespace gp {
+
+class SystemInfo {
+ public:
+  virtual ~SystemInfo() = default;
+  virtual int GetScreenBPP() = 0;         // bits per pixel
+  virtual int screenWidth() = 0;          // pixels
+  virtual int screenHeight() = 0;         // pixels
+  virtual int GetPixelsPerInch() = 0;
+  virtual long long totalMemoryKb() = 0;
+  // Folders; empty when unknown.
+  virtual std::string windowsDirectory() = 0;
+  virtual std::string systemDirectory() = 0;
+  virtual std::string tempDirectory() = 0;
+  virtual std::string desktopDirectory() = 0;
+};
+
+class Processes {
+ public:
+  virtual ~Processes() = default;
+  // True when another instance of this program runs.
+  virtual bool IsPrevInstance() = 0;
+  // Asks the window of that title to close; nothing when there is none.
+  virtual void CloseWindowByTitle(const std::string& title) = 0;
+  // Compares the right-hand end of each process's executable with the name, case ignored.
+  virtual bool IsProcessRunning(const std::string& executable) = 0;
+  virtual void TerminateProcessByName(const std::string& executable) = 0;
+  // Starts a program and does not wait for it. False when it cannot be started.
+  virtual bool start(const std::string& path) = 0;
+};
+
+}  // namespace gp
