@@ -1,0 +1,30 @@
+// The alpha values of one icon: one byte per pixel, 0 transparent to 255 opaque. An icon without alpha has a matrix of
+// 1 x 1.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+namespace gp {
+
+class AlphaMatrix {
+ public:
+  AlphaMatrix() : AlphaMatrix(1, 1) {}
+  AlphaMatrix(int width, int height, std::uint8_t value = 0)
+      : width_(width), height_(height), values_(static_cast<std::size_t>(width) * height, value) {}
+
+  int width() const { return width_; }
+  int height() const { return height_; }
+  bool isOfSize(int size) const { return width_ == size && height_ == size; }
+  // x and y must lie inside.
+  std::uint8_t& at(int x, int y) { return values_[static_cast<std::size_t>(y) * width_ + x]; }
+  std::uint8_t at(int x, int y) const { return values_[static_cast<std::size_t>(y) * width_ + x]; }
+  bool operator==(const AlphaMatrix&) const = default;
+
+ private:
+  int width_;
+  int height_;
+  std::vector<std::uint8_t> values_;
+};
+
+}  // namespace gp

@@ -1,0 +1,34 @@
+// What the logic may ask of the screen. The views hold no state of their own: they read EditState again when they are
+// told that a part of it changed.
+#pragma once
+
+namespace gp {
+
+enum class DisplayPart {
+  EditingArea,   // size of picDisp, or all of its pixels
+  IconsPanel,    // the six containers, their labels, PicIcon
+  StatusBar,     // panels and progress
+  Readouts,      // lblDispXY
+  Tools,         // tool frames, selected tool, picker, brush
+  Pointer,       // pointer over the Editing Area, hourglass
+  Panel,         // which fraPanel is up
+  ColorPanel,    // frames, picColorToUse, direct entry
+  Commands,      // enabling and ticks of menus and toolbar
+  History,       // entries of the history menus
+};
+
+class Display {
+ public:
+  virtual ~Display() = default;
+  virtual void changed(DisplayPart part) = 0;
+  // Pixels of picDisp changed in a rectangle, in Editing Area pixels; the rest is as it was.
+  virtual void repaintEditingArea(int x, int y, int width, int height) = 0;
+  // Shows the pop-up menu at the mouse pointer.
+  virtual void showPopUpMenu() = 0;
+  // Moves the mouse pointer one pixel and back, so that its shape is brought up to date.
+  virtual void nudgeMousePointer() = 0;
+  // The input focus goes to txbDirectEntryColorValue.
+  virtual void focusColorValue() = 0;
+};
+
+}  // namespace gp

@@ -1,0 +1,47 @@
+// What is known of the icon in one of the six containers. The fields keep the order in which commands clear them in
+// runs; a record is empty (not used), held by a loader (used, not present) or loaded (both).
+#pragma once
+
+#include <cstdint>
+
+#include "platform/text/FixedText.h"
+
+namespace gp {
+
+inline constexpr int kContainerCount = 6;
+// dirColors and bihColors of a true colour icon.
+inline constexpr int kTrueColor = -1;
+// The size an empty container counts as.
+inline constexpr int kDefaultIconSize = 32;
+
+struct IconContainerRec {
+  std::int16_t seq = 0;
+  bool used = false;
+  FixedText<32> sourceLabel;
+  std::int32_t dirColors = 0;
+  std::int16_t bitCount = 0;
+  bool hasAlpha = false;
+  std::int32_t bihColors = 0;
+  std::int16_t bihBitCount = 0;
+  bool present = false;
+  std::int16_t size = kDefaultIconSize;
+  FixedText<255> path;
+  bool fromMultiIconFile = false;
+  std::int16_t multiIconIndex = 0;
+  bool isCursor = false;
+  std::int16_t hotspotX = 0;
+  std::int16_t hotspotY = 0;
+  bool neverSaved = false;
+  bool modified = false;
+
+  // True when the directory of the original file and its bitmap header tell different things.
+  bool isDiscrepant() const { return dirColors != bihColors || bitCount != bihBitCount; }
+  bool isTrueColor() const { return dirColors == kTrueColor; }
+  // fromMultiIconFile up to and including modified become zero.
+  void clearOrigin();
+};
+
+// True for 16, 24, 32 and 48.
+constexpr bool isIconSize(int size) { return size == 16 || size == 24 || size == 32 || size == 48; }
+
+}  // namespace gp

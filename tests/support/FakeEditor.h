@@ -1,0 +1,78 @@
+// An Editor and a Display that write down what was asked of them, for tests of one subsystem alone.
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "document/Display.h"
+#include "document/Editor.h"
+
+namespace gp::test {
+
+class RecordingDisplay : public Display {
+ public:
+  std::vector<DisplayPart> parts;
+  int repaints = 0, popUpMenus = 0, nudges = 0, colorValueFocuses = 0;
+
+  void changed(DisplayPart part) override { parts.push_back(part); }
+  void repaintEditingArea(int, int, int, int) override { ++repaints; }
+  void showPopUpMenu() override { ++popUpMenus; }
+  void nudgeMousePointer() override { ++nudges; }
+  void focusColorValue() override { ++colorValueFocuses; }
+  bool told(DisplayPart part) const { return std::find(parts.begin(), parts.end(), part) != parts.end(); }
+};
+
+class FakeEditor : public Editor {
+ public:
+  std::vector<std::string> calls;  // names in the order of the calls
+  int tool = 0;
+  bool pickerSelected = false;
+  bool askSaveProceeds = true;
+  int colorCount = 16;
+
+  int count(const std::string& name) const { return static_cast<int>(std::count(calls.begin(), calls.end(), name)); }
+
+  void ClearContainer() override { log("ClearContainer"); }
+  void CommitPendingPaint() override { log("CommitPendingPaint"); }
+  void EndToolAction() override { log("EndToolAction"); }
+  void SwitchContainer(int container) override { log("SwitchContainer " + std::to_string(container)); }
+  void SizeEditSurfaces(int size) override { log("SizeEditSurfaces " + std::to_string(size)); }
+  void SizePanelSurfaces(int size) override { log("SizePanelSurfaces " + std::to_string(size)); }
+  void ComposeCurrentIcon() override { log("ComposeCurrentIcon"); }
+  void UpdatePanelFromCurrent() override { log("UpdatePanelFromCurrent"); }
+  void MagnifyIcon() override { log("MagnifyIcon"); }
+  void ShowCurrentIcon() override { log("ShowCurrentIcon"); }
+  void RefreshStatusBar() override { log("RefreshStatusBar"); }
+  void ClearStatusBar() override { log("ClearStatusBar"); }
+  void chooseColorChart() override { log("chooseColorChart"); }
+  void showChart16() override { log("showChart16"); }
+  void deselectColorPicker() override { pickerSelected = false; }
+  bool isColorPickerSelected() const override { return pickerSelected; }
+  void clearAllTools() override { log("clearAllTools"); }
+  void selectTool(int index) override { log("selectTool " + std::to_string(index)); }
+  int selectedTool() const override { return tool; }
+  void clearRegion() override { log("clearRegion"); }
+  void recordUndo() override { log("recordUndo"); }
+  void clearUndoHistory() override { log("clearUndoHistory"); }
+  void doOpenIconFile(const std::string& path, bool, bool& ok) override { log("doOpenIconFile " + path), ok = true; }
+  void doOpenIconFileQuietly(const std::string& path, bool& ok) override {
+    log("doOpenIconFileQuietly " + path), ok = openSucceeds;
+  }
+  void AskSaveCurrent(const std::string& message, bool& proceed) override {
+    log("AskSaveCurrent " + message), proceed = askSaveProceeds;
+  }
+  int colorBitCountOfImage() const override { return colorCount; }
+  void UpdateCommands() override { log("UpdateCommands"); }
+  void showPanel(int panel) override { log("showPanel " + std::to_string(panel)); }
+  void closePanels() override { log("closePanels"); }
+  void AddHistory(const std::string& path) override { log("AddHistory " + path); }
+  void ShowRunTimeError(const std::string& name, const std::string&) override { log("ShowRunTimeError " + name); }
+
+  bool openSucceeds = true;
+
+ private:
+  void log(const std::string& call) { calls.push_back(call); }
+};
+
+}  // namespace gp::test

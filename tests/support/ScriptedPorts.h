@@ -1,0 +1,118 @@
+// Ports that follow a script: a test lists the boxes and dialogs it expects, in order, with their exact texts and
+// answers. An unexpected one fails the test, and so does one that never came.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/ports/FileDialogs.h"
+#include "platform/ports/MessageBoxes.h"
+#include "platform/ports/MessagePump.h"
+
+namespace gp::test {
+
+class ScriptedBoxes : public MessageBoxes {
+ public:
+  struct Expected {
+    std::string text;
+    BoxButtons buttons;
+    BoxIcon icon;
+    BoxAnswer answer;
+  };
+  ~ScriptedBoxes() override { EXPECT_TRUE(script_.empty()) << "box that never came: " << script_.front().text; }
+
+  // An information that is told with one button.
+  void expectTold(const std::string& text, BoxIcon icon) { expect(text, BoxButtons::Ok, icon, BoxAnswer::Ok); }
+  void expectAsked(const std::string& text, BoxAnswer answer) {
+    expect(text, BoxButtons::YesNo, BoxIcon::Question, answer);
+  }
+  void expect(const std::string& text, BoxButtons buttons, BoxIcon icon, BoxAnswer answer) {
+    script_.push_back({text, buttons, icon, answer});
+  }
+  bool done() const { return script_.empty(); }
+
+  BoxAnswer show(const std::string& text, BoxButtons buttons, BoxIcon icon, BoxAnswer) override {
+    if (script_.empty()) {
+      ADD_FAILURE() << "unexpected box: " << text;
+      return buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::No;
+    }
+    const Expected expected = script_.front();
+    script_.pop_front();
+    EXPECT_EQ(text, expected.text);
+    EXPECT_EQ(buttons, expected.buttons);
+    EXPECT_EQ(icon, expected.icon);
+    return expected.answer;
+  }
+
+ private:
+  std::deque<Expected> script_;
+};
+
+class ScriptedDialogs : public FileDialogs {
+ public:
+  // Answers in order; an empty path is a cancel.
+  std::deque<std::string> paths;
+  std::deque<Color> colors;  // kNoColor is a cancel
+  int errorOnCancel = 0;
+  std::vector<FileDialogRequest> requests;
+
+  bool openFile(const FileDialogRequest& request, std::string& path, int& error) override {
+    return answer(request, path, error);
+  }
+  bool saveFile(const FileDialogRequest& request, std::string& path, int& error) override {
+    return answer(request, path, error);
+  }
+  bool chooseColor(Color& color) override {
+    if (colors.empty()) {
+      ADD_FAILURE() << "unexpected colour dialog";
+      return false;
+    }
+    const Color chosen = colors.front();
+    colors.pop_front();
+    if (chosen == kNoColor) return false;
+    color = chosen;
+    return true;
+  }
+  bool choosePrinter(PrinterRequest&) override { return false; }
+  std::string chooseFolder(const std::string&, const std::string&) override { return next(); }
+
+ private:
+  std::string next() {
+    if (paths.empty()) {
+      ADD_FAILURE() << "unexpected dialog";
+      return {};
+    }
+    const std::string path = paths.front();
+    paths.pop_front();
+    return path;
+  }
+  bool answer(const FileDialogRequest& request, std::string& path, int& error) {
+    requests.push_back(request);
+    path = next();
+    error = path.empty() ? errorOnCancel : 0;
+    return !path.empty();
+  }
+};
+
+// Runs `inside`, once, at the next pump: what a user does in the midst of a work loop.
+class ScriptedPump : public MessagePump {
+ public:
+  std::function<void()> inside;
+  int pumps = 0;
+  int waitedMilliseconds = 0;
+
+  void pump() override {
+    ++pumps;
+    if (auto action = std::exchange(inside, nullptr)) action();
+  }
+  void wait(int milliseconds) override {
+    waitedMilliseconds += milliseconds;
+    pump();
+  }
+};
+
+}  // namespace gp::test
