@@ -1,6 +1,7 @@
 // A Surface is the program's pixel buffer: 32-bit pixels 0x00BBGGRR, top row first. It has two layers: the drawing,
 // which all operations read and write, and the picture, which is what the drawing falls back to when it is cleared.
-// The platform's drawing operations on it stand in RasterOps.h, Stretch.h, Pens.h and FloodFill.h.
+// The platform's drawing operations on it stand in RasterOps.h, Stretch.h, Pens.h and FloodFill.h. It owns its pixels;
+// copies are independent. Positions outside are never an error: reading tells kNoColor, writing does nothing.
 #pragma once
 
 #include <cstdint>
@@ -23,6 +24,11 @@ constexpr int redOf(Color c) { return c & 0xFF; }
 constexpr int greenOf(Color c) { return c >> 8 & 0xFF; }
 constexpr int blueOf(Color c) { return c >> 16 & 0xFF; }
 
+// Pixels have a fourth byte, which raster operations carry along and which is no part of the colour.
+inline constexpr std::uint32_t kColorBits = 0x00FFFFFF;
+// A colour as it is stored in a pixel.
+constexpr std::uint32_t storedForm(Color c) { return static_cast<std::uint32_t>(c) & kColorBits; }
+
 enum class FillMode { Transparent, Solid };
 enum class PenStyle { Solid, Dot };
 enum class DrawMode { Copy, Invert };
@@ -39,20 +45,21 @@ class Surface {
 
   // The colour of a pixel of the drawing; kNoColor outside.
   Color GetPixel(int x, int y) const {
-    return contains(x, y) ? static_cast<Color>(pixels_[index(x, y)]) : kNoColor;
+    return contains(x, y) ? static_cast<Color>(pixels_[index(x, y)] & kColorBits) : kNoColor;
   }
   // Sets one pixel of the drawing; outside it does nothing.
   void SetPixelV(int x, int y, Color color) {
     if (!contains(x, y)) return;
-    pixels_[index(x, y)] = static_cast<std::uint32_t>(color);
+    pixels_[index(x, y)] = storedForm(color);
     touch(x, y, x + 1, y + 1);
   }
   bool contains(int x, int y) const { return x >= 0 && y >= 0 && x < width_ && y < height_; }
 
   // The drawing, row by row from the top.
   std::span<const std::uint32_t> pixels() const { return pixels_; }
+  // Row y, which must lie inside.
   std::span<const std::uint32_t> row(int y) const;
-  // The same for writing. [x1, x2) x [y1, y2) is what the caller is going to change; it must lie inside.
+  // The first pixel of row y, for writing. [x1, x2) is what the caller is going to change; both must lie inside.
   std::uint32_t* rowForWriting(int y, int x1, int x2);
 
   // Gives a new size; picture and drawing are lost, all pixels take the back colour.
@@ -78,16 +85,25 @@ class Surface {
   int border = 0;
 
  private:
-  std::size_t index(int x, int y) const { return static_cast<std::size_t>(y) * width_ + x; }
+  struct Area {
+    int x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+  };
+
+  std::size_t index(int x, int y) const { return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + x; }
   void touch(int x1, int y1, int x2, int y2);
+  void forgetChanges() { changed_ = {}; }
+  void clearToBackColor();
+  void copyChanged(const std::vector<std::uint32_t>& from, std::vector<std::uint32_t>& to) const;
 
   int width_ = 0;
   int height_ = 0;
   std::vector<std::uint32_t> pixels_;
   std::vector<std::uint32_t> picture_;
   bool hasPicture_ = false;
+  // The back colour that the undrawn pixels have while there is no picture.
+  Color groundColor_ = kWhite;
   // The part of the drawing that may differ from the picture: what clearing and keeping have to copy.
-  int dirtyX1_ = 0, dirtyY1_ = 0, dirtyX2_ = 0, dirtyY2_ = 0;
+  Area changed_;
 };
 
 }  // namespace gp

@@ -1,0 +1,63 @@
+#include "platform/gdi/FloodFill.h"
+
+#include <vector>
+
+namespace gp {
+namespace {
+
+struct Seed {
+  int x, y;
+};
+
+class Filler {
+ public:
+  Filler(Surface& surface, Color from) : surface_(surface), from_(storedForm(from)) {}
+
+  void run(int x, int y) {
+    seeds_.push_back({x, y});
+    while (!seeds_.empty()) {
+      const Seed seed = seeds_.back();
+      seeds_.pop_back();
+      if (isOpen(seed.x, seed.y)) fillSpan(seed);
+    }
+  }
+
+ private:
+  bool isOpen(int x, int y) const { return (surface_.row(y)[x] & kColorBits) == from_; }
+
+  void fillSpan(Seed seed) {
+    int left = seed.x;
+    int right = seed.x + 1;
+    while (left > 0 && isOpen(left - 1, seed.y)) --left;
+    while (right < surface_.width() && isOpen(right, seed.y)) ++right;
+    std::uint32_t* row = surface_.rowForWriting(seed.y, left, right);
+    for (int x = left; x < right; ++x) row[x] = storedForm(surface_.fillColor);
+    if (seed.y > 0) seedRuns(left, right, seed.y - 1);
+    if (seed.y + 1 < surface_.height()) seedRuns(left, right, seed.y + 1);
+  }
+
+  // One seed for each run of open pixels in the row next to a span.
+  void seedRuns(int left, int right, int y) {
+    bool inRun = false;
+    for (int x = left; x < right; ++x) {
+      const bool open = isOpen(x, y);
+      if (open && !inRun) seeds_.push_back({x, y});
+      inRun = open;
+    }
+  }
+
+  Surface& surface_;
+  const std::uint32_t from_;
+  std::vector<Seed> seeds_;
+};
+
+}  // namespace
+
+bool ExtFloodFill(Surface& surface, int x, int y, Color surfaceColor) {
+  if (!surface.contains(x, y) || surface.GetPixel(x, y) != surfaceColor) return false;
+  // Filling with the same colour would never run out of open pixels.
+  if (storedForm(surface.fillColor) != storedForm(surfaceColor)) Filler(surface, surfaceColor).run(x, y);
+  return true;
+}
+
+}  // namespace gp

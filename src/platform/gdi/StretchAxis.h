@@ -1,0 +1,43 @@
+// Which source pixels each target pixel of a stretched row or column is made of: the arithmetic behind StretchBlt, for
+// one axis. Plain values, nothing is kept.
+#pragma once
+
+#include "platform/gdi/Surface.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace gp {
+
+// The source pixels first to last that make one target pixel, and how much each counts. All weights are above 0.
+struct StretchCell {
+  int first = 0, last = 0;
+  std::int64_t firstWeight = 1, middleWeight = 1, lastWeight = 1;
+
+  std::int64_t weight(int i) const { return i == first ? firstWeight : i == last ? lastWeight : middleWeight; }
+  std::int64_t totalWeight() const {
+    return first == last ? firstWeight : firstWeight + lastWeight + (last - first - 1) * middleWeight;
+  }
+  bool operator==(const StretchCell&) const = default;
+};
+
+// One axis of a stretch as the caller gives it, negative lengths included, and the sizes of the two Surfaces.
+struct StretchAxis {
+  int target, targetLength, source, sourceLength;
+  int targetSize, sourceSize;
+};
+
+// Of several pixels that fall together in keep-or-drop mode the first row or the last column stays.
+enum class KeptPixel { First, Last };
+
+// The cells of the target pixels from start on. All of them lie inside both Surfaces; target pixels that would get
+// nothing are left out. No length may exceed kMaxStretchLength.
+struct StretchCells {
+  int start = 0;
+  std::vector<StretchCell> cells;
+};
+StretchCells stretchCells(const StretchAxis& axis, StretchMode mode, KeptPixel kept);
+
+inline constexpr int kMaxStretchLength = 1 << 20;
+
+}  // namespace gp
