@@ -1,0 +1,26 @@
+// The two fixed colour tables behind the charts.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "platform/gdi/Surface.h"
+
+namespace gp {
+
+struct NamedColor {
+  Color color;
+  const char* name;
+};
+
+// 48 colours in 16 columns and 3 rows; entry k stands in column k \ 3, row k mod 3.
+extern const std::array<Color, 48> mChartColors256;
+// 16 colours in 8 columns and 2 rows; entry k stands in column k mod 8, row k \ 8.
+extern const std::array<NamedColor, 16> mChartColors16;
+
+// True for exactly the 16 colours of mChartColors16.
+bool isStandardColor(Color color);
+// Two upper-case hexadecimal digits for each channel, in the order given.
+std::string hexHtmlColor(int r, int g, int b);
+
+}  // namespace gp

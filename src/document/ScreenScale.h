@@ -1,0 +1,28 @@
+// How picDisp comes onto a screen whose pixels are smaller than the program's: every icon pixel gets the same whole
+// number of device pixels, and a grid line stays one device pixel wide.
+#pragma once
+
+#include <vector>
+
+namespace gp {
+
+class ScreenScale {
+ public:
+  // `cells` icon pixels of `magnification` picDisp pixels each, on a screen of `ratio` device pixels a pixel (>= 1).
+  ScreenScale(int cells, int magnification, double ratio);
+
+  // Device pixels per icon pixel, and over all.
+  int cellSize() const { return cellSize_; }
+  int deviceSize() const { return cells_ * cellSize_; }
+  // The picDisp position that a device position shows; positions outside go on in the same measure.
+  int sourceOf(int device) const;
+  // The first device position that shows a picDisp position or one behind it.
+  int deviceOf(int source) const;
+
+ private:
+  int cells_;
+  int magnification_;
+  int cellSize_;
+};
+
+}  // namespace gp

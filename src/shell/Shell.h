@@ -1,0 +1,139 @@
+// The whole program without its windows: composes the subsystems, implements Editor by handing each call to its owner,
+// and runs commands and the life-cycle of the main form. The forms forward their events here.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "colour/ColorSelection.h"
+#include "document/EditState.h"
+#include "document/EditingArea.h"
+#include "document/Editor.h"
+#include "document/IconsPanel.h"
+#include "drawing/Tools.h"
+#include "files/IconFiles.h"
+#include "files/IconSaver.h"
+#include "platform/dialogs/clsGPDialog.h"
+#include "platform/ports/SystemInfo.h"
+#include "shell/CommandTable.h"
+#include "shell/History.h"
+#include "shell/MainForm.h"
+#include "shell/Settings.h"
+
+namespace gp {
+
+// The ports the program stands on; app/ and the tests make them.
+struct Ports {
+  MessageBoxes& boxes;
+  FileDialogs& dialogs;
+  MessagePump& pump;
+  SystemInfo& system;
+  Processes& processes;
+};
+
+class Shell final : public Editor {
+ public:
+  // `folder` is the program's folder: settings, help file and companion are looked for there.
+  Shell(EditState& state, const Ports& ports, Display& display, std::string folder);
+  ~Shell() override;
+
+  // The main form tells that it is there; before that, commands that need a window do nothing.
+  void attach(MainForm* form) { form_ = form; }
+
+  EditState& state() { return state_; }
+  const EditState& state() const { return state_; }
+  EditingArea& editingArea() { return editingArea_; }
+  IconsPanel& iconsPanel() { return iconsPanel_; }
+  ColorSelection& colors() { return colors_; }
+  const ColorSelection& colors() const { return colors_; }
+  Tools& tools() { return tools_; }
+  const Tools& tools() const { return tools_; }
+  IconFiles& iconFiles() { return iconFiles_; }
+  IconSaver& iconSaver() { return iconSaver_; }
+  const History& fileHistory() const { return fileHistory_; }
+  const Ports& ports() const { return ports_; }
+  const std::string& folder() const { return folder_; }
+
+  // Runs a command as a click on its menu entry does; errors in it end in a box. Nothing for a row without a handler.
+  void run(const Command& command);
+  // A toolbar button: the overlay of the Editing Area goes first.
+  void runToolbar(const ToolbarButton& button);
+  // Runs any handler under the guard that reports run-time errors under the given name.
+  template <class Handler>
+  void guarded(const std::string& name, Handler handler);
+
+  // The life of the main form. Load places it; the first Activate reads settings and opens the file of the command line.
+  void formLoad();
+  void formActivate(const std::string& commandLine);
+  // The room of picDispContainer after the form got another size.
+  void formResize(int dispContainerWidth, int dispContainerHeight);
+  // False when the form must stay.
+  bool queryUnload();
+
+  // Command bodies of the shell itself.
+  void openFromHistory(int index);
+  void openHelp();
+  void switchToCustomSize();
+  void toggleOption(int index);
+  void selectStartScreen(int index);
+  void resetToDefault();
+  void exitProgram();
+  void showAbout();
+
+  // Editor.
+  void ClearContainer() override;
+  void CommitPendingPaint() override;
+  void EndToolAction() override;
+  void SwitchContainer(int container) override;
+  void SizeEditSurfaces(int size) override;
+  void SizePanelSurfaces(int size) override;
+  void ComposeCurrentIcon() override;
+  void UpdatePanelFromCurrent() override;
+  void MagnifyIcon() override;
+  void ShowCurrentIcon() override;
+  void RefreshStatusBar() override;
+  void ClearStatusBar() override;
+  void chooseColorChart() override;
+  void showChart16() override;
+  void deselectColorPicker() override;
+  bool isColorPickerSelected() const override;
+  void clearAllTools() override;
+  void selectTool(int tool) override;
+  int selectedTool() const override;
+  void clearRegion() override;
+  void recordUndo() override;
+  void clearUndoHistory() override;
+  void doOpenIconFile(const std::string& path, bool useBrowser, bool& ok) override;
+  void doOpenIconFileQuietly(const std::string& path, bool& ok) override;
+  void AskSaveCurrent(const std::string& message, bool& proceed) override;
+  int colorBitCountOfImage() const override;
+  void UpdateCommands() override;
+  void showPanel(int panel) override;
+  void closePanels() override;
+  void AddHistory(const std::string& path) override;
+  void ShowRunTimeError(const std::string& name, const std::string& description) override;
+
+ private:
+  void openCommandLineFile(const std::string& commandLine);
+  void applyStartScreen();
+
+  EditState& state_;
+  Ports ports_;
+  Display& display_;
+  std::string folder_;
+  MainForm* form_ = nullptr;
+  clsGPDialog mDialog;
+  EditingArea editingArea_;
+  IconsPanel iconsPanel_;
+  ColorSelection colors_;
+  Tools tools_;
+  IconFiles iconFiles_;
+  IconSaver iconSaver_;
+  Settings settings_;
+  History fileHistory_;
+  History aniHistory_;
+  bool mFirstActivate = true;
+};
+
+}  // namespace gp
