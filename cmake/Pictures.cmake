@@ -1,0 +1,33 @@
+# The pictures are drawn as SVG and rasterised here, once for each scale and theme, into raw sheets that are embedded
+# uncompressed: the program opens no picture file and knows no picture format.
+enable_language(ASM)
+
+set(GP_PICTURE_TEMPLATE ${CMAKE_CURRENT_LIST_DIR}/PictureSheets.S.in)
+
+# gp_embed_pictures(target): the sheets of resources/pictures and resources/app become part of the target.
+function(gp_embed_pictures target)
+  if(NOT TARGET rasterize)
+    add_subdirectory(${CMAKE_SOURCE_DIR}/tools/rasterize ${CMAKE_BINARY_DIR}/tools/rasterize)
+  endif()
+  file(GLOB drawings CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/resources/pictures/*.svg)
+  set(logo ${CMAKE_SOURCE_DIR}/resources/app/logo.svg)
+  set(program ${CMAKE_SOURCE_DIR}/resources/app/glimmerpane.svg)
+
+  set(GP_SHEET_DIR ${CMAKE_BINARY_DIR}/sheets)
+  file(MAKE_DIRECTORY ${GP_SHEET_DIR})
+  set(sheets "")
+  foreach(scale 100 150 200)
+    list(APPEND sheets ${GP_SHEET_DIR}/${scale}-light.sheet ${GP_SHEET_DIR}/${scale}-dark.sheet)
+  endforeach()
+  add_custom_command(
+    OUTPUT ${sheets}
+    COMMAND rasterize ${GP_SHEET_DIR} ${drawings} ${logo}:64 ${program}:16,32,48,64
+    DEPENDS rasterize ${drawings} ${logo} ${program}
+    COMMENT "Rasterising pictures"
+    VERBATIM)
+
+  set(embedded ${CMAKE_BINARY_DIR}/PictureSheets.S)
+  configure_file(${GP_PICTURE_TEMPLATE} ${embedded} @ONLY)
+  set_source_files_properties(${embedded} PROPERTIES OBJECT_DEPENDS "${sheets}" SKIP_AUTOGEN ON)
+  target_sources(${target} PRIVATE ${embedded})
+endfunction()

@@ -1,0 +1,218 @@
+#include "platform/qt/Pictures.h"
+
+#include "platform/qt/PictureSheet.h"
+
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QImage>
+#include <QPainter>
+#include <QPalette>
+
+#include <algorithm>
+#include <cstring>
+#include <span>
+
+extern "C" {
+extern const unsigned char gp_sheet_100_light[], gp_sheet_100_dark[];
+extern const unsigned char gp_sheet_150_light[], gp_sheet_150_dark[];
+extern const unsigned char gp_sheet_200_light[], gp_sheet_200_dark[];
+}
+
+namespace gp {
+namespace {
+
+enum class Theme { Light, Dark };
+
+struct Sheet {
+  const unsigned char* light;
+  const unsigned char* dark;
+};
+
+// In the order of kSheetScales.
+constexpr Sheet kSheets[] = {{gp_sheet_100_light, gp_sheet_100_dark},
+                             {gp_sheet_150_light, gp_sheet_150_dark},
+                             {gp_sheet_200_light, gp_sheet_200_dark}};
+
+constexpr int kDarkLightness = 128;
+constexpr qreal kDisabledOpacity = 0.35;
+
+// Where a pointer points, in the units of the drawing. What is not here points with its centre.
+struct HotSpot {
+  std::string_view name;
+  int x, y;
+};
+constexpr HotSpot kHotSpots[] = {
+    {"paint", 2, 18},   {"erase", 3, 15},        {"fill", 3, 17},
+    {"replace", 2, 18}, {"color-picker", 2, 18}, {"restore", 2, 18},
+};
+constexpr HotSpot kCentre = {"", kPictureGrid / 2, kPictureGrid / 2};
+
+HotSpot hotSpotOf(std::string_view name) {
+  const auto found = std::ranges::find(kHotSpots, name, &HotSpot::name);
+  return found == std::end(kHotSpots) ? kCentre : *found;
+}
+
+std::span<const SheetEntry> entriesOf(const unsigned char* sheet) {
+  SheetHeader header;
+  std::memcpy(&header, sheet, sizeof header);
+  return {reinterpret_cast<const SheetEntry*>(sheet + sizeof header), header.count};
+}
+
+std::string_view nameOf(const SheetEntry& entry) { return entry.name; }
+
+// All sizes of one picture in a sheet, smallest first.
+std::span<const SheetEntry> entriesOf(const unsigned char* sheet, std::string_view name) {
+  return std::ranges::equal_range(entriesOf(sheet), name, {}, nameOf);
+}
+
+// The pixels where they stand: no copy.
+QImage viewOf(const unsigned char* sheet, const SheetEntry& entry) {
+  const int size = static_cast<int>(entry.size);
+  return QImage(sheet + entry.offset, size, size, size * 4, QImage::Format_ARGB32_Premultiplied);
+}
+
+struct Choice {
+  const unsigned char* sheet = nullptr;
+  const SheetEntry* entry = nullptr;
+
+  // The exact size is best, then the smallest that is larger, then the largest.
+  bool isBetterThan(const Choice& other, std::uint32_t wanted) const {
+    if (!other.entry) return true;
+    const bool enough = entry->size >= wanted, otherEnough = other.entry->size >= wanted;
+    if (enough != otherEnough) return enough;
+    return enough ? entry->size < other.entry->size : entry->size > other.entry->size;
+  }
+};
+
+Choice choose(std::string_view name, int pixels, Theme theme) {
+  const auto wanted = static_cast<std::uint32_t>(pixels);
+  Choice best;
+  for (const Sheet& scale : kSheets) {
+    const unsigned char* sheet = theme == Theme::Dark ? scale.dark : scale.light;
+    for (const SheetEntry& entry : entriesOf(sheet, name)) {
+      const Choice choice{sheet, &entry};
+      if (choice.isBetterThan(best, wanted)) best = choice;
+    }
+    // A larger scale's sheet need not be touched then.
+    if (best.entry && best.entry->size == wanted) break;
+  }
+  return best;
+}
+
+// A picture of pixels x pixels; null for an unknown name.
+QImage imageOf(std::string_view name, int pixels, Theme theme) {
+  const Choice choice = choose(name, pixels, theme);
+  if (!choice.entry || pixels <= 0) return {};
+  const QImage view = viewOf(choice.sheet, *choice.entry);
+  if (view.width() == pixels) return view;
+  return view.scaled(pixels, pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+Theme currentTheme() {
+  return QGuiApplication::palette().color(QPalette::Window).lightness() < kDarkLightness ? Theme::Dark : Theme::Light;
+}
+
+QImage faded(const QImage& image) {
+  QImage result(image.size(), QImage::Format_ARGB32_Premultiplied);
+  result.fill(Qt::transparent);
+  QPainter painter(&result);
+  painter.setOpacity(kDisabledOpacity);
+  painter.drawImage(0, 0, image);
+  return result;
+}
+
+// Draws at the size that is asked for, in the theme of the moment, so that one icon serves every screen and palette.
+class PictureEngine : public QIconEngine {
+ public:
+  explicit PictureEngine(std::string_view name) : name_(name) {}
+
+  QIconEngine* clone() const override { return new PictureEngine(*this); }
+  QString iconName() override { return QString::fromStdString(name_); }
+
+  QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override {
+    QList<QSize> sizes;
+    for (const SheetEntry& entry : entriesOf(kSheets[0].light, name_)) {
+      const int size = static_cast<int>(entry.size);
+      sizes.append(QSize(size, size));
+    }
+    return sizes;
+  }
+
+  // `size` is in device pixels.
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
+    const Last wanted{std::min(size.width(), size.height()), mode == QIcon::Disabled, currentTheme()};
+    if (wanted != last_ || pixmap_.isNull()) {
+      const QImage image = imageOf(name_, wanted.pixels, wanted.theme);
+      pixmap_ = QPixmap::fromImage(wanted.disabled ? faded(image) : image);
+      last_ = wanted;
+    }
+    return pixmap_;
+  }
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
+    const qreal ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
+    const int side = std::min(rect.width(), rect.height());
+    const int pixels = qRound(side * ratio);
+    QRect target(0, 0, side, side);
+    target.moveCenter(rect.center());
+    painter->drawPixmap(target, pixmap(QSize(pixels, pixels), mode, state));
+  }
+
+ private:
+  struct Last {
+    int pixels = 0;
+    bool disabled = false;
+    Theme theme = Theme::Light;
+    bool operator==(const Last&) const = default;
+  };
+
+  std::string name_;
+  Last last_;
+  QPixmap pixmap_;
+};
+
+// The picture's own shape in white, one unit wider all round, with the picture on it. The result is larger than the
+// picture by `margin` pixels on each side.
+QImage withOutline(const QImage& picture, int margin) {
+  QImage shape = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  {
+    QPainter tint(&shape);
+    tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    tint.fillRect(shape.rect(), Qt::white);
+  }
+  QImage result(picture.width() + 2 * margin, picture.height() + 2 * margin, QImage::Format_ARGB32_Premultiplied);
+  result.fill(Qt::transparent);
+  QPainter painter(&result);
+  for (int dy = -margin; dy <= margin; ++dy) {
+    for (int dx = -margin; dx <= margin; ++dx) painter.drawImage(margin + dx, margin + dy, shape);
+  }
+  painter.drawImage(margin, margin, picture);
+  return result;
+}
+
+}  // namespace
+
+bool Pictures::has(std::string_view name) { return !entriesOf(kSheets[0].light, name).empty(); }
+
+QIcon Pictures::icon(std::string_view name) { return has(name) ? QIcon(new PictureEngine(name)) : QIcon(); }
+
+QPixmap Pictures::pixmap(std::string_view name, qreal devicePixelRatio, int size) {
+  const QImage image = imageOf(name, qRound(size * devicePixelRatio), currentTheme());
+  if (image.isNull()) return {};
+  QPixmap pixmap = QPixmap::fromImage(image);
+  pixmap.setDevicePixelRatio(devicePixelRatio);
+  return pixmap;
+}
+
+QCursor Pictures::cursor(std::string_view name, qreal devicePixelRatio) {
+  const QImage image = imageOf(name, qRound(kSize * devicePixelRatio), Theme::Light);
+  if (image.isNull()) return QCursor(Qt::ArrowCursor);
+  const int margin = std::max(1, qRound(devicePixelRatio));
+  QPixmap pixmap = QPixmap::fromImage(withOutline(image, margin));
+  pixmap.setDevicePixelRatio(devicePixelRatio);
+  const HotSpot spot = hotSpotOf(name);
+  // The outline's margin is one unit, so it moves the spot by one.
+  return QCursor(pixmap, spot.x + 1, spot.y + 1);
+}
+
+}  // namespace gp
