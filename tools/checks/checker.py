@@ -1,0 +1,70 @@
+"""Proves that the rules can fail: each is fed a small tree that breaks it, and must name the offending line."""
+import os
+import tempfile
+
+import layers
+import packages
+import sizes
+import words
+from tree import Tree
+
+ROOMS = '''| room | what is in it | may use |
+|---|---|---|
+| `platform` | ground | nothing |
+| `document` | records | the rooms above |
+| `shell` | the whole | the rooms above |
+| `cli` | command line | `platform` to `document` |
+
+## Dependencies
+
+`present`
+'''
+HEADER = '// What it is for.\n#pragma once\n'
+GOOD = {'docs/architecture.md': ROOMS, 'tools/packages.txt': 'build present  reason\n',
+        'src/platform/A.h': HEADER + '#include <vector>\n', 'src/document/B.h': HEADER + '#include "platform/A.h"\n',
+        'src/document/ui/C.h': HEADER + '#include <QWidget>\n', 'src/shell/D.h': HEADER}
+LONG_FUNCTION = 'void f() {\n' + '  g();\n' * sizes.MAX_FUNCTION_LINES + '}\n'
+
+# rule, file that breaks it, its text, what the complaint must hold
+BROKEN = [
+    (layers.check, 'src/platform/Bad.h', '#include "document/B.h"', 'src/platform/Bad.h:1: platform must not include'),
+    (layers.check, 'src/document/Bad.h', '#include <QString>', 'src/document/Bad.h:1: <QString>'),
+    (layers.check, 'src/document/Bad.cpp', '#include <unistd.h>', '<unistd.h>'),
+    (layers.check, 'src/document/Bad.cpp', '\n#include "qstring.h"', 'src/document/Bad.cpp:2: "qstring.h"'),
+    (layers.check, 'src/document/Bad.cpp', '#include "document/ui/C.h"', 'the core must not include'),
+    (layers.check, 'src/document/ui/Bad.cpp', '#include <X11/Xlib.h>', 'X11'),
+    (layers.check, 'src/cli/Bad.cpp', '#include "shell/D.h"', 'cli must not include'),
+    (layers.check, 'src/attic/Bad.cpp', '#include "platform/A.h"', 'the room attic'),
+    (words.check, 'src/document/Bad.h', '// as told in Part' + ' 3.1', 'src/document/Bad.h:1'),
+    (words.check, 'docs/bad.md', 'the file ' + 'specifi' + 'cation', 'docs/bad.md:1'),
+    (sizes.checkFiles, 'src/document/Bad.cpp', '\n' * (sizes.MAX_FILE_LINES + 1), 'src/document/Bad.cpp'),
+    (sizes.checkFunctions, 'src/document/Bad.cpp', 'namespace gp {\n' + LONG_FUNCTION + '}', 'src/document/Bad.cpp:2: 62'),
+    (sizes.checkFunctions, 'src/document/Bad.cpp', 'class A : B<C()> {\n' + LONG_FUNCTION + '};', 'src/document/Bad.cpp:2: 62'),
+    (sizes.checkFunctions, 'src/document/Bad.cpp', 'A::A() : a{1}, b("}") ' + LONG_FUNCTION[9:], 'src/document/Bad.cpp:1: 62'),
+    (sizes.checkOpenings, 'src/document/Bad.h', '#pragma once\n', 'src/document/Bad.h'),
+    (packages.check, 'tools/packages.txt', 'build absent  reason', 'absent'),
+]
+
+
+def write(root, name, text):
+    path = os.path.join(root, name)
+    os.makedirs(os.path.dirname(path), exist_ok=True)
+    with open(path, 'w', encoding='utf-8') as file:
+        file.write(text)
+
+
+def complaints(rule, files):
+    with tempfile.TemporaryDirectory() as root:
+        for name, text in files.items():
+            write(root, name, text)
+        return rule(Tree(root))
+
+
+def check(_):
+    problems = []
+    for rule, name, text, expected in BROKEN:
+        if not any(expected in line for line in complaints(rule, {**GOOD, name: text})):
+            problems.append(f'{rule.__module__} does not name {name} that holds {text.strip()[:40]!r}')
+    for rule in dict.fromkeys(row[0] for row in BROKEN):
+        problems += [f'{rule.__module__} complains about a good tree: {line}' for line in complaints(rule, GOOD)]
+    return problems

@@ -1,0 +1,66 @@
+"""Length of files and functions, and the opening comment of headers."""
+import re
+
+MAX_FILE_LINES = 600
+MAX_FUNCTION_LINES = 60
+PLACES = ('src', 'tests', 'bench')
+
+# Comments, raw strings, strings and characters: what a brace in them must not count for.
+NOT_CODE = re.compile(r'//[^\n]*|/\*.*?\*/|R"(\w*)\(.*?\)\1"|"(?:\\.|[^"\\\n])*"|(?<!\w)\'(?:\\.|[^\'\\\n])+\'', re.S)
+SCOPE = re.compile(r'\b(namespace|class|struct|enum|union|extern)\b')
+CONTROL = re.compile(r'^\s*(if|for|while|switch|else|do|try|catch)\b')
+
+
+def blank(match):
+    """Spaces in place of a match, its line breaks kept."""
+    return re.sub(r'[^\n]', ' ', match.group(0))
+
+
+def functions(text):
+    """(line of the opening brace, lines, head) of each outermost function body."""
+    code = NOT_CODE.sub(blank, text)
+    depth, bodyDepth, start, headStart = 0, None, 0, 0
+    for at, char in enumerate(code):
+        if char == '{':
+            head = code[headStart:at]
+            if bodyDepth is None and ')' in head and not CONTROL.match(head) and not isScope(head):
+                bodyDepth, start, bodyHead = depth, at, head
+            depth += 1
+        elif char == '}':
+            depth -= 1
+            if depth == bodyDepth:
+                bodyDepth = None
+                yield code.count('\n', 0, start) + 1, code.count('\n', start, at) + 1, ' '.join(bodyHead.split())
+        if char in ';{}' and bodyDepth is None:
+            headStart = at + 1
+
+
+def isScope(head):
+    """A class or namespace whose head has brackets: attributes, alignas, a base's template arguments."""
+    match = SCOPE.search(head)
+    return bool(match) and '(' not in head[:match.start()] and not re.search(r'\)\s*(const|noexcept|override)?\s*$', head)
+
+
+def checkFiles(tree):
+    lengths = ((name, tree.text(name).count('\n')) for name in tree.sources(*PLACES, 'tools', endings=('.cpp', '.h', '.py')))
+    return [f'{name} has {lines} lines, {MAX_FILE_LINES} are allowed' for name, lines in lengths if lines > MAX_FILE_LINES]
+
+
+def checkFunctions(tree):
+    problems = []
+    for name in tree.sources(*PLACES):
+        for line, lines, head in functions(tree.text(name)):
+            if lines > MAX_FUNCTION_LINES:
+                problems.append(f'{name}:{line}: {lines} lines, {MAX_FUNCTION_LINES} are allowed: {head[-60:]}')
+    return problems
+
+
+def checkOpenings(tree):
+    problems = []
+    for name in tree.sources('src', endings=('.h',)):
+        lines = tree.text(name).splitlines()
+        if not lines or not lines[0].startswith('//'):
+            problems.append(f'{name} does not begin with a comment that tells what it is for')
+        if '#pragma once' not in lines:
+            problems.append(f'{name} has no #pragma once')
+    return problems

@@ -1,0 +1,116 @@
+"""The source tree as the rules see it: which files there are, what they include, which zone they stand in."""
+import concurrent.futures
+import hashlib
+import json
+import os
+import re
+import subprocess
+
+INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]')
+SKIPPED_FOLDERS = ('.git', '.cache', '__pycache__')
+
+
+class Tree:
+    def __init__(self, root, build=None):
+        self.root = os.path.abspath(root)
+        self.build = os.path.abspath(build) if build else os.path.join(self.root, 'build')
+        self._closures = {}
+        self._includes = {}
+
+    def path(self, relative):
+        return os.path.join(self.root, relative)
+
+    def text(self, relative):
+        with open(self.path(relative), encoding='utf-8', errors='replace') as file:
+            return file.read()
+
+    def has(self, relative):
+        return os.path.isfile(self.path(relative))
+
+    def git(self, *arguments):
+        """Output of git on this tree whoever owns it; None where there is no repository or no git."""
+        try:
+            done = subprocess.run(['git', '-c', 'safe.directory=*', '-C', self.root, *arguments], capture_output=True)
+        except FileNotFoundError:
+            return None
+        return done.stdout.decode('utf-8', 'replace') if done.returncode == 0 else None
+
+    def allFiles(self):
+        """Every file that belongs to the project, sorted; in a repository the ignored ones are left out."""
+        listed = None
+        if os.path.exists(self.path('.git')):
+            listed = self.git('ls-files', '-z', '--cached', '--others', '--exclude-standard')
+        if listed is not None:
+            return sorted(name for name in listed.split('\0') if name and self.has(name))
+        found = []
+        for folder, folders, names in os.walk(self.root):
+            folders[:] = [f for f in folders if f not in SKIPPED_FOLDERS and not f.startswith('build')]
+            found += [os.path.relpath(os.path.join(folder, name), self.root) for name in names]
+        return sorted(found)
+
+    def sources(self, *tops, endings=('.cpp', '.h')):
+        return [name for name in self.allFiles() if name.split('/')[0] in tops and name.endswith(endings)]
+
+    def includes(self, relative):
+        """(line number, '"' or '<', path) of each include line."""
+        if relative not in self._includes:
+            lines = self.text(relative).splitlines()
+            matches = ((number, INCLUDE.match(line)) for number, line in enumerate(lines, 1))
+            self._includes[relative] = [(number, m.group(1), m.group(2)) for number, m in matches if m]
+        return self._includes[relative]
+
+    def closure(self, relative):
+        """The file and every project header it reaches through quoted includes."""
+        if relative in self._closures:
+            return self._closures[relative]
+        seen, waiting = {relative}, [relative]
+        while waiting:
+            for _, kind, target in self.includes(waiting.pop()):
+                header = 'src/' + target
+                if kind == '"' and header not in seen and self.has(header):
+                    seen.add(header)
+                    waiting.append(header)
+        self._closures[relative] = sorted(seen)
+        return self._closures[relative]
+
+    def fingerprint(self, relative, *more):
+        """Changes when the file, a header that it reaches, or one of `more` changes."""
+        digest = hashlib.sha256('\0'.join(more).encode())
+        for name in self.closure(relative):
+            digest.update(name.encode() + b'\0' + self.text(name).encode())
+        return digest.hexdigest()
+
+    def commands(self):
+        """Compiler arguments per source, from the build's compile_commands.json; empty before the first build."""
+        path = os.path.join(self.build, 'compile_commands.json')
+        if not os.path.isfile(path):
+            return {}
+        with open(path, encoding='utf-8') as file:
+            entries = json.load(file)
+        return {os.path.relpath(entry['file'], self.root): entry['command'].split() for entry in entries}
+
+
+def isUi(relative):
+    """The zone that may use Qt: every ui/ folder, platform/qt and app."""
+    parts = relative.split('/')
+    return parts[1:2] == ['app'] or parts[1:3] == ['platform', 'qt'] or 'ui' in parts[2:-1]
+
+
+class Cache:
+    """Remembers fingerprints that were found good, one empty file each, in the build folder."""
+
+    def __init__(self, tree, name):
+        self.folder = os.path.join(tree.build, 'check-cache', name)
+        os.makedirs(self.folder, exist_ok=True)
+
+    def has(self, fingerprint):
+        return os.path.exists(os.path.join(self.folder, fingerprint))
+
+    def add(self, fingerprint):
+        open(os.path.join(self.folder, fingerprint), 'w').close()
+
+
+def inParallel(function, items):
+    """function over items on all processors, results in order."""
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count() or 1) as pool:
+        return list(pool.map(function, items))
