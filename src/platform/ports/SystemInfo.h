@@ -32,6 +32,8 @@ class Processes {
   virtual void TerminateProcessByName(const std::string& executable) = 0;
   // Starts a program and does not wait for it. False when it cannot be started.
   virtual bool start(const std::string& path) = 0;
+  // Opens a document with the desktop's program for it. False when there is none.
+  virtual bool openDocument(const std::string& path) = 0;
 };
 
 }  // namespace gp

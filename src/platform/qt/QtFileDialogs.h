@@ -1,0 +1,42 @@
+// The common dialogs, Qt's own on every desktop so that they look, read and act alike everywhere. The folder chooser is
+// a form of the program and is handed in.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/ports/FileDialogs.h"
+
+class QFileDialog;
+class QPrinter;
+
+namespace gp {
+
+class QtFileDialogs final : public FileDialogs {
+ public:
+  // Given a pattern and a start folder, gives the chosen folder or an empty text.
+  using FolderChooser = std::function<std::string(const std::string& pattern, const std::string& startFolder)>;
+
+  explicit QtFileDialogs(FolderChooser folderChooser);
+  ~QtFileDialogs() override;
+
+  bool openFile(const FileDialogRequest& request, std::string& path, int& error) override;
+  bool saveFile(const FileDialogRequest& request, std::string& path, int& error) override;
+  bool chooseColor(Color& color) override;
+  bool choosePrinter(PrinterRequest& request) override;
+  std::string chooseFolder(const std::string& pattern, const std::string& startFolder) override;
+
+  // The printer that was accepted last; null before the first.
+  QPrinter* printer() const { return printer_.get(); }
+
+  // Dress a file dialog for a request without showing it.
+  static void prepareOpen(QFileDialog& dialog, const FileDialogRequest& request);
+  static void prepareSave(QFileDialog& dialog, const FileDialogRequest& request);
+
+ private:
+  FolderChooser folderChooser_;
+  std::unique_ptr<QPrinter> printer_;
+};
+
+}  // namespace gp
