@@ -1,0 +1,81 @@
+#!/usr/bin/python3
+"""Gives every fuzz target its seeds, the public corpus where it is there, and a short run of mutations.
+
+    tests/fuzz/run_all.py FOLDER-WITH-TARGETS
+
+fuzz_<kind>[_more] takes tests/fuzz/seeds/<kind>[_more], tests/fuzz/<kind>[_more].dict and the corpus folder <kind>.
+The runs start from a fixed seed, so that a failure comes again. Prints PASS or FAIL per target and the counts last.
+"""
+import concurrent.futures
+import glob
+import os
+import subprocess
+import sys
+import tempfile
+
+HERE = os.path.dirname(os.path.realpath(__file__))
+CORPUS = os.environ.get('GLIMMERPANE_CORPUS', os.path.join(HERE, '..', '..', '..', 'shared', 'corpus'))
+RUNS = 20000
+SECONDS = 20          # a target that is slower than RUNS in this time has done enough
+LONGEST_INPUT = 65536
+LARGEST_BLOCK_MB = 64  # no single allocation beyond this for an input below LONGEST_INPUT
+MEMORY_MB = 1024       # includes the sanitizers' own
+SLOWEST_INPUT_SECONDS = 5
+GRACE_SECONDS = 60
+
+
+def inputs(name):
+    """Folders with seeds for the target `name`."""
+    folders = [os.path.join(HERE, 'seeds', name), os.path.join(CORPUS, name.split('_')[0])]
+    return [folder for folder in folders if os.path.isdir(folder)]
+
+
+def run(program):
+    target = os.path.basename(program)
+    name = target.removeprefix('fuzz_')
+    crashes = os.path.join(os.path.dirname(program), 'crashes', name)
+    os.makedirs(crashes, exist_ok=True)
+    command = [program, f'-runs={RUNS}', f'-max_total_time={SECONDS}', '-seed=1', f'-max_len={LONGEST_INPUT}',
+               f'-malloc_limit_mb={LARGEST_BLOCK_MB}', f'-rss_limit_mb={MEMORY_MB}', f'-timeout={SLOWEST_INPUT_SECONDS}',
+               f'-artifact_prefix={crashes}/', '-print_final_stats=1']
+    dictionary = os.path.join(HERE, name + '.dict')
+    if os.path.isfile(dictionary):
+        command.append(f'-dict={dictionary}')
+    with tempfile.TemporaryDirectory(prefix='glimmerpane.') as grown:
+        try:
+            done = subprocess.run([*command, grown, *inputs(name)], capture_output=True, text=True, errors='replace',
+                                  timeout=SECONDS + GRACE_SECONDS)
+        except subprocess.TimeoutExpired:
+            return target, False, 'did not end'
+    return target, done.returncode == 0, done.stderr
+
+
+def executed(output):
+    """How many inputs the target really saw."""
+    lines = [line for line in output.splitlines() if 'number_of_executed_units' in line]
+    return int(lines[-1].split()[-1]) if lines else 0
+
+
+def main():
+    programs = sorted(p for p in glob.glob(os.path.join(os.path.abspath(sys.argv[1]), 'fuzz_*')) if os.access(p, os.X_OK) and os.path.isfile(p))
+    sources = glob.glob(os.path.join(HERE, 'fuzz_*.cpp'))
+    if not os.path.isdir(CORPUS):
+        print('The public corpus is not here: fuzzing starts from the seeds in tests/fuzz alone.')
+    failed = [os.path.basename(s) for s in sources if not any(os.path.basename(p) + '.cpp' == os.path.basename(s) for p in programs)]
+    for name in failed:
+        print(f'FAIL {name} was not built')
+    passed = 0
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count() or 1) as pool:
+        for target, good, output in pool.map(run, programs):
+            good = good and executed(output) > 0
+            print(f'{"PASS" if good else "FAIL"} {target}: {executed(output)} inputs', flush=True)
+            if good:
+                passed += 1
+            else:
+                failed.append(target)
+                print('\n'.join(output.splitlines()[-40:]))
+    print(f'{passed} passed, {len(failed)} failed')
+    return 1 if failed else 0
+
+
+sys.exit(main())
