@@ -25,12 +25,13 @@ class FileBytes {
   std::size_t size_ = 0;
 };
 
-// The whole file; nothing when it is no regular file or cannot be read.
+// The whole file; nothing when it is no regular file, cannot be read, or has 2 GB or more.
 std::optional<FileBytes> readFile(const std::string& path);
 // The first `count` bytes of a file, or fewer if it is shorter; nothing as above.
 std::optional<FileBytes> readFileStart(const std::string& path, std::size_t count);
-// Deletes an existing file and writes a new one. False when the old file is read-only or the new one cannot be
-// written whole.
+// Writes a file in place of an existing one, whose permissions and links it keeps. False when the old one is read-only
+// (no write permission for its owner) or no regular file, and then it stays as it is; false too when the new one cannot
+// be written whole, and then neither is left.
 [[nodiscard]] bool replaceFile(const std::string& path, std::span<const std::uint8_t> bytes);
 
 // True when the path is a regular file that can be opened for reading.
@@ -45,5 +46,9 @@ std::vector<std::string> foldersInFolder(const std::string& folder);
 // The folder of the program's own files, with no trailing separator: the executable's folder if it can be written to,
 // otherwise "$XDG_CONFIG_HOME/Glimmerpane" (or "~/.config/Glimmerpane"), made on first need.
 std::string programFolder();
+// The same choice among given folders, an empty one standing for an unset variable. The executable's folder when there
+// is no other. Makes the folder that it tells.
+std::string chooseProgramFolder(const std::string& executableFolder, const std::string& configHome,
+                                const std::string& home);
 
 }  // namespace gp

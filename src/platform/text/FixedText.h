@@ -2,10 +2,10 @@
 // a character, and is read through trimmed().
 #pragma once
 
+#include "platform/text/Utf8.h"
+
 #include <string>
 #include <string_view>
-
-#include "platform/text/Utf8.h"
 
 namespace gp {
 

@@ -6,6 +6,8 @@
 
 namespace gp {
 
+constexpr bool isSeparator(char c) { return c == '\\' || c == '/'; }
+
 // What ParseFileName returns.
 enum class PathPart {
   DriveAndFolder = 0,

@@ -1,0 +1,186 @@
+#include "platform/text/ProfileFile.h"
+
+#include "platform/files/Files.h"
+#include "platform/text/Utf8.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace gp {
+namespace {
+
+constexpr std::size_t kMaxProfileBytes = std::size_t{1} << 20;
+constexpr std::size_t kMaxValueBytes = 2047;  // a buffer of 2048 with its end mark
+constexpr std::string_view kWhite = " \t\v\f\r";
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+std::string_view trimWhite(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(kWhite);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(kWhite) + 1 - first);
+}
+
+std::string_view withoutQuotes(std::string_view value) {
+  const bool quoted =
+      value.size() >= 2 && (value.front() == '"' || value.front() == '\'') && value.front() == value.back();
+  return quoted ? value.substr(1, value.size() - 2) : value;
+}
+
+// The name when a line opens a section.
+std::optional<std::string_view> sectionOf(std::string_view line) {
+  if (line.empty() || line.front() != '[') return std::nullopt;
+  return trimWhite(line.substr(1, line.find(']') - 1));
+}
+
+struct KeyAndValue {
+  std::string_view key, value;
+};
+
+std::optional<KeyAndValue> keyAndValueOf(std::string_view line) {
+  const std::size_t equals = line.find('=');
+  if (equals == std::string_view::npos || line.front() == ';') return std::nullopt;
+  return KeyAndValue{trimWhite(line.substr(0, equals)), withoutQuotes(trimWhite(line.substr(equals + 1)))};
+}
+
+// One line of the text: its content trimmed, and its bytes with the line end.
+struct Line {
+  std::string_view content;
+  std::size_t start, end;
+};
+
+// Takes the line that starts at a position.
+Line lineAt(std::string_view text, std::size_t start) {
+  const std::size_t lineFeed = text.find('\n', start);
+  const std::size_t end = lineFeed == std::string_view::npos ? text.size() : lineFeed + 1;
+  const std::size_t contentEnd = lineFeed == std::string_view::npos ? end : lineFeed;
+  return {trimWhite(text.substr(start, contentEnd - start)), start, end};
+}
+
+// Where a section or a key stands, as far as it is there.
+struct Place {
+  bool hasSection = false;
+  std::size_t sectionEnd = 0;  // behind the last line of the section that is not blank
+  std::optional<Line> line;    // that of the key
+  std::string_view value;
+};
+
+std::size_t textStart(std::string_view text) {
+  return text.substr(0, kByteOrderMark.size()) == kByteOrderMark ? kByteOrderMark.size() : 0;
+}
+
+// The first section of that name counts, as with the platform's routines.
+Place find(std::string_view text, std::string_view section, std::string_view key) {
+  Place place;
+  for (std::size_t start = textStart(text); start < text.size();) {
+    const Line line = lineAt(text, start);
+    start = line.end;
+    if (const auto name = sectionOf(line.content)) {
+      if (place.hasSection) break;
+      place.hasSection = equalAnyCase(*name, section);
+    }
+    if (!place.hasSection || line.content.empty()) continue;
+    place.sectionEnd = line.end;
+    const auto pair = keyAndValueOf(line.content);
+    if (!pair || !equalAnyCase(pair->key, key)) continue;
+    place.line = line;
+    place.value = pair->value;
+    break;
+  }
+  return place;
+}
+
+bool isTooLarge(std::size_t size) { return size > kMaxProfileBytes; }
+
+// Nothing for a file that is there and is no profile file; an absent file is an empty text.
+std::optional<std::string> load(const std::string& file) {
+  const auto bytes = readFileStart(file, kMaxProfileBytes + 1);
+  if (!bytes) return std::string();
+  const auto span = bytes->span();
+  if (isTooLarge(span.size())) return std::nullopt;
+  return std::string(span.begin(), span.end());
+}
+
+bool store(const std::string& file, const std::string& text) {
+  return replaceFile(file, {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
+}
+
+// A file keeps the line end of its first line.
+std::string_view lineEndOf(std::string_view text) {
+  const std::size_t lineFeed = text.find('\n');
+  return lineFeed != std::string_view::npos && lineFeed > 0 && text[lineFeed - 1] == '\r' ? "\r\n" : "\n";
+}
+
+void append(std::string& target, std::string_view part) { target.append(part.data(), part.size()); }
+
+// Puts a line at a position that is the start of a line or the end of the text.
+void insertLine(std::string& text, std::size_t at, const std::string& line) {
+  const std::string lineEnd(lineEndOf(text));
+  const bool isOpen = at > textStart(text) && text[at - 1] != '\n';
+  text.insert(at, (isOpen ? lineEnd : std::string()) + line + lineEnd);
+}
+
+void addSection(std::string& text, std::string_view section) {
+  std::string line = "[";
+  append(line, section);
+  insertLine(text, text.size(), line + "]");
+}
+
+std::size_t contentEndOf(std::string_view text, const Line& line) {
+  const std::size_t last = text.substr(line.start, line.end - line.start).find_last_not_of("\r\n");
+  return last == std::string_view::npos ? line.start : line.start + last + 1;
+}
+
+void setValue(std::string& text, std::string_view section, std::string_view key, std::string_view value) {
+  std::string line(key);
+  line += '=';
+  append(line, value);
+  Place place = find(text, section, key);
+  if (place.line) {
+    text.replace(place.line->start, contentEndOf(text, *place.line) - place.line->start, line);
+    return;
+  }
+  if (!place.hasSection) {
+    addSection(text, section);
+    place.sectionEnd = text.size();
+  }
+  insertLine(text, place.sectionEnd, line);
+}
+
+}  // namespace
+
+bool canStandInIni(std::string_view value) {
+  return value.size() <= kMaxValueBytes && value.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos;
+}
+
+std::optional<std::string> findIniString(std::string_view section, std::string_view key, const std::string& file) {
+  const auto text = load(file);
+  if (!text) return std::nullopt;
+  const Place place = find(*text, section, key);
+  if (!place.line) return std::nullopt;
+  return std::string(place.value.substr(0, kMaxValueBytes));
+}
+
+std::string ReadIniString(std::string_view section, std::string_view key, std::string_view fallback,
+                          const std::string& file) {
+  return findIniString(section, key, file).value_or(std::string(fallback.substr(0, kMaxValueBytes)));
+}
+
+bool WriteIniString(std::string_view section, std::string_view key, std::string_view value, const std::string& file) {
+  auto text = canStandInIni(value) ? load(file) : std::nullopt;
+  if (!text) return false;
+  setValue(*text, section, key, value);
+  return !isTooLarge(text->size()) && store(file, *text);
+}
+
+bool DeleteIniKey(std::string_view section, std::string_view key, const std::string& file) {
+  auto text = load(file);
+  if (!text) return false;
+  const Place place = find(*text, section, key);
+  if (!place.line) return true;
+  text->erase(place.line->start, place.line->end - place.line->start);
+  return store(file, *text);
+}
+
+}  // namespace gp
