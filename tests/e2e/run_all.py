@@ -1,0 +1,72 @@
+#!/usr/bin/python3
+"""Runs every test_* function of every test_*.py here against the built program, each on a desktop of its own.
+
+    tests/e2e/run_all.py [--build DIR] [PART-OF-NAME...]
+
+Prints PASS, FAIL or SKIP per test; the last line counts them.
+"""
+import argparse
+import concurrent.futures
+import glob
+import os
+import re
+import signal
+import subprocess
+import sys
+
+HERE = os.path.dirname(os.path.realpath(__file__))
+SECONDS_PER_TEST = 180
+SKIPPED = 77
+FUNCTION = re.compile(r'^def (test_\w+)\(', re.M)
+
+
+def discover(parts):
+    """(file, function) of each test whose name holds one of `parts`."""
+    for path in sorted(glob.glob(os.path.join(HERE, 'test_*.py'))):
+        with open(path, encoding='utf-8') as file:
+            functions = FUNCTION.findall(file.read())
+        for function in functions:
+            name = f'{os.path.basename(path)}:{function}'
+            if not parts or any(part in name for part in parts):
+                yield path, function
+
+
+def run(executable, pictures, path, function):
+    """(status, output) of one test in a process group of its own, so that nothing of it is left over."""
+    command = ['dbus-run-session', '--', sys.executable, os.path.join(HERE, 'run_one.py'), executable, path, function, pictures]
+    environment = {name: value for name, value in os.environ.items() if name not in ('DISPLAY', 'WAYLAND_DISPLAY')}
+    environment.update(PYTHONDONTWRITEBYTECODE='1', PYTHONPATH=HERE)
+    process = subprocess.Popen(command, env=environment, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                               stderr=subprocess.STDOUT, text=True, errors='replace', start_new_session=True)
+    try:
+        output, _ = process.communicate(timeout=SECONDS_PER_TEST)
+        return process.returncode, output
+    except subprocess.TimeoutExpired:
+        return 1, f'did not end within {SECONDS_PER_TEST} s'
+    finally:
+        try:
+            os.killpg(process.pid, signal.SIGKILL)
+        except ProcessLookupError:
+            pass
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument('--build', default=os.path.join(HERE, '..', '..', 'build'))
+    parser.add_argument('parts', nargs='*')
+    options = parser.parse_args()
+    executable = os.path.abspath(os.path.join(options.build, 'glimmerpane'))
+    pictures = os.path.join(os.path.abspath(options.build), 'e2e')
+    tests = list(discover(options.parts))
+    counts = {'PASS': 0, 'FAIL': 0, 'SKIP': 0}
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count() or 1) as pool:
+        results = pool.map(lambda test: run(executable, pictures, *test), tests)
+        for (_, function), (status, output) in zip(tests, results):
+            word = {0: 'PASS', SKIPPED: 'SKIP'}.get(status, 'FAIL')
+            counts[word] += 1
+            print(word, function, '' if word == 'PASS' else '\n' + output, flush=True)
+    print(f'{counts["PASS"]} passed, {counts["FAIL"]} failed, {counts["SKIP"]} skipped')
+    return 1 if counts['FAIL'] or not tests else 0
+
+
+sys.exit(main())

@@ -1,0 +1,135 @@
+"""A desktop for one test: an X server, a window manager and an accessibility bus that nobody else uses, an empty home,
+and a folder for files. The program runs from a copy in that folder, since it keeps its settings beside itself."""
+import os
+import shutil
+import subprocess
+import tempfile
+import time
+
+from program import Program
+
+SCREEN = '1280x1024x24'
+KEY_DELAY_MS = 12
+
+
+class Session:
+    def __init__(self, executable, screen=SCREEN):
+        self.executable, self.screen = executable, screen
+        self.processes = []
+
+    def __enter__(self):
+        self.folder = tempfile.mkdtemp(prefix='glimmerpane.')
+        for name in ('home', 'program', 'files'):
+            os.mkdir(os.path.join(self.folder, name))
+        os.mkdir(os.path.join(self.folder, 'run'), 0o700)
+        shutil.copy2(self.executable, os.path.join(self.folder, 'program'))
+        self.log = open(os.path.join(self.folder, 'log'), 'wb')
+        try:
+            self.setEnvironment()
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def setEnvironment(self):
+        os.environ['DISPLAY'] = ':' + self.startServer()
+        home = os.path.join(self.folder, 'home')
+        for name in [n for n in os.environ if n.startswith(('XDG_', 'QT_'))]:
+            del os.environ[name]
+        os.environ.update(HOME=home, XDG_CONFIG_HOME=os.path.join(home, '.config'), LANG='C.UTF-8',
+                          XDG_RUNTIME_DIR=os.path.join(self.folder, 'run'), QT_QPA_PLATFORM='xcb',
+                          QT_LINUX_ACCESSIBILITY_ALWAYS_ON='1')
+        self.run('openbox')
+
+    def startServer(self):
+        """Starts an X server and returns the number that it chose."""
+        reading, writing = os.pipe()
+        server = subprocess.Popen(['Xvfb', '-displayfd', str(writing), '-screen', '0', self.screen, '-nolisten', 'tcp'],
+                                  pass_fds=[writing], stdout=self.log, stderr=self.log)
+        self.processes.append(server)
+        os.close(writing)
+        with os.fdopen(reading) as pipe:
+            number = pipe.readline().strip()
+        if not number:
+            raise RuntimeError('Xvfb did not start')
+        return number
+
+    def __exit__(self, *_):
+        for process in reversed(self.processes):
+            process.terminate()
+            try:
+                process.wait(5)
+            except subprocess.TimeoutExpired:
+                process.kill()
+                process.wait()
+        self.log.close()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def run(self, *command, cwd=None):
+        process = subprocess.Popen(command, cwd=cwd or self.path(), stdin=subprocess.DEVNULL, stdout=self.log, stderr=self.log)
+        self.processes.append(process)
+        return process
+
+    def path(self, name=''):
+        """A file in the folder that the test may fill; without a name the folder."""
+        return os.path.join(self.folder, 'files', name)
+
+    def settingsPath(self):
+        return os.path.join(self.folder, 'program', 'Glimmerpane.ini')
+
+    def start(self, *arguments, window=True):
+        """Starts the program and waits for its main form, or returns at once without one."""
+        program = os.path.join(self.folder, 'program', os.path.basename(self.executable))
+        started = Program(self, self.run(program, *arguments))
+        if window:
+            started.waitForMainForm()
+        return started
+
+    def output(self):
+        """What all programs of this session have printed."""
+        with open(self.log.name, encoding='utf-8', errors='replace') as file:
+            return file.read()
+
+    # Mouse and keyboard ----------------------------------------------------------------------------------------------
+
+    def xdotool(self, *arguments):
+        subprocess.run(['xdotool', *map(str, arguments)], check=True, stdout=subprocess.DEVNULL)
+
+    def move(self, point):
+        self.xdotool('mousemove', *map(int, point))
+        time.sleep(0.03)
+
+    def click(self, point, button=1):
+        self.move(point)
+        self.xdotool('click', button)
+        time.sleep(0.1)
+
+    def drag(self, points, button=1):
+        """Presses on the first point, moves over the others, releases on the last."""
+        self.move(points[0])
+        self.xdotool('mousedown', button)
+        for point in points[1:]:
+            self.move(point)
+        self.xdotool('mouseup', button)
+        time.sleep(0.1)
+
+    def keys(self, *names):
+        """Names as xdotool has them: "ctrl+s", "Return"."""
+        self.xdotool('key', '--delay', KEY_DELAY_MS, *names)
+        time.sleep(0.1)
+
+    def type(self, text):
+        self.xdotool('type', '--delay', KEY_DELAY_MS, '--', text)
+        time.sleep(0.1)
+
+    # Eyes ------------------------------------------------------------------------------------------------------------
+
+    def screenshot(self, path):
+        subprocess.run(['import', '-silent', '-window', 'root', 'png:' + path], check=True)
+
+    def colorAt(self, point):
+        """(red, green, blue) of a point of the screen."""
+        x, y = map(int, point)
+        done = subprocess.run(['import', '-silent', '-window', 'root', '-crop', f'1x1+{x}+{y}', '-depth', '8', 'rgb:-'],
+                              check=True, capture_output=True)
+        return tuple(done.stdout[:3])

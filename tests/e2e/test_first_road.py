@@ -1,0 +1,66 @@
+"""Open an icon, pick a colour, paint, save under a new name, open that file again: by mouse and keyboard."""
+import os
+
+import icons
+
+SIZE = 32
+CHART = '16-Color Palette'
+CHART_COLUMNS, CHART_ROWS = 8, 2
+RED, RED_CELL = (255, 0, 0), (3, 0)
+NAVY, NAVY_CELL = (0, 0, 128), (7, 1)
+BORDER = 4  # transparent pixels round the picture
+
+
+def checkerboard():
+    """Green and white squares inside a transparent border."""
+    def pixel(x, y):
+        if min(x, y) < BORDER or max(x, y) >= SIZE - BORDER:
+            return None
+        return (0, 128, 0) if (x // 4 + y // 4) % 2 else (255, 255, 255)
+    return [[pixel(x, y) for x in range(SIZE)] for y in range(SIZE)]
+
+
+def writeIcon(session, name, picture):
+    path = session.path(name)
+    with open(path, 'wb') as file:
+        file.write(icons.icon16(picture))
+    return path
+
+
+def paint(program, picture, cell, color, pixels):
+    """Picks a colour and clicks on pixels; `picture` follows."""
+    program.session.click(program.chartPoint(CHART, *cell, CHART_COLUMNS, CHART_ROWS))
+    for x, y in pixels:
+        program.session.click(program.pixelPoint(x, y, SIZE))
+        picture[y][x] = color
+
+
+def assertReadersSee(path, picture):
+    for name, read in icons.READERS.items():
+        assert read(path) == picture, f'{name} reads other pixels in {path}'
+
+
+def test_the_test_icons_are_read_as_built(session):
+    assertReadersSee(writeIcon(session, 'built.ico', checkerboard()), checkerboard())
+
+
+def test_painted_icon_saved_under_a_new_name_has_the_same_pixels_everywhere(session):
+    picture = checkerboard()
+    program = session.start(writeIcon(session, 'before.ico', picture))
+    program.press('Paint', role='push button')
+    paint(program, picture, RED_CELL, RED, [(0, 0), (10, 12), (31, 31)])
+    paint(program, picture, NAVY_CELL, NAVY, [(16, 3), (0, 31), (17, 20)])
+
+    saved = session.path('painted again.ico')
+    program.menu('File', 'Save As (Single-Icon File)')
+    program.answerFileDialog(saved)
+    program.wait(lambda: os.path.isfile(saved), 'the saved file')
+    assertReadersSee(saved, picture)
+    assertReadersSee(session.path('before.ico'), checkerboard())
+
+    session.keys('ctrl+n')
+    session.keys('ctrl+o')
+    program.answerFileDialog(saved)
+    program.wait(lambda: session.colorAt(program.pixelPoint(10, 12, SIZE)) == RED, 'the painted pixel on the Editing Area')
+    assert session.colorAt(program.pixelPoint(17, 20, SIZE)) == NAVY
+    assert session.colorAt(program.pixelPoint(1, 1, SIZE)) == (192, 192, 192), 'transparent pixels show the ground'
