@@ -16,6 +16,13 @@ struct FileFilter {
   bool operator==(const FileFilter&) const = default;
 };
 
+// Bits of a file dialog's flag word.
+inline constexpr unsigned kFileReadOnly = 0x1;
+inline constexpr unsigned kFileOverwritePrompt = 0x2;
+inline constexpr unsigned kFileHideReadOnly = 0x4;
+inline constexpr unsigned kFileMultiSelect = 0x200;
+inline constexpr unsigned kFileMustExist = 0x1000;
+
 struct FileDialogRequest {
   std::string title;
   std::string fileName;  // proposed name
@@ -24,6 +31,10 @@ struct FileDialogRequest {
   std::string defaultExtension;
   unsigned flags = 0;  // the flag word of the platform's dialog, see clsGPDialog
 };
+
+// Bits of the printer dialog's flag word.
+inline constexpr unsigned kPrintSelection = 0x1;
+inline constexpr unsigned kPrintPageNumbers = 0x2;
 
 struct PrinterRequest {
   unsigned flags = 0;
