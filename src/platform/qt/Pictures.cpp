@@ -36,14 +36,16 @@ constexpr Sheet kSheets[] = {{gp_sheet_100_light, gp_sheet_100_dark},
 constexpr int kDarkLightness = 128;
 constexpr qreal kDisabledOpacity = 0.35;
 
-// Where a pointer points, in the units of the drawing. What is not here points with its centre.
+// Where a pointer points: the pixel of the drawing's grid that holds the picture's tip. What is not here points with
+// its centre.
 struct HotSpot {
   std::string_view name;
   int x, y;
 };
 constexpr HotSpot kHotSpots[] = {
-    {"paint", 2, 18},   {"erase", 3, 15},        {"fill", 3, 17},
-    {"replace", 2, 18}, {"color-picker", 2, 18}, {"restore", 2, 18},
+    {"paint", 2, 17},   {"erase", 4, 14},           {"fill", 2, 17},       {"replace", 2, 2},
+    {"restore", 2, 17}, {"color-picker", 2, 17},    {"line", 4, 4},        {"rectangle", 4, 4},
+    {"oval", 4, 4},     {"filled-rectangle", 4, 4}, {"filled-oval", 4, 4},
 };
 constexpr HotSpot kCentre = {"", kPictureGrid / 2, kPictureGrid / 2};
 

@@ -1,0 +1,16 @@
+// The cells that a patterned grid lays under the icon: small fixed pictures, exact to the pixel, never scaled. They
+// belong to the program for as long as it runs; callers only look at them.
+#pragma once
+
+#include "platform/gdi/Surface.h"
+
+namespace gp {
+
+inline constexpr int kPatternCellCount = 3;
+inline constexpr int kPatternCellSize = 8;
+
+// `picTileSource(index)`: 0 has a gray ground, 1 a light blue one, 2 a turquoise one. An index outside gives the gray
+// cell.
+const Surface& patternCell(int index);
+
+}  // namespace gp
