@@ -15,6 +15,7 @@ startVirtualDisplay() {
   export DISPLAY
   openbox >/dev/null 2>&1 &
   virtual_pids+=($!)
+  until xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; do sleep 0.05; done
 }
 
 stopVirtualDisplay() {

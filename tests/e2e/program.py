@@ -7,6 +7,7 @@ import pyatspi
 START_SECONDS = 30
 WAIT_SECONDS = 10
 POLL_SECONDS = 0.1
+STILL_POLLS = 4
 DIALOG_ROLES = ('dialog', 'alert', 'file chooser', 'message box')
 TEXT_ROLES = ('label', 'static', 'text')
 SMALLEST_MAIN_FORM = (780, 540)  # the start-up picture and boxes are smaller
@@ -40,7 +41,16 @@ class Program:
         raise AssertionError(f'waited in vain for {what}')
 
     def waitForMainForm(self):
-        return self.wait(self.mainForm, 'the main form', START_SECONDS)
+        """The main form, once the window manager has put it into its place."""
+        self.wait(self.mainForm, 'the main form', START_SECONDS)
+        places = []
+
+        def stays():
+            places.append(self.box(self.mainForm()))
+            return len(places) >= STILL_POLLS and len(set(places[-STILL_POLLS:])) == 1
+
+        self.wait(stays, 'the main form to keep its place')
+        return self.mainForm()
 
     def waitForEnd(self, seconds=WAIT_SECONDS):
         """The exit status."""

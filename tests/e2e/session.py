@@ -10,6 +10,15 @@ from program import Program
 
 SCREEN = '1280x1024x24'
 KEY_DELAY_MS = 12
+START_SECONDS = 15
+
+
+def waitUntil(question, what):
+    end = time.monotonic() + START_SECONDS
+    while not question():
+        if time.monotonic() > end:
+            raise RuntimeError(f'waited in vain for {what}')
+        time.sleep(0.05)
 
 
 class Session:
@@ -40,6 +49,11 @@ class Session:
                           XDG_RUNTIME_DIR=os.path.join(self.folder, 'run'), QT_QPA_PLATFORM='xcb',
                           QT_LINUX_ACCESSIBILITY_ALWAYS_ON='1')
         self.run('openbox')
+        waitUntil(self.hasWindowManager, 'the window manager')
+
+    def hasWindowManager(self):
+        done = subprocess.run(['xprop', '-root', '_NET_SUPPORTING_WM_CHECK'], capture_output=True, text=True)
+        return 'window id' in done.stdout
 
     def startServer(self):
         """Starts an X server and returns the number that it chose."""
