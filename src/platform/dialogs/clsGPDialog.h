@@ -2,11 +2,11 @@
 // and takes filter texts apart.
 #pragma once
 
+#include "platform/ports/FileDialogs.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "platform/ports/FileDialogs.h"
 
 namespace gp {
 
@@ -38,9 +38,9 @@ class clsGPDialog {
   // The chosen path, or empty.
   std::string ShowOpen(const OpenOptions& options);
   std::string ShowSave(const SaveOptions& options);
-  // True when a colour was chosen.
+  // True when a colour was chosen; only then `color` changes.
   bool ShowColor(Color& color);
-  // True when accepted.
+  // True when accepted; only then `copies` changes. `pageRange` offers page numbers instead of a selection.
   bool ShowPrinter(bool pageRange, int& copies);
   std::string chooseFolder(const std::string& pattern, const std::string& startFolder);
 
@@ -54,7 +54,8 @@ class clsGPDialog {
 
 // A filter text with every ":" and "|" turned into NUL, ended by two NULs.
 std::string separateFilter(std::string_view filter);
-// The pairs of such a text.
+// The descriptions and patterns in a filter text, up to its first empty description. A description without a pattern is
+// dropped.
 std::vector<FileFilter> parseFilter(std::string_view filter);
 
 }  // namespace gp

@@ -1,0 +1,51 @@
+#include "shell/CommandLine.h"
+
+#include "platform/files/Files.h"
+#include "platform/text/Utf8.h"
+
+#include <algorithm>
+
+namespace gp {
+namespace {
+
+constexpr int kEndingCharacters = 4;
+
+struct Ending {
+  std::string_view text;
+  CommandLineKind kind;
+};
+
+constexpr Ending kEndings[] = {
+    {".ICO", CommandLineKind::Ico},
+    {".CUR", CommandLineKind::Cur},
+    {".ANI", CommandLineKind::Ani},
+};
+
+std::string withoutQuotes(std::string_view text) {
+  std::string result(text);
+  result.erase(std::remove(result.begin(), result.end(), '"'), result.end());
+  return result;
+}
+
+// A path of nothing but an ending names no icon.
+CommandLineKind kindOf(const std::string& path) {
+  if (countCharacters(path) <= kEndingCharacters) return CommandLineKind::Ignored;
+  for (const Ending& ending : kEndings)
+    if (endsWithAnyCase(path, ending.text)) return ending.kind;
+  return CommandLineKind::Ignored;
+}
+
+}  // namespace
+
+CommandLineFile readCommandLine(std::string_view commandLine) {
+  if (commandLine.empty()) return {};
+  const std::string path = withoutQuotes(commandLine);
+  if (FileExists(path)) return {path, kindOf(path)};
+  const std::string literal(commandLine);
+  if (FileExists(literal)) return {literal, kindOf(literal)};
+  return {path, CommandLineKind::Missing};
+}
+
+std::string fileNotFoundText(std::string_view path) { return std::string(path) + "\nFile not found."; }
+
+}  // namespace gp

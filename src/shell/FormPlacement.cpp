@@ -1,0 +1,53 @@
+#include "shell/FormPlacement.h"
+
+#include "platform/text/Numbers.h"
+
+#include <algorithm>
+
+namespace gp {
+namespace {
+
+constexpr int kLeastScreenWidth = 800 * kTwipsPerPixel;
+constexpr int kLeastScreenHeight = 600 * kTwipsPerPixel;
+
+int startLength(int stored, int screen, int smallest) { return std::max(std::min(stored, screen), smallest); }
+
+// Beyond three quarters of the screen too little of the form would show.
+int startPosition(int stored, int screen) { return stored < 0 || stored > screen * 3LL / 4 ? 0 : stored; }
+
+}  // namespace
+
+FormStart startOfForm(const StoredPlace& stored, int screenWidth, int screenHeight) {
+  FormStart start;
+  start.mLastMaximized = stored.maximized.value_or(false);
+  if (!stored.isComplete() || screenWidth < kLeastScreenWidth || screenHeight < kLeastScreenHeight) return start;
+  start.left = startPosition(*stored.left, screenWidth);
+  start.top = startPosition(*stored.top, screenHeight);
+  start.mStartWidth = startLength(*stored.width, screenWidth, kFormWidth);
+  start.mStartHeight = startLength(*stored.height, screenHeight, kFormHeight);
+  return start;
+}
+
+FormPlace applyStartScreen(const FormPlace& place, StartScreen option, const FormStart& start) {
+  FormPlace result = place;
+  if (place.minimized || option == StartScreen::DefaultSize) return result;
+  if (start.mLastMaximized) {
+    result.maximized = true;
+  } else if (option == StartScreen::PerLastSession) {
+    result.width = start.mStartWidth;
+    result.height = start.mStartHeight;
+  }
+  return result;
+}
+
+FormPlace limitToSmallest(const FormPlace& place, int minWidth, int minHeight) {
+  FormPlace result = place;
+  if (place.minimized) return result;
+  result.width = std::max(place.width, minWidth);
+  result.height = std::max(place.height, minHeight);
+  return result;
+}
+
+int pixelsAboveSmallest(int length, int smallest) { return std::max(divide(length - smallest, kTwipsPerPixel), 0); }
+
+}  // namespace gp
