@@ -100,7 +100,7 @@ class Session:
         return started
 
     def output(self):
-        """What all programs of this session have printed."""
+        """What the programs of this desktop have printed."""
         with open(self.log.name, encoding='utf-8', errors='replace') as file:
             return file.read()
 

@@ -9,6 +9,7 @@ ROW = re.compile(r'^\|\s*`(\w+)`\s*\|[^|]*\|([^|]*)\|\s*$')
 NAME = re.compile(r'`(\w+)`')
 ROOMS_CMAKE = re.compile(r'^set\(ROOMS ([^)]*)\)', re.M)
 NOT_A_ROOM_OF_THE_ROW = ('app', 'cli')
+X11_PLACE = 'src/platform/qt/'
 POSIX_PLACES = ('src/platform/qt/', 'src/app/')
 
 
@@ -75,10 +76,10 @@ def angled(name, target):
         return ''
     if not isUi(name):
         return f'<{target}> is not the C++ standard library'
-    if target.startswith('Q') or target.startswith('Qt'):
+    if target.startswith('Q'):
         return ''
-    if target.startswith(('X11/', 'xcb/')):
-        return f'<{target}> is X11, which only Qt speaks here'
+    if target.startswith(('X11/', 'xcb/')) and not name.startswith(X11_PLACE):
+        return f'<{target}> is X11, which only {X11_PLACE} may speak'
     if name.startswith(POSIX_PLACES) or target in C_HEADERS:
         return ''
     return f'<{target}> is neither Qt nor the C++ standard library'
