@@ -1,0 +1,34 @@
+#include "document/AlphaCompositing.h"
+
+#include "platform/text/Numbers.h"
+
+namespace gp {
+namespace {
+
+constexpr double kFullAlpha = 255.0;
+constexpr int kFullPercent = 100;
+constexpr int kGroundChannel = redOf(kGround);
+
+// Both steps truncate: an alpha of 128 counts as 50 percent.
+int blendChannel(int channel, int percent) {
+  return divide((kFullPercent - percent) * kGroundChannel + percent * channel, kFullPercent);
+}
+
+Color blendOverGround(Color color, int alpha) {
+  const int percent = Fix(alpha / kFullAlpha * kFullPercent);
+  return rgb(blendChannel(redOf(color), percent), blendChannel(greenOf(color), percent),
+             blendChannel(blueOf(color), percent));
+}
+
+}  // namespace
+
+void composeAlpha(const Surface& mask, const Surface& image, const AlphaMatrix& alpha, Surface& target) {
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (mask.GetPixel(x, y) != kBlack) continue;
+      target.SetPixelV(x, y, blendOverGround(image.GetPixel(x, y), alpha.at(x, y)));
+    }
+  }
+}
+
+}  // namespace gp

@@ -1,0 +1,28 @@
+#include "document/AlphaIndicator.h"
+
+namespace gp {
+namespace {
+
+constexpr int kFlashes = 2;
+constexpr int kFlashMilliseconds = 100;
+constexpr const char* kAlphaText = "Alpha";
+
+void showIndicator(EditState& state, Display& display, bool shown) {
+  state.screen.imgAlphaOnStatusPanel = shown;
+  state.screen.lblStatusPanel[static_cast<std::size_t>(StatusPanel::Alpha)] = shown ? kAlphaText : "";
+  display.changed(DisplayPart::StatusBar);
+}
+
+}  // namespace
+
+void flashAlphaIndicator(EditState& state, Display& display, MessagePump& pump) {
+  for (int flash = 0; flash < kFlashes; ++flash) {
+    showIndicator(state, display, true);
+    pump.wait(kFlashMilliseconds);
+    showIndicator(state, display, false);
+    pump.wait(kFlashMilliseconds);
+  }
+  showIndicator(state, display, true);
+}
+
+}  // namespace gp

@@ -1,0 +1,59 @@
+// The layout of icon files: every offset, size and stride stands here, once, for readers and writers alike. A file is
+// one ICONDIR, its entries, and the images wherever the entries say. All numbers are little-endian.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace gp::ico {
+
+// ICONDIR.
+inline constexpr std::size_t kDirSize = 6;
+inline constexpr std::size_t kDirType = 2;
+inline constexpr std::size_t kDirCount = 4;
+inline constexpr int kTypeIcon = 1;
+
+// ICONDIRENTRY, from the start of the entry.
+inline constexpr std::size_t kEntrySize = 16;
+inline constexpr std::size_t kEntryWidth = 0;
+inline constexpr std::size_t kEntryHeight = 1;
+inline constexpr std::size_t kEntryColorCount = 2;
+inline constexpr std::size_t kEntryBitCount = 6;
+inline constexpr std::size_t kEntryBytesInRes = 8;
+inline constexpr std::size_t kEntryImageOffset = 12;
+
+inline constexpr std::size_t kMaxEntries = 0xFFFF;
+inline constexpr std::size_t kMaxDirectorySize = kDirSize + kMaxEntries * kEntrySize;
+
+// BITMAPINFOHEADER, from the start of the image. Whatever its first field says, the palette follows after 40 bytes.
+inline constexpr std::size_t kBitmapHeaderSize = 40;
+inline constexpr std::size_t kHeaderBitCount = 14;
+
+inline constexpr std::size_t kPaletteEntrySize = 4;
+inline constexpr int kMaxPaletteColors = 256;
+inline constexpr int kMaxEntrySide = 255;
+
+// A PNG picture in the place of a bitmap begins with these bytes.
+inline constexpr std::array<std::uint8_t, 8> kPngSignature{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
+
+inline constexpr std::size_t kRowAlignment = 4;
+
+constexpr std::size_t aligned(std::size_t bytes) { return (bytes + kRowAlignment - 1) / kRowAlignment * kRowAlignment; }
+// Bytes of one row of pixels, without and with its padding to a multiple of 4.
+constexpr std::size_t rowBytes(int width, int bits) { return (static_cast<std::size_t>(width) * bits + 7) / 8; }
+constexpr std::size_t rowStride(int width, int bits) { return aligned(rowBytes(width, bits)); }
+
+// A row of true colour as the reader takes it: padded by as many bytes as the width in pixels lacks to a multiple of
+// 4. That equals rowStride for all icon sizes, and is kept for others.
+constexpr std::size_t trueRowStride(int width, int bits) {
+  return rowBytes(width, bits) + (aligned(static_cast<std::size_t>(width)) - static_cast<std::size_t>(width));
+}
+
+// No image that a directory entry can describe reaches further behind its offset than this.
+inline constexpr std::size_t kLargestImage =
+    kBitmapHeaderSize + kMaxPaletteColors * kPaletteEntrySize +
+    kMaxEntrySide * (trueRowStride(kMaxEntrySide, 32) + rowStride(kMaxEntrySide, 1));
+
+}  // namespace gp::ico

@@ -1,0 +1,140 @@
+#include "files/IconOpening.h"
+
+#include "document/AlphaIndicator.h"
+#include "document/Hourglass.h"
+#include "files/IconFileBytes.h"
+#include "files/IconLoading.h"
+
+namespace gp {
+namespace {
+
+constexpr int kLowColorBits = 9;
+constexpr const char* kUseBitmapMenu = "Please try to use Open Bitmap File menu instead.";
+constexpr const char* kInvalidFile =
+    "\n\nInvalid icon file or icon not a size of"
+    " 16x16, 24x24, 32x32 or 48x48.\n";
+constexpr const char* kNotOfSize = "\nIcon not of size 16x16, 24x24, 32x32 or 48x48.\n";
+constexpr const char* kFailedToLoad = "\nFailed to load this file";
+constexpr const char* kStrangeTrueColor =
+    "\nIncoming icon is a True Color icon"
+    " but not of 24 BPP or 32 BPP.\n";
+constexpr const char* kAlphaNotKept = "\nFailed to copy the Alpha Channel values to record.";
+constexpr const char* kLowScreenQuestion =
+    "The incoming icon is a True Color icon, but your display colors\n"
+    "setting in Windows is below High Color basing on that when you\n"
+    "started the program.  The icon may not be displayed correctly.\n"
+    "\n"
+    "Proceed still?";
+constexpr const char* kAlphaReminder =
+    "\nReminder:  The incoming icon is with Alpha Channel.  To view the icon with\n"
+    "alpha effects, or to edit the alpha values, invoke the Alpha Channel screen.\n"
+    "\n"
+    "(To remove Reminder, untick the related Option submenu)";
+constexpr const char* kHeaderReminder =
+    "\nReminder:  Header entries in the original file are discrepant.  (i) To permanently\n"
+    "correct the entries when the current image itself is OK, run Save icon function\n"
+    "of this program (until then, you see an asterisk in the Status Bar).  (ii) To view\n"
+    "the original header entries, run Enquiry - Original Header Entry (you will be able\n"
+    "to salvage the file basing on bitmap header entry instead, irrespective of the\n"
+    "actual color depth.)\n"
+    "\n"
+    "(To remove Reminder, untick the related Option submenu)";
+
+bool ConfirmTrueColorOnLowScreen(MessageBoxes& boxes) { return boxes.ask(kLowScreenQuestion); }
+
+}  // namespace
+
+IconOpening::IconOpening(FilesContext& context, std::string path, OpeningManner manner)
+    : context_(context), state_(context.state), path_(std::move(path)), manner_(manner) {}
+
+bool IconOpening::run() {
+  if (!probe() || !isSquare() || !isOfferedSize() || !isConfirmed()) return false;
+  {
+    const Hourglass hourglass(state_, context_.display);
+    prepare();
+    if (!decode()) return false;
+  }
+  if (!isShownDepth()) return false;
+  fillContainer();
+  if (isSpoken()) remind();
+  return true;
+}
+
+bool IconOpening::fail(const std::string& text, BoxIcon icon) {
+  if (isSpoken()) context_.boxes.tell(text, icon);
+  return false;
+}
+
+bool IconOpening::probe() {
+  if (auto bytes = readIconFile(path_)) bytes_ = std::move(*bytes);
+  facts_ = probeIcon(bytes_.span(), true);
+  return facts_.canBeOpened() || fail(path_ + kInvalidFile + kUseBitmapMenu, BoxIcon::Exclamation);
+}
+
+bool IconOpening::isSquare() {
+  if (facts_.width == facts_.height) return true;
+  return fail("Width and height are different:   " + std::to_string(facts_.width) + " by " +
+                  std::to_string(facts_.height) + "\n" + kUseBitmapMenu,
+              BoxIcon::Exclamation);
+}
+
+bool IconOpening::isOfferedSize() {
+  return isIconSize(facts_.width) || fail(path_ + kNotOfSize + kUseBitmapMenu, BoxIcon::Exclamation);
+}
+
+bool IconOpening::isConfirmed() {
+  if (!isSpoken() || facts_.dirColors >= 0 || state_.process.gScreenBPP >= kLowColorBits) return true;
+  return ConfirmTrueColorOnLowScreen(context_.boxes);
+}
+
+void IconOpening::prepare() {
+  context_.editor.clearRegion();
+  context_.editor.clearUndoHistory();
+  context_.editor.ClearContainer();
+  state_.picDisp.clearPicture();
+  state_.current().size = static_cast<std::int16_t>(facts_.width);
+  context_.editor.SizePanelSurfaces(facts_.width);
+  context_.editor.SizeEditSurfaces(facts_.width);
+}
+
+bool IconOpening::decode() {
+  const IconDefect defect =
+      loadIconPixels(bytes_.span(), facts_.chosen, SizeSource::Surface, true, state_, state_.picImage, state_.picMask);
+  if (defect == IconDefect::None) return true;
+  state_.picImage.clearPicture();
+  state_.picMask.clearPicture();
+  context_.editor.ClearStatusBar();
+  context_.editor.UpdateCommands();
+  return fail(path_ + kFailedToLoad, BoxIcon::Exclamation);
+}
+
+bool IconOpening::isShownDepth() {
+  const int bits = facts_.bitCount();
+  if (facts_.dirColors >= 0 || bits == 24 || bits == 32) return true;
+  context_.editor.ClearStatusBar();
+  context_.editor.UpdateCommands();
+  return fail(path_ + kStrangeTrueColor, BoxIcon::Information);
+}
+
+void IconOpening::fillContainer() {
+  describeLoadedIcon(state_, facts_, path_);
+  if (!keepLoadedAlpha(state_)) fail(kAlphaNotKept, BoxIcon::Exclamation);
+  context_.editor.UpdatePanelFromCurrent();
+  context_.editor.ComposeCurrentIcon();
+  context_.editor.ShowCurrentIcon();
+  context_.editor.clearUndoHistory();
+  context_.editor.recordUndo();
+  if (isSpoken()) context_.editor.AddHistory(path_);
+}
+
+void IconOpening::remind() {
+  const IconContainerRec& record = state_.current();
+  if (state_.options.flagMessageIfAlpha && record.hasAlpha) {
+    flashAlphaIndicator(state_, context_.display, context_.pump);
+    context_.boxes.tell(kAlphaReminder, BoxIcon::Information);
+  }
+  if (state_.options.alertIfBadHeader && record.isDiscrepant())
+    context_.boxes.tell(kHeaderReminder, BoxIcon::Information);
+}
+
+}  // namespace gp

@@ -1,0 +1,51 @@
+// The palettes and rows of icon images as they are written: bottom row first, left to right. Icon, cursor and
+// multi-icon files share them. Each writer appends to a ByteWriter and refuses nothing.
+#pragma once
+
+#include "document/AlphaMatrix.h"
+#include "platform/files/ByteWriter.h"
+#include "platform/gdi/Surface.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace gp {
+
+using PaletteEntry = std::array<std::uint8_t, 4>;  // blue, green, red, 0
+
+extern const std::array<PaletteEntry, 2> mPalMono;
+extern const std::array<PaletteEntry, 16> mPal16;
+
+// The colours of a picture in the order in which they take their places, behind black and white.
+class Pal256 {
+ public:
+  Pal256();
+  // False when there is no place left.
+  bool add(std::uint32_t color);
+  // The place of a colour; 0 for one that is not listed.
+  std::uint8_t indexOf(std::uint32_t color) const;
+  // All 256 entries; those behind the colours are zero.
+  void write(ByteWriter& out) const;
+
+ private:
+  std::vector<std::uint32_t> colors_;
+};
+
+// The palette of a picture, scanned row by row from the top left. Nothing when it has too many colours for one.
+std::optional<Pal256> BuildPal256(const Surface& surface);
+
+void writePalette(std::span<const PaletteEntry> palette, ByteWriter& out);
+
+// One bit a pixel: 1 for white, 0 for any other colour. Unfinished bytes end with 1 bits, rows with zero bytes.
+void WriteMaskRows(const Surface& surface, ByteWriter& out);
+// Half a byte a pixel, its place in mPal16. A colour that is not there repeats the index before it.
+void WriteRows16(const Surface& surface, ByteWriter& out);
+// One byte a pixel.
+void WriteRows256(const Surface& surface, const Pal256& palette, ByteWriter& out);
+// Blue, green, red; with alpha a fourth byte, 0 where the Mask is not black. Rows are not padded. The alpha matrix must
+// have the Surface's size.
+void WriteRowsTrue(const Surface& surface, const Surface& maskSurface, const AlphaMatrix* alpha, ByteWriter& out);
+
+}  // namespace gp

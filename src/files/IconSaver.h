@@ -1,0 +1,64 @@
+// The commands that make and save icons: New Icon, Save, Save As, Save As Bitmap, Save Mask, and the question whether
+// to save what is about to be replaced. A failed or cancelled save sets mSaveFailed and leaves the icon modified.
+#pragma once
+
+#include "files/FilesContext.h"
+
+#include <string>
+
+namespace gp {
+
+// What Save As writes; the values number the filters.
+enum class SaveMode { Icon = 1, Cursor = 2, Bitmap = 3, Mask = 4 };
+
+class IconSaver {
+ public:
+  IconSaver(EditState& state, Editor& editor, Display& display, MessageBoxes& boxes, MessagePump& pump,
+            clsGPDialog& dialog);
+
+  // The command bodies of mnuFileSub for indices 2 to 5 (New Icon), 12, 13, 18, 19 and 20 (saving). Nothing for others.
+  void mnuFileSub(int index);
+
+  // index is that of mnuFileSub: 2 for 32x32, 3 for 16x16, 4 for 48x48, 5 for 24x24. Unsaved work is asked for first.
+  void doNewIcon(int index);
+  // Saves to the icon's own file where it has one for itself, otherwise under a name that is asked for.
+  void doFileSave();
+  // Asks for a name and saves. There are no cursors yet: that mode does nothing.
+  void doSaveAs(SaveMode mode);
+  // Writes the Current Icon and brings the record up to date. Tells a failure.
+  void doSaveIconTo(const std::string& path, bool& ok);
+  // Offers to save the Current Icon; `message` may be empty. `proceed` is false after Cancel and after a failed save.
+  void AskSaveCurrent(const std::string& message, bool& proceed);
+  // Writes a Surface as a bitmap file. Tells a failure.
+  void SaveBitmap(const Surface& surface, const std::string& path, bool& ok);
+
+  // The name that Save As offers, without extension.
+  std::string proposedName(SaveMode mode) const;
+  const std::string& lastSavedFile() const { return lastSavedFile_; }
+
+ private:
+  struct SaveKind;
+  static const SaveKind& kindOf(SaveMode mode);
+
+  void saveCommand();
+  void saveAsIconCommand();
+  void saveAsCursorCommand();
+  void saveAsBitmapCommand();
+  void saveMaskCommand();
+  bool hasIcon();
+
+  bool endsAniSession(int size);
+  void showNewIcon(int size);
+  void closeSidePanels();
+  void remindOfMultiIconFile();
+  std::string askForName(const SaveKind& kind);
+  void saveBitmapTo(const std::string& path, bool& ok);
+  void saveMaskTo(const std::string& path, bool& ok);
+  void composeForBitmap();
+
+  FilesContext context_;
+  EditState& state_;
+  std::string lastSavedFile_;
+};
+
+}  // namespace gp
