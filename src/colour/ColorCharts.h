@@ -1,10 +1,11 @@
-// The two colour charts: their pictures, and which cell a position means. Positions are in chart units: a cell is 1 x 1.
+// The two colour charts: their pictures, and which cell a position means. Positions are in chart units: a cell is 1
+// x 1.
 #pragma once
-
-#include <string>
 
 #include "colour/ColorTables.h"
 #include "platform/gdi/Surface.h"
+
+#include <string>
 
 namespace gp {
 
@@ -21,10 +22,11 @@ ChartShape shapeOf(ChartKind chart);
 Surface CreateColorChart256(int cellWidth, int cellHeight);
 Surface CreateColorChart16(int cellWidth, int cellHeight);
 
-// The table entry at a position; the last row's and column's own border counts to it. -1 outside.
+// The table entry at a position; the border below the last row still counts to it. -1 outside.
 int chartCellAt(ChartKind chart, double x, double y);
 Color chartColor(ChartKind chart, int cell);
-// The name of a colour of the small chart; "8080FFh  RGB(255, 128, 128) " with stars for a standard colour in the large.
+// The name of a colour of the small chart; "8080FFh  RGB(255, 128, 128) " with stars for a standard colour in the
+// large.
 std::string chartText(ChartKind chart, int cell);
 
 }  // namespace gp

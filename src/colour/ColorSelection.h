@@ -2,8 +2,6 @@
 // the colour panel is up. Owns mCurrentColor and the state of the picker.
 #pragma once
 
-#include <string>
-
 #include "colour/ColorCharts.h"
 #include "colour/DirectEntry.h"
 #include "document/Display.h"
@@ -12,6 +10,8 @@
 #include "platform/dialogs/clsGPDialog.h"
 #include "platform/ports/MessageBoxes.h"
 #include "platform/ports/MessagePump.h"
+
+#include <string>
 
 namespace gp {
 

@@ -1,10 +1,10 @@
 // The two fixed colour tables behind the charts.
 #pragma once
 
+#include "platform/gdi/Surface.h"
+
 #include <array>
 #include <string>
-
-#include "platform/gdi/Surface.h"
 
 namespace gp {
 

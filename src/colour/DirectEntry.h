@@ -2,10 +2,10 @@
 // corrections. Wrong input is never reported, only corrected.
 #pragma once
 
+#include "platform/gdi/Surface.h"
+
 #include <optional>
 #include <string>
-
-#include "platform/gdi/Surface.h"
 
 namespace gp {
 

@@ -5,16 +5,16 @@
 namespace gp {
 
 enum class DisplayPart {
-  EditingArea,   // size of picDisp, or all of its pixels
-  IconsPanel,    // the six containers, their labels, PicIcon
-  StatusBar,     // panels and progress
-  Readouts,      // lblDispXY
-  Tools,         // tool frames, selected tool, picker, brush
-  Pointer,       // pointer over the Editing Area, hourglass
-  Panel,         // which fraPanel is up
-  ColorPanel,    // frames, picColorToUse, direct entry
-  Commands,      // enabling and ticks of menus and toolbar
-  History,       // entries of the history menus
+  EditingArea,  // size of picDisp, or all of its pixels
+  IconsPanel,   // the six containers, their labels, PicIcon
+  StatusBar,    // panels and progress
+  Readouts,     // lblDispXY
+  Tools,        // tool frames, selected tool, picker, brush
+  Pointer,      // pointer over the Editing Area, hourglass
+  Panel,        // which fraPanel is up
+  ColorPanel,   // frames, picColorToUse, direct entry
+  Commands,     // enabling and ticks of menus and toolbar
+  History,      // entries of the history menus
 };
 
 class Display {

@@ -2,13 +2,13 @@
 // screen shows. Plain data without rules: each member has one owner among the subsystems, named in its comment.
 #pragma once
 
-#include <array>
-#include <string>
-
 #include "document/AlphaMatrix.h"
 #include "document/IconContainerRec.h"
 #include "document/Options.h"
 #include "platform/gdi/Surface.h"
+
+#include <array>
+#include <string>
 
 namespace gp {
 
@@ -45,15 +45,15 @@ struct ScreenState {
   bool pixelRgbVisible = false;  // lblDispXY(1)
   // fraTools(0) frames the tool box; fraTools(1) holds the tools and is shown while there is something to draw on.
   std::array<bool, 2> fraTools{true, false};
-  int mActivePanel = 0;  // fraPanel(n) that is up; 0 is the colour panel
+  int mActivePanel = 0;              // fraPanel(n) that is up; 0 is the colour panel
   bool aniContainerVisible = false;  // picANIContainer(0)
   ColorFrame colorFrame = ColorFrame::Chart16;
   bool imgColorPickerVisible = false;
   bool fraColorMixerVisible = false;
   bool hourglass = false;
   int editingPointer = kDefaultPointer;
-  int brushIndex = 0;  // list index of cboBrushSize; the brush is one wider
-  int dispContainerWidth = 400;   // client size of picDispContainer, pixels
+  int brushIndex = 0;            // list index of cboBrushSize; the brush is one wider
+  int dispContainerWidth = 400;  // client size of picDispContainer, pixels
   int dispContainerHeight = 400;
 };
 
@@ -97,11 +97,11 @@ struct EditState {
   // Channels of the colour last examined, not necessarily the one selected.
   int mHoverR = 0, mHoverG = 0, mHoverB = 0;
 
-  bool mRegionActive = false;   // a region floats or is selected: it keeps commands waiting
-  bool mRegionExists = false;   // a region box stands on the Editing Area
-  bool mPendingPaint = false;   // a tool action is open and must be committed before the container changes
-  bool mSaveFailed = false;     // the last save was cancelled or failed
-  bool mInLoad = false;         // the main form is being made: no layout, no alpha work
+  bool mRegionActive = false;  // a region floats or is selected: it keeps commands waiting
+  bool mRegionExists = false;  // a region box stands on the Editing Area
+  bool mPendingPaint = false;  // a tool action is open and must be committed before the container changes
+  bool mSaveFailed = false;    // the last save was cancelled or failed
+  bool mInLoad = false;        // the main form is being made: no layout, no alpha work
 };
 
 }  // namespace gp

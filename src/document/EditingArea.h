@@ -1,13 +1,13 @@
-// The Current Icon on the screen: composing it from its Surfaces, magnifying it onto the Editing Area, the grid over it,
-// and what the status bar tells of it. Owns the choice of gMagnification and gGridColor.
+// The Current Icon on the screen: composing it from its Surfaces, magnifying it onto the Editing Area, the grid over
+// it, and what the status bar tells of it. Owns the choice of gMagnification and gGridColor.
 #pragma once
-
-#include <string>
 
 #include "document/Display.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
 #include "platform/ports/MessagePump.h"
+
+#include <string>
 
 namespace gp {
 
@@ -67,5 +67,7 @@ class EditingArea {
 Color gridColorOf(int index);
 inline constexpr Color kNoGrid = kGround;
 inline constexpr int kGridNone = 6;
+// The index of the Region tool: a new magnification ends it.
+inline constexpr int kRegionTool = 14;
 
 }  // namespace gp

@@ -2,9 +2,9 @@
 // runs; a record is empty (not used), held by a loader (used, not present) or loaded (both).
 #pragma once
 
-#include <cstdint>
-
 #include "platform/text/FixedText.h"
+
+#include <cstdint>
 
 namespace gp {
 

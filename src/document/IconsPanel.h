@@ -1,13 +1,14 @@
-// The row of six containers beside the Editing Area: switching between them, the right click, and files dropped on them.
+// The row of six containers beside the Editing Area: switching between them, the right click, and files dropped on
+// them.
 #pragma once
-
-#include <string>
-#include <vector>
 
 #include "document/Display.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
 #include "platform/ports/MessagePump.h"
+
+#include <string>
+#include <vector>
 
 namespace gp {
 

@@ -3,8 +3,6 @@
 // read-outs and the pointer over the Editing Area.
 #pragma once
 
-#include <string>
-
 #include "colour/ColorSelection.h"
 #include "document/Display.h"
 #include "document/EditState.h"
@@ -13,6 +11,8 @@
 #include "drawing/ToolTable.h"
 #include "platform/ports/MessageBoxes.h"
 #include "platform/ports/MessagePump.h"
+
+#include <string>
 
 namespace gp {
 
@@ -57,18 +57,15 @@ class Tools {
   void setBrush(int index);
 
  private:
-  enum class Stroke { None, Paint, Erase, Restore };
-
-  bool locate(const MouseInput& mouse);
-  void stamp(Color image, Color mask);
-  void showStamp(Color color);
-  void restorePixel();
+  void locate(const MouseInput& mouse);
+  void stamp();
   void continueStroke();
-  void pickColor();
-  void finishStroke();
+  void restorePixel();
+  void setReadout(Readout which, std::string text);
   void writeReadouts();
   std::string pixelRgbText() const;
   void updateEditingPointer();
+  void toolsChanged();
 
   EditState& state_;
   Editor& editor_;
@@ -79,6 +76,7 @@ class Tools {
   MessagePump& pump_;
 
   int selected_ = kNoTool;
+  // A stroke is under way from press to release; a nested event finds the flags as they are.
   bool mPainting = false;
   bool mErasing = false;
   bool mRestoring = false;

@@ -2,10 +2,6 @@
 // and runs commands and the life-cycle of the main form. The forms forward their events here.
 #pragma once
 
-#include <memory>
-#include <string>
-#include <vector>
-
 #include "colour/ColorSelection.h"
 #include "document/EditState.h"
 #include "document/EditingArea.h"
@@ -17,9 +13,13 @@
 #include "platform/dialogs/clsGPDialog.h"
 #include "platform/ports/SystemInfo.h"
 #include "shell/CommandTable.h"
+#include "shell/FormPlacement.h"
 #include "shell/History.h"
 #include "shell/MainForm.h"
 #include "shell/Settings.h"
+
+#include <exception>
+#include <string>
 
 namespace gp {
 
@@ -52,6 +52,7 @@ class Shell final : public Editor {
   IconFiles& iconFiles() { return iconFiles_; }
   IconSaver& iconSaver() { return iconSaver_; }
   const History& fileHistory() const { return fileHistory_; }
+  const History& aniHistory() const { return aniHistory_; }
   const Ports& ports() const { return ports_; }
   const std::string& folder() const { return folder_; }
 
@@ -63,7 +64,8 @@ class Shell final : public Editor {
   template <class Handler>
   void guarded(const std::string& name, Handler handler);
 
-  // The life of the main form. Load places it; the first Activate reads settings and opens the file of the command line.
+  // The life of the main form. Load places it; the first Activate reads settings and opens the file of the command
+  // line.
   void formLoad();
   void formActivate(const std::string& commandLine);
   // The room of picDispContainer after the form got another size.
@@ -72,12 +74,14 @@ class Shell final : public Editor {
   bool queryUnload();
 
   // Command bodies of the shell itself.
+  void openIconFile();
   void openFromHistory(int index);
   void openHelp();
   void switchToCustomSize();
   void toggleOption(int index);
   void selectStartScreen(int index);
   void resetToDefault();
+  void confirmReset();
   void exitProgram();
   void showAbout();
 
@@ -115,8 +119,12 @@ class Shell final : public Editor {
   void ShowRunTimeError(const std::string& name, const std::string& description) override;
 
  private:
+  std::string settingsPath() const;
+  void placeForm();
+  void showEmptyStart();
   void openCommandLineFile(const std::string& commandLine);
   void applyStartScreen();
+  void saveScreenPos(const FormPlace& place);
 
   EditState& state_;
   Ports ports_;
@@ -133,7 +141,17 @@ class Shell final : public Editor {
   Settings settings_;
   History fileHistory_;
   History aniHistory_;
+  FormStart start_;
   bool mFirstActivate = true;
 };
+
+template <class Handler>
+void Shell::guarded(const std::string& name, Handler handler) {
+  try {
+    handler();
+  } catch (const std::exception& error) {
+    ShowRunTimeError(name, error.what());
+  }
+}
 
 }  // namespace gp

@@ -1,12 +1,12 @@
 // An Editor and a Display that write down what was asked of them, for tests of one subsystem alone.
 #pragma once
 
+#include "document/Display.h"
+#include "document/Editor.h"
+
 #include <algorithm>
 #include <string>
 #include <vector>
-
-#include "document/Display.h"
-#include "document/Editor.h"
 
 namespace gp::test {
 

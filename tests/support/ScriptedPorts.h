@@ -2,16 +2,15 @@
 // answers. An unexpected one fails the test, and so does one that never came.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <deque>
-#include <functional>
-#include <string>
-#include <vector>
-
 #include "platform/ports/FileDialogs.h"
 #include "platform/ports/MessageBoxes.h"
 #include "platform/ports/MessagePump.h"
+
+#include <deque>
+#include <functional>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 namespace gp::test {
 

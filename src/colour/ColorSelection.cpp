@@ -1,0 +1,128 @@
+#include "colour/ColorSelection.h"
+
+#include "document/Messages.h"
+#include "platform/text/Numbers.h"
+
+namespace gp {
+
+namespace {
+
+constexpr int kManyColors = 256;
+
+}  // namespace
+
+ColorSelection::ColorSelection(EditState& state, Editor& editor, Display& display, MessageBoxes& boxes,
+                               MessagePump& pump, clsGPDialog& dialog)
+    : state_(state), editor_(editor), display_(display), boxes_(boxes), pump_(pump), dialog_(dialog) {}
+
+void ColorSelection::setCurrentColor(Color color) {
+  state_.mCurrentColor = color;
+  display_.changed(DisplayPart::ColorPanel);
+}
+
+std::string ColorSelection::chartHover(ChartKind chart, double x, double y) {
+  const int cell = chartCellAt(chart, x, y);
+  if (cell < 0) return {};
+  if (chart == ChartKind::Chart16) return chartText(chart, cell);
+  if (!state_.options.tooltip256ColorChart) return {};
+  const Color color = chartColor(chart, cell);
+  state_.mHoverR = redOf(color);
+  state_.mHoverG = greenOf(color);
+  state_.mHoverB = blueOf(color);
+  return chartText(chart, cell);
+}
+
+void ColorSelection::chartRelease(ChartKind chart, double x, double y) {
+  const int cell = chartCellAt(chart, x, y);
+  if (cell >= 0) setCurrentColor(chartColor(chart, cell));
+}
+
+// The HTML figure is that of the colour last hovered over, which may be another than the one selected.
+void ColorSelection::tellCurrentColor() {
+  const Color color = state_.mCurrentColor;
+  const std::string gap = "\n\n";
+  boxes_.tell("Currently selected color:      " + gap + std::to_string(color) + " / h" + Hex(color) + gap + "RGB(" +
+                  std::to_string(redOf(color)) + ", " + std::to_string(greenOf(color)) + ", " +
+                  std::to_string(blueOf(color)) + ") " + gap + "HTML #" +
+                  hexHtmlColor(state_.mHoverR, state_.mHoverG, state_.mHoverB),
+              BoxIcon::Information);
+}
+
+void ColorSelection::showFrame(ColorFrame frame) {
+  state_.screen.colorFrame = frame;
+  state_.screen.imgColorPickerVisible = frame != ColorFrame::Chart16;
+  state_.screen.fraColorMixerVisible = frame != ColorFrame::Chart16;
+  for (DisplayPart part : {DisplayPart::ColorPanel, DisplayPart::Tools, DisplayPart::Commands}) display_.changed(part);
+}
+
+void ColorSelection::imgGet16ColorChart() {
+  if (state_.screen.colorFrame == ColorFrame::Chart16) return;
+  deselectPicker();
+  showFrame(ColorFrame::Chart16);
+  setCurrentColor(kWhite);
+}
+
+void ColorSelection::imgGet256ColorChart() {
+  if (state_.screen.colorFrame != ColorFrame::Chart256) showFrame(ColorFrame::Chart256);
+}
+
+void ColorSelection::imgReturnTo256ColorChart() { showFrame(ColorFrame::Chart256); }
+
+void ColorSelection::imgGetDirectEntryColor() {
+  showFrame(ColorFrame::DirectEntry);
+  directEntry_.setText("");
+  display_.changed(DisplayPart::ColorPanel);
+  display_.focusColorValue();
+}
+
+void ColorSelection::imgPopColorChart() {
+  Color color = state_.mCurrentColor;
+  if (dialog_.ShowColor(color)) setCurrentColor(color);
+}
+
+void ColorSelection::chooseColorChart() {
+  const int count = editor_.colorBitCountOfImage();
+  if (state_.current().isTrueColor() || count < 1 || count >= kManyColors)
+    imgGet256ColorChart();
+  else
+    imgGet16ColorChart();
+}
+
+void ColorSelection::imgColorPicker() {
+  if (!state_.current().present) {
+    deselectPicker();
+    tellNoIconYet(boxes_);
+    return;
+  }
+  state_.picDisp.clearDrawing();
+  state_.mRegionExists = false;
+  display_.changed(DisplayPart::EditingArea);
+  editor_.UpdateCommands();
+  const bool select = !pickerSelected_;
+  if (select) editor_.clearAllTools();
+  pickerSelected_ = select;
+  for (DisplayPart part : {DisplayPart::Tools, DisplayPart::Commands, DisplayPart::Pointer}) display_.changed(part);
+  pump_.pump();
+}
+
+void ColorSelection::deselectPicker() {
+  pickerSelected_ = false;
+  display_.changed(DisplayPart::Tools);
+}
+
+void ColorSelection::ckbAsHexColorValue() {
+  directEntry_.toggleHex();
+  display_.changed(DisplayPart::ColorPanel);
+  display_.focusColorValue();
+}
+
+void ColorSelection::cmdDirectEntryColorValue() {
+  if (const auto color = directEntry_.proceed()) setCurrentColor(*color);
+  display_.focusColorValue();
+}
+
+std::string ColorSelection::picIconTooltip() const {
+  return state_.current().present ? "Current icon" : "Current icon (not loaded)";
+}
+
+}  // namespace gp

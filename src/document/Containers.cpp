@@ -1,0 +1,80 @@
+#include "document/Containers.h"
+
+namespace gp {
+
+namespace {
+
+AlphaMatrix& currentAlphaRec(EditState& state) {
+  return state.mAlphaRecs.at(static_cast<std::size_t>(state.mCurContainer));
+}
+
+bool countsAsAlphaIcon(const IconContainerRec& record) {
+  return record.used && record.isTrueColor() && record.bitCount == 32 && record.hasAlpha;
+}
+
+}  // namespace
+
+void ClearContainer(EditState& state) {
+  const auto container = static_cast<std::size_t>(state.mCurContainer);
+  state.picPanelIcon.at(container).clearPicture();
+  state.picPanelImage.at(container).clearPicture();
+  state.picPanelMask.at(container).clearPicture();
+
+  IconContainerRec& record = state.current();
+  record.used = false;
+  record.sourceLabel = "";
+  record.dirColors = 0;
+  record.bitCount = 0;
+  record.hasAlpha = false;
+  record.bihColors = 0;
+  record.bihBitCount = 0;
+  record.present = false;
+  record.size = kDefaultIconSize;
+  record.path = "";
+  PrepareAlphaRec(state);
+}
+
+void NewRecord(EditState& state) {
+  IconContainerRec& record = state.current();
+  record.used = true;
+  record.sourceLabel = "New icon";
+  record.dirColors = 0;
+  record.bitCount = 0;
+  record.hasAlpha = false;
+  record.bihColors = 0;
+  record.bihBitCount = 0;
+  record.present = true;
+  record.path = "Untitled";
+  record.clearOrigin();
+}
+
+bool PrepareAlphaRec(EditState& state) {
+  if (state.mInLoad) return false;
+  const IconContainerRec& record = state.current();
+  AlphaMatrix& alpha = currentAlphaRec(state);
+  alpha = AlphaMatrix();
+  if (!countsAsAlphaIcon(record) || !state.gAlphaValues.isOfSize(record.size)) return false;
+  alpha = AlphaMatrix(record.size, record.size);
+  return true;
+}
+
+bool AlphaRecIsReady(const EditState& state) {
+  const AlphaMatrix& alpha = state.mAlphaRecs.at(static_cast<std::size_t>(state.mCurContainer));
+  return countsAsAlphaIcon(state.current()) && alpha.isOfSize(state.current().size);
+}
+
+bool StoreAlphaToRec(EditState& state) {
+  if (!state.gAlphaValues.isOfSize(state.current().size)) return false;
+  currentAlphaRec(state) = state.gAlphaValues;
+  return true;
+}
+
+bool LoadAlphaFromRec(EditState& state) {
+  const int size = state.current().size;
+  const AlphaMatrix& alpha = currentAlphaRec(state);
+  if (!state.current().present || !alpha.isOfSize(size) || !state.gAlphaValues.isOfSize(size)) return false;
+  state.gAlphaValues = alpha;
+  return true;
+}
+
+}  // namespace gp

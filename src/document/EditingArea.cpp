@@ -1,0 +1,252 @@
+#include "document/EditingArea.h"
+
+#include "document/PatternCells.h"
+#include "platform/gdi/Pens.h"
+#include "platform/gdi/RasterOps.h"
+#include "platform/gdi/Stretch.h"
+#include "platform/gdi/SurfaceOps.h"
+
+#include <algorithm>
+#include <array>
+
+namespace gp {
+
+namespace {
+
+constexpr int kEnlargedRoom = 520;  // pixels of picDispContainer from which the enlarged factors fit
+constexpr int kLargestSmallIcon = 32;
+constexpr int kFirstPattern = -1;
+constexpr Color kPatternLines = 0x606060;
+
+constexpr std::array<Color, kGridCount> kGridColors = {0x606060, 0x000000, 0x800000, -1, -2, -3, kNoGrid};
+constexpr Color kDottedGrid = kGridColors[2];
+
+struct Extent {
+  int width;
+  int height;
+};
+
+// The icon's size as PicIcon has it; anything odd counts as 32.
+Extent iconExtent(const Surface& icon) {
+  if (isIconSize(icon.width()) && isIconSize(icon.height())) return {icon.width(), icon.height()};
+  return {kDefaultIconSize, kDefaultIconSize};
+}
+
+void compose(Surface& target, const Surface& mask, const Surface& image) {
+  target.clearPicture();
+  BitBlt(target, 0, 0, target.width(), target.height(), mask, 0, 0, RasterOp::SRCAND);
+  BitBlt(target, 0, 0, target.width(), target.height(), image, 0, 0, RasterOp::SRCINVERT);
+  target.makePersistent();
+}
+
+void stretchWhole(Surface& target, const Surface& source, const Extent& from, RasterOp op) {
+  StretchBlt(target, 0, 0, target.width(), target.height(), source, 0, 0, from.width, from.height, op);
+}
+
+}  // namespace
+
+Color gridColorOf(int index) { return kGridColors.at(static_cast<std::size_t>(index)); }
+
+EditingArea::EditingArea(EditState& state, Editor& editor, Display& display, MessagePump& pump)
+    : state_(state), editor_(editor), display_(display), pump_(pump) {
+  for (Surface& image : state_.picPanelImage) image.backColor = kBlack;
+  for (Surface& icon : state_.picPanelIcon) icon.backColor = kGround;
+}
+
+void EditingArea::SizeEditSurfaces(int size) {
+  ChooseMagnify(size);
+  for (Surface* surface :
+       {&state_.picImage, &state_.picMask, &state_.PicIcon, &state_.picImageSnap, &state_.picMaskSnap,
+        &state_.picImageTemp, &state_.picMaskTemp, &state_.picTemp, &state_.picUndo, &state_.picAuto})
+    MakePicSize(*surface, size, size);
+}
+
+void EditingArea::SizePanelSurfaces(int size) {
+  const auto container = static_cast<std::size_t>(state_.mCurContainer);
+  for (Surface* surface :
+       {&state_.picPanelIcon.at(container), &state_.picPanelImage.at(container), &state_.picPanelMask.at(container)})
+    MakePicSize(*surface, size, size);
+}
+
+void EditingArea::ComposeCurrentIcon() {
+  compose(state_.PicIcon, state_.picMask, state_.picImage);
+  state_.picImage.makePersistent();
+  state_.picMask.makePersistent();
+}
+
+void EditingArea::UpdatePanelFromCurrent() {
+  const auto container = static_cast<std::size_t>(state_.mCurContainer);
+  if (SurfaceSizeDiffers(state_.picImage, state_.picPanelImage.at(container)))
+    SizePanelSurfaces(state_.picImage.width());
+  BitbltPic(state_.picImage, state_.picPanelImage.at(container));
+  BitbltPic(state_.picMask, state_.picPanelMask.at(container));
+  compose(state_.picPanelIcon.at(container), state_.picPanelMask.at(container), state_.picPanelImage.at(container));
+  display_.changed(DisplayPart::IconsPanel);
+}
+
+void EditingArea::showSquare(int left, int top, int right, int bottom, Color color) {
+  FillBox(state_.picDisp, left, top, right, bottom, color);
+  state_.picDisp.makePersistent();
+  display_.repaintEditingArea(left, top, right - left + 1, bottom - top + 1);
+}
+
+void EditingArea::ChooseMagnify(int size) {
+  const bool small = size <= kLargestSmallIcon;
+  const bool enlarged = state_.options.useEnlargedEditingArea && state_.screen.dispContainerWidth >= kEnlargedRoom &&
+                        state_.screen.dispContainerHeight >= kEnlargedRoom;
+  if (enlarged)
+    state_.gMagnification = small ? 15 : 10;
+  else
+    state_.gMagnification = small ? 12 : 8;
+}
+
+void EditingArea::sizePicDisp(int width, int height) {
+  MakePicSize(state_.picDisp, width, height);
+  display_.changed(DisplayPart::EditingArea);
+}
+
+void EditingArea::BuildGrid() {
+  if (!state_.current().present) return;
+  const int width = state_.PicIcon.width() * state_.gMagnification;
+  const int height = state_.PicIcon.height() * state_.gMagnification;
+  MakePicSize(state_.PicGrid, width, height);
+  sizePicDisp(width, height);
+  pump_.pump();
+
+  if (state_.gGridColor == kNoGrid) return;
+  if (state_.gGridColor < 0) {
+    tilePattern(width, height);
+    drawGridLines(kPatternLines);
+  } else if (state_.gGridColor == kDottedGrid) {
+    drawGridDots(state_.gGridColor);
+  } else {
+    drawGridLines(state_.gGridColor);
+  }
+}
+
+void EditingArea::drawGridLines(Color color) {
+  Surface& grid = state_.PicGrid;
+  const int step = state_.gMagnification;
+  for (int x = step; x < grid.width(); x += step) FillBox(grid, x, 0, x, grid.height() - 1, color);
+  for (int y = step; y < grid.height(); y += step) FillBox(grid, 0, y, grid.width() - 1, y, color);
+}
+
+void EditingArea::drawGridDots(Color color) {
+  Surface& grid = state_.PicGrid;
+  const int step = state_.gMagnification;
+  for (int y = step; y < grid.height(); y += step)
+    for (int x = step; x < grid.width(); x += step) grid.SetPixelV(x, y, color);
+}
+
+void EditingArea::tilePattern(int width, int height) {
+  for (Surface& tile : state_.picTile) MakePicSize(tile, width, height);
+  TilePicture(patternCell(kFirstPattern - state_.gGridColor), state_.picTile[0]);
+  state_.picTile[0].makePersistent();
+}
+
+void EditingArea::MagnifyIcon() {
+  const Extent icon = iconExtent(state_.PicIcon);
+  state_.picDisp.clearPicture();
+  stretchWhole(state_.picDisp, state_.PicIcon, icon, RasterOp::SRCCOPY);
+  overlayGrid();
+  state_.picDisp.makePersistent();
+  display_.changed(DisplayPart::EditingArea);
+  editor_.UpdateCommands();
+}
+
+void EditingArea::overlayGrid() {
+  if (state_.gGridColor == kNoGrid) return;
+  if (state_.gGridColor < 0) overlayPattern();
+  Surface& disp = state_.picDisp;
+  BitBlt(disp, 0, 0, disp.width(), disp.height(), state_.PicGrid, 0, 0, RasterOp::SRCAND);
+}
+
+// On a patterned grid the pattern, not the ground, shows through transparent pixels.
+void EditingArea::overlayPattern() {
+  const Extent icon = iconExtent(state_.PicIcon);
+  Surface& ground = state_.picTile[1];
+  BitbltPic(state_.picTile[0], ground);
+  stretchWhole(ground, state_.picMask, icon, RasterOp::SRCAND);
+  stretchWhole(ground, state_.picImage, icon, RasterOp::SRCINVERT);
+  BitBlt(state_.picDisp, 0, 0, ground.width(), ground.height(), ground, 0, 0, RasterOp::SRCCOPY);
+}
+
+void EditingArea::ShowCurrentIcon() {
+  state_.current().present = true;
+  editor_.clearAllTools();
+  RefreshStatusBar();
+  MagnifyIcon();
+}
+
+void EditingArea::showEmpty() {
+  ChooseMagnify(kDefaultIconSize);
+  const int side = state_.gMagnification * kDefaultIconSize;
+  sizePicDisp(side, side);
+}
+
+void EditingArea::RefreshStatusBar() {
+  if (state_.mPendingPaint) {
+    editor_.clearUndoHistory();
+    editor_.clearAllTools();
+    state_.mPendingPaint = false;
+  }
+  const IconContainerRec& record = state_.current();
+  ScreenState& screen = state_.screen;
+  screen.progressPercent = -1;
+  auto panel = [&screen](StatusPanel which) -> std::string& {
+    return screen.lblStatusPanel.at(static_cast<std::size_t>(which));
+  };
+  if (!screen.aniContainerVisible) panel(StatusPanel::Path) = record.path.trimmed();
+  panel(StatusPanel::Discrepancy) = record.isDiscrepant() ? "*" : "";
+  panel(StatusPanel::MultiIcon) = record.fromMultiIconFile ? "MIF" : "";
+  panel(StatusPanel::Size) = std::to_string(record.size) + " x " + std::to_string(record.size);
+  panel(StatusPanel::Alpha) = record.hasAlpha ? "Alpha" : "";
+  screen.imgAlphaOnStatusPanel = record.hasAlpha;
+  screen.fraTools = {true, true};
+
+  BuildGrid();
+  for (DisplayPart part : {DisplayPart::StatusBar, DisplayPart::Tools, DisplayPart::ColorPanel}) display_.changed(part);
+  editor_.UpdateCommands();
+}
+
+void EditingArea::ClearStatusBar() {
+  state_.screen.lblStatusPanel.fill("");
+  state_.screen.imgAlphaOnStatusPanel = false;
+  display_.changed(DisplayPart::StatusBar);
+}
+
+void EditingArea::SetGrid(int index) {
+  editor_.CommitPendingPaint();
+  state_.options.grid = index;
+  state_.gGridColor = gridColorOf(index);
+  BuildGrid();
+  if (state_.current().present) MagnifyIcon();
+  display_.changed(DisplayPart::Commands);
+}
+
+void EditingArea::ApplyEnlargedOption() {
+  if (state_.current().used && state_.mPendingPaint) {
+    editor_.CommitPendingPaint();
+  } else if (editor_.selectedTool() == kRegionTool) {
+    editor_.clearAllTools();
+    editor_.clearRegion();
+  }
+  if (!state_.current().present) {
+    showEmpty();
+    return;
+  }
+  ChooseMagnify(state_.current().size);
+  BuildGrid();
+  MagnifyIcon();
+}
+
+void EditingArea::setRoom(int width, int height) {
+  if (state_.mInLoad) return;
+  const int before = state_.gMagnification;
+  state_.screen.dispContainerWidth = width;
+  state_.screen.dispContainerHeight = height;
+  ChooseMagnify(state_.current().present ? state_.current().size : kDefaultIconSize);
+  if (state_.gMagnification != before) ApplyEnlargedOption();
+}
+
+}  // namespace gp

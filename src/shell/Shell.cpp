@@ -1,0 +1,107 @@
+#include "shell/Shell.h"
+
+#include "document/Containers.h"
+#include "files/ColorCount.h"
+#include "shell/PanelTable.h"
+
+namespace gp {
+
+Shell::Shell(EditState& state, const Ports& ports, Display& display, std::string folder)
+    : state_(state),
+      ports_(ports),
+      display_(display),
+      folder_(std::move(folder)),
+      mDialog(ports.dialogs),
+      editingArea_(state, *this, display, ports.pump),
+      iconsPanel_(state, *this, editingArea_, display, ports.pump),
+      colors_(state, *this, display, ports.boxes, ports.pump, mDialog),
+      tools_(state, *this, display, editingArea_, colors_, ports.boxes, ports.pump),
+      iconFiles_(state, *this, display, ports.boxes, ports.pump, mDialog),
+      iconSaver_(state, *this, display, ports.boxes, ports.pump, mDialog),
+      settings_(state.options, settingsPath()),
+      fileHistory_(kFileHistorySection, kFileHistoryLimit, settingsPath()),
+      aniHistory_(kAniHistorySection, kAniHistoryLimit, settingsPath()) {}
+
+Shell::~Shell() = default;
+
+std::string Shell::settingsPath() const { return folder_ + "/" + kSettingsFileName; }
+
+void Shell::run(const Command& command) {
+  if (!command.run) return;
+  guarded(std::string(command.control) + "_Click", [&] { command.run(*this, command.index); });
+}
+
+void Shell::runToolbar(const ToolbarButton& button) {
+  state_.picDisp.clearDrawing();
+  display_.changed(DisplayPart::EditingArea);
+  if (const Command* command = findCommand(button.control, button.commandIndex)) run(*command);
+}
+
+void Shell::ShowRunTimeError(const std::string& name, const std::string& description) {
+  // The number is the platform's general one: the causes are told by the description.
+  constexpr int kGeneralError = 5;
+  ports_.boxes.tell(name + "\n" + std::to_string(kGeneralError) + "     " + description, BoxIcon::Exclamation);
+}
+
+// The Editor's calls, each handed to its owner.
+
+void Shell::ClearContainer() { gp::ClearContainer(state_); }
+void Shell::CommitPendingPaint() { iconsPanel_.CommitPendingPaint(); }
+void Shell::EndToolAction() { iconsPanel_.EndToolAction(); }
+void Shell::SwitchContainer(int container) { iconsPanel_.SwitchContainer(container); }
+void Shell::SizeEditSurfaces(int size) { editingArea_.SizeEditSurfaces(size); }
+void Shell::SizePanelSurfaces(int size) { editingArea_.SizePanelSurfaces(size); }
+void Shell::ComposeCurrentIcon() { editingArea_.ComposeCurrentIcon(); }
+void Shell::UpdatePanelFromCurrent() { editingArea_.UpdatePanelFromCurrent(); }
+void Shell::MagnifyIcon() { editingArea_.MagnifyIcon(); }
+void Shell::ShowCurrentIcon() { editingArea_.ShowCurrentIcon(); }
+void Shell::RefreshStatusBar() { editingArea_.RefreshStatusBar(); }
+void Shell::ClearStatusBar() { editingArea_.ClearStatusBar(); }
+void Shell::chooseColorChart() { colors_.chooseColorChart(); }
+void Shell::showChart16() { colors_.imgGet16ColorChart(); }
+void Shell::deselectColorPicker() { colors_.deselectPicker(); }
+bool Shell::isColorPickerSelected() const { return colors_.isPickerSelected(); }
+void Shell::clearAllTools() { tools_.clearAllTools(); }
+void Shell::selectTool(int tool) { tools_.selectTool(tool); }
+int Shell::selectedTool() const { return tools_.selectedTool(); }
+void Shell::doOpenIconFile(const std::string& path, bool useBrowser, bool& ok) {
+  iconFiles_.doOpenIconFile(path, useBrowser, ok);
+}
+void Shell::doOpenIconFileQuietly(const std::string& path, bool& ok) { iconFiles_.doOpenIconFileQuietly(path, ok); }
+void Shell::AskSaveCurrent(const std::string& message, bool& proceed) { iconSaver_.AskSaveCurrent(message, proceed); }
+void Shell::UpdateCommands() { display_.changed(DisplayPart::Commands); }
+
+int Shell::colorBitCountOfImage() const {
+  int count = 0;
+  GetColorBitCount_Image(state_.picImage, count);
+  return count;
+}
+
+void Shell::clearRegion() {
+  state_.picDisp.clearDrawing();
+  state_.mRegionActive = false;
+  state_.mRegionExists = false;
+  display_.changed(DisplayPart::EditingArea);
+}
+
+// No step is kept yet, so Undo and Redo stay disabled; callers already tell where steps end.
+void Shell::recordUndo() { UpdateCommands(); }
+void Shell::clearUndoHistory() { UpdateCommands(); }
+
+void Shell::showPanel(int panel) {
+  state_.screen.mActivePanel = panel;
+  tools_.clearAllTools();
+  display_.changed(DisplayPart::Panel);
+  UpdateCommands();
+}
+
+void Shell::closePanels() {
+  if (state_.screen.mActivePanel != kColorPanel) showPanel(kColorPanel);
+}
+
+void Shell::AddHistory(const std::string& path) {
+  fileHistory_.add(path);
+  display_.changed(DisplayPart::History);
+}
+
+}  // namespace gp

@@ -1,0 +1,95 @@
+// The life of the main form: Load, the first Activate, Resize and QueryUnload.
+#include "document/Containers.h"
+#include "shell/CommandLine.h"
+#include "shell/FormPlacement.h"
+#include "shell/Shell.h"
+#include "shell/UnsavedQuestion.h"
+
+namespace gp {
+
+void Shell::formLoad() {
+  state_.mInLoad = true;
+  resetToDefault();
+  for (state_.mCurContainer = 0; state_.mCurContainer < kContainerCount; ++state_.mCurContainer) {
+    gp::ClearContainer(state_);
+    state_.current().seq = static_cast<std::int16_t>(state_.mCurContainer);
+  }
+  state_.mCurContainer = 0;
+  placeForm();
+  state_.process.mLastFolder = settings_.GetLastFolder();
+  if (state_.process.mLastFolder.empty()) state_.process.mLastFolder = folder_;
+  state_.process.mDesktopFolder = ports_.system.desktopDirectory();
+  state_.gAlphaValues = AlphaMatrix();
+  state_.mAlphaRecs.fill(AlphaMatrix());
+  state_.mInLoad = false;
+}
+
+void Shell::placeForm() {
+  StoredPlace stored;
+  settings_.GetScreenPos(stored);
+  start_ =
+      startOfForm(stored, ports_.system.screenWidth() * kTwipsPerPixel, ports_.system.screenHeight() * kTwipsPerPixel);
+  if (form_) form_->setPlace(start_.place());
+}
+
+void Shell::formActivate(const std::string& commandLine) {
+  if (!mFirstActivate) return;
+  mFirstActivate = false;
+  if (settings_.LoadOptions()) {
+    fileHistory_.load();
+    aniHistory_.load();
+  }
+  editingArea_.SetGrid(state_.options.grid);
+  state_.screen.pixelRgbVisible = state_.options.displayPixelRgb;
+  showEmptyStart();
+  guarded("Form_Activate", [&] { openCommandLineFile(commandLine); });
+  applyStartScreen();
+}
+
+void Shell::showEmptyStart() {
+  state_.screen.fraTools = {true, false};
+  iconsPanel_.showEmptyContainer();
+  for (DisplayPart part : {DisplayPart::History, DisplayPart::Readouts, DisplayPart::ColorPanel, DisplayPart::Panel})
+    display_.changed(part);
+  UpdateCommands();
+  ports_.pump.pump();
+}
+
+void Shell::openCommandLineFile(const std::string& commandLine) {
+  const CommandLineFile file = readCommandLine(commandLine);
+  state_.process.mCommandFile = file.path;
+  if (file.kind == CommandLineKind::Missing) ports_.boxes.tell(fileNotFoundText(file.path), BoxIcon::Exclamation);
+  if (file.kind != CommandLineKind::Ico) return;
+  bool ok = false;
+  doOpenIconFile(file.path, false, ok);
+  if (ok) colors_.chooseColorChart();
+}
+
+void Shell::applyStartScreen() {
+  if (!form_) return;
+  const FormPlace before = form_->place();
+  const FormPlace place = gp::applyStartScreen(before, static_cast<StartScreen>(state_.options.startScreen), start_);
+  if (place.maximized && !before.maximized)
+    form_->maximize();
+  else if (place.width != before.width || place.height != before.height)
+    form_->setPlace(place);
+}
+
+void Shell::formResize(int dispContainerWidth, int dispContainerHeight) {
+  if (!state_.mInLoad) editingArea_.setRoom(dispContainerWidth, dispContainerHeight);
+}
+
+void Shell::saveScreenPos(const FormPlace& place) {
+  if (!place.minimized) settings_.SaveScreenPos(place.left, place.top, place.width, place.height, place.maximized);
+}
+
+bool Shell::queryUnload() {
+  const std::string question = unsavedQuestion(state_);
+  if (!question.empty() && !ports_.boxes.ask(question)) return false;
+  if (form_) saveScreenPos(form_->place());
+  settings_.SaveOptions();
+  settings_.SaveLastFolder(state_.process.mLastFolder);
+  return true;
+}
+
+}  // namespace gp

@@ -1,0 +1,265 @@
+#include "document/EditingArea.h"
+#include "document/IconsPanel.h"
+#include "support/FakeEditor.h"
+#include "support/ScriptedPorts.h"
+
+#include <gtest/gtest.h>
+
+namespace gp {
+namespace {
+
+using test::FakeEditor;
+using test::RecordingDisplay;
+using test::ScriptedPump;
+
+// A FakeEditor whose display operations are real, and whose quiet loader does what a test says.
+class PanelEditor : public FakeEditor {
+ public:
+  EditingArea* area = nullptr;
+  std::function<bool()> quietLoader;
+
+  void ComposeCurrentIcon() override { area->ComposeCurrentIcon(); }
+  void UpdatePanelFromCurrent() override { FakeEditor::UpdatePanelFromCurrent(), area->UpdatePanelFromCurrent(); }
+  void ShowCurrentIcon() override { FakeEditor::ShowCurrentIcon(), area->ShowCurrentIcon(); }
+  void doOpenIconFileQuietly(const std::string& path, bool& ok) override {
+    FakeEditor::doOpenIconFileQuietly(path, ok);
+    ok = quietLoader();
+  }
+};
+
+class IconsPanelTest : public testing::Test {
+ protected:
+  IconsPanelTest() { editor.area = &area; }
+
+  EditState state;
+  PanelEditor editor;
+  RecordingDisplay display;
+  ScriptedPump pump;
+  EditingArea area{state, editor, display, pump};
+  IconsPanel panel{state, editor, area, display, pump};
+
+  // Puts an opaque icon of one colour on the Editing Area and into a container.
+  void loadInto(int container, int size, Color color) {
+    state.mCurContainer = container;
+    state.current().used = state.current().present = true;
+    state.current().size = static_cast<std::int16_t>(size);
+    area.SizeEditSurfaces(size);
+    area.SizePanelSurfaces(size);
+    state.picImage.fill(color);
+    state.picMask.fill(kBlack);
+    area.ComposeCurrentIcon();
+    area.UpdatePanelFromCurrent();
+  }
+  std::string regionReadout() const { return state.screen.lblDispXY[static_cast<std::size_t>(Readout::Region)]; }
+};
+
+TEST_F(IconsPanelTest, SwitchingShowsTheIconOfTheOtherContainer) {
+  loadInto(0, 32, 0x0000FF);
+  loadInto(1, 48, 0x00FF00);
+  panel.SwitchContainer(0);
+  EXPECT_EQ(state.mCurContainer, 0);
+  EXPECT_EQ(state.picImage.width(), 32);
+  EXPECT_EQ(state.PicIcon.GetPixel(3, 3), 0x0000FF);
+  EXPECT_EQ(state.picDisp.width(), 384);
+  EXPECT_TRUE(state.current().present);
+}
+
+TEST_F(IconsPanelTest, SwitchingWithTheOptionOffNeverAsksAndKeepsTheChangedIconFlagged) {
+  loadInto(0, 32, 0x0000FF);
+  state.picImage.fill(0x123456);
+  state.current().modified = true;
+  panel.SwitchContainer(1);
+  EXPECT_EQ(editor.count("AskSaveCurrent (To remove Reminder, untick the related Option submenu)"), 0);
+  EXPECT_EQ(state.picPanelImage[0].GetPixel(0, 0), 0x123456);
+  EXPECT_TRUE(state.mIconRecs[0].modified);
+  panel.SwitchContainer(0);
+  EXPECT_EQ(state.picImage.GetPixel(0, 0), 0x123456);
+}
+
+TEST_F(IconsPanelTest, SwitchingWithTheOptionOnAsksOnlyForAChangedIcon) {
+  loadInto(0, 32, 0x0000FF);
+  state.options.promptToSave = true;
+  panel.SwitchContainer(1);
+  EXPECT_EQ(editor.count("AskSaveCurrent (To remove Reminder, untick the related Option submenu)"), 0);
+  panel.SwitchContainer(0);
+  state.current().neverSaved = true;
+  panel.SwitchContainer(1);
+  EXPECT_EQ(editor.count("AskSaveCurrent (To remove Reminder, untick the related Option submenu)"), 1);
+}
+
+TEST_F(IconsPanelTest, ARefusedSaveDuringASwitchLeavesTheFormerContainerCurrent) {
+  loadInto(0, 32, 0x0000FF);
+  state.options.promptToSave = true;
+  state.current().modified = true;
+  state.picImage.fill(0x123456);
+  editor.askSaveProceeds = false;
+  panel.SwitchContainer(1);
+  EXPECT_EQ(state.mCurContainer, 0);
+  EXPECT_EQ(state.picImage.GetPixel(0, 0), 0x123456);
+  EXPECT_EQ(state.picPanelImage[0].GetPixel(0, 0), 0x0000FF);
+}
+
+TEST_F(IconsPanelTest, SwitchingToAClearedContainerShowsAnEmptyEditingAreaOf32Pixels) {
+  loadInto(0, 48, 0x0000FF);
+  panel.SwitchContainer(2);
+  EXPECT_EQ(state.picDisp.width(), 32 * state.gMagnification);
+  EXPECT_EQ(state.gMagnification, 12);
+  EXPECT_EQ(state.picDisp.GetPixel(5, 5), kGround);
+  EXPECT_FALSE(state.screen.fraTools[1]);
+  EXPECT_EQ(state.current().size, 32);
+  EXPECT_FALSE(state.current().present);
+  EXPECT_EQ(editor.count("showChart16"), 1);
+  EXPECT_EQ(editor.count("ClearStatusBar"), 1);
+}
+
+TEST_F(IconsPanelTest, SwitchingResetsTheUndoHistoryToABaseline) {
+  loadInto(0, 32, 0x0000FF);
+  loadInto(1, 32, 0x00FF00);
+  panel.SwitchContainer(0);
+  EXPECT_EQ(editor.count("clearUndoHistory"), 1);
+  EXPECT_EQ(editor.count("recordUndo"), 1);
+}
+
+TEST_F(IconsPanelTest, InTheIconsListTheIconIsChosenButNotShown) {
+  loadInto(0, 32, 0x0000FF);
+  loadInto(1, 32, 0x00FF00);
+  state.screen.mActivePanel = 1;
+  panel.SwitchContainer(0);
+  EXPECT_EQ(state.mCurContainer, 0);
+  EXPECT_EQ(state.picImage.GetPixel(0, 0), 0x00FF00);
+  EXPECT_EQ(editor.count("closePanels"), 0);
+}
+
+TEST_F(IconsPanelTest, SwitchingClosesAnOpenSidePanel) {
+  loadInto(0, 32, 0x0000FF);
+  state.screen.mActivePanel = 7;
+  panel.SwitchContainer(1);
+  EXPECT_EQ(editor.count("closePanels"), 1);
+}
+
+TEST_F(IconsPanelTest, TheAlphaValuesFollowTheContainer) {
+  loadInto(0, 16, 0x0000FF);
+  state.mAlphaRecs[0] = AlphaMatrix(16, 16, 77);
+  loadInto(1, 16, 0x00FF00);
+  panel.SwitchContainer(0);
+  EXPECT_EQ(state.gAlphaValues.at(15, 15), 77);
+}
+
+TEST_F(IconsPanelTest, AnIconWithAlphaFlashesItsIndicatorTwice) {
+  loadInto(0, 16, 0x0000FF);
+  state.current().hasAlpha = true;
+  loadInto(1, 16, 0x00FF00);
+  panel.SwitchContainer(0);
+  EXPECT_GE(pump.waitedMilliseconds, 200);
+  EXPECT_TRUE(state.screen.imgAlphaOnStatusPanel);
+}
+
+TEST_F(IconsPanelTest, ARightClickEndsTheIconsListAndShowsTheContainer) {
+  loadInto(0, 32, 0x0000FF);
+  loadInto(1, 32, 0x00FF00);
+  panel.PanelRightClick(0);
+  EXPECT_EQ(state.PicIcon.GetPixel(0, 0), 0x0000FF);
+  EXPECT_EQ(editor.count("closePanels"), 0);
+  state.screen.mActivePanel = 1;
+  panel.PanelRightClick(0);
+  EXPECT_EQ(editor.count("closePanels"), 1);
+}
+
+TEST_F(IconsPanelTest, EndingAToolActionClearsOverlayReadoutAndFlags) {
+  loadInto(0, 32, 0x0000FF);
+  state.picDisp.makePersistent();
+  state.picDisp.SetPixelV(5, 5, 0x00FF00);
+  state.screen.lblDispXY[2] = "Region";
+  state.mPendingPaint = state.mRegionActive = true;
+  panel.EndToolAction();
+  EXPECT_NE(state.picDisp.GetPixel(5, 5), 0x00FF00);
+  EXPECT_EQ(regionReadout(), "");
+  EXPECT_FALSE(state.mPendingPaint);
+  EXPECT_FALSE(state.mRegionActive);
+}
+
+TEST_F(IconsPanelTest, EndingAToolActionDoesNothingInAnEmptyContainer) {
+  state.mPendingPaint = true;
+  state.screen.lblDispXY[2] = "Region";
+  panel.EndToolAction();
+  EXPECT_TRUE(state.mPendingPaint);
+  EXPECT_EQ(regionReadout(), "Region");
+}
+
+TEST_F(IconsPanelTest, CommittingAPendingActionClicksTheCurrentContainer) {
+  loadInto(0, 32, 0x0000FF);
+  panel.CommitPendingPaint();
+  EXPECT_EQ(editor.count("ShowCurrentIcon"), 0);
+  state.mPendingPaint = true;
+  panel.CommitPendingPaint();
+  EXPECT_EQ(editor.count("ShowCurrentIcon"), 1);
+  EXPECT_FALSE(state.mPendingPaint);
+}
+
+TEST_F(IconsPanelTest, OnlyAFirstNameThatEndsInIcoMayBeDropped) {
+  EXPECT_TRUE(panel.PanelDragOver({"a.ico"}));
+  EXPECT_TRUE(panel.PanelDragOver({"/x/B.IcO", "c.bmp"}));
+  EXPECT_FALSE(panel.PanelDragOver({".ico"}));
+  EXPECT_FALSE(panel.PanelDragOver({"a.bmp", "b.ico"}));
+  EXPECT_FALSE(panel.PanelDragOver({}));
+}
+
+TEST_F(IconsPanelTest, ADropOpensTheFirstFileIntoTheContainerWithoutAQuestion) {
+  loadInto(0, 32, 0x0000FF);
+  state.current().modified = true;
+  editor.quietLoader = [this] {
+    EXPECT_EQ(state.mCurContainer, 4);
+    loadInto(4, 24, 0xFF0000);
+    return true;
+  };
+  panel.PanelDrop(4, {"/a/b.ico", "/a/c.ico"});
+  EXPECT_EQ(editor.count("doOpenIconFileQuietly /a/b.ico"), 1);
+  EXPECT_EQ(state.mCurContainer, 4);
+  EXPECT_EQ(state.PicIcon.GetPixel(1, 1), 0xFF0000);
+  EXPECT_TRUE(state.mIconRecs[0].modified);
+  EXPECT_EQ(editor.count("chooseColorChart"), 2);
+}
+
+TEST_F(IconsPanelTest, ADropOfABitmapIsRefused) {
+  loadInto(0, 32, 0x0000FF);
+  panel.PanelDrop(1, {"/a/b.bmp"});
+  EXPECT_EQ(editor.count("doOpenIconFileQuietly /a/b.bmp"), 0);
+  EXPECT_EQ(state.mCurContainer, 0);
+}
+
+TEST_F(IconsPanelTest, AFailedDropLeavesTheFormerIconOnTheEditingAreaWithItsChanges) {
+  loadInto(0, 32, 0x0000FF);
+  state.picImage.SetPixelV(9, 9, 0x00FF00);
+  area.ComposeCurrentIcon();
+  state.current().modified = true;
+  // A loader that fails after it has wiped the Surfaces.
+  editor.quietLoader = [this] {
+    area.SizeEditSurfaces(48);
+    return false;
+  };
+  panel.PanelDrop(3, {"/a/broken.ico"});
+  EXPECT_EQ(state.mCurContainer, 0);
+  EXPECT_EQ(state.picImage.width(), 32);
+  EXPECT_EQ(state.picImage.GetPixel(9, 9), 0x00FF00);
+  EXPECT_TRUE(state.current().modified);
+}
+
+TEST_F(IconsPanelTest, ADropThatFailsAtOnceKeepsTheUndoHistory) {
+  loadInto(0, 32, 0x0000FF);
+  editor.quietLoader = [] { return false; };
+  panel.PanelDrop(3, {"/a/none.ico"});
+  EXPECT_EQ(editor.count("clearUndoHistory"), 0);
+  EXPECT_EQ(state.mCurContainer, 0);
+}
+
+TEST_F(IconsPanelTest, UpdatingThePanelTakesTheIconAndMakesABaseline) {
+  loadInto(0, 32, 0x0000FF);
+  state.picImage.SetPixelV(0, 0, 0x00FF00);
+  panel.updateFromCurrent();
+  EXPECT_EQ(state.picPanelImage[0].GetPixel(0, 0), 0x00FF00);
+  EXPECT_EQ(editor.count("clearUndoHistory"), 1);
+  EXPECT_EQ(editor.count("recordUndo"), 1);
+}
+
+}  // namespace
+}  // namespace gp
