@@ -60,17 +60,23 @@ std::span<const SheetEntry> entriesOf(const unsigned char* sheet) {
   return {reinterpret_cast<const SheetEntry*>(sheet + sizeof header), header.count};
 }
 
-std::string_view nameOf(const SheetEntry& entry) { return entry.name; }
+struct ByName {
+  bool operator()(const SheetEntry& entry, std::string_view name) const { return entry.name < name; }
+  bool operator()(std::string_view name, const SheetEntry& entry) const { return name < entry.name; }
+};
 
 // All sizes of one picture in a sheet, smallest first.
 std::span<const SheetEntry> entriesOf(const unsigned char* sheet, std::string_view name) {
-  return std::ranges::equal_range(entriesOf(sheet), name, {}, nameOf);
+  const std::span<const SheetEntry> all = entriesOf(sheet);
+  const auto [first, last] = std::equal_range(all.begin(), all.end(), name, ByName());
+  return {first, last};
 }
 
 // The pixels where they stand: no copy.
 QImage viewOf(const unsigned char* sheet, const SheetEntry& entry) {
   const int size = static_cast<int>(entry.size);
-  return QImage(sheet + entry.offset, size, size, size * 4, QImage::Format_ARGB32_Premultiplied);
+  const auto rowBytes = static_cast<qsizetype>(sizeof(QRgb)) * size;
+  return QImage(sheet + entry.offset, size, size, rowBytes, QImage::Format_ARGB32_Premultiplied);
 }
 
 struct Choice {
@@ -105,7 +111,7 @@ Choice choose(std::string_view name, int pixels, Theme theme) {
 QImage imageOf(std::string_view name, int pixels, Theme theme) {
   const Choice choice = choose(name, pixels, theme);
   if (!choice.entry || pixels <= 0) return {};
-  const QImage view = viewOf(choice.sheet, *choice.entry);
+  QImage view = viewOf(choice.sheet, *choice.entry);
   if (view.width() == pixels) return view;
   return view.scaled(pixels, pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
