@@ -2,11 +2,11 @@
 // a form of the program and is handed in.
 #pragma once
 
+#include "platform/ports/FileDialogs.h"
+
 #include <functional>
 #include <memory>
 #include <string>
-
-#include "platform/ports/FileDialogs.h"
 
 class QFileDialog;
 class QPrinter;

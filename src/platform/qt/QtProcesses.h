@@ -2,9 +2,9 @@
 // drops the lock with the process, however it ends, so that none is ever left behind by a crash.
 #pragma once
 
-#include <string>
-
 #include "platform/ports/SystemInfo.h"
+
+#include <string>
 
 namespace gp {
 

@@ -1,0 +1,125 @@
+#include "platform/qt/QtFileDialogs.h"
+
+#include "platform/files/Files.h"
+#include "platform/qt/PathText.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QFile>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+
+namespace gp {
+namespace {
+
+constexpr int kCustomColors = 16;
+constexpr const char* kAllFiles = "*.*";
+
+// A pattern list such as "*.ico;*.cur" as Qt takes it; "*.*" means names without a dot too.
+QString qtPatterns(const std::string& pattern) {
+  if (pattern.empty() || pattern == kAllFiles) return QStringLiteral("*");
+  return toText(pattern).replace(u';', u' ');
+}
+
+// Qt reads the patterns out of the last brackets, where descriptions have them anyway: "Icon files (*.ico)".
+QString qtFilter(const FileFilter& filter) {
+  QString description = toText(filter.description);
+  const qsizetype bracket = description.lastIndexOf(u'(');
+  if (bracket >= 0 && description.endsWith(u')')) description.truncate(bracket);
+  return description.trimmed() + QStringLiteral(" (") + qtPatterns(filter.pattern) + u')';
+}
+
+QStringList qtFilters(const std::vector<FileFilter>& filters) {
+  QStringList result;
+  for (const FileFilter& filter : filters) result << qtFilter(filter);
+  return result;
+}
+
+void prepare(QFileDialog& dialog, const FileDialogRequest& request) {
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
+  if (!request.title.empty()) dialog.setWindowTitle(toText(request.title));
+  dialog.setDirectory(request.folder.empty() ? QDir::currentPath() : pathToText(request.folder));
+  if (!request.filters.empty()) dialog.setNameFilters(qtFilters(request.filters));
+  if (!request.defaultExtension.empty()) dialog.setDefaultSuffix(toText(request.defaultExtension));
+  if (!request.fileName.empty()) dialog.selectFile(pathToText(request.fileName));
+}
+
+// Qt asks before it replaces a file, but does not find one whose name is no UTF-8.
+bool mayReplace(QFileDialog& dialog, const FileDialogRequest& request, const std::string& path) {
+  const bool qtAsked = QFile::encodeName(pathToText(path)).toStdString() == path;
+  if (!(request.flags & kFileOverwritePrompt) || qtAsked || !FileExists(path)) return true;
+  return QMessageBox::question(&dialog, dialog.windowTitle(),
+                               QFileDialog::tr("%1 already exists.\nDo you want to replace it?").arg(pathToText(path)),
+                               QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+bool run(QFileDialog& dialog, std::string& path, int& error) {
+  error = 0;
+  path.clear();
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;
+  path = textToPath(dialog.selectedFiles().constFirst());
+  return !path.empty();
+}
+
+}  // namespace
+
+QtFileDialogs::QtFileDialogs(FolderChooser folderChooser) : folderChooser_(std::move(folderChooser)) {}
+
+QtFileDialogs::~QtFileDialogs() = default;
+
+void QtFileDialogs::prepareOpen(QFileDialog& dialog, const FileDialogRequest& request) {
+  dialog.setAcceptMode(QFileDialog::AcceptOpen);
+  dialog.setFileMode(request.flags & kFileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+  prepare(dialog, request);
+}
+
+void QtFileDialogs::prepareSave(QFileDialog& dialog, const FileDialogRequest& request) {
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite, !(request.flags & kFileOverwritePrompt));
+  prepare(dialog, request);
+}
+
+bool QtFileDialogs::openFile(const FileDialogRequest& request, std::string& path, int& error) {
+  QFileDialog dialog(QApplication::activeWindow());
+  prepareOpen(dialog, request);
+  return run(dialog, path, error);
+}
+
+bool QtFileDialogs::saveFile(const FileDialogRequest& request, std::string& path, int& error) {
+  QFileDialog dialog(QApplication::activeWindow());
+  prepareSave(dialog, request);
+  bool chosen = run(dialog, path, error);
+  while (chosen && !mayReplace(dialog, request, path)) chosen = run(dialog, path, error);
+  return chosen;
+}
+
+bool QtFileDialogs::chooseColor(Color& color) {
+  QColorDialog dialog(QColor(redOf(color), greenOf(color), blueOf(color)), QApplication::activeWindow());
+  dialog.setOption(QColorDialog::DontUseNativeDialog);
+  for (int i = 0; i < kCustomColors; ++i) QColorDialog::setCustomColor(i, Qt::white);
+  if (dialog.exec() != QDialog::Accepted) return false;
+  const QColor chosen = dialog.selectedColor();
+  color = rgb(chosen.red(), chosen.green(), chosen.blue());
+  return true;
+}
+
+bool QtFileDialogs::choosePrinter(PrinterRequest& request) {
+  auto printer = std::make_unique<QPrinter>();
+  printer->setCopyCount(request.copies);
+  QPrintDialog dialog(printer.get(), QApplication::activeWindow());
+  dialog.setOption(QPrintDialog::PrintSelection, false);
+  dialog.setOption(QPrintDialog::PrintPageRange, request.flags & kPrintPageNumbers);
+  if (dialog.exec() != QDialog::Accepted) return false;
+  request.copies = printer->copyCount();
+  printer_ = std::move(printer);
+  return true;
+}
+
+std::string QtFileDialogs::chooseFolder(const std::string& pattern, const std::string& startFolder) {
+  return folderChooser_(pattern, startFolder);
+}
+
+}  // namespace gp

@@ -1,0 +1,90 @@
+#include "platform/qt/QtMessageBoxes.h"
+
+#include "platform/qt/PathText.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace gp {
+namespace {
+
+QMessageBox::StandardButtons standardButtons(BoxButtons buttons) {
+  switch (buttons) {
+    case BoxButtons::YesNo:
+      return QMessageBox::Yes | QMessageBox::No;
+    case BoxButtons::YesNoCancel:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case BoxButtons::Ok:
+      break;
+  }
+  return QMessageBox::Ok;
+}
+
+QMessageBox::StandardButton standardButton(BoxAnswer answer) {
+  switch (answer) {
+    case BoxAnswer::Yes:
+      return QMessageBox::Yes;
+    case BoxAnswer::No:
+      return QMessageBox::No;
+    case BoxAnswer::Cancel:
+      return QMessageBox::Cancel;
+    case BoxAnswer::Ok:
+      break;
+  }
+  return QMessageBox::Ok;
+}
+
+QMessageBox::Icon standardIcon(BoxIcon icon) {
+  switch (icon) {
+    case BoxIcon::Information:
+      return QMessageBox::Information;
+    case BoxIcon::Question:
+      return QMessageBox::Question;
+    case BoxIcon::Exclamation:
+      return QMessageBox::Warning;
+    case BoxIcon::None:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+// What Escape and the window's close button mean.
+BoxAnswer escapeAnswer(BoxButtons buttons) {
+  switch (buttons) {
+    case BoxButtons::YesNo:
+      return BoxAnswer::No;
+    case BoxButtons::YesNoCancel:
+      return BoxAnswer::Cancel;
+    case BoxButtons::Ok:
+      break;
+  }
+  return BoxAnswer::Ok;
+}
+
+BoxAnswer answerOf(int button, BoxButtons buttons) {
+  for (const BoxAnswer answer : {BoxAnswer::Ok, BoxAnswer::Yes, BoxAnswer::No, BoxAnswer::Cancel}) {
+    if (standardButton(answer) == button) return answer;
+  }
+  return escapeAnswer(buttons);
+}
+
+}  // namespace
+
+void QtMessageBoxes::prepare(QMessageBox& box, const std::string& text, BoxButtons buttons, BoxIcon icon,
+                             BoxAnswer suggested) {
+  box.setWindowTitle(toText(kProgramName));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(toText(text));
+  box.setIcon(standardIcon(icon));
+  box.setStandardButtons(standardButtons(buttons));
+  box.setDefaultButton(standardButton(suggested));
+  box.setEscapeButton(standardButton(escapeAnswer(buttons)));
+}
+
+BoxAnswer QtMessageBoxes::show(const std::string& text, BoxButtons buttons, BoxIcon icon, BoxAnswer suggested) {
+  QMessageBox box(QApplication::activeWindow());
+  prepare(box, text, buttons, icon, suggested);
+  return answerOf(box.exec(), buttons);
+}
+
+}  // namespace gp
