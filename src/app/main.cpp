@@ -1,0 +1,52 @@
+// The desktop program: makes the ports, the shell and the main form, and nothing else.
+#include "platform/files/Files.h"
+#include "platform/qt/Accessibility.h"
+#include "platform/qt/QtFileDialogs.h"
+#include "platform/qt/QtMessageBoxes.h"
+#include "platform/qt/QtMessagePump.h"
+#include "platform/qt/QtProcesses.h"
+#include "platform/qt/QtSystemInfo.h"
+#include "shell/Shell.h"
+#include "shell/StartUp.h"
+#include "shell/ui/QtDisplay.h"
+#include "shell/ui/frmGPEdit.h"
+
+#include <QApplication>
+#include <QFile>
+
+#include <string>
+
+namespace {
+
+// A file name need not be text, so it is taken as the system gave it.
+std::string commandLineOf(int argc, char** argv) { return argc > 1 ? argv[1] : ""; }
+
+int run(QApplication& application, const std::string& commandLine) {
+  gp::QtMessageBoxes boxes;
+  gp::QtFileDialogs dialogs([](const std::string&, const std::string&) { return std::string(); });
+  gp::QtMessagePump pump;
+  gp::QtSystemInfo system;
+  gp::QtProcesses processes;
+  const std::string folder = gp::programFolder();
+
+  gp::EditState state;
+  if (!gp::runStartUpChecks(system, processes, boxes, state, folder)) return 0;
+
+  gp::QtDisplay display;
+  gp::Shell shell(state, {boxes, dialogs, pump, system, processes}, display, folder);
+  gp::frmGPEdit form(shell, display, commandLine);
+  shell.formLoad();
+  form.show();
+  return application.exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  // The menu bar stands in the form on every desktop; asking for another place costs a round trip at start.
+  QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(gp::kProgramName);
+  gp::installAccessibility();
+  return run(application, commandLineOf(argc, argv));
+}

@@ -1,0 +1,48 @@
+// fraPanel(0), the colour panel: current colour, screen colour, brush, and one of the two charts or the direct entry.
+// All frames keep their places, so that changing between the charts moves nothing.
+#pragma once
+
+#include <QWidget>
+
+class QAbstractButton;
+class QComboBox;
+class QStackedLayout;
+
+namespace gp {
+
+class ColorSelection;
+class DirectEntryView;
+enum class ChartKind;
+struct EditState;
+
+class ColorPanel : public QWidget {
+  Q_OBJECT
+
+ public:
+  ColorPanel(QWidget* parent, const EditState& state, ColorSelection& colors);
+
+  // Frames, current colour, direct entry and brush.
+  void refresh();
+  void focusColorValue();
+
+ signals:
+  void brushChosen(int index);
+
+ private:
+  QWidget* makeTopRow();
+  QWidget* makeBrushFrame();
+  QWidget* makeColorFrame();
+  QWidget* makeScreenColorFrame();
+  QWidget* makeChartFrame(ChartKind chart);
+  QWidget* makeButtonRow();
+
+  const EditState& state_;
+  ColorSelection& colors_;
+  QComboBox* cboBrushSize_ = nullptr;
+  QAbstractButton* picColorToUse_ = nullptr;
+  QStackedLayout* frames_ = nullptr;
+  DirectEntryView* frameDirect_ = nullptr;
+  QWidget* fraColorMixer_ = nullptr;
+};
+
+}  // namespace gp

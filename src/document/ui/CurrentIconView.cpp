@@ -1,0 +1,28 @@
+#include "document/ui/CurrentIconView.h"
+
+#include "document/ui/SurfacePainting.h"
+
+namespace gp {
+namespace {
+
+constexpr int kSide = 48 + 2;  // the largest icon and an outline, pixels
+
+}  // namespace
+
+CurrentIconView::CurrentIconView(QWidget* parent, const EditState& state) : QWidget(parent), state_(state) {
+  setObjectName("PicIcon");
+  setAccessibleName("Current icon");
+  setFixedSize(kSide, kSide);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void CurrentIconView::paintEvent(QPaintEvent*) {
+  DevicePainter painter(this);
+  const QRect whole = painter.toDevice(rect());
+  painter.fillRect(whole, palette().color(QPalette::Mid));
+  const QRect inside = whole.adjusted(1, 1, -1, -1);
+  painter.fillRect(inside, QColor(toRgb(kGround)));
+  paintCentred(painter, state_.PicIcon, inside, devicePixelRatioF());
+}
+
+}  // namespace gp

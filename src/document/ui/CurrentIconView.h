@@ -1,0 +1,23 @@
+// PicIcon: the Current Icon as others will see it, one device-independent pixel for each of its own.
+#pragma once
+
+#include "document/EditState.h"
+
+#include <QWidget>
+
+namespace gp {
+
+class CurrentIconView : public QWidget {
+  Q_OBJECT
+
+ public:
+  CurrentIconView(QWidget* parent, const EditState& state);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  const EditState& state_;
+};
+
+}  // namespace gp

@@ -1,0 +1,87 @@
+// The column of the six containers with their labels, and the button that copies the Current Icon to its container.
+// Tells of clicks, right clicks and dropped files; what they do is others' business.
+#pragma once
+
+#include "document/EditState.h"
+#include "document/IconsPanel.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace gp {
+
+// picPanelIcon(i).
+class ContainerButton : public QAbstractButton {
+  Q_OBJECT
+
+ public:
+  ContainerButton(QWidget* parent, int container, const EditState& state, const IconsPanel& panel);
+  void refresh();
+  QSize sizeHint() const override;
+
+ signals:
+  void rightReleased();
+  void filesDropped(std::vector<std::string> files);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  bool isCurrent() const { return state_.mCurContainer == container_; }
+
+  const int container_;
+  const EditState& state_;
+  const IconsPanel& panel_;
+};
+
+// lblPanelIcon(i).
+class ContainerLabel : public QLabel {
+  Q_OBJECT
+
+ public:
+  ContainerLabel(QWidget* parent, int container);
+  void setCurrent(bool current);
+
+ signals:
+  void released(Qt::MouseButton button);
+
+ protected:
+  void mousePressEvent(QMouseEvent*) override {}
+  void mouseReleaseEvent(QMouseEvent* event) override;
+};
+
+class IconsPanelView : public QWidget {
+  Q_OBJECT
+
+ public:
+  IconsPanelView(QWidget* parent, const EditState& state, const IconsPanel& panel);
+
+  // The containers' icons or the current one changed.
+  void refresh();
+
+ signals:
+  void containerChosen(int container);
+  void containerRightClicked(int container);
+  void filesDropped(int container, std::vector<std::string> files);
+  void updateRequested();  // imgUpdIconsPanel
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void addContainer(int container, const IconsPanel& panel);
+
+  const EditState& state_;
+  std::array<ContainerButton*, kContainerCount> picPanelIcon_{};
+  std::array<ContainerLabel*, kContainerCount> lblPanelIcon_{};
+};
+
+}  // namespace gp

@@ -1,0 +1,40 @@
+#include "document/ui/ReadoutsView.h"
+
+#include "platform/qt/PathText.h"
+#include "platform/qt/widgets/TextCell.h"
+
+#include <QHBoxLayout>
+
+namespace gp {
+namespace {
+
+struct Cell {
+  const char* name;
+  const char* widest;  // the longest text it shows; the last cell takes the rest of the row
+};
+
+constexpr std::array<Cell, kReadoutCount> kCells = {
+    {{"Position", "X=48  Y=48 "}, {"Color of pixel", "RGB: 255, 255, 255 "}, {"Region", ""}}};
+
+}  // namespace
+
+ReadoutsView::ReadoutsView(QWidget* parent, const EditState& state) : QWidget(parent), state_(state) {
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(0);
+  for (std::size_t i = 0; i < kCells.size(); ++i) {
+    auto* cell = new TextCell(this, QString("lblDispXY(%1)").arg(i), kCells[i].name);
+    cell->setText(kCells[i].widest);
+    cell->setMinimumSize(cell->sizeHint());
+    row->addWidget(cell, i + 1 == kCells.size() ? 1 : 0);
+    lblDispXY_[i] = cell;
+  }
+  refresh();
+}
+
+void ReadoutsView::refresh() {
+  for (std::size_t i = 0; i < lblDispXY_.size(); ++i) lblDispXY_[i]->setText(toText(state_.screen.lblDispXY[i]));
+  lblDispXY_[static_cast<std::size_t>(Readout::PixelRgb)]->setVisible(state_.screen.pixelRgbVisible);
+}
+
+}  // namespace gp

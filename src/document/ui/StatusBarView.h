@@ -1,0 +1,39 @@
+// picStatusBar: the five panels, the alpha indicator and the progress of long work. Every panel has its place whether
+// it is filled or not.
+#pragma once
+
+#include "document/EditState.h"
+
+#include <QWidget>
+
+#include <array>
+
+class QProgressBar;
+
+namespace gp {
+
+class TextCell;
+
+class StatusBarView : public QWidget {
+  Q_OBJECT
+
+ public:
+  StatusBarView(QWidget* parent, const EditState& state);
+  void refresh();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  class AlphaIndicator;
+
+  void showProgress(int percent);
+
+  const EditState& state_;
+  std::array<TextCell*, kStatusPanelCount> lblStatusPanel_{};
+  QWidget* imgAlpha_ = nullptr;
+  QWidget* progressPlace_ = nullptr;
+  QProgressBar* progress_ = nullptr;  // made when the first long work begins
+};
+
+}  // namespace gp

@@ -1,0 +1,49 @@
+// The tool box: imgTool(4..15), the colour picker and the button that clears all tools, in two columns. It shows the
+// state of Tools and forwards clicks; while there is nothing to draw on it looks dimmed but still takes them.
+#pragma once
+
+#include "drawing/ToolTable.h"
+
+#include <QWidget>
+
+#include <array>
+
+class QGridLayout;
+
+namespace gp {
+
+class ColorSelection;
+class PictureButton;
+class RovingFocus;
+class Tools;
+struct EditState;
+struct PictureButtonLook;
+
+class ToolBox : public QWidget {
+  Q_OBJECT
+
+ public:
+  ToolBox(QWidget* parent, const EditState& state, const Tools& tools, const ColorSelection& colors);
+
+  void refresh();
+
+ signals:
+  void toolChosen(int tool);
+  void colorPickerChosen();
+  void clearAllChosen();
+
+ private:
+  PictureButton* add(const QString& objectName, const PictureButtonLook& look);
+
+  const EditState& state_;
+  const Tools& tools_;
+  const ColorSelection& colors_;
+  QGridLayout* grid_;
+  RovingFocus* focus_;
+  int count_ = 0;
+  std::array<PictureButton*, kLastTool - kFirstTool + 1> imgTool_{};
+  PictureButton* imgColorPicker_ = nullptr;
+  PictureButton* imgClearAllTools_ = nullptr;
+};
+
+}  // namespace gp

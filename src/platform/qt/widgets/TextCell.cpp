@@ -1,0 +1,65 @@
+#include "platform/qt/widgets/TextCell.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+namespace gp {
+namespace {
+
+constexpr int kMargin = 4;  // left and right of the text, pixels
+constexpr int kLeading = 4;
+
+// Control characters and bytes that are no text show as a replacement sign.
+QString printable(QString line) {
+  for (qsizetype i = 0; i < line.size(); ++i) {
+    const bool pair = line[i].isHighSurrogate() && i + 1 < line.size() && line[i + 1].isLowSurrogate();
+    if (pair)
+      ++i;
+    else if (!line[i].isPrint())
+      line[i] = QChar::ReplacementCharacter;
+  }
+  return line;
+}
+
+}  // namespace
+
+TextCell::TextCell(QWidget* parent, const QString& objectName, const QString& accessibleName) : QWidget(parent) {
+  setObjectName(objectName);
+  setAccessibleName(accessibleName);
+}
+
+void TextCell::setText(const QString& text) {
+  if (text_ == text) return;
+  text_ = text;
+  update();
+  accessibleValueChanged(this);
+}
+
+QSize TextCell::sizeHint() const {
+  return {fontMetrics().horizontalAdvance(text_) + 2 * kMargin, fontMetrics().height() + kLeading};
+}
+
+QString TextCell::shownText() const {
+  return fontMetrics().elidedText(printable(text_), elide_, width() - 2 * kMargin);
+}
+
+void TextCell::paintEvent(QPaintEvent*) {
+  if (text_.isEmpty()) return;
+  QPainter painter(this);
+  painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+  painter.drawText(rect().adjusted(kMargin, 0, -kMargin, 0), Qt::TextSingleLine | Qt::AlignVCenter | alignment_,
+                   shownText());
+}
+
+bool TextCell::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && shownText() != text_) {
+    const auto* help = static_cast<QHelpEvent*>(event);
+    // Rich text would swallow what looks like a tag in a name.
+    QToolTip::showText(help->globalPos(), text_.toHtmlEscaped(), this);
+    return true;
+  }
+  return QWidget::event(event);
+}
+
+}  // namespace gp

@@ -1,0 +1,37 @@
+// One line of text in a place of fixed size: changing it lays nothing out anew. A text that is too long is elided, and
+// the tooltip then shows it whole. Assistive technology gets the text as the value of the cell.
+#pragma once
+
+#include "platform/qt/Accessibility.h"
+
+#include <QWidget>
+
+namespace gp {
+
+class TextCell : public QWidget, public AccessibleValue {
+  Q_OBJECT
+
+ public:
+  TextCell(QWidget* parent, const QString& objectName, const QString& accessibleName);
+
+  void setText(const QString& text);
+  const QString& text() const { return text_; }
+  void setElideMode(Qt::TextElideMode mode) { elide_ = mode; }
+  void setAlignment(Qt::Alignment alignment) { alignment_ = alignment; }
+
+  QString accessibleValue() const override { return text_; }
+  QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  QString shownText() const;
+
+  QString text_;
+  Qt::TextElideMode elide_ = Qt::ElideRight;
+  Qt::Alignment alignment_ = Qt::AlignLeft;
+};
+
+}  // namespace gp

@@ -1,0 +1,52 @@
+// The menu bar and the pop-up menu, made from the command table, and the keys of the commands. Captions, enabling and
+// ticks are pulled from the table; nobody pushes them.
+#pragma once
+
+#include "shell/CommandTable.h"
+
+#include <QObject>
+
+#include <vector>
+
+class QAction;
+class QMenu;
+class QMenuBar;
+class QWidget;
+
+namespace gp {
+
+class Shell;
+
+class CommandMenus : public QObject {
+  Q_OBJECT
+
+ public:
+  // Menus and keys belong to `form`.
+  CommandMenus(QWidget* form, QMenuBar* bar, Shell& shell);
+
+  QMenu* popUpMenu() const { return popUp_; }
+  // Brings all entries up to date with the state.
+  void refresh();
+
+ signals:
+  // A command has run from a menu or by its key.
+  void commandRan();
+
+ private:
+  struct Entry {
+    const Command* command;
+    QAction* action;
+  };
+
+  void addTopMenu(const TopMenu& top, QWidget* form, QMenuBar* bar);
+  QMenu* fill(QMenu* menu);
+  void addEntry(QMenu* menu, const Command& command);
+  void addKey(const Command& command, QWidget* form);
+  void run(const Command& command);
+
+  Shell& shell_;
+  QMenu* popUp_ = nullptr;
+  std::vector<Entry> entries_;
+};
+
+}  // namespace gp

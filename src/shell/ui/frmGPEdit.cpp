@@ -1,0 +1,284 @@
+#include "shell/ui/frmGPEdit.h"
+
+#include "document/ui/CurrentIconView.h"
+#include "document/ui/EditingAreaView.h"
+#include "document/ui/IconsPanelView.h"
+#include "document/ui/ReadoutsView.h"
+#include "document/ui/StatusBarView.h"
+#include "drawing/ui/ToolBox.h"
+#include "platform/qt/PathText.h"
+#include "platform/qt/Pictures.h"
+#include "shell/FormPlacement.h"
+#include "shell/Shell.h"
+#include "shell/ui/CommandMenus.h"
+#include "shell/ui/PanelStack.h"
+#include "shell/ui/QtDisplay.h"
+#include "shell/ui/ToolbarView.h"
+
+#include <QCloseEvent>
+#include <QCursor>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace gp {
+namespace {
+
+constexpr int kEdge = 4;           // around and between the columns, pixels
+constexpr int kShiftPadSide = 60;  // the place of the shift pad below the tools
+constexpr int kToolColumnWidth = 56;
+
+int pixelsOf(int twips) { return twips / kTwipsPerPixel; }
+int twipsOf(int pixels) { return pixels * kTwipsPerPixel; }
+
+// Qt's modifiers as the tools count them.
+int modifierBits(Qt::KeyboardModifiers modifiers) {
+  return (modifiers & Qt::ShiftModifier ? kShiftKey : 0) | (modifiers & Qt::ControlModifier ? kCtrlKey : 0) |
+         (modifiers & Qt::AltModifier ? kAltKey : 0);
+}
+
+MouseInput mouseInput(QPointF position, Qt::KeyboardModifiers modifiers, Qt::MouseButton button = Qt::NoButton) {
+  // The numbers of left, right and middle button are the tools' own.
+  return {static_cast<int>(button), modifierBits(modifiers), static_cast<float>(position.x()),
+          static_cast<float>(position.y())};
+}
+static_assert(Qt::LeftButton == kLeftButton && Qt::RightButton == kRightButton);
+
+const char* pictureOfPointer(int pointer) {
+  return pointer == kColorPickerPointer ? "color-picker" : toolRow(pointer).picture;
+}
+
+}  // namespace
+
+frmGPEdit::frmGPEdit(Shell& shell, QtDisplay& display, std::string commandLine)
+    : shell_(shell),
+      display_(display),
+      commandLine_(std::move(commandLine)),
+      pointerShown_(kDefaultPointer),
+      commandsTimer_(new QTimer(this)) {
+  setObjectName("frmGPEdit");
+  setWindowTitle(kProgramName);
+  setWindowIcon(Pictures::icon("glimmerpane"));
+
+  auto* whole = new QWidget(this);
+  auto* rows = new QVBoxLayout(whole);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(0);
+  rows->addWidget(toolbar_ = new ToolbarView(whole, shell_));
+  rows->addWidget(makeMiddle(whole), 1);
+  rows->addWidget(statusBar_ = new StatusBarView(whole, shell_.state()));
+  setCentralWidget(whole);
+  menus_ = new CommandMenus(this, menuBar(), shell_);
+
+  connectEditingArea();
+  connectIconsPanel();
+  connectToolBox();
+  connect(menus_, &CommandMenus::commandRan, this, &frmGPEdit::refreshCommandsSoon);
+  commandsTimer_->setSingleShot(true);
+  connect(commandsTimer_, &QTimer::timeout, this, &frmGPEdit::refreshCommands);
+  listen();
+  setRequests();
+  refreshCommands();
+  room_->view().setFocus(Qt::OtherFocusReason);
+  shell_.attach(this);
+}
+
+frmGPEdit::~frmGPEdit() {
+  shell_.attach(nullptr);
+  display_.forgetAll();
+  if (hourglassShown_) QGuiApplication::restoreOverrideCursor();
+}
+
+QWidget* frmGPEdit::makeMiddle(QWidget* parent) {
+  auto* middle = new QWidget(parent);
+  auto* columns = new QHBoxLayout(middle);
+  columns->setContentsMargins(kEdge, kEdge, kEdge, kEdge);
+  columns->setSpacing(kEdge);
+  columns->addWidget(iconsPanel_ = new IconsPanelView(middle, shell_.state(), shell_.iconsPanel()));
+  columns->addWidget(makeToolColumn(middle));
+  columns->addWidget(makeEditingColumn(middle), 1);
+  columns->addWidget(panels_ = new PanelStack(middle, shell_, display_));
+  return middle;
+}
+
+QWidget* frmGPEdit::makeToolColumn(QWidget* parent) {
+  auto* column = new QWidget(parent);
+  column->setObjectName("fraTools(0)");
+  column->setFixedWidth(kToolColumnWidth);
+  auto* rows = new QVBoxLayout(column);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(kEdge);
+  rows->addWidget(toolBox_ = new ToolBox(column, shell_.state(), shell_.tools(), shell_.colors()));
+  rows->addSpacing(kShiftPadSide);
+  rows->addStretch(1);
+  auto* label = new QLabel("1:1", column);
+  label->setObjectName("lblIcon");
+  label->setAlignment(Qt::AlignCenter);
+  rows->addWidget(lblIcon_ = label);
+  rows->addWidget(picIcon_ = new CurrentIconView(column, shell_.state()), 0, Qt::AlignHCenter);
+  return column;
+}
+
+QWidget* frmGPEdit::makeEditingColumn(QWidget* parent) {
+  auto* column = new QWidget(parent);
+  auto* rows = new QVBoxLayout(column);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(0);
+  rows->addWidget(readouts_ = new ReadoutsView(column, shell_.state()));
+  rows->addWidget(room_ = new EditingAreaRoom(column, shell_.state()), 1);
+  return column;
+}
+
+void frmGPEdit::connectEditingArea() {
+  EditingAreaView& view = room_->view();
+  connect(&view, &EditingAreaView::pressed, this, [this](QPointF at, Qt::MouseButton button, auto modifiers) {
+    shell_.guarded("picDisp_MouseDown", [&] { shell_.tools().press(mouseInput(at, modifiers, button)); });
+  });
+  connect(&view, &EditingAreaView::moved, this, [this](QPointF at, auto modifiers) {
+    shell_.guarded("picDisp_MouseMove", [&] { shell_.tools().move(mouseInput(at, modifiers)); });
+  });
+  connect(&view, &EditingAreaView::released, this, [this](QPointF at, Qt::MouseButton button, auto modifiers) {
+    shell_.guarded("picDisp_MouseUp", [&] { shell_.tools().release(mouseInput(at, modifiers, button)); });
+  });
+  connect(&view, &EditingAreaView::left, this, [this] { shell_.tools().leave(); });
+  connect(&view, &EditingAreaView::popUpRequested, this, &frmGPEdit::popUp);
+  connect(room_, &EditingAreaRoom::resized, this, &frmGPEdit::resizeRoom);
+}
+
+void frmGPEdit::connectIconsPanel() {
+  connect(iconsPanel_, &IconsPanelView::containerChosen, this, [this](int container) {
+    shell_.guarded("picPanelIcon_Click", [&] { shell_.iconsPanel().SwitchContainer(container); });
+  });
+  connect(iconsPanel_, &IconsPanelView::containerRightClicked, this, [this](int container) {
+    shell_.guarded("picPanelIcon_MouseUp", [&] { shell_.iconsPanel().PanelRightClick(container); });
+  });
+  connect(iconsPanel_, &IconsPanelView::updateRequested, this,
+          [this] { shell_.guarded("imgUpdIconsPanel_Click", [&] { shell_.iconsPanel().updateFromCurrent(); }); });
+  // Queued: the file manager must not wait for what is asked about the file.
+  connect(
+      iconsPanel_, &IconsPanelView::filesDropped, this,
+      [this](int container, const std::vector<std::string>& files) {
+        shell_.guarded("picPanelIcon_OLEDragDrop", [&] { shell_.iconsPanel().PanelDrop(container, files); });
+      },
+      Qt::QueuedConnection);
+}
+
+void frmGPEdit::connectToolBox() {
+  connect(toolBox_, &ToolBox::toolChosen, this, [this](int tool) {
+    shell_.guarded("imgTool_Click", [&] { shell_.tools().selectTool(tool); });
+    toolBox_->refresh();
+  });
+  connect(toolBox_, &ToolBox::colorPickerChosen, this, [this] {
+    shell_.guarded("imgColorPicker_Click", [&] { shell_.colors().imgColorPicker(); });
+    toolBox_->refresh();
+  });
+  connect(toolBox_, &ToolBox::clearAllChosen, this,
+          [this] { shell_.guarded("imgClearAllTools_Click", [&] { shell_.tools().imgClearAllTools(); }); });
+}
+
+void frmGPEdit::listen() {
+  display_.listen(DisplayPart::EditingArea, [this] { room_->refresh(), refreshCurrentIcon(); });
+  display_.listen(DisplayPart::IconsPanel, [this] { iconsPanel_->refresh(), refreshCurrentIcon(); });
+  display_.listen(DisplayPart::StatusBar, [this] { statusBar_->refresh(); });
+  display_.listen(DisplayPart::Readouts, [this] { readouts_->refresh(); });
+  display_.listen(DisplayPart::Tools, [this] { toolBox_->refresh(); });
+  display_.listen(DisplayPart::Pointer, [this] { refreshPointer(); });
+  display_.listen(DisplayPart::Panel, [this] { panels_->showPanel(shell_.state().screen.mActivePanel); });
+  display_.listen(DisplayPart::Commands, [this] { refreshCommandsSoon(); });
+  display_.listen(DisplayPart::History, [this] { refreshCommandsSoon(); });
+}
+
+void frmGPEdit::setRequests() {
+  QtDisplay::Requests& requests = display_.requests();
+  requests.repaintEditingArea = [this](int x, int y, int width, int height) {
+    room_->view().refreshPart(x, y, width, height);
+    picIcon_->update();
+  };
+  requests.showPopUpMenu = [this] { popUp(QCursor::pos()); };
+  requests.nudgeMousePointer = [] {
+    const QPoint at = QCursor::pos();
+    QCursor::setPos(at.x() < 1 ? at.x() + 1 : at.x() - 1, at.y() < 1 ? at.y() + 1 : at.y() - 1);
+    QCursor::setPos(at);
+  };
+}
+
+// A stroke tells of changed commands at every step: they are looked at once, when the events are through.
+void frmGPEdit::refreshCommandsSoon() { commandsTimer_->start(0); }
+
+void frmGPEdit::refreshCommands() {
+  menus_->refresh();
+  toolbar_->refresh();
+}
+
+void frmGPEdit::refreshCurrentIcon() {
+  const QString tooltip = toText(shell_.colors().picIconTooltip());
+  for (QWidget* shown : {static_cast<QWidget*>(picIcon_), lblIcon_})
+    if (shown->toolTip() != tooltip) shown->setToolTip(tooltip);
+  picIcon_->update();
+}
+
+void frmGPEdit::refreshPointer() {
+  const ScreenState& screen = shell_.state().screen;
+  if (screen.hourglass != hourglassShown_) {
+    hourglassShown_ = screen.hourglass;
+    if (hourglassShown_)
+      QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+      QGuiApplication::restoreOverrideCursor();
+  }
+  if (screen.editingPointer == pointerShown_) return;
+  pointerShown_ = screen.editingPointer;
+  if (pointerShown_ == kDefaultPointer)
+    room_->view().unsetCursor();
+  else
+    room_->view().setCursor(Pictures::cursor(pictureOfPointer(pointerShown_), devicePixelRatioF()));
+}
+
+void frmGPEdit::resizeRoom(const QSize& client) {
+  if (!isMinimized()) shell_.formResize(client.width(), client.height());
+}
+
+void frmGPEdit::popUp(const QPoint& at) { menus_->popUpMenu()->popup(at); }
+
+FormPlace frmGPEdit::place() const {
+  const bool maximized = isMaximized();
+  const QRect normal = maximized ? normalGeometry() : geometry();
+  const QPoint corner = maximized ? normal.topLeft() : pos();
+  return {twipsOf(corner.x()),      twipsOf(corner.y()), twipsOf(normal.width()),
+          twipsOf(normal.height()), maximized,           isMinimized()};
+}
+
+void frmGPEdit::setPlace(const FormPlace& place) {
+  setMinimumSize(pixelsOf(kFormWidth), pixelsOf(kFormHeight));
+  move(pixelsOf(place.left), pixelsOf(place.top));
+  resize(pixelsOf(place.width), pixelsOf(place.height));
+}
+
+void frmGPEdit::maximize() { setWindowState(windowState() | Qt::WindowMaximized); }
+
+void frmGPEdit::showAbout() {}
+
+void frmGPEdit::unload() { close(); }
+
+void frmGPEdit::closeEvent(QCloseEvent* event) { event->setAccepted(shell_.queryUnload()); }
+
+bool frmGPEdit::event(QEvent* event) {
+  const bool handled = QMainWindow::event(event);
+  // The form is seen before anything is read or opened.
+  if (event->type() == QEvent::Paint && !activated_) {
+    activated_ = true;
+    QTimer::singleShot(0, this, &frmGPEdit::activate);
+  }
+  return handled;
+}
+
+void frmGPEdit::activate() {
+  shell_.formActivate(commandLine_);
+  refreshCommands();
+}
+
+}  // namespace gp

@@ -1,0 +1,83 @@
+// The main form. It places the views, forwards their events to the subsystems and tells the views what changed; it
+// decides nothing and holds no state of the document.
+#pragma once
+
+#include "shell/MainForm.h"
+
+#include <QMainWindow>
+
+#include <string>
+
+class QTimer;
+
+namespace gp {
+
+class CommandMenus;
+class CurrentIconView;
+class EditingAreaRoom;
+class IconsPanelView;
+class PanelStack;
+class QtDisplay;
+class ReadoutsView;
+class Shell;
+class StatusBarView;
+class ToolBox;
+class ToolbarView;
+
+class frmGPEdit final : public QMainWindow, public MainForm {
+  Q_OBJECT
+
+ public:
+  // The shell and the display must outlive the form. `commandLine` is opened once the form has been seen.
+  frmGPEdit(Shell& shell, QtDisplay& display, std::string commandLine);
+  ~frmGPEdit() override;
+
+  // MainForm.
+  FormPlace place() const override;
+  void setPlace(const FormPlace& place) override;
+  void maximize() override;
+  void showAbout() override;
+  void unload() override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  QWidget* makeMiddle(QWidget* parent);
+  QWidget* makeToolColumn(QWidget* parent);
+  QWidget* makeEditingColumn(QWidget* parent);
+  void connectEditingArea();
+  void connectIconsPanel();
+  void connectToolBox();
+  void listen();
+  void setRequests();
+
+  void activate();
+  void refreshCommands();
+  void refreshCommandsSoon();
+  void refreshCurrentIcon();
+  void refreshPointer();
+  void resizeRoom(const QSize& client);
+  void popUp(const QPoint& at);
+
+  Shell& shell_;
+  QtDisplay& display_;
+  const std::string commandLine_;
+  bool activated_ = false;
+  bool hourglassShown_ = false;
+  int pointerShown_;
+  QTimer* commandsTimer_;
+  CommandMenus* menus_ = nullptr;
+  ToolbarView* toolbar_ = nullptr;
+  IconsPanelView* iconsPanel_ = nullptr;
+  ToolBox* toolBox_ = nullptr;
+  CurrentIconView* picIcon_ = nullptr;
+  QWidget* lblIcon_ = nullptr;
+  ReadoutsView* readouts_ = nullptr;
+  EditingAreaRoom* room_ = nullptr;
+  PanelStack* panels_ = nullptr;
+  StatusBarView* statusBar_ = nullptr;
+};
+
+}  // namespace gp
