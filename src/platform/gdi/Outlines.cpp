@@ -114,8 +114,10 @@ PixelPath ellipsePath(const ShapeBox& box) {
 }
 
 PixelPath arcPath(const ShapeBox& box, Pixel start, Pixel end, ArcDirection direction) {
-  if (box.isEmpty() || box.width() == 1) return {};
-  const PixelPath quadrant = lowerRightQuadrant(box);
+  if (box.isEmpty()) return {};
+  PixelPath quadrant = lowerRightQuadrant(box);
+  // In a box one pixel wide the platform's arcs know the middle only.
+  if (box.width() == 1) quadrant.resize(1);
   const PixelPath whole = wholePath(box, quadrant);
   const Pixel middle = {(box.left + box.right) / 2, (box.top + box.bottom) / 2};
   // A clockwise arc is the counter-clockwise one upside down.

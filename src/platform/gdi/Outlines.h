@@ -37,7 +37,7 @@ PixelPath ellipsePath(const ShapeBox& box);
 
 // The part of the ellipse's path from the direction of start to that of end, seen from the middle of the box; the
 // whole path, beginning there, when both directions meet the same pixel. Its last pixel is the end, which a thin pen
-// leaves out. A box one pixel wide has no arcs.
+// leaves out. In a box one pixel wide only the pixels around the middle belong to it.
 PixelPath arcPath(const ShapeBox& box, Pixel start, Pixel end, ArcDirection direction);
 
 }  // namespace gp

@@ -91,9 +91,14 @@ void DrawLine(Surface& surface, int x1, int y1, int x2, int y2, Color color) {
 }
 
 void DrawBox(Surface& surface, int x1, int y1, int x2, int y2, Color color) {
+  const ShapeBox corners = {std::min(x1, x2), std::min(y1, y2), std::max(x1, x2), std::max(y1, y2)};
   // One behind a corner must still be a number; no pen reaches that far anyway.
-  if (std::max(x1, x2) >= kMaxPenPosition || std::max(y1, y2) >= kMaxPenPosition) return;
-  Rectangle(surface, {std::min(x1, x2), std::min(y1, y2), std::max(x1, x2) + 1, std::max(y1, y2) + 1}, color);
+  if (corners.right >= kMaxPenPosition || corners.bottom >= kMaxPenPosition) return;
+  // The platform's rectangle of one pixel would be nothing: the step of one pixel to its right draws it.
+  if (x1 == x2 && y1 == y2 && surface.penWidth <= 1)
+    LineTo(surface, {x1, y1}, {x1 + 1, y1}, color);
+  else
+    Rectangle(surface, {corners.left, corners.top, corners.right + 1, corners.bottom + 1}, color);
 }
 
 void DrawEllipse(Surface& surface, double centerX, double centerY, double radius, double aspect, Color color) {

@@ -2,11 +2,12 @@
 // that follow the mouse. The Surface's penWidth, penStyle, drawMode, fillMode and fillColor hold for each call; nothing
 // else is kept. What lies outside the Surface is left out.
 //
-// A pen of width 1 draws the platform's own pixels. A wider pen draws every pixel whose centre lies under it and is
-// always solid. The dotted pen of width 1 draws 3 pixels and leaves out 3, along the outline. In invert mode every
-// pixel is replaced by its inverse once, the colours being ignored.
+// A pen of width 1 draws the platform's own pixels. A wider pen is a round nib that is moved along those pixels, and is
+// always solid; boxes, ellipses and arcs of widths up to 6 are the platform's own pixels too, slanting lines its own
+// but for single pixels at their edges. The dotted pen of width 1 draws 3 pixels and leaves out 3, along the outline.
+// In invert mode every pixel is replaced by its inverse once, the colours being ignored.
 //
-// Positions beyond kMaxPenPosition in either direction draw nothing.
+// Pens do not reach beyond kMaxPenPosition in either direction: shapes that do are not drawn.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -22,7 +23,8 @@ void FillBox(Surface& surface, int x1, int y1, int x2, int y2, Color color);
 // ends around both ends.
 void DrawLine(Surface& surface, int x1, int y1, int x2, int y2, Color color);
 
-// The outline through the opposite corners, in any order; in solid fill mode the inside takes the fill colour.
+// The outline through the opposite corners, in any order, both included: equal corners draw one pixel with a thin pen.
+// In solid fill mode the inside takes the fill colour.
 void DrawBox(Surface& surface, int x1, int y1, int x2, int y2, Color color);
 
 // aspect is height over width. The longer half axis is the radius: the horizontal one where aspect is below 1,

@@ -19,12 +19,17 @@ ShapeBox ordered(const ShapeBox& box) {
           std::max(box.top, box.bottom)};
 }
 
-// A thin pen stops short of the end; that pixel may stand there more than once.
+// A thin pen that comes back to where it started without having moved leaves no pixel.
+bool isDrawn(const Surface& surface, const ShapeBox& box) {
+  const bool isSinglePixel = box.width() == 1 && box.height() == 1;
+  return !box.isEmpty() && (!isSinglePixel || surface.penWidth > 1);
+}
+
+// A thin pen stops short of the end, which may stand there more than once.
 PixelPath withoutEnd(PixelPath path) {
   if (path.empty()) return path;
   const Pixel last = path.back();
   path.pop_back();
-  // What is left of a repeated end was left before it was reached.
   while (!path.empty() && path.back() == last) path.pop_back();
   return path;
 }
@@ -60,14 +65,12 @@ void LineTo(Surface& surface, Pixel from, Pixel to, Color color) {
 
 void Rectangle(Surface& surface, ShapeBox box, Color color) {
   box = ordered(box);
-  if (isReachable(box) && !box.isEmpty()) drawClosed(surface, box, rectanglePath(box), color);
+  if (isReachable(box) && isDrawn(surface, box)) drawClosed(surface, box, rectanglePath(box), color);
 }
 
 void Ellipse(Surface& surface, ShapeBox box, Color color) {
   box = ordered(box);
-  if (!isReachable(box) || box.isEmpty()) return;
-  if (box.width() == 1 && box.height() == 1 && surface.penWidth <= 1) return;
-  drawClosed(surface, box, ellipsePath(box), color);
+  if (isReachable(box) && isDrawn(surface, box)) drawClosed(surface, box, ellipsePath(box), color);
 }
 
 void Arc(Surface& surface, ShapeBox box, Pixel start, Pixel end, Color color, ArcDirection direction) {
@@ -75,6 +78,8 @@ void Arc(Surface& surface, ShapeBox box, Pixel start, Pixel end, Color color, Ar
   if (!isReachable(box) || !isReachable(start) || !isReachable(end) || box.isEmpty()) return;
   Stroke stroke(surface, box);
   const PixelPath path = arcPath(box, start, end, direction);
+  // A pen that is put down and never moved draws nothing, however wide.
+  if (path.size() < 2) return;
   stroke.pen(stroke.isWide() ? path : withoutEnd(path), false);
   stroke.draw(color);
 }

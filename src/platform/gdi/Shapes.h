@@ -11,8 +11,8 @@ namespace gp {
 
 // A line without its last pixel where the pen is thin, with round ends around both where it is wide.
 void LineTo(Surface& surface, Pixel from, Pixel to, Color color);
-// Sides given in the wrong order are exchanged first; an empty box draws nothing. In solid fill mode the inside takes
-// the fill colour. The same for Ellipse; a thin pen draws no ellipse of one pixel.
+// Sides given in the wrong order are exchanged first; an empty box draws nothing, and neither does a box of one pixel
+// when the pen is thin. In solid fill mode the inside takes the fill colour. The same holds for Ellipse.
 void Rectangle(Surface& surface, ShapeBox box, Color color);
 void Ellipse(Surface& surface, ShapeBox box, Color color);
 // The part of the ellipse's outline between the directions of two points, seen from the middle of the box. A thin pen

@@ -16,7 +16,8 @@ namespace gp {
 // Stretches the source rectangle over the target rectangle by target.stretchMode and combines it with op. A rectangle
 // with a negative width covers the |width| columns up to and including its x, running leftwards; likewise upwards for
 // a negative height. So x = W - 1, width = -W mirrors a picture in place. source and target may be the same Surface.
-// False for an unknown code or mode; empty rectangles are a success that changes nothing.
+// False for an unknown code or mode or a length above a million (2^20); empty rectangles are a success that changes
+// nothing.
 bool StretchBlt(Surface& target, int x, int y, int width, int height, const Surface& source, int sourceX, int sourceY,
                 int sourceWidth, int sourceHeight, RasterOp op);
 
