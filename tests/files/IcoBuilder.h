@@ -1,0 +1,199 @@
+// Builds icon files byte by byte for the reading tests, with every field open to lies. Shares nothing with the
+// program's own writers.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace gp::test {
+
+using Bytes = std::vector<std::uint8_t>;
+
+inline void put16(Bytes& out, std::uint32_t value) {
+  out.push_back(static_cast<std::uint8_t>(value));
+  out.push_back(static_cast<std::uint8_t>(value >> 8));
+}
+inline void put32(Bytes& out, std::uint32_t value) {
+  put16(out, value & 0xFFFF);
+  put16(out, value >> 16);
+}
+inline void append(Bytes& out, const Bytes& more) { out.insert(out.end(), more.begin(), more.end()); }
+
+struct Rgb {
+  int r = 0, g = 0, b = 0, a = 255;
+};
+
+// A picture by its depth and by what stands at x, y (y from the top).
+struct Picture {
+  int width = 32, height = 32, bits = 4;
+  std::vector<Rgb> palette;
+  std::function<int(int, int)> index = [](int, int) { return 0; };
+  std::function<Rgb(int, int)> color = [](int, int) { return Rgb{}; };
+  std::function<bool(int, int)> transparent = [](int, int) { return false; };
+  // What the bitmap header tells where it is not the truth.
+  std::optional<int> headerBits, headerHeight, headerWidth;
+  std::uint32_t headerSize = 40, compression = 0, colorsUsed = 0;
+};
+
+inline int defaultPaletteSize(int bits) { return bits <= 8 ? 1 << bits : 0; }
+
+inline Bytes bitmapHeader(const Picture& p) {
+  Bytes out;
+  put32(out, p.headerSize);
+  put32(out, static_cast<std::uint32_t>(p.headerWidth.value_or(p.width)));
+  put32(out, static_cast<std::uint32_t>(p.headerHeight.value_or(2 * p.height)));
+  put16(out, 1);
+  put16(out, static_cast<std::uint32_t>(p.headerBits.value_or(p.bits)));
+  put32(out, p.compression);
+  for (int i = 0; i < 3; ++i) put32(out, 0);
+  put32(out, p.colorsUsed);
+  put32(out, 0);
+  return out;
+}
+
+inline Bytes paletteBytes(const Picture& p) {
+  Bytes out;
+  for (int i = 0; i < defaultPaletteSize(p.bits); ++i) {
+    const Rgb c =
+        i < static_cast<int>(p.palette.size()) ? p.palette[static_cast<std::size_t>(i)] : Rgb{i, 2 * i % 256, 255 - i};
+    for (int v : {c.b, c.g, c.r, 0}) out.push_back(static_cast<std::uint8_t>(v));
+  }
+  return out;
+}
+
+// Rows of `bits` a pixel, bottom row first, padded to 4 bytes.
+inline Bytes packedRows(int width, int height, int bits, const std::function<int(int, int)>& value) {
+  Bytes out;
+  for (int y = height - 1; y >= 0; --y) {
+    int held = 0, heldBits = 0;
+    std::size_t start = out.size();
+    for (int x = 0; x < width; ++x) {
+      held = held << bits | value(x, y);
+      heldBits += bits;
+      if (heldBits == 8) out.push_back(static_cast<std::uint8_t>(held)), held = heldBits = 0;
+    }
+    if (heldBits) out.push_back(static_cast<std::uint8_t>(held << (8 - heldBits)));
+    while ((out.size() - start) % 4) out.push_back(0);
+  }
+  return out;
+}
+
+inline Bytes trueRows(const Picture& p) {
+  Bytes out;
+  for (int y = p.height - 1; y >= 0; --y) {
+    for (int x = 0; x < p.width; ++x) {
+      const Rgb c = p.color(x, y);
+      for (int v : {c.b, c.g, c.r}) out.push_back(static_cast<std::uint8_t>(v));
+      if (p.bits == 32) out.push_back(static_cast<std::uint8_t>(c.a));
+    }
+  }
+  return out;
+}
+
+inline Bytes maskRows(const Picture& p) {
+  return packedRows(p.width, p.height, 1, [&](int x, int y) { return p.transparent(x, y) ? 1 : 0; });
+}
+
+inline Bytes imageBytes(const Picture& p) {
+  Bytes out = bitmapHeader(p);
+  append(out, paletteBytes(p));
+  append(out, p.bits <= 8 ? packedRows(p.width, p.height, p.bits, p.index) : trueRows(p));
+  append(out, maskRows(p));
+  return out;
+}
+
+// One directory entry with its image.
+struct Entry {
+  int width = 32, height = 32, colorCount = 0, bitCount = 0;
+  Bytes image;
+  std::optional<std::uint32_t> bytesInRes, offset;  // where they are lies
+};
+
+inline Entry entryOf(const Picture& p, int colorCount, int bitCount) {
+  Entry e;
+  e.width = p.width;
+  e.height = p.height;
+  e.colorCount = colorCount;
+  e.bitCount = bitCount;
+  e.image = imageBytes(p);
+  return e;
+}
+// With the directory telling the truth.
+inline Entry entryOf(const Picture& p) { return entryOf(p, p.bits == 1 ? 2 : p.bits == 4 ? 16 : 0, p.bits); }
+
+struct IcoFile {
+  std::vector<Entry> entries;
+  int reserved = 0, type = 1;
+  std::optional<int> count;  // where it is a lie
+};
+
+inline Bytes build(const IcoFile& file) {
+  Bytes out;
+  put16(out, static_cast<std::uint32_t>(file.reserved));
+  put16(out, static_cast<std::uint32_t>(file.type));
+  put16(out, static_cast<std::uint32_t>(file.count.value_or(static_cast<int>(file.entries.size()))));
+  std::size_t at = 6 + 16 * file.entries.size();
+  for (const Entry& e : file.entries) {
+    for (int v : {e.width, e.height, e.colorCount, 0}) out.push_back(static_cast<std::uint8_t>(v));
+    put16(out, 1);
+    put16(out, static_cast<std::uint32_t>(e.bitCount));
+    put32(out, e.bytesInRes.value_or(static_cast<std::uint32_t>(e.image.size())));
+    put32(out, e.offset.value_or(static_cast<std::uint32_t>(at)));
+    at += e.image.size();
+  }
+  for (const Entry& e : file.entries) append(out, e.image);
+  return out;
+}
+inline Bytes build(const Entry& entry) { return build(IcoFile{{entry}, 0, 1, {}}); }
+
+// Pictures for when it does not matter what is on them: every value occurs, no row looks like another.
+inline Picture anyPicture(int size, int bits) {
+  Picture p;
+  p.width = p.height = size;
+  p.bits = bits;
+  p.index = [bits](int x, int y) { return (x * 7 + y * 13) % (1 << bits); };
+  p.color = [](int x, int y) { return Rgb{x * 5, y * 5, x ^ y, 1 + (x + 48 * y) % 255}; };
+  p.transparent = [](int x, int y) { return (x + 2 * y) % 3 == 0; };
+  return p;
+}
+
+// A folder of its own for each test, gone afterwards.
+class TempFolder {
+ public:
+  TempFolder() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "glimmerpane-test-").string();
+    for (int i = 0;; ++i) {
+      folder_ = pattern + std::to_string(i) + "-" + std::to_string(reinterpret_cast<std::uintptr_t>(this));
+      if (std::filesystem::create_directory(folder_)) break;
+    }
+  }
+  ~TempFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(folder_, ignored);
+  }
+  TempFolder(const TempFolder&) = delete;
+  TempFolder& operator=(const TempFolder&) = delete;
+
+  std::string path(const std::string& name) const { return folder_ + "/" + name; }
+  std::string write(const std::string& name, const Bytes& bytes) const {
+    std::ofstream(path(name), std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    return path(name);
+  }
+  const std::string& folder() const { return folder_; }
+
+ private:
+  std::string folder_;
+};
+
+inline Bytes bytesOf(const std::string& path) {
+  std::ifstream stream(path, std::ios::binary);
+  return Bytes(std::istreambuf_iterator<char>(stream), {});
+}
+
+}  // namespace gp::test

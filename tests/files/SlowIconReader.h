@@ -1,0 +1,82 @@
+// The obvious reader of icon images: one byte at a time from a position that moves on, one pixel at a time onto the
+// Surfaces. The program's row readers must equal it.
+#pragma once
+
+#include "files/IcoDirectory.h"
+#include "files/IconDecoder.h"
+
+#include <span>
+
+namespace gp::test {
+
+class SlowIconReader {
+ public:
+  SlowIconReader(std::span<const std::uint8_t> file, const IconEntry& entry, int width, int height)
+      : file_(file), entry_(entry), width_(width), height_(height), at_(std::uint64_t{entry.imageOffset} + 40) {}
+
+  void read(const IconPixels& pixels) {
+    const int colors = ColorsForEntry(entry_, entry_.bitCount);
+    if (colors < 1) pixels.alpha = AlphaMatrix(width_, height_, 255);
+    for (int i = 0; i < colors; ++i) {
+      const int b = next(), g = next(), r = next();
+      next();
+      palette_.push_back(rgb(r, g, b));
+    }
+    for (int y = height_ - 1; y >= 0; --y) {
+      if (colors == 2)
+        readBits(y, pixels.image, palette_[0], palette_[1]);
+      else if (colors == 16)
+        readHalves(y, pixels.image);
+      else if (colors == 256)
+        readBytes(y, pixels.image);
+      else
+        readTrue(y, pixels);
+    }
+    for (int y = height_ - 1; y >= 0; --y) readBits(y, pixels.mask, kBlack, kWhite);
+  }
+
+ private:
+  int next() { return at_ < file_.size() ? file_[at_++] : (++at_, 0); }
+  void pad(int count) {
+    if (count % 4) at_ += static_cast<std::uint64_t>(4 - count % 4);
+  }
+  void readBits(int y, Surface& surface, Color zero, Color one) {
+    const int bytes = width_ / 8 + (width_ % 8 ? 1 : 0);
+    for (int i = 0; i < bytes; ++i) {
+      const int byte = next();
+      for (int bit = 0; bit < 8 && i * 8 + bit < width_; ++bit)
+        surface.SetPixelV(i * 8 + bit, y, byte & (128 >> bit) ? one : zero);
+    }
+    pad(bytes);
+  }
+  void readHalves(int y, Surface& surface) {
+    const int bytes = width_ / 2 + width_ % 2;
+    for (int i = 0; i < bytes; ++i) {
+      const int byte = next();
+      surface.SetPixelV(2 * i, y, palette_[static_cast<std::size_t>(byte / 16)]);
+      if (2 * i + 1 < width_) surface.SetPixelV(2 * i + 1, y, palette_[static_cast<std::size_t>(byte % 16)]);
+    }
+    pad(bytes);
+  }
+  void readBytes(int y, Surface& surface) {
+    for (int x = 0; x < width_; ++x) surface.SetPixelV(x, y, palette_[static_cast<std::size_t>(next())]);
+    pad(width_);
+  }
+  void readTrue(int y, const IconPixels& pixels) {
+    for (int x = 0; x < width_; ++x) {
+      const int b = next(), g = next(), r = next();
+      pixels.image.SetPixelV(x, y, rgb(r, g, b));
+      if (entry_.bitCount == 24) continue;
+      if (const int alpha = next()) pixels.alpha.at(x, y) = static_cast<std::uint8_t>(alpha);
+    }
+    pad(width_);
+  }
+
+  std::span<const std::uint8_t> file_;
+  const IconEntry entry_;
+  const int width_, height_;
+  std::uint64_t at_;
+  std::vector<Color> palette_;
+};
+
+}  // namespace gp::test
