@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <limits>
 #include <new>
 #include <system_error>
 
@@ -12,20 +11,19 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The formats count in 32 bits; what is larger than this is none of them.
-constexpr std::uintmax_t kMaxFileBytes = std::numeric_limits<std::int32_t>::max();
+// Above any icon file and nearly any program, and still read in a fraction of a second.
+constexpr std::uintmax_t kMaxFileBytes = std::uintmax_t{256} << 20;
 
 bool isRegularFile(const fs::path& path) {
   std::error_code error;
   return fs::is_regular_file(path, error);
 }
 
-std::optional<std::size_t> sizeToRead(const fs::path& path, std::uintmax_t limit) {
+std::optional<std::uintmax_t> sizeOf(const fs::path& path) {
   if (!isRegularFile(path)) return std::nullopt;
   std::error_code error;
   const std::uintmax_t size = fs::file_size(path, error);
-  if (error) return std::nullopt;
-  return static_cast<std::size_t>(std::min(size, limit));
+  return error ? std::nullopt : std::optional(size);
 }
 
 std::optional<FileBytes> readBytes(const fs::path& path, std::size_t size) {
@@ -64,14 +62,14 @@ FileBytes::FileBytes(std::vector<std::uint8_t> bytes)
 }
 
 std::optional<FileBytes> readFile(const std::string& path) {
-  const auto size = sizeToRead(path, kMaxFileBytes);
-  if (!size || *size == kMaxFileBytes) return std::nullopt;
-  return readBytes(path, *size);
+  const auto size = sizeOf(path);
+  return size && *size <= kMaxFileBytes ? readBytes(path, static_cast<std::size_t>(*size)) : std::nullopt;
 }
 
 std::optional<FileBytes> readFileStart(const std::string& path, std::size_t count) {
-  const auto size = sizeToRead(path, std::min<std::uintmax_t>(count, kMaxFileBytes));
-  return size ? readBytes(path, *size) : std::nullopt;
+  const auto size = sizeOf(path);
+  return size ? readBytes(path, static_cast<std::size_t>(std::min({*size, std::uintmax_t{count}, kMaxFileBytes})))
+              : std::nullopt;
 }
 
 bool replaceFile(const std::string& path, std::span<const std::uint8_t> bytes) {

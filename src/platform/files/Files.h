@@ -25,7 +25,7 @@ class FileBytes {
   std::size_t size_ = 0;
 };
 
-// The whole file; nothing when it is no regular file, cannot be read, or has 2 GB or more.
+// The whole file; nothing when it is no regular file, cannot be read, or has more than 256 MB.
 std::optional<FileBytes> readFile(const std::string& path);
 // The first `count` bytes of a file, or fewer if it is shorter; nothing as above.
 std::optional<FileBytes> readFileStart(const std::string& path, std::size_t count);

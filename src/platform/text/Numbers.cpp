@@ -20,8 +20,8 @@ bool isHexDigit(char c) { return isDigit(c) || isLetter(c, 'A', 'F') || isLetter
 
 // The reader of the library would take "inf" and "nan" for numbers.
 bool beginsLikeNumber(std::string_view text) {
-  const std::size_t first = text.find_first_not_of("+-");
-  return first != std::string_view::npos && (isDigit(text[first]) || text[first] == '.');
+  if (!text.empty() && (text.front() == '+' || text.front() == '-')) text.remove_prefix(1);
+  return !text.empty() && (isDigit(text.front()) || text.front() == '.');
 }
 
 }  // namespace

@@ -1,0 +1,193 @@
+#include "platform/files/Files.h"
+#include "support/TempFolder.h"
+
+#include <cstdlib>
+#include <ctime>
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace gp {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A pipe that would hang whoever opens it.
+void makePipe(const std::string& path) { ASSERT_EQ(std::system(("mkfifo '" + path + "'").c_str()), 0); }
+
+std::string textOf(const std::optional<FileBytes>& bytes) {
+  return bytes ? std::string(bytes->span().begin(), bytes->span().end()) : "nothing";
+}
+
+bool replaceWith(const std::string& path, std::string_view text) {
+  return replaceFile(path, {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
+}
+
+class Files : public testing::Test {
+ protected:
+  test::TempFolder folder_;
+};
+
+TEST_F(Files, AFileIsReadWhole) {
+  const std::string content("a\0\r\n\xFF", 5);
+  EXPECT_EQ(textOf(readFile(folder_.write("a", content))), content);
+}
+
+TEST_F(Files, AnEmptyFileHasNoBytes) {
+  const auto bytes = readFile(folder_.write("a", ""));
+  ASSERT_TRUE(bytes);
+  EXPECT_EQ(bytes->span().size(), 0u);
+}
+
+TEST_F(Files, FoldersPipesDevicesAndAbsentFilesAreNotRead) {
+  makePipe(folder_.file("pipe"));
+  for (const std::string& path : {folder_.path(), folder_.file("pipe"), std::string("/dev/zero"), folder_.file("none"),
+                                  std::string(), folder_.file(std::string(300, 'n'))}) {
+    EXPECT_FALSE(readFile(path)) << path;
+    EXPECT_FALSE(readFileStart(path, 10)) << path;
+    EXPECT_FALSE(FileExists(path)) << path;
+  }
+}
+
+TEST_F(Files, TheStartOfAFileIsAtMostTheFile) {
+  const std::string path = folder_.write("a", "abcdef");
+  EXPECT_EQ(textOf(readFileStart(path, 3)), "abc");
+  EXPECT_EQ(textOf(readFileStart(path, 100)), "abcdef");
+  EXPECT_EQ(textOf(readFileStart(path, 0)), "");
+}
+
+TEST_F(Files, AFileOfOneGigabyteIsRefusedAtOnceButItsStartIsRead) {
+  const std::string path = folder_.write("a", "abc");
+  fs::resize_file(path, std::uintmax_t{1} << 30);
+  const std::clock_t before = std::clock();
+  EXPECT_FALSE(readFile(path));
+  EXPECT_EQ(textOf(readFileStart(path, 3)), "abc");
+  EXPECT_TRUE(FileExists(path));
+  EXPECT_LT(static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC, 0.1);
+}
+
+TEST_F(Files, ASparseFileIsReadWithItsZeros) {
+  const std::string path = folder_.write("a", "abc");
+  fs::resize_file(path, std::uintmax_t{16} << 20);
+  const auto bytes = readFile(path);
+  ASSERT_TRUE(bytes);
+  EXPECT_EQ(bytes->span().size(), std::size_t{16} << 20);
+  EXPECT_EQ(bytes->span()[2], 'c');
+  EXPECT_EQ(bytes->span().back(), 0);
+}
+
+TEST_F(Files, NamesNeedNotBeUtf8) {
+  const std::string name = "a\xFF\xFE '\" \xC3\xA9.ico";
+  const std::string path = folder_.write(name, "content");
+  EXPECT_EQ(textOf(readFile(path)), "content");
+  EXPECT_TRUE(FileExists(path));
+  EXPECT_TRUE(replaceWith(path, "new"));
+  EXPECT_EQ(filesInFolder(folder_.path(), "*.ico"), std::vector<std::string>{name});
+}
+
+TEST_F(Files, BytesCanBeMadeFromAVector) {
+  const FileBytes bytes(std::vector<std::uint8_t>{1, 2, 3});
+  EXPECT_EQ(textOf(FileBytes(std::vector<std::uint8_t>{'a', 'b'})), "ab");
+  EXPECT_EQ(bytes.span().size(), 3u);
+}
+
+TEST_F(Files, ReplacingLeavesNothingOfALongerFile) {
+  const std::string path = folder_.write("a", "a long content");
+  EXPECT_TRUE(replaceWith(path, "new"));
+  EXPECT_EQ(folder_.read("a"), "new");
+  EXPECT_TRUE(replaceWith(path, ""));
+  EXPECT_EQ(fs::file_size(path), 0u);
+}
+
+TEST_F(Files, ReplacingMakesANewFile) {
+  EXPECT_TRUE(replaceWith(folder_.file("new"), "x"));
+  EXPECT_EQ(folder_.read("new"), "x");
+}
+
+TEST_F(Files, AReadOnlyFileIsNotReplacedEvenForRoot) {
+  const std::string path = folder_.write("a", "old");
+  fs::permissions(path, fs::perms::owner_read);
+  EXPECT_FALSE(replaceWith(path, "new"));
+  EXPECT_EQ(folder_.read("a"), "old");
+}
+
+TEST_F(Files, FoldersPipesAndImpossibleNamesAreNotReplaced) {
+  makePipe(folder_.file("pipe"));
+  EXPECT_FALSE(replaceWith(folder_.path(), "new"));
+  EXPECT_FALSE(replaceWith(folder_.file("pipe"), "new"));
+  EXPECT_FALSE(replaceWith("/dev/full", "new"));
+  EXPECT_FALSE(replaceWith(folder_.file("absent/a"), "new"));
+  EXPECT_FALSE(replaceWith(folder_.file(std::string(300, 'n')), "new"));
+  EXPECT_TRUE(directoryExists(folder_.path()));
+}
+
+TEST_F(Files, ReplacingKeepsPermissionsAndFollowsLinks) {
+  const std::string path = folder_.write("a", "old");
+  fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
+  fs::create_symlink(path, folder_.file("link"));
+  EXPECT_TRUE(replaceWith(folder_.file("link"), "new"));
+  EXPECT_TRUE(fs::is_symlink(folder_.file("link")));
+  EXPECT_EQ(folder_.read("a"), "new");
+  EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(Files, OnlyRegularFilesExist) {
+  EXPECT_TRUE(FileExists(folder_.write("a")));
+  EXPECT_FALSE(FileExists(folder_.path()));
+  EXPECT_TRUE(directoryExists(folder_.path()));
+  EXPECT_FALSE(directoryExists(folder_.file("a")));
+  EXPECT_FALSE(directoryExists(""));
+}
+
+TEST_F(Files, ReadOnlyHiddenAndFolderAreAttributes) {
+  const std::string readOnly = folder_.write("r");
+  fs::permissions(readOnly, fs::perms::owner_read);
+  EXPECT_TRUE(HasFileAttribute(readOnly));
+  EXPECT_TRUE(HasFileAttribute(folder_.write(".hidden")));
+  EXPECT_TRUE(HasFileAttribute(folder_.path()));
+  EXPECT_FALSE(HasFileAttribute(folder_.write("plain")));
+  EXPECT_FALSE(HasFileAttribute(folder_.file("absent")));
+}
+
+TEST_F(Files, AFolderListsItsFilesSortedWithCaseIgnored) {
+  for (const char* name : {"b.ico", "A.ICO", "c.txt", "a.ico", "D.Ico"}) folder_.write(name);
+  folder_.makeFolder("e.ico");
+  makePipe(folder_.file("f.ico"));
+  EXPECT_EQ(filesInFolder(folder_.path(), "*.ico"), (std::vector<std::string>{"A.ICO", "a.ico", "b.ico", "D.Ico"}));
+  EXPECT_EQ(filesInFolder(folder_.path(), "*.*").size(), 5u);
+  EXPECT_TRUE(filesInFolder(folder_.file("absent"), "*.*").empty());
+}
+
+TEST_F(Files, AFolderListsItsFolders) {
+  for (const char* name : {"b", "A", "c"}) folder_.makeFolder(name);
+  folder_.write("file");
+  EXPECT_EQ(foldersInFolder(folder_.path()), (std::vector<std::string>{"A", "b", "c"}));
+}
+
+TEST_F(Files, AWritableExecutableFolderIsTheProgramFolder) {
+  const std::string bin = folder_.makeFolder("bin");
+  EXPECT_EQ(chooseProgramFolder(bin, folder_.file("config"), ""), bin);
+  EXPECT_TRUE(fs::is_empty(bin));
+  EXPECT_FALSE(directoryExists(folder_.file("config")));
+}
+
+TEST_F(Files, AnUnwritableExecutableFolderGivesWayToTheConfigFolder) {
+  const std::string absent = folder_.file("bin");
+  EXPECT_EQ(chooseProgramFolder(absent, folder_.file("config"), folder_.file("home")),
+            folder_.file("config/Glimmerpane"));
+  EXPECT_TRUE(directoryExists(folder_.file("config/Glimmerpane")));
+  EXPECT_EQ(chooseProgramFolder(absent, "", folder_.file("home")), folder_.file("home/.config/Glimmerpane"));
+  EXPECT_TRUE(directoryExists(folder_.file("home/.config/Glimmerpane")));
+}
+
+TEST_F(Files, WithoutAnyOtherFolderTheExecutablesFolderStays) {
+  EXPECT_EQ(chooseProgramFolder("/proc", "", ""), "/proc");
+  EXPECT_EQ(chooseProgramFolder("/proc", "relative", ""), "/proc");
+}
+
+TEST_F(Files, TheProgramFolderIsThereAndHasNoTrailingSeparator) {
+  EXPECT_TRUE(directoryExists(programFolder()));
+  EXPECT_NE(programFolder().back(), '/');
+}
+
+}  // namespace
+}  // namespace gp
