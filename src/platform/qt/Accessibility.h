@@ -21,7 +21,7 @@ class AccessibleValue {
 // Once, before the first window.
 void installAccessibility();
 
-// The value of a widget that inherits AccessibleValue is another one now. Cheap when nobody listens.
-void accessibleValueChanged(QWidget* widget);
+// The value of a widget that inherits AccessibleValue is another one now. Does nothing when nobody listens.
+void accessibleValueChanged(QWidget* widget, bool listening = QAccessible::isActive());
 
 }  // namespace gp

@@ -22,7 +22,7 @@ QString characterToText(std::string_view character) {
 }  // namespace
 
 QString pathToText(std::string_view path) {
-  QStringDecoder decoder(QStringDecoder::Utf8);
+  QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
   QString text = decoder(QByteArrayView(path.data(), static_cast<qsizetype>(path.size())));
   if (!decoder.hasError()) return text;
   text.clear();

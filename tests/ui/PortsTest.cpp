@@ -1,0 +1,536 @@
+// The ports on the desktop: boxes and dialogs as they come up, the machine, and real processes.
+#include "platform/qt/Accessibility.h"
+#include "platform/qt/PathText.h"
+#include "platform/qt/QtFileDialogs.h"
+#include "platform/qt/QtMessageBoxes.h"
+#include "platform/qt/QtMessagePump.h"
+#include "platform/qt/QtProcesses.h"
+#include "platform/qt/QtSystemInfo.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QColorDialog>
+#include <QElapsedTimer>
+#include <QFileDialog>
+#include <QFileSystemModel>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace gp {
+namespace {
+
+constexpr int kPatience = 5000;  // ms
+
+// Runs `act` on the next modal window of a type.
+template <class Dialog>
+void whenShown(std::function<void(Dialog&)> act) {
+  auto* poll = new QTimer(qApp);
+  QObject::connect(poll, &QTimer::timeout, poll, [poll, act] {
+    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+    if (!dialog) return;
+    poll->stop();
+    poll->deleteLater();
+    act(*dialog);
+  });
+  poll->start(5);
+}
+
+void writeFile(const std::string& path, const std::string& text = "x") { std::ofstream(path) << text; }
+
+class Folder {
+ public:
+  std::string path(const std::string& name = {}) const { return dir_.path().toStdString() + "/" + name; }
+
+ private:
+  QTemporaryDir dir_;
+};
+
+// ---- Paths
+
+TEST(PathText, BytesThatAreNoUtf8ComeBackUnchanged) {
+  for (const std::string path :
+       {"/a/caf\xE9.ico", "/\xFF\xFE", "\xC0\x80", "\xED\xB2\x80", "/gr\xC3\xBC\xC3\x9F\x65/\xC3"}) {
+    EXPECT_EQ(textToPath(pathToText(path)), path);
+  }
+}
+
+TEST(PathText, ProperUtf8IsReadAsItself) {
+  EXPECT_EQ(pathToText("/gr\xC3\xBC\xC3\x9F\x65/\xF0\x9F\x8E\xA8.ico"), QString::fromUtf8("/grüße/🎨.ico"));
+  EXPECT_EQ(textToPath(QString::fromUtf8("/grüße/🎨.ico")), "/gr\xC3\xBC\xC3\x9F\x65/\xF0\x9F\x8E\xA8.ico");
+}
+
+// ---- Message boxes
+
+struct Look {
+  BoxButtons buttons;
+  BoxIcon icon;
+  BoxAnswer suggested;
+  QMessageBox::StandardButton defaultButton;
+  QMessageBox::Icon shownIcon;
+  BoxAnswer onEscape;
+};
+
+TEST(QtMessageBoxes, HaveTheirTitlePlainTextDefaultButtonAndEscape) {
+  const Look looks[] = {
+      {BoxButtons::Ok, BoxIcon::None, BoxAnswer::Ok, QMessageBox::Ok, QMessageBox::NoIcon, BoxAnswer::Ok},
+      {BoxButtons::Ok, BoxIcon::Exclamation, BoxAnswer::Ok, QMessageBox::Ok, QMessageBox::Warning, BoxAnswer::Ok},
+      {BoxButtons::Ok, BoxIcon::Information, BoxAnswer::Ok, QMessageBox::Ok, QMessageBox::Information, BoxAnswer::Ok},
+      {BoxButtons::YesNo, BoxIcon::Question, BoxAnswer::No, QMessageBox::No, QMessageBox::Question, BoxAnswer::No},
+      {BoxButtons::YesNo, BoxIcon::Question, BoxAnswer::Yes, QMessageBox::Yes, QMessageBox::Question, BoxAnswer::No},
+      {BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Yes, QMessageBox::Yes, QMessageBox::Question,
+       BoxAnswer::Cancel},
+  };
+  const std::string text = "A <b>bold</b> name\nis kept && \xC3\xA4s it is: \"x\"";
+  for (const Look& look : looks) {
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+      EXPECT_EQ(box.windowTitle(), "Glimmerpane");
+      EXPECT_EQ(box.text().toStdString(), text);
+      EXPECT_EQ(box.textFormat(), Qt::PlainText);
+      EXPECT_EQ(box.icon(), look.shownIcon);
+      EXPECT_EQ(box.defaultButton(), box.button(look.defaultButton));
+      QTest::keyClick(&box, Qt::Key_Escape);
+    });
+    EXPECT_EQ(QtMessageBoxes().show(text, look.buttons, look.icon, look.suggested), look.onEscape);
+  }
+}
+
+TEST(QtMessageBoxes, EnterGivesTheSuggestedAnswer) {
+  for (const BoxAnswer answer : {BoxAnswer::Yes, BoxAnswer::No, BoxAnswer::Cancel}) {
+    whenShown<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    EXPECT_EQ(QtMessageBoxes().show("?", BoxButtons::YesNoCancel, BoxIcon::Question, answer), answer);
+  }
+}
+
+TEST(QtMessageBoxes, ABoxStandsOverTheActiveWindow) {
+  QWidget form;
+  form.show();
+  QApplication::setActiveWindow(&form);
+  whenShown<QMessageBox>([&](QMessageBox& box) {
+    EXPECT_EQ(box.parentWidget(), &form);
+    box.button(QMessageBox::Yes)->click();
+  });
+  EXPECT_TRUE(QtMessageBoxes().ask("Continue?"));
+}
+
+// ---- File dialogs
+
+std::string noFolder(const std::string&, const std::string&) { return {}; }
+
+FileDialogRequest iconRequest(const Folder& folder) {
+  FileDialogRequest request;
+  request.title = "Open icon file";
+  request.folder = folder.path();
+  request.filters = {{"Icon files (*.ico)", "*.ico"}};
+  request.flags = kFileMustExist | kFileHideReadOnly;
+  return request;
+}
+
+void typeName(QFileDialog& dialog, const QString& name) {
+  auto* field = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  ASSERT_NE(field, nullptr);
+  field->setFocus();
+  field->clear();
+  QTest::keyClicks(field, name);
+  QTest::keyClick(field, Qt::Key_Return);
+}
+
+TEST(QtFileDialogs, OpenGivesTheFileThatIsTyped) {
+  const Folder folder;
+  writeFile(folder.path("a b.ico"));
+  whenShown<QFileDialog>([](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), "Open icon file");
+    EXPECT_EQ(dialog.nameFilters(), QStringList{"Icon files (*.ico)"});
+    typeName(dialog, "a b.ico");
+  });
+  std::string path;
+  int error = -1;
+  EXPECT_TRUE(QtFileDialogs(noFolder).openFile(iconRequest(folder), path, error));
+  EXPECT_EQ(path, folder.path("a b.ico"));
+  EXPECT_EQ(error, 0);
+}
+
+TEST(QtFileDialogs, CancellingGivesAnEmptyPathAndNoError) {
+  const Folder folder;
+  whenShown<QFileDialog>([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+  std::string path = "left over";
+  int error = -1;
+  EXPECT_FALSE(QtFileDialogs(noFolder).openFile(iconRequest(folder), path, error));
+  EXPECT_EQ(path, "");
+  EXPECT_EQ(error, 0);
+}
+
+TEST(QtFileDialogs, PatternsMatchInAnyCase) {
+  const Folder folder;
+  for (const char* name : {"A.ICO", "b.ico", "c.Ico", "d.bmp"}) writeFile(folder.path(name));
+  QFileDialog dialog;
+  QtFileDialogs::prepareOpen(dialog, iconRequest(folder));
+  dialog.show();
+  auto* model = dialog.findChild<QFileSystemModel*>();
+  ASSERT_NE(model, nullptr);
+  QStringList names;
+  const auto listed = [&] {
+    names.clear();
+    const QModelIndex root = model->index(pathToText(folder.path()));
+    for (int row = 0; row < model->rowCount(root); ++row) names << model->fileName(model->index(row, 0, root));
+    names.sort();
+    return names.size() == 3;
+  };
+  EXPECT_TRUE(QTest::qWaitFor(listed, kPatience));
+  EXPECT_EQ(names, (QStringList{"A.ICO", "b.ico", "c.Ico"}));
+}
+
+TEST(QtFileDialogs, StarDotStarAlsoMeansNamesWithoutADot) {
+  FileDialogRequest request;
+  request.filters = {{"All files (*.*)", "*.*"}, {"Icons and cursors", "*.ico;*.cur"}};
+  QFileDialog dialog;
+  QtFileDialogs::prepareOpen(dialog, request);
+  EXPECT_EQ(dialog.nameFilters(), (QStringList{"All files (*)", "Icons and cursors (*.ico *.cur)"}));
+}
+
+TEST(QtFileDialogs, SaveAppendsTheDefaultExtensionToANameWithoutOne) {
+  const Folder folder;
+  for (const auto& [typed, saved] : {std::pair("new", "new.ico"), {"new.bmp", "new.bmp"}}) {
+    whenShown<QFileDialog>([name = typed](QFileDialog& dialog) { typeName(dialog, name); });
+    FileDialogRequest request = iconRequest(folder);
+    request.flags = kFileOverwritePrompt;
+    request.defaultExtension = "ico";
+    std::string path;
+    int error = -1;
+    EXPECT_TRUE(QtFileDialogs(noFolder).saveFile(request, path, error));
+    EXPECT_EQ(path, folder.path(saved));
+  }
+}
+
+// Saves over a file and answers the question that may come; counts the questions.
+bool saveOver(const Folder& folder, const std::string& name, unsigned flags, QMessageBox::StandardButton answer,
+              std::string& path, int& questions) {
+  questions = 0;
+  FileDialogRequest request = iconRequest(folder);
+  request.fileName = name;
+  request.flags = flags;
+  QTimer poll;
+  bool accepted = false;
+  QObject::connect(&poll, &QTimer::timeout, [&] {
+    QWidget* top = QApplication::activeModalWidget();
+    if (auto* box = qobject_cast<QMessageBox*>(top)) {
+      ++questions;
+      box->button(answer)->click();
+    } else if (auto* dialog = qobject_cast<QFileDialog*>(top)) {
+      if (accepted) return dialog->reject();
+      accepted = true;
+      auto* field = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+      // Not from within the timer, which would not run again under the question.
+      QTimer::singleShot(0, field, [field] { QTest::keyClick(field, Qt::Key_Return); });
+    }
+  });
+  poll.start(20);
+  int error = -1;
+  return QtFileDialogs(noFolder).saveFile(request, path, error);
+}
+
+TEST(QtFileDialogs, SaveAsksBeforeAnExistingFileIsReplaced) {
+  const Folder folder;
+  std::string path;
+  int questions = 0;
+  // The second name is no UTF-8.
+  for (const char* name : {"there.ico", "caf\xE9.ico"}) {
+    writeFile(folder.path(name));
+    EXPECT_FALSE(saveOver(folder, name, kFileOverwritePrompt, QMessageBox::No, path, questions)) << name;
+    EXPECT_EQ(questions, 1);
+    EXPECT_TRUE(saveOver(folder, name, kFileOverwritePrompt, QMessageBox::Yes, path, questions)) << name;
+    EXPECT_EQ(questions, 1);
+    EXPECT_EQ(path, folder.path(name));
+    EXPECT_TRUE(saveOver(folder, name, 0, QMessageBox::No, path, questions)) << name;
+    EXPECT_EQ(questions, 0);
+  }
+}
+
+TEST(QtFileDialogs, TheColourDialogStartsAtTheColourAndGivesTheChosenOne) {
+  Color color = rgb(1, 2, 3);
+  whenShown<QColorDialog>([](QColorDialog& dialog) {
+    EXPECT_EQ(dialog.currentColor(), QColor(1, 2, 3));
+    for (int i = 0; i < QColorDialog::customCount(); ++i) EXPECT_EQ(QColorDialog::customColor(i), QColor(Qt::white));
+    dialog.setCurrentColor(QColor(200, 100, 50));
+    dialog.accept();
+  });
+  EXPECT_TRUE(QtFileDialogs(noFolder).chooseColor(color));
+  EXPECT_EQ(color, rgb(200, 100, 50));
+
+  whenShown<QColorDialog>([](QColorDialog& dialog) {
+    dialog.setCurrentColor(Qt::red);
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  });
+  EXPECT_FALSE(QtFileDialogs(noFolder).chooseColor(color));
+  EXPECT_EQ(color, rgb(200, 100, 50));
+}
+
+TEST(QtFileDialogs, FoldersComeFromTheProgramsOwnForm) {
+  QtFileDialogs dialogs([](const std::string& pattern, const std::string& start) { return pattern + " in " + start; });
+  EXPECT_EQ(dialogs.chooseFolder("*.ICO", "/home"), "*.ICO in /home");
+}
+
+// ---- Pump and machine
+
+TEST(QtMessagePump, PumpRunsWhatIsPending) {
+  bool ran = false;
+  QTimer::singleShot(0, [&] { ran = true; });
+  QtMessagePump().pump();
+  EXPECT_TRUE(ran);
+}
+
+TEST(QtMessagePump, WaitingKeepsEventsRunning) {
+  int ticks = 0;
+  QTimer timer;
+  QObject::connect(&timer, &QTimer::timeout, [&] { ++ticks; });
+  timer.start(5);
+  QElapsedTimer clock;
+  clock.start();
+  QtMessagePump().wait(100);
+  EXPECT_GE(clock.elapsed(), 99);
+  EXPECT_GT(ticks, 3);
+}
+
+TEST(QtSystemInfo, TellsTheScreenTheMemoryAndTheFolders) {
+  QtSystemInfo system;
+  EXPECT_EQ(system.GetScreenBPP(), 32);
+  EXPECT_EQ(system.screenWidth(), 800);
+  EXPECT_EQ(system.screenHeight(), 800);
+  EXPECT_EQ(system.GetPixelsPerInch(), 96);
+  EXPECT_GT(system.totalMemoryKb(), 1024);
+  EXPECT_EQ(system.windowsDirectory(), "/usr");
+  EXPECT_EQ(system.systemDirectory(), "/usr/lib");
+  EXPECT_TRUE(system.tempDirectory().ends_with('/'));
+  EXPECT_FALSE(system.desktopDirectory().empty());
+}
+
+// ---- Processes
+
+// A copy of sleep under another name, started and ended with the object.
+class Sleeper {
+ public:
+  explicit Sleeper(const std::string& path) {
+    std::filesystem::copy_file("/bin/sleep", path, std::filesystem::copy_options::overwrite_existing);
+    process_.start(QString::fromStdString(path), {"60"});
+    EXPECT_TRUE(process_.waitForStarted(kPatience));
+  }
+  ~Sleeper() {
+    process_.kill();
+    process_.waitForFinished(kPatience);
+  }
+  QProcess& process() { return process_; }
+
+ private:
+  QProcess process_;
+};
+
+TEST(QtProcesses, ARunningProgramIsFoundByTheEndOfItsPathInAnyCase) {
+  const Folder folder;
+  QtProcesses processes(folder.path("lock"));
+  EXPECT_FALSE(processes.IsProcessRunning("gptest-sleeper.exe"));
+  const Sleeper sleeper(folder.path("Old-GPTest-Sleeper.EXE"));
+  EXPECT_TRUE(processes.IsProcessRunning("gptest-sleeper.exe"));
+  EXPECT_TRUE(processes.IsProcessRunning("GPTEST-sleeper.exe"));
+  EXPECT_FALSE(processes.IsProcessRunning("gptest-sleeper"));
+  EXPECT_FALSE(processes.IsProcessRunning(""));
+}
+
+TEST(QtProcesses, TheCompanionIsKilledAndThenGone) {
+  const Folder folder;
+  QtProcesses processes(folder.path("lock"));
+  Sleeper sleeper(folder.path("gptest-supp1.exe"));
+  ASSERT_TRUE(processes.IsProcessRunning("gptest-supp1.exe"));
+  processes.TerminateProcessByName("gptest-supp1.exe");
+  EXPECT_TRUE(sleeper.process().waitForFinished(kPatience));
+  EXPECT_EQ(sleeper.process().exitStatus(), QProcess::CrashExit);
+  EXPECT_FALSE(processes.IsProcessRunning("gptest-supp1.exe"));
+}
+
+TEST(QtProcesses, ADeadChildThatNobodyWaitedForDoesNotRun) {
+  const Folder folder;
+  const std::string program = folder.path("gptest-zombie.exe");
+  std::filesystem::copy_file("/bin/true", program);
+  const pid_t child = fork();
+  if (child == 0) {
+    execl(program.c_str(), program.c_str(), static_cast<char*>(nullptr));
+    _exit(1);
+  }
+  siginfo_t ended{};
+  waitid(P_PID, static_cast<id_t>(child), &ended, WEXITED | WNOWAIT);
+  EXPECT_FALSE(QtProcesses(folder.path("lock")).IsProcessRunning("gptest-zombie.exe"));
+  waitpid(child, nullptr, 0);
+}
+
+TEST(QtProcesses, TheProgramItselfIsNeverFound) {
+  const Folder folder;
+  const std::string own = std::filesystem::read_symlink("/proc/self/exe").string();
+  EXPECT_FALSE(QtProcesses(folder.path("lock")).IsProcessRunning(own));
+}
+
+TEST(QtProcesses, StartTellsWhetherTheProgramCouldBeStarted) {
+  const Folder folder;
+  QtProcesses processes(folder.path("lock"));
+  EXPECT_FALSE(processes.start(folder.path("missing.exe")));
+  const std::string script = folder.path("companion.sh");
+  writeFile(script, "#!/bin/sh\necho started > \"$0.out\"\n");
+  std::filesystem::permissions(script, std::filesystem::perms::owner_all);
+  EXPECT_TRUE(processes.start(script));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(script + ".out"); }, kPatience));
+}
+
+// Another instance: takes the lock, tells what it found, and holds it until it is ended.
+class Instance {
+ public:
+  explicit Instance(const std::string& lock) {
+    int ends[2];
+    EXPECT_EQ(pipe(ends), 0);
+    child_ = fork();
+    if (child_ == 0) {
+      QtProcesses processes(lock);
+      const char answer = processes.IsPrevInstance() ? 'y' : 'n';
+      if (write(ends[1], &answer, 1) != 1) _exit(1);
+      for (;;) pause();
+    }
+    EXPECT_EQ(read(ends[0], &answer_, 1), 1);
+    close(ends[0]);
+    close(ends[1]);
+  }
+  ~Instance() { end(); }
+  bool foundAnother() const { return answer_ == 'y'; }
+  // As a crash would, with no chance to clean up.
+  void end() {
+    if (child_ <= 0) return;
+    kill(child_, SIGKILL);
+    waitpid(child_, nullptr, 0);
+    child_ = 0;
+  }
+
+ private:
+  pid_t child_ = 0;
+  char answer_ = '?';
+};
+
+TEST(QtProcesses, TheSecondInstanceSeesTheFirst) {
+  const Folder folder;
+  QtProcesses first(folder.path("lock"));
+  EXPECT_FALSE(first.IsPrevInstance());
+  EXPECT_FALSE(first.IsPrevInstance());
+  EXPECT_TRUE(Instance(folder.path("lock")).foundAnother());
+}
+
+TEST(QtProcesses, ALockLeftByACrashIsTakenOver) {
+  const Folder folder;
+  Instance crashing(folder.path("lock"));
+  EXPECT_FALSE(crashing.foundAnother());
+  EXPECT_TRUE(QtProcesses(folder.path("lock")).IsPrevInstance());
+  crashing.end();
+  EXPECT_TRUE(std::filesystem::exists(folder.path("lock")));
+  EXPECT_FALSE(QtProcesses(folder.path("lock")).IsPrevInstance());
+}
+
+TEST(QtProcesses, WithoutAPlaceForTheLockThereIsNoOtherInstance) {
+  EXPECT_FALSE(QtProcesses("/nowhere/at/all/lock").IsPrevInstance());
+}
+
+TEST(QtProcesses, TheLockIsTheUsersOwn) {
+  const Folder folder;
+  qputenv("XDG_RUNTIME_DIR", folder.path("run").c_str());
+  EXPECT_NE(QtProcesses::userLockFile().find(std::to_string(getuid())), std::string::npos);
+  std::filesystem::create_directory(folder.path("run"));
+  EXPECT_EQ(QtProcesses::userLockFile(), folder.path("run/glimmerpane.lock"));
+  qunsetenv("XDG_RUNTIME_DIR");
+}
+
+TEST(QtProcesses, ClosingByTitleDoesNothingWithoutAnXServer) {
+  const QByteArray display = qgetenv("DISPLAY");
+  qputenv("DISPLAY", ":6789");
+  const Folder folder;
+  QtProcesses(folder.path("lock")).CloseWindowByTitle("Glimmerpane By Zorvex Lattice");
+  if (display.isNull()) {
+    qunsetenv("DISPLAY");
+  } else {
+    qputenv("DISPLAY", display);
+  }
+}
+
+// ---- What assistive technology is told
+
+class ValuePanel : public QLabel, public AccessibleValue {
+ public:
+  QString accessibleValue() const override { return text(); }
+};
+
+class ValueCanvas : public QWidget, public AccessibleValue {
+ public:
+  QString accessibleValue() const override { return QStringLiteral("X=3  Y=4  Red"); }
+  QAccessible::Role accessibleRole() const override { return QAccessible::Canvas; }
+};
+
+TEST(Accessibility, APanelKeepsItsNameAndTellsItsTextAsValue) {
+  ValuePanel panel;
+  panel.setAccessibleName(QStringLiteral("Status 2"));
+  panel.setText(QStringLiteral("32 x 32"));
+  QAccessibleInterface* shown = QAccessible::queryAccessibleInterface(&panel);
+  ASSERT_NE(shown, nullptr);
+  EXPECT_EQ(shown->role(), QAccessible::StaticText);
+  EXPECT_EQ(shown->text(QAccessible::Name), "Status 2");
+  EXPECT_EQ(shown->text(QAccessible::Value), "32 x 32");
+  EXPECT_EQ(shown->text(QAccessible::Description), "32 x 32");
+  ASSERT_NE(shown->textInterface(), nullptr);
+  EXPECT_EQ(shown->textInterface()->characterCount(), 7);
+  EXPECT_EQ(shown->textInterface()->text(0, 2), "32");
+}
+
+TEST(Accessibility, AWidgetChoosesItsRole) {
+  ValueCanvas canvas;
+  canvas.setAccessibleName(QStringLiteral("Editing Area"));
+  canvas.setFocusPolicy(Qt::StrongFocus);
+  QAccessibleInterface* shown = QAccessible::queryAccessibleInterface(&canvas);
+  ASSERT_NE(shown, nullptr);
+  EXPECT_EQ(shown->role(), QAccessible::Canvas);
+  EXPECT_EQ(shown->text(QAccessible::Name), "Editing Area");
+  EXPECT_EQ(shown->text(QAccessible::Description), "X=3  Y=4  Red");
+  EXPECT_TRUE(shown->state().focusable);
+}
+
+QStringList announced;
+
+void noteEvent(QAccessibleEvent* event) {
+  if (event->type() == QAccessible::TextUpdated) {
+    auto* update = static_cast<QAccessibleTextUpdateEvent*>(event);
+    announced << update->textRemoved() + " -> " + update->textInserted();
+  }
+  if (event->type() == QAccessible::DescriptionChanged) announced << "described";
+}
+
+TEST(Accessibility, AChangeIsAnnouncedOnceAndOnlyWhenSomebodyListens) {
+  announced.clear();
+  const auto before = QAccessible::installUpdateHandler(noteEvent);
+  ValuePanel panel;
+  panel.setText(QStringLiteral("old"));
+  accessibleValueChanged(&panel, true);
+  EXPECT_EQ(announced, QStringList());
+
+  panel.setText(QStringLiteral("new"));
+  accessibleValueChanged(&panel, false);
+  EXPECT_EQ(announced, QStringList());
+  accessibleValueChanged(&panel, true);
+  accessibleValueChanged(&panel, true);
+  EXPECT_EQ(announced, (QStringList{"old -> new", "described"}));
+  QAccessible::installUpdateHandler(before);
+}
+
+}  // namespace
+}  // namespace gp
