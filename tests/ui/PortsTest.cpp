@@ -505,32 +505,5 @@ TEST(Accessibility, AWidgetChoosesItsRole) {
   EXPECT_TRUE(shown->state().focusable);
 }
 
-QStringList announced;
-
-void noteEvent(QAccessibleEvent* event) {
-  if (event->type() == QAccessible::TextUpdated) {
-    auto* update = static_cast<QAccessibleTextUpdateEvent*>(event);
-    announced << update->textRemoved() + " -> " + update->textInserted();
-  }
-  if (event->type() == QAccessible::DescriptionChanged) announced << "described";
-}
-
-TEST(Accessibility, AChangeIsAnnouncedOnceAndOnlyWhenSomebodyListens) {
-  announced.clear();
-  const auto before = QAccessible::installUpdateHandler(noteEvent);
-  ValuePanel panel;
-  panel.setText(QStringLiteral("old"));
-  accessibleValueChanged(&panel, true);
-  EXPECT_EQ(announced, QStringList());
-
-  panel.setText(QStringLiteral("new"));
-  accessibleValueChanged(&panel, false);
-  EXPECT_EQ(announced, QStringList());
-  accessibleValueChanged(&panel, true);
-  accessibleValueChanged(&panel, true);
-  EXPECT_EQ(announced, (QStringList{"old -> new", "described"}));
-  QAccessible::installUpdateHandler(before);
-}
-
 }  // namespace
 }  // namespace gp

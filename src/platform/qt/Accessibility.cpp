@@ -75,8 +75,8 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object) {
 
 void installAccessibility() { QAccessible::installFactory(makeInterface); }
 
-void accessibleValueChanged(QWidget* widget, bool listening) {
-  if (!listening) return;
+void accessibleValueChanged(QWidget* widget) {
+  if (!QAccessible::isActive()) return;
   auto* shown = dynamic_cast<ValueInterface*>(QAccessible::queryAccessibleInterface(widget));
   if (shown) shown->announce();
 }

@@ -22,6 +22,6 @@ class AccessibleValue {
 void installAccessibility();
 
 // The value of a widget that inherits AccessibleValue is another one now. Does nothing when nobody listens.
-void accessibleValueChanged(QWidget* widget, bool listening = QAccessible::isActive());
+void accessibleValueChanged(QWidget* widget);
 
 }  // namespace gp
