@@ -239,7 +239,7 @@ std::string IconSaver::askForName(const SaveKind& kind) {
   options.filter = kind.filter;
   options.defaultExtension = kind.extension;
   options.initialFolder = state_.process.mLastFolder;
-  const std::string path = context_.dialog.ShowSave(options);
+  std::string path = context_.dialog.ShowSave(options);
   if (!path.empty()) state_.process.mLastFolder = ParseFileName(path, PathPart::DriveAndFolder);
   return path;
 }

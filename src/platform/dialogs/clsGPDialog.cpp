@@ -50,7 +50,7 @@ FileDialogRequest requestOf(const Options& options, unsigned flags) {
 // The text up to the next NUL, which is taken off with it.
 std::string takeUpToNul(std::string_view& text) {
   const std::size_t end = std::min(text.find(kNul), text.size());
-  const std::string taken(text.substr(0, end));
+  std::string taken(text.substr(0, end));
   text.remove_prefix(std::min(end + 1, text.size()));
   return taken;
 }

@@ -111,8 +111,7 @@ bool StretchBlt(Surface& target, int x, int y, int width, int height, const Surf
   for (int length : {width, height, sourceWidth, sourceHeight})
     if (!isStretchable(length)) return false;
   if (&target == &source) {
-    const Surface copy = source;
-    return StretchBlt(target, x, y, width, height, copy, sourceX, sourceY, sourceWidth, sourceHeight, op);
+    return StretchBlt(target, x, y, width, height, Surface(source), sourceX, sourceY, sourceWidth, sourceHeight, op);
   }
   const StretchCells columns = stretchCells({x, width, sourceX, sourceWidth, target.width(), source.width()},
                                             target.stretchMode, KeptPixel::Last);

@@ -2,10 +2,10 @@
 // clsGPDialog.
 #pragma once
 
+#include "platform/gdi/Surface.h"
+
 #include <string>
 #include <vector>
-
-#include "platform/gdi/Surface.h"
 
 namespace gp {
 

@@ -8,9 +8,9 @@ namespace gp {
 class SystemInfo {
  public:
   virtual ~SystemInfo() = default;
-  virtual int GetScreenBPP() = 0;         // bits per pixel
-  virtual int screenWidth() = 0;          // pixels
-  virtual int screenHeight() = 0;         // pixels
+  virtual int GetScreenBPP() = 0;  // bits per pixel
+  virtual int screenWidth() = 0;   // pixels
+  virtual int screenHeight() = 0;  // pixels
   virtual int GetPixelsPerInch() = 0;
   virtual long long totalMemoryKb() = 0;
   // Folders; empty when unknown.
