@@ -18,18 +18,21 @@ class Filler {
     while (!seeds_.empty()) {
       const Seed seed = seeds_.back();
       seeds_.pop_back();
-      if (isOpen(seed.x, seed.y)) fillSpan(seed);
+      fillSpan(seed);
     }
   }
 
  private:
-  bool isOpen(int x, int y) const { return (surface_.row(y)[x] & kColorBits) == from_; }
+  bool isOpen(std::uint32_t pixel) const { return (pixel & kColorBits) == from_; }
 
   void fillSpan(Seed seed) {
+    const std::uint32_t* pixels = surface_.row(seed.y).data();
+    // Another span may have reached the seed in the meantime.
+    if (!isOpen(pixels[seed.x])) return;
     int left = seed.x;
     int right = seed.x + 1;
-    while (left > 0 && isOpen(left - 1, seed.y)) --left;
-    while (right < surface_.width() && isOpen(right, seed.y)) ++right;
+    while (left > 0 && isOpen(pixels[left - 1])) --left;
+    while (right < surface_.width() && isOpen(pixels[right])) ++right;
     std::uint32_t* row = surface_.rowForWriting(seed.y, left, right);
     for (int x = left; x < right; ++x) row[x] = storedForm(surface_.fillColor);
     if (seed.y > 0) seedRuns(left, right, seed.y - 1);
@@ -38,9 +41,10 @@ class Filler {
 
   // One seed for each run of open pixels in the row next to a span.
   void seedRuns(int left, int right, int y) {
+    const std::uint32_t* pixels = surface_.row(y).data();
     bool inRun = false;
     for (int x = left; x < right; ++x) {
-      const bool open = isOpen(x, y);
+      const bool open = isOpen(pixels[x]);
       if (open && !inRun) seeds_.push_back({x, y});
       inRun = open;
     }

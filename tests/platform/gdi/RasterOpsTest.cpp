@@ -41,7 +41,7 @@ Surface randomSurface(int width, int height, std::mt19937& random) {
   Surface s(width, height);
   for (int y = 0; y < height; ++y) {
     std::uint32_t* row = s.rowForWriting(y, 0, width);
-    for (int x = 0; x < width; ++x) row[x] = random();
+    for (int x = 0; x < width; ++x) row[x] = static_cast<std::uint32_t>(random());
   }
   return s;
 }
