@@ -47,7 +47,7 @@ def test_the_test_icons_are_read_as_built(session):
 def test_painted_icon_saved_under_a_new_name_has_the_same_pixels_everywhere(session):
     picture = checkerboard()
     program = session.start(writeIcon(session, 'before.ico', picture))
-    program.press('Paint', role='push button')
+    program.press('Paint')
     paint(program, picture, RED_CELL, RED, [(0, 0), (10, 12), (31, 31)])
     paint(program, picture, NAVY_CELL, NAVY, [(16, 3), (0, 31), (17, 20)])
 
