@@ -22,7 +22,9 @@ inline void put32(Bytes& out, std::uint32_t value) {
   put16(out, value & 0xFFFF);
   put16(out, value >> 16);
 }
-inline void append(Bytes& out, const Bytes& more) { out.insert(out.end(), more.begin(), more.end()); }
+inline void append(Bytes& out, const Bytes& more) {
+  for (const std::uint8_t byte : more) out.push_back(byte);
+}
 
 struct Rgb {
   int r = 0, g = 0, b = 0, a = 255;

@@ -1,0 +1,53 @@
+#include "document/AlphaIndicator.h"
+#include "document/Hourglass.h"
+#include "support/FakeEditor.h"
+#include "support/ScriptedPorts.h"
+
+#include <gtest/gtest.h>
+
+namespace gp::test {
+namespace {
+
+// Notes the state of the indicator at every wait.
+class WatchingPump : public MessagePump {
+ public:
+  explicit WatchingPump(const EditState& state) : state_(state) {}
+  std::vector<bool> shown;
+  std::vector<int> waits;
+
+  void pump() override {}
+  void wait(int milliseconds) override {
+    shown.push_back(state_.screen.imgAlphaOnStatusPanel && state_.screen.lblStatusPanel[4] == "Alpha");
+    waits.push_back(milliseconds);
+  }
+
+ private:
+  const EditState& state_;
+};
+
+TEST(AlphaIndicator, FlashesTwiceAndEndsShown) {
+  EditState state;
+  RecordingDisplay display;
+  WatchingPump pump(state);
+  flashAlphaIndicator(state, display, pump);
+  EXPECT_EQ(pump.shown, (std::vector<bool>{true, false, true, false}));
+  EXPECT_EQ(pump.waits, (std::vector<int>{100, 100, 100, 100}));
+  EXPECT_TRUE(state.screen.imgAlphaOnStatusPanel);
+  EXPECT_EQ(state.screen.lblStatusPanel[4], "Alpha");
+  EXPECT_TRUE(display.told(DisplayPart::StatusBar));
+}
+
+TEST(Hourglass, LastsAsLongAsTheOutermostGuard) {
+  EditState state;
+  RecordingDisplay display;
+  {
+    const Hourglass outer(state, display);
+    { const Hourglass inner(state, display); }
+    EXPECT_TRUE(state.screen.hourglass);
+  }
+  EXPECT_FALSE(state.screen.hourglass);
+  EXPECT_TRUE(display.told(DisplayPart::Pointer));
+}
+
+}  // namespace
+}  // namespace gp::test

@@ -1,0 +1,343 @@
+#include "files/Decoding.h"
+#include "files/FilesFixture.h"
+
+#include <filesystem>
+
+namespace gp::test {
+namespace {
+
+constexpr const char* kInvalid =
+    "\n\nInvalid icon file or icon not a size of 16x16, 24x24, 32x32 or 48x48.\n"
+    "Please try to use Open Bitmap File menu instead.";
+constexpr const char* kFailed = "\nFailed to load this file";
+constexpr const char* kAlphaReminder =
+    "\nReminder:  The incoming icon is with Alpha Channel.  To view the icon with\n"
+    "alpha effects, or to edit the alpha values, invoke the Alpha Channel screen.\n\n"
+    "(To remove Reminder, untick the related Option submenu)";
+constexpr const char* kHeaderReminder =
+    "\nReminder:  Header entries in the original file are discrepant.  (i) To permanently\n"
+    "correct the entries when the current image itself is OK, run Save icon function\n"
+    "of this program (until then, you see an asterisk in the Status Bar).  (ii) To view\n"
+    "the original header entries, run Enquiry - Original Header Entry (you will be able\n"
+    "to salvage the file basing on bitmap header entry instead, irrespective of the\n"
+    "actual color depth.)\n\n"
+    "(To remove Reminder, untick the related Option submenu)";
+
+using IconOpeningTest = FilesTest;
+
+TEST_F(IconOpeningTest, AnOldIconWithoutBitCountLoadsByItsColorCountWithoutAsterisk) {
+  EXPECT_TRUE(open(folder.write("old.ico", build(entryOf(anyPicture(32, 4), 16, 0)))));
+  EXPECT_EQ(record().bitCount, 4);
+  EXPECT_EQ(record().dirColors, 16);
+  EXPECT_FALSE(record().isDiscrepant());
+}
+
+TEST_F(IconOpeningTest, AnOldIconWithoutAnyDepthLoadsAs256ColorsWithoutAsterisk) {
+  EXPECT_TRUE(open(folder.write("old.ico", build(entryOf(anyPicture(32, 8), 0, 0)))));
+  EXPECT_EQ(record().bitCount, 8);
+  EXPECT_EQ(record().dirColors, 256);
+  EXPECT_FALSE(record().isDiscrepant());
+}
+
+TEST_F(IconOpeningTest, AZeroDirectoryOverTrueColorLoadsAs256ColorsWithAsteriskAndReminder) {
+  boxes.expectTold(kHeaderReminder, BoxIcon::Information);
+  EXPECT_TRUE(open(folder.write("lie.ico", build(entryOf(anyPicture(32, 24), 0, 0)))));
+  EXPECT_EQ(record().dirColors, 256);
+  EXPECT_EQ(record().bitCount, 8);
+  EXPECT_EQ(record().bihColors, -1);
+  EXPECT_EQ(record().bihBitCount, 24);
+  EXPECT_TRUE(record().isDiscrepant());
+}
+
+TEST_F(IconOpeningTest, AColorCountOf255OpensAs16ColorsOfEightBits) {
+  EXPECT_TRUE(open(folder.write("c255.ico", build(entryOf(anyPicture(32, 8), 255, 8)))));
+  EXPECT_EQ(record().dirColors, 16);
+  EXPECT_EQ(record().bitCount, 8);
+}
+
+TEST_F(IconOpeningTest, SizesWithout32x32AreRefusedAsInvalid) {
+  const std::string path =
+      folder.write("two.ico", build(IcoFile{{entryOf(anyPicture(16, 4)), entryOf(anyPicture(48, 4))}, 0, 1, {}}));
+  boxes.expectTold(path + kInvalid, BoxIcon::Exclamation);
+  EXPECT_FALSE(open(path));
+}
+
+TEST_F(IconOpeningTest, ThreeSameSizeEntriesOpenTheEightBitOne) {
+  const Picture eight = anyPicture(32, 8);
+  const Bytes file =
+      build(IcoFile{{entryOf(anyPicture(32, 4)), entryOf(eight), entryOf(anyPicture(32, 24))}, 0, 1, {}});
+  EXPECT_TRUE(open(folder.write("three.ico", file)));
+  EXPECT_EQ(record().bitCount, 8);
+  EXPECT_TRUE(record().fromMultiIconFile);
+  EXPECT_EQ(record().multiIconIndex, 0) << "the chosen entry's index is not kept";
+  EXPECT_TRUE(samePixels(state.picImage, decode(file, 1).image));
+}
+
+TEST_F(IconOpeningTest, AMultiIconFileWithOneUsableEntryStillCountsAsOne) {
+  Entry large = entryOf(anyPicture(48, 4));
+  large.width = large.height = 64;
+  EXPECT_TRUE(open(folder.write("m.ico", build(IcoFile{{entryOf(anyPicture(32, 4)), large}, 0, 1, {}}))));
+  EXPECT_TRUE(record().fromMultiIconFile);
+}
+
+TEST_F(IconOpeningTest, ASingleEntryOf16By32IsToldItsSizes) {
+  Entry entry = entryOf(anyPicture(32, 4));
+  entry.width = 16;
+  boxes.expectTold("Width and height are different:   16 by 32\nPlease try to use Open Bitmap File menu instead.",
+                   BoxIcon::Exclamation);
+  EXPECT_FALSE(open(folder.write("wide.ico", build(entry))));
+}
+
+TEST_F(IconOpeningTest, A16BitIconIsReadAndThenRefused) {
+  const std::string path = folder.write("hi.ico", build(entryOf(anyPicture(32, 32), 0, 16)));
+  boxes.expectTold(path + "\nIncoming icon is a True Color icon but not of 24 BPP or 32 BPP.\n", BoxIcon::Information);
+  EXPECT_FALSE(open(path));
+  EXPECT_FALSE(record().used);
+  EXPECT_FALSE(record().present);
+  EXPECT_EQ(state.picImage.GetPixel(3, 4), rgb(15, 20, 7)) << "the Surfaces hold the image";
+}
+
+TEST_F(IconOpeningTest, StrangeDepthsAndPngImagesFailToLoadAndLeaveTheContainerEmpty) {
+  Entry png = entryOf(anyPicture(32, 32));
+  png.image = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n', 0, 0, 0, 13, 'I', 'H', 'D', 'R'};
+  for (const Entry& entry : {entryOf(anyPicture(32, 8), 0, 3), png}) {
+    const std::string path = folder.write("strange.ico", build(entry));
+    boxes.expectTold(path + kFailed, BoxIcon::Exclamation);
+    EXPECT_FALSE(open(path));
+    EXPECT_FALSE(record().used);
+    EXPECT_EQ(record().size, 32);
+    EXPECT_FALSE(state.picImage.hasPicture());
+    EXPECT_FALSE(state.screen.hourglass);
+  }
+}
+
+TEST_F(IconOpeningTest, TheRecordTellsWhereTheIconCameFrom) {
+  record().modified = record().neverSaved = record().isCursor = true;
+  record().hotspotX = 5;
+  record().multiIconIndex = 3;
+  const std::string path = folder.write("name with blanks.ico", build(entryOf(anyPicture(24, 8))));
+  EXPECT_TRUE(open(path));
+  EXPECT_TRUE(record().used);
+  EXPECT_TRUE(record().present);
+  EXPECT_EQ(record().sourceLabel.trimmed(), "ICO file");
+  EXPECT_EQ(record().path.trimmed(), path);
+  EXPECT_EQ(record().size, 24);
+  EXPECT_FALSE(record().hasAlpha);
+  EXPECT_FALSE(record().fromMultiIconFile);
+  EXPECT_FALSE(record().isCursor);
+  EXPECT_EQ(record().hotspotX, 0);
+  EXPECT_EQ(record().multiIconIndex, 0);
+  EXPECT_FALSE(state.IsIconChanged());
+}
+
+TEST_F(IconOpeningTest, OpeningClearsSizesShowsAndRecordsInThisOrder) {
+  const std::string path = folder.write("a.ico", build(entryOf(anyPicture(48, 8))));
+  EXPECT_TRUE(open(path));
+  const std::vector<std::string> expected = {"clearRegion",          "clearUndoHistory",    "ClearContainer",
+                                             "SizePanelSurfaces 48", "SizeEditSurfaces 48", "UpdatePanelFromCurrent",
+                                             "ComposeCurrentIcon",   "ShowCurrentIcon",     "clearUndoHistory",
+                                             "recordUndo",           "AddHistory " + path};
+  std::vector<std::string> seen;
+  for (const std::string& call : editor.calls)
+    if (std::ranges::find(expected, call) != expected.end()) seen.push_back(call);
+  EXPECT_EQ(seen, expected);
+}
+
+TEST_F(IconOpeningTest, PixelsReachTheEditingAreaAndTheContainer) {
+  const Bytes file = build(entryOf(anyPicture(16, 4)));
+  EXPECT_TRUE(open(folder.write("a.ico", file)));
+  const Decoded d = decode(file);
+  EXPECT_TRUE(samePixels(state.picImage, d.image));
+  EXPECT_TRUE(samePixels(state.picMask, d.mask));
+  EXPECT_TRUE(samePixels(state.picPanelImage[0], d.image));
+  EXPECT_TRUE(samePixels(state.picPanelMask[0], d.mask));
+  EXPECT_EQ(state.PicIcon.width(), 16);
+}
+
+TEST_F(IconOpeningTest, AnIconWithAlphaKeepsItsValuesFlashesTwiceAndReminds) {
+  const Bytes file = build(entryOf(anyPicture(32, 32)));
+  boxes.expectTold(kAlphaReminder, BoxIcon::Information);
+  EXPECT_TRUE(open(folder.write("alpha.ico", file)));
+  EXPECT_EQ(record().bitCount, 32);
+  EXPECT_TRUE(record().hasAlpha);
+  EXPECT_EQ(state.mAlphaRecs[0], decode(file).alpha);
+  EXPECT_EQ(pump.waitedMilliseconds, 400);
+  EXPECT_TRUE(state.screen.imgAlphaOnStatusPanel);
+}
+
+TEST_F(IconOpeningTest, TheAlphaReminderCanBeTurnedOff) {
+  state.options.flagMessageIfAlpha = false;
+  EXPECT_TRUE(open(folder.write("alpha.ico", build(entryOf(anyPicture(32, 32))))));
+  EXPECT_EQ(pump.waitedMilliseconds, 0);
+}
+
+TEST_F(IconOpeningTest, A24BitIconHasNoAlpha) {
+  EXPECT_TRUE(open(folder.write("t.ico", build(entryOf(anyPicture(32, 24))))));
+  EXPECT_EQ(record().bitCount, 24);
+  EXPECT_EQ(record().dirColors, -1);
+  EXPECT_FALSE(record().hasAlpha);
+  EXPECT_EQ(state.mAlphaRecs[0], AlphaMatrix());
+}
+
+TEST_F(IconOpeningTest, BothRemindersComeAlphaFirst) {
+  boxes.expectTold(kAlphaReminder, BoxIcon::Information);
+  boxes.expectTold(kHeaderReminder, BoxIcon::Information);
+  EXPECT_TRUE(open(folder.write("both.ico", build(entryOf(anyPicture(32, 24), 0, 32)))));
+}
+
+TEST_F(IconOpeningTest, TheHeaderReminderCanBeTurnedOff) {
+  state.options.alertIfBadHeader = false;
+  EXPECT_TRUE(open(folder.write("lie.ico", build(entryOf(anyPicture(32, 24), 0, 0)))));
+}
+
+constexpr const char* kLowScreen =
+    "The incoming icon is a True Color icon, but your display colors\n"
+    "setting in Windows is below High Color basing on that when you\n"
+    "started the program.  The icon may not be displayed correctly.\n\n"
+    "Proceed still?";
+
+TEST_F(IconOpeningTest, TrueColorOnAScreenOfFewColorsIsAskedForAndNoLeavesEverything) {
+  const std::string before = given(entryOf(anyPicture(16, 4)));
+  state.process.gScreenBPP = 8;
+  boxes.expectAsked(kLowScreen, BoxAnswer::No);
+  EXPECT_FALSE(open(folder.write("t.ico", build(entryOf(anyPicture(32, 24))))));
+  EXPECT_EQ(record().path.trimmed(), before);
+}
+
+TEST_F(IconOpeningTest, TrueColorOnAScreenOfFewColorsOpensOnYes) {
+  state.process.gScreenBPP = 8;
+  boxes.expectAsked(kLowScreen, BoxAnswer::Yes);
+  EXPECT_TRUE(open(folder.write("t.ico", build(entryOf(anyPicture(32, 24))))));
+}
+
+TEST_F(IconOpeningTest, APaletteIconIsNotAskedForOnAScreenOfFewColors) {
+  state.process.gScreenBPP = 8;
+  EXPECT_TRUE(open(folder.write("t.ico", build(entryOf(anyPicture(32, 8))))));
+}
+
+TEST_F(IconOpeningTest, TheQuietOpeningSaysNothingAndWritesNoHistory) {
+  state.process.gScreenBPP = 8;
+  const std::string path = folder.write("q.ico", build(entryOf(anyPicture(32, 24), 0, 32)));
+  EXPECT_TRUE(openQuietly(path));
+  EXPECT_EQ(editor.count("AddHistory " + path), 0);
+  EXPECT_EQ(pump.waitedMilliseconds, 0);
+  EXPECT_EQ(editor.count("ShowCurrentIcon"), 1);
+}
+
+TEST_F(IconOpeningTest, TheQuietOpeningFailsWithoutAWord) {
+  Entry wide = entryOf(anyPicture(32, 4));
+  wide.width = 16;
+  EXPECT_FALSE(openQuietly(folder.write("w.ico", build(wide))));
+  EXPECT_FALSE(openQuietly(folder.write("text.ico", {'h', 'e', 'l', 'l', 'o'})));
+  EXPECT_FALSE(openQuietly(folder.write("h.ico", build(entryOf(anyPicture(32, 32), 0, 16)))));
+  EXPECT_FALSE(openQuietly(folder.write("p.ico", build(entryOf(anyPicture(32, 8), 0, 3)))));
+  EXPECT_FALSE(openQuietly(folder.path("missing.ico")));
+}
+
+TEST_F(IconOpeningTest, ARefusedFileLeavesTheCurrentContainerAsItWas) {
+  const std::string before = given(entryOf(anyPicture(16, 4)));
+  const std::string bad = folder.write("bad.ico", {0, 0, 1, 0});
+  boxes.expectTold(bad + kInvalid, BoxIcon::Exclamation);
+  EXPECT_FALSE(open(bad));
+  EXPECT_EQ(record().path.trimmed(), before);
+  EXPECT_TRUE(record().present);
+  EXPECT_EQ(editor.count("ClearContainer"), 0);
+}
+
+TEST_F(IconOpeningTest, AFailedLoadTouchesNoOtherContainer) {
+  const std::string before = given(entryOf(anyPicture(16, 32)));
+  const Surface image = state.picPanelImage[0];
+  const AlphaMatrix alpha = state.mAlphaRecs[0];
+  state.mCurContainer = 1;
+  EXPECT_FALSE(openQuietly(folder.write("p.ico", build(entryOf(anyPicture(32, 8), 0, 3)))));
+  EXPECT_EQ(state.mIconRecs[0].path.trimmed(), before);
+  EXPECT_TRUE(state.mIconRecs[0].present);
+  EXPECT_TRUE(samePixels(state.picPanelImage[0], image));
+  EXPECT_EQ(state.mAlphaRecs[0], alpha);
+}
+
+TEST_F(IconOpeningTest, WhatIsNoRegularFileIsRefusedAsInvalid) {
+  std::filesystem::create_directory(folder.path("dir.ico"));
+  for (const std::string& path :
+       {folder.path("dir.ico"), folder.path("missing.ico"), std::string("/dev/zero"), folder.write("empty.ico", {})}) {
+    boxes.expectTold(path + kInvalid, BoxIcon::Exclamation);
+    EXPECT_FALSE(open(path));
+  }
+}
+
+TEST_F(IconOpeningTest, UnusualNamesOpen) {
+  const Bytes file = build(entryOf(anyPicture(16, 4)));
+  for (const std::string& name :
+       {std::string("two words.ico"), std::string("it's \"quoted\".ico"), std::string("\xC3\xA4\xC3\xB6.ico"),
+        std::string("raw\xFF\xFE.ico"), std::string(250, 'n') + ".ico"}) {
+    const std::string path = folder.write(name, file);
+    EXPECT_TRUE(open(path)) << name;
+  }
+}
+
+TEST_F(IconOpeningTest, APathOfMoreThan300CharactersOpensAndItsRecordKeeps255) {
+  const std::string deep = folder.path(std::string(200, 'd'));
+  std::filesystem::create_directory(deep);
+  const std::string path = deep + "/" + std::string(150, 'n') + ".ico";
+  const Bytes file = build(entryOf(anyPicture(16, 4)));
+  std::ofstream(path, std::ios::binary)
+      .write(reinterpret_cast<const char*>(file.data()), static_cast<std::streamsize>(file.size()));
+  EXPECT_TRUE(open(path));
+  EXPECT_EQ(record().path.trimmed(), path.substr(0, 255));
+}
+
+TEST_F(IconOpeningTest, TheMenuOpensTheChosenFileAndChoosesTheChart) {
+  const std::string path = folder.write("a.ico", build(entryOf(anyPicture(16, 4))));
+  state.process.mLastFolder = "/somewhere";
+  dialogs.paths = {path};
+  files.doMnuFileOpenIcon();
+  ASSERT_EQ(dialogs.requests.size(), 1u);
+  EXPECT_EQ(dialogs.requests[0].filters, (std::vector<FileFilter>{{"Icon files (*.ico)", "*.ico"}}));
+  EXPECT_EQ(dialogs.requests[0].folder, "/somewhere");
+  EXPECT_EQ(state.process.mCommandFile, path);
+  EXPECT_EQ(editor.calls.back(), "chooseColorChart");
+}
+
+TEST_F(IconOpeningTest, TheMenuDoesNothingOnCancelAndKeepsTheCommandFileAfterAFailure) {
+  dialogs.paths = {""};
+  files.doMnuFileOpenIcon();
+  const std::string bad = folder.write("bad.ico", {1});
+  dialogs.paths = {bad};
+  boxes.expectTold(bad + kInvalid, BoxIcon::Exclamation);
+  files.doMnuFileOpenIcon();
+  EXPECT_EQ(state.process.mCommandFile, "");
+  EXPECT_EQ(editor.count("chooseColorChart"), 0);
+}
+
+TEST_F(IconOpeningTest, TheMenuOffersToSaveFirstAndARefusalEndsIt) {
+  given(entryOf(anyPicture(16, 4)));
+  record().modified = true;
+  editor.askSaveProceeds = false;
+  files.doMnuFileOpenIcon();
+  EXPECT_EQ(editor.count("AskSaveCurrent "), 1);
+  EXPECT_TRUE(dialogs.requests.empty());
+}
+
+TEST_F(IconOpeningTest, ReadIconFileToImageChecksTypeIndexAndSize) {
+  const std::string path = folder.write("a.ico", build(entryOf(anyPicture(24, 4))));
+  Surface image(24, 24), mask(24, 24);
+  const auto reads = [&](int index, bool fromSurface, bool check) {
+    bool ok = false;
+    files.ReadIconFileToImage(path, index, image, mask, fromSurface, check, false, ok);
+    return ok;
+  };
+  EXPECT_TRUE(reads(0, true, true));
+  EXPECT_TRUE(reads(0, false, true));
+  EXPECT_FALSE(reads(1, true, true));
+  EXPECT_FALSE(reads(-1, true, true));
+  image.resize(20, 20);
+  EXPECT_FALSE(reads(0, true, true));
+  EXPECT_TRUE(reads(0, true, false));
+  EXPECT_TRUE(reads(0, false, true));
+  bool ok = true;
+  files.ReadIconFileToImage(folder.path("missing"), 0, image, mask, false, true, false, ok);
+  EXPECT_FALSE(ok);
+}
+
+}  // namespace
+}  // namespace gp::test

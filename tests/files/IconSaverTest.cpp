@@ -1,0 +1,365 @@
+#include "files/Decoding.h"
+#include "files/FilesFixture.h"
+#include "platform/files/Files.h"
+
+#include <filesystem>
+
+namespace gp::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kNoIcon = "No icon in Editing Area yet";
+constexpr const char* kReadOnly =
+    "File is read-only\n\nYou may save it under a different file name or reset the file attributes.";
+constexpr const char* kBitmapQuestion = "Background color used will be the currently selected color.\nOK?\n";
+
+class IconSaverTest : public FilesTest {
+ protected:
+  bool save(const std::string& path) {
+    bool ok = false;
+    saver.doSaveIconTo(path, ok);
+    return ok;
+  }
+  bool proceeds(const std::string& message = "") {
+    bool proceed = false;
+    saver.AskSaveCurrent(message, proceed);
+    return proceed;
+  }
+  // The name that Save As offers for a path.
+  std::string offered(const std::string& path, SaveMode mode) {
+    record().path = path;
+    return saver.proposedName(mode);
+  }
+  Color bitmapPixel(const std::string& path, int x, int y) {
+    const Bytes b = bytesOf(path);
+    const std::size_t at = 54 + static_cast<std::size_t>((record().size - 1 - y) * record().size * 3 + x * 3);
+    return rgb(b[at + 2], b[at + 1], b[at]);
+  }
+};
+
+TEST_F(IconSaverTest, A256ColorIconThatHoldsSixteenColorsSavesAs4Bits) {
+  const std::string path = given(entryOf(anyPicture(32, 8)));
+  state.picImage.fill(0x0000FF);
+  EXPECT_TRUE(save(path));
+  EXPECT_EQ(bytesOf(path)[12], 4);
+  EXPECT_EQ(bytesOf(path)[8], 16);
+  EXPECT_EQ(record().dirColors, 16);
+  EXPECT_EQ(record().bitCount, 4);
+}
+
+TEST_F(IconSaverTest, ATrueColorIconStaysTrueColorWithTwoColorsOnIt) {
+  const std::string path = given(entryOf(anyPicture(32, 24)));
+  state.picImage.fill(kWhite);
+  EXPECT_TRUE(save(path));
+  EXPECT_EQ(bytesOf(path)[12], 24);
+  EXPECT_EQ(record().dirColors, -1);
+  EXPECT_EQ(record().bitCount, 24);
+}
+
+TEST_F(IconSaverTest, ABlackAndWhiteIconOf16ColorsSavesAs1Bit) {
+  const std::string path = given(entryOf(anyPicture(32, 4)));
+  state.picImage.fill(kWhite);
+  EXPECT_TRUE(save(path));
+  EXPECT_EQ(bytesOf(path)[8], 2);
+  EXPECT_EQ(bytesOf(path)[12], 1);
+}
+
+TEST_F(IconSaverTest, TooManyColorsForAPaletteSaveInTrueColorAndTheRecordTells) {
+  const std::string path = given(entryOf(anyPicture(32, 8)));
+  for (int i = 0; i < 32 * 32; ++i) state.picImage.SetPixelV(i % 32, i / 32, 0x100000 + std::min(i, 254));
+  EXPECT_TRUE(save(path));
+  EXPECT_EQ(bytesOf(path)[12], 24);
+  EXPECT_EQ(record().dirColors, -1);
+  EXPECT_EQ(record().bitCount, 24);
+  EXPECT_EQ(record().bihBitCount, 24);
+  EXPECT_TRUE(samePixels(decode(bytesOf(path)).image, state.picImage));
+}
+
+TEST_F(IconSaverTest, AnIconWithAlphaSavesItsValues) {
+  const Picture p = anyPicture(16, 32);
+  const std::string path = given(entryOf(p));
+  EXPECT_TRUE(save(path));
+  Picture expected = p;  // transparent pixels lose their alpha
+  expected.color = [&](int x, int y) {
+    Rgb c = p.color(x, y);
+    if (p.transparent(x, y)) c.a = 0;
+    return c;
+  };
+  EXPECT_EQ(bytesOf(path), build(entryOf(expected)));
+}
+
+TEST_F(IconSaverTest, ASavedIconIsUnchangedAndFreeOfItsOrigin) {
+  const std::string source = given(entryOf(anyPicture(32, 24), 0, 24));
+  record().fromMultiIconFile = record().isCursor = record().neverSaved = record().modified = true;
+  record().multiIconIndex = record().hotspotX = record().hotspotY = 3;
+  record().sourceLabel = "Screen capture";
+  record().bihBitCount = 8;
+  state.screen.lblStatusPanel[1] = "*";
+  const std::string path = folder.path("new.ico");
+  EXPECT_TRUE(save(path));
+  EXPECT_EQ(record().path.trimmed(), path);
+  EXPECT_EQ(record().sourceLabel.trimmed(), "ICO file");
+  EXPECT_FALSE(record().isDiscrepant());
+  EXPECT_FALSE(record().fromMultiIconFile || record().isCursor || record().neverSaved || record().modified);
+  EXPECT_EQ(record().multiIconIndex + record().hotspotX + record().hotspotY, 0);
+  EXPECT_EQ(state.screen.lblStatusPanel[1], "");
+  EXPECT_EQ(editor.calls,
+            (std::vector<std::string>{"UpdatePanelFromCurrent", "RefreshStatusBar", "AddHistory " + path}));
+}
+
+TEST_F(IconSaverTest, AReadOnlyFileIsToldSoAndTheIconStaysModified) {
+  const std::string path = given(entryOf(anyPicture(32, 4)));
+  const Bytes before = bytesOf(path);
+  fs::permissions(path, fs::perms::owner_read);
+  record().modified = true;
+  boxes.expectTold(kReadOnly, BoxIcon::Exclamation);
+  EXPECT_FALSE(save(path));
+  EXPECT_TRUE(record().modified);
+  EXPECT_TRUE(state.mSaveFailed);
+  EXPECT_EQ(bytesOf(path), before);
+}
+
+TEST_F(IconSaverTest, AnyOtherFailureIsToldAndTheIconStaysModified) {
+  const std::string before = given(entryOf(anyPicture(32, 4)));
+  record().modified = true;
+  boxes.expectTold("Failed to save this icon", BoxIcon::Exclamation);
+  EXPECT_FALSE(save(folder.path("no/such/folder.ico")));
+  EXPECT_TRUE(record().modified);
+  EXPECT_TRUE(state.mSaveFailed);
+  EXPECT_EQ(record().path.trimmed(), before);
+}
+
+TEST_F(IconSaverTest, SaveWritesToItsOwnFileWhenItIsASingleIconFileThatIsThere) {
+  const std::string path = given(entryOf(anyPicture(32, 4)), "UPPER.ICO");
+  state.picImage.fill(kWhite);
+  record().modified = true;
+  saver.doFileSave();
+  EXPECT_FALSE(record().modified);
+  EXPECT_EQ(bytesOf(path)[12], 1);
+}
+
+TEST_F(IconSaverTest, SaveAsksForANameInEveryOtherCase) {
+  const std::string path = given(entryOf(anyPicture(32, 4)));
+  dialogs.paths = {"", "", ""};
+  record().path = folder.path("gone.ico");
+  saver.doFileSave();
+  record().path = folder.write("other.bmp", {1});
+  saver.doFileSave();
+  record().path = path;
+  record().fromMultiIconFile = true;
+  boxes.expectTold(
+      "Reminder:  The original icon file contains multiple icons.\n\n"
+      " If you don't wish to overwrite it, save to a different name.",
+      BoxIcon::Information);
+  saver.doFileSave();
+  EXPECT_EQ(dialogs.requests.size(), 3u);
+  EXPECT_TRUE(state.mSaveFailed);
+}
+
+TEST_F(IconSaverTest, SaveAsOffersANameAndSaves) {
+  given(entryOf(anyPicture(32, 4)), "smile.ico");
+  record().modified = true;
+  const std::string path = folder.path("grin.ico");
+  dialogs.paths = {path};
+  saver.doSaveAs(SaveMode::Icon);
+  ASSERT_EQ(dialogs.requests.size(), 1u);
+  EXPECT_EQ(dialogs.requests[0].fileName, "smile");
+  EXPECT_EQ(dialogs.requests[0].defaultExtension, "ico");
+  EXPECT_EQ(dialogs.requests[0].filters, (std::vector<FileFilter>{{"Icon files (*.ico)", "*.ico"}}));
+  EXPECT_EQ(record().path.trimmed(), path);
+  EXPECT_FALSE(record().modified);
+  EXPECT_EQ(saver.lastSavedFile(), path);
+  EXPECT_EQ(editor.count("closePanels"), 1);
+  EXPECT_EQ(editor.count("clearRegion"), 1);
+  EXPECT_TRUE(fs::exists(path));
+}
+
+TEST_F(IconSaverTest, AFailedSaveAsKeepsTheIconModified) {
+  given(entryOf(anyPicture(32, 4)));
+  record().modified = true;
+  dialogs.paths = {folder.path("no/such.ico")};
+  boxes.expectTold("Failed to save this icon", BoxIcon::Exclamation);
+  saver.doSaveAs(SaveMode::Icon);
+  EXPECT_TRUE(record().modified);
+  EXPECT_TRUE(state.mSaveFailed);
+}
+
+TEST_F(IconSaverTest, ProposedNamesTellSizeAndColorsOfAMultiIconFile) {
+  EXPECT_EQ(offered("Untitled", SaveMode::Icon), "Untitled");
+  EXPECT_EQ(offered("/a/b/icon.ico", SaveMode::Icon), "icon");
+  EXPECT_EQ(offered("/a/b/icon.ico", SaveMode::Mask), "icon_Mask");
+  record().fromMultiIconFile = true;
+  record().dirColors = -1;
+  record().bitCount = 24;
+  EXPECT_EQ(offered("/a/b/icon.ico", SaveMode::Icon), "icon_32_24bpp");
+  record().dirColors = 256;
+  record().bitCount = 8;
+  EXPECT_EQ(offered("/a/b/icon.ico", SaveMode::Bitmap), "icon_32_256");
+  EXPECT_EQ(offered("/a/b/icon.ico", SaveMode::Mask), "icon_Mask");
+}
+
+TEST_F(IconSaverTest, CommandsWithoutAnIconSayThatThereIsNone) {
+  for (const int index : {12, 13, 18, 19, 20}) {
+    boxes.expectTold(kNoIcon, BoxIcon::None);
+    saver.mnuFileSub(index);
+  }
+  EXPECT_EQ(editor.count("CommitPendingPaint"), 5);
+}
+
+TEST_F(IconSaverTest, ACursorIsOf32x32Only) {
+  given(entryOf(anyPicture(16, 4)));
+  boxes.expectTold("For cursor of 32x32 only", BoxIcon::None);
+  saver.mnuFileSub(18);
+}
+
+TEST_F(IconSaverTest, SaveAsBitmapPutsTheCurrentColorBehindAndKeepsSilver) {
+  given(entryOf(anyPicture(16, 4)));
+  state.picImage.fill(kBlack);
+  state.picMask.fill(kWhite);
+  state.picImage.SetPixelV(3, 2, 0xC0C0C0);  // real silver
+  state.picMask.SetPixelV(3, 2, kBlack);
+  state.picImage.SetPixelV(4, 2, rgb(1, 2, 3));
+  state.picMask.SetPixelV(4, 2, kBlack);
+  editor.ComposeCurrentIcon();
+  state.mCurrentColor = rgb(0, 200, 0);
+  boxes.expectAsked(kBitmapQuestion, BoxAnswer::Yes);
+  dialogs.paths = {folder.path("a.bmp")};
+  saver.mnuFileSub(19);
+  EXPECT_EQ(dialogs.requests[0].defaultExtension, "bmp");
+  EXPECT_EQ(dialogs.requests[0].filters,
+            (std::vector<FileFilter>{{"Bitmap files (*.bmp)", "*.bmp"}, {"(*.*)", "*.*"}}));
+  EXPECT_EQ(bitmapPixel(folder.path("a.bmp"), 0, 0), rgb(0, 200, 0));
+  EXPECT_EQ(bitmapPixel(folder.path("a.bmp"), 3, 2), 0xC0C0C0);
+  EXPECT_EQ(bitmapPixel(folder.path("a.bmp"), 4, 2), rgb(1, 2, 3));
+}
+
+TEST_F(IconSaverTest, SaveAsBitmapOfAnIconWithAlphaBlendsOverTheGround) {
+  Picture p = anyPicture(16, 32);
+  p.color = [](int, int) { return Rgb{0, 255, 100, 128}; };
+  p.transparent = [](int x, int) { return x == 0; };
+  given(entryOf(p));
+  state.mCurrentColor = rgb(9, 9, 9);
+  boxes.expectAsked(kBitmapQuestion, BoxAnswer::Yes);
+  dialogs.paths = {folder.path("a.bmp")};
+  saver.mnuFileSub(19);
+  EXPECT_EQ(bitmapPixel(folder.path("a.bmp"), 5, 5), rgb(96, 223, 146));
+}
+
+TEST_F(IconSaverTest, SaveAsBitmapEndsOnNo) {
+  given(entryOf(anyPicture(16, 4)));
+  boxes.expectAsked(kBitmapQuestion, BoxAnswer::No);
+  saver.mnuFileSub(19);
+  EXPECT_TRUE(dialogs.requests.empty());
+}
+
+TEST_F(IconSaverTest, SaveMaskWritesTheMask) {
+  const Picture p = anyPicture(16, 4);
+  given(entryOf(p), "smile.ico");
+  dialogs.paths = {folder.path("m.bmp")};
+  saver.mnuFileSub(20);
+  EXPECT_EQ(dialogs.requests[0].fileName, "smile_Mask");
+  EXPECT_EQ(bitmapPixel(folder.path("m.bmp"), 0, 0), kWhite);
+  EXPECT_EQ(bitmapPixel(folder.path("m.bmp"), 1, 0), kBlack);
+}
+
+TEST_F(IconSaverTest, ABitmapThatCannotBeWrittenIsTold) {
+  given(entryOf(anyPicture(16, 4)));
+  dialogs.paths = {folder.path("no/such.bmp")};
+  boxes.expectTold("Failed to save this file.", BoxIcon::Exclamation);
+  saver.mnuFileSub(20);
+  EXPECT_TRUE(state.mSaveFailed);
+  EXPECT_FALSE(state.screen.hourglass);
+}
+
+struct NewIconCase {
+  int index, size;
+};
+
+TEST_F(IconSaverTest, ANewIconIsTransparentThroughoutAndOfTheSizeOfItsEntry) {
+  for (const NewIconCase& c : {NewIconCase{2, 32}, {3, 16}, {4, 48}, {5, 24}}) {
+    record().modified = false;
+    saver.mnuFileSub(c.index);
+    EXPECT_EQ(record().size, c.size);
+    EXPECT_TRUE(samePixels(state.picImage, Surface(c.size, c.size, kBlack)));
+    EXPECT_TRUE(samePixels(state.picMask, Surface(c.size, c.size, kWhite)));
+    EXPECT_TRUE(samePixels(state.PicIcon, Surface(c.size, c.size, kGround)));
+    EXPECT_TRUE(samePixels(state.picPanelMask[0], state.picMask));
+    EXPECT_EQ(record().sourceLabel.trimmed(), "New icon");
+    EXPECT_EQ(record().path.trimmed(), "Untitled");
+    EXPECT_TRUE(record().used && record().present);
+    EXPECT_EQ(record().dirColors, 0);
+    EXPECT_EQ(record().bitCount, 0);
+    EXPECT_EQ(editor.calls.back(), "selectTool 4");
+  }
+  EXPECT_EQ(editor.count("showChart16"), 4);
+  EXPECT_EQ(editor.count("recordUndo"), 4);
+}
+
+TEST_F(IconSaverTest, ANewIconOffersToSaveFirstAndCancelKeepsTheOldOne) {
+  const std::string path = given(entryOf(anyPicture(16, 4)));
+  record().modified = true;
+  boxes.expect("Save current icon to file?", BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Cancel);
+  saver.doNewIcon(2);
+  EXPECT_EQ(record().path.trimmed(), path);
+  boxes.expect("Save current icon to file?", BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::No);
+  saver.doNewIcon(2);
+  EXPECT_EQ(record().path.trimmed(), "Untitled");
+  EXPECT_FALSE(record().modified);
+}
+
+TEST_F(IconSaverTest, ANewIconOfAnotherSizeAsksBeforeItEndsAnAnimatedCursorSession) {
+  constexpr const char* kQuestion =
+      "Animated cursor session for 32x32 icons only\nTerminate animated cursor session?\n";
+  state.screen.aniContainerVisible = true;
+  boxes.expectAsked(kQuestion, BoxAnswer::No);
+  saver.doNewIcon(3);
+  EXPECT_FALSE(record().used);
+  saver.doNewIcon(2);
+  EXPECT_TRUE(state.screen.aniContainerVisible) << "32x32 fits the session";
+  boxes.expectAsked(kQuestion, BoxAnswer::Yes);
+  saver.doNewIcon(4);
+  EXPECT_EQ(record().size, 48);
+  EXPECT_FALSE(state.screen.aniContainerVisible);
+}
+
+TEST_F(IconSaverTest, TheSaveQuestionCarriesItsMessage) {
+  boxes.expect("Save current icon to file?\n\n(why)\n", BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Cancel);
+  EXPECT_FALSE(proceeds("(why)"));
+}
+
+TEST_F(IconSaverTest, TheSaveQuestionProceedsAfterNoAndAfterASave) {
+  const std::string path = given(entryOf(anyPicture(16, 4)));
+  record().modified = state.mSaveFailed = true;
+  boxes.expect("Save current icon to file?", BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::No);
+  EXPECT_TRUE(proceeds());
+  EXPECT_TRUE(record().modified);
+  boxes.expect("Save current icon to file?", BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Yes);
+  EXPECT_TRUE(proceeds());
+  EXPECT_FALSE(record().modified);
+}
+
+TEST_F(IconSaverTest, TheSaveQuestionDoesNotProceedWhenNothingWasSaved) {
+  given(entryOf(anyPicture(16, 4)));
+  record().path = folder.path("gone.ico");
+  dialogs.paths = {"", folder.path("no/such.ico")};
+  boxes.expect("Save current icon to file?", BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Yes);
+  EXPECT_FALSE(proceeds());
+  boxes.expect("Save current icon to file?", BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Yes);
+  boxes.expectTold("Failed to save this icon", BoxIcon::Exclamation);
+  EXPECT_FALSE(proceeds());
+}
+
+TEST_F(IconSaverTest, AnOpenedFileSavesAndOpensAgainWithTheSamePixels) {
+  for (const int bits : {24, 32}) {
+    const std::string path = given(entryOf(anyPicture(48, bits)));
+    const Surface image = state.picImage, mask = state.picMask;
+    EXPECT_TRUE(save(path));
+    EXPECT_TRUE(openQuietly(path));
+    EXPECT_TRUE(samePixels(state.picImage, image));
+    EXPECT_TRUE(samePixels(state.picMask, mask));
+  }
+}
+
+}  // namespace
+}  // namespace gp::test
