@@ -1,10 +1,12 @@
 #include "platform/files/Files.h"
 #include "support/TempFolder.h"
 
+#include <csignal>
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 namespace gp {
 namespace {
@@ -118,6 +120,36 @@ TEST_F(Files, FoldersPipesAndImpossibleNamesAreNotReplaced) {
   EXPECT_FALSE(replaceWith(folder_.file("absent/a"), "new"));
   EXPECT_FALSE(replaceWith(folder_.file(std::string(300, 'n')), "new"));
   EXPECT_TRUE(directoryExists(folder_.path()));
+}
+
+// Lets no file of this process grow beyond a limit, as a full disk does.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t bytes) : formerHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &former_);
+    const rlimit limit{bytes, former_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FullDisk() {
+    setrlimit(RLIMIT_FSIZE, &former_);
+    std::signal(SIGXFSZ, formerHandler_);
+  }
+
+ private:
+  rlimit former_{};
+  void (*formerHandler_)(int);
+};
+
+TEST_F(Files, AWriteThatFailsLeavesNoPartOfTheFile) {
+  const std::string path = folder_.write("a", "old");
+  const std::string content(100000, 'x');
+  {
+    const FullDisk full(1000);
+    EXPECT_FALSE(replaceWith(path, content));
+    EXPECT_FALSE(fs::exists(path));
+    EXPECT_TRUE(replaceWith(path, "small"));
+  }
+  EXPECT_TRUE(replaceWith(path, content));
 }
 
 TEST_F(Files, ReplacingKeepsPermissionsAndFollowsLinks) {
