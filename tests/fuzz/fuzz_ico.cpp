@@ -1,35 +1,32 @@
-// Icon files: directory, probe and every entry, as opening one does.
-#include "files/IcoDirectory.h"
+// Icon files: directory, probe, and every entry decoded by its own size and as 32x32.
 #include "files/IconDecoder.h"
 #include "files/IconProbe.h"
 
-#include <algorithm>
 #include <cstdint>
-#include <span>
 
 namespace {
 
-constexpr int kMostEntries = 64;  // a directory may tell 65535 of them, all alike
+// A file may tell more entries than it is worth decoding.
+constexpr int kMostEntries = 32;
 
-void decode(std::span<const std::uint8_t> file, const gp::IconEntry& entry) {
-  gp::Surface image;
-  gp::Surface mask;
+void decodeAs(std::span<const std::uint8_t> file, const gp::IconEntry& entry, int width, int height) {
+  gp::Surface image(width, height), mask(width, height);
   gp::AlphaMatrix alpha;
-  (void)gp::defectOfEntry(file, entry);
-  if (!gp::isUsableEntry(file, entry)) return;
-  (void)gp::decodeEntry(file, entry, entry.width, entry.height, {image, mask, alpha});
+  (void)gp::decodeEntry(file, entry, width, height, {image, mask, alpha});
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::span file(data, size);
-  for (const bool preferEightBit : {false, true}) (void)gp::probeIcon(file, preferEightBit).joined();
+  (void)gp::probeIcon(file, true).joined();
+  (void)gp::probeIcon(file, false);
   const gp::IconDirectory directory = gp::parseIconDirectory(file);
-  const int entries = std::min(directory.count, kMostEntries);
-  for (int index = 0; index < entries; ++index) {
-    (void)gp::factsOfEntry(file, directory, index);
-    decode(file, directory.entry(index));
+  for (int i = 0; i < kMostEntries && i < static_cast<int>(directory.entries.size()); ++i) {
+    const gp::IconEntry entry = directory.entry(i);
+    (void)gp::isUsableEntry(file, entry);
+    decodeAs(file, entry, entry.width, entry.height);
+    decodeAs(file, entry, 32, 32);
   }
   return 0;
 }
