@@ -86,6 +86,17 @@ std::vector<std::string> DirChooser::drives() const {
   return drives;
 }
 
+std::string DirChooser::drive() const {
+  std::string nearest = kRoot;
+  for (const std::string& drive : drives()) {
+    const bool isInside = folder_ == drive || folder_.starts_with(drive + "/");
+    if (isInside && drive.size() > nearest.size()) nearest = drive;
+  }
+  return nearest;
+}
+
+std::string DirChooser::parentFolder() const { return fs::path(folder_).parent_path().native(); }
+
 bool DirChooser::showsAllFiles() const { return pattern_ == kAllFiles; }
 
 std::string DirChooser::extension() const { return upperCase(pattern_.substr(pattern_.rfind('.') + 1)); }

@@ -40,6 +40,10 @@ class DirChooser {
   std::vector<FolderRow> folderRows() const;
   // The root and what is mounted below it for users, and the user's own folder.
   std::vector<std::string> drives() const;
+  // The one of drives() that the folder lies in, the nearest if there are several.
+  std::string drive() const;
+  // The folder above; the root is its own.
+  std::string parentFolder() const;
   // lblIconsInDir: how many files of the pattern the folder holds.
   std::string filesInDirText() const;
 

@@ -6,6 +6,7 @@
 #include "platform/qt/QtMessagePump.h"
 #include "platform/qt/QtProcesses.h"
 #include "platform/qt/QtSystemInfo.h"
+#include "support/TempFolder.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -18,12 +19,10 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -47,16 +46,6 @@ void whenShown(std::function<void(Dialog&)> act) {
   });
   poll->start(5);
 }
-
-void writeFile(const std::string& path, const std::string& text = "x") { std::ofstream(path) << text; }
-
-class Folder {
- public:
-  std::string path(const std::string& name = {}) const { return dir_.path().toStdString() + "/" + name; }
-
- private:
-  QTemporaryDir dir_;
-};
 
 // ---- Paths
 
@@ -129,7 +118,7 @@ TEST(QtMessageBoxes, ABoxStandsOverTheActiveWindow) {
 
 std::string noFolder(const std::string&, const std::string&) { return {}; }
 
-FileDialogRequest iconRequest(const Folder& folder) {
+FileDialogRequest iconRequest(const test::TempFolder& folder) {
   FileDialogRequest request;
   request.title = "Open icon file";
   request.folder = folder.path();
@@ -148,8 +137,8 @@ void typeName(QFileDialog& dialog, const QString& name) {
 }
 
 TEST(QtFileDialogs, OpenGivesTheFileThatIsTyped) {
-  const Folder folder;
-  writeFile(folder.path("a b.ico"));
+  const test::TempFolder folder;
+  folder.write("a b.ico");
   whenShown<QFileDialog>([](QFileDialog& dialog) {
     EXPECT_EQ(dialog.windowTitle(), "Open icon file");
     EXPECT_EQ(dialog.nameFilters(), QStringList{"Icon files (*.ico)"});
@@ -158,12 +147,12 @@ TEST(QtFileDialogs, OpenGivesTheFileThatIsTyped) {
   std::string path;
   int error = -1;
   EXPECT_TRUE(QtFileDialogs(noFolder).openFile(iconRequest(folder), path, error));
-  EXPECT_EQ(path, folder.path("a b.ico"));
+  EXPECT_EQ(path, folder.file("a b.ico"));
   EXPECT_EQ(error, 0);
 }
 
 TEST(QtFileDialogs, CancellingGivesAnEmptyPathAndNoError) {
-  const Folder folder;
+  const test::TempFolder folder;
   whenShown<QFileDialog>([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
   std::string path = "left over";
   int error = -1;
@@ -173,8 +162,8 @@ TEST(QtFileDialogs, CancellingGivesAnEmptyPathAndNoError) {
 }
 
 TEST(QtFileDialogs, PatternsMatchInAnyCase) {
-  const Folder folder;
-  for (const char* name : {"A.ICO", "b.ico", "c.Ico", "d.bmp"}) writeFile(folder.path(name));
+  const test::TempFolder folder;
+  for (const char* name : {"A.ICO", "b.ico", "c.Ico", "d.bmp"}) folder.write(name);
   QFileDialog dialog;
   QtFileDialogs::prepareOpen(dialog, iconRequest(folder));
   dialog.show();
@@ -201,7 +190,7 @@ TEST(QtFileDialogs, StarDotStarAlsoMeansNamesWithoutADot) {
 }
 
 TEST(QtFileDialogs, SaveAppendsTheDefaultExtensionToANameWithoutOne) {
-  const Folder folder;
+  const test::TempFolder folder;
   for (const auto& [typed, saved] : {std::pair("new", "new.ico"), {"new.bmp", "new.bmp"}}) {
     whenShown<QFileDialog>([name = typed](QFileDialog& dialog) { typeName(dialog, name); });
     FileDialogRequest request = iconRequest(folder);
@@ -210,13 +199,13 @@ TEST(QtFileDialogs, SaveAppendsTheDefaultExtensionToANameWithoutOne) {
     std::string path;
     int error = -1;
     EXPECT_TRUE(QtFileDialogs(noFolder).saveFile(request, path, error));
-    EXPECT_EQ(path, folder.path(saved));
+    EXPECT_EQ(path, folder.file(saved));
   }
 }
 
 // Saves over a file and answers the question that may come; counts the questions.
-bool saveOver(const Folder& folder, const std::string& name, unsigned flags, QMessageBox::StandardButton answer,
-              std::string& path, int& questions) {
+bool saveOver(const test::TempFolder& folder, const std::string& name, unsigned flags,
+              QMessageBox::StandardButton answer, std::string& path, int& questions) {
   questions = 0;
   FileDialogRequest request = iconRequest(folder);
   request.fileName = name;
@@ -242,17 +231,17 @@ bool saveOver(const Folder& folder, const std::string& name, unsigned flags, QMe
 }
 
 TEST(QtFileDialogs, SaveAsksBeforeAnExistingFileIsReplaced) {
-  const Folder folder;
+  const test::TempFolder folder;
   std::string path;
   int questions = 0;
   // The second name is no UTF-8.
   for (const char* name : {"there.ico", "caf\xE9.ico"}) {
-    writeFile(folder.path(name));
+    folder.write(name);
     EXPECT_FALSE(saveOver(folder, name, kFileOverwritePrompt, QMessageBox::No, path, questions)) << name;
     EXPECT_EQ(questions, 1);
     EXPECT_TRUE(saveOver(folder, name, kFileOverwritePrompt, QMessageBox::Yes, path, questions)) << name;
     EXPECT_EQ(questions, 1);
-    EXPECT_EQ(path, folder.path(name));
+    EXPECT_EQ(path, folder.file(name));
     EXPECT_TRUE(saveOver(folder, name, 0, QMessageBox::No, path, questions)) << name;
     EXPECT_EQ(questions, 0);
   }
@@ -337,10 +326,10 @@ class Sleeper {
 };
 
 TEST(QtProcesses, ARunningProgramIsFoundByTheEndOfItsPathInAnyCase) {
-  const Folder folder;
-  QtProcesses processes(folder.path("lock"));
+  const test::TempFolder folder;
+  QtProcesses processes(folder.file("lock"));
   EXPECT_FALSE(processes.IsProcessRunning("gptest-sleeper.exe"));
-  const Sleeper sleeper(folder.path("Old-GPTest-Sleeper.EXE"));
+  const Sleeper sleeper(folder.file("Old-GPTest-Sleeper.EXE"));
   EXPECT_TRUE(processes.IsProcessRunning("gptest-sleeper.exe"));
   EXPECT_TRUE(processes.IsProcessRunning("GPTEST-sleeper.exe"));
   EXPECT_FALSE(processes.IsProcessRunning("gptest-sleeper"));
@@ -348,9 +337,9 @@ TEST(QtProcesses, ARunningProgramIsFoundByTheEndOfItsPathInAnyCase) {
 }
 
 TEST(QtProcesses, TheCompanionIsKilledAndThenGone) {
-  const Folder folder;
-  QtProcesses processes(folder.path("lock"));
-  Sleeper sleeper(folder.path("gptest-supp1.exe"));
+  const test::TempFolder folder;
+  QtProcesses processes(folder.file("lock"));
+  Sleeper sleeper(folder.file("gptest-supp1.exe"));
   ASSERT_TRUE(processes.IsProcessRunning("gptest-supp1.exe"));
   processes.TerminateProcessByName("gptest-supp1.exe");
   EXPECT_TRUE(sleeper.process().waitForFinished(kPatience));
@@ -359,8 +348,8 @@ TEST(QtProcesses, TheCompanionIsKilledAndThenGone) {
 }
 
 TEST(QtProcesses, ADeadChildThatNobodyWaitedForDoesNotRun) {
-  const Folder folder;
-  const std::string program = folder.path("gptest-zombie.exe");
+  const test::TempFolder folder;
+  const std::string program = folder.file("gptest-zombie.exe");
   std::filesystem::copy_file("/bin/true", program);
   const pid_t child = fork();
   if (child == 0) {
@@ -369,22 +358,21 @@ TEST(QtProcesses, ADeadChildThatNobodyWaitedForDoesNotRun) {
   }
   siginfo_t ended{};
   waitid(P_PID, static_cast<id_t>(child), &ended, WEXITED | WNOWAIT);
-  EXPECT_FALSE(QtProcesses(folder.path("lock")).IsProcessRunning("gptest-zombie.exe"));
+  EXPECT_FALSE(QtProcesses(folder.file("lock")).IsProcessRunning("gptest-zombie.exe"));
   waitpid(child, nullptr, 0);
 }
 
 TEST(QtProcesses, TheProgramItselfIsNeverFound) {
-  const Folder folder;
+  const test::TempFolder folder;
   const std::string own = std::filesystem::read_symlink("/proc/self/exe").string();
-  EXPECT_FALSE(QtProcesses(folder.path("lock")).IsProcessRunning(own));
+  EXPECT_FALSE(QtProcesses(folder.file("lock")).IsProcessRunning(own));
 }
 
 TEST(QtProcesses, StartTellsWhetherTheProgramCouldBeStarted) {
-  const Folder folder;
-  QtProcesses processes(folder.path("lock"));
-  EXPECT_FALSE(processes.start(folder.path("missing.exe")));
-  const std::string script = folder.path("companion.sh");
-  writeFile(script, "#!/bin/sh\necho started > \"$0.out\"\n");
+  const test::TempFolder folder;
+  QtProcesses processes(folder.file("lock"));
+  EXPECT_FALSE(processes.start(folder.file("missing.exe")));
+  const std::string script = folder.write("companion.sh", "#!/bin/sh\necho started > \"$0.out\"\n");
   std::filesystem::permissions(script, std::filesystem::perms::owner_all);
   EXPECT_TRUE(processes.start(script));
   EXPECT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(script + ".out"); }, kPatience));
@@ -423,21 +411,21 @@ class Instance {
 };
 
 TEST(QtProcesses, TheSecondInstanceSeesTheFirst) {
-  const Folder folder;
-  QtProcesses first(folder.path("lock"));
+  const test::TempFolder folder;
+  QtProcesses first(folder.file("lock"));
   EXPECT_FALSE(first.IsPrevInstance());
   EXPECT_FALSE(first.IsPrevInstance());
-  EXPECT_TRUE(Instance(folder.path("lock")).foundAnother());
+  EXPECT_TRUE(Instance(folder.file("lock")).foundAnother());
 }
 
 TEST(QtProcesses, ALockLeftByACrashIsTakenOver) {
-  const Folder folder;
-  Instance crashing(folder.path("lock"));
+  const test::TempFolder folder;
+  Instance crashing(folder.file("lock"));
   EXPECT_FALSE(crashing.foundAnother());
-  EXPECT_TRUE(QtProcesses(folder.path("lock")).IsPrevInstance());
+  EXPECT_TRUE(QtProcesses(folder.file("lock")).IsPrevInstance());
   crashing.end();
-  EXPECT_TRUE(std::filesystem::exists(folder.path("lock")));
-  EXPECT_FALSE(QtProcesses(folder.path("lock")).IsPrevInstance());
+  EXPECT_TRUE(std::filesystem::exists(folder.file("lock")));
+  EXPECT_FALSE(QtProcesses(folder.file("lock")).IsPrevInstance());
 }
 
 TEST(QtProcesses, WithoutAPlaceForTheLockThereIsNoOtherInstance) {
@@ -445,19 +433,19 @@ TEST(QtProcesses, WithoutAPlaceForTheLockThereIsNoOtherInstance) {
 }
 
 TEST(QtProcesses, TheLockIsTheUsersOwn) {
-  const Folder folder;
-  qputenv("XDG_RUNTIME_DIR", folder.path("run").c_str());
+  const test::TempFolder folder;
+  qputenv("XDG_RUNTIME_DIR", folder.file("run").c_str());
   EXPECT_NE(QtProcesses::userLockFile().find(std::to_string(getuid())), std::string::npos);
-  std::filesystem::create_directory(folder.path("run"));
-  EXPECT_EQ(QtProcesses::userLockFile(), folder.path("run/glimmerpane.lock"));
+  std::filesystem::create_directory(folder.file("run"));
+  EXPECT_EQ(QtProcesses::userLockFile(), folder.file("run/glimmerpane.lock"));
   qunsetenv("XDG_RUNTIME_DIR");
 }
 
 TEST(QtProcesses, ClosingByTitleDoesNothingWithoutAnXServer) {
   const QByteArray display = qgetenv("DISPLAY");
   qputenv("DISPLAY", ":6789");
-  const Folder folder;
-  QtProcesses(folder.path("lock")).CloseWindowByTitle("Glimmerpane By Zorvex Lattice");
+  const test::TempFolder folder;
+  QtProcesses(folder.file("lock")).CloseWindowByTitle("Glimmerpane By Zorvex Lattice");
   if (display.isNull()) {
     qunsetenv("DISPLAY");
   } else {

@@ -1,0 +1,34 @@
+// DirListBox1: the folders on the way to the chosen one, itself, and the folders in it. A double click or Enter asks to
+// open a folder, Backspace to go up.
+#pragma once
+
+#include "shell/DirChooser.h"
+
+#include <QTreeWidget>
+
+#include <string>
+#include <vector>
+
+namespace gp {
+
+class FolderTree final : public QTreeWidget {
+  Q_OBJECT
+
+ public:
+  explicit FolderTree(QWidget* parent);
+
+  // Shows the rows and selects the innermost open folder.
+  void setRows(const std::vector<FolderRow>& rows);
+
+ signals:
+  void openRequested(const QString& path);
+  void upRequested();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void openCurrent();
+};
+
+}  // namespace gp
