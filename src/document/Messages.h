@@ -8,6 +8,6 @@ namespace gp {
 inline constexpr const char* kReminderHint = "(To remove Reminder, untick the related Option submenu)";
 
 // What every command says that needs an icon and finds none.
-inline void tellNoIconYet(MessageBoxes& boxes) { boxes.tell("No icon in Editing Area yet", BoxIcon::Information); }
+inline void tellNoIconYet(MessageBoxes& boxes) { boxes.tell("No icon in Editing Area yet"); }
 
 }  // namespace gp

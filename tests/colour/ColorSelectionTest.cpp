@@ -92,7 +92,7 @@ TEST_F(ColorSelectionTest, TheColourDialogSelectsAndItsCancelLeavesTheColour) {
 }
 
 TEST_F(ColorSelectionTest, ThePickerNeedsAnIcon) {
-  boxes.expectTold("No icon in Editing Area yet", BoxIcon::Information);
+  boxes.expectTold("No icon in Editing Area yet", BoxIcon::None);
   colors.imgColorPicker();
   EXPECT_FALSE(colors.isPickerSelected());
 }

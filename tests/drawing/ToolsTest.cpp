@@ -303,7 +303,7 @@ TEST_F(ToolsTest, AtMostOneToolIsSelected) {
 }
 
 TEST_F(ToolsTest, SelectingAToolWithoutIconTellsSoAndLeavesNoneSelected) {
-  boxes.expectTold("No icon in Editing Area yet", BoxIcon::Information);
+  boxes.expectTold("No icon in Editing Area yet", BoxIcon::None);
   tools.selectTool(kPaint);
   EXPECT_EQ(tools.selectedTool(), kNoTool);
 }

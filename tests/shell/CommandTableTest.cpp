@@ -171,7 +171,7 @@ TEST_F(CommandTable, EachOptionFlipsItsOwnTickOnly) {
 TEST_F(CommandTable, SavingWithoutAnIconTellsSo) {
   start();
   for (int index : {12, 13, 19, 20}) {
-    boxes.expectTold("No icon in Editing Area yet", BoxIcon::Information);
+    boxes.expectTold("No icon in Editing Area yet", BoxIcon::None);
     click("mnuFileSub", index);
   }
 }
