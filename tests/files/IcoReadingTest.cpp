@@ -125,6 +125,15 @@ TEST(IcoReading, ARefusedImageLeavesSurfacesAndAlphaAlone) {
   EXPECT_EQ(alpha, AlphaMatrix(3, 3, 7));
 }
 
+TEST(IcoReading, AnEntryWithoutWidthOrHeightIsRefused) {
+  Entry entry = entryOf(anyPicture(16, 32));
+  entry.width = 0;
+  EXPECT_EQ(decode(build(entry)).defect, IconDefect::SizeNotOffered);
+  entry.width = 16;
+  entry.height = 0;
+  EXPECT_EQ(decode(build(entry)).defect, IconDefect::SizeNotOffered);
+}
+
 TEST(IcoReading, PixelsBeyondTheSurfaceAreLost) {
   const Picture p = anyPicture(32, 8);
   const Bytes file = build(entryOf(p));

@@ -16,6 +16,11 @@ std::uint32_t* Surface::rowForWriting(int y, int x1, int x2) {
   return pixels_.data() + index(0, y);
 }
 
+std::uint32_t* Surface::rowsForWriting(int y1, int y2, int x1, int x2) {
+  touch(x1, y1, x2, y2);
+  return pixels_.data() + index(0, y1);
+}
+
 void Surface::resize(int width, int height) {
   width_ = std::max(width, 0);
   height_ = std::max(height, 0);

@@ -61,6 +61,9 @@ class Surface {
   std::span<const std::uint32_t> row(int y) const;
   // The first pixel of row y, for writing. [x1, x2) is what the caller is going to change; both must lie inside.
   std::uint32_t* rowForWriting(int y, int x1, int x2);
+  // The same for rows [y1, y2) at once: the first pixel of row y1, from where each row is width() pixels behind the
+  // one above it.
+  std::uint32_t* rowsForWriting(int y1, int y2, int x1, int x2);
 
   // Gives a new size; picture and drawing are lost, all pixels take the back colour.
   void resize(int width, int height);
