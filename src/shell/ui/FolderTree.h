@@ -25,6 +25,8 @@ class FolderTree final : public QTreeWidget {
   void upRequested();
 
  protected:
+  // No signs for opening and closing: every row stays where it is.
+  void drawBranches(QPainter*, const QRect&, const QModelIndex&) const override {}
   void keyPressEvent(QKeyEvent* event) override;
 
  private:

@@ -7,7 +7,6 @@
 #include "shell/StartUp.h"
 
 #include <QCoreApplication>
-#include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -78,15 +77,18 @@ frmGPAbout::frmGPAbout(SystemInfo& system, MessageBoxes& boxes, QWidget* parent)
 }
 
 void frmGPAbout::addButtons(SystemInfo& system, MessageBoxes& boxes) {
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
-  QPushButton* ok = buttons->button(QDialogButtonBox::Ok);
-  ok->setObjectName(QStringLiteral("cmdOK"));
-  QPushButton* information = buttons->addButton(QStringLiteral("&Screen Information"), QDialogButtonBox::HelpRole);
+  auto* information = new QPushButton(QStringLiteral("&Screen Information"), this);
   information->setObjectName(QStringLiteral("CmdScreenInfo"));
+  auto* ok = new QPushButton(QStringLiteral("OK"), this);
+  ok->setObjectName(QStringLiteral("cmdOK"));
   connect(information, &QPushButton::clicked, this,
           [&system, &boxes] { boxes.tell(screenInformation(system), BoxIcon::Information); });
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  layout()->addWidget(buttons);
+  connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(information);
+  buttons->addStretch();
+  buttons->addWidget(ok);
+  static_cast<QBoxLayout*>(layout())->addLayout(buttons);
   ok->setDefault(true);
   ok->setFocus();
 }
