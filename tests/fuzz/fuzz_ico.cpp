@@ -7,7 +7,7 @@
 namespace {
 
 // A file may tell more entries than it is worth decoding.
-constexpr int kMostEntries = 32;
+constexpr int kMostEntries = 6;
 
 void decodeAs(std::span<const std::uint8_t> file, const gp::IconEntry& entry, int width, int height) {
   gp::Surface image(width, height), mask(width, height);
