@@ -9,10 +9,11 @@
 #include "shell/Shell.h"
 #include "shell/StartUp.h"
 #include "shell/ui/QtDisplay.h"
+#include "shell/ui/frmDirDialog.h"
+#include "shell/ui/frmGPAbout.h"
 #include "shell/ui/frmGPEdit.h"
 
 #include <QApplication>
-#include <QFile>
 
 #include <string>
 
@@ -23,7 +24,9 @@ std::string commandLineOf(int argc, char** argv) { return argc > 1 ? argv[1] : "
 
 int run(QApplication& application, const std::string& commandLine) {
   gp::QtMessageBoxes boxes;
-  gp::QtFileDialogs dialogs([](const std::string&, const std::string&) { return std::string(); });
+  gp::QtFileDialogs dialogs([&boxes](const std::string& pattern, const std::string& startFolder) {
+    return gp::frmDirDialog::choose(pattern, startFolder, boxes);
+  });
   gp::QtMessagePump pump;
   gp::QtSystemInfo system;
   gp::QtProcesses processes;
@@ -32,11 +35,14 @@ int run(QApplication& application, const std::string& commandLine) {
   gp::EditState state;
   if (!gp::runStartUpChecks(system, processes, boxes, state, folder)) return 0;
 
+  gp::frmGPAbout startUpPicture;
+  startUpPicture.showAtStart();
   gp::QtDisplay display;
   gp::Shell shell(state, {boxes, dialogs, pump, system, processes}, display, folder);
   gp::frmGPEdit form(shell, display, commandLine);
   shell.formLoad();
   form.show();
+  startUpPicture.close();
   return application.exec();
 }
 
@@ -47,6 +53,8 @@ int main(int argc, char** argv) {
   QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   QApplication application(argc, argv);
   QApplication::setApplicationName(gp::kProgramName);
+  QApplication::setApplicationVersion(GLIMMERPANE_VERSION);
+  QGuiApplication::setDesktopFileName("glimmerpane");
   gp::installAccessibility();
   return run(application, commandLineOf(argc, argv));
 }

@@ -3,6 +3,7 @@
 #include "document/AlphaCompositing.h"
 #include "document/Containers.h"
 #include "document/Hourglass.h"
+#include "document/Messages.h"
 #include "files/BitmapWriter.h"
 #include "files/IconWriter.h"
 #include "platform/files/Files.h"
@@ -22,7 +23,6 @@ constexpr int kAniSize = 32;
 constexpr int kPaintTool = 4;
 constexpr std::size_t kDiscrepancyPanel = static_cast<std::size_t>(StatusPanel::Discrepancy);
 
-constexpr const char* kNoIcon = "No icon in Editing Area yet";
 constexpr const char* kCursorSizeOnly = "For cursor of 32x32 only";
 constexpr const char* kBitmapQuestion = "Background color used will be the currently selected color.\nOK?\n";
 constexpr const char* kSaveQuestion = "Save current icon to file?";
@@ -94,7 +94,7 @@ void IconSaver::mnuFileSub(int index) {
 }
 
 bool IconSaver::hasIcon() {
-  if (!state_.current().present) context_.boxes.tell(kNoIcon);
+  if (!state_.current().present) tellNoIconYet(context_.boxes);
   return state_.current().present;
 }
 

@@ -74,7 +74,7 @@ struct Look {
 
 TEST(QtMessageBoxes, HaveTheirTitlePlainTextDefaultButtonAndEscape) {
   const Look looks[] = {
-      {BoxButtons::Ok, BoxIcon::None, BoxAnswer::Ok, QMessageBox::Ok, QMessageBox::NoIcon, BoxAnswer::Ok},
+      {BoxButtons::Ok, BoxIcon::None, BoxAnswer::Ok, QMessageBox::Ok, QMessageBox::Information, BoxAnswer::Ok},
       {BoxButtons::Ok, BoxIcon::Exclamation, BoxAnswer::Ok, QMessageBox::Ok, QMessageBox::Warning, BoxAnswer::Ok},
       {BoxButtons::Ok, BoxIcon::Information, BoxAnswer::Ok, QMessageBox::Ok, QMessageBox::Information, BoxAnswer::Ok},
       {BoxButtons::YesNo, BoxIcon::Question, BoxAnswer::No, QMessageBox::No, QMessageBox::Question, BoxAnswer::No},

@@ -42,10 +42,11 @@ QMessageBox::Icon standardIcon(BoxIcon icon) {
       return QMessageBox::Question;
     case BoxIcon::Exclamation:
       return QMessageBox::Warning;
+    // Every box bears an icon; one that names none only informs.
     case BoxIcon::None:
       break;
   }
-  return QMessageBox::NoIcon;
+  return QMessageBox::Information;
 }
 
 // What Escape and the window's close button mean.

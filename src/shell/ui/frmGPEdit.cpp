@@ -14,6 +14,7 @@
 #include "shell/ui/PanelStack.h"
 #include "shell/ui/QtDisplay.h"
 #include "shell/ui/ToolbarView.h"
+#include "shell/ui/frmGPAbout.h"
 
 #include <QCloseEvent>
 #include <QCursor>
@@ -29,6 +30,7 @@ namespace gp {
 namespace {
 
 constexpr int kEdge = 4;           // around and between the columns, pixels
+constexpr int kRightEdge = 3;
 constexpr int kShiftPadSide = 60;  // the place of the shift pad below the tools
 constexpr int kToolColumnWidth = 56;
 
@@ -96,7 +98,7 @@ frmGPEdit::~frmGPEdit() {
 QWidget* frmGPEdit::makeMiddle(QWidget* parent) {
   auto* middle = new QWidget(parent);
   auto* columns = new QHBoxLayout(middle);
-  columns->setContentsMargins(kEdge, kEdge, kEdge, kEdge);
+  columns->setContentsMargins(kEdge, kEdge, kRightEdge, kEdge);
   columns->setSpacing(kEdge);
   columns->addWidget(iconsPanel_ = new IconsPanelView(middle, shell_.state(), shell_.iconsPanel()));
   columns->addWidget(makeToolColumn(middle));
@@ -114,12 +116,12 @@ QWidget* frmGPEdit::makeToolColumn(QWidget* parent) {
   rows->setSpacing(kEdge);
   rows->addWidget(toolBox_ = new ToolBox(column, shell_.state(), shell_.tools(), shell_.colors()));
   rows->addSpacing(kShiftPadSide);
-  rows->addStretch(1);
   auto* label = new QLabel("1:1", column);
   label->setObjectName("lblIcon");
   label->setAlignment(Qt::AlignCenter);
   rows->addWidget(lblIcon_ = label);
   rows->addWidget(picIcon_ = new CurrentIconView(column, shell_.state()), 0, Qt::AlignHCenter);
+  rows->addStretch(1);
   return column;
 }
 
@@ -135,6 +137,10 @@ QWidget* frmGPEdit::makeEditingColumn(QWidget* parent) {
 
 void frmGPEdit::connectEditingArea() {
   EditingAreaView& view = room_->view();
+  view.setPixelDescription([this](QPoint pixel) {
+    return QString("X=%1  Y=%2  ").arg(pixel.x() + 1).arg(pixel.y() + 1) +
+           toText(shell_.tools().pixelText(pixel.x(), pixel.y()));
+  });
   connect(&view, &EditingAreaView::pressed, this, [this](QPointF at, Qt::MouseButton button, auto modifiers) {
     shell_.guarded("picDisp_MouseDown", [&] { shell_.tools().press(mouseInput(at, modifiers, button)); });
   });
@@ -260,7 +266,10 @@ void frmGPEdit::setPlace(const FormPlace& place) {
 
 void frmGPEdit::maximize() { setWindowState(windowState() | Qt::WindowMaximized); }
 
-void frmGPEdit::showAbout() {}
+void frmGPEdit::showAbout() {
+  frmGPAbout about(shell_.ports().system, shell_.ports().boxes, this);
+  about.exec();
+}
 
 void frmGPEdit::unload() { close(); }
 
