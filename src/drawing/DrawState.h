@@ -1,0 +1,29 @@
+// What the tools share while the mouse is down: the rectangle that is being drawn in three measures, and which stroke is
+// under way. Tools owns it and hands it to each tool.
+#pragma once
+
+namespace gp {
+
+// Opposite corners, in any order while a drag lasts. Whole numbers, but for the region box during an edge drag.
+struct DrawRect {
+  double x1 = 0;
+  double y1 = 0;
+  double x2 = 0;
+  double y2 = 0;
+};
+
+struct DrawState {
+  // A stroke runs from press to release; a nested event finds the flags as they are.
+  bool mPainting = false;
+  bool mErasing = false;
+  bool mRestoring = false;
+  bool mRegionDown = false;
+
+  DrawRect draw;    // mDrawX1, mDrawY1, mDrawX2, mDrawY2: icon pixels, both corners included
+  DrawRect band;    // mBandX1 and so on: the same in Editing Area pixels, at the centres of cells
+  DrawRect region;  // mRegionLeft, mRegionTop, mRegionRight, mRegionBottom: Editing Area pixels
+
+  bool isStroke() const { return mPainting || mErasing || mRestoring || mRegionDown; }
+};
+
+}  // namespace gp

@@ -1,0 +1,23 @@
+// One tool's share of the mouse handlers of picDisp. Tools has done the common steps when it calls: an icon is present,
+// the tool is selected, the position has become a pixel, and at a release the icon is marked as modified.
+#pragma once
+
+namespace gp {
+
+struct ToolMouse {
+  int pixelX = 0;  // icon pixel; at a release it may lie outside the icon
+  int pixelY = 0;
+  float x = 0;  // Editing Area pixels
+  float y = 0;
+  int modifiers = 0;  // kShiftKey, kCtrlKey, kAltKey
+};
+
+class DrawingTool {
+ public:
+  virtual ~DrawingTool() = default;
+  virtual void press(const ToolMouse& /*mouse*/) {}
+  virtual void move(const ToolMouse& /*mouse*/) {}
+  virtual void release(const ToolMouse& /*mouse*/) {}
+};
+
+}  // namespace gp
