@@ -8,7 +8,9 @@ CHART = '16-Color Palette'
 CHART_COLUMNS, CHART_ROWS = 8, 2
 RED, RED_CELL = (255, 0, 0), (3, 0)
 NAVY, NAVY_CELL = (0, 0, 128), (7, 1)
+GREEN, GREEN_PIXEL = (0, 128, 0), (8, 4)
 BORDER = 4  # transparent pixels round the picture
+GROUND = (192, 192, 192)  # shows through transparent pixels
 
 
 def checkerboard():
@@ -16,7 +18,7 @@ def checkerboard():
     def pixel(x, y):
         if min(x, y) < BORDER or max(x, y) >= SIZE - BORDER:
             return None
-        return (0, 128, 0) if (x // 4 + y // 4) % 2 else (255, 255, 255)
+        return GREEN if (x // 4 + y // 4) % 2 else (255, 255, 255)
     return [[pixel(x, y) for x in range(SIZE)] for y in range(SIZE)]
 
 
@@ -27,11 +29,24 @@ def writeIcon(session, name, picture):
     return path
 
 
+def waitForPixel(program, x, y, color):
+    """Until the Editing Area shows that colour."""
+    seen = lambda: program.session.colorAt(program.pixelPoint(x, y, SIZE)) == color
+    program.wait(seen, f'pixel {x}, {y} in {color}')
+
+
+def pick(program, cell, color):
+    program.session.click(program.chartPoint(CHART, *cell, CHART_COLUMNS, CHART_ROWS))
+    shown = lambda: program.session.colorAt(program.centre(program.need('Color to use'))) == color
+    program.wait(shown, f'the colour {color} to be the current one')
+
+
 def paint(program, picture, cell, color, pixels):
     """Picks a colour and clicks on pixels; `picture` follows."""
-    program.session.click(program.chartPoint(CHART, *cell, CHART_COLUMNS, CHART_ROWS))
+    pick(program, cell, color)
     for x, y in pixels:
         program.session.click(program.pixelPoint(x, y, SIZE))
+        waitForPixel(program, x, y, color)
         picture[y][x] = color
 
 
@@ -47,6 +62,7 @@ def test_the_test_icons_are_read_as_built(session):
 def test_painted_icon_saved_under_a_new_name_has_the_same_pixels_everywhere(session):
     picture = checkerboard()
     program = session.start(writeIcon(session, 'before.ico', picture))
+    waitForPixel(program, *GREEN_PIXEL, GREEN)
     program.press('Paint')
     paint(program, picture, RED_CELL, RED, [(0, 0), (10, 12), (31, 31)])
     paint(program, picture, NAVY_CELL, NAVY, [(16, 3), (0, 31), (17, 20)])
@@ -61,6 +77,6 @@ def test_painted_icon_saved_under_a_new_name_has_the_same_pixels_everywhere(sess
     session.keys('ctrl+n')
     session.keys('ctrl+o')
     program.answerFileDialog(saved)
-    program.wait(lambda: session.colorAt(program.pixelPoint(10, 12, SIZE)) == RED, 'the painted pixel on the Editing Area')
-    assert session.colorAt(program.pixelPoint(17, 20, SIZE)) == NAVY
-    assert session.colorAt(program.pixelPoint(1, 1, SIZE)) == (192, 192, 192), 'transparent pixels show the ground'
+    waitForPixel(program, 10, 12, RED)
+    waitForPixel(program, 17, 20, NAVY)
+    waitForPixel(program, 1, 1, GROUND)
