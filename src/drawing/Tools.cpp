@@ -160,8 +160,12 @@ void Tools::writeReadouts() {
 
 std::string Tools::pixelRgbText() const {
   if (mPainting || mErasing || mRestoring || mRegionDown) return {};
-  const Color image = state_.picImage.GetPixel(mPixelX, mPixelY);
-  const Color mask = state_.picMask.GetPixel(mPixelX, mPixelY);
+  return pixelText(mPixelX, mPixelY);
+}
+
+std::string Tools::pixelText(int x, int y) const {
+  const Color image = state_.picImage.GetPixel(x, y);
+  const Color mask = state_.picMask.GetPixel(x, y);
   if (image == kBlack && mask == kWhite) return "N/A";
   return "RGB: " + std::to_string(redOf(image)) + ", " + std::to_string(greenOf(image)) + ", " +
          std::to_string(blueOf(image));

@@ -46,6 +46,8 @@ class Tools {
   // True when the tools are shown and one is selected.
   bool isToolActive() const;
   int selectedTool() const { return selected_; }
+  // "RGB: 0, 128, 0" of a pixel of the Current Icon, "N/A" of a transparent one. It must lie inside.
+  std::string pixelText(int x, int y) const;
   // imgTool Click: selects a tool; a second click turns it off.
   void selectTool(int tool);
   // mnuTools Click.

@@ -123,6 +123,9 @@ ColorPanel::ColorPanel(QWidget* parent, const EditState& state, ColorSelection& 
 
   fraColorMixer_ = new QWidget(this);
   fraColorMixer_->setObjectName("fraColorMixer");
+  QSizePolicy keepsItsPlace(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  keepsItsPlace.setRetainSizeWhenHidden(true);
+  fraColorMixer_->setSizePolicy(keepsItsPlace);
   column->addWidget(fraColorMixer_, 1);
   refresh();
 }

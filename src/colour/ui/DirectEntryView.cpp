@@ -9,13 +9,15 @@
 #include <QLineEdit>
 #include <QValidator>
 
+#include <algorithm>
+
 namespace gp {
 namespace {
 
 constexpr int kButtonSide = 26;
 
-// Lets only those characters into the text that the key filter lets pass, in the form it gives them. Pasted text goes
-// the same way.
+// Lets only those characters into the text that the key filter lets pass, in the form it gives them, and no more than
+// there is room for. Pasted text goes the same way, so that "#12AB34" loses its sign and not its last digit.
 class KeyFilter : public QValidator {
  public:
   KeyFilter(QObject* parent, const DirectEntry& entry) : QValidator(parent), entry_(entry) {}
@@ -29,7 +31,9 @@ class KeyFilter : public QValidator {
       else if (i < position)
         --position;
     }
-    input = kept;
+    const int tooMany = std::max(0, static_cast<int>(kept.size()) - entry_.maxLength());
+    position = std::max(0, position - tooMany);
+    input = kept.remove(position, tooMany);
     return Acceptable;
   }
 
@@ -70,7 +74,6 @@ DirectEntryView::DirectEntryView(QWidget* parent, const QString& objectName, con
 
 void DirectEntryView::refresh() {
   const DirectEntry& entry = colors_.directEntry();
-  txbDirectEntryColorValue_->setMaxLength(entry.maxLength());
   const QString text = toText(entry.text());
   if (txbDirectEntryColorValue_->text() != text) txbDirectEntryColorValue_->setText(text);
   ckbAsHexColorValue_->setChecked(entry.isHex());

@@ -120,13 +120,12 @@ IconsPanelView::IconsPanelView(QWidget* parent, const EditState& state, const Ic
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   for (int i = 0; i < kContainerCount; ++i) addContainer(i, panel);
-  column->addStretch(1);
-
   auto* update = new PictureButton(
       this, "imgUpdIconsPanel",
       {"update-panel", "Update icons panel / clear Undo (same as clicking on icons panel)", kButtonSide});
   update->setFocusPolicy(Qt::TabFocus);
   column->addWidget(update, 0, Qt::AlignHCenter);
+  column->addStretch(1);
   connect(update, &PictureButton::clicked, this, &IconsPanelView::updateRequested);
 
   auto* focus = new RovingFocus(this, 1);

@@ -29,7 +29,7 @@
 namespace gp {
 namespace {
 
-constexpr int kEdge = 4;           // around and between the columns, pixels
+constexpr int kEdge = 4;  // around and between the columns, pixels
 constexpr int kRightEdge = 3;
 constexpr int kShiftPadSide = 60;  // the place of the shift pad below the tools
 constexpr int kToolColumnWidth = 56;

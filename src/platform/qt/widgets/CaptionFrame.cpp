@@ -14,7 +14,6 @@ constexpr int kCaptionGap = 3;
 CaptionFrame::CaptionFrame(QWidget* parent, const QString& objectName, const QString& caption)
     : QWidget(parent), caption_(caption) {
   setObjectName(objectName);
-  setContentsMargins(frameMargins());
 }
 
 QMargins CaptionFrame::frameMargins() const {

@@ -13,7 +13,7 @@ class CaptionFrame : public QWidget {
   CaptionFrame(QWidget* parent, const QString& objectName, const QString& caption);
 
   const QString& caption() const { return caption_; }
-  // Where the content stands inside a frame of this size and font.
+  // The margins of a layout inside the frame.
   QMargins frameMargins() const;
 
  protected:

@@ -7,8 +7,8 @@
 namespace gp {
 namespace {
 
-constexpr int kMargin = 4;  // left and right of the text, pixels
 constexpr int kLeading = 4;
+constexpr int kSlack = 2;  // widths of letters are no whole pixels
 
 // Control characters and bytes that are no text show as a replacement sign.
 QString printable(QString line) {
@@ -37,7 +37,7 @@ void TextCell::setText(const QString& text) {
 }
 
 QSize TextCell::sizeHint() const {
-  return {fontMetrics().horizontalAdvance(text_) + 2 * kMargin, fontMetrics().height() + kLeading};
+  return {fontMetrics().horizontalAdvance(text_) + kSlack + 2 * kMargin, fontMetrics().height() + kLeading};
 }
 
 QString TextCell::shownText() const {

@@ -12,6 +12,8 @@ class TextCell : public QWidget, public AccessibleValue {
   Q_OBJECT
 
  public:
+  static constexpr int kMargin = 4;  // left and right of the text, pixels
+
   TextCell(QWidget* parent, const QString& objectName, const QString& accessibleName);
 
   void setText(const QString& text);
