@@ -82,8 +82,7 @@ TEST_F(MainFormTest, TheFileOfTheCommandLineOpensOnceTheFormIsSeen) {
 TEST_F(MainFormTest, ClosingAsksAboutUnsavedIconsAndNoKeepsTheFormOpen) {
   start();
   find<QAction>("mnuFileSub(2)")->trigger();
-  settle();
-  click("imgTool(4)");
+  EXPECT_EQ(shell.selectedTool(), kPaint) << "a new icon is there to be painted on";
   QTest::mouseClick(find("picDisp"), Qt::LeftButton, {}, middleOf(1, 1));
   const std::string question = "The following is not saved yet: \n\nIcon Seq 1    Untitled\n\nProceed to exit still?\n";
   boxes.expectAsked(question, BoxAnswer::No);
