@@ -13,7 +13,6 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QStackedLayout>
 #include <QVBoxLayout>
 
@@ -81,13 +80,11 @@ class ColorSwatch : public QAbstractButton {
 
  protected:
   void paintEvent(QPaintEvent*) override {
-    QPainter painter(this);
-    painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::WindowText));
-    painter.setBrush(QColor(toRgb(shown_)));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    if (!hasFocus()) return;
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(rect().adjusted(1, 1, -2, -2));
+    DevicePainter painter(this);
+    const int line = hasFocus() ? 2 : 1;
+    const QRect whole = painter.toDevice(rect());
+    painter.fillRect(whole, palette().color(hasFocus() ? QPalette::Highlight : QPalette::WindowText));
+    painter.fillRect(whole.adjusted(line, line, -line, -line), QColor(toRgb(shown_)));
   }
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
