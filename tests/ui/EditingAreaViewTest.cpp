@@ -150,6 +150,9 @@ TEST_F(EditingAreaViewTest, ARightClickShowsThePopUpMenuAndTheMenuKeyShowsItAtTh
   EXPECT_TRUE(menu->isVisible());
   EXPECT_EQ(menu->pos(), view()->pixelCursorOnScreen());
   menu->close();
+  QTest::keyClick(view(), Qt::Key_F10, Qt::ShiftModifier);
+  EXPECT_TRUE(menu->isVisible());
+  menu->close();
 }
 
 TEST_F(EditingAreaViewTest, ThePointerIsThePictureOfTheTool) {

@@ -121,6 +121,8 @@ void EditingAreaView::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Space) {
     showCursor(true);
     applyAtCursor(modifiers);
+  } else if (event->key() == Qt::Key_F10 && modifiers == Qt::ShiftModifier) {
+    emit popUpRequested(pixelCursorOnScreen());
   } else if (modifiers == Qt::NoModifier && cursor_.move(event->key(), cells())) {
     showCursor(true);
     emit moved(cursorCentre(), modifiers);
