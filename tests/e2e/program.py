@@ -117,6 +117,9 @@ class Program:
     def isEnabled(self, control):
         return control.getState().contains(pyatspi.STATE_ENABLED)
 
+    def isFocused(self, control):
+        return control.getState().contains(pyatspi.STATE_FOCUSED)
+
     def value(self, name):
         """The text that the control of that name holds."""
         control = self.need(name)

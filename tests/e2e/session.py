@@ -6,11 +6,10 @@ import subprocess
 import tempfile
 import time
 
-from program import Program
-
 SCREEN = '1280x1024x24'
 KEY_DELAY_MS = 12
 START_SECONDS = 15
+ACCESSIBILITY_BUS = '/usr/libexec/at-spi-bus-launcher'
 
 
 def waitUntil(question, what):
@@ -49,11 +48,13 @@ class Session:
                           XDG_RUNTIME_DIR=os.path.join(self.folder, 'run'), QT_QPA_PLATFORM='xcb',
                           QT_LINUX_ACCESSIBILITY_ALWAYS_ON='1')
         self.run('openbox')
-        waitUntil(self.hasWindowManager, 'the window manager')
+        waitUntil(lambda: 'window id' in self.rootProperty('_NET_SUPPORTING_WM_CHECK'), 'the window manager')
+        # Before anybody looks for it: started by a first caller it may answer a program too late, which then stays mute.
+        self.run(ACCESSIBILITY_BUS, '--launch-immediately')
+        waitUntil(lambda: 'STRING' in self.rootProperty('AT_SPI_BUS'), 'the accessibility bus')
 
-    def hasWindowManager(self):
-        done = subprocess.run(['xprop', '-root', '_NET_SUPPORTING_WM_CHECK'], capture_output=True, text=True)
-        return 'window id' in done.stdout
+    def rootProperty(self, name):
+        return subprocess.run(['xprop', '-root', name], capture_output=True, text=True).stdout
 
     def startServer(self):
         """Starts an X server and returns the number that it chose."""
@@ -93,6 +94,7 @@ class Session:
 
     def start(self, *arguments, window=True):
         """Starts the program and waits for its main form, or returns at once without one."""
+        from program import Program  # not before the accessibility bus runs: importing it would start one
         program = os.path.join(self.folder, 'program', os.path.basename(self.executable))
         started = Program(self, self.run(program, *arguments))
         if window:

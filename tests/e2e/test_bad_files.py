@@ -1,0 +1,109 @@
+"""Files that are none, and names that are unusual: each ends in its text, and the program goes on."""
+import os
+import time
+
+import icons
+
+INVALID = 'Invalid icon file or icon not a size of 16x16, 24x24, 32x32 or 48x48.'
+GIGABYTE = 1 << 30
+LARGEST_MEMORY = 64 * 1024 * 1024
+PROCESSOR_SECONDS = 1.0
+NAMES = ['with blanks and  two.ico', "quote's \"double\".ico", 'Grüße 漢字.ico', 'x' * 246 + '.ico', b'not\xffutf8\xfe.ico']
+
+
+def plainIcon(size=16):
+    return icons.icon16([[(0, 128, 0)] * size for _ in range(size)])
+
+
+def processorSeconds(process):
+    with open(f'/proc/{process.pid}/stat', encoding='utf-8') as file:
+        fields = file.read().rsplit(')', 1)[1].split()
+    return (int(fields[11]) + int(fields[12])) / os.sysconf('SC_CLK_TCK')
+
+
+def peakBytes(process):
+    with open(f'/proc/{process.pid}/status', encoding='utf-8') as file:
+        return next(int(line.split()[1]) * 1024 for line in file if line.startswith('VmHWM'))
+
+
+def openAndReadBox(session, program, path):
+    session.keys('ctrl+o')
+    dialog = program.waitForDialog()
+    program.wait(lambda: program.find('File name:', under=dialog), 'the field for the file name')
+    time.sleep(0.3)
+    session.keys('ctrl+a')
+    session.type(path)
+    session.keys('Return')
+    box = program.wait(lambda: next((d for d in program.dialogs() if d.name == 'Glimmerpane'), None), 'the box')
+    text = program.dialogText(box)
+    session.keys('Return')
+    program.waitForNoDialog()
+    return text
+
+
+def test_files_that_are_no_icons_end_in_the_text_and_the_program_goes_on(session):
+    with open(session.path('good.ico'), 'wb') as file:
+        file.write(plainIcon())
+    program = session.start(session.path('good.ico'))
+    program.wait(lambda: program.value('Status 3') == '16 x 16', 'the icon')
+    bad = {'empty.ico': b'', 'short.ico': b'\0\0\1\0\1\0', 'text.ico': b'hello world' * 10, 'zero size.ico': b'\0\0\1\0\1\0' + bytes(16)}
+    for name, content in bad.items():
+        with open(session.path(name), 'wb') as file:
+            file.write(content)
+        assert INVALID in openAndReadBox(session, program, session.path(name)), name
+    assert program.value('Status 0') == session.path('good.ico')
+
+
+def test_a_huge_file_costs_little_time_and_memory(session):
+    with open(session.path('huge.ico'), 'wb') as file:
+        file.write(b'\0\0\1\0\1\0' + b'\x10\x10\x10\0\1\0\4\0' + (1000).to_bytes(4, 'little') + (GIGABYTE - 2000).to_bytes(4, 'little'))
+        file.truncate(GIGABYTE)
+    program = session.start()
+    before = processorSeconds(program.process)
+    session.keys('ctrl+o')
+    program.answerFileDialog(session.path('huge.ico'))
+    program.wait(lambda: program.dialogs() or program.value('Status 3'), 'an icon or a box')
+    assert processorSeconds(program.process) - before < PROCESSOR_SECONDS + 1, 'the dialog itself takes some'
+    assert peakBytes(program.process) < GIGABYTE + LARGEST_MEMORY
+
+
+def test_a_pipe_named_on_the_command_line_does_not_hang(session):
+    os.mkfifo(session.path('pipe.ico'))
+    program = session.start(session.path('pipe.ico'), window=False)
+    box = program.waitForDialog()
+    assert 'File not found.' in program.dialogText(box)
+    session.keys('Return')
+    program.waitForNoDialog()
+    assert program.mainForm()
+
+
+def test_unusual_names_open_from_the_command_line(session):
+    for name in NAMES:
+        raw = name if isinstance(name, bytes) else name.encode()
+        path = os.path.join(session.path().encode(), raw)
+        with open(path, 'wb') as file:
+            file.write(plainIcon(24))
+        program = session.start(path)
+        program.wait(lambda: program.value('Status 3') == '24 x 24', f'the icon {name!r}')
+        session.keys('alt+F4')
+        assert program.waitForEnd() == 0
+
+
+def test_saving_to_a_read_only_file_tells_so_and_keeps_the_change(session):
+    path = session.path('locked.ico')
+    with open(path, 'wb') as file:
+        file.write(plainIcon(32))
+    os.chmod(path, 0o444)
+    program = session.start(path)
+    program.wait(lambda: program.value('Status 3') == '32 x 32', 'the icon')
+    program.press('Erase')
+    session.click(program.pixelPoint(3, 3, 32))
+    session.keys('ctrl+s')
+    box = program.waitForDialog()
+    assert program.dialogText(box).startswith('File is read-only'), program.dialogText(box)
+    session.keys('Return')
+    program.waitForNoDialog()
+    with open(path, 'rb') as file:
+        assert file.read() == plainIcon(32)
+    session.keys('alt+F4')
+    assert 'not saved yet' in program.dialogText(program.waitForDialog())
