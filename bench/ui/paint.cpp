@@ -1,0 +1,79 @@
+// One paint move on a 48-pixel icon: from the mouse event to the repainted Editing Area of the real form.
+#include "platform/qt/QtFileDialogs.h"
+#include "platform/qt/QtMessageBoxes.h"
+#include "platform/qt/QtMessagePump.h"
+#include "platform/qt/QtProcesses.h"
+#include "platform/qt/QtSystemInfo.h"
+#include "shell/Shell.h"
+#include "shell/ui/QtDisplay.h"
+#include "shell/ui/frmGPEdit.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+constexpr int kNewIcon48 = 4;  // index of mnuFileSub
+constexpr int kStroke = 40;    // pixels of the icon that the stroke goes over and comes back
+
+// The program without its start-up checks, with a new icon of 48 pixels and the grid on.
+class Program {
+ public:
+  Program() {
+    shell_.formLoad();
+    form_.show();
+    settle();
+    shell_.formActivate("");
+    shell_.iconSaver().doNewIcon(kNewIcon48);
+    settle();
+    send(QEvent::MouseButtonPress, 0);
+  }
+  ~Program() { state_.current() = {}; }
+
+  // A move to the next pixel of the stroke, until it is seen.
+  void move() {
+    step_ = (step_ + 1) % (2 * kStroke);
+    send(QEvent::MouseMove, step_ < kStroke ? step_ : 2 * kStroke - step_);
+    settle();
+  }
+
+ private:
+  void settle() { QApplication::processEvents(); }
+  void send(QEvent::Type type, int pixel) {
+    QWidget* area = form_.findChild<QWidget*>("picDisp");
+    const double at = (pixel + 0.5) * state_.gMagnification;
+    const QPointF position(at, at);
+    QMouseEvent event(type, position, area->mapToGlobal(position), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(area, &event);
+  }
+
+  QTemporaryDir folder_;
+  gp::QtMessageBoxes boxes_;
+  gp::QtFileDialogs dialogs_{[](const std::string&, const std::string&) { return std::string(); }};
+  gp::QtMessagePump pump_;
+  gp::QtSystemInfo system_;
+  gp::QtProcesses processes_;
+  gp::EditState state_;
+  gp::QtDisplay display_;
+  gp::Shell shell_{state_, {boxes_, dialogs_, pump_, system_, processes_}, display_, folder_.path().toStdString()};
+  gp::frmGPEdit form_{shell_, display_, ""};
+  int step_ = 0;
+};
+
+void BM_PaintMove(benchmark::State& state) {
+  Program program;
+  for (auto _ : state) program.move();
+}
+BENCHMARK(BM_PaintMove)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}
