@@ -2,6 +2,8 @@
 // one ICONDIR, its entries, and the images wherever the entries say. All numbers are little-endian.
 #pragma once
 
+#include "platform/files/BitmapLayout.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -28,8 +30,8 @@ inline constexpr std::size_t kMaxEntries = 0xFFFF;
 inline constexpr std::size_t kMaxDirectorySize = kDirSize + kMaxEntries * kEntrySize;
 
 // BITMAPINFOHEADER, from the start of the image. Whatever its first field says, the palette follows after 40 bytes.
-inline constexpr std::size_t kBitmapHeaderSize = 40;
-inline constexpr std::size_t kHeaderBitCount = 14;
+inline constexpr std::size_t kBitmapHeaderSize = dib::kHeaderSize;
+using dib::kHeaderBitCount;
 
 inline constexpr std::size_t kPaletteEntrySize = 4;
 inline constexpr int kMaxPaletteColors = 256;
@@ -38,12 +40,9 @@ inline constexpr int kMaxEntrySide = 255;
 // A PNG picture in the place of a bitmap begins with these bytes.
 inline constexpr std::array<std::uint8_t, 8> kPngSignature{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
 
-inline constexpr std::size_t kRowAlignment = 4;
-
-constexpr std::size_t aligned(std::size_t bytes) { return (bytes + kRowAlignment - 1) / kRowAlignment * kRowAlignment; }
-// Bytes of one row of pixels, without and with its padding to a multiple of 4.
-constexpr std::size_t rowBytes(int width, int bits) { return (static_cast<std::size_t>(width) * bits + 7) / 8; }
-constexpr std::size_t rowStride(int width, int bits) { return aligned(rowBytes(width, bits)); }
+using dib::aligned;
+using dib::rowBytes;
+using dib::rowStride;
 
 // A row of true colour as the reader takes it: padded by as many bytes as the width in pixels lacks to a multiple of
 // 4. That equals rowStride for all icon sizes, and is kept for others.
