@@ -1,0 +1,112 @@
+#include "drawing/FillTools.h"
+
+#include "platform/gdi/FloodFill.h"
+#include "platform/gdi/SurfaceOps.h"
+
+namespace gp {
+
+namespace {
+
+// What marks an area whose own colour the current one may be.
+constexpr Color kMark = 0x0000FF;
+constexpr Color kOtherMark = 0x00FFFF;
+
+struct PixelPair {
+  Color image;
+  Color mask;
+};
+constexpr PixelPair kTransparentPixel = {kBlack, kWhite};
+
+PixelPair opaquePixel(Color color) { return {color, kBlack}; }
+
+bool isTransparent(const EditState& state, int x, int y) {
+  return state.picImage.GetPixel(x, y) == kBlack && state.picMask.GetPixel(x, y) == kWhite;
+}
+
+void setPixel(EditState& state, int x, int y, const PixelPair& pixel) {
+  state.picImage.SetPixelV(x, y, pixel.image);
+  state.picMask.SetPixelV(x, y, pixel.mask);
+}
+
+template <typename Condition>
+void setPixelsWhere(EditState& state, const PixelPair& pixel, const Condition& condition) {
+  const int size = state.current().size;
+  for (int y = 0; y < size; ++y)
+    for (int x = 0; x < size; ++x)
+      if (condition(x, y)) setPixel(state, x, y, pixel);
+}
+
+// A copy of what the user sees with the area around a pixel filled, on a work Surface that is empty otherwise.
+class FilledCopy {
+ public:
+  FilledCopy(Surface& work, const Surface& seen, int x, int y, Color color)
+      : work_(work), seen_(seen), formerFill_(work.fillColor) {
+    MakeSameSize(seen, work);
+    BitbltPic(seen, work);
+    work.fillColor = color;
+    ExtFloodFill(work, x, y, work.GetPixel(x, y));
+  }
+  FilledCopy(const FilledCopy&) = delete;
+  FilledCopy& operator=(const FilledCopy&) = delete;
+  ~FilledCopy() {
+    work_.clearPicture();
+    work_.fillColor = formerFill_;
+  }
+  bool differsAt(int x, int y) const { return work_.GetPixel(x, y) != seen_.GetPixel(x, y); }
+
+ private:
+  Surface& work_;
+  const Surface& seen_;
+  const Color formerFill_;
+};
+
+void showStep(Editor& editor) {
+  editor.ComposeCurrentIcon();
+  editor.MagnifyIcon();
+  editor.recordUndo();
+}
+
+}  // namespace
+
+void FillTool::release(const ToolMouse& mouse) {
+  if (mouse.modifiers == 0)
+    fill(mouse.pixelX, mouse.pixelY);
+  else
+    fillTransparent(mouse.pixelX, mouse.pixelY);
+  showStep(editor_);
+}
+
+void FillTool::fill(int x, int y) {
+  const Color color = state_.mCurrentColor;
+  const bool fromTransparent = isTransparent(state_, x, y);
+  const FilledCopy filled(state_.picTemp, state_.PicIcon, x, y, color);
+  // Tells a transparent area even where the current colour is that of the ground, so that the fill does not show.
+  const FilledCopy marked(state_.picAuto, state_.PicIcon, x, y, kMark);
+  setPixelsWhere(state_, opaquePixel(color), [&](int i, int j) {
+    const bool isReached = filled.differsAt(i, j) || (fromTransparent && marked.differsAt(i, j));
+    return isReached && isTransparent(state_, i, j) == fromTransparent;
+  });
+}
+
+void FillTool::fillTransparent(int x, int y) {
+  if (isTransparent(state_, x, y)) return;
+  Color mark = state_.mCurrentColor;
+  if (mark == state_.picImage.GetPixel(x, y)) mark = mark != kMark ? kMark : kOtherMark;
+  const FilledCopy filled(state_.picTemp, state_.PicIcon, x, y, mark);
+  setPixelsWhere(state_, kTransparentPixel,
+                 [&](int i, int j) { return filled.differsAt(i, j) && !isTransparent(state_, i, j); });
+}
+
+void ReplaceTool::release(const ToolMouse& mouse) {
+  const Color target = state_.PicIcon.GetPixel(mouse.pixelX, mouse.pixelY);
+  // Where the ground's colour is clicked, the icon's top left pixel, not the pixel clicked, decides whether opaque or
+  // transparent pixels are meant.
+  const Color wantedMask = state_.picMask.GetPixel(0, 0) == kWhite ? kBlack : kWhite;
+  const PixelPair pixel = mouse.modifiers == 0 ? opaquePixel(state_.mCurrentColor) : kTransparentPixel;
+  setPixelsWhere(state_, pixel, [&, isGround = target == kGround](int x, int y) {
+    return state_.PicIcon.GetPixel(x, y) == target && (!isGround || state_.picMask.GetPixel(x, y) == wantedMask);
+  });
+  showStep(editor_);
+}
+
+}  // namespace gp

@@ -1,0 +1,213 @@
+#include "drawing/ShapeTools.h"
+
+#include "drawing/ShapeGeometry.h"
+#include "drawing/ToolTable.h"
+#include "drawing/Tools.h"
+#include "platform/gdi/Pens.h"
+#include "platform/text/Numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace gp {
+
+namespace {
+
+constexpr int kConstrainKeys = kShiftKey | kCtrlKey | kAltKey;
+// The width of Filled Oval's pen, whatever the brush.
+constexpr int kFilledOvalPen = 2;
+// Where the two arcs of an oval meet again, in radians: a whole turn as a whole number.
+constexpr double kArcEnd = 6;
+
+struct Corners {
+  int x1, y1, x2, y2;
+};
+
+Corners wholeCorners(const DrawRect& rect) {
+  return {roundToInteger(rect.x1), roundToInteger(rect.y1), roundToInteger(rect.x2), roundToInteger(rect.y2)};
+}
+
+ShapeBox boxOf(const DrawRect& rect) {
+  const Corners c = wholeCorners(rect);
+  return {std::min(c.x1, c.x2), std::min(c.y1, c.y2), std::max(c.x1, c.x2) + 1, std::max(c.y1, c.y2) + 1};
+}
+
+ShapeBox unite(const ShapeBox& a, const ShapeBox& b) {
+  if (a.isEmpty()) return b;
+  if (b.isEmpty()) return a;
+  return {std::min(a.left, b.left), std::min(a.top, b.top), std::max(a.right, b.right), std::max(a.bottom, b.bottom)};
+}
+
+// A Surface's pen for one shape. It leaves the pen at the width it had, solid, and without filling.
+class ShapePen {
+ public:
+  ShapePen(Surface& surface, int width, FillMode fillMode, Color fillColor)
+      : surface_(surface), formerWidth_(surface.penWidth) {
+    surface.penWidth = width;
+    surface.penStyle = PenStyle::Solid;
+    surface.drawMode = DrawMode::Copy;
+    surface.fillMode = fillMode;
+    surface.fillColor = fillColor;
+  }
+  ShapePen(const ShapePen&) = delete;
+  ShapePen& operator=(const ShapePen&) = delete;
+  ~ShapePen() {
+    surface_.penWidth = formerWidth_;
+    surface_.penStyle = PenStyle::Solid;
+    surface_.fillMode = FillMode::Transparent;
+  }
+
+ private:
+  Surface& surface_;
+  const int formerWidth_;
+};
+
+void drawLine(Surface& surface, const DrawRect& rect, Color color) {
+  const Corners c = wholeCorners(rect);
+  DrawLine(surface, c.x1, c.y1, c.x2, c.y2, color);
+  // A thin pen leaves out the end; a wider one has an end of its own.
+  if (surface.penWidth == 1) surface.SetPixelV(c.x2, c.y2, color);
+}
+
+void drawBox(Surface& surface, const DrawRect& rect, Color color) {
+  const Corners c = wholeCorners(rect);
+  DrawBox(surface, c.x1, c.y1, c.x2, c.y2, color);
+}
+
+// Two arcs, the second of which goes on where the first ends. Wider pens close the outline; a thin one misses a pixel
+// between them at most sizes, as it does on the platform.
+void drawOval(Surface& surface, const DrawRect& rect, Color color) {
+  OvalGeometry oval;
+  if (ovalGeometry(rect, oval) == 0) return;
+  for (const auto& [start, end] : {std::pair{0.0, kArcEnd}, std::pair{kArcEnd, 0.0}})
+    DrawEllipseArc(surface, oval.mOvalCenterX, oval.mOvalCenterY, oval.mOvalRadius, oval.mOvalAspect, color, start,
+                   end);
+}
+
+void drawFilledOval(Surface& surface, const DrawRect& rect, Color color) {
+  OvalGeometry oval;
+  if (ovalGeometry(rect, oval) == 0) return;
+  DrawEllipse(surface, oval.mOvalCenterX, oval.mOvalCenterY, oval.mOvalRadius, oval.mOvalAspect, color);
+}
+
+struct ShapeRow {
+  int tool;
+  void (*draw)(Surface& surface, const DrawRect& rect, Color color);
+  FillMode fillMode;
+  bool isBox;    // the band has a box
+  bool isOval;   // the band has an ellipse
+  int penWidth;  // 0: that of the brush
+};
+
+constexpr std::array<ShapeRow, 5> kShapes = {{
+    {kLine, drawLine, FillMode::Transparent, false, false, 0},
+    {kRectangle, drawBox, FillMode::Transparent, true, false, 0},
+    {kFilledRectangle, drawBox, FillMode::Solid, true, false, 0},
+    {kOval, drawOval, FillMode::Transparent, true, true, 0},
+    {kFilledOval, drawFilledOval, FillMode::Solid, true, true, kFilledOvalPen},
+}};
+
+const ShapeRow* findShape(int tool) {
+  const auto row = std::ranges::find(kShapes, tool, &ShapeRow::tool);
+  return row == kShapes.end() ? nullptr : &*row;
+}
+
+void drawOn(Surface& surface, const ShapeRow& row, int penWidth, const DrawRect& rect, Color color) {
+  const ShapePen pen(surface, penWidth, row.fillMode, color);
+  row.draw(surface, rect, color);
+}
+
+}  // namespace
+
+ShapeTool::ShapeTool(EditState& state, Editor& editor, Display& display, MessagePump& pump, DrawState& drawState,
+                     const UndoHistory& history)
+    : state_(state), editor_(editor), display_(display), pump_(pump), drawState_(drawState), history_(history) {}
+
+ShapeTool::Ground ShapeTool::ground() const {
+  return {state_.mCurContainer, state_.screen.mActivePanel, history_.era(), state_.mRegionExists};
+}
+
+bool ShapeTool::hasStillIts(const Ground& ground) const { return state_.current().present && ground == this->ground(); }
+
+bool ShapeTool::isDragging() const { return dragged_ && drawState_.mPainting && hasStillIts(dragGround_); }
+
+void ShapeTool::press(const ToolMouse& mouse) {
+  drawState_.mPainting = true;
+  dragged_ = true;
+  dragGround_ = ground();
+  follow(mouse);
+  drawState_.draw.x1 = drawState_.draw.x2;
+  drawState_.draw.y1 = drawState_.draw.y2;
+  drawState_.band.x1 = drawState_.band.x2;
+  drawState_.band.y1 = drawState_.band.y2;
+}
+
+// The second corner goes where the pointer is.
+void ShapeTool::follow(const ToolMouse& mouse) {
+  const int m = state_.gMagnification;
+  drawState_.draw.x2 = mouse.pixelX;
+  drawState_.draw.y2 = mouse.pixelY;
+  drawState_.band.x2 = snapToCell(static_cast<double>(mouse.x), SnapMode::CellCentre, m);
+  drawState_.band.y2 = snapToCell(static_cast<double>(mouse.y), SnapMode::CellCentre, m);
+}
+
+void ShapeTool::move(const ToolMouse& mouse) {
+  // A drag that ended elsewhere leaves nothing for a release to draw.
+  if (!isDragging()) {
+    cancel();
+    return;
+  }
+  follow(mouse);
+  if ((mouse.modifiers & kConstrainKeys) != 0)
+    constrainToSquare(drawState_, state_.current().size, state_.gMagnification);
+  showBand(editor_.selectedTool());
+}
+
+void ShapeTool::showBand(int tool) {
+  const ShapeRow* row = findShape(tool);
+  if (row == nullptr) return;
+  state_.picDisp.clearDrawing();
+  const DrawRect& band = drawState_.band;
+  const Corners c = wholeCorners(band);
+  (row->isBox ? BandBox : BandLine)(state_.picDisp, c.x1, c.y1, c.x2, c.y2);
+  OvalGeometry oval;
+  if (row->isOval && ovalGeometry(band, oval) > 0)
+    BandEllipse(state_.picDisp, oval.mOvalCenterX, oval.mOvalCenterY, oval.mOvalRadius, oval.mOvalAspect);
+  const ShapeBox former = std::exchange(shownBand_, boxOf(band));
+  const ShapeBox changed = unite(former, shownBand_);
+  display_.repaintEditingArea(changed.left, changed.top, changed.width(), changed.height());
+}
+
+void ShapeTool::cancel() {
+  dragged_ = false;
+  clearBand();
+}
+
+void ShapeTool::clearBand() {
+  const ShapeBox former = std::exchange(shownBand_, {});
+  if (former.isEmpty()) return;
+  state_.picDisp.clearDrawing();
+  display_.repaintEditingArea(former.left, former.top, former.width(), former.height());
+}
+
+void ShapeTool::release(const ToolMouse& /*mouse*/) {
+  // The second button of a drag, or one that no press belongs to, finds nothing to draw.
+  const bool isIts = dragged_ && hasStillIts(dragGround_);
+  cancel();
+  const ShapeRow* row = findShape(editor_.selectedTool());
+  if (!isIts || row == nullptr) return;
+  // A nested press begins a drag of its own: what is drawn here is settled before.
+  const DrawRect corners = drawState_.draw;
+  const Ground before = dragGround_;
+  if (row->isOval) pump_.pump();
+  if (!hasStillIts(before)) return;
+  const int penWidth = row->penWidth != 0 ? row->penWidth : state_.screen.brushIndex + 1;
+  drawOn(state_.picImage, *row, penWidth, corners, state_.mCurrentColor);
+  drawOn(state_.picMask, *row, penWidth, corners, kBlack);
+  editor_.ComposeCurrentIcon();
+  editor_.MagnifyIcon();
+  editor_.recordUndo();
+}
+
+}  // namespace gp
