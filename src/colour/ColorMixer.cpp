@@ -1,0 +1,187 @@
+#include "colour/ColorMixer.h"
+
+#include "platform/gdi/Pens.h"
+#include "platform/gdi/SurfaceOps.h"
+#include "platform/text/Numbers.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace gp {
+
+namespace {
+
+using Channels = std::array<int, kMixChannels>;
+
+constexpr Channels kFirstValues = {128, 128, 128};
+constexpr int kFirstIntervalIndex = 12;
+
+// The strip runs through five stops, with a quarter of its rows from each to the next.
+constexpr int kStripRows = 100;
+constexpr int kQuarterRows = 25;
+constexpr int kRowHeight = kMixGradientHeight / kStripRows;
+constexpr int kStepsOfQuarter = 26;
+
+constexpr int kMarkerRise = 2;  // from the pointer up to the top of the marker
+
+Channels channelsOf(Color color) { return {redOf(color), greenOf(color), blueOf(color)}; }
+Color colorOf(const Channels& channels) { return rgb(channels[0], channels[1], channels[2]); }
+
+// The channel alone.
+Color swatchOf(int channel, int value) {
+  Channels channels{};
+  channels.at(static_cast<std::size_t>(channel)) = value;
+  return colorOf(channels);
+}
+
+// The strip reads a swatch by pairs of hexadecimal digits. A channel below 16 gives an odd number of digits and is
+// black to it: that is intended.
+Channels stopOf(Color swatch) { return channelsOf(Hex(swatch).size() % 2 == 0 ? swatch : kBlack); }
+
+Channels largerOf(const Channels& a, const Channels& b) {
+  Channels larger{};
+  std::ranges::transform(a, b, larger.begin(), [](int x, int y) { return std::max(x, y); });
+  return larger;
+}
+
+Color between(const Channels& from, const Channels& to, int step) {
+  Channels channels{};
+  std::ranges::transform(from, to, channels.begin(), [step](int a, int b) {
+    return roundToInteger(static_cast<double>(step * (b - a)) / kStepsOfQuarter + a);
+  });
+  return colorOf(channels);
+}
+
+std::string listOf(Color color) {
+  return std::to_string(redOf(color)) + ", " + std::to_string(greenOf(color)) + ", " + std::to_string(blueOf(color));
+}
+
+}  // namespace
+
+ColorMixer::ColorMixer(EditState& state, Display& display, MessagePump& pump, ColorSelection& colors)
+    : state_(state), display_(display), pump_(pump), colors_(colors), intervalIndex_(kFirstIntervalIndex) {
+  for (int channel = 0; channel < kMixChannels; ++channel)
+    setSlider(channel, kFirstValues[static_cast<std::size_t>(channel)]);
+  paintGradient();
+}
+
+std::string ColorMixer::lblRGB(int channel) const {
+  const int value = HsrRGB(channel);
+  return std::to_string(value) + " / " + Hex(value);
+}
+
+bool ColorMixer::isEnabled(MixChange change) const {
+  const auto all = [this](int value) { return std::ranges::count(sliders_, value) == kMixChannels; };
+  if (change == MixChange::Lighten) return !all(kMostOfChannel);
+  return change != MixChange::Darken || !all(0);
+}
+
+void ColorMixer::setSlider(int channel, int value) {
+  const auto i = static_cast<std::size_t>(channel);
+  sliders_.at(i) = std::clamp(value, 0, kMostOfChannel);
+  swatches_.at(i) = swatchOf(channel, sliders_.at(i));
+  mixed_ = colorOf(sliders_);
+  lblMix_.clear();
+}
+
+void ColorMixer::moveSlider(int channel, int value) {
+  if (state_.mInLoad || movesSliders_) {
+    showMixer();  // the slider on the screen goes back
+    return;
+  }
+  setSlider(channel, value);
+  rebuildMixGradient();
+}
+
+void ColorMixer::adjustSliders(MixChange change) {
+  if (change == MixChange::CopySelected) examine(state_.mCurrentColor);
+  const Channels selected = channelsOf(state_.mCurrentColor);
+  const int interval = kFirstInterval + intervalIndex_;
+  const int step = change == MixChange::Lighten ? interval : -interval;
+  for (int channel = 0; channel < kMixChannels; ++channel)
+    setSlider(channel,
+              change == MixChange::CopySelected ? selected[static_cast<std::size_t>(channel)] : HsrRGB(channel) + step);
+}
+
+void ColorMixer::cmdAdjMix(MixChange change) {
+  if (!isEnabled(change)) return;
+  const bool before = std::exchange(movesSliders_, true);
+  adjustSliders(change);
+  rebuildMixGradient();
+  if (change != MixChange::CopySelected) colors_.setCurrentColor(mixed_);
+  movesSliders_ = before;
+}
+
+void ColorMixer::cboIntervalColor(int index) { intervalIndex_ = std::clamp(index, 0, kLastInterval - kFirstInterval); }
+
+void ColorMixer::examine(Color color) {
+  state_.mHoverR = redOf(color);
+  state_.mHoverG = greenOf(color);
+  state_.mHoverB = blueOf(color);
+}
+
+void ColorMixer::swatchRelease(int channel) { colors_.setCurrentColor(PicRGB(channel)); }
+
+void ColorMixer::mixRelease() { colors_.setCurrentColor(mixed_); }
+
+std::string ColorMixer::mixHover() {
+  examine(mixed_);
+  return Hex(mixed_) + "h  RGB(" + listOf(mixed_) + ")";
+}
+
+Color ColorMixer::stripColorAt(int x, int y) const {
+  return picMixGradient_.GetPixel(x, y == kMixGradientHeight ? y - 1 : y);
+}
+
+void ColorMixer::gradientPress(int x, int y) {
+  const Color color = stripColorAt(x, y);
+  if (color == kNoColor) return;
+  examine(color);
+  colors_.setCurrentColor(color);
+}
+
+void ColorMixer::gradientMove(int x, int y) {
+  const Color color = stripColorAt(x, y);
+  if (color == kNoColor) return;
+  markerTop_ = y - kMarkerRise;
+  examine(color);
+  lblMix_ = "RGB: " + listOf(color);
+  showMixer();
+}
+
+void ColorMixer::gradientRelease(int x, int y) {
+  const Color color = stripColorAt(x, y);
+  if (color != kNoColor) colors_.setCurrentColor(color);
+}
+
+void ColorMixer::leaveControls() {
+  if (lblMix_.empty()) return;
+  lblMix_.clear();
+  showMixer();
+}
+
+void ColorMixer::paintGradient() {
+  const Channels first = stopOf(swatches_[0]), middle = stopOf(swatches_[1]), last = stopOf(swatches_[2]);
+  const std::array<Channels, 5> stops = {first, largerOf(first, middle), middle, largerOf(middle, last), last};
+  for (int row = 0; row < kStripRows; ++row) {
+    const auto quarter = static_cast<std::size_t>(row / kQuarterRows);
+    // The first quarter begins at its stop, the others one step behind it.
+    const int step = row % kQuarterRows + (quarter == 0 ? 0 : 1);
+    FillBox(picMixGradient_, 0, row * kRowHeight, kMixGradientWidth - 1, (row + 1) * kRowHeight - 1,
+            between(stops[quarter], stops[quarter + 1], step));
+  }
+  picMixGradient_.makePersistent();
+}
+
+void ColorMixer::rebuildMixGradient() {
+  paintGradient();
+  showMixer();
+  pump_.pump();
+}
+
+void ColorMixer::takeGradient(const Surface& picture) {
+  BitbltPic(picture, picMixGradient_);
+  showMixer();
+}
+
+}  // namespace gp

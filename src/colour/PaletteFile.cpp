@@ -1,0 +1,86 @@
+#include "colour/PaletteFile.h"
+
+#include "platform/files/BitmapFile.h"
+
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+namespace gp {
+
+namespace {
+
+// So much larger than the strip a picture may be in each direction.
+constexpr int kTolerance = 2;
+// A picture that is refused is looked at up to this size, so that one that is cut short is told from one that is only
+// too large.
+constexpr int kLargestRead = 1024;
+
+constexpr const char* kExtension = "pal";
+constexpr const char* kSaveFilter = "Palette file (*.pal)|*.*|";
+constexpr const char* kOpenFilter = "Palette file (*.pal)|*.pal|";
+
+constexpr const char* kTooSmall = "Not a valid pal file for Glimmerpane (1)";
+constexpr const char* kTooLarge = "Not a valid pal file for Glimmerpane (2)";
+constexpr const char* kInvalid = "Invalid pal for Glimmerpane";
+
+// The box that refuses a picture, or nothing.
+const char* refusalOf(const LoadedPicture& picture) {
+  if (picture.problem == PictureProblem::Unreadable) return kInvalid;
+  if (picture.width < kMixGradientWidth || picture.height < kMixGradientHeight) return kTooSmall;
+  if (picture.width > kMixGradientWidth + kTolerance || picture.height > kMixGradientHeight + kTolerance)
+    return kTooLarge;
+  return nullptr;
+}
+
+}  // namespace
+
+PaletteFile::PaletteFile(EditState& state, Editor& editor, MessageBoxes& boxes, clsGPDialog& dialog,
+                         PictureLoader& loader, ColorMixer& mixer, std::string folder)
+    : state_(state),
+      editor_(editor),
+      boxes_(boxes),
+      dialog_(dialog),
+      loader_(loader),
+      mixer_(mixer),
+      folder_(std::move(folder)) {}
+
+void PaletteFile::bringForward() {
+  editor_.closePanels();
+  std::error_code ignored;
+  std::filesystem::current_path(folder_, ignored);
+}
+
+void PaletteFile::imgLoadPalette() {
+  bringForward();
+  OpenOptions options;
+  options.filter = kOpenFilter;
+  options.initialFolder = folder_;
+  options.defaultExtension = kExtension;
+  const std::string path = dialog_.ShowOpen(options);
+  if (!path.empty()) load(path);
+}
+
+void PaletteFile::load(const std::string& path) {
+  LoadedPicture loaded = loader_.loadPicture(path, kLargestRead, kLargestRead);
+  state_.picAuto = std::move(loaded.picture);
+  if (const char* refusal = refusalOf(loaded)) {
+    boxes_.tell(refusal);
+    return;
+  }
+  mixer_.takeGradient(state_.picAuto);
+  state_.picAuto = Surface();
+}
+
+void PaletteFile::imgSavePalette() {
+  bringForward();
+  SaveOptions options;
+  options.filter = kSaveFilter;
+  options.initialFolder = folder_;
+  options.defaultExtension = kExtension;
+  const std::string path = dialog_.ShowSave(options);
+  if (path.empty() || writeBitmap(mixer_.picMixGradient(), path)) return;
+  editor_.ShowRunTimeError("imgSavePalette_Click", "The palette file cannot be written");
+}
+
+}  // namespace gp
