@@ -41,7 +41,7 @@ class Program:
         raise AssertionError(f'waited in vain for {what}')
 
     def waitForMainForm(self):
-        """The main form, once the window manager has put it into its place."""
+        """The main form, once the window manager has put it into its place and it takes keys."""
         self.wait(self.mainForm, 'the main form', START_SECONDS)
         places = []
 
@@ -50,6 +50,8 @@ class Program:
             return len(places) >= STILL_POLLS and len(set(places[-STILL_POLLS:])) == 1
 
         self.wait(stays, 'the main form to keep its place')
+        active = lambda: self.dialogs() or self.mainForm().getState().contains(pyatspi.STATE_ACTIVE)
+        self.wait(active, 'the main form to be active')
         return self.mainForm()
 
     def waitForEnd(self, seconds=WAIT_SECONDS):
