@@ -172,6 +172,17 @@ TEST_F(UndoHistoryTest, ASnapshotOfAnotherSizeIsNeverApplied) {
   EXPECT_EQ(history.redoCount(), 0);
 }
 
+TEST_F(UndoHistoryTest, AnUndoneSnapshotOfAnotherSizeIsNeverAppliedAgain) {
+  step(0);
+  history.doUndo();
+  area.SizeEditSurfaces(32);
+  state.picImage.fill(kRed);
+  history.doRedo();
+  EXPECT_EQ(state.picImage.GetPixel(0, 0), kRed);
+  EXPECT_EQ(history.undoCount(), 1);
+  EXPECT_EQ(history.redoCount(), 1);
+}
+
 TEST_F(UndoHistoryTest, ANewSizeIsRecordedAtItsOwnWidth) {
   step(0);
   putIcon(0, 48);
