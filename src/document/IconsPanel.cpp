@@ -30,6 +30,7 @@ IconsPanel::IconsPanel(EditState& state, Editor& editor, EditingArea& editingAre
 
 void IconsPanel::EndToolAction() {
   if (!state_.current().used) return;
+  editor_.clearRegion();
   state_.picDisp.clearDrawing();
   state_.screen.lblDispXY.at(static_cast<std::size_t>(Readout::Region)).clear();
   state_.mPendingPaint = false;

@@ -1,0 +1,41 @@
+// The Editing Area during a drag that leaves the icon alone until the mouse comes up. Holds the Editing Area without
+// the region in picDragSnap and the region's magnified content in picImageDrag and picMaskDrag, and moves the one over
+// the other. It writes picDisp and nothing else of the icon.
+#pragma once
+
+#include "document/Display.h"
+#include "document/EditState.h"
+#include "document/Editor.h"
+#include "drawing/DrawState.h"
+
+namespace gp {
+
+class RegionDrag {
+ public:
+  RegionDrag(EditState& state, Editor& editor, Display& display);
+
+  // Makes the three Surfaces from picImageSnap, picMaskSnap and the content in picImageRegion, picMaskRegion. The icon
+  // and the Editing Area are afterwards as before.
+  void build();
+  // Empties them.
+  void forget();
+  // The Editing Area was built anew: what lies under the region has to be taken again before it is used.
+  void makeStale() { ready_ = false; }
+  bool isReady() const { return ready_; }
+  // After a redraw through which nothing beneath the region changed.
+  void setReady(bool ready) { ready_ = ready; }
+
+  // Clears `former`, which is where the content is shown, and puts the content at `box`, in Editing Area pixels. The
+  // box itself is the caller's to draw.
+  void moveContent(const DrawRect& former, const DrawRect& box);
+
+ private:
+  void showWithoutRegion();
+
+  EditState& state_;
+  Editor& editor_;
+  Display& display_;
+  bool ready_ = false;
+};
+
+}  // namespace gp

@@ -1,0 +1,43 @@
+// The Region tool's share of the mouse handlers: drawing a box, moving a region, and moving one of its sides. It keeps
+// only the mouse position; the region itself belongs to Regions. Whatever arrives while it pumps messages finds icon,
+// Mask and region in agreement, since pumping comes last.
+#pragma once
+
+#include "document/EditState.h"
+#include "document/Editor.h"
+#include "drawing/DrawState.h"
+#include "drawing/DrawingTool.h"
+#include "drawing/Regions.h"
+#include "platform/ports/MessagePump.h"
+
+namespace gp {
+
+class RegionTool : public DrawingTool {
+ public:
+  RegionTool(EditState& state, DrawState& draw, Editor& editor, Regions& regions, MessagePump& pump);
+
+  void press(const ToolMouse& mouse) override;
+  void move(const ToolMouse& mouse) override;
+  void release(const ToolMouse& mouse) override;
+
+ private:
+  void snap(const ToolMouse& mouse);
+  void beginBox();
+  void extendBox(int modifiers);
+  void finishBox();
+  void beginEdgeDrag(const ToolMouse& mouse);
+  void moveEdge(const ToolMouse& mouse);
+  void finishEdgeDrag();
+  void moveRegion();
+  void merge();
+
+  EditState& state_;
+  DrawState& draw_;
+  Editor& editor_;
+  Regions& regions_;
+  MessagePump& pump_;
+  double mRegionX = 0;  // the mouse at the nearest grid corner, Editing Area pixels
+  double mRegionY = 0;
+};
+
+}  // namespace gp

@@ -1,0 +1,65 @@
+// The Panel that rotates the icon by any angle: its list of angles, its slider and its sample. The three follow each
+// other; the view shows what is here. The sample is smooth where Antialias is on, the icon itself never is.
+#pragma once
+
+#include "document/Display.h"
+#include "document/EditState.h"
+#include "document/Editor.h"
+#include "drawing/Regions.h"
+#include "platform/gdi/Surface.h"
+
+#include <functional>
+#include <string>
+
+namespace gp {
+
+inline constexpr int kRotatePanel = 4;  // fraPanel(4)
+inline constexpr int kLargestAngle = 360;
+// Items of cboRotateImageAngle: index i is the angle i - 360.
+inline constexpr int kAngleCount = 2 * kLargestAngle + 1;
+// The side of picRotateImageSample: the largest icon fits in it at any angle.
+inline constexpr int kRotateSampleSide = 70;
+
+class RotatePanel {
+ public:
+  RotatePanel(EditState& state, Editor& editor, Display& display, Regions& regions);
+
+  // Brings the Panel forward with its sample.
+  void open();
+  static std::string angleText(int index);
+
+  // cboRotateImageAngle: an item was picked, or a text typed. An index outside is ignored.
+  void pickAngle(int index);
+  void setAngleText(const std::string& text);
+  // hsrRotateImageAngle, -360 to 360; values beyond are limited.
+  void setSlider(int angle);
+  // ckbRotateImageAntiAlias.
+  void setAntialias(bool antialias);
+
+  const std::string& cboRotateImageAngle() const { return angleText_; }
+  int hsrRotateImageAngle() const { return slider_; }
+  bool ckbRotateImageAntiAlias() const { return antialias_; }
+  const Surface& picRotateImageSample() const { return sample_; }
+
+  // Proceed: turns the icon, which keeps its size and loses the corners that leave it. A whole turn changes nothing.
+  void doRotateProceed();
+  // What the view redraws when list, slider or sample changed.
+  std::function<void()> onChange;
+
+ private:
+  void drawSample();
+  void rotateIcon(double angle);
+  void rotateInto(Surface& picture, Surface& work, double angle, Color background);
+  void changed();
+
+  EditState& state_;
+  Editor& editor_;
+  Display& display_;
+  Regions& regions_;
+  std::string angleText_ = "0";
+  int slider_ = 0;
+  bool antialias_ = false;
+  Surface sample_{kRotateSampleSide, kRotateSampleSide, kGround};
+};
+
+}  // namespace gp

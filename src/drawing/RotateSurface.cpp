@@ -1,0 +1,105 @@
+#include "drawing/RotateSurface.h"
+
+#include "platform/text/Numbers.h"
+
+#include <array>
+#include <cmath>
+
+namespace gp {
+
+namespace {
+
+// The rounding of pixels depends on its digits.
+constexpr double kPi = 3.14159265359;
+constexpr double kFullCircle = 360;
+// What turns a coordinate that is not whole to the next pixel, and leaves a whole one where it is.
+constexpr double kAlmostOne = 0.999;
+// The middle of a picture is rounded: its far corner may lie this much farther from it.
+constexpr int kReserve = 2;
+
+struct Turn {
+  double sourceX, sourceY;
+  int targetX, targetY;
+};
+
+class Rotation {
+ public:
+  Rotation(const Surface& src, Surface& dst, const RotateSettings& settings)
+      : src_(src), dst_(dst), settings_(settings), angle_(settings.angleDegrees / kFullCircle * 2 * kPi) {}
+
+  void run() {
+    const int reach = diagonalOf(src_.width(), src_.height()) + kReserve;
+    for (int x = 0; x <= reach / 2.0; ++x)
+      for (int y = 0; y <= reach / 2.0; ++y) turnQuarters(x, y);
+  }
+
+ private:
+  // One angle serves four pixels, a quarter turn apart.
+  void turnQuarters(int x, int y) {
+    const double a = x == 0 ? kPi / 2 : std::atan(static_cast<double>(y) / x);
+    const double r = std::sqrt(static_cast<double>(x * x + y * y));
+    const double u = r * std::cos(angle_ + a);
+    const double v = r * std::sin(angle_ + a);
+    for (const Turn& turn : {Turn{u, v, x, y}, Turn{-u, -v, -x, -y}, Turn{v, -u, y, -x}, Turn{-v, u, -y, x}})
+      write(turn);
+  }
+
+  void write(const Turn& turn) {
+    const double x = sourceX_ + turn.sourceX;
+    const double y = sourceY_ + turn.sourceY;
+    Color color = src_.GetPixel(roundToInteger(x), roundToInteger(y));
+    if (color == kNoColor || (settings_.skipBackground && color == settings_.backgroundColor)) return;
+    if (settings_.antialias) color = sampleBilinear(src_, x, y);
+    dst_.SetPixelV(targetX_ + turn.targetX, targetY_ + turn.targetY, color);
+  }
+
+  const Surface& src_;
+  Surface& dst_;
+  const RotateSettings& settings_;
+  const double angle_;
+  const int sourceX_ = src_.width() / 2;
+  const int sourceY_ = src_.height() / 2;
+  const int targetX_ = settings_.centerX == 0 ? dst_.width() / 2 : settings_.centerX;
+  const int targetY_ = settings_.centerY == 0 ? dst_.height() / 2 : settings_.centerY;
+};
+
+// Of two colours of which one lies outside the picture the other counts alone: nothing of what is no colour comes in.
+Color mixInside(Color a, Color b, double weightB) {
+  if (a == kNoColor) return b;
+  if (b == kNoColor) return a;
+  return mixColors(a, 1 - weightB, b, weightB);
+}
+
+}  // namespace
+
+int diagonalOf(int width, int height) {
+  return roundToInteger(std::sqrt(static_cast<double>(width * width + height * height)));
+}
+
+void rotateSurface(const Surface& src, Surface& dst, const RotateSettings& settings) {
+  Rotation(src, dst, settings).run();
+}
+
+Color sampleBilinear(const Surface& surface, double x, double y) {
+  const double x0 = std::floor(x);
+  const double x1 = std::floor(x + kAlmostOne);
+  const Color a = sampleColumn(surface, x0, y);
+  if (x0 == x1) return a;
+  return mixInside(a, sampleColumn(surface, x1, y), x - x0);
+}
+
+Color sampleColumn(const Surface& surface, double x, double y) {
+  const double y0 = std::floor(y);
+  const double y1 = std::floor(y + kAlmostOne);
+  const int column = roundToInteger(x);
+  const Color a = surface.GetPixel(column, roundToInteger(y0));
+  if (y0 == y1) return a;
+  return mixInside(a, surface.GetPixel(column, roundToInteger(y1)), y - y0);
+}
+
+Color mixColors(Color a, double weightA, Color b, double weightB) {
+  auto mix = [&](int channelA, int channelB) { return roundToByte(channelA * weightA + channelB * weightB); };
+  return rgb(mix(redOf(a), redOf(b)), mix(greenOf(a), greenOf(b)), mix(blueOf(a), blueOf(b)));
+}
+
+}  // namespace gp
