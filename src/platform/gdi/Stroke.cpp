@@ -1,7 +1,9 @@
 #include "platform/gdi/Stroke.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <span>
 
 namespace gp {
@@ -42,6 +44,24 @@ PixelPath nibOf(int width) {
   for (Pixel p : ellipsePath({from, from, from + width, from + width}))
     for (int x = std::min(p.x, 2 * from + width - 1 - p.x); x <= p.x; ++x) nib.push_back({x, p.y});
   return nib;
+}
+
+// The first of `count` bytes from i on that is not 0, or count. Outlines leave most of their box uncovered, so that it
+// is looked at in words.
+int nextCovered(const void* covers, int i, int count) {
+  constexpr int kWord = sizeof(std::uint64_t);
+  const auto* bytes = static_cast<const unsigned char*>(covers);
+  while (i < count) {
+    std::uint64_t word = 0;
+    if (i + kWord <= count) std::memcpy(&word, bytes + i, kWord);
+    if (i + kWord <= count && word == 0)
+      i += kWord;
+    else if (bytes[i] != 0)
+      return i;
+    else
+      ++i;
+  }
+  return count;
 }
 
 }  // namespace
@@ -111,8 +131,9 @@ void Stroke::drawRow(int y, Color penColor) {
       covers_.data() + static_cast<std::size_t>(y - area_.top) * static_cast<std::size_t>(area_.width());
   std::uint32_t* row = surface_.rowForWriting(y, area_.left, area_.right) + area_.left;
   const bool inverting = surface_.drawMode == DrawMode::Invert;
-  for (int i = 0; i < area_.width(); ++i) {
-    if (covers[i] == Cover::None) continue;
+  static_assert(sizeof(Cover) == 1 && static_cast<int>(Cover::None) == 0);
+  const int width = area_.width();
+  for (int i = nextCovered(covers, 0, width); i < width; i = nextCovered(covers, i + 1, width)) {
     row[i] = inverting ? row[i] ^ kColorBits : storedForm(covers[i] == Cover::Pen ? penColor : surface_.fillColor);
   }
 }
