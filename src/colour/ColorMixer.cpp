@@ -22,8 +22,6 @@ constexpr int kQuarterRows = 25;
 constexpr int kRowHeight = kMixGradientHeight / kStripRows;
 constexpr int kStepsOfQuarter = 26;
 
-constexpr int kMarkerRise = 2;  // from the pointer up to the top of the marker
-
 Channels channelsOf(Color color) { return {redOf(color), greenOf(color), blueOf(color)}; }
 Color colorOf(const Channels& channels) { return rgb(channels[0], channels[1], channels[2]); }
 

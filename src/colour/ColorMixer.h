@@ -41,7 +41,8 @@ class ColorMixer {
   // The colour under the pointer on the strip, "RGB: 1, 2, 3", or nothing.
   const std::string& lblMix() const { return lblMix_; }
   const Surface& picMixGradient() const { return picMixGradient_; }
-  // The top of the marker on the strip, in its pixels; kNoMarker until the pointer has been there.
+  // The top of the marker on the strip, in its pixels, so much above the pointer; kNoMarker until that has been there.
+  static constexpr int kMarkerRise = 2;
   static constexpr int kNoMarker = -100;
   int markerTop() const { return markerTop_; }
   bool isEnabled(MixChange change) const;
