@@ -17,9 +17,8 @@ constexpr Channels kFirstValues = {128, 128, 128};
 constexpr int kFirstIntervalIndex = 12;
 
 // The strip runs through five stops, with a quarter of its rows from each to the next.
-constexpr int kStripRows = 100;
 constexpr int kQuarterRows = 25;
-constexpr int kRowHeight = kMixGradientHeight / kStripRows;
+constexpr int kRowHeight = kMixGradientHeight / kMixGradientRows;
 constexpr int kStepsOfQuarter = 26;
 
 Channels channelsOf(Color color) { return {redOf(color), greenOf(color), blueOf(color)}; }
@@ -161,7 +160,7 @@ void ColorMixer::leaveControls() {
 void ColorMixer::paintGradient() {
   const Channels first = stopOf(swatches_[0]), middle = stopOf(swatches_[1]), last = stopOf(swatches_[2]);
   const std::array<Channels, 5> stops = {first, largerOf(first, middle), middle, largerOf(middle, last), last};
-  for (int row = 0; row < kStripRows; ++row) {
+  for (int row = 0; row < kMixGradientRows; ++row) {
     const auto quarter = static_cast<std::size_t>(row / kQuarterRows);
     // The first quarter begins at its stop, the others one step behind it.
     const int step = row % kQuarterRows + (quarter == 0 ? 0 : 1);

@@ -20,6 +20,7 @@ inline constexpr int kMostOfChannel = 255;
 // The client size of picMixGradient, in pixels: two for each of its 100 rows.
 inline constexpr int kMixGradientWidth = 40;
 inline constexpr int kMixGradientHeight = 200;
+inline constexpr int kMixGradientRows = 100;
 
 // cboIntervalColor holds the numbers from 5 to 30.
 inline constexpr int kFirstInterval = 5;

@@ -28,7 +28,7 @@ class MixerFixture : public testing::Test {
   }
   // The colour of one of the strip's 100 rows, counted from 1.
   Color stripRow(int row) const {
-    constexpr int kRowHeight = kMixGradientHeight / 100;
+    constexpr int kRowHeight = kMixGradientHeight / kMixGradientRows;
     return mixer.picMixGradient().GetPixel(0, (row - 1) * kRowHeight);
   }
 };

@@ -17,8 +17,8 @@ constexpr int kFrame = 2;  // around the strip, and seen whole while it has the 
 constexpr int kMarkerHeight = 4;
 constexpr int kDarkGray = 128;
 
-constexpr int kRowHeight = kMixGradientHeight / 100;
-constexpr int kPageHeight = kMixGradientHeight / 10;
+constexpr int kRowHeight = kMixGradientHeight / kMixGradientRows;
+constexpr int kPageHeight = 10 * kRowHeight;
 
 struct Move {
   int key;

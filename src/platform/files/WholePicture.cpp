@@ -61,7 +61,7 @@ bool isWholeJpeg(std::span<const std::uint8_t> bytes) {
     reader.skip(std::max(bigEndian(reader, 2), 2U) - 2);
   }
   const auto scans = bytes.subspan(std::min(reader.position(), reader.size()));
-  return !std::ranges::search(scans, jpeg::kEnd).empty();
+  return std::search(scans.begin(), scans.end(), jpeg::kEnd.begin(), jpeg::kEnd.end()) != scans.end();
 }
 
 bool isWholeGif(std::span<const std::uint8_t> bytes) {
