@@ -1,7 +1,9 @@
 // One paint move on a 48-pixel icon: from the mouse event to the repainted Editing Area of the real form.
+#include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtFileDialogs.h"
 #include "platform/qt/QtMessageBoxes.h"
 #include "platform/qt/QtMessagePump.h"
+#include "platform/qt/QtPictureLoader.h"
 #include "platform/qt/QtProcesses.h"
 #include "platform/qt/QtSystemInfo.h"
 #include "shell/Shell.h"
@@ -56,9 +58,14 @@ class Program {
   gp::QtMessagePump pump_;
   gp::QtSystemInfo system_;
   gp::QtProcesses processes_;
+  gp::QtClipboard clipboard_;
+  gp::QtPictureLoader pictures_;
   gp::EditState state_;
   gp::QtDisplay display_;
-  gp::Shell shell_{state_, {boxes_, dialogs_, pump_, system_, processes_}, display_, folder_.path().toStdString()};
+  gp::Shell shell_{state_,
+                   {boxes_, dialogs_, pump_, system_, processes_, clipboard_, pictures_},
+                   display_,
+                   folder_.path().toStdString()};
   gp::frmGPEdit form_{shell_, display_, ""};
   int step_ = 0;
 };

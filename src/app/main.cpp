@@ -1,9 +1,11 @@
 // The desktop program: makes the ports, the shell and the main form, and nothing else.
 #include "platform/files/Files.h"
 #include "platform/qt/Accessibility.h"
+#include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtFileDialogs.h"
 #include "platform/qt/QtMessageBoxes.h"
 #include "platform/qt/QtMessagePump.h"
+#include "platform/qt/QtPictureLoader.h"
 #include "platform/qt/QtProcesses.h"
 #include "platform/qt/QtSystemInfo.h"
 #include "shell/Shell.h"
@@ -30,6 +32,8 @@ int run(QApplication& application, const std::string& commandLine) {
   gp::QtMessagePump pump;
   gp::QtSystemInfo system;
   gp::QtProcesses processes;
+  gp::QtClipboard clipboard;
+  gp::QtPictureLoader pictures;
   const std::string folder = gp::programFolder();
 
   gp::EditState state;
@@ -38,8 +42,9 @@ int run(QApplication& application, const std::string& commandLine) {
   gp::frmGPAbout startUpPicture;
   startUpPicture.showAtStart();
   gp::QtDisplay display;
-  gp::Shell shell(state, {boxes, dialogs, pump, system, processes}, display, folder);
+  gp::Shell shell(state, {boxes, dialogs, pump, system, processes, clipboard, pictures}, display, folder);
   gp::frmGPEdit form(shell, display, commandLine);
+  clipboard.onChange = [&shell] { shell.UpdateCommands(); };
   shell.formLoad();
   form.show();
   startUpPicture.close();

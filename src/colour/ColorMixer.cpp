@@ -13,7 +13,8 @@ namespace {
 
 using Channels = std::array<int, kMixChannels>;
 
-constexpr Channels kFirstValues = {128, 128, 128};
+// White, which cannot get lighter.
+constexpr Channels kFirstValues = {255, 255, 255};
 constexpr int kFirstIntervalIndex = 12;
 
 // The strip runs through five stops, with a quarter of its rows from each to the next.

@@ -94,9 +94,7 @@ void ColorSelection::imgColorPicker() {
     tellNoIconYet(boxes_);
     return;
   }
-  state_.picDisp.clearDrawing();
-  state_.mRegionExists = false;
-  display_.changed(DisplayPart::EditingArea);
+  editor_.clearRegion();
   editor_.UpdateCommands();
   const bool select = !pickerSelected_;
   if (select) editor_.clearAllTools();

@@ -26,8 +26,12 @@ struct ProcessValues {
 // The three frames of the colour panel of which one is visible; the values are the indices of fraofColorPanel.
 enum class ColorFrame { Chart16 = 3, Chart256 = 4, DirectEntry = 5 };
 
-// The pointer over the Editing Area: the platform's own, or the picture of a tool.
+// The pointer over the Editing Area: one of the platform's own, or the index of the tool whose picture it is.
 inline constexpr int kDefaultPointer = -1;
+inline constexpr int kCrossPointer = -2;
+inline constexpr int kHorizontalResizePointer = -3;
+inline constexpr int kVerticalResizePointer = -4;
+inline constexpr int kMovePointer = -5;
 inline constexpr int kColorPickerPointer = 2;  // the picker's index in mnuTools
 
 inline constexpr int kStatusPanelCount = 5;

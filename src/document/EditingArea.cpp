@@ -150,6 +150,7 @@ void EditingArea::MagnifyIcon() {
   stretchWhole(state_.picDisp, state_.PicIcon, icon, RasterOp::SRCCOPY);
   overlayGrid();
   state_.picDisp.makePersistent();
+  if (state_.mRegionExists) editor_.redrawRegion();
   display_.changed(DisplayPart::EditingArea);
   editor_.UpdateCommands();
 }

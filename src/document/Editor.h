@@ -38,6 +38,8 @@ class Editor {
   virtual void selectTool(int tool) = 0;
   virtual int selectedTool() const = 0;  // index of imgTool, 0 for none
   virtual void clearRegion() = 0;
+  // Draws the region's box again on an Editing Area that was built anew.
+  virtual void redrawRegion() = 0;
   virtual void recordUndo() = 0;
   virtual void clearUndoHistory() = 0;
 

@@ -12,12 +12,21 @@ struct ToolMouse {
   int modifiers = 0;  // kShiftKey, kCtrlKey, kAltKey
 };
 
+// What pointer() gives for a tool that is shown by its own picture.
+inline constexpr int kOwnPicture = 0;
+
 class DrawingTool {
  public:
   virtual ~DrawingTool() = default;
   virtual void press(const ToolMouse& /*mouse*/) {}
   virtual void move(const ToolMouse& /*mouse*/) {}
   virtual void release(const ToolMouse& /*mouse*/) {}
+  // The tool has just been selected.
+  virtual void selected() {}
+  // The tool is about to be deselected: what is under way is finished or dropped, whole.
+  virtual void cancel() {}
+  // The pointer over a position, in Editing Area pixels: kOwnPicture, or one of the pointers that ScreenState tells.
+  virtual int pointer(float /*x*/, float /*y*/) const { return kOwnPicture; }
 };
 
 }  // namespace gp

@@ -168,4 +168,22 @@ void RegionTool::release(const ToolMouse& /*mouse*/) {
     regions_.finishDrag();
 }
 
+int RegionTool::pointer(float x, float y) const {
+  switch (regions_.pointerAt(static_cast<double>(x), static_cast<double>(y))) {
+    case RegionPointer::Cross:
+      return kCrossPointer;
+    case RegionPointer::Custom:
+      return kOwnPicture;
+    case RegionPointer::HorizontalResize:
+      return kHorizontalResizePointer;
+    case RegionPointer::VerticalResize:
+      return kVerticalResizePointer;
+    case RegionPointer::Move:
+      return kMovePointer;
+    case RegionPointer::Default:
+      break;
+  }
+  return kDefaultPointer;
+}
+
 }  // namespace gp

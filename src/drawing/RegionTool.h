@@ -19,6 +19,9 @@ class RegionTool : public DrawingTool {
   void press(const ToolMouse& mouse) override;
   void move(const ToolMouse& mouse) override;
   void release(const ToolMouse& mouse) override;
+  // A drag ends where it is.
+  void cancel() override { regions_.finishDrag(); }
+  int pointer(float x, float y) const override;
 
  private:
   void snap(const ToolMouse& mouse);

@@ -20,6 +20,7 @@ class ShiftTool : public DrawingTool {
  public:
   ShiftTool(EditState& state, Editor& editor, MessageBoxes& boxes);
 
+  void selected() override { turnOn(); }
   // imgTool(15) Click has selected the tool: a new baseline of Undo, then the picture is kept.
   void turnOn();
 

@@ -6,18 +6,18 @@ namespace gp {
 
 const std::array<ToolRow, 12>& toolTable() {
   static const std::array<ToolRow, 12> kTools = {{
-      {kPaint, "Paint", "paint", true},
-      {kErase, "Erase (paint transparent)", "erase", true},
-      {kFill, "Fill (+Shift key if to fill transparent)", "fill", false},
-      {kReplace, "Replace painted color (+Shift key if to replace by transparent)", "replace", false},
-      {kRestore, "Restore/copy pixel of icon in panel", "restore", true},
-      {kLine, "Line (+Shift key if for straight line)", "line", false},
-      {kRectangle, "Rectangle (+Shift key if for square)", "rectangle", false},
-      {kFilledRectangle, "Filled Rectangle (+Shift key if for filled square)", "filled-rectangle", false},
-      {kOval, "Oval (+Shift key if for circle)", "oval", false},
-      {kFilledOval, "Filled Oval (+Shift key if for filled circle)", "filled-oval", false},
-      {kRegion, "Region (+Shift key if for square region)", "region", false},
-      {kShift, "Set/unset shift image", "shift", false},
+      {kPaint, "Paint", "paint"},
+      {kErase, "Erase (paint transparent)", "erase"},
+      {kFill, "Fill (+Shift key if to fill transparent)", "fill"},
+      {kReplace, "Replace painted color (+Shift key if to replace by transparent)", "replace"},
+      {kRestore, "Restore/copy pixel of icon in panel", "restore"},
+      {kLine, "Line (+Shift key if for straight line)", "line"},
+      {kRectangle, "Rectangle (+Shift key if for square)", "rectangle"},
+      {kFilledRectangle, "Filled Rectangle (+Shift key if for filled square)", "filled-rectangle"},
+      {kOval, "Oval (+Shift key if for circle)", "oval"},
+      {kFilledOval, "Filled Oval (+Shift key if for filled circle)", "filled-oval"},
+      {kRegion, "Region (+Shift key if for square region)", "region"},
+      {kShift, "Set/unset shift image", "shift"},
   }};
   return kTools;
 }

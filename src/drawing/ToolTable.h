@@ -26,7 +26,6 @@ struct ToolRow {
   int index;
   const char* tooltip;
   const char* picture;
-  bool available;  // false until the subsystem of the tool is part of the program
 };
 
 inline constexpr int kFirstTool = kPaint;

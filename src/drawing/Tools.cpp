@@ -1,10 +1,10 @@
 #include "drawing/Tools.h"
 
 #include "document/Messages.h"
-#include "platform/gdi/Pens.h"
 #include "platform/text/Numbers.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace gp {
 
@@ -23,21 +23,31 @@ int snapToCell(double position, SnapMode mode, int magnification) {
   return (nextCorner ? cell + 1 : cell) * magnification;
 }
 
-Tools::Tools(EditState& state, Editor& editor, Display& display, EditingArea& editingArea, ColorSelection& colors,
-             MessageBoxes& boxes, MessagePump& pump)
+Tools::Tools(EditState& state, Editor& editor, Display& display, ColorSelection& colors, MessageBoxes& boxes,
+             MessagePump& pump, DrawState& drawState)
     : state_(state),
       editor_(editor),
       display_(display),
-      editingArea_(editingArea),
       colors_(colors),
       boxes_(boxes),
-      pump_(pump) {}
+      pump_(pump),
+      drawState_(drawState) {}
 
-bool Tools::isToolActive() const { return state_.screen.fraTools[1] && selected_ != kNoTool; }
+void Tools::attach(int tool, DrawingTool& worker) { workers_.at(static_cast<std::size_t>(tool)) = &worker; }
+
+DrawingTool* Tools::worker(int tool) const { return workers_.at(static_cast<std::size_t>(tool)); }
+
+bool Tools::isToolActive() const { return state_.screen.fraTools[1] && worker(selected_) != nullptr; }
 
 void Tools::locate(const MouseInput& mouse) {
+  lastX_ = mouse.x;
+  lastY_ = mouse.y;
   mPixelX = Fix(static_cast<double>(mouse.x) / state_.gMagnification);
   mPixelY = Fix(static_cast<double>(mouse.y) / state_.gMagnification);
+}
+
+ToolMouse Tools::toolMouse(const MouseInput& mouse) const {
+  return {mPixelX, mPixelY, mouse.x, mouse.y, mouse.modifiers};
 }
 
 void Tools::press(const MouseInput& mouse) {
@@ -47,22 +57,7 @@ void Tools::press(const MouseInput& mouse) {
   }
   if (!state_.current().present || !isToolActive()) return;
   locate(mouse);
-  switch (selected_) {
-    case kPaint:
-    case kErase:
-      state_.current().modified = true;
-      (selected_ == kPaint ? mPainting : mErasing) = true;
-      stamp();
-      editor_.ComposeCurrentIcon();
-      editor_.MagnifyIcon();
-      break;
-    case kRestore:
-      mRestoring = true;
-      restorePixel();
-      break;
-    default:
-      break;
-  }
+  worker(selected_)->press(toolMouse(mouse));
 }
 
 void Tools::move(const MouseInput& mouse) {
@@ -74,14 +69,10 @@ void Tools::move(const MouseInput& mouse) {
     leave();
     return;
   }
-  updateEditingPointer();
+  updateEditingPointer(mouse.x, mouse.y);
   locate(mouse);
   writeReadouts();
-  if (!isToolActive()) return;
-  if (mPainting || mErasing)
-    continueStroke();
-  else if (mRestoring)
-    restorePixel();
+  if (isToolActive()) worker(selected_)->move(toolMouse(mouse));
 }
 
 void Tools::leave() {
@@ -90,60 +81,22 @@ void Tools::leave() {
 }
 
 void Tools::release(const MouseInput& mouse) {
-  mPainting = mErasing = mRestoring = mRegionDown = false;
+  drawState_.mPainting = drawState_.mErasing = drawState_.mRestoring = drawState_.mRegionDown = false;
   if (!state_.current().present) return;
   locate(mouse);
   if (colors_.isPickerSelected()) {
-    const Color picked = state_.PicIcon.GetPixel(mPixelX, mPixelY);
-    if (picked != kNoColor) colors_.setCurrentColor(picked);
+    pickColor();
     return;
   }
   if (!isToolActive()) return;
   state_.current().modified = true;
-  if (selected_ == kPaint || selected_ == kErase) {
-    editor_.ComposeCurrentIcon();
-    editor_.MagnifyIcon();
-    pump_.pump();
-    editor_.recordUndo();
-  }
+  worker(selected_)->release(toolMouse(mouse));
   editor_.UpdateCommands();
 }
 
-// The brush hangs from its top left pixel and is cut at the right and bottom edges of the icon.
-void Tools::stamp() {
-  const int last = state_.current().size - 1;
-  mDrawX1 = mPixelX;
-  mDrawY1 = mPixelY;
-  mDrawX2 = std::min(mPixelX + state_.screen.brushIndex, last);
-  mDrawY2 = std::min(mPixelY + state_.screen.brushIndex, last);
-  const bool paint = selected_ == kPaint;
-  FillBox(state_.picImage, mDrawX1, mDrawY1, mDrawX2, mDrawY2, paint ? state_.mCurrentColor : kBlack);
-  FillBox(state_.picMask, mDrawX1, mDrawY1, mDrawX2, mDrawY2, paint ? kBlack : kWhite);
-}
-
-// Stamps where the pointer is; nothing is interpolated, so a fast drag leaves gaps. The square on picDisp spares the
-// grid lines to its left and top, and may run past the right and bottom edge.
-void Tools::continueStroke() {
-  pump_.pump();
-  if (!mPainting && !mErasing) return;
-  stamp();
-  editor_.ComposeCurrentIcon();
-  const int m = state_.gMagnification;
-  const int brush = state_.screen.brushIndex;
-  auto first = [m](int cell) { return cell == 0 ? 0 : m * cell + 1; };
-  editingArea_.showSquare(first(mDrawX1), first(mDrawY1), (mDrawX1 + 1 + brush) * m - 1, (mDrawY1 + 1 + brush) * m - 1,
-                          mPainting ? state_.mCurrentColor : kGround);
-}
-
-void Tools::restorePixel() {
-  const auto container = static_cast<std::size_t>(state_.mCurContainer);
-  const Color image = state_.picPanelImage.at(container).GetPixel(mPixelX, mPixelY);
-  const Color mask = state_.picPanelMask.at(container).GetPixel(mPixelX, mPixelY);
-  if (image == kNoColor || mask == kNoColor) return;
-  state_.picImage.SetPixelV(mPixelX, mPixelY, image);
-  state_.picMask.SetPixelV(mPixelX, mPixelY, mask);
-  editor_.ComposeCurrentIcon();
-  editor_.MagnifyIcon();
+void Tools::pickColor() {
+  const Color picked = state_.PicIcon.GetPixel(mPixelX, mPixelY);
+  if (picked != kNoColor) colors_.setCurrentColor(picked);
 }
 
 void Tools::setReadout(Readout which, std::string text) {
@@ -159,7 +112,7 @@ void Tools::writeReadouts() {
 }
 
 std::string Tools::pixelRgbText() const {
-  if (mPainting || mErasing || mRestoring || mRegionDown) return {};
+  if (drawState_.isStroke()) return {};
   return pixelText(mPixelX, mPixelY);
 }
 
@@ -171,14 +124,16 @@ std::string Tools::pixelText(int x, int y) const {
          std::to_string(blueOf(image));
 }
 
-void Tools::updateEditingPointer() {
-  int pointer = kDefaultPointer;
-  if (state_.screen.fraTools[1]) {
-    if (colors_.isPickerSelected())
-      pointer = kColorPickerPointer;
-    else if (isToolActive() && selected_ < kRegion)
-      pointer = selected_;
-  }
+int Tools::pointerAt(float x, float y) const {
+  if (!state_.screen.fraTools[1]) return kDefaultPointer;
+  if (colors_.isPickerSelected()) return kColorPickerPointer;
+  if (!isToolActive()) return kDefaultPointer;
+  const int pointer = worker(selected_)->pointer(x, y);
+  return pointer == kOwnPicture ? selected_ : pointer;
+}
+
+void Tools::updateEditingPointer(float x, float y) {
+  const int pointer = pointerAt(x, y);
   if (state_.screen.editingPointer == pointer) return;
   state_.screen.editingPointer = pointer;
   display_.changed(DisplayPart::Pointer);
@@ -190,19 +145,27 @@ void Tools::selectTool(int tool) {
     tellNoIconYet(boxes_);
     return;
   }
-  if (!toolRow(tool).available) return;
+  if (!isAvailable(toolRow(tool).index)) return;
   editor_.CommitPendingPaint();
   editor_.deselectColorPicker();
   if (state_.screen.mActivePanel != 0) editor_.showPanel(0);
   const bool wasSelected = selected_ == tool;
-  if (!wasSelected) clearAllTools();
-  selected_ = wasSelected ? kNoTool : tool;
+  clearAllTools();
   editor_.clearRegion();
+  if (wasSelected) return;
+  selected_ = tool;
+  worker(tool)->selected();
   toolsChanged();
 }
 
+// What the tool has under way ends first, so that nothing half done is left behind.
+void Tools::deselect() {
+  DrawingTool* former = worker(std::exchange(selected_, kNoTool));
+  if (former) former->cancel();
+}
+
 void Tools::toolsChanged() {
-  updateEditingPointer();
+  updateEditingPointer(lastX_, lastY_);
   display_.changed(DisplayPart::Tools);
   display_.changed(DisplayPart::Commands);
 }
@@ -220,7 +183,7 @@ void Tools::mnuTools(int index) {
 
 void Tools::clearAllTools() {
   setReadout(Readout::Region, "");
-  selected_ = kNoTool;
+  deselect();
   editor_.deselectColorPicker();
   toolsChanged();
 }

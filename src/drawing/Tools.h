@@ -1,17 +1,19 @@
 // The tool box and the three mouse handlers of picDisp. Turns a position on the magnified Editing Area into a pixel of
-// the Current Icon and dispatches to the selected tool. Owns the freehand tools (Paint, Erase, Restore), the brush, the
-// read-outs and the pointer over the Editing Area.
+// the Current Icon and hands it to the selected tool. Owns which tool is selected, the brush, the read-outs and the
+// pointer over the Editing Area; what the tools do is their own business.
 #pragma once
 
 #include "colour/ColorSelection.h"
 #include "document/Display.h"
 #include "document/EditState.h"
-#include "document/EditingArea.h"
 #include "document/Editor.h"
+#include "drawing/DrawState.h"
+#include "drawing/DrawingTool.h"
 #include "drawing/ToolTable.h"
 #include "platform/ports/MessageBoxes.h"
 #include "platform/ports/MessagePump.h"
 
+#include <array>
 #include <string>
 
 namespace gp {
@@ -33,8 +35,12 @@ struct MouseInput {
 
 class Tools {
  public:
-  Tools(EditState& state, Editor& editor, Display& display, EditingArea& editingArea, ColorSelection& colors,
-        MessageBoxes& boxes, MessagePump& pump);
+  Tools(EditState& state, Editor& editor, Display& display, ColorSelection& colors, MessageBoxes& boxes,
+        MessagePump& pump, DrawState& drawState);
+
+  // Says who does the work of a tool; it must outlive the tools. A tool without one cannot be selected.
+  void attach(int tool, DrawingTool& worker);
+  bool isAvailable(int tool) const { return worker(tool) != nullptr; }
 
   // MouseDown, MouseMove and MouseUp of picDisp.
   void press(const MouseInput& mouse);
@@ -59,32 +65,32 @@ class Tools {
   void setBrush(int index);
 
  private:
+  DrawingTool* worker(int tool) const;
   void locate(const MouseInput& mouse);
-  void stamp();
-  void continueStroke();
-  void restorePixel();
+  ToolMouse toolMouse(const MouseInput& mouse) const;
+  void pickColor();
   void setReadout(Readout which, std::string text);
   void writeReadouts();
   std::string pixelRgbText() const;
-  void updateEditingPointer();
+  int pointerAt(float x, float y) const;
+  void updateEditingPointer(float x, float y);
+  void deselect();
   void toolsChanged();
 
   EditState& state_;
   Editor& editor_;
   Display& display_;
-  EditingArea& editingArea_;
   ColorSelection& colors_;
   MessageBoxes& boxes_;
   MessagePump& pump_;
+  DrawState& drawState_;
 
+  std::array<DrawingTool*, kLastTool + 1> workers_{};
   int selected_ = kNoTool;
-  // A stroke is under way from press to release; a nested event finds the flags as they are.
-  bool mPainting = false;
-  bool mErasing = false;
-  bool mRestoring = false;
-  bool mRegionDown = false;
-  int mPixelX = 0, mPixelY = 0;
-  int mDrawX1 = 0, mDrawY1 = 0, mDrawX2 = 0, mDrawY2 = 0;
+  int mPixelX = 0;
+  int mPixelY = 0;
+  float lastX_ = 0;  // where the pointer was last, Editing Area pixels
+  float lastY_ = 0;
 };
 
 enum class SnapMode { CellCentre = 1, NearestCorner = 2 };

@@ -1,5 +1,6 @@
 #include "shell/CommandHandlers.h"
 
+#include "shell/PanelTable.h"
 #include "shell/Shell.h"
 
 #include <array>
@@ -24,6 +25,19 @@ bool hasAlpha(const Shell& shell, int) { return record(shell).present && record(
 bool isCursor(const Shell& shell, int) { return record(shell).present && record(shell).isCursor; }
 bool isDiscrepant(const Shell& shell, int) { return record(shell).present && record(shell).isDiscrepant(); }
 bool hasNoRegion(const Shell& shell, int) { return !shell.state().mRegionActive; }
+
+bool hasRegion(const Shell& shell, int) { return record(shell).present && shell.state().mRegionExists; }
+bool canUndo(const Shell& shell, int) { return record(shell).present && shell.drawing().history.canUndo(); }
+bool canRedo(const Shell& shell, int) { return record(shell).present && shell.drawing().history.canRedo(); }
+bool canPaste(const Shell& shell, int) {
+  return shell.state().screen.mActivePanel != kIconsListPanel && shell.ports().clipboard.hasImage();
+}
+bool isOtherContainer(const Shell& shell, int index) {
+  return record(shell).present && index != shell.state().mCurContainer;
+}
+bool isOtherUsedContainer(const Shell& shell, int index) {
+  return index != shell.state().mCurContainer && shell.state().mIconRecs.at(static_cast<std::size_t>(index)).used;
+}
 
 bool canPickColor(const Shell& shell, int) {
   const ScreenState& screen = shell.state().screen;
@@ -50,6 +64,12 @@ void switchToCustomSize(Shell& shell, int) { shell.switchToCustomSize(); }
 void exitProgram(Shell& shell, int) { shell.exitProgram(); }
 void chooseTool(Shell& shell, int index) { shell.tools().mnuTools(index); }
 void chooseBrush(Shell& shell, int index) { shell.tools().setBrush(index); }
+void editCommand(Shell& shell, int index) { shell.mnuEditSub(index); }
+void copyToContainer(Shell& shell, int index) { shell.drawing().containerCopies.mnuEditSubCopyToContainer(index); }
+void copyFromContainer(Shell& shell, int index) { shell.drawing().containerCopies.mnuEditSubCopyFromContainer(index); }
+void rotateCommand(Shell& shell, int index) { shell.drawing().transforms.mnuRotateSubmenu(index); }
+void loadPalette(Shell& shell, int) { shell.paletteFile().imgLoadPalette(); }
+void savePalette(Shell& shell, int) { shell.paletteFile().imgSavePalette(); }
 void chooseGrid(Shell& shell, int index) { shell.editingArea().SetGrid(index); }
 void chooseStartScreen(Shell& shell, int index) { shell.selectStartScreen(index); }
 void toggleOption(Shell& shell, int index) { shell.toggleOption(index); }

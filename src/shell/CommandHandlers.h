@@ -19,6 +19,12 @@ bool isCursor(const Shell& shell, int index);
 bool isDiscrepant(const Shell& shell, int index);
 bool canPickColor(const Shell& shell, int index);
 bool hasNoRegion(const Shell& shell, int index);
+bool hasRegion(const Shell& shell, int index);
+bool canUndo(const Shell& shell, int index);
+bool canRedo(const Shell& shell, int index);
+bool canPaste(const Shell& shell, int index);
+bool isOtherContainer(const Shell& shell, int index);
+bool isOtherUsedContainer(const Shell& shell, int index);
 
 // Ticks.
 bool isToolSelected(const Shell& shell, int index);
@@ -37,7 +43,13 @@ void switchToCustomSize(Shell& shell, int index);
 void exitProgram(Shell& shell, int index);
 void chooseTool(Shell& shell, int index);
 void chooseBrush(Shell& shell, int index);
+void editCommand(Shell& shell, int index);
+void copyToContainer(Shell& shell, int index);
+void copyFromContainer(Shell& shell, int index);
+void rotateCommand(Shell& shell, int index);
 void chooseColorFrame(Shell& shell, int index);
+void loadPalette(Shell& shell, int index);
+void savePalette(Shell& shell, int index);
 void chooseGrid(Shell& shell, int index);
 void chooseStartScreen(Shell& shell, int index);
 void toggleOption(Shell& shell, int index);

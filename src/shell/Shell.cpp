@@ -15,7 +15,9 @@ Shell::Shell(EditState& state, const Ports& ports, Display& display, std::string
       editingArea_(state, *this, display, ports.pump),
       iconsPanel_(state, *this, editingArea_, display, ports.pump),
       colors_(state, *this, display, ports.boxes, ports.pump, mDialog),
-      tools_(state, *this, display, editingArea_, colors_, ports.boxes, ports.pump),
+      mixer_(state, display, ports.pump, colors_),
+      paletteFile_(state, *this, ports.boxes, mDialog, ports.pictures, mixer_, folder_),
+      drawing_(state, *this, display, editingArea_, colors_, ports.boxes, ports.pump, ports.clipboard),
       iconFiles_(state, *this, display, ports.boxes, ports.pump, mDialog),
       iconSaver_(state, *this, display, ports.boxes, ports.pump, mDialog),
       settings_(state.options, settingsPath()),
@@ -61,9 +63,9 @@ void Shell::chooseColorChart() { colors_.chooseColorChart(); }
 void Shell::showChart16() { colors_.imgGet16ColorChart(); }
 void Shell::deselectColorPicker() { colors_.deselectPicker(); }
 bool Shell::isColorPickerSelected() const { return colors_.isPickerSelected(); }
-void Shell::clearAllTools() { tools_.clearAllTools(); }
-void Shell::selectTool(int tool) { tools_.selectTool(tool); }
-int Shell::selectedTool() const { return tools_.selectedTool(); }
+void Shell::clearAllTools() { drawing_.tools.clearAllTools(); }
+void Shell::selectTool(int tool) { drawing_.tools.selectTool(tool); }
+int Shell::selectedTool() const { return drawing_.tools.selectedTool(); }
 void Shell::doOpenIconFile(const std::string& path, bool useBrowser, bool& ok) {
   iconFiles_.doOpenIconFile(path, useBrowser, ok);
 }
@@ -77,20 +79,14 @@ int Shell::colorBitCountOfImage() const {
   return count;
 }
 
-void Shell::clearRegion() {
-  state_.picDisp.clearDrawing();
-  state_.mRegionActive = false;
-  state_.mRegionExists = false;
-  display_.changed(DisplayPart::EditingArea);
-}
-
-// No step is kept yet, so Undo and Redo stay disabled; callers already tell where steps end.
-void Shell::recordUndo() { UpdateCommands(); }
-void Shell::clearUndoHistory() { UpdateCommands(); }
+void Shell::clearRegion() { drawing_.regions.clearRegion(); }
+void Shell::redrawRegion() { drawing_.regions.redrawRegion(); }
+void Shell::recordUndo() { drawing_.history.recordUndo(); }
+void Shell::clearUndoHistory() { drawing_.history.clearUndoHistory(); }
 
 void Shell::showPanel(int panel) {
   state_.screen.mActivePanel = panel;
-  tools_.clearAllTools();
+  drawing_.tools.clearAllTools();
   display_.changed(DisplayPart::Panel);
   UpdateCommands();
 }

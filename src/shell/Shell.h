@@ -2,12 +2,14 @@
 // and runs commands and the life-cycle of the main form. The forms forward their events here.
 #pragma once
 
+#include "colour/ColorMixer.h"
 #include "colour/ColorSelection.h"
+#include "colour/PaletteFile.h"
 #include "document/EditState.h"
 #include "document/EditingArea.h"
 #include "document/Editor.h"
 #include "document/IconsPanel.h"
-#include "drawing/Tools.h"
+#include "drawing/Drawing.h"
 #include "files/IconFiles.h"
 #include "files/IconSaver.h"
 #include "platform/dialogs/clsGPDialog.h"
@@ -30,6 +32,8 @@ struct Ports {
   MessagePump& pump;
   SystemInfo& system;
   Processes& processes;
+  Clipboard& clipboard;
+  PictureLoader& pictures;
 };
 
 class Shell final : public Editor {
@@ -47,8 +51,12 @@ class Shell final : public Editor {
   IconsPanel& iconsPanel() { return iconsPanel_; }
   ColorSelection& colors() { return colors_; }
   const ColorSelection& colors() const { return colors_; }
-  Tools& tools() { return tools_; }
-  const Tools& tools() const { return tools_; }
+  ColorMixer& mixer() { return mixer_; }
+  PaletteFile& paletteFile() { return paletteFile_; }
+  Drawing& drawing() { return drawing_; }
+  const Drawing& drawing() const { return drawing_; }
+  Tools& tools() { return drawing_.tools; }
+  const Tools& tools() const { return drawing_.tools; }
   IconFiles& iconFiles() { return iconFiles_; }
   IconSaver& iconSaver() { return iconSaver_; }
   const History& fileHistory() const { return fileHistory_; }
@@ -76,6 +84,9 @@ class Shell final : public Editor {
   // Command bodies of the shell itself.
   void openIconFile();
   void openFromHistory(int index);
+  void mnuEditSub(int index);
+  // Close of a side panel: nothing of it is kept.
+  void cancelPanel();
   void openHelp();
   void switchToCustomSize();
   void toggleOption(int index);
@@ -106,6 +117,7 @@ class Shell final : public Editor {
   void selectTool(int tool) override;
   int selectedTool() const override;
   void clearRegion() override;
+  void redrawRegion() override;
   void recordUndo() override;
   void clearUndoHistory() override;
   void doOpenIconFile(const std::string& path, bool useBrowser, bool& ok) override;
@@ -135,7 +147,9 @@ class Shell final : public Editor {
   EditingArea editingArea_;
   IconsPanel iconsPanel_;
   ColorSelection colors_;
-  Tools tools_;
+  ColorMixer mixer_;
+  PaletteFile paletteFile_;
+  Drawing drawing_;
   IconFiles iconFiles_;
   IconSaver iconSaver_;
   Settings settings_;

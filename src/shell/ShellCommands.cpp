@@ -1,8 +1,12 @@
 // The command bodies that belong to the shell itself: history, options, help and the companion program.
+#include "document/Messages.h"
 #include "platform/files/Files.h"
 #include "shell/CommandLine.h"
+#include "shell/PanelTable.h"
 #include "shell/Shell.h"
 #include "shell/StartUp.h"
+
+#include <algorithm>
 
 namespace gp {
 
@@ -12,6 +16,31 @@ constexpr const char* kHelpFile = "GPHelp.chm";
 constexpr int kEnlargedOption = 3;
 constexpr int kPixelRgbOption = 5;
 constexpr int kUpdateOnlyOption = 9;
+
+// The Edit menu by its index.
+struct EditCommand {
+  int index;
+  bool needsIcon;  // says so when there is none
+  void (*run)(Drawing& drawing);
+};
+
+constexpr EditCommand kEditCommands[] = {
+    {0, true, [](Drawing& drawing) { drawing.history.doUndoAll(); }},
+    {1, true, [](Drawing& drawing) { drawing.history.doUndo(); }},
+    {2, true, [](Drawing& drawing) { drawing.history.doRedo(); }},
+    {4, false, [](Drawing& drawing) { drawing.clipboardCommands.doCutRegion(true); }},
+    {5, false, [](Drawing& drawing) { drawing.clipboardCommands.doCutRegion(false); }},
+    {6, true, [](Drawing& drawing) { drawing.clipboardCommands.doCopyRegion(); }},
+    {7, false, [](Drawing& drawing) { drawing.clipboardCommands.doPaste(false); }},
+    {8, false, [](Drawing& drawing) { drawing.clipboardCommands.doPaste(true); }},
+    {9, false, [](Drawing& drawing) { drawing.clipboardCommands.clearClipboard(); }},
+    {13, true, [](Drawing& drawing) { drawing.containerCopies.doClearContainer(); }},
+};
+
+const EditCommand* findEditCommand(int index) {
+  const auto* found = std::ranges::find(kEditCommands, index, &EditCommand::index);
+  return found == std::end(kEditCommands) ? nullptr : found;
+}
 
 }  // namespace
 
@@ -86,6 +115,21 @@ void Shell::resetToDefault() {
 
 void Shell::confirmReset() {
   if (ports_.boxes.ask("Confirm to reset to default settings?")) resetToDefault();
+}
+
+void Shell::mnuEditSub(int index) {
+  const EditCommand* command = findEditCommand(index);
+  if (!command) return;
+  if (command->needsIcon && !state_.current().used)
+    tellNoIconYet(ports_.boxes);
+  else
+    command->run(drawing_);
+}
+
+void Shell::cancelPanel() {
+  showPanel(kColorPanel);
+  ports_.pump.pump();
+  if (state_.current().present) MagnifyIcon();
 }
 
 void Shell::exitProgram() {

@@ -41,13 +41,14 @@ Color slowRow(const Triple& mixed, int row) {
   return rgb(value(0), value(1), value(2));
 }
 
-TEST_F(ColorMixerTest, StartsInTheMiddleWithAStripAndAnIntervalOf17) {
-  EXPECT_EQ(sliders(), (Triple{128, 128, 128}));
-  EXPECT_EQ(mixer.PicRGBMix(), rgb(128, 128, 128));
+TEST_F(ColorMixerTest, StartsWithWhiteThatCannotGetLighterAStripAndAnIntervalOf17) {
+  EXPECT_EQ(sliders(), (Triple{255, 255, 255}));
+  EXPECT_EQ(mixer.PicRGBMix(), kWhite);
+  EXPECT_FALSE(mixer.isEnabled(MixChange::Lighten));
   EXPECT_EQ(mixer.intervalIndex(), 12);
   EXPECT_EQ(mixer.picMixGradient().width(), 40);
   EXPECT_EQ(mixer.picMixGradient().height(), 200);
-  for (int row = 1; row <= 100; ++row) EXPECT_EQ(stripRow(row), slowRow({128, 128, 128}, row)) << row;
+  for (int row = 1; row <= 100; ++row) EXPECT_EQ(stripRow(row), slowRow({255, 255, 255}, row)) << row;
   EXPECT_EQ(mixer.markerTop(), ColorMixer::kNoMarker);
   EXPECT_EQ(state.mCurrentColor, kWhite);
   EXPECT_EQ(pump.pumps, 0);
@@ -57,14 +58,14 @@ TEST_F(ColorMixerTest, MovingASliderMixesItsColourAndChangesNotTheCurrentOne) {
   state.mCurrentColor = 0x123456;
   mixer.moveSlider(0, 250);
   mixer.moveSlider(1, 10);
-  EXPECT_EQ(sliders(), (Triple{250, 10, 128}));
-  EXPECT_EQ(mixer.PicRGBMix(), rgb(250, 10, 128));
+  EXPECT_EQ(sliders(), (Triple{250, 10, 255}));
+  EXPECT_EQ(mixer.PicRGBMix(), rgb(250, 10, 255));
   EXPECT_EQ(mixer.PicRGB(0), rgb(250, 0, 0));
   EXPECT_EQ(mixer.PicRGB(1), rgb(0, 10, 0));
-  EXPECT_EQ(mixer.PicRGB(2), rgb(0, 0, 128));
+  EXPECT_EQ(mixer.PicRGB(2), rgb(0, 0, 255));
   EXPECT_EQ(mixer.lblRGB(0), "250 / FA");
   EXPECT_EQ(mixer.lblRGB(1), "10 / A");
-  EXPECT_EQ(mixer.lblRGB(2), "128 / 80");
+  EXPECT_EQ(mixer.lblRGB(2), "255 / FF");
   EXPECT_EQ(state.mCurrentColor, 0x123456);
   EXPECT_TRUE(display.told(DisplayPart::ColorPanel));
   EXPECT_EQ(pump.pumps, 2);
@@ -78,7 +79,7 @@ TEST_F(ColorMixerTest, ValuesBeyondAChannelStopAtItsEnds) {
 TEST_F(ColorMixerTest, WhileTheFormIsBeingMadeSlidersDoNothing) {
   state.mInLoad = true;
   mixer.moveSlider(0, 250);
-  EXPECT_EQ(sliders(), (Triple{128, 128, 128}));
+  EXPECT_EQ(sliders(), (Triple{255, 255, 255}));
   EXPECT_EQ(pump.pumps, 0);
 }
 
@@ -278,7 +279,7 @@ TEST_F(ColorMixerTest, ALoadedStripStandsUntilASliderMoves) {
   EXPECT_EQ(mixer.picMixGradient().width(), 40);
   EXPECT_EQ(mixer.picMixGradient().height(), 200);
   EXPECT_EQ(stripRow(1), rgb(9, 8, 7));
-  EXPECT_EQ(sliders(), (Triple{128, 128, 128}));
+  EXPECT_EQ(sliders(), (Triple{255, 255, 255}));
   EXPECT_EQ(state.mCurrentColor, kWhite);
   mixer.gradientRelease(0, 0);
   EXPECT_EQ(state.mCurrentColor, rgb(9, 8, 7));

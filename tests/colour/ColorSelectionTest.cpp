@@ -99,10 +99,9 @@ TEST_F(ColorSelectionTest, ThePickerNeedsAnIcon) {
 
 TEST_F(ColorSelectionTest, ASecondClickOnThePickerTurnsItOff) {
   state.current().present = true;
-  state.mRegionExists = true;
   colors.imgColorPicker();
   EXPECT_TRUE(colors.isPickerSelected());
-  EXPECT_FALSE(state.mRegionExists);
+  EXPECT_EQ(editor.count("clearRegion"), 1);
   EXPECT_EQ(editor.count("clearAllTools"), 1);
   colors.imgColorPicker();
   EXPECT_FALSE(colors.isPickerSelected());

@@ -15,6 +15,7 @@
 #include "drawing/Tools.h"
 #include "drawing/Transforms.h"
 #include "drawing/UndoHistory.h"
+#include "support/FakeClipboard.h"
 #include "support/FakeEditor.h"
 #include "support/ScriptedPorts.h"
 
@@ -27,31 +28,6 @@
 namespace gp::test {
 
 using Rows = std::vector<std::string>;
-
-// A clipboard of this process. What it holds may be withdrawn, or be larger than anything.
-class FakeClipboard : public Clipboard {
- public:
-  std::optional<ClipboardImage> held;
-  bool isWithdrawn = false;
-  int clears = 0, largestLimit = 0;
-
-  void hold(const Surface& picture) { held = ClipboardImage{picture.width(), picture.height(), picture}; }
-  bool hasImage() override { return held.has_value(); }
-  bool getImage(ClipboardImage& image, int limit) override {
-    largestLimit = std::max(largestLimit, limit);
-    if (!held || isWithdrawn) return false;
-    image = *held;
-    return true;
-  }
-  bool setImage(const Surface& picture) override {
-    hold(picture);
-    return true;
-  }
-  void clear() override {
-    ++clears;
-    held.reset();
-  }
-};
 
 // Editor whose display, containers, regions and history are the program's own.
 class RegionEditor : public FakeEditor {

@@ -1,3 +1,4 @@
+#include "drawing/Freehand.h"
 #include "drawing/Tools.h"
 #include "support/FakeEditor.h"
 #include "support/ScriptedPorts.h"
@@ -34,9 +35,15 @@ class ToolsTest : public testing::Test {
   clsGPDialog dialog{dialogs};
   EditingArea area{state, editor, display, pump};
   ColorSelection colors{state, editor, display, boxes, pump, dialog};
-  Tools tools{state, editor, display, area, colors, boxes, pump};
+  DrawState drawState;
+  FreehandTool freehand{state, editor, area, pump, drawState};
+  RestoreTool restore{state, editor, drawState};
+  Tools tools{state, editor, display, colors, boxes, pump, drawState};
 
   ToolsTest() {
+    tools.attach(kPaint, freehand);
+    tools.attach(kErase, freehand);
+    tools.attach(kRestore, restore);
     editor.area = &area;
     editor.tools = &tools;
     editor.colors = &colors;
@@ -335,7 +342,7 @@ TEST_F(ToolsTest, TheMenuSelectsAToolAndNudgesThePointer) {
   EXPECT_EQ(tools.selectedTool(), kNoTool);
 }
 
-TEST_F(ToolsTest, ToolsOfSubsystemsToComeCannotBeSelected) {
+TEST_F(ToolsTest, AToolThatNobodyWorksCannotBeSelected) {
   makeIcon(32);
   tools.selectTool(kFill);
   EXPECT_EQ(tools.selectedTool(), kNoTool);
@@ -373,6 +380,19 @@ TEST_F(ToolsTest, AReleaseThatArrivesInsideAMoveEndsTheStrokeBeforeTheStamp) {
   tools.move(at(9, 9, 0));
   EXPECT_EQ(state.picMask.GetPixel(9, 9), kWhite);
   EXPECT_EQ(paintedPixels(), 1);
+}
+
+TEST_F(ToolsTest, AnotherToolSelectedInsideAStrokeFinishesItAsAStepOfItsOwn) {
+  makeIcon(32);
+  tools.selectTool(kPaint);
+  tools.press(at(1, 1));
+  pump.inside = [this] { tools.mnuTools(kErase); };
+  tools.move(at(9, 9, 0));
+  EXPECT_EQ(editor.count("recordUndo"), 1);
+  EXPECT_EQ(paintedPixels(), 1);
+  EXPECT_EQ(tools.selectedTool(), kErase);
+  tools.move(at(1, 1, 0));
+  EXPECT_EQ(paintedPixels(), 1) << "the new tool has not been pressed";
 }
 
 TEST_F(ToolsTest, AContainerEmptiedInsideAMoveIsLeftAlone) {

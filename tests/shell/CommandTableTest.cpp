@@ -73,7 +73,7 @@ TEST_F(CommandTable, EntriesFollowTheRecord) {
       {"mnuFileSub", 12, false, true, true, true},   {"mnuFileSub", 13, false, true, true, true},
       {"mnuFileSub", 19, false, true, true, true},   {"mnuFileSub", 20, false, true, true, true},
       {"mnuTools", 0, false, true, true, true},      {"mnuTools", 4, false, true, true, true},
-      {"mnuTools", 8, false, true, true, true},      {"mnuTools", 6, false, false, false, false},
+      {"mnuTools", 8, false, true, true, true},      {"mnuTools", 6, false, true, true, true},
       {"mnuBrushSize", 0, true, true, true, true},   {"mnuPaletteSub", 1, true, true, true, true},
       {"mnuOptionsSub", 16, true, true, true, true}, {"mnuHelpSub", 0, true, true, true, true},
       {"mnuPopUpSub", 0, true, true, true, true},    {"mnuPopUpSub", 3, false, false, false, false},

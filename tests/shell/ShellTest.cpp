@@ -254,5 +254,90 @@ TEST_F(ShellTest, ANewIconIsTransparentWithPaintSelected) {
   EXPECT_EQ(status(StatusPanel::Path), "Untitled");
 }
 
+TEST_F(ShellTest, AStrokeIsTakenBackAndBroughtBack) {
+  start();
+  click("mnuFileSub", 2);
+  EXPECT_FALSE(enabled("mnuEditSub", 1)) << "a new icon has nothing to undo";
+  shell.colors().setCurrentColor(0x0000FF);
+  paint(3, 3);
+  EXPECT_TRUE(enabled("mnuEditSub", 1));
+  EXPECT_FALSE(enabled("mnuEditSub", 2));
+  click("mnuEditSub", 1);
+  EXPECT_EQ(state.PicIcon.GetPixel(3, 3), kGround);
+  EXPECT_FALSE(enabled("mnuEditSub", 1));
+  click("mnuEditSub", 2);
+  EXPECT_EQ(state.PicIcon.GetPixel(3, 3), 0x0000FF);
+  EXPECT_FALSE(enabled("mnuEditSub", 2));
+}
+
+TEST_F(ShellTest, SwitchingContainersStartsTheHistoryAfresh) {
+  start();
+  click("mnuFileSub", 2);
+  paint(3, 3);
+  shell.iconsPanel().SwitchContainer(1);
+  shell.iconsPanel().SwitchContainer(0);
+  EXPECT_FALSE(enabled("mnuEditSub", 1));
+  EXPECT_EQ(state.picMask.GetPixel(3, 3), kBlack) << "the stroke is kept";
+}
+
+TEST_F(ShellTest, UndoDuringAShiftTakesBackTheWholeOfIt) {
+  start();
+  click("mnuFileSub", 2);
+  shell.colors().setCurrentColor(0x0000FF);
+  paint(3, 3);
+  click("mnuTools", 15);
+  ASSERT_EQ(shell.selectedTool(), kShift);
+  for (int i = 0; i < 3; ++i) shell.drawing().shift.padRelease(ShiftCell::Right);
+  EXPECT_EQ(state.PicIcon.GetPixel(6, 3), 0x0000FF);
+  click("mnuEditSub", 1);
+  EXPECT_EQ(state.PicIcon.GetPixel(3, 3), 0x0000FF);
+  EXPECT_EQ(state.PicIcon.GetPixel(6, 3), kGround);
+  EXPECT_EQ(shell.selectedTool(), kNoTool);
+}
+
+TEST_F(ShellTest, ARegionIsMarkedMovedAndMergedByTheMouse) {
+  start();
+  click("mnuFileSub", 2);
+  shell.colors().setCurrentColor(0x0000FF);
+  paint(2, 2);
+  click("mnuTools", 14);
+  const auto m = static_cast<float>(state.gMagnification);
+  auto mouse = [m](float x, float y, int button = 0) { return MouseInput{button, 0, x * m + 1, y * m + 1}; };
+  shell.tools().press(mouse(1, 1, kLeftButton));
+  shell.tools().move(mouse(4, 4));
+  shell.tools().release(mouse(4, 4, kLeftButton));
+  ASSERT_TRUE(state.mRegionExists);
+  EXPECT_EQ(state.screen.lblDispXY[2], "Region: Start [2, 2]   W=3 H=3");
+  shell.tools().press(mouse(2, 2, kLeftButton));
+  shell.tools().move(mouse(12, 2));
+  shell.tools().release(mouse(12, 2, kLeftButton));
+  EXPECT_EQ(state.PicIcon.GetPixel(12, 2), 0x0000FF);
+  EXPECT_EQ(state.PicIcon.GetPixel(2, 2), kGround);
+  shell.tools().press(mouse(25, 25, kLeftButton));
+  EXPECT_FALSE(state.mRegionExists);
+  EXPECT_EQ(state.picMask.GetPixel(12, 2), kBlack);
+}
+
+TEST_F(ShellTest, ACopiedIconPastesIntoAnEmptyContainer) {
+  start();
+  click("mnuFileSub", 5);
+  shell.colors().setCurrentColor(0x0000FF);
+  paint(2, 2);
+  EXPECT_FALSE(enabled("mnuEditSub", 7));
+  click("mnuEditSub", 6);
+  EXPECT_TRUE(enabled("mnuEditSub", 7));
+  shell.iconsPanel().SwitchContainer(1);
+  click("mnuEditSub", 7);
+  EXPECT_EQ(state.current().size, 24);
+  EXPECT_EQ(state.PicIcon.GetPixel(2, 2), 0x0000FF);
+  EXPECT_EQ(state.picMask.GetPixel(3, 3), kWhite) << "silver arrives as transparent";
+}
+
+TEST_F(ShellTest, PasteWithoutAnImageSaysSo) {
+  start();
+  boxes.expectTold("No image in clipboard yet", BoxIcon::None);
+  click("mnuEditSub", 7);
+}
+
 }  // namespace
 }  // namespace gp

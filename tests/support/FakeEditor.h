@@ -53,6 +53,7 @@ class FakeEditor : public Editor {
   void selectTool(int index) override { log("selectTool " + std::to_string(index)); }
   int selectedTool() const override { return tool; }
   void clearRegion() override { log("clearRegion"); }
+  void redrawRegion() override { log("redrawRegion"); }
   void recordUndo() override { log("recordUndo"); }
   void clearUndoHistory() override { log("clearUndoHistory"); }
   void doOpenIconFile(const std::string& path, bool, bool& ok) override { log("doOpenIconFile " + path), ok = true; }

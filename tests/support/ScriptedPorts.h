@@ -5,6 +5,7 @@
 #include "platform/ports/FileDialogs.h"
 #include "platform/ports/MessageBoxes.h"
 #include "platform/ports/MessagePump.h"
+#include "platform/ports/PictureLoader.h"
 
 #include <deque>
 #include <functional>
@@ -95,6 +96,13 @@ class ScriptedDialogs : public FileDialogs {
     error = path.empty() ? errorOnCancel : 0;
     return !path.empty();
   }
+};
+
+// Gives the picture that a test holds ready, whatever the file.
+class ScriptedPictures : public PictureLoader {
+ public:
+  LoadedPicture next;
+  LoadedPicture loadPicture(const std::string&, int, int) override { return next; }
 };
 
 // Runs `inside`, once, at the next pump: what a user does in the midst of a work loop.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/Shell.h"
+#include "support/FakeClipboard.h"
 #include "support/FakeEditor.h"
 #include "support/FakeMachine.h"
 #include "support/ScriptedPorts.h"
@@ -32,10 +33,12 @@ class ShellFixture : public testing::Test {
   ScriptedPump pump;
   FakeSystem system;
   FakeProcesses processes;
+  FakeClipboard clipboard;
+  ScriptedPictures pictures;
   RecordingDisplay display;
   FakeForm form;
   EditState state;
-  Shell shell{state, Ports{boxes, dialogs, pump, system, processes}, display, folder.path()};
+  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures}, display, folder.path()};
 
   ShellFixture() { shell.attach(&form); }
   // Load and the first Activate, as app/ does them.

@@ -157,10 +157,10 @@ TEST_F(ColorMixerViewTest, ASliderShowsItsMixture) {
 
 TEST_F(ColorMixerViewTest, SlidersMoveByKeyboard) {
   slider(1)->setFocus(Qt::TabFocusReason);
-  key(Qt::Key_Right);
-  EXPECT_EQ(mixer.HsrRGB(1), 129);
-  key(Qt::Key_End);
-  EXPECT_EQ(mixer.HsrRGB(1), 255);
+  key(Qt::Key_Left);
+  EXPECT_EQ(mixer.HsrRGB(1), 254);
+  key(Qt::Key_Home);
+  EXPECT_EQ(mixer.HsrRGB(1), 0);
 }
 
 TEST_F(ColorMixerViewTest, LightenAndDarkenFollowTheListAndStopAtTheEnds) {

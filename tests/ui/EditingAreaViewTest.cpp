@@ -55,6 +55,7 @@ TEST_F(EditingAreaViewTest, OnlyTheSquareThatChangedIsPaintedAgain) {
       return false;
     }
   } watch;
+  settle();
   view()->installEventFilter(&watch);
   display.repaintEditingArea(80, 40, 8, 8);
   settle();

@@ -5,6 +5,7 @@
 #include "shell/Shell.h"
 #include "shell/ui/QtDisplay.h"
 #include "shell/ui/frmGPEdit.h"
+#include "support/FakeClipboard.h"
 #include "support/FakeMachine.h"
 #include "support/ScriptedPorts.h"
 #include "support/ShellFixture.h"
@@ -27,9 +28,11 @@ class FormFixture : public testing::Test {
   ScriptedPump pump;
   FakeSystem system;
   FakeProcesses processes;
+  FakeClipboard clipboard;
+  ScriptedPictures pictures;
   EditState state;
   QtDisplay display;
-  Shell shell{state, Ports{boxes, dialogs, pump, system, processes}, display, folder.path()};
+  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures}, display, folder.path()};
   std::unique_ptr<frmGPEdit> form;
 
   // Shows the form, as app/ does, and waits for its first Activate.

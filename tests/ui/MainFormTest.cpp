@@ -124,7 +124,7 @@ TEST_F(MainFormTest, TabFollowsTheEyeFromTheToolbarToTheColourPanel) {
     key(Qt::Key_Tab);
   }
   EXPECT_EQ(visited.join(' ').toStdString(),
-            "cmdTB(0) picPanelIcon(0) imgUpdIconsPanel imgTool(4) picDisp picColorToUse cboBrushSize picColorChart(1)");
+            "cmdTB(0) picPanelIcon(0) imgUpdIconsPanel imgTool(4) imgShiftDir(1) picDisp picColorToUse cboBrushSize");
 }
 
 TEST_F(MainFormTest, TheHourglassCoversTheFormForAsLongAsTheWorkLasts) {

@@ -2,6 +2,7 @@
 
 #include "colour/ColorSelection.h"
 #include "colour/ui/ColorChartView.h"
+#include "colour/ui/ColorMixerView.h"
 #include "colour/ui/DirectEntryView.h"
 #include "document/EditState.h"
 #include "document/ui/SurfacePainting.h"
@@ -99,8 +100,9 @@ class ColorSwatch : public QAbstractButton {
 
 }  // namespace
 
-ColorPanel::ColorPanel(QWidget* parent, const EditState& state, ColorSelection& colors)
-    : QWidget(parent), state_(state), colors_(colors) {
+ColorPanel::ColorPanel(QWidget* parent, const EditState& state, ColorSelection& colors, ColorMixer& mixer,
+                       PaletteFile& palette)
+    : QWidget(parent), state_(state), colors_(colors), mixer_(mixer), palette_(palette) {
   setObjectName("fraPanel(0)");
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
@@ -118,12 +120,10 @@ ColorPanel::ColorPanel(QWidget* parent, const EditState& state, ColorSelection& 
   column->addWidget(place);
   column->addWidget(makeButtonRow());
 
-  fraColorMixer_ = new QWidget(this);
-  fraColorMixer_->setObjectName("fraColorMixer");
-  QSizePolicy keepsItsPlace(QSizePolicy::Expanding, QSizePolicy::Expanding);
-  keepsItsPlace.setRetainSizeWhenHidden(true);
-  fraColorMixer_->setSizePolicy(keepsItsPlace);
-  column->addWidget(fraColorMixer_, 1);
+  mixerPlace_ = new QWidget(this);
+  auto* mixerColumn = new QVBoxLayout(mixerPlace_);
+  mixerColumn->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(mixerPlace_, 1);
   refresh();
 }
 
@@ -196,13 +196,25 @@ void ColorPanel::refresh() {
   const ScreenState& screen = state_.screen;
   frames_->setCurrentIndex(static_cast<int>(screen.colorFrame) - static_cast<int>(ColorFrame::Chart16));
   frameDirect_->refresh();
-  fraColorMixer_->setVisible(screen.fraColorMixerVisible);
+  showMixer(screen.fraColorMixerVisible);
   cboBrushSize_->setCurrentIndex(screen.brushIndex);
   picColorToUse_->setAccessibleDescription(QString("RGB: %1, %2, %3")
                                                .arg(redOf(state_.mCurrentColor))
                                                .arg(greenOf(state_.mCurrentColor))
                                                .arg(blueOf(state_.mCurrentColor)));
   picColorToUse_->update();
+}
+
+void ColorPanel::showMixer(bool shown) {
+  if (shown && !fraColorMixer_) {
+    fraColorMixer_ = new ColorMixerView(mixerPlace_, mixer_, palette_);
+    auto* column = static_cast<QVBoxLayout*>(mixerPlace_->layout());
+    column->addWidget(fraColorMixer_);
+    column->addStretch(1);
+  }
+  if (!fraColorMixer_) return;
+  fraColorMixer_->setVisible(shown);
+  if (shown) fraColorMixer_->refresh();
 }
 
 void ColorPanel::focusColorValue() { frameDirect_->focusValue(); }

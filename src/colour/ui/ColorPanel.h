@@ -10,8 +10,11 @@ class QStackedLayout;
 
 namespace gp {
 
+class ColorMixer;
+class ColorMixerView;
 class ColorSelection;
 class DirectEntryView;
+class PaletteFile;
 enum class ChartKind;
 struct EditState;
 
@@ -19,7 +22,7 @@ class ColorPanel : public QWidget {
   Q_OBJECT
 
  public:
-  ColorPanel(QWidget* parent, const EditState& state, ColorSelection& colors);
+  ColorPanel(QWidget* parent, const EditState& state, ColorSelection& colors, ColorMixer& mixer, PaletteFile& palette);
 
   // Frames, current colour, direct entry and brush.
   void refresh();
@@ -35,14 +38,18 @@ class ColorPanel : public QWidget {
   QWidget* makeScreenColorFrame();
   QWidget* makeChartFrame(ChartKind chart);
   QWidget* makeButtonRow();
+  void showMixer(bool shown);
 
   const EditState& state_;
   ColorSelection& colors_;
+  ColorMixer& mixer_;
+  PaletteFile& palette_;
   QComboBox* cboBrushSize_ = nullptr;
   QAbstractButton* picColorToUse_ = nullptr;
   QStackedLayout* frames_ = nullptr;
   DirectEntryView* frameDirect_ = nullptr;
-  QWidget* fraColorMixer_ = nullptr;
+  QWidget* mixerPlace_ = nullptr;
+  ColorMixerView* fraColorMixer_ = nullptr;  // made when it is first shown
 };
 
 }  // namespace gp

@@ -28,10 +28,11 @@ ToolBox::ToolBox(QWidget* parent, const EditState& state, const Tools& tools, co
   grid_->setContentsMargins(0, 0, 0, 0);
   grid_->setSpacing(0);
   for (const ToolRow& row : toolTable()) {
+    if (row.index == kShift) continue;  // stands in the middle of its pad
     PictureButton* button = add(QString("imgTool(%1)").arg(row.index), {row.picture, toText(row.tooltip), kButtonSide});
     button->setAccessibleName(toText(toolName(row.index)));
     button->setCheckable(true);
-    button->setEnabled(row.available);
+    button->setEnabled(tools.isAvailable(row.index));
     connect(button, &PictureButton::clicked, this, [this, tool = row.index] { emit toolChosen(tool); });
     imgTool_.at(static_cast<std::size_t>(row.index - kFirstTool)) = button;
   }

@@ -1,5 +1,6 @@
-// The tool box: imgTool(4..15), the colour picker and the button that clears all tools, in two columns. It shows the
-// state of Tools and forwards clicks; while there is nothing to draw on it looks dimmed but still takes them.
+// The tool box: imgTool(4..14), the colour picker and the button that clears all tools, in two columns. It shows the
+// state of Tools and forwards clicks; while there is nothing to draw on it looks dimmed but still takes them. Shift has
+// its place on the ShiftPad.
 #pragma once
 
 #include "drawing/ToolTable.h"
@@ -41,7 +42,7 @@ class ToolBox : public QWidget {
   QGridLayout* grid_;
   RovingFocus* focus_;
   int count_ = 0;
-  std::array<PictureButton*, kLastTool - kFirstTool + 1> imgTool_{};
+  std::array<PictureButton*, kShift - kFirstTool> imgTool_{};
   PictureButton* imgColorPicker_ = nullptr;
   PictureButton* imgClearAllTools_ = nullptr;
 };

@@ -3,10 +3,10 @@
 #include "platform/files/BitmapFile.h"
 #include "platform/files/Files.h"
 #include "platform/files/WholePicture.h"
+#include "platform/qt/SurfaceImages.h"
 
 #include <QBuffer>
 #include <QImageReader>
-#include <QPainter>
 
 #include <algorithm>
 #include <array>
@@ -45,24 +45,11 @@ const Format* formatOf(const QImageReader& reader) {
   return found == kFormats.end() ? nullptr : found;
 }
 
-Surface surfaceOf(const QImage& image) {
-  QImage flat(image.size(), QImage::Format_RGB32);
-  flat.fill(Qt::white);
-  QPainter(&flat).drawImage(0, 0, image);
-  Surface surface(flat.width(), flat.height());
-  for (int y = 0; y < flat.height(); ++y) {
-    const auto* line = reinterpret_cast<const QRgb*>(flat.constScanLine(y));
-    std::transform(line, line + flat.width(), surface.rowForWriting(y, 0, flat.width()),
-                   [](QRgb pixel) { return storedForm(rgb(qRed(pixel), qGreen(pixel), qBlue(pixel))); });
-  }
-  return surface;
-}
-
 // Decodes a picture of a size that has been looked at.
 LoadedPicture decode(QImageReader& reader, QSize size) {
   QImage image;
   if (!reader.read(&image) || image.size() != size) return {};
-  return {PictureProblem::None, size.width(), size.height(), surfaceOf(image)};
+  return {PictureProblem::None, size.width(), size.height(), surfaceOf(image, kWhite)};
 }
 
 }  // namespace

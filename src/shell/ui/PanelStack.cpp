@@ -1,6 +1,7 @@
 #include "shell/ui/PanelStack.h"
 
 #include "colour/ui/ColorPanel.h"
+#include "drawing/ui/RotatePanelView.h"
 #include "shell/PanelTable.h"
 #include "shell/Shell.h"
 #include "shell/ui/QtDisplay.h"
@@ -16,11 +17,26 @@ namespace {
 constexpr int kPanelWidth = 264;
 
 QWidget* makeColorPanel(QWidget* parent, Shell& shell, QtDisplay& display) {
-  auto* panel = new ColorPanel(parent, shell.state(), shell.colors());
+  auto* panel = new ColorPanel(parent, shell.state(), shell.colors(), shell.mixer(), shell.paletteFile());
   QObject::connect(panel, &ColorPanel::brushChosen, panel, [&shell](int index) { shell.tools().setBrush(index); });
   for (const DisplayPart part : {DisplayPart::ColorPanel, DisplayPart::Tools})
     display.listen(part, [panel] { panel->refresh(); });
   display.requests().focusColorValue = [panel] { panel->focusColorValue(); };
+  return panel;
+}
+
+// Proceed and Close of a side panel; `run` is what Proceed does.
+template <class Run>
+void connectFrame(PanelFrame* panel, Shell& shell, Run run) {
+  QObject::connect(panel, &PanelFrame::proceed, panel, [&shell, run] { shell.guarded("cmdProceed_Click", run); });
+  QObject::connect(panel, &PanelFrame::closeRequested, panel,
+                   [&shell] { shell.guarded("cmdCancel_Click", [&shell] { shell.cancelPanel(); }); });
+}
+
+QWidget* makeRotatePanel(QWidget* parent, Shell& shell, QtDisplay&) {
+  RotatePanel& logic = shell.drawing().rotatePanel;
+  auto* panel = new RotatePanelView(parent, logic);
+  connectFrame(panel, shell, [&logic] { logic.doRotateProceed(); });
   return panel;
 }
 
@@ -31,6 +47,7 @@ struct PanelWidget {
 
 constexpr std::array kPanelWidgets = {
     PanelWidget{kColorPanel, makeColorPanel},
+    PanelWidget{kRotatePanel, makeRotatePanel},
 };
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "document/ui/IconsPanelView.h"
 #include "document/ui/ReadoutsView.h"
 #include "document/ui/StatusBarView.h"
+#include "drawing/ui/ShiftPad.h"
 #include "drawing/ui/ToolBox.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/Pictures.h"
@@ -29,10 +30,8 @@
 namespace gp {
 namespace {
 
-constexpr int kEdge = 4;  // around and between the columns, pixels
-constexpr int kRightEdge = 3;
-constexpr int kShiftPadSide = 60;  // the place of the shift pad below the tools
-constexpr int kToolColumnWidth = 56;
+constexpr int kEdge = 3;  // around and between the columns, pixels
+constexpr int kToolColumnWidth = ShiftPad::kSide;
 
 int pixelsOf(int twips) { return twips / kTwipsPerPixel; }
 int twipsOf(int pixels) { return pixels * kTwipsPerPixel; }
@@ -52,6 +51,23 @@ static_assert(Qt::LeftButton == kLeftButton && Qt::RightButton == kRightButton);
 
 const char* pictureOfPointer(int pointer) {
   return pointer == kColorPickerPointer ? "color-picker" : toolRow(pointer).picture;
+}
+
+QCursor cursorOf(int pointer, double ratio) {
+  switch (pointer) {
+    case kDefaultPointer:
+      return Qt::ArrowCursor;
+    case kCrossPointer:
+      return Qt::CrossCursor;
+    case kHorizontalResizePointer:
+      return Qt::SizeHorCursor;
+    case kVerticalResizePointer:
+      return Qt::SizeVerCursor;
+    case kMovePointer:
+      return Qt::SizeAllCursor;
+    default:
+      return Pictures::cursor(pictureOfPointer(pointer), ratio);
+  }
 }
 
 }  // namespace
@@ -98,7 +114,7 @@ frmGPEdit::~frmGPEdit() {
 QWidget* frmGPEdit::makeMiddle(QWidget* parent) {
   auto* middle = new QWidget(parent);
   auto* columns = new QHBoxLayout(middle);
-  columns->setContentsMargins(kEdge, kEdge, kRightEdge, kEdge);
+  columns->setContentsMargins(kEdge, kEdge, kEdge, kEdge);
   columns->setSpacing(kEdge);
   columns->addWidget(iconsPanel_ = new IconsPanelView(middle, shell_.state(), shell_.iconsPanel()));
   columns->addWidget(makeToolColumn(middle));
@@ -115,7 +131,8 @@ QWidget* frmGPEdit::makeToolColumn(QWidget* parent) {
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(kEdge);
   rows->addWidget(toolBox_ = new ToolBox(column, shell_.state(), shell_.tools(), shell_.colors()));
-  rows->addSpacing(kShiftPadSide);
+  rows->addWidget(shiftPad_ = new ShiftPad(column, shell_.state(), shell_.tools(), shell_.drawing().shift), 0,
+                  Qt::AlignHCenter);
   auto* label = new QLabel("1:1", column);
   label->setObjectName("lblIcon");
   label->setAlignment(Qt::AlignCenter);
@@ -174,6 +191,10 @@ void frmGPEdit::connectIconsPanel() {
 }
 
 void frmGPEdit::connectToolBox() {
+  connect(shiftPad_, &ShiftPad::toolChosen, this, [this](int tool) {
+    shell_.guarded("imgTool_Click", [&] { shell_.tools().selectTool(tool); });
+    shiftPad_->refresh();
+  });
   connect(toolBox_, &ToolBox::toolChosen, this, [this](int tool) {
     shell_.guarded("imgTool_Click", [&] { shell_.tools().selectTool(tool); });
     toolBox_->refresh();
@@ -191,7 +212,7 @@ void frmGPEdit::listen() {
   display_.listen(DisplayPart::IconsPanel, [this] { iconsPanel_->refresh(), refreshCurrentIcon(); });
   display_.listen(DisplayPart::StatusBar, [this] { statusBar_->refresh(); });
   display_.listen(DisplayPart::Readouts, [this] { readouts_->refresh(); });
-  display_.listen(DisplayPart::Tools, [this] { toolBox_->refresh(); });
+  display_.listen(DisplayPart::Tools, [this] { toolBox_->refresh(), shiftPad_->refresh(); });
   display_.listen(DisplayPart::Pointer, [this] { refreshPointer(); });
   display_.listen(DisplayPart::Panel, [this] { panels_->showPanel(shell_.state().screen.mActivePanel); });
   display_.listen(DisplayPart::Commands, [this] { refreshCommandsSoon(); });
@@ -238,10 +259,7 @@ void frmGPEdit::refreshPointer() {
   }
   if (screen.editingPointer == pointerShown_) return;
   pointerShown_ = screen.editingPointer;
-  if (pointerShown_ == kDefaultPointer)
-    room_->view().unsetCursor();
-  else
-    room_->view().setCursor(Pictures::cursor(pictureOfPointer(pointerShown_), devicePixelRatioF()));
+  room_->view().setCursor(cursorOf(pointerShown_, devicePixelRatioF()));
 }
 
 void frmGPEdit::resizeRoom(const QSize& client) {

@@ -20,6 +20,7 @@ class PanelStack;
 class QtDisplay;
 class ReadoutsView;
 class Shell;
+class ShiftPad;
 class StatusBarView;
 class ToolBox;
 class ToolbarView;
@@ -72,6 +73,7 @@ class frmGPEdit final : public QMainWindow, public MainForm {
   ToolbarView* toolbar_ = nullptr;
   IconsPanelView* iconsPanel_ = nullptr;
   ToolBox* toolBox_ = nullptr;
+  ShiftPad* shiftPad_ = nullptr;
   CurrentIconView* picIcon_ = nullptr;
   QWidget* lblIcon_ = nullptr;
   ReadoutsView* readouts_ = nullptr;

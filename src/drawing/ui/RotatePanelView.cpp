@@ -1,0 +1,170 @@
+#include "drawing/ui/RotatePanelView.h"
+
+#include "document/ui/SurfacePainting.h"
+#include "drawing/RotatePanel.h"
+#include "platform/qt/Accessibility.h"
+#include "platform/qt/PathText.h"
+
+#include <QAbstractListModel>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QVBoxLayout>
+
+namespace gp {
+namespace {
+
+constexpr const char* kTitle = "Rotate image (-359 to +359)";
+constexpr int kRowGap = 8;
+constexpr int kSampleFrame = 1;
+constexpr int kSampleScale = 2;
+constexpr int kSampleWidth = kSampleScale * kRotateSampleSide + 2 * kSampleFrame;
+constexpr int kAngleLetters = 6;
+constexpr int kLongestAngle = 24;  // characters that can be typed
+constexpr int kSliderPage = 15;
+constexpr int kVisibleAngles = 12;
+
+// Gives each text when it is asked for, as hardly any of them ever is.
+class AngleList : public QAbstractListModel {
+ public:
+  using QAbstractListModel::QAbstractListModel;
+
+  int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : kAngleCount; }
+  QVariant data(const QModelIndex& index, int role) const override {
+    const bool isText = role == Qt::DisplayRole || role == Qt::EditRole;
+    return isText && index.isValid() ? toText(RotatePanel::angleText(index.row())) : QVariant();
+  }
+};
+
+class SampleView : public QWidget, public AccessibleValue {
+ public:
+  SampleView(QWidget* parent, const RotatePanel& panel) : QWidget(parent), panel_(panel) {
+    setObjectName("picRotateImageSample");
+    setAccessibleName("Sample");
+    setFixedSize(kSampleWidth, kSampleWidth);
+  }
+
+  QString accessibleValue() const override { return QString("%1 degrees").arg(panel_.hsrRotateImageAngle()); }
+  QAccessible::Role accessibleRole() const override { return QAccessible::Graphic; }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    DevicePainter painter(this);
+    const QRect whole = painter.toDevice(rect());
+    painter.fillRect(whole, palette().color(QPalette::Mid));
+    const ScreenScale scale(kRotateSampleSide, kSampleScale, devicePixelRatioF());
+    const int margin = (whole.width() - scale.deviceSize()) / 2;
+    const QRect all(0, 0, scale.deviceSize(), scale.deviceSize());
+    painter.drawImage(whole.topLeft() + QPoint(margin, margin), imageOf(panel_.picRotateImageSample(), scale, all));
+  }
+
+ private:
+  const RotatePanel& panel_;
+};
+
+}  // namespace
+
+RotatePanelView::RotatePanelView(QWidget* parent, RotatePanel& panel)
+    : PanelFrame(parent, kRotatePanel, kTitle), panel_(panel) {
+  rows()->addWidget(makeAngleRow());
+  rows()->addWidget(makeSlider());
+  rows()->addWidget(makeAntialias());
+  rows()->addStretch(1);
+  rows()->addWidget(makeSample());
+  setFocusProxy(cboRotateImageAngle_);
+  panel_.onChange = [this] { refresh(); };
+  refresh();
+}
+
+RotatePanelView::~RotatePanelView() { panel_.onChange = nullptr; }
+
+QWidget* RotatePanelView::makeAngleRow() {
+  auto* row = new QWidget(this);
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(kRowGap);
+  auto* label = new QLabel("Angle:", row);
+
+  auto* angle = cboRotateImageAngle_ = new QComboBox(row);
+  angle->setObjectName("cboRotateImageAngle");
+  angle->setAccessibleName("Angle");
+  angle->setEditable(true);
+  angle->setInsertPolicy(QComboBox::NoInsert);
+  angle->setMinimumContentsLength(kAngleLetters);
+  angle->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  angle->setMaxVisibleItems(kVisibleAngles);
+  angle->setModel(new AngleList(angle));
+  // It would make "30" of a typed "3".
+  angle->setCompleter(nullptr);
+  angle->lineEdit()->setMaxLength(kLongestAngle);
+  angle->lineEdit()->setAccessibleName("Angle");
+  if (auto* list = qobject_cast<QListView*>(angle->view())) list->setUniformItemSizes(true);
+  connect(angle, &QComboBox::activated, this, [this](int index) { panel_.pickAngle(index); });
+  connect(angle->lineEdit(), &QLineEdit::textEdited, this,
+          [this](const QString& text) { panel_.setAngleText(text.toStdString()); });
+
+  layout->addWidget(label);
+  layout->addWidget(angle, 1);
+  return row;
+}
+
+QWidget* RotatePanelView::makeSlider() {
+  auto* slider = hsrRotateImageAngle_ = new QSlider(Qt::Horizontal, this);
+  slider->setObjectName("hsrRotateImageAngle");
+  slider->setAccessibleName("Rotation angle");
+  slider->setRange(-kLargestAngle, kLargestAngle);
+  slider->setPageStep(kSliderPage);
+  connect(slider, &QSlider::valueChanged, this, [this](int value) { panel_.setSlider(value); });
+  return slider;
+}
+
+QWidget* RotatePanelView::makeAntialias() {
+  auto* box = ckbRotateImageAntiAlias_ = new QCheckBox("Antialias", this);
+  box->setObjectName("ckbRotateImageAntiAlias");
+  connect(box, &QCheckBox::toggled, this, [this](bool on) { panel_.setAntialias(on); });
+  return box;
+}
+
+QWidget* RotatePanelView::makeSample() {
+  auto* place = new QWidget(this);
+  auto* column = new QVBoxLayout(place);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(kRowGap);
+  auto* label = new QLabel("Sample", place);
+  label->setObjectName("lblRotateImageSample");
+  picRotateImageSample_ = new SampleView(place, panel_);
+  column->addWidget(label, 0, Qt::AlignHCenter);
+  column->addWidget(picRotateImageSample_, 0, Qt::AlignHCenter);
+  return place;
+}
+
+void RotatePanelView::refresh() {
+  const QSignalBlocker quietSlider(hsrRotateImageAngle_);
+  const QSignalBlocker quietBox(ckbRotateImageAntiAlias_);
+  refreshAngle();
+  hsrRotateImageAngle_->setValue(panel_.hsrRotateImageAngle());
+  ckbRotateImageAntiAlias_->setChecked(panel_.ckbRotateImageAntiAlias());
+  picRotateImageSample_->update();
+  accessibleValueChanged(picRotateImageSample_);
+}
+
+// The text may be one that is being typed: it stays as it is, and so does the place in it.
+void RotatePanelView::refreshAngle() {
+  const QSignalBlocker quiet(cboRotateImageAngle_);
+  QLineEdit* typed = cboRotateImageAngle_->lineEdit();
+  const int place = typed->cursorPosition();
+  const QString text = toText(panel_.cboRotateImageAngle());
+  // The arrow keys go on from this item.
+  const int index = panel_.hsrRotateImageAngle() + kLargestAngle;
+  if (cboRotateImageAngle_->currentIndex() != index) cboRotateImageAngle_->setCurrentIndex(index);
+  if (typed->text() == text) return;
+  typed->setText(text);
+  typed->setCursorPosition(place);
+}
+
+}  // namespace gp

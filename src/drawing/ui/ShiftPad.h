@@ -1,0 +1,56 @@
+// imgShiftDirBase, the pad of 3 x 3 cells that moves the whole picture: eight directions round imgTool(15), which turns
+// Shift on and off. The cells are buttons for the keyboard; the mouse works the pad as a whole, so that a press may end
+// over another cell. Looks dimmed while there is nothing to draw on, but still takes clicks.
+#pragma once
+
+#include "drawing/ShiftTool.h"
+
+#include <QWidget>
+
+#include <array>
+
+namespace gp {
+
+class PictureButton;
+class RovingFocus;
+class Tools;
+struct EditState;
+
+class ShiftPad : public QWidget {
+  Q_OBJECT
+
+ public:
+  static constexpr int kSide = 60;  // pixels
+
+  ShiftPad(QWidget* parent, const EditState& state, const Tools& tools, ShiftTool& shift);
+
+  void refresh();
+
+ signals:
+  void toolChosen(int tool);
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  PictureButton* makeDirection(ShiftCell cell);
+  PictureButton* makeTool();
+  void press(ShiftCell cell);
+  void release(ShiftCell cell);
+  void letGo();
+
+  const EditState& state_;
+  const Tools& tools_;
+  ShiftTool& shift_;
+  RovingFocus* focus_;
+  PictureButton* imgTool_ = nullptr;
+  // imgShiftDir, by the index of ShiftCell; the first is not used.
+  std::array<PictureButton*, kShiftPictureCount> imgShiftDir_{};
+  bool held_ = false;  // by the mouse
+};
+
+}  // namespace gp

@@ -1,0 +1,100 @@
+#include "platform/qt/PictureCorner.h"
+
+#include "platform/files/BitmapFile.h"
+#include "platform/files/WholePicture.h"
+#include "platform/qt/SurfaceImages.h"
+
+#include <QBuffer>
+#include <QImageReader>
+#include <QtEndian>
+
+#include <algorithm>
+#include <array>
+#include <span>
+
+namespace gp {
+namespace {
+
+// What a picture may take, decoded, when it can only be read whole.
+constexpr int kLargestMegabytes = 48;
+
+using Bytes = std::span<const std::uint8_t>;
+
+struct Format {
+  const char* name;
+  bool (*isWhole)(Bytes bytes);
+};
+
+constexpr std::array<Format, 4> kFormats = {
+    {{"png", isWholePng}, {"bmp", isWholeBitmap}, {"jpeg", isWholeJpeg}, {"gif", isWholeGif}}};
+
+bool isWhole(const QByteArray& bytes, const QByteArray& format) {
+  const auto found = std::ranges::find_if(kFormats, [&](const Format& each) { return format == each.name; });
+  if (found == kFormats.end()) return false;
+  return found->isWhole(
+      {reinterpret_cast<const std::uint8_t*>(bytes.constData()), static_cast<std::size_t>(bytes.size())});
+}
+
+namespace png {
+constexpr int kHeaderType = 12;   // offset of the header chunk's type, where its check sum begins
+constexpr int kHeaderWords = 17;  // bytes under the check sum
+constexpr int kHeight = 20;
+constexpr int kInterlace = 28;
+constexpr int kCheckSum = 29;
+constexpr int kHeaderEnd = 33;
+
+std::uint32_t checkSum(const char* bytes, int count) {
+  constexpr std::uint32_t kPolynomial = 0xEDB88320;
+  constexpr int kBitsPerByte = 8;
+  std::uint32_t sum = 0xFFFFFFFF;
+  for (int i = 0; i < count; ++i) {
+    sum ^= static_cast<std::uint8_t>(bytes[i]);
+    for (int bit = 0; bit < kBitsPerByte; ++bit) sum = sum >> 1 ^ (sum & 1 ? kPolynomial : 0);
+  }
+  return ~sum;
+}
+
+// The rows stand one after another from the top, unless they are interlaced: when the header tells of fewer, the reader
+// stops after those.
+QByteArray withFewerRows(const QByteArray& bytes, int rows) {
+  if (bytes.size() < kHeaderEnd || bytes[kInterlace] != 0) return bytes;
+  QByteArray fewer = bytes;
+  qToBigEndian(static_cast<std::uint32_t>(rows), fewer.data() + kHeight);
+  qToBigEndian(checkSum(fewer.constData() + kHeaderType, kHeaderWords), fewer.data() + kCheckSum);
+  return fewer;
+}
+}  // namespace png
+
+// A reader of bytes that must stay where they are.
+class BytesReader : public QImageReader {
+ public:
+  BytesReader(const QByteArray& bytes, const QByteArray& format) {
+    device_.setData(bytes);
+    device_.open(QIODevice::ReadOnly);
+    setAllocationLimit(kLargestMegabytes);
+    setAutoDetectImageFormat(false);
+    setFormat(format);
+    setDevice(&device_);
+  }
+
+ private:
+  QBuffer device_;
+};
+
+}  // namespace
+
+bool readPictureCorner(const QByteArray& bytes, const QByteArray& format, int limit, ClipboardImage& image) {
+  if (!isWhole(bytes, format)) return false;
+  const QSize size = BytesReader(bytes, format).size();
+  if (size.isEmpty()) return false;
+  const QSize corner = size.boundedTo(QSize(limit, limit));
+  const bool isCut = format == "png" && size.height() > corner.height();
+  BytesReader reader(isCut ? png::withFewerRows(bytes, corner.height()) : bytes, format);
+  reader.setClipRect(QRect(QPoint(0, 0), corner));
+  const QImage picture = reader.read();
+  if (picture.size() != corner) return false;
+  image = {size.width(), size.height(), surfaceOf(picture, kGround)};
+  return true;
+}
+
+}  // namespace gp

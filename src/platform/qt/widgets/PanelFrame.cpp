@@ -1,0 +1,95 @@
+#include "platform/qt/widgets/PanelFrame.h"
+
+#include "platform/qt/Pictures.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace gp {
+namespace {
+
+constexpr int kGap = 8;
+constexpr int kButtonHeight = 30;
+
+QPushButton* makeButton(QWidget* parent, const char* objectName, const QString& caption, const char* picture) {
+  auto* button = new QPushButton(Pictures::icon(picture), caption, parent);
+  button->setObjectName(objectName);
+  button->setIconSize(QSize(Pictures::kSize, Pictures::kSize));
+  button->setFixedHeight(kButtonHeight);
+  // Enter on a button presses that one, not the default.
+  button->setAutoDefault(true);
+  return button;
+}
+
+}  // namespace
+
+PanelFrame::PanelFrame(QWidget* parent, int number, const QString& title) : QWidget(parent), rows_(new QVBoxLayout) {
+  setObjectName(QString("fraPanel(%1)").arg(number));
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(kGap);
+  column->addWidget(makeTitle(title));
+  rows_->setSpacing(kGap);
+  column->addLayout(rows_, 1);
+  column->addWidget(makeButtons());
+}
+
+QWidget* PanelFrame::makeTitle(const QString& title) {
+  auto* label = new QLabel(QString(title).replace("&&", "&"), this);
+  label->setTextFormat(Qt::PlainText);
+  QFont bold = label->font();
+  bold.setBold(true);
+  label->setFont(bold);
+  setAccessibleName(label->text());
+  return label;
+}
+
+QWidget* PanelFrame::makeButtons() {
+  auto* buttons = new QWidget(this);
+  auto* row = new QHBoxLayout(buttons);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(kGap);
+  cmdProceed_ = makeButton(buttons, "cmdProceed", "Proceed", "proceed");
+  cmdProceed_->setDefault(true);
+  connect(cmdProceed_, &QPushButton::clicked, this, &PanelFrame::proceed);
+  cmdCancel_ = makeButton(buttons, "cmdCancel", "Close", "close");
+  cmdCancel_->setToolTip("Close/cancel");
+  connect(cmdCancel_, &QPushButton::clicked, this, &PanelFrame::closeRequested);
+  row->addWidget(cmdProceed_, 1);
+  row->addWidget(cmdCancel_, 1);
+  return buttons;
+}
+
+// The rows have come after the buttons.
+void PanelFrame::moveButtonsToEndOfTabOrder() {
+  QWidget* last = nullptr;
+  for (QWidget* next = nextInFocusChain(); next != this; next = next->nextInFocusChain())
+    if (isAncestorOf(next) && next->focusPolicy() != Qt::NoFocus) last = next;
+  if (last == cmdCancel_) return;
+  setTabOrder(last, cmdProceed_);
+  setTabOrder(cmdProceed_, cmdCancel_);
+}
+
+void PanelFrame::showEvent(QShowEvent* event) {
+  moveButtonsToEndOfTabOrder();
+  QWidget::showEvent(event);
+}
+
+void PanelFrame::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      cmdProceed_->click();
+      return;
+    case Qt::Key_Escape:
+      cmdCancel_->click();
+      return;
+    default:
+      QWidget::keyPressEvent(event);
+  }
+}
+
+}  // namespace gp

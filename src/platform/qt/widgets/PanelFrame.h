@@ -1,0 +1,41 @@
+// The frame that the panels of the right column share: title on top, the panel's own rows, and at the bottom Proceed
+// and Close. Enter anywhere in it is Proceed, unless a control has a use of its own for it, and Esc is Close. What the
+// two do is told by whoever handles the signals.
+#pragma once
+
+#include <QWidget>
+
+class QPushButton;
+class QVBoxLayout;
+
+namespace gp {
+
+class PanelFrame : public QWidget {
+  Q_OBJECT
+
+ public:
+  // `number` is the index of fraPanel; a title is written like a menu's caption, with && for &.
+  PanelFrame(QWidget* parent, int number, const QString& title);
+
+  // Where the panel puts its rows, from the top.
+  QVBoxLayout* rows() const { return rows_; }
+
+ signals:
+  void proceed();
+  void closeRequested();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  QWidget* makeTitle(const QString& title);
+  QWidget* makeButtons();
+  void moveButtonsToEndOfTabOrder();
+
+  QVBoxLayout* rows_;
+  QPushButton* cmdProceed_ = nullptr;
+  QPushButton* cmdCancel_ = nullptr;
+};
+
+}  // namespace gp
