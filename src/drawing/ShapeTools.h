@@ -27,7 +27,7 @@ class ShapeTool : public DrawingTool {
   // Draws what the last move left; the position of the release is not used. Pumps messages for an oval.
   void release(const ToolMouse& mouse) override;
   // Ends a drag without drawing anything and takes its band away.
-  void cancel();
+  void cancel() override;
 
  private:
   // What the icon under a drag is known by.

@@ -57,7 +57,7 @@ class SampleView : public QWidget, public AccessibleValue {
     DevicePainter painter(this);
     const QRect whole = painter.toDevice(rect());
     painter.fillRect(whole, palette().color(QPalette::Mid));
-    const ScreenScale scale(kRotateSampleSide, kSampleScale, devicePixelRatioF());
+    const ScreenScale scale(kRotateSampleSide, 1, kSampleScale * devicePixelRatioF());
     const int margin = (whole.width() - scale.deviceSize()) / 2;
     const QRect all(0, 0, scale.deviceSize(), scale.deviceSize());
     painter.drawImage(whole.topLeft() + QPoint(margin, margin), imageOf(panel_.picRotateImageSample(), scale, all));

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <QDebug>
 
 namespace gp {
 namespace {
@@ -68,6 +69,7 @@ void PanelFrame::moveButtonsToEndOfTabOrder() {
   QWidget* last = nullptr;
   for (QWidget* next = nextInFocusChain(); next != this; next = next->nextInFocusChain())
     if (isAncestorOf(next) && next->focusPolicy() != Qt::NoFocus) last = next;
+  qWarning() << "LAST" << last << cmdProceed_->window() << (last ? last->window() : nullptr);
   if (last == cmdCancel_) return;
   setTabOrder(last, cmdProceed_);
   setTabOrder(cmdProceed_, cmdCancel_);
