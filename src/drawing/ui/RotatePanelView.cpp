@@ -76,6 +76,7 @@ RotatePanelView::RotatePanelView(QWidget* parent, RotatePanel& panel)
   rows()->addWidget(makeAntialias());
   rows()->addStretch(1);
   rows()->addWidget(makeSample());
+  addButtons();
   setFocusProxy(cboRotateImageAngle_);
   panel_.onChange = [this] { refresh(); };
   refresh();

@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <QDebug>
 
 namespace gp {
 namespace {
@@ -35,7 +34,6 @@ PanelFrame::PanelFrame(QWidget* parent, int number, const QString& title) : QWid
   column->addWidget(makeTitle(title));
   rows_->setSpacing(kGap);
   column->addLayout(rows_, 1);
-  column->addWidget(makeButtons());
 }
 
 QWidget* PanelFrame::makeTitle(const QString& title) {
@@ -48,7 +46,7 @@ QWidget* PanelFrame::makeTitle(const QString& title) {
   return label;
 }
 
-QWidget* PanelFrame::makeButtons() {
+void PanelFrame::addButtons() {
   auto* buttons = new QWidget(this);
   auto* row = new QHBoxLayout(buttons);
   row->setContentsMargins(0, 0, 0, 0);
@@ -61,23 +59,7 @@ QWidget* PanelFrame::makeButtons() {
   connect(cmdCancel_, &QPushButton::clicked, this, &PanelFrame::closeRequested);
   row->addWidget(cmdProceed_, 1);
   row->addWidget(cmdCancel_, 1);
-  return buttons;
-}
-
-// The rows have come after the buttons.
-void PanelFrame::moveButtonsToEndOfTabOrder() {
-  QWidget* last = nullptr;
-  for (QWidget* next = nextInFocusChain(); next != this; next = next->nextInFocusChain())
-    if (isAncestorOf(next) && next->focusPolicy() != Qt::NoFocus) last = next;
-  qWarning() << "LAST" << last << cmdProceed_->window() << (last ? last->window() : nullptr);
-  if (last == cmdCancel_) return;
-  setTabOrder(last, cmdProceed_);
-  setTabOrder(cmdProceed_, cmdCancel_);
-}
-
-void PanelFrame::showEvent(QShowEvent* event) {
-  moveButtonsToEndOfTabOrder();
-  QWidget::showEvent(event);
+  layout()->addWidget(buttons);
 }
 
 void PanelFrame::keyPressEvent(QKeyEvent* event) {

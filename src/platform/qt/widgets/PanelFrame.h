@@ -19,6 +19,8 @@ class PanelFrame : public QWidget {
 
   // Where the panel puts its rows, from the top.
   QVBoxLayout* rows() const { return rows_; }
+  // Once, after the rows: Tab comes to the buttons last.
+  void addButtons();
 
  signals:
   void proceed();
@@ -26,12 +28,9 @@ class PanelFrame : public QWidget {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
-  void showEvent(QShowEvent* event) override;
 
  private:
   QWidget* makeTitle(const QString& title);
-  QWidget* makeButtons();
-  void moveButtonsToEndOfTabOrder();
 
   QVBoxLayout* rows_;
   QPushButton* cmdProceed_ = nullptr;
