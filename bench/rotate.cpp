@@ -1,5 +1,5 @@
 // What turning an icon costs: the arithmetic alone, and Proceed with all that it shows.
-#include "../../tests/support/FakeEditor.h"
+#include "../tests/support/FakeEditor.h"
 #include "document/EditingArea.h"
 #include "drawing/RotatePanel.h"
 #include "drawing/RotateSurface.h"

@@ -1,5 +1,5 @@
 // What one move of the mouse costs while a region is dragged.
-#include "../../tests/support/FakeEditor.h"
+#include "../tests/support/FakeEditor.h"
 #include "document/EditingArea.h"
 #include "drawing/RegionTool.h"
 #include "drawing/Tools.h"
