@@ -130,6 +130,7 @@ void IconsPanel::PanelDrop(int container, const std::vector<std::string>& files)
   if (state_.IsIconChanged()) editor_.UpdatePanelFromCurrent();
   const Surface image = state_.picImage;
   const Surface mask = state_.picMask;
+  const auto status = state_.screen.lblStatusPanel;
   state_.mCurContainer = container;
   bool ok = false;
   editor_.doOpenIconFileQuietly(files.front(), ok);
@@ -139,7 +140,9 @@ void IconsPanel::PanelDrop(int container, const std::vector<std::string>& files)
     return;
   }
   state_.mCurContainer = former;
-  if (!samePixels(image, state_.picImage) || !samePixels(mask, state_.picMask)) showContainer(former);
+  const bool touched = status != state_.screen.lblStatusPanel || !samePixels(image, state_.picImage) ||
+                       !samePixels(mask, state_.picMask);
+  if (touched) showContainer(former);
   display_.changed(DisplayPart::IconsPanel);
 }
 

@@ -49,12 +49,8 @@ IconOpening::IconOpening(FilesContext& context, std::string path, OpeningManner 
 
 bool IconOpening::run() {
   if (!probe() || !isSquare() || !isOfferedSize() || !isConfirmed()) return false;
-  {
-    const Hourglass hourglass(state_, context_.display);
-    prepare();
-    if (!decode()) return false;
-  }
-  if (!isShownDepth()) return false;
+  if (!load()) return leaveEmpty(kFailedToLoad, BoxIcon::Exclamation);
+  if (!isShownDepth()) return leaveEmpty(kStrangeTrueColor, BoxIcon::Information);
   fillContainer();
   if (isSpoken()) remind();
   return true;
@@ -63,6 +59,12 @@ bool IconOpening::run() {
 bool IconOpening::fail(const std::string& text, BoxIcon icon) {
   if (isSpoken()) context_.boxes.tell(text, icon);
   return false;
+}
+
+// Showing a container that is empty wipes the Surfaces, dims the tools and clears the status bar.
+bool IconOpening::leaveEmpty(const char* text, BoxIcon icon) {
+  context_.editor.SwitchContainer(state_.mCurContainer);
+  return fail(path_ + text, icon);
 }
 
 bool IconOpening::probe() {
@@ -97,23 +99,20 @@ void IconOpening::prepare() {
   context_.editor.SizeEditSurfaces(facts_.width);
 }
 
-bool IconOpening::decode() {
+bool IconOpening::load() {
+  const Hourglass hourglass(state_, context_.display);
+  prepare();
   const IconDefect defect =
       loadIconPixels(bytes_.span(), facts_.chosen, SizeSource::Surface, true, state_, state_.picImage, state_.picMask);
   if (defect == IconDefect::None) return true;
   state_.picImage.clearPicture();
   state_.picMask.clearPicture();
-  context_.editor.ClearStatusBar();
-  context_.editor.UpdateCommands();
-  return fail(path_ + kFailedToLoad, BoxIcon::Exclamation);
+  return false;
 }
 
-bool IconOpening::isShownDepth() {
+bool IconOpening::isShownDepth() const {
   const int bits = facts_.bitCount();
-  if (facts_.dirColors >= 0 || bits == 24 || bits == 32) return true;
-  context_.editor.ClearStatusBar();
-  context_.editor.UpdateCommands();
-  return fail(path_ + kStrangeTrueColor, BoxIcon::Information);
+  return facts_.dirColors >= 0 || bits == 24 || bits == 32;
 }
 
 void IconOpening::fillContainer() {

@@ -25,11 +25,12 @@ class IconOpening {
   bool isOfferedSize();
   bool isConfirmed();
   void prepare();
-  bool decode();
-  bool isShownDepth();
+  bool load();
+  bool isShownDepth() const;
   void fillContainer();
   void remind();
   bool fail(const std::string& text, BoxIcon icon);
+  bool leaveEmpty(const char* text, BoxIcon icon);
   bool isSpoken() const { return manner_ == OpeningManner::Spoken; }
 
   FilesContext& context_;
