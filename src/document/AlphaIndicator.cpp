@@ -7,7 +7,9 @@ constexpr int kFlashes = 2;
 constexpr int kFlashMilliseconds = 100;
 constexpr const char* kAlphaText = "Alpha";
 
-void showIndicator(EditState& state, Display& display, bool shown) {
+// Another icon may have come up while messages were pumped: its own alpha decides.
+void showIndicator(EditState& state, Display& display, bool wanted) {
+  const bool shown = wanted && state.current().hasAlpha;
   state.screen.imgAlphaOnStatusPanel = shown;
   state.screen.lblStatusPanel[static_cast<std::size_t>(StatusPanel::Alpha)] = shown ? kAlphaText : "";
   display.changed(DisplayPart::StatusBar);

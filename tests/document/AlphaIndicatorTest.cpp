@@ -27,6 +27,7 @@ class WatchingPump : public MessagePump {
 
 TEST(AlphaIndicator, FlashesTwiceAndEndsShown) {
   EditState state;
+  state.current().hasAlpha = true;
   RecordingDisplay display;
   WatchingPump pump(state);
   flashAlphaIndicator(state, display, pump);
@@ -35,6 +36,17 @@ TEST(AlphaIndicator, FlashesTwiceAndEndsShown) {
   EXPECT_TRUE(state.screen.imgAlphaOnStatusPanel);
   EXPECT_EQ(state.screen.lblStatusPanel[4], "Alpha");
   EXPECT_TRUE(display.told(DisplayPart::StatusBar));
+}
+
+TEST(AlphaIndicator, StaysAwayFromAnIconWithoutAlphaThatCameUpMeanwhile) {
+  EditState state;
+  state.current().hasAlpha = true;
+  RecordingDisplay display;
+  ScriptedPump pump;
+  pump.inside = [&state] { state.mCurContainer = 1; };
+  flashAlphaIndicator(state, display, pump);
+  EXPECT_FALSE(state.screen.imgAlphaOnStatusPanel);
+  EXPECT_EQ(state.screen.lblStatusPanel[4], "");
 }
 
 TEST(Hourglass, LastsAsLongAsTheOutermostGuard) {
