@@ -4,6 +4,8 @@
 #include "platform/text/Utf8.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 namespace gp {
 namespace {
@@ -35,14 +37,21 @@ CommandLineKind kindOf(const std::string& path) {
   return CommandLineKind::Ignored;
 }
 
+// In full: the current directory changes while the program runs.
+std::string fullPath(const std::string& path) {
+  std::error_code error;
+  const auto full = std::filesystem::absolute(path, error);
+  return error ? path : full.native();
+}
+
 }  // namespace
 
 CommandLineFile readCommandLine(std::string_view commandLine) {
   if (commandLine.empty()) return {};
   const std::string path = withoutQuotes(commandLine);
-  if (FileExists(path)) return {path, kindOf(path)};
+  if (FileExists(path)) return {fullPath(path), kindOf(path)};
   const std::string literal(commandLine);
-  if (FileExists(literal)) return {literal, kindOf(literal)};
+  if (FileExists(literal)) return {fullPath(literal), kindOf(literal)};
   return {path, CommandLineKind::Missing};
 }
 

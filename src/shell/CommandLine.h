@@ -21,7 +21,8 @@ struct CommandLineFile {
   CommandLineKind kind = CommandLineKind::None;
 };
 
-// Double quotes are taken out of the text, unless they belong to the name of a file that is there.
+// The path of a file that is there comes out in full. Double quotes are taken out of the text, unless they belong to
+// the name of a file that is there.
 CommandLineFile readCommandLine(std::string_view commandLine);
 // What the user is told of a missing file.
 std::string fileNotFoundText(std::string_view path);

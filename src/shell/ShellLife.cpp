@@ -5,6 +5,9 @@
 #include "shell/Shell.h"
 #include "shell/UnsavedQuestion.h"
 
+#include <filesystem>
+#include <system_error>
+
 namespace gp {
 
 void Shell::formLoad() {
@@ -59,10 +62,14 @@ void Shell::openCommandLineFile(const std::string& commandLine) {
   const CommandLineFile file = readCommandLine(commandLine);
   state_.process.mCommandFile = file.path;
   if (file.kind == CommandLineKind::Missing) ports_.boxes.tell(fileNotFoundText(file.path), BoxIcon::Exclamation);
-  if (file.kind != CommandLineKind::Ico) return;
   bool ok = false;
-  doOpenIconFile(file.path, false, ok);
-  if (ok) colors_.chooseColorChart();
+  if (file.kind == CommandLineKind::Ico) doOpenIconFile(file.path, false, ok);
+  if (ok) {
+    colors_.chooseColorChart();
+    return;
+  }
+  std::error_code ignored;
+  std::filesystem::current_path(folder_, ignored);
 }
 
 void Shell::applyStartScreen() {

@@ -17,6 +17,16 @@ TEST_F(CommandLine, AnEmptyCommandLineNamesNothing) {
   EXPECT_EQ(readCommandLine("").path, "");
 }
 
+TEST_F(CommandLine, AFileOfTheCurrentDirectoryIsNamedInFull) {
+  const auto before = std::filesystem::current_path();
+  const std::string path = folder_.write("near.ico");
+  std::filesystem::current_path(folder_.path());
+  const CommandLineFile file = readCommandLine("near.ico");
+  std::filesystem::current_path(before);
+  EXPECT_EQ(file.path, path);
+  EXPECT_EQ(file.kind, CommandLineKind::Ico);
+}
+
 TEST_F(CommandLine, QuotesAroundAPathWithBlanksAreRemoved) {
   const std::string path = folder_.write("my icon.ico");
   const CommandLineFile file = readCommandLine("\"" + path + "\"");

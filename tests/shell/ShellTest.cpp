@@ -42,6 +42,17 @@ TEST_F(ShellTest, AFileThatIsNotThereIsReportedAndTheProgramStartsEmpty) {
   EXPECT_FALSE(state.current().used);
 }
 
+TEST_F(ShellTest, TheProgramsFolderIsCurrentUnlessAnIconWasOpened) {
+  const std::string icon = folder.write("a.ico", plainIconFile(16, 1));
+  shell.formLoad();
+  shell.formActivate(icon);
+  EXPECT_EQ(std::filesystem::current_path(), directory.before());
+  Shell second(state, shell.ports(), display, folder.path());
+  second.formLoad();
+  second.formActivate("");
+  EXPECT_EQ(std::filesystem::current_path(), std::filesystem::path(folder.path()));
+}
+
 TEST_F(ShellTest, AnUnknownEndingStartsEmptyInSilence) {
   start(folder.write("a.png"));
   EXPECT_FALSE(state.current().used);

@@ -27,6 +27,7 @@ class FakeForm : public MainForm {
 
 class ShellFixture : public testing::Test {
  protected:
+  KeptDirectory directory;
   TempFolder folder;
   ScriptedBoxes boxes;
   ScriptedDialogs dialogs;

@@ -11,6 +11,22 @@
 
 namespace gp::test {
 
+// Gives the process its current directory back at the end.
+class KeptDirectory {
+ public:
+  KeptDirectory() = default;
+  ~KeptDirectory() {
+    std::error_code ignored;
+    std::filesystem::current_path(before_, ignored);
+  }
+  KeptDirectory(const KeptDirectory&) = delete;
+  KeptDirectory& operator=(const KeptDirectory&) = delete;
+  const std::filesystem::path& before() const { return before_; }
+
+ private:
+  const std::filesystem::path before_ = std::filesystem::current_path();
+};
+
 class TempFolder {
  public:
   TempFolder() : path_(std::filesystem::temp_directory_path() / uniqueName()) {

@@ -22,6 +22,7 @@ namespace gp::test {
 
 class FormFixture : public testing::Test {
  protected:
+  KeptDirectory directory;
   TempFolder folder;
   ScriptedBoxes boxes;
   ScriptedDialogs dialogs;
