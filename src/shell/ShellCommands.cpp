@@ -114,7 +114,9 @@ void Shell::resetToDefault() {
 }
 
 void Shell::confirmReset() {
-  if (ports_.boxes.ask("Confirm to reset to default settings?")) resetToDefault();
+  if (!ports_.boxes.ask("Confirm to reset to default settings?")) return;
+  resetToDefault();
+  editingArea_.ApplyEnlargedOption();
 }
 
 void Shell::mnuEditSub(int index) {

@@ -296,6 +296,16 @@ TEST_F(ShellTest, TheEnlargedOptionActsAtOnce) {
   EXPECT_EQ(state.picDisp.width(), 384);
 }
 
+TEST_F(ShellTest, ResettingEnlargesTheEditingAreaAgain) {
+  start(folder.write("a.ico", plainIconFile(32, 1)));
+  shell.formResize(520, 520);
+  click("mnuOptionsSub", 3);
+  EXPECT_EQ(state.picDisp.width(), 384);
+  boxes.expectAsked("Confirm to reset to default settings?", BoxAnswer::Yes);
+  click("mnuOptionsSub", 16);
+  EXPECT_EQ(state.picDisp.width(), 480);
+}
+
 TEST_F(ShellTest, ANewIconIsTransparentWithPaintSelected) {
   start();
   click("mnuFileSub", 3);
