@@ -94,7 +94,8 @@ bool Shell::queryUnload() {
   const std::string question = unsavedQuestion(state_);
   if (!question.empty() && !ports_.boxes.ask(question)) return false;
   if (form_) saveScreenPos(form_->place());
-  settings_.SaveOptions();
+  // Before the first Activate nothing but defaults is known of the options.
+  if (!mFirstActivate) settings_.SaveOptions();
   settings_.SaveLastFolder(state_.process.mLastFolder);
   return true;
 }

@@ -99,6 +99,13 @@ TEST_F(ShellTest, AMinimisedFormLeavesTheStoredPlace) {
   EXPECT_EQ(folder.read("Glimmerpane.ini").find("Left="), std::string::npos);
 }
 
+TEST_F(ShellTest, ClosingBeforeTheOptionsWereReadKeepsThem) {
+  folder.write("Glimmerpane.ini", "[Options]\nGridLines=3\n");
+  shell.formLoad();
+  EXPECT_TRUE(shell.queryUnload());
+  EXPECT_NE(folder.read("Glimmerpane.ini").find("GridLines=3"), std::string::npos);
+}
+
 TEST_F(ShellTest, SettingsOfTheLastSessionStandAgain) {
   folder.write("Glimmerpane.ini",
                "[Options]\nGridLines=6\nDisplayPixelRGB=-1\nOptedStartScreen=2\n"
