@@ -115,7 +115,8 @@ void EditingArea::BuildGrid() {
 
   if (state_.gGridColor == kNoGrid) return;
   if (state_.gGridColor < 0) {
-    tilePattern(width, height);
+    // The pump may have let the form get another size, and the grid with it.
+    tilePattern(state_.PicGrid.width(), state_.PicGrid.height());
     drawGridLines(kPatternLines);
   } else if (state_.gGridColor == kDottedGrid) {
     drawGridDots(state_.gGridColor);

@@ -150,6 +150,15 @@ TEST_F(EditingAreaTest, APlainGridShowsTheGroundThroughATransparentPixel) {
   EXPECT_EQ(state.picDisp.GetPixel(12 * 4, 12 * 4 + 3), kGround & 0x606060);
 }
 
+TEST_F(EditingAreaTest, APatternFillsAnAreaThatGotAnotherSizeWhileItWasBuilt) {
+  makeIcon(32);
+  state.gGridColor = gridColorOf(3);
+  pump.inside = [this] { area.setRoom(520, 520); };
+  area.BuildGrid();
+  EXPECT_EQ(state.picDisp.width(), 480);
+  EXPECT_EQ(state.picTile[0].width(), 480);
+}
+
 TEST_F(EditingAreaTest, APatternedGridShowsThePatternThroughATransparentPixel) {
   makeIcon(16);
   for (int grid : {3, 4, 5}) {
