@@ -3,7 +3,9 @@
 #include "ui/FormFixture.h"
 
 #include <QContextMenuEvent>
+#include <QDialog>
 #include <QMenu>
+#include <QMouseEvent>
 
 namespace gp {
 namespace {
@@ -44,6 +46,25 @@ TEST_F(EditingAreaViewTest, AStrokeRepaintsItsSquareAndNothingIsLeftBehind) {
   EXPECT_EQ(imageAt(5, 6), rgb(1, 2, 3));
   EXPECT_EQ(imageAt(7, 8), rgb(1, 2, 3));
   EXPECT_NE(imageAt(6, 7), rgb(1, 2, 3)) << "a fast drag leaves gaps";
+}
+
+TEST_F(EditingAreaViewTest, ABoxThatComesUpDuringAStrokeEndsIt) {
+  startWithIcon(48);
+  useTool(kPaint);
+  state.mCurrentColor = rgb(1, 2, 3);
+  QTest::mousePress(view(), Qt::LeftButton, {}, middleOf(5, 6));
+  {
+    QDialog box(form.get());
+    box.setModal(true);
+    box.show();
+    settle();
+    EXPECT_TRUE(shell.drawing().history.canUndo());
+  }
+  const QPointF at = middleOf(7, 8);
+  QMouseEvent move(QEvent::MouseMove, at, view()->mapToGlobal(at), Qt::NoButton, Qt::NoButton, {});
+  QApplication::sendEvent(view(), &move);
+  EXPECT_EQ(imageAt(5, 6), rgb(1, 2, 3));
+  EXPECT_NE(imageAt(7, 8), rgb(1, 2, 3)) << "no button is down";
 }
 
 TEST_F(EditingAreaViewTest, OnlyTheSquareThatChangedIsPaintedAgain) {

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace gp {
 namespace {
@@ -103,14 +104,27 @@ void EditingAreaView::mousePressEvent(QMouseEvent* event) {
   showCursor(false);
   const QPoint source = sourceAt(event->position()).toPoint();
   cursor_.place({source.x() / state_.gMagnification, source.y() / state_.gMagnification}, cells());
+  if (event->button() == Qt::LeftButton) hold(event);
   emit pressed(sourceAt(event->position()), event->button(), event->modifiers());
 }
 
+void EditingAreaView::hold(const QMouseEvent* event) {
+  held_ = true;
+  lastHeld_ = sourceAt(event->position());
+}
+
+// A box that comes up over a held button swallows its release: the stroke ends where it is.
+void EditingAreaView::endHold() {
+  if (std::exchange(held_, false)) emit released(lastHeld_, Qt::LeftButton, Qt::NoModifier);
+}
+
 void EditingAreaView::mouseMoveEvent(QMouseEvent* event) {
+  if (held_) hold(event);
   emit moved(sourceAt(event->position()), event->modifiers());
 }
 
 void EditingAreaView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && !std::exchange(held_, false)) return;
   emit released(sourceAt(event->position()), event->button(), event->modifiers());
 }
 
@@ -154,6 +168,7 @@ void EditingAreaView::contextMenuEvent(QContextMenuEvent* event) {
 
 bool EditingAreaView::event(QEvent* event) {
   if (event->type() == QEvent::ScreenChangeInternal) refresh();
+  if (event->type() == QEvent::WindowBlocked) endHold();
   return QWidget::event(event);
 }
 

@@ -63,6 +63,8 @@ class EditingAreaView : public QWidget, public AccessibleValue {
   QPointF sourceAt(const QPointF& position) const;
   QPointF cursorCentre() const;
   QRect cursorRect() const;
+  void hold(const QMouseEvent* event);
+  void endHold();
   void applyAtCursor(Qt::KeyboardModifiers modifiers);
   void showCursor(bool shown);
   void paintCursor(QPainter& painter) const;
@@ -71,6 +73,8 @@ class EditingAreaView : public QWidget, public AccessibleValue {
   std::function<QString(QPoint)> describePixel_;
   PixelCursor cursor_;
   bool cursorShown_ = false;
+  bool held_ = false;  // the left button is down, and lastHeld_ is where it was last
+  QPointF lastHeld_;
 };
 
 // picDispContainer: keeps the Editing Area in its middle.
