@@ -47,7 +47,7 @@ void FreehandTool::move(const ToolMouse& mouse) {
 void FreehandTool::release(const ToolMouse& /*mouse*/) {
   editor_.ComposeCurrentIcon();
   editor_.MagnifyIcon();
-  pump_.pump();
+  // Messages are pumped last, by the recording: what arrives there finds the stroke recorded.
   editor_.recordUndo();
 }
 
