@@ -171,7 +171,7 @@ void Tools::toolsChanged() {
 }
 
 void Tools::mnuTools(int index) {
-  if (index == kMenuClearTools) clearAllTools();
+  if (index == kMenuClearTools) imgClearAllTools();
   if (!state_.current().present) {
     if (index != kMenuClearTools) tellNoIconYet(boxes_);
     return;
@@ -189,6 +189,8 @@ void Tools::clearAllTools() {
 }
 
 void Tools::imgClearAllTools() {
+  // The key may come in the midst of a drag: the step is what that leaves.
+  deselect();
   if (state_.current().present && state_.mRegionExists) editor_.recordUndo();
   clearAllTools();
   editor_.clearRegion();

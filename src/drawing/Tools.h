@@ -59,7 +59,7 @@ class Tools {
   // mnuTools Click.
   void mnuTools(int index);
   void clearAllTools();
-  // imgClearAllTools Click.
+  // imgClearAllTools Click, and mnuTools(0): a region is merged as a step of its own.
   void imgClearAllTools();
   // cboBrushSize or mnuBrushSize: list index 0 to 5.
   void setBrush(int index);

@@ -360,6 +360,27 @@ TEST_F(ToolsTest, ClearingToolsWithARegionRecordsAStepFirst) {
   EXPECT_EQ(readout(Readout::Region), "");
 }
 
+TEST_F(ToolsTest, ClearingToolsFromTheMenuEndsARegionToo) {
+  makeIcon(32);
+  tools.selectTool(kPaint);
+  state.mRegionExists = true;
+  editor.calls.clear();
+  tools.mnuTools(0);
+  EXPECT_EQ(editor.count("clearRegion"), 1);
+  EXPECT_EQ(editor.count("recordUndo"), 1);
+  EXPECT_EQ(tools.selectedTool(), kNoTool);
+}
+
+TEST_F(ToolsTest, ClearingToolsInTheMidstOfAStrokeRecordsItOnce) {
+  makeIcon(32);
+  tools.selectTool(kPaint);
+  tools.press(at(1, 1));
+  tools.mnuTools(0);
+  tools.release(at(1, 1));
+  EXPECT_EQ(editor.count("recordUndo"), 1);
+  EXPECT_FALSE(drawState.isStroke());
+}
+
 TEST_F(ToolsTest, ThePointerIsThePictureOfTheToolOrThePickerOrThePlatformsOwn) {
   makeIcon(32);
   tools.selectTool(kErase);
