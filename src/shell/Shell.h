@@ -93,6 +93,8 @@ class Shell final : public Editor {
   void selectStartScreen(int index);
   void resetToDefault();
   void confirmReset();
+  // Esc ends what is open: a side panel, otherwise the region, which is merged.
+  void escapeKey();
   void exitProgram();
   void showAbout();
 

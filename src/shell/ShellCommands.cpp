@@ -134,6 +134,13 @@ void Shell::cancelPanel() {
   if (state_.current().present) MagnifyIcon();
 }
 
+void Shell::escapeKey() {
+  if (state_.screen.mActivePanel != kColorPanel)
+    cancelPanel();
+  else if (state_.mRegionExists)
+    drawing_.tools.imgClearAllTools();
+}
+
 void Shell::exitProgram() {
   if (form_) form_->unload();
 }

@@ -407,5 +407,24 @@ TEST_F(ShellTest, PasteWithoutAnImageSaysSo) {
   click("mnuEditSub", 7);
 }
 
+TEST_F(ShellTest, EscClosesTheSidePanelAndThenEndsTheRegion) {
+  start();
+  click("mnuFileSub", 2);
+  click("mnuRotateSubmenu", 4);
+  ASSERT_EQ(state.screen.mActivePanel, 4);
+  shell.escapeKey();
+  EXPECT_EQ(state.screen.mActivePanel, 0);
+  click("mnuTools", 14);
+  shell.tools().press({kLeftButton, 0, 1, 1});
+  shell.tools().move({0, 0, 40, 40});
+  shell.tools().release({kLeftButton, 0, 40, 40});
+  ASSERT_TRUE(state.mRegionExists);
+  shell.escapeKey();
+  EXPECT_FALSE(state.mRegionExists);
+  EXPECT_EQ(shell.selectedTool(), kNoTool);
+  shell.escapeKey();
+  EXPECT_TRUE(state.current().present);
+}
+
 }  // namespace
 }  // namespace gp

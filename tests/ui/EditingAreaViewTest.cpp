@@ -67,6 +67,25 @@ TEST_F(EditingAreaViewTest, ABoxThatComesUpDuringAStrokeEndsIt) {
   EXPECT_NE(imageAt(7, 8), rgb(1, 2, 3)) << "no button is down";
 }
 
+TEST_F(EditingAreaViewTest, AStrokeWhoseReleaseAMenuTookDoesNotGoOnWithoutAButton) {
+  startWithIcon(16);
+  useTool(kPaint);
+  state.mCurrentColor = rgb(1, 2, 3);
+  const auto moveTo = [this](int x, int y, Qt::MouseButtons buttons) {
+    const QPointF at = middleOf(x, y);
+    QMouseEvent move(QEvent::MouseMove, at, view()->mapToGlobal(at), Qt::NoButton, buttons, {});
+    QApplication::sendEvent(view(), &move);
+  };
+  QTest::mousePress(view(), Qt::LeftButton, {}, middleOf(2, 2));
+  moveTo(3, 2, Qt::LeftButton);
+  QTest::mousePress(view(), Qt::RightButton, {}, middleOf(3, 2));
+  find<QMenu>("mnuPopUp")->close();
+  moveTo(9, 9, Qt::NoButton);
+  EXPECT_EQ(imageAt(3, 2), rgb(1, 2, 3));
+  EXPECT_NE(imageAt(9, 9), rgb(1, 2, 3)) << "no button is down";
+  EXPECT_EQ(shell.drawing().history.undoCount(), 2);
+}
+
 TEST_F(EditingAreaViewTest, OnlyTheSquareThatChangedIsPaintedAgain) {
   startWithIcon(48);
   struct Watch : QObject {

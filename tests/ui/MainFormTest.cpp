@@ -191,5 +191,23 @@ TEST_F(MainFormLooks, WithDirectEntryAndAnOpenMenu) {
   menu->close();
 }
 
+TEST_F(MainFormTest, DeleteErasesTheRegionAndEscClosesThePanel) {
+  startWithIcon(32);
+  shell.run(*findCommand("mnuTools", 14));
+  QTest::mousePress(find("picDisp"), Qt::LeftButton, {}, middleOf(2, 2));
+  QTest::mouseMove(find("picDisp"), middleOf(6, 6));
+  QTest::mouseRelease(find("picDisp"), Qt::LeftButton, {}, middleOf(6, 6));
+  ASSERT_TRUE(state.mRegionExists);
+  find("picDisp")->setFocus();
+  key(Qt::Key_Delete);
+  EXPECT_FALSE(state.mRegionExists);
+  EXPECT_EQ(state.picMask.GetPixel(4, 4), kWhite);
+  shell.run(*findCommand("mnuRotateSubmenu", 4));
+  settle();
+  find("picDisp")->setFocus();
+  key(Qt::Key_Escape);
+  EXPECT_EQ(state.screen.mActivePanel, 0);
+}
+
 }  // namespace
 }  // namespace gp

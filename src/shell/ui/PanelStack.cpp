@@ -69,7 +69,11 @@ QWidget* PanelStack::panel(int number) {
 }
 
 void PanelStack::showPanel(int number) {
-  if (QWidget* widget = panel(number)) stack_->setCurrentWidget(widget);
+  QWidget* widget = panel(number);
+  if (!widget) return;
+  stack_->setCurrentWidget(widget);
+  // A side panel is worked with the keyboard at once; the colour panel leaves the focus where it is.
+  if (number != kColorPanel) widget->setFocus();
 }
 
 }  // namespace gp

@@ -21,6 +21,7 @@
 #include <QCursor>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -30,7 +31,8 @@
 namespace gp {
 namespace {
 
-constexpr int kEdge = 3;  // around and between the columns, pixels
+constexpr int kEdge = 3;         // around and between the columns, pixels
+constexpr int kEraseRegion = 5;  // index of mnuEditSub
 constexpr int kToolColumnWidth = ShiftPad::kSide;
 
 int pixelsOf(int twips) { return twips / kTwipsPerPixel; }
@@ -292,6 +294,16 @@ void frmGPEdit::showAbout() {
 void frmGPEdit::unload() { close(); }
 
 void frmGPEdit::closeEvent(QCloseEvent* event) { event->setAccepted(shell_.queryUnload()); }
+
+// Keys that no control had a use for.
+void frmGPEdit::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape)
+    shell_.guarded("Form_KeyDown", [this] { shell_.escapeKey(); });
+  else if (event->key() == Qt::Key_Delete)
+    shell_.run(*findCommand("mnuEditSub", kEraseRegion));
+  else
+    QMainWindow::keyPressEvent(event);
+}
 
 bool frmGPEdit::event(QEvent* event) {
   const bool handled = QMainWindow::event(event);

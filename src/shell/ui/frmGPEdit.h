@@ -42,6 +42,7 @@ class frmGPEdit final : public QMainWindow, public MainForm {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   bool event(QEvent* event) override;
 
  private:
