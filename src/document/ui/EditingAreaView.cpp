@@ -119,6 +119,8 @@ void EditingAreaView::endHold() {
 }
 
 void EditingAreaView::mouseMoveEvent(QMouseEvent* event) {
+  // The release may also have gone to a pop-up menu, which the second button opens.
+  if (!(event->buttons() & Qt::LeftButton)) endHold();
   if (held_) hold(event);
   emit moved(sourceAt(event->position()), event->modifiers());
 }
