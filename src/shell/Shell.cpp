@@ -37,6 +37,8 @@ void Shell::runToolbar(const ToolbarButton& button) {
   state_.picDisp.clearDrawing();
   display_.changed(DisplayPart::EditingArea);
   if (const Command* command = findCommand(button.control, button.commandIndex)) run(*command);
+  // A region that the command left standing is seen again.
+  if (state_.mRegionExists) redrawRegion();
 }
 
 void Shell::ShowRunTimeError(const std::string& name, const std::string& description) {

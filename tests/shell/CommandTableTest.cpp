@@ -193,5 +193,18 @@ TEST_F(CommandTable, AToolbarButtonClearsTheOverlayBeforeItsCommand) {
   EXPECT_NE(state.picDisp.GetPixel(3, 3), 0x00FF00);
 }
 
+TEST_F(CommandTable, ARegionThatAToolbarCommandLeavesStandingIsSeenAgain) {
+  start();
+  click("mnuFileSub", 2);
+  click("mnuTools", 14);
+  shell.tools().press({kLeftButton, 0, 13, 13});
+  shell.tools().move({0, 0, 61, 61});
+  shell.tools().release({kLeftButton, 0, 61, 61});
+  const Surface before = state.picDisp;
+  shell.runToolbar(toolbarTable()[11]);
+  EXPECT_TRUE(state.mRegionExists);
+  EXPECT_TRUE(std::ranges::equal(state.picDisp.pixels(), before.pixels()));
+}
+
 }  // namespace
 }  // namespace gp
