@@ -1,5 +1,6 @@
 #include "colour/ui/ColorChartView.h"
 
+#include "document/ui/PixelCursor.h"
 #include "document/ui/SurfacePainting.h"
 #include "platform/qt/PathText.h"
 
@@ -12,21 +13,6 @@
 namespace gp {
 namespace {
 
-constexpr int kFar = 64;  // beyond any chart: as far as it goes
-
-struct Move {
-  int key;
-  QPoint step;
-};
-
-constexpr std::array<Move, 8> kMoves = {{{Qt::Key_Left, {-1, 0}},
-                                         {Qt::Key_Right, {1, 0}},
-                                         {Qt::Key_Up, {0, -1}},
-                                         {Qt::Key_Down, {0, 1}},
-                                         {Qt::Key_Home, {-kFar, 0}},
-                                         {Qt::Key_End, {kFar, 0}},
-                                         {Qt::Key_PageUp, {0, -kFar}},
-                                         {Qt::Key_PageDown, {0, kFar}}}};
 constexpr std::array kChoosingKeys = {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter};
 
 struct Look {
@@ -81,10 +67,10 @@ void ColorChartView::mouseMoveEvent(QMouseEvent* event) { emit hovered(unitsAt(e
 void ColorChartView::mouseReleaseEvent(QMouseEvent* event) { emit released(unitsAt(event->position())); }
 
 bool ColorChartView::moveCursor(int key) {
-  const auto found = std::ranges::find(kMoves, key, &Move::key);
-  if (found == kMoves.end()) return false;
+  const auto step = cellStep(key);
+  if (!step) return false;
   const ChartShape shape = shapeOf(chart_);
-  const QPoint to = cursor_ + found->step;
+  const QPoint to = cursor_ + *step;
   cursor_ = {std::clamp(to.x(), 0, shape.columns - 1), std::clamp(to.y(), 0, shape.rows - 1)};
   return true;
 }

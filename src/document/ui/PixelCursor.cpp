@@ -8,7 +8,7 @@
 namespace gp {
 namespace {
 
-constexpr int kFar = 1 << 16;  // beyond any icon: as far as it goes
+constexpr int kFar = 1 << 16;  // beyond any icon or chart
 
 struct Move {
   int key;
@@ -26,11 +26,15 @@ constexpr std::array<Move, 8> kMoves = {{{Qt::Key_Left, {-1, 0}},
 
 }  // namespace
 
-bool PixelCursor::move(int key, int size) {
+std::optional<QPoint> cellStep(int key) {
   const auto found = std::ranges::find(kMoves, key, &Move::key);
-  if (found == kMoves.end()) return false;
-  place(position_ + found->step, size);
-  return true;
+  return found == kMoves.end() ? std::nullopt : std::optional(found->step);
+}
+
+bool PixelCursor::move(int key, int size) {
+  const auto step = cellStep(key);
+  if (step) place(position_ + *step, size);
+  return step.has_value();
 }
 
 void PixelCursor::confine(int size) { place(position_, size); }
