@@ -66,7 +66,6 @@ class EditingArea {
 // gGridColor of a grid entry: a colour, or -1 to -3 for the patterned grids.
 Color gridColorOf(int index);
 inline constexpr Color kNoGrid = kGround;
-inline constexpr int kGridNone = 6;
 // The index of the Region tool: a new magnification ends it.
 inline constexpr int kRegionTool = 14;
 

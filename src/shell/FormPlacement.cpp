@@ -1,7 +1,5 @@
 #include "shell/FormPlacement.h"
 
-#include "platform/text/Numbers.h"
-
 #include <algorithm>
 
 namespace gp {
@@ -39,15 +37,5 @@ FormPlace applyStartScreen(const FormPlace& place, StartScreen option, const For
   }
   return result;
 }
-
-FormPlace limitToSmallest(const FormPlace& place, int minWidth, int minHeight) {
-  FormPlace result = place;
-  if (place.minimized) return result;
-  result.width = std::max(place.width, minWidth);
-  result.height = std::max(place.height, minHeight);
-  return result;
-}
-
-int pixelsAboveSmallest(int length, int smallest) { return std::max(divide(length - smallest, kTwipsPerPixel), 0); }
 
 }  // namespace gp

@@ -32,9 +32,4 @@ FormStart startOfForm(const StoredPlace& stored, int screenWidth, int screenHeig
 // The place that the start screen option gives to the form when it comes up; a minimised form stays as it is.
 FormPlace applyStartScreen(const FormPlace& place, StartScreen option, const FormStart& start);
 
-// The size that a form gets that was sized to `place`: never below the smallest. A minimised form stays as it is.
-FormPlace limitToSmallest(const FormPlace& place, int minWidth, int minHeight);
-// Pixels that a side of the form, in twips, has above its smallest length; they go to the Editing Area.
-int pixelsAboveSmallest(int length, int smallest);
-
 }  // namespace gp

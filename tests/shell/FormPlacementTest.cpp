@@ -123,22 +123,6 @@ TEST(FormPlacement, AMinimisedFormIsLeftAsItIs) {
   FormPlace place = start.place();
   place.minimized = true;
   EXPECT_FALSE(applyStartScreen(place, StartScreen::PerLastSession, start).maximized);
-  place.width = 10;
-  EXPECT_EQ(limitToSmallest(place, 11895, 8640).width, 10);
-}
-
-TEST(FormPlacement, TheFormCannotBeMadeSmallerThanItsStartSize) {
-  const FormPlace place = limitToSmallest({0, 0, 11894, 9000, false, false}, 11895, 8640);
-  EXPECT_EQ(place.width, 11895);
-  EXPECT_EQ(place.height, 9000);
-  EXPECT_EQ(limitToSmallest({0, 0, 12000, 100, false, false}, 11895, 8640).height, 8640);
-}
-
-TEST(FormPlacement, WhatIsAboveTheSmallestSizeIsToldInPixels) {
-  EXPECT_EQ(pixelsAboveSmallest(11895, 11895), 0);
-  EXPECT_EQ(pixelsAboveSmallest(11895 + 150, 11895), 10);
-  EXPECT_EQ(pixelsAboveSmallest(11895 + 14, 11895), 0);
-  EXPECT_EQ(pixelsAboveSmallest(100, 11895), 0);
 }
 
 }  // namespace
