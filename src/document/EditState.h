@@ -4,6 +4,7 @@
 
 #include "document/AlphaMatrix.h"
 #include "document/IconContainerRec.h"
+#include "document/MultiIconExchange.h"
 #include "document/Options.h"
 #include "platform/gdi/Surface.h"
 
@@ -72,6 +73,8 @@ struct EditState {
   const IconContainerRec& current() const { return mIconRecs.at(static_cast<std::size_t>(mCurContainer)); }
   // True when the Current Icon would be lost by replacing it.
   bool IsIconChanged() const { return current().present && (current().modified || current().neverSaved); }
+
+  MultiIconExchange multiIcon;
 
   AlphaMatrix gAlphaValues;
   std::array<AlphaMatrix, kContainerCount> mAlphaRecs;

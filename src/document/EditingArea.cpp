@@ -110,7 +110,8 @@ void EditingArea::BuildGrid() {
   const int width = state_.PicIcon.width() * state_.gMagnification;
   const int height = state_.PicIcon.height() * state_.gMagnification;
   MakePicSize(state_.PicGrid, width, height);
-  sizePicDisp(width, height);
+  // What is shown stays when there is no other size: a save only refreshes the status bar.
+  if (SurfaceSizeDiffers(state_.picDisp, state_.PicGrid)) sizePicDisp(width, height);
   pump_.pump();
 
   if (state_.gGridColor == kNoGrid) return;

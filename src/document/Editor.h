@@ -48,6 +48,8 @@ class Editor {
   virtual void doOpenIconFileQuietly(const std::string& path, bool& ok) = 0;
   // Offers to save the Current Icon; `proceed` is false when the caller must not go on.
   virtual void AskSaveCurrent(const std::string& message, bool& proceed) = 0;
+  // A click on the Editing Area while the Panel of the cursor's hot spot is up, in pixels of the icon.
+  virtual void setHotspotByClick(int x, int y) = 0;
   // The number of colours that a Surface counts as: 2, 16, 256 or -1 for true colour.
   virtual int colorBitCountOfImage() const = 0;
 

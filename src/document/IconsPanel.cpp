@@ -5,6 +5,7 @@
 #include "document/EditingArea.h"
 #include "document/Hourglass.h"
 #include "document/Messages.h"
+#include "document/PanelNumbers.h"
 #include "platform/gdi/SurfaceOps.h"
 #include "platform/text/Utf8.h"
 
@@ -14,8 +15,6 @@ namespace gp {
 
 namespace {
 
-constexpr int kColorPanelNumber = 0;
-constexpr int kIconsListNumber = 1;
 constexpr std::size_t kShortestDroppedName = 5;
 constexpr const char* kIconEnding = ".ICO";
 
@@ -60,14 +59,14 @@ bool IconsPanel::leaveCurrent() {
 void IconsPanel::SwitchContainer(int container) {
   EndToolAction();
   const ScreenState& screen = state_.screen;
-  const bool sidePanelUp = screen.mActivePanel != kColorPanelNumber && screen.mActivePanel != kIconsListNumber;
+  const bool sidePanelUp = screen.mActivePanel != kColorPanel && screen.mActivePanel != kIconsListPanel;
   if (sidePanelUp && !screen.aniContainerVisible) editor_.closePanels();
   if (!leaveCurrent()) return;
 
   state_.mCurContainer = container;
   display_.changed(DisplayPart::IconsPanel);
   // In the Icons List the icon is only chosen; its display waits.
-  if (screen.mActivePanel == kIconsListNumber) return;
+  if (screen.mActivePanel == kIconsListPanel) return;
   showContainer(container);
 }
 
@@ -110,7 +109,7 @@ void IconsPanel::showEmptyContainer() {
 }
 
 void IconsPanel::PanelRightClick(int container) {
-  if (state_.screen.mActivePanel == kIconsListNumber) editor_.closePanels();
+  if (state_.screen.mActivePanel == kIconsListPanel) editor_.closePanels();
   pump_.pump();
   SwitchContainer(container);
   editor_.chooseColorChart();
@@ -123,7 +122,7 @@ bool IconsPanel::PanelDragOver(const std::vector<std::string>& files) const {
 void IconsPanel::PanelDrop(int container, const std::vector<std::string>& files) {
   if (!PanelDragOver(files)) return;
   CommitPendingPaint();
-  if (state_.screen.mActivePanel != kColorPanelNumber && !state_.screen.aniContainerVisible) editor_.closePanels();
+  if (state_.screen.mActivePanel != kColorPanel && !state_.screen.aniContainerVisible) editor_.closePanels();
 
   // What is on the Editing Area belongs to the former container, which the loader does not know of.
   const int former = state_.mCurContainer;
@@ -147,7 +146,7 @@ void IconsPanel::PanelDrop(int container, const std::vector<std::string>& files)
 }
 
 void IconsPanel::updateFromCurrent() {
-  if (state_.screen.mActivePanel == kIconsListNumber || !state_.current().present) return;
+  if (state_.screen.mActivePanel == kIconsListPanel || !state_.current().present) return;
   editor_.UpdatePanelFromCurrent();
   editor_.clearUndoHistory();
   editor_.recordUndo();

@@ -7,6 +7,9 @@ namespace gp {
 
 inline constexpr const char* kReminderHint = "(To remove Reminder, untick the related Option submenu)";
 
+// Behind the path of an icon's file that the command wants to read again.
+inline constexpr const char* kFileGone = "\nfile can no longer be found!";
+
 // What every command says that needs an icon and finds none.
 inline void tellNoIconYet(MessageBoxes& boxes) { boxes.tell("No icon in Editing Area yet"); }
 

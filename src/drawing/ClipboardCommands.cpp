@@ -3,6 +3,7 @@
 #include "document/Containers.h"
 #include "document/Hourglass.h"
 #include "document/Messages.h"
+#include "document/PanelNumbers.h"
 #include "drawing/ToolTable.h"
 #include "platform/gdi/Pens.h"
 #include "platform/gdi/RasterOps.h"
@@ -16,8 +17,6 @@ namespace gp {
 
 namespace {
 
-constexpr int kColorPanelNumber = 0;
-constexpr int kIconsListNumber = 1;
 constexpr std::array<int, 4> kIconSizes = {16, 24, 32, 48};
 constexpr int kLargestIcon = kIconSizes.back();
 constexpr const char* kNoImage = "No image in clipboard yet";
@@ -49,7 +48,7 @@ void ClipboardCommands::doCutRegion(bool copyFirst) {
     return;
   }
   regions_.finishDrag();
-  if (state_.screen.mActivePanel != kColorPanelNumber) editor_.showPanel(kColorPanelNumber);
+  if (state_.screen.mActivePanel != kColorPanel) editor_.showPanel(kColorPanel);
   if (copyFirst) doCopyRegion();
   const bool floating = regions_.isFloating();
   if (floating)
@@ -111,7 +110,7 @@ void ClipboardCommands::clearClipboard() {
 // Paste.
 
 void ClipboardCommands::doPaste(bool opaque) {
-  if (state_.screen.mActivePanel == kIconsListNumber) return;
+  if (state_.screen.mActivePanel == kIconsListPanel) return;
   ClipboardImage image;
   // The picture is read before anything changes: its owner may have withdrawn it since it was offered.
   if (!clipboard_.hasImage() || !fetch(image)) {

@@ -1,6 +1,7 @@
 #include "drawing/Tools.h"
 
 #include "document/Messages.h"
+#include "document/PanelNumbers.h"
 #include "platform/text/Numbers.h"
 
 #include <algorithm>
@@ -84,6 +85,10 @@ void Tools::release(const MouseInput& mouse) {
   drawState_.mPainting = drawState_.mErasing = drawState_.mRestoring = drawState_.mRegionDown = false;
   if (!state_.current().present) return;
   locate(mouse);
+  if (state_.screen.mActivePanel == kCursorPanel) {
+    editor_.setHotspotByClick(mPixelX, mPixelY);
+    return;
+  }
   if (colors_.isPickerSelected()) {
     pickColor();
     return;

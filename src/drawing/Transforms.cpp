@@ -2,6 +2,7 @@
 
 #include "document/Hourglass.h"
 #include "document/Messages.h"
+#include "document/PanelNumbers.h"
 #include "drawing/ToolTable.h"
 #include "platform/gdi/Stretch.h"
 #include "platform/gdi/SurfaceOps.h"
@@ -12,7 +13,6 @@ namespace gp {
 
 namespace {
 
-constexpr int kColorPanelNumber = 0;
 constexpr const char* kEndShift = "Terminate Shift operation and accept the current image?\n";
 
 void mirrorHorizontally(Surface& target, const Surface& source) {
@@ -67,7 +67,7 @@ void Transforms::RotateLeft() { turn(turnLeft); }
 void Transforms::RotateRight() { turn(turnRight); }
 
 void Transforms::bringColorPanelForward() {
-  if (state_.screen.mActivePanel != kColorPanelNumber) editor_.showPanel(kColorPanelNumber);
+  if (state_.screen.mActivePanel != kColorPanel) editor_.showPanel(kColorPanel);
 }
 
 void Transforms::flip(Mirror mirror) {

@@ -1,5 +1,6 @@
 #include "drawing/UndoHistory.h"
 
+#include "document/PanelNumbers.h"
 #include "drawing/ToolTable.h"
 #include "platform/gdi/RasterOps.h"
 #include "platform/gdi/SurfaceOps.h"
@@ -11,7 +12,6 @@ namespace gp {
 
 namespace {
 
-constexpr int kColorPanelNumber = 0;
 constexpr std::size_t kMaxEntries = kMaxUndoSteps + 1;  // the baseline is none of the steps
 
 void moveLast(std::vector<Surface>& from, std::vector<Surface>& to) {
@@ -102,7 +102,7 @@ void UndoHistory::doRedo() {
 }
 
 void UndoHistory::bringColorPanelForward() {
-  if (state_.screen.mActivePanel != kColorPanelNumber) editor_.showPanel(kColorPanelNumber);
+  if (state_.screen.mActivePanel != kColorPanel) editor_.showPanel(kColorPanel);
 }
 
 bool UndoHistory::fitsIcon(const Surface& snapshot) const {

@@ -4,6 +4,7 @@
 #include "support/FakeEditor.h"
 #include "support/ScriptedPorts.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace gp {
@@ -231,6 +232,16 @@ TEST_F(EditingAreaTest, TheStatusBarTellsOfTheRecord) {
   EXPECT_EQ(panels[4], "Alpha");
   EXPECT_TRUE(state.screen.imgAlphaOnStatusPanel);
   EXPECT_EQ(state.screen.progressPercent, -1);
+}
+
+TEST_F(EditingAreaTest, TheIconStaysInViewWhileTheStatusBarIsRefreshed) {
+  makeIcon(32);
+  area.MagnifyIcon();
+  const Surface before = state.picDisp;
+  area.RefreshStatusBar();
+  EXPECT_TRUE(std::ranges::equal(state.picDisp.pixels(), before.pixels()));
+  state.picDisp.clearDrawing();
+  EXPECT_TRUE(std::ranges::equal(state.picDisp.pixels(), before.pixels()));
 }
 
 TEST_F(EditingAreaTest, ADifferentBitCountInTheHeaderShowsTheAsterisk) {

@@ -1,3 +1,4 @@
+#include "document/PanelNumbers.h"
 #include "drawing/Freehand.h"
 #include "drawing/Tools.h"
 #include "support/FakeEditor.h"
@@ -280,6 +281,19 @@ TEST_F(ToolsTest, ThePickerTakesTheColourMarksNothingAndRecordsNoStep) {
   EXPECT_EQ(editor.count("recordUndo"), 1);
   tools.release({kLeftButton, 0, 5000, 5000});
   EXPECT_EQ(state.mCurrentColor, kGround) << "outside the icon there is no colour to take";
+}
+
+TEST_F(ToolsTest, AReleaseWhileTheCursorPanelIsUpTellsTheHotSpotWhateverIsSelectedAndMarksNothing) {
+  makeIcon(32);
+  tools.selectTool(kPaint);
+  colors.imgColorPicker();
+  state.current().modified = false;
+  state.screen.mActivePanel = kCursorPanel;
+  editor.calls.clear();
+  tools.release({kLeftButton, 0, 7.9F * static_cast<float>(state.gMagnification), 0});
+  EXPECT_EQ(editor.calls, std::vector<std::string>{"setHotspotByClick 7 0"});
+  EXPECT_FALSE(state.current().modified);
+  EXPECT_EQ(paintedPixels(), 0);
 }
 
 TEST_F(ToolsTest, AReleaseOfRegionOrShiftMarksTheIconAlthoughNoPixelChanged) {

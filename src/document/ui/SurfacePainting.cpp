@@ -75,12 +75,12 @@ QImage imageOf(const Surface& surface, const ScreenScale& scale, const QRect& pa
 }
 
 void paintCentred(DevicePainter& painter, const Surface& surface, const QRect& area, double ratio) {
-  const ScreenScale scale(surface.width(), 1, ratio);
-  const int side = scale.deviceSize();
-  if (side == 0 || surface.height() != surface.width()) return;
-  const QPoint corner = area.topLeft() + QPoint((area.width() - side) / 2, (area.height() - side) / 2);
-  const QRect visible = QRect(corner, QSize(side, side)) & area;
-  painter.drawImage(visible.topLeft(), imageOf(surface, scale, visible.translated(-corner)));
+  const ScreenScale columns(surface.width(), 1, ratio), rows(surface.height(), 1, ratio);
+  const QSize size(columns.deviceSize(), rows.deviceSize());
+  if (size.isEmpty()) return;
+  const QPoint corner = area.topLeft() + QPoint((area.width() - size.width()) / 2, (area.height() - size.height()) / 2);
+  const QRect visible = QRect(corner, size) & area;
+  painter.drawImage(visible.topLeft(), imageOf(surface, columns, visible.translated(-corner)));
 }
 
 }  // namespace gp

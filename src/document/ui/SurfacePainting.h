@@ -33,7 +33,7 @@ QRgb toRgb(Color color);
 // A part of what a Surface looks like through a scale; `part` is in device pixels and must lie inside.
 QImage imageOf(const Surface& surface, const ScreenScale& scale, const QRect& part);
 
-// Paints a square Surface of one pixel a cell in the middle of an area, as large as whole factors allow. `area` is in
+// Paints a Surface of one pixel a cell in the middle of an area, as large as whole factors allow. `area` is in
 // device pixels; what does not fit is cut off evenly.
 void paintCentred(DevicePainter& painter, const Surface& surface, const QRect& area, double ratio);
 

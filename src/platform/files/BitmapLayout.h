@@ -17,6 +17,7 @@ inline constexpr std::size_t kHeaderHeight = 8;
 inline constexpr std::size_t kHeaderBitCount = 14;
 inline constexpr std::size_t kHeaderCompression = 16;
 inline constexpr std::size_t kHeaderSizeImage = 20;
+inline constexpr std::size_t kHeaderColorsUsed = 32;
 
 inline constexpr std::size_t kRowAlignment = 4;
 

@@ -43,15 +43,80 @@ bool mayReplace(const fs::path& path) {
   return fs::is_regular_file(status) && (status.permissions() & fs::perms::owner_write) != fs::perms::none;
 }
 
-bool writeBytes(const fs::path& path, std::span<const std::uint8_t> bytes) {
+using Piece = std::span<const std::uint8_t>;
+
+WriteOutcome writePieces(const fs::path& path, std::span<const Piece> pieces) {
   std::ofstream stream(path, std::ios::binary | std::ios::trunc);
-  if (!stream) return false;
-  stream.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+  if (!stream) return {};
+  for (const Piece piece : pieces)
+    stream.write(reinterpret_cast<const char*>(piece.data()), static_cast<std::streamsize>(piece.size()));
   stream.close();
-  if (stream) return true;
+  if (stream) return {.opened = true, .whole = true};
   std::error_code ignored;
   fs::remove(path, ignored);
-  return false;
+  return {.opened = true, .whole = false};
+}
+
+bool writeBytes(const fs::path& path, Piece bytes) { return writePieces(path, {&bytes, 1}); }
+
+using Pieces = std::span<const Piece>;
+
+std::uintmax_t totalSize(Pieces pieces) {
+  std::uintmax_t size = 0;
+  for (const Piece piece : pieces) size += piece.size();
+  return size;
+}
+
+// The bytes [begin, end) of the content go to the same place of the file.
+bool writeRange(std::fstream& stream, Pieces pieces, std::uintmax_t begin, std::uintmax_t end) {
+  stream.seekp(static_cast<std::streamoff>(begin));
+  std::uintmax_t start = 0;
+  for (const Piece piece : pieces) {
+    const std::uintmax_t from = std::clamp(begin, start, start + piece.size()) - start;
+    const std::uintmax_t to = std::clamp(end, start, start + piece.size()) - start;
+    stream.write(reinterpret_cast<const char*>(piece.data()) + from, static_cast<std::streamsize>(to - from));
+    start += piece.size();
+  }
+  stream.flush();
+  return stream.good();
+}
+
+bool cutTo(const fs::path& path, std::uintmax_t size) {
+  std::error_code error;
+  fs::resize_file(path, size, error);
+  return !error;
+}
+
+// A byte that could not be written was not lost either, so that writing the former ones again makes the file whole.
+void putBack(const fs::path& path, Piece former) {
+  std::error_code ignored;
+  if (former.empty()) {
+    fs::remove(path, ignored);
+    return;
+  }
+  std::fstream stream(path, std::ios::in | std::ios::out | std::ios::binary);
+  writeRange(stream, {&former, 1}, 0, former.size());
+  stream.close();
+  cutTo(path, former.size());
+}
+
+// The file grows first: when there is no room for that, nothing of the former content has been touched yet.
+WriteOutcome overwrite(const fs::path& path, Pieces pieces, Piece former, std::uintmax_t formerSize) {
+  constexpr WriteOutcome kNotWhole{.opened = true, .whole = false};
+  std::fstream stream(path, std::ios::in | std::ios::out | std::ios::binary);
+  if (!stream) return {};
+  const std::uintmax_t size = totalSize(pieces);
+  const std::uintmax_t shared = std::min(size, formerSize);
+  if (!writeRange(stream, pieces, shared, size)) {
+    stream.close();
+    cutTo(path, formerSize);
+    return kNotWhole;
+  }
+  const bool written = writeRange(stream, pieces, 0, shared);
+  stream.close();
+  if (written && stream && cutTo(path, size)) return {.opened = true, .whole = true};
+  putBack(path, former);
+  return kNotWhole;
 }
 
 }  // namespace
@@ -76,8 +141,19 @@ bool replaceFile(const std::string& path, std::span<const std::uint8_t> bytes) {
   return mayReplace(path) && writeBytes(path, bytes);
 }
 
+WriteOutcome rewriteFile(const std::string& path, Pieces pieces, Piece former) {
+  if (!mayReplace(path) || totalSize(pieces) > kMaxFileBytes) return {};
+  const auto formerSize = sizeOf(path);
+  return formerSize ? overwrite(path, pieces, former, *formerSize) : writePieces(path, pieces);
+}
+
 bool FileExists(const std::string& path) {
   return isRegularFile(path) && std::ifstream(path, std::ios::binary).is_open();
+}
+
+bool isSameFile(const std::string& first, const std::string& second) {
+  std::error_code error;
+  return fs::equivalent(first, second, error) && !error;
 }
 
 bool directoryExists(const std::string& path) {

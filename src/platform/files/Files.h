@@ -33,10 +33,23 @@ std::optional<FileBytes> readFileStart(const std::string& path, std::size_t coun
 // (no write permission for its owner) or no regular file, and then it stays as it is; false too when the new one cannot
 // be written whole, and then neither is left.
 [[nodiscard]] bool replaceFile(const std::string& path, std::span<const std::uint8_t> bytes);
+// How the writing of a file went; it counts as true when all was written.
+struct WriteOutcome {
+  bool opened = false;  // false: what stood there stays as it was
+  bool whole = false;
+  operator bool() const { return whole; }
+};
+// Like replaceFile, with a content that stands in pieces, of 256 MB at most. When there is no room for more than the
+// file already has, it stays as it is. After any other failure the former content is put back; an empty one stands for
+// one that is not known, and then no file is left.
+[[nodiscard]] WriteOutcome rewriteFile(const std::string& path, std::span<const std::span<const std::uint8_t>> pieces,
+                                       std::span<const std::uint8_t> former);
 
 // True when the path is a regular file that can be opened for reading.
 bool FileExists(const std::string& path);
 bool directoryExists(const std::string& path);
+// True when both paths are there and lead to one file, links included.
+bool isSameFile(const std::string& first, const std::string& second);
 // True when the file is there and is read-only (no write permission for its owner), hidden, or a directory.
 bool HasFileAttribute(const std::string& path);
 // Names of the regular files directly in a folder that match a pattern, sorted by name with case ignored.

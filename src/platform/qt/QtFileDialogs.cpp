@@ -1,9 +1,9 @@
 #include "platform/qt/QtFileDialogs.h"
 
 #include "platform/files/Files.h"
+#include "platform/qt/DialogOwner.h"
 #include "platform/qt/PathText.h"
 
-#include <QApplication>
 #include <QColorDialog>
 #include <QFile>
 #include <QFileDialog>
@@ -83,13 +83,13 @@ void QtFileDialogs::prepareSave(QFileDialog& dialog, const FileDialogRequest& re
 }
 
 bool QtFileDialogs::openFile(const FileDialogRequest& request, std::string& path, int& error) {
-  QFileDialog dialog(QApplication::activeWindow());
+  QFileDialog dialog(dialogOwner());
   prepareOpen(dialog, request);
   return run(dialog, path, error);
 }
 
 bool QtFileDialogs::saveFile(const FileDialogRequest& request, std::string& path, int& error) {
-  QFileDialog dialog(QApplication::activeWindow());
+  QFileDialog dialog(dialogOwner());
   prepareSave(dialog, request);
   bool chosen = run(dialog, path, error);
   while (chosen && !mayReplace(dialog, request, path)) chosen = run(dialog, path, error);
@@ -97,7 +97,7 @@ bool QtFileDialogs::saveFile(const FileDialogRequest& request, std::string& path
 }
 
 bool QtFileDialogs::chooseColor(Color& color) {
-  QColorDialog dialog(QColor(redOf(color), greenOf(color), blueOf(color)), QApplication::activeWindow());
+  QColorDialog dialog(QColor(redOf(color), greenOf(color), blueOf(color)), dialogOwner());
   dialog.setOption(QColorDialog::DontUseNativeDialog);
   for (int i = 0; i < kCustomColors; ++i) QColorDialog::setCustomColor(i, Qt::white);
   if (dialog.exec() != QDialog::Accepted) return false;
@@ -109,7 +109,7 @@ bool QtFileDialogs::chooseColor(Color& color) {
 bool QtFileDialogs::choosePrinter(PrinterRequest& request) {
   auto printer = std::make_unique<QPrinter>();
   printer->setCopyCount(request.copies);
-  QPrintDialog dialog(printer.get(), QApplication::activeWindow());
+  QPrintDialog dialog(printer.get(), dialogOwner());
   dialog.setOption(QPrintDialog::PrintSelection, false);
   dialog.setOption(QPrintDialog::PrintPageRange, request.flags & kPrintPageNumbers);
   if (dialog.exec() != QDialog::Accepted) return false;

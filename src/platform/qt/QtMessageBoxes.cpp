@@ -1,8 +1,8 @@
 #include "platform/qt/QtMessageBoxes.h"
 
+#include "platform/qt/DialogOwner.h"
 #include "platform/qt/PathText.h"
 
-#include <QApplication>
 #include <QMessageBox>
 
 namespace gp {
@@ -83,7 +83,7 @@ void QtMessageBoxes::prepare(QMessageBox& box, const std::string& text, BoxButto
 }
 
 BoxAnswer QtMessageBoxes::show(const std::string& text, BoxButtons buttons, BoxIcon icon, BoxAnswer suggested) {
-  QMessageBox box(QApplication::activeWindow());
+  QMessageBox box(dialogOwner());
   prepare(box, text, buttons, icon, suggested);
   return answerOf(box.exec(), buttons);
 }

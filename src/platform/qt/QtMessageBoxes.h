@@ -1,5 +1,5 @@
 // Message boxes on the desktop. Works from the moment a QApplication exists, with or without a main form; a box stands
-// over the window that is active when it comes up.
+// over the modal window that is up, else over the active one.
 #pragma once
 
 #include "platform/ports/MessageBoxes.h"

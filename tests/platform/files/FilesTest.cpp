@@ -1,12 +1,12 @@
 #include "platform/files/Files.h"
+#include "support/FullDisk.h"
 #include "support/TempFolder.h"
 
-#include <csignal>
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
+#include <vector>
 
 namespace gp {
 namespace {
@@ -122,34 +122,122 @@ TEST_F(Files, FoldersPipesAndImpossibleNamesAreNotReplaced) {
   EXPECT_TRUE(directoryExists(folder_.path()));
 }
 
-// Lets no file of this process grow beyond a limit, as a full disk does.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) : formerHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &former_);
-    const rlimit limit{bytes, former_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &former_);
-    std::signal(SIGXFSZ, formerHandler_);
-  }
-
- private:
-  rlimit former_{};
-  void (*formerHandler_)(int);
-};
-
 TEST_F(Files, AWriteThatFailsLeavesNoPartOfTheFile) {
   const std::string path = folder_.write("a", "old");
   const std::string content(100000, 'x');
   {
-    const FullDisk full(1000);
+    const test::FullDisk full(1000);
     EXPECT_FALSE(replaceWith(path, content));
     EXPECT_FALSE(fs::exists(path));
     EXPECT_TRUE(replaceWith(path, "small"));
   }
   EXPECT_TRUE(replaceWith(path, content));
+}
+
+std::span<const std::uint8_t> bytesOf(std::string_view text) {
+  return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
+}
+
+WriteOutcome rewriteWith(const std::string& path, std::string_view text, std::string_view former) {
+  const std::size_t half = text.size() / 2;
+  const std::vector pieces{bytesOf(text.substr(0, half)), bytesOf(""), bytesOf(text.substr(half))};
+  return rewriteFile(path, pieces, bytesOf(former));
+}
+
+TEST_F(Files, RewritingPutsThePiecesOneBehindTheOther) {
+  for (const std::string content : {"longer than before", "short", ""}) {
+    const std::string path = folder_.write("a", "of ten let");
+    const WriteOutcome outcome = rewriteWith(path, content, "of ten let");
+    EXPECT_TRUE(outcome.opened && outcome.whole) << content;
+    EXPECT_EQ(folder_.read("a"), content);
+  }
+}
+
+TEST_F(Files, RewritingMakesANewFile) {
+  EXPECT_TRUE(rewriteWith(folder_.file("new"), "content", ""));
+  EXPECT_EQ(folder_.read("new"), "content");
+}
+
+TEST_F(Files, RewritingKeepsPermissionsAndEveryLink) {
+  const std::string path = folder_.write("a", "old");
+  fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
+  fs::create_hard_link(path, folder_.file("hard"));
+  fs::create_symlink(path, folder_.file("soft"));
+  EXPECT_TRUE(rewriteWith(folder_.file("soft"), "content", "old"));
+  EXPECT_EQ(folder_.read("hard"), "content");
+  EXPECT_TRUE(fs::is_symlink(folder_.file("soft")));
+  EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(Files, WhatCannotBeOpenedForRewritingStaysAsItWas) {
+  const std::string path = folder_.write("a", "old");
+  fs::permissions(path, fs::perms::owner_read);
+  makePipe(folder_.file("pipe"));
+  for (const std::string& target : {path, folder_.file("pipe"), folder_.path(), folder_.file("absent/a")}) {
+    const WriteOutcome outcome = rewriteWith(target, "new", "old");
+    EXPECT_FALSE(outcome.opened || outcome.whole) << target;
+  }
+  EXPECT_EQ(folder_.read("a"), "old");
+}
+
+TEST_F(Files, ARewritingWithoutRoomToGrowLeavesTheFileAsItWas) {
+  const std::string old(2000, 'o');
+  const std::string path = folder_.write("a", old);
+  for (const std::string& former : {old, std::string()}) {
+    const test::FullDisk full(50000);
+    const WriteOutcome outcome = rewriteWith(path, std::string(100000, 'n'), former);
+    EXPECT_TRUE(outcome.opened);
+    EXPECT_FALSE(outcome.whole);
+    EXPECT_EQ(folder_.read("a"), old);
+  }
+}
+
+TEST_F(Files, ARewritingThatFailsInTheMidstPutsTheFormerContentBack) {
+  const std::string old(100000, 'o');
+  const std::string path = folder_.write("a", old);
+  const test::FullDisk full(50000);
+  EXPECT_FALSE(rewriteWith(path, std::string(80000, 'n'), old));
+  EXPECT_TRUE(folder_.read("a") == old);
+}
+
+TEST_F(Files, ARewritingThatFailsInTheMidstOfAnUnknownContentLeavesNone) {
+  const std::string path = folder_.write("a", std::string(100000, 'o'));
+  const test::FullDisk full(50000);
+  EXPECT_FALSE(rewriteWith(path, std::string(80000, 'n'), ""));
+  EXPECT_FALSE(fs::exists(path));
+}
+
+TEST_F(Files, ANewFileWithoutRoomIsNotLeftInPart) {
+  const test::FullDisk full(1000);
+  const WriteOutcome outcome = rewriteWith(folder_.file("new"), std::string(100000, 'n'), "");
+  EXPECT_TRUE(outcome.opened);
+  EXPECT_FALSE(outcome.whole);
+  EXPECT_FALSE(fs::exists(folder_.file("new")));
+}
+
+TEST_F(Files, OnAFullDiskAFileThatShouldGrowStaysAsItWas) {
+  const std::string folder = folder_.makeFolder("disk");
+  const test::SmallDisk disk(folder);
+  if (!disk.isMounted()) GTEST_SKIP() << "only root can mount a disk";
+  const std::string old(5000, 'o');
+  const std::string path = folder_.write("disk/a", old);
+  disk.fillUpTo(4096);
+  EXPECT_FALSE(rewriteWith(path, std::string(20000, 'n'), old));
+  EXPECT_EQ(folder_.read("disk/a"), old);
+  EXPECT_TRUE(rewriteWith(path, std::string(5000, 'n'), old)) << "what is no larger finds its room";
+  EXPECT_EQ(folder_.read("disk/a"), std::string(5000, 'n'));
+}
+
+TEST_F(Files, AFileIsTheSameBySpellingAndByLinks) {
+  const std::string path = folder_.write("a", "x");
+  const std::string other = folder_.write("b", "x");
+  fs::create_symlink(path, folder_.file("soft"));
+  EXPECT_TRUE(isSameFile(path, path));
+  EXPECT_TRUE(isSameFile(path, folder_.path() + "/./a"));
+  EXPECT_TRUE(isSameFile(folder_.file("soft"), path));
+  EXPECT_FALSE(isSameFile(path, other));
+  EXPECT_FALSE(isSameFile(folder_.file("none"), folder_.file("none"))) << "what is not there is no file";
+  EXPECT_FALSE(isSameFile("", path));
 }
 
 TEST_F(Files, ReplacingKeepsPermissionsAndFollowsLinks) {
