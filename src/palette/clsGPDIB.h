@@ -1,0 +1,63 @@
+// One device-independent bitmap of 32 bits a pixel, the working buffer of every palette conversion: a picture is copied
+// in, palette and dither work on its pixels in place, and the result is copied out. It owns the pixels. Rows run from
+// the bottom of the picture upward and have no padding.
+#pragma once
+
+#include "platform/gdi/RasterOps.h"
+#include "platform/gdi/Surface.h"
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace gp {
+
+// The bytes of a pixel and of a palette entry, in their order.
+struct DibPixel {
+  std::uint8_t blue = 0;
+  std::uint8_t green = 0;
+  std::uint8_t red = 0;
+  std::uint8_t unused = 0;
+  bool operator==(const DibPixel&) const = default;
+};
+
+constexpr DibPixel dibPixel(Color color) {
+  return {static_cast<std::uint8_t>(blueOf(color)), static_cast<std::uint8_t>(greenOf(color)),
+          static_cast<std::uint8_t>(redOf(color)), 0};
+}
+constexpr Color colorOf(DibPixel pixel) { return rgb(pixel.red, pixel.green, pixel.blue); }
+
+class clsGPDIB {
+ public:
+  // A black bitmap; what was held before is gone. False, and then it is empty, for a side below 1 or more than 2 GB.
+  bool CreateBlankDIB(int width, int height);
+  // A bitmap of the picture's size that shows it; empty for a picture without pixels.
+  void CreateDIBFromPic(const Surface& picture);
+  // Copies a part of `source` to the top left corner. A negative width or height means the bitmap's own.
+  void PaintToDIB(const Surface& source, int sourceX, int sourceY, int width, int height, RasterOp operation);
+  // Copies a part of the bitmap to `target`; sizes as above.
+  void PaintFromDIB(Surface& target, int targetX, int targetY, int width, int height, int sourceX, int sourceY,
+                    RasterOp operation) const;
+  void ClearUp();
+
+  bool isEmpty() const { return bits_.empty(); }
+  int DIBWidth() const { return width_; }
+  int DIBHeight() const { return height_; }
+  // All pixels. They move when the size changes.
+  std::span<DibPixel> DIBBitsPtr() { return bits_; }
+  std::span<const DibPixel> DIBBitsPtr() const { return bits_; }
+  // Row 0 is the bottom one; y must lie inside.
+  std::span<DibPixel> row(int y);
+  std::span<const DibPixel> row(int y) const;
+
+ private:
+  std::size_t start(int y) const { return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_); }
+  Surface shown() const;
+  void takeOver(const Surface& picture);
+
+  int width_ = 0;
+  int height_ = 0;
+  std::vector<DibPixel> bits_;
+};
+
+}  // namespace gp
