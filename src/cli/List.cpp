@@ -1,3 +1,4 @@
+#include "cli/ImageFile.h"
 #include "cli/Json.h"
 #include "cli/Subcommands.h"
 #include "files/IconProbe.h"
@@ -7,9 +8,6 @@
 namespace gp::cli {
 namespace {
 
-// A byte of 0 stands for 256 pixels.
-constexpr int kSideOfZero = 256;
-
 // One image as it is listed.
 struct ImageRow {
   int index, width, height;
@@ -17,16 +15,25 @@ struct ImageRow {
   unsigned bytes, offset;
   const char* encoding;
   bool usable;
+  bool hasHotspot;
+  int hotspotX, hotspotY;
 };
 
-int sideOf(int told) { return told == 0 ? kSideOfZero : told; }
-
-ImageRow rowOf(const IconFile& file, int index) {
-  const auto bytes = file.bytes.span();
+// In a cursor's directory the places of planes and bits hold the hot spot: depth is known from the bitmap header alone.
+IconFacts factsOfImage(const ImageFile& file, int index) {
   const IconEntry entry = file.directory.entry(index);
-  IconFacts facts = factsOfEntry(bytes, file.directory, index);
-  const bool isPng = isPngImage(bytes, entry);
-  if (isPng) facts.headerColors = facts.headerBits = 0;  // there is no bitmap header
+  IconFacts facts = factsOfEntry(file.bytes.span(), file.directory, index);
+  if (file.isCursor()) facts.headerColors = ColorsForBitCount(facts.headerBits);
+  if (isPngImage(file.bytes.span(), entry)) facts.headerColors = facts.headerBits = 0;  // there is no bitmap header
+  if (!file.isCursor()) return facts;
+  facts.dirColors = facts.headerColors;
+  facts.dirBits = facts.headerBits;
+  return facts;
+}
+
+ImageRow rowOf(const ImageFile& file, int index) {
+  const IconEntry entry = file.directory.entry(index);
+  const IconFacts facts = factsOfImage(file, index);
   return {index,
           sideOf(entry.width),
           sideOf(entry.height),
@@ -36,32 +43,37 @@ ImageRow rowOf(const IconFile& file, int index) {
           facts.headerBits,
           entry.bytesInRes,
           entry.imageOffset,
-          isPng ? "png" : "bmp",
-          isUsableEntry(bytes, entry)};
+          isPngImage(file.bytes.span(), entry) ? "png" : "bmp",
+          isUsableImage(file, index),
+          file.isCursor(),
+          entry.hotspotX(),
+          entry.hotspotY()};
 }
 
 void printText(const std::string& path, const ImageRow& row) {
-  std::printf("%s\t%d\t%dx%d\t%d\t%d\t%d\t%d\t%u\t%u\t%s\t%s\n", path.c_str(), row.index, row.width, row.height,
+  std::printf("%s\t%d\t%dx%d\t%d\t%d\t%d\t%d\t%u\t%u\t%s\t%s", path.c_str(), row.index, row.width, row.height,
               row.colors, row.bits, row.headerColors, row.headerBits, row.bytes, row.offset, row.encoding,
               row.usable ? "usable" : "unusable");
+  if (row.hasHotspot) std::printf("\t%d\t%d", row.hotspotX, row.hotspotY);
+  std::putchar('\n');
 }
 
 void printJson(const ImageRow& row) {
   std::printf(
       "{\"index\":%d,\"width\":%d,\"height\":%d,\"colors\":%d,\"bits\":%d,\"headerColors\":%d,\"headerBits\":%d,"
-      "\"bytes\":%u,\"offset\":%u,\"encoding\":\"%s\",\"usable\":%s}",
+      "\"bytes\":%u,\"offset\":%u,\"encoding\":\"%s\",\"usable\":%s",
       row.index, row.width, row.height, row.colors, row.bits, row.headerColors, row.headerBits, row.bytes, row.offset,
       row.encoding, row.usable ? "true" : "false");
+  if (row.hasHotspot) std::printf(",\"hotspotX\":%d,\"hotspotY\":%d", row.hotspotX, row.hotspotY);
+  std::putchar('}');
 }
-
-int imageCount(const IconFile& file) { return static_cast<int>(file.directory.entries.size()); }
 
 int listAsText(const Arguments& files) {
   int status = kDone;
   for (const std::string& path : files) {
-    const auto file = openIconFile(path);
+    const auto file = openImageFile(path);
     if (!file) status = kRefused;
-    for (int i = 0; file && i < imageCount(*file); ++i) printText(path, rowOf(*file, i));
+    for (int i = 0; file && i < file->imageCount(); ++i) printText(path, rowOf(*file, i));
   }
   return status;
 }
@@ -70,13 +82,14 @@ int listAsJson(const Arguments& files) {
   int status = kDone;
   const char* separator = "[";
   for (const std::string& path : files) {
-    const auto file = openIconFile(path);
+    const auto file = openImageFile(path);
     if (!file) {
       status = kRefused;
       continue;
     }
-    std::printf("%s\n{\"file\":%s,\"kind\":\"ico\",\"images\":[", separator, jsonText(path).c_str());
-    for (int i = 0; i < imageCount(*file); ++i) {
+    std::printf("%s\n{\"file\":%s,\"kind\":\"%s\",\"images\":[", separator, jsonText(path).c_str(),
+                file->isCursor() ? "cur" : "ico");
+    for (int i = 0; i < file->imageCount(); ++i) {
       std::fputs(i == 0 ? "\n" : ",\n", stdout);
       printJson(rowOf(*file, i));
     }

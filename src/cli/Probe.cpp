@@ -1,4 +1,6 @@
 #include "cli/Subcommands.h"
+#include "files/CursorProbe.h"
+#include "files/IcoLayout.h"
 #include "files/IconDecoder.h"
 #include "files/IconFileBytes.h"
 #include "files/IconProbe.h"
@@ -8,13 +10,18 @@
 namespace gp::cli {
 namespace {
 
+std::string numbersOf(std::span<const std::uint8_t> file) {
+  const bool isCursor = parseIconDirectory(file).type == ico::kTypeCursor;
+  return isCursor ? probeCursor(file).joined() : probeIcon(file, true).joined();
+}
+
 bool probeFile(const std::string& path) {
   const auto bytes = readIconFile(path);
   if (!bytes) {
     complain(path, describe(IconDefect::NotReadable));
     return false;
   }
-  std::printf("%s\t%s\n", path.c_str(), probeIcon(bytes->span(), true).joined().c_str());
+  std::printf("%s\t%s\n", path.c_str(), numbersOf(bytes->span()).c_str());
   return true;
 }
 

@@ -6,9 +6,19 @@
 
 namespace gp::cli {
 
+// Looking.
 int runProbe(const Arguments& arguments);
 int runList(const Arguments& arguments);
+int runCheck(const Arguments& arguments);
+// Taking apart.
 int runUnpack(const Arguments& arguments);
+int runSplit(const Arguments& arguments);
+// Writing.
 int runResave(const Arguments& arguments);
+int runReplace(const Arguments& arguments);
+int runAdd(const Arguments& arguments);
+int runRemove(const Arguments& arguments);
+int runReorder(const Arguments& arguments);
+int runSalvage(const Arguments& arguments);
 
 }  // namespace gp::cli

@@ -1,15 +1,10 @@
+#include "cli/ImageFile.h"
+#include "cli/OutputFolder.h"
 #include "cli/Subcommands.h"
-#include "files/IconDecoder.h"
-#include "files/IconProbe.h"
-#include "platform/text/Paths.h"
-
-#include <filesystem>
-#include <set>
 
 namespace gp::cli {
 namespace {
 
-constexpr int kAlphaBits = 32;
 constexpr std::uint8_t kTransparent = 255;
 constexpr std::uint8_t kOpaque = 0;
 
@@ -54,41 +49,24 @@ Netpbm alphaFile(const AlphaMatrix& alpha) {
   return file;
 }
 
-// Gives each input a name of its own: NAME, NAME-2, NAME-3 ...
-class OutputNames {
- public:
-  std::string nameFor(const std::string& path) {
-    const std::string bare = std::filesystem::path(path).stem().string();
-    std::string name = bare;
-    for (int number = 2; !taken_.insert(name).second; ++number) name = bare + "-" + std::to_string(number);
-    return name;
-  }
-
- private:
-  std::set<std::string> taken_;
-};
-
-// Decodes one entry as the editor does and writes its files. False when one cannot be written.
-bool unpackEntry(const IconFile& file, int index, const std::string& prefix) {
-  const IconEntry entry = file.directory.entry(index);
-  Surface image(entry.width, entry.height), mask(entry.width, entry.height);
-  AlphaMatrix alpha;
-  if (decodeEntry(file.bytes.span(), entry, entry.width, entry.height, {image, mask, alpha}) != IconDefect::None)
-    return false;
+// Decodes one image as the editor does and writes its files. False when one cannot be written.
+bool unpackImage(const ImageFile& file, int index, const std::string& prefix) {
+  const auto decoded = decodeImage(file, index);
+  if (!decoded) return false;
   const std::string start = prefix + "_" + std::to_string(index);
-  const bool hasAlpha = factsOfEntry(file.bytes.span(), file.directory, index).bitCount() == kAlphaBits;
-  return imageFile(image).writeTo(start + ".image.ppm") && maskFile(mask).writeTo(start + ".mask.pgm") &&
-         (!hasAlpha || alphaFile(alpha).writeTo(start + ".alpha.pgm"));
+  return imageFile(decoded->image).writeTo(start + ".image.ppm") &&
+         maskFile(decoded->mask).writeTo(start + ".mask.pgm") &&
+         (!decoded->hasAlpha || alphaFile(decoded->alpha).writeTo(start + ".alpha.pgm"));
 }
 
 bool unpackFile(const std::string& path, const std::string& prefix) {
-  const auto file = openIconFile(path);
+  const auto file = openImageFile(path);
   if (!file) return false;
   int unpacked = 0;
-  for (int i = 0; i < static_cast<int>(file->directory.entries.size()); ++i) {
-    if (!isUsableEntry(file->bytes.span(), file->directory.entry(i))) continue;
+  for (int i = 0; i < file->imageCount(); ++i) {
+    if (!isUsableImage(*file, i)) continue;
     ++unpacked;
-    if (unpackEntry(*file, i, prefix)) continue;
+    if (unpackImage(*file, i, prefix)) continue;
     complain(path, "image " + std::to_string(i) + " cannot be written to " + prefix);
     return false;
   }
@@ -96,46 +74,15 @@ bool unpackFile(const std::string& path, const std::string& prefix) {
   return unpacked != 0;
 }
 
-// Splits "FILE... -d DIR"; false without exactly one folder.
-bool takeFolder(const Arguments& arguments, Arguments& others, std::string& folder) {
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    if (arguments[i] == "--") {
-      others.insert(others.end(), arguments.begin() + static_cast<std::ptrdiff_t>(i), arguments.end());
-      break;
-    }
-    if (arguments[i] != "-d") {
-      others.push_back(arguments[i]);
-      continue;
-    }
-    if (!folder.empty() || ++i == arguments.size()) return false;
-    folder = arguments[i];
-  }
-  return !folder.empty();
-}
-
-bool makeFolder(const std::string& folder) {
-  std::error_code error;
-  std::filesystem::create_directories(folder, error);
-  return directoryExists(folder);
-}
-
 }  // namespace
 
 int runUnpack(const Arguments& arguments) {
-  Arguments others;
-  std::string folder;
-  if (!takeFolder(arguments, others, folder)) return badUsage("unpack: one -d DIR is needed");
-  const Split split = splitOptions(others);
-  if (!split.options.empty()) return badUsage("unpack: unknown option " + split.options.front());
-  if (split.files.empty()) return badUsage("unpack: no file given");
-  if (!makeFolder(folder)) {
-    complain(folder, "not a folder, and cannot be made");
-    return kRefused;
-  }
+  FolderArguments told;
+  if (const int status = takeFolderArguments("unpack", arguments, told); status != kDone) return status;
   OutputNames names;
   int status = kDone;
-  for (const std::string& path : split.files)
-    if (!unpackFile(path, folder + "/" + names.nameFor(path))) status = kRefused;
+  for (const std::string& path : told.files)
+    if (!unpackFile(path, told.folder + "/" + names.nameFor(stemOf(path)))) status = kRefused;
   return status;
 }
 

@@ -15,13 +15,16 @@ struct Subcommand {
   int (*run)(const Arguments& arguments);
 };
 
-constexpr std::array<Subcommand, 4> kSubcommands{{
+constexpr std::array<Subcommand, 11> kSubcommands{{
     {"probe", "probe FILE...",
      "Prints the file's name, a tab, and nine numbers joined by \"/\": kind (0 no icon\n"
      "file, 1 one entry, 2 several), usable entries as far as the scan went, chosen\n"
      "entry, its width, height, colors and bits by the directory, colors and bits by\n"
      "the bitmap header. Colors are -1 for true color. Of several entries the first\n"
-     "of 32x32 is chosen, or a later one of 32x32 with 8 bits, which ends the scan.",
+     "of 32x32 is chosen, or a later one of 32x32 with 8 bits, which ends the scan.\n"
+     "Of a cursor file, which its content tells and not its name, there are three\n"
+     "numbers: 1 for a cursor that the editor takes, its colors and its bits by the\n"
+     "bitmap header; 0/0/0 for others.",
      runProbe},
     {"list", "list [--json] FILE...",
      "Prints one line per image, parted by tabs: file, index, size, colors and bits by\n"
@@ -29,25 +32,76 @@ constexpr std::array<Subcommand, 4> kSubcommands{{
      "encoding (bmp or png), usable or unusable. A width or height of 0 in the file is\n"
      "256. Usable images are square bitmaps of 16, 24, 32 or 48 pixels and of 1, 4, 8,\n"
      "24 or 32 bits. With --json, one array with an object for each file; bytes of a\n"
-     "name that are not UTF-8 stand as \"\\udc80\" to \"\\udcff\".",
+     "name that are not UTF-8 stand as \"\\udc80\" to \"\\udcff\".\n"
+     "Lines of cursor files end with two more columns, the hot spot's x and y (with\n"
+     "--json: kind \"cur\", \"hotspotX\", \"hotspotY\"). A cursor's directory tells no\n"
+     "depth: both pairs of colors and bits are the bitmap header's. Usable is a first\n"
+     "image of 32x32 at offset 22 with its hot spot inside.",
      runList},
+    {"check", "check FILE...",
+     "Prints one line for each place where directory, headers and pixels of an icon or\n"
+     "cursor file contradict each other, parted by tabs: file, index, what, and what\n"
+     "the directory, the header and the pixels tell of it (\"-\" for nothing). What is\n"
+     "  width, height  the size; PNG pictures are asked too\n"
+     "  colors, bits   the depth; last, the depth that the pixels need\n"
+     "  bytes          fewer told than the image needs; \"incomplete\" for a cut PNG\n"
+     "  offset         inside the directory; last, where that ends\n"
+     "  end            behind the file's end; last, the file's size\n"
+     "  pixels         palette index beyond the colors that the header tells\n"
+     "  shared         the same bytes as another image\n"
+     "  same           size and colors of an image before it\n"
+     "  hotspotX, hotspotY  outside the picture; last, its width or height\n"
+     "  count          more entries told than the file holds (index \"-\")\n"
+     "Old icons that tell colors but no bits are healthy. Exit status 1 if there is any.",
+     runCheck},
     {"unpack", "unpack FILE... -d DIR",
      "Writes for every usable image NAME_INDEX.image.ppm, NAME_INDEX.mask.pgm (255\n"
      "transparent) and, with 32 bits, NAME_INDEX.alpha.pgm, as the editor shows them.\n"
      "NAME is the file's name without folder and extension; when two files share it,\n"
      "the later ones become NAME-2, NAME-3 and so on. DIR is made if it is not there.",
      runUnpack},
+    {"split", "split FILE... -d DIR",
+     "Writes every image of every size, PNG pictures too, as a single-icon file with\n"
+     "the image's bytes as they are: NAME_SIZE_COLOR.ico, where SIZE is the height and\n"
+     "COLOR the colors, or the bits and \"bpp\" for true color, by the directory:\n"
+     "NAME_32_256.ico, NAME_48_32bpp.ico. No two of one call get the same name: the\n"
+     "later ones become NAME_32_256-2.ico and so on, and none gets the name of an input\n"
+     "that stands in DIR. Other files of that name are replaced. DIR is made if it is\n"
+     "not there. An image that is not all there costs a complaint and not the others.",
+     runSplit},
     {"resave", "resave IN.ico INDEX OUT.ico", "Loads one image as the editor does and saves it as the editor does.",
      runResave},
+    {"replace", "replace FILE INDEX ICON.ico [-o OUT]",
+     "Puts ICON.ico in the place of one image. The icon is loaded and saved as the\n"
+     "editor does; of several images it has, the one that probe chooses. Refused when\n"
+     "another image of the file has its size and colors.",
+     runReplace},
+    {"add", "add FILE... ICON.ico [--at N] [-o OUT]",
+     "Adds ICON.ico to each file, as its image number N counted from 1, without --at\n"
+     "behind the last one. Loading and refusals as with replace. -o goes with one FILE.",
+     runAdd},
+    {"remove", "remove FILE INDEX [-o OUT]", "Takes one image out. The last one stays.", runRemove},
+    {"reorder", "reorder FILE 3,1,2 [-o OUT]",
+     "Puts the images into another sequence: here the third first. The numbers count\n"
+     "from 1, and each must stand there once.",
+     runReorder},
+    {"salvage", "salvage FILE -o OUT",
+     "Writes a copy whose directory takes width, height and bits from the bitmap\n"
+     "headers. Images and color counts stay, and entries of PNG pictures too. Refused\n"
+     "when the directory tells a width or height above 128.",
+     runSalvage},
 }};
 
 void printHelp() {
-  std::puts("gpicon - looks into Windows icon files, takes them apart and saves them again\n");
+  std::puts("gpicon - looks into Windows icon and cursor files, takes icon files apart and changes them\n");
   for (const Subcommand& command : kSubcommands) std::printf("gpicon %s\n%s\n\n", command.usage, command.help);
   std::puts(
       "gpicon --help\nPrints this.\n\n"
-      "Indices count from 0. Options end at \"--\". A bad file costs one line on stderr and\n"
-      "not the others. Exit status: 0 done, 1 a file was bad or refused, 2 bad usage.");
+      "Indices count from 0. Options end at \"--\". replace, add, remove, reorder and salvage\n"
+      "write to OUT, replacing it, or else the file itself. They write nothing when they\n"
+      "refuse, and leave what was there when it cannot be written whole. A bad file costs\n"
+      "one line on stderr and not the others. Exit status: 0 done, 1 a file was bad or\n"
+      "refused, 2 bad usage.");
 }
 
 bool isHelp(const std::string& argument) { return argument == "--help" || argument == "-h" || argument == "help"; }

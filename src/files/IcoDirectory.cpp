@@ -18,6 +18,8 @@ IconEntry parseEntry(ByteReader& reader, std::size_t at) {
   entry.height = reader.u8At(at + ico::kEntryHeight);
   entry.colorCount = reader.u8At(at + ico::kEntryColorCount);
   entry.bitCount = reader.u16At(at + ico::kEntryBitCount);
+  entry.reserved = reader.u8At(at + ico::kEntryReserved);
+  entry.planes = reader.u16At(at + ico::kEntryPlanes);
   entry.bytesInRes = reader.u32At(at + ico::kEntryBytesInRes);
   entry.imageOffset = reader.u32At(at + ico::kEntryImageOffset);
   return entry;
@@ -44,6 +46,7 @@ int colorsForBits(int bitCount) {
 }  // namespace
 
 bool IconDirectory::isIcon() const { return type == ico::kTypeIcon && count >= 1; }
+bool IconDirectory::isCursor() const { return type == ico::kTypeCursor && count >= 1; }
 
 IconEntry IconDirectory::entry(int index) const {
   return index >= 0 && static_cast<std::size_t>(index) < entries.size() ? entries[static_cast<std::size_t>(index)]
@@ -53,6 +56,7 @@ IconEntry IconDirectory::entry(int index) const {
 IconDirectory parseIconDirectory(std::span<const std::uint8_t> file) {
   ByteReader reader(file);
   IconDirectory directory;
+  directory.reserved = reader.u16At(0);
   directory.type = reader.u16At(ico::kDirType);
   directory.count = reader.u16At(ico::kDirCount);
   const std::size_t present = entriesPresent(file.size(), static_cast<std::size_t>(directory.count));

@@ -17,15 +17,25 @@ struct IconEntry {
   int bitCount = 0;    // 0 in old icons
   std::uint32_t bytesInRes = 0;
   std::uint32_t imageOffset = 0;
+  int reserved = 0;
+  int planes = 0;
+
+  bool operator==(const IconEntry&) const = default;
+
+  // What planes and bit count mean in a cursor file.
+  int hotspotX() const { return planes; }
+  int hotspotY() const { return bitCount; }
 };
 
 struct IconDirectory {
+  int reserved = 0;
   int type = 0;
   int count = 0;                   // as the file tells it, 0 to 65535
   std::vector<IconEntry> entries;  // those that the file holds, the last one perhaps in part, rest zero
 
-  // True for an icon file with at least one entry told.
+  // True for an icon or cursor file with at least one entry told.
   bool isIcon() const;
+  bool isCursor() const;
   // The entry, all zeros beyond what the file holds.
   IconEntry entry(int index) const;
 };

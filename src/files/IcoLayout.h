@@ -16,15 +16,21 @@ inline constexpr std::size_t kDirSize = 6;
 inline constexpr std::size_t kDirType = 2;
 inline constexpr std::size_t kDirCount = 4;
 inline constexpr int kTypeIcon = 1;
+inline constexpr int kTypeCursor = 2;
 
-// ICONDIRENTRY, from the start of the entry.
+// ICONDIRENTRY, from the start of the entry. In a cursor file planes and bit count are the hot spot's x and y.
 inline constexpr std::size_t kEntrySize = 16;
 inline constexpr std::size_t kEntryWidth = 0;
 inline constexpr std::size_t kEntryHeight = 1;
 inline constexpr std::size_t kEntryColorCount = 2;
+inline constexpr std::size_t kEntryReserved = 3;
+inline constexpr std::size_t kEntryPlanes = 4;
 inline constexpr std::size_t kEntryBitCount = 6;
 inline constexpr std::size_t kEntryBytesInRes = 8;
 inline constexpr std::size_t kEntryImageOffset = 12;
+
+// Where the image of a file with one entry stands.
+inline constexpr std::uint32_t kSingleImageOffset = kDirSize + kEntrySize;
 
 inline constexpr std::size_t kMaxEntries = 0xFFFF;
 inline constexpr std::size_t kMaxDirectorySize = kDirSize + kMaxEntries * kEntrySize;

@@ -25,7 +25,8 @@ std::size_t extentOf(const IconDirectory& directory) {
 std::optional<FileBytes> readIconFile(const std::string& path) {
   auto start = readFileStart(path, kFirstPart);
   if (!start || start->span().size() < kFirstPart) return start;
-  if (!parseIconDirectory(start->span()).isIcon()) return start;
+  const IconDirectory begun = parseIconDirectory(start->span());
+  if (!begun.isIcon() && !begun.isCursor()) return start;
   const auto directoryBytes = readFileStart(path, ico::kMaxDirectorySize);
   if (!directoryBytes) return std::nullopt;
   return readFileStart(path, extentOf(parseIconDirectory(directoryBytes->span())));

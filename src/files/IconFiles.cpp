@@ -1,44 +1,21 @@
 #include "files/IconFiles.h"
 
+#include "files/FileQuestions.h"
 #include "files/IconFileBytes.h"
 #include "files/IconLoading.h"
 #include "files/IconOpening.h"
-#include "platform/text/Paths.h"
 
 namespace gp {
-namespace {
 
-constexpr const char* kIconFilter = "Icon files (*.ico)|*.ico|";
-
-}  // namespace
-
-IconFiles::IconFiles(EditState& state, Editor& editor, Display& display, MessageBoxes& boxes, MessagePump& pump,
-                     clsGPDialog& dialog)
-    : context_{state, editor, display, boxes, pump, dialog} {}
+IconFiles::IconFiles(const FilesContext& context, MultiIconCommands& multiIcon)
+    : context_(context), multiIcon_(multiIcon) {}
 
 void IconFiles::doMnuFileOpenIcon() {
-  context_.editor.CommitPendingPaint();
-  bool proceed = true;
-  if (context_.state.IsIconChanged()) context_.editor.AskSaveCurrent("", proceed);
-  if (!proceed) return;
-
-  OpenOptions options;
-  options.filter = kIconFilter;
-  options.initialFolder = context_.state.process.mLastFolder;
-  const std::string path = context_.dialog.ShowOpen(options);
-  if (path.empty()) return;
-  context_.state.process.mLastFolder = ParseFileName(path, PathPart::DriveAndFolder);
-
-  bool ok = false;
-  doOpenIconFile(path, true, ok);
-  if (!ok) return;
-  context_.state.process.mCommandFile = path;
-  context_.editor.chooseColorChart();
+  openChosenFile(context_, kIconFilter, [this](const std::string& path, bool& ok) { doOpenIconFile(path, true, ok); });
 }
 
-// Until the browser of multi-icon files is there, such a file opens its chosen entry whatever `useBrowser` says.
-void IconFiles::doOpenIconFile(const std::string& path, bool /*useBrowser*/, bool& ok) {
-  ok = IconOpening(context_, path, OpeningManner::Spoken).run();
+void IconFiles::doOpenIconFile(const std::string& path, bool useBrowser, bool& ok) {
+  ok = IconOpening(context_, path, OpeningManner::Spoken, useBrowser ? &multiIcon_ : nullptr).run();
 }
 
 void IconFiles::doOpenIconFileQuietly(const std::string& path, bool& ok) {

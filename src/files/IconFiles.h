@@ -3,6 +3,7 @@
 #pragma once
 
 #include "files/FilesContext.h"
+#include "files/MultiIconCommands.h"
 
 #include <string>
 
@@ -10,12 +11,13 @@ namespace gp {
 
 class IconFiles {
  public:
-  IconFiles(EditState& state, Editor& editor, Display& display, MessageBoxes& boxes, MessagePump& pump,
-            clsGPDialog& dialog);
+  // `multiIcon` must outlive this.
+  IconFiles(const FilesContext& context, MultiIconCommands& multiIcon);
 
   // The command "&Open Icon File  (ico) ....": offers to save, asks for a file and opens it.
   void doMnuFileOpenIcon();
-  // Opens a file and tells the user what he should know of it.
+  // Opens a file and tells the user what he should know of it. With `useBrowser` he chooses among several icons
+  // himself.
   void doOpenIconFile(const std::string& path, bool useBrowser, bool& ok);
   // The same without any box, question, history entry or reminder.
   void doOpenIconFileQuietly(const std::string& path, bool& ok);
@@ -27,6 +29,7 @@ class IconFiles {
 
  private:
   FilesContext context_;
+  MultiIconCommands& multiIcon_;
 };
 
 }  // namespace gp

@@ -34,6 +34,16 @@ IconDefect loadIconPixels(std::span<const std::uint8_t> file, int index, SizeSou
   return defect;
 }
 
+void emptyContainerFor(EditState& state, Editor& editor, int size) {
+  editor.clearRegion();
+  editor.clearUndoHistory();
+  editor.ClearContainer();
+  state.picDisp.clearPicture();
+  state.current().size = static_cast<std::int16_t>(size);
+  editor.SizePanelSurfaces(size);
+  editor.SizeEditSurfaces(size);
+}
+
 void describeLoadedIcon(EditState& state, const IconFacts& facts, const std::string& path) {
   IconContainerRec& record = state.current();
   record.used = true;
@@ -47,6 +57,8 @@ void describeLoadedIcon(EditState& state, const IconFacts& facts, const std::str
   record.path = path;
   record.clearOrigin();
   record.fromMultiIconFile = facts.hasSeveralEntries();
+  // The entry that a later save puts back must be the one that was opened.
+  record.multiIconIndex = static_cast<std::int16_t>(facts.chosen);
 }
 
 bool keepLoadedAlpha(EditState& state) {
@@ -55,6 +67,14 @@ bool keepLoadedAlpha(EditState& state) {
   record.hasAlpha = false;
   record.bitCount = kBitsWithoutAlpha;
   return false;
+}
+
+void showLoadedIcon(Editor& editor) {
+  editor.UpdatePanelFromCurrent();
+  editor.ComposeCurrentIcon();
+  editor.ShowCurrentIcon();
+  editor.clearUndoHistory();
+  editor.recordUndo();
 }
 
 }  // namespace gp

@@ -4,27 +4,17 @@
 #include "document/Hourglass.h"
 #include "files/IconFileBytes.h"
 #include "files/IconLoading.h"
+#include "files/IconMessages.h"
 
 namespace gp {
 namespace {
 
-constexpr int kLowColorBits = 9;
 constexpr const char* kUseBitmapMenu = "Please try to use Open Bitmap File menu instead.";
 constexpr const char* kInvalidFile =
     "\n\nInvalid icon file or icon not a size of"
     " 16x16, 24x24, 32x32 or 48x48.\n";
 constexpr const char* kNotOfSize = "\nIcon not of size 16x16, 24x24, 32x32 or 48x48.\n";
 constexpr const char* kFailedToLoad = "\nFailed to load this file";
-constexpr const char* kStrangeTrueColor =
-    "\nIncoming icon is a True Color icon"
-    " but not of 24 BPP or 32 BPP.\n";
-constexpr const char* kAlphaNotKept = "\nFailed to copy the Alpha Channel values to record.";
-constexpr const char* kLowScreenQuestion =
-    "The incoming icon is a True Color icon, but your display colors\n"
-    "setting in Windows is below High Color basing on that when you\n"
-    "started the program.  The icon may not be displayed correctly.\n"
-    "\n"
-    "Proceed still?";
 constexpr const char* kAlphaReminder =
     "\nReminder:  The incoming icon is with Alpha Channel.  To view the icon with\n"
     "alpha effects, or to edit the alpha values, invoke the Alpha Channel screen.\n"
@@ -40,15 +30,15 @@ constexpr const char* kHeaderReminder =
     "\n"
     "(To remove Reminder, untick the related Option submenu)";
 
-bool ConfirmTrueColorOnLowScreen(MessageBoxes& boxes) { return boxes.ask(kLowScreenQuestion); }
-
 }  // namespace
 
-IconOpening::IconOpening(FilesContext& context, std::string path, OpeningManner manner)
-    : context_(context), state_(context.state), path_(std::move(path)), manner_(manner) {}
+IconOpening::IconOpening(FilesContext& context, std::string path, OpeningManner manner, MultiIconCommands* browser)
+    : context_(context), state_(context.state), path_(std::move(path)), manner_(manner), browser_(browser) {}
 
 bool IconOpening::run() {
-  if (!probe() || !isSquare() || !isOfferedSize() || !isConfirmed()) return false;
+  if (!probe() || !isSquare()) return false;
+  if (isBrowsed()) return browse();
+  if (!isOfferedSize() || !isConfirmed()) return false;
   if (!load()) return leaveEmpty(kFailedToLoad, BoxIcon::Exclamation);
   if (!isShownDepth()) return leaveEmpty(kStrangeTrueColor, BoxIcon::Information);
   fillContainer();
@@ -80,28 +70,27 @@ bool IconOpening::isSquare() {
               BoxIcon::Exclamation);
 }
 
+bool IconOpening::browse() {
+  bytes_ = {};  // the browser reads the file itself
+  std::string answer;
+  browser_->MultiIconFileSubRoutine(path_, true, answer);
+  if (answer.empty()) return false;
+  remind();
+  return true;
+}
+
 bool IconOpening::isOfferedSize() {
   return isIconSize(facts_.width) || fail(path_ + kNotOfSize + kUseBitmapMenu, BoxIcon::Exclamation);
 }
 
 bool IconOpening::isConfirmed() {
-  if (!isSpoken() || facts_.dirColors >= 0 || state_.process.gScreenBPP >= kLowColorBits) return true;
+  if (!isSpoken() || facts_.dirColors >= 0 || state_.process.gScreenBPP >= kManyColorsScreenBits) return true;
   return ConfirmTrueColorOnLowScreen(context_.boxes);
-}
-
-void IconOpening::prepare() {
-  context_.editor.clearRegion();
-  context_.editor.clearUndoHistory();
-  context_.editor.ClearContainer();
-  state_.picDisp.clearPicture();
-  state_.current().size = static_cast<std::int16_t>(facts_.width);
-  context_.editor.SizePanelSurfaces(facts_.width);
-  context_.editor.SizeEditSurfaces(facts_.width);
 }
 
 bool IconOpening::load() {
   const Hourglass hourglass(state_, context_.display);
-  prepare();
+  emptyContainerFor(state_, context_.editor, facts_.width);
   const IconDefect defect =
       loadIconPixels(bytes_.span(), facts_.chosen, SizeSource::Surface, true, state_, state_.picImage, state_.picMask);
   if (defect == IconDefect::None) return true;
@@ -118,11 +107,7 @@ bool IconOpening::isShownDepth() const {
 void IconOpening::fillContainer() {
   describeLoadedIcon(state_, facts_, path_);
   if (!keepLoadedAlpha(state_)) fail(kAlphaNotKept, BoxIcon::Exclamation);
-  context_.editor.UpdatePanelFromCurrent();
-  context_.editor.ComposeCurrentIcon();
-  context_.editor.ShowCurrentIcon();
-  context_.editor.clearUndoHistory();
-  context_.editor.recordUndo();
+  showLoadedIcon(context_.editor);
   if (isSpoken()) context_.editor.AddHistory(path_);
 }
 

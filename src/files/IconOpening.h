@@ -4,6 +4,7 @@
 
 #include "files/FilesContext.h"
 #include "files/IconProbe.h"
+#include "files/MultiIconCommands.h"
 #include "platform/files/Files.h"
 
 #include <string>
@@ -15,16 +16,18 @@ enum class OpeningManner { Spoken, Quiet };
 
 class IconOpening {
  public:
-  IconOpening(FilesContext& context, std::string path, OpeningManner manner);
-  // True when the icon stands in the current container and on the Editing Area.
+  // A file with several icons is left to `browser`, unless that is null.
+  IconOpening(FilesContext& context, std::string path, OpeningManner manner, MultiIconCommands* browser = nullptr);
+  // True when an icon of the file stands in the current container and on the Editing Area.
   bool run();
 
  private:
   bool probe();
   bool isSquare();
+  bool isBrowsed() const { return browser_ != nullptr && facts_.hasSeveralEntries(); }
+  bool browse();
   bool isOfferedSize();
   bool isConfirmed();
-  void prepare();
   bool load();
   bool isShownDepth() const;
   void fillContainer();
@@ -37,6 +40,7 @@ class IconOpening {
   EditState& state_;
   const std::string path_;
   const OpeningManner manner_;
+  MultiIconCommands* const browser_;
   FileBytes bytes_;
   IconFacts facts_;
 };

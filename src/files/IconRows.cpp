@@ -1,39 +1,28 @@
 #include "files/IconRows.h"
 
 #include "files/IcoLayout.h"
+#include "palette/clsGPPal.h"
 
 #include <algorithm>
 
 namespace gp {
 
-const std::array<PaletteEntry, 2> mPalMono{{{0, 0, 0, 0}, {255, 255, 255, 0}}};
-
-const std::array<PaletteEntry, 16> mPal16{{
-    {0, 0, 0, 0},
-    {0, 0, 128, 0},
-    {0, 128, 0, 0},
-    {0, 128, 128, 0},
-    {128, 0, 0, 0},
-    {128, 0, 128, 0},
-    {128, 128, 0, 0},
-    {192, 192, 192, 0},
-    {128, 128, 128, 0},
-    {0, 0, 255, 0},
-    {0, 255, 0, 0},
-    {0, 255, 255, 0},
-    {255, 0, 0, 0},
-    {255, 0, 255, 0},
-    {255, 255, 0, 0},
-    {255, 255, 255, 0},
-}};
-
 namespace {
 
 constexpr int kBitsPerByte = 8;
 
-std::uint8_t byteOf(int channel) { return static_cast<std::uint8_t>(channel); }
+constexpr std::uint8_t byteOf(int channel) { return static_cast<std::uint8_t>(channel); }
 
-PaletteEntry entryOf(Color color) { return {byteOf(blueOf(color)), byteOf(greenOf(color)), byteOf(redOf(color)), 0}; }
+constexpr PaletteEntry entryOf(Color color) {
+  return {byteOf(blueOf(color)), byteOf(greenOf(color)), byteOf(redOf(color)), 0};
+}
+
+template <std::size_t Count>
+constexpr std::array<PaletteEntry, Count> entriesOf(const std::array<Color, Count>& colors) {
+  std::array<PaletteEntry, Count> entries{};
+  std::ranges::transform(colors, entries.begin(), entryOf);
+  return entries;
+}
 
 std::uint32_t colorOf(std::uint32_t pixel) { return pixel & kColorBits; }
 
@@ -81,6 +70,9 @@ void writeRow16(std::span<const std::uint32_t> row, Index16& index, ByteWriter& 
 }
 
 }  // namespace
+
+const std::array<PaletteEntry, 2> mPalMono = entriesOf(std::array{kBlack, kWhite});
+const std::array<PaletteEntry, 16> mPal16 = entriesOf(kStandardPalette);
 
 Pal256::Pal256() : colors_{storedForm(kBlack), storedForm(kWhite)} {}
 

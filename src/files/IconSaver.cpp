@@ -4,8 +4,10 @@
 #include "document/Containers.h"
 #include "document/Hourglass.h"
 #include "document/Messages.h"
+#include "files/BitmapSaving.h"
+#include "files/FileQuestions.h"
+#include "files/IconMessages.h"
 #include "files/IconWriter.h"
-#include "platform/files/BitmapFile.h"
 #include "platform/files/Files.h"
 #include "platform/gdi/SurfaceOps.h"
 #include "platform/text/Paths.h"
@@ -18,7 +20,6 @@ namespace gp {
 namespace {
 
 constexpr const char* kIconEnding = ".ico";
-constexpr int kCursorSize = 32;
 constexpr int kAniSize = 32;
 constexpr int kPaintTool = 4;
 constexpr std::size_t kDiscrepancyPanel = static_cast<std::size_t>(StatusPanel::Discrepancy);
@@ -28,10 +29,7 @@ constexpr const char* kBitmapQuestion = "Background color used will be the curre
 constexpr const char* kSaveQuestion = "Save current icon to file?";
 constexpr const char* kAniQuestion =
     "Animated cursor session for 32x32 icons only\nTerminate animated cursor session?\n";
-constexpr const char* kReadOnly =
-    "File is read-only\n\nYou may save it under"
-    " a different file name or reset the file attributes.";
-constexpr const char* kIconNotSaved = "Failed to save this icon";
+constexpr const char* kCursorNotSaved = "Failed to save curosr";
 constexpr const char* kFileNotSaved = "Failed to save this file.";
 constexpr const char* kMultiIconReminder =
     "Reminder:  The original icon file contains multiple icons.\n\n"
@@ -58,23 +56,22 @@ struct IconSaver::SaveKind {
   SaveMode mode;
   const char* filter;
   const char* extension;
-  void (IconSaver::*save)(const std::string& path, bool& ok);  // null for what cannot be written yet
+  void (IconSaver::*save)(const std::string& path, bool& ok);
 };
 
 const IconSaver::SaveKind& IconSaver::kindOf(SaveMode mode) {
   static constexpr const char* kBitmapFilter = "Bitmap files (*.bmp)|*.bmp|(*.*)|*.*|";
   static constexpr std::array<SaveKind, 4> kKinds{{
-      {SaveMode::Icon, "Icon files (*.ico)|*.ico|", "ico", &IconSaver::doSaveIconTo},
-      {SaveMode::Cursor, "cursor files (*.cur)|*.cur|", "cur", nullptr},
+      {SaveMode::Icon, kIconFilter, kIconExtension, &IconSaver::doSaveIconTo},
+      {SaveMode::Cursor, "cursor files (*.cur)|*.cur|", "cur", &IconSaver::saveCursorTo},
       {SaveMode::Bitmap, kBitmapFilter, "bmp", &IconSaver::saveBitmapTo},
       {SaveMode::Mask, kBitmapFilter, "bmp", &IconSaver::saveMaskTo},
   }};
   return *std::ranges::find(kKinds, mode, &SaveKind::mode);
 }
 
-IconSaver::IconSaver(EditState& state, Editor& editor, Display& display, MessageBoxes& boxes, MessagePump& pump,
-                     clsGPDialog& dialog)
-    : context_{state, editor, display, boxes, pump, dialog}, state_(state) {}
+IconSaver::IconSaver(const FilesContext& context, CursorFiles& cursors)
+    : context_(context), state_(context.state), cursors_(cursors) {}
 
 void IconSaver::mnuFileSub(int index) {
   struct Row {
@@ -103,10 +100,13 @@ void IconSaver::saveAsIconCommand() { doSaveAs(SaveMode::Icon); }
 void IconSaver::saveMaskCommand() { doSaveAs(SaveMode::Mask); }
 
 void IconSaver::saveAsCursorCommand() {
-  if (state_.current().size == kCursorSize)
-    doSaveAs(SaveMode::Cursor);
-  else
-    context_.boxes.tell(kCursorSizeOnly);
+  if (hasCursorSize()) cursors_.openPanel();
+}
+
+bool IconSaver::hasCursorSize() {
+  if (state_.current().size == kCursorSide) return true;
+  context_.boxes.tell(kCursorSizeOnly);
+  return false;
 }
 
 void IconSaver::saveAsBitmapCommand() {
@@ -188,7 +188,7 @@ void IconSaver::doSaveIconTo(const std::string& path, bool& ok) {
   ok = writeCurrentIcon(state_, path);
   if (!ok) {
     state_.mSaveFailed = true;
-    context_.boxes.tell(HasFileAttribute(path) ? kReadOnly : kIconNotSaved, BoxIcon::Exclamation);
+    tellIconNotSaved(context_.boxes, path);
     return;
   }
   describeSavedIcon(state_, path);
@@ -201,7 +201,8 @@ void IconSaver::doSaveIconTo(const std::string& path, bool& ok) {
 
 void IconSaver::doSaveAs(SaveMode mode) {
   const SaveKind& kind = kindOf(mode);
-  if (!kind.save) return;
+  // The Panel stays up when another icon is opened.
+  if (mode == SaveMode::Cursor && !(hasIcon() && hasCursorSize())) return;
   closeSidePanels();
   context_.editor.EndToolAction();
   context_.editor.clearRegion();
@@ -234,14 +235,15 @@ std::string IconSaver::proposedName(SaveMode mode) const {
 }
 
 std::string IconSaver::askForName(const SaveKind& kind) {
-  SaveOptions options;
-  options.fileName = proposedName(kind.mode);
-  options.filter = kind.filter;
-  options.defaultExtension = kind.extension;
-  options.initialFolder = state_.process.mLastFolder;
-  std::string path = context_.dialog.ShowSave(options);
-  if (!path.empty()) state_.process.mLastFolder = ParseFileName(path, PathPart::DriveAndFolder);
-  return path;
+  return askToSave(context_, proposedName(kind.mode), kind.filter, kind.extension);
+}
+
+// The icon that is on the Editing Area does not become that cursor.
+void IconSaver::saveCursorTo(const std::string& path, bool& ok) {
+  cursors_.WriteCursorFile(path, ok);
+  if (!ok) return context_.boxes.tell(HasFileAttribute(path) ? kReadOnlyFile : kCursorNotSaved, BoxIcon::Exclamation);
+  context_.editor.UpdatePanelFromCurrent();
+  context_.editor.RefreshStatusBar();
 }
 
 // Bitmaps.
@@ -272,12 +274,10 @@ void IconSaver::saveMaskTo(const std::string& path, bool& ok) {
   SaveBitmap(state_.picMask, path, ok);
 }
 
-// Pictures of up to 256 colours belong into palettised files; until those can be written they are saved like all
-// others, in 24 bits, which loses nothing.
 void IconSaver::SaveBitmap(const Surface& surface, const std::string& path, bool& ok) {
   {
     const Hourglass hourglass(state_, context_.display);
-    ok = writeBitmap(surface, path);
+    ok = saveByColors(surface, path);
   }
   if (!ok) context_.boxes.tell(kFileNotSaved, BoxIcon::Exclamation);
 }

@@ -2,6 +2,7 @@
 // to save what is about to be replaced. A failed or cancelled save sets mSaveFailed and leaves the icon modified.
 #pragma once
 
+#include "files/CursorFiles.h"
 #include "files/FilesContext.h"
 
 #include <string>
@@ -13,8 +14,8 @@ enum class SaveMode { Icon = 1, Cursor = 2, Bitmap = 3, Mask = 4 };
 
 class IconSaver {
  public:
-  IconSaver(EditState& state, Editor& editor, Display& display, MessageBoxes& boxes, MessagePump& pump,
-            clsGPDialog& dialog);
+  // Both must outlive it.
+  IconSaver(const FilesContext& context, CursorFiles& cursors);
 
   // The command bodies of mnuFileSub for indices 2 to 5 (New Icon), 12, 13, 18, 19 and 20 (saving). Nothing for others.
   void mnuFileSub(int index);
@@ -23,7 +24,7 @@ class IconSaver {
   void doNewIcon(int index);
   // Saves to the icon's own file where it has one for itself, otherwise under a name that is asked for.
   void doFileSave();
-  // Asks for a name and saves. There are no cursors yet: that mode does nothing.
+  // Asks for a name and saves. A cursor takes its hot spot from the Panel's lists and leaves the record as it is.
   void doSaveAs(SaveMode mode);
   // Writes the Current Icon and brings the record up to date. Tells a failure.
   void doSaveIconTo(const std::string& path, bool& ok);
@@ -46,18 +47,21 @@ class IconSaver {
   void saveAsBitmapCommand();
   void saveMaskCommand();
   bool hasIcon();
+  bool hasCursorSize();
 
   bool endsAniSession(int size);
   void showNewIcon(int size);
   void closeSidePanels();
   void remindOfMultiIconFile();
   std::string askForName(const SaveKind& kind);
+  void saveCursorTo(const std::string& path, bool& ok);
   void saveBitmapTo(const std::string& path, bool& ok);
   void saveMaskTo(const std::string& path, bool& ok);
   void composeForBitmap();
 
   FilesContext context_;
   EditState& state_;
+  CursorFiles& cursors_;
   std::string lastSavedFile_;
 };
 

@@ -14,7 +14,6 @@ constexpr int kMono = 2;
 constexpr int kStandard = 16;
 constexpr int kPalette = 256;
 constexpr int kBitsWithAlpha = 32;
-constexpr std::uint32_t kSingleImageOffset = ico::kDirSize + ico::kEntrySize;
 constexpr const char* kIcoLabel = "ICO file";
 
 int paletteColors(int colors) { return colors == kMono || colors == kStandard || colors == kPalette ? colors : 0; }
@@ -23,21 +22,30 @@ int bitsFor(int colors, bool withAlpha) {
   return paletteColors(colors) == 0 && withAlpha ? kBitsWithAlpha : convBPP_Upto24(colors);
 }
 
-void writeDirectory(ByteWriter& out) {
+// What icon and cursor files tell in different ways: their type, two words of the entry, and the bits that the image's
+// byte count is worked out for.
+struct FileKind {
+  int type;
+  int planes;    // or the hot spot's x
+  int bitCount;  // or the hot spot's y
+  int sizeBits;
+};
+
+void writeDirectory(int type, ByteWriter& out) {
   out.u16(0);
-  out.u16(ico::kTypeIcon);
+  out.u16(static_cast<std::uint16_t>(type));
   out.u16(1);
 }
 
-void writeEntry(int width, int height, int colors, int bits, ByteWriter& out) {
-  out.u8(static_cast<std::uint8_t>(width));
-  out.u8(static_cast<std::uint8_t>(height));
+void writeEntry(const Surface& image, int colors, const FileKind& kind, ByteWriter& out) {
+  out.u8(static_cast<std::uint8_t>(image.width()));
+  out.u8(static_cast<std::uint8_t>(image.height()));
   out.u8(static_cast<std::uint8_t>(colors == kMono || colors == kStandard ? colors : 0));
   out.u8(0);
-  out.u16(1);  // planes
-  out.u16(static_cast<std::uint16_t>(bits));
-  out.u32(IconByteSize(colors, bits, width, height));
-  out.u32(kSingleImageOffset);
+  out.u16(static_cast<std::uint16_t>(kind.planes));
+  out.u16(static_cast<std::uint16_t>(kind.bitCount));
+  out.u32(IconByteSize(colors, kind.sizeBits, image.width(), image.height()));
+  out.u32(ico::kSingleImageOffset);
 }
 
 void writeBitmapHeader(int width, int height, int bits, ByteWriter& out) {
@@ -65,6 +73,26 @@ void writePicture(const Surface& image, const Surface& mask, int colors, const A
   }
 }
 
+std::vector<std::uint8_t> composeFile(const Surface& image, const Surface& mask, int colors, const AlphaMatrix* alpha,
+                                      const FileKind& kind) {
+  const int bits = bitsFor(colors, alpha != nullptr);
+  ByteWriter out(ico::kSingleImageOffset + IconByteSize(colors, bits, image.width(), image.height()));
+  writeDirectory(kind.type, out);
+  writeEntry(image, colors, kind, out);
+  writeBitmapHeader(image.width(), image.height(), bits, out);
+  writePicture(image, mask, colors, alpha, out);
+  WriteMaskRows(mask, out);
+  return out.take();
+}
+
+bool hasSizeOf(const AlphaMatrix& alpha, const Surface& image) {
+  return alpha.width() == image.width() && alpha.height() == image.height();
+}
+
+const AlphaMatrix& currentAlpha(const EditState& state) {
+  return state.mAlphaRecs.at(static_cast<std::size_t>(state.mCurContainer));
+}
+
 }  // namespace
 
 std::uint32_t IconByteSize(int colors, int bitCount, int width, int height) {
@@ -85,30 +113,39 @@ int colorsToWrite(const Surface& image, int dirColors) {
 std::vector<std::uint8_t> composeSingleIcon(const Surface& image, const Surface& mask, int colors,
                                             const AlphaMatrix* alpha) {
   const int bits = bitsFor(colors, alpha != nullptr);
-  ByteWriter out(kSingleImageOffset + IconByteSize(colors, bits, image.width(), image.height()));
-  writeDirectory(out);
-  writeEntry(image.width(), image.height(), colors, bits, out);
-  writeBitmapHeader(image.width(), image.height(), bits, out);
-  writePicture(image, mask, colors, alpha, out);
-  WriteMaskRows(mask, out);
-  return out.take();
+  return composeFile(image, mask, colors, alpha, {ico::kTypeIcon, 1, bits, bits});
+}
+
+// The byte count is that of 24 bits whether there is alpha or not.
+std::vector<std::uint8_t> composeCursor(const Surface& image, const Surface& mask, int colors, const AlphaMatrix* alpha,
+                                        int hotspotX, int hotspotY) {
+  return composeFile(image, mask, colors, alpha, {ico::kTypeCursor, hotspotX, hotspotY, 0});
 }
 
 void WriteSingleIconFile(const EditState& state, const Surface& imageSurface, const Surface& maskSurface,
                          const std::string& path, bool withAlpha, bool& ok) {
-  const AlphaMatrix& alpha = state.mAlphaRecs.at(static_cast<std::size_t>(state.mCurContainer));
+  const AlphaMatrix& alpha = currentAlpha(state);
   ok = false;
-  if (withAlpha && (alpha.width() != imageSurface.width() || alpha.height() != imageSurface.height())) return;
+  if (withAlpha && !hasSizeOf(alpha, imageSurface)) return;
   const int colors = colorsToWrite(imageSurface, state.current().dirColors);
   ok = replaceFile(path, composeSingleIcon(imageSurface, maskSurface, colors, withAlpha ? &alpha : nullptr));
 }
 
+bool isWrittenWithAlpha(const IconContainerRec& record) { return record.bitCount == kBitsWithAlpha && record.hasAlpha; }
+
 bool writeCurrentIcon(const EditState& state, const std::string& path) {
-  const IconContainerRec& record = state.current();
   bool ok = false;
-  WriteSingleIconFile(state, state.picImage, state.picMask, path, record.bitCount == kBitsWithAlpha && record.hasAlpha,
-                      ok);
+  WriteSingleIconFile(state, state.picImage, state.picMask, path, isWrittenWithAlpha(state.current()), ok);
   return ok;
+}
+
+bool writeCurrentCursor(const EditState& state, int hotspotX, int hotspotY, const std::string& path) {
+  const AlphaMatrix& alpha = currentAlpha(state);
+  const int colors = colorsToWrite(state.picImage, state.current().dirColors);
+  const bool withAlpha = state.current().hasAlpha && colors == kTrueColor;
+  if (withAlpha && !hasSizeOf(alpha, state.picImage)) return false;
+  return replaceFile(
+      path, composeCursor(state.picImage, state.picMask, colors, withAlpha ? &alpha : nullptr, hotspotX, hotspotY));
 }
 
 void describeSavedIcon(EditState& state, const std::string& path) {

@@ -1,6 +1,6 @@
-// Composes the bytes of a single-icon file and writes them once. The depth follows from the colours that are on the
-// picture, unless the icon is a true colour one, which stays true colour. No colour is lost: a picture that needs more
-// than a palette holds is written in true colour.
+// Composes the bytes of a file with one icon or cursor and writes them once. The depth follows from the colours that
+// are on the picture, unless the icon is a true colour one, which stays true colour. No colour is lost: a picture that
+// needs more than a palette holds is written in true colour.
 #pragma once
 
 #include "document/EditState.h"
@@ -23,13 +23,21 @@ int colorsToWrite(const Surface& image, int dirColors);
 std::vector<std::uint8_t> composeSingleIcon(const Surface& image, const Surface& mask, int colors,
                                             const AlphaMatrix* alpha);
 
+// The same as a cursor file with its hot spot.
+std::vector<std::uint8_t> composeCursor(const Surface& image, const Surface& mask, int colors, const AlphaMatrix* alpha,
+                                        int hotspotX, int hotspotY);
+
 // Writes two Surfaces as the icon of the current record, whose alpha matrix is used if `withAlpha`. An existing file
 // is deleted first. False when the file cannot be written or the alpha matrix has another size.
 void WriteSingleIconFile(const EditState& state, const Surface& imageSurface, const Surface& maskSurface,
                          const std::string& path, bool withAlpha, bool& ok);
 
+// True when the icon goes to a file with its alpha values, as far as that is written in true colour.
+bool isWrittenWithAlpha(const IconContainerRec& record);
 // Writes the Current Icon with the alpha that its record tells of.
 [[nodiscard]] bool writeCurrentIcon(const EditState& state, const std::string& path);
+// The same as a cursor.
+[[nodiscard]] bool writeCurrentCursor(const EditState& state, int hotspotX, int hotspotY, const std::string& path);
 // The record tells what has been written: its depth, its path, nothing left to save.
 void describeSavedIcon(EditState& state, const std::string& path);
 

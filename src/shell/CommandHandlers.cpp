@@ -3,6 +3,7 @@
 #include "shell/PanelTable.h"
 #include "shell/Shell.h"
 
+#include <algorithm>
 #include <array>
 
 namespace gp::commands {
@@ -58,6 +59,10 @@ bool isOptionOn(const Shell& shell, int index) { return shell.state().options.*f
 
 void newIcon(Shell& shell, int index) { shell.iconSaver().doNewIcon(index); }
 void openIconFile(Shell& shell, int) { shell.openIconFile(); }
+void openCursorFile(Shell& shell, int) { shell.cursorFiles().doMnuFileOpenCursor(); }
+void saveIntoMultiIconFile(Shell& shell, int) { shell.multiIcon().doMnuFileSaveMultiIconReplace(); }
+void addToMultiIconFile(Shell& shell, int) { shell.multiIcon().doMnuFileSaveMultiIconAddTo(); }
+void enquire(Shell& shell, int index) { shell.enquiry().mnuEnquiryCurrent(index); }
 void saveIcon(Shell& shell, int index) { shell.iconSaver().mnuFileSub(index); }
 void openFromHistory(Shell& shell, int index) { shell.openFromHistory(index); }
 void switchToCustomSize(Shell& shell, int) { shell.switchToCustomSize(); }
@@ -76,6 +81,15 @@ void toggleOption(Shell& shell, int index) { shell.toggleOption(index); }
 void resetToDefault(Shell& shell, int) { shell.confirmReset(); }
 void openHelp(Shell& shell, int) { shell.openHelp(); }
 void showAbout(Shell& shell, int) { shell.showAbout(); }
+
+void popUpEnquire(Shell& shell, int index) {
+  struct Row {
+    int popUp;    // index of mnuPopUpSub
+    int enquiry;  // of mnuEnquiryCurrent
+  };
+  static constexpr std::array<Row, 2> kEntries{{{3, 9}, {7, 11}}};
+  shell.enquiry().mnuEnquiryCurrent(std::ranges::find(kEntries, index, &Row::popUp)->enquiry);
+}
 
 void chooseColorFrame(Shell& shell, int index) {
   using Choice = void (ColorSelection::*)();

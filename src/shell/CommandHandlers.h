@@ -37,7 +37,12 @@ bool isOptionOn(const Shell& shell, int index);
 // Handlers; the index is that of the control array.
 void newIcon(Shell& shell, int index);
 void openIconFile(Shell& shell, int index);
+void openCursorFile(Shell& shell, int index);
 void saveIcon(Shell& shell, int index);
+void saveIntoMultiIconFile(Shell& shell, int index);
+void addToMultiIconFile(Shell& shell, int index);
+void enquire(Shell& shell, int index);
+void popUpEnquire(Shell& shell, int index);
 void openFromHistory(Shell& shell, int index);
 void switchToCustomSize(Shell& shell, int index);
 void exitProgram(Shell& shell, int index);

@@ -21,6 +21,9 @@ class MainForm {
   virtual void maximize() = 0;
   // Shows frmGPAbout modally.
   virtual void showAbout() = 0;
+  // Show frmGPMultiIcon and frmGPHeaderDiff modally.
+  virtual void showMultiIcon() = 0;
+  virtual void showHeaderDiff() = 0;
   // Closes the form, which asks queryUnload first.
   virtual void unload() = 0;
 };

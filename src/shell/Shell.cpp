@@ -6,6 +6,13 @@
 
 namespace gp {
 
+namespace {
+
+// Of commands on files with several icons; it exists only between two of their steps.
+constexpr const char* kScratchFileName = "gptmp.ico";
+
+}  // namespace
+
 Shell::Shell(EditState& state, const Ports& ports, Display& display, std::string folder)
     : state_(state),
       ports_(ports),
@@ -18,13 +25,25 @@ Shell::Shell(EditState& state, const Ports& ports, Display& display, std::string
       mixer_(state, display, ports.pump, colors_),
       paletteFile_(state, *this, ports.boxes, mDialog, ports.pictures, mixer_, folder_),
       drawing_(state, *this, display, editingArea_, colors_, ports.boxes, ports.pump, ports.clipboard),
-      iconFiles_(state, *this, display, ports.boxes, ports.pump, mDialog),
-      iconSaver_(state, *this, display, ports.boxes, ports.pump, mDialog),
+      filesContext_{state, *this, display, ports.boxes, ports.pump, mDialog},
+      multiIcon_(filesContext_, iconForms_, folder_ + "/" + kScratchFileName),
+      iconFiles_(filesContext_, multiIcon_),
+      cursorFiles_(filesContext_),
+      iconSaver_(filesContext_, cursorFiles_),
+      enquiry_(state, *this, ports.boxes, ports.pump, iconForms_, cursorFiles_),
       settings_(state.options, settingsPath()),
       fileHistory_(kFileHistorySection, kFileHistoryLimit, settingsPath()),
       aniHistory_(kAniHistorySection, kAniHistoryLimit, settingsPath()) {}
 
 Shell::~Shell() = default;
+
+void Shell::ShownForms::showMultiIcon() {
+  if (shell_.form_) shell_.form_->showMultiIcon();
+}
+
+void Shell::ShownForms::showHeaderDiff() {
+  if (shell_.form_) shell_.form_->showHeaderDiff();
+}
 
 std::string Shell::settingsPath() const { return folder_ + "/" + kSettingsFileName; }
 
@@ -73,6 +92,7 @@ void Shell::doOpenIconFile(const std::string& path, bool useBrowser, bool& ok) {
 }
 void Shell::doOpenIconFileQuietly(const std::string& path, bool& ok) { iconFiles_.doOpenIconFileQuietly(path, ok); }
 void Shell::AskSaveCurrent(const std::string& message, bool& proceed) { iconSaver_.AskSaveCurrent(message, proceed); }
+void Shell::setHotspotByClick(int x, int y) { cursorFiles_.setHotspotByClick(x, y); }
 void Shell::UpdateCommands() { display_.changed(DisplayPart::Commands); }
 
 int Shell::colorBitCountOfImage() const {
@@ -87,6 +107,7 @@ void Shell::recordUndo() { drawing_.history.recordUndo(); }
 void Shell::clearUndoHistory() { drawing_.history.clearUndoHistory(); }
 
 void Shell::showPanel(int panel) {
+  if (panel != kCursorPanel) cursorFiles_.mark().cancel();
   state_.screen.mActivePanel = panel;
   drawing_.tools.clearAllTools();
   display_.changed(DisplayPart::Panel);

@@ -10,8 +10,11 @@
 #include "document/Editor.h"
 #include "document/IconsPanel.h"
 #include "drawing/Drawing.h"
+#include "files/CursorFiles.h"
 #include "files/IconFiles.h"
 #include "files/IconSaver.h"
+#include "files/MultiIconCommands.h"
+#include "output/Enquiry.h"
 #include "platform/dialogs/clsGPDialog.h"
 #include "platform/ports/SystemInfo.h"
 #include "shell/CommandTable.h"
@@ -57,8 +60,13 @@ class Shell final : public Editor {
   const Drawing& drawing() const { return drawing_; }
   Tools& tools() { return drawing_.tools; }
   const Tools& tools() const { return drawing_.tools; }
+  MultiIconCommands& multiIcon() { return multiIcon_; }
   IconFiles& iconFiles() { return iconFiles_; }
+  CursorFiles& cursorFiles() { return cursorFiles_; }
   IconSaver& iconSaver() { return iconSaver_; }
+  Enquiry& enquiry() { return enquiry_; }
+  // What the forms on icon files work with.
+  const FilesContext& filesContext() const { return filesContext_; }
   const History& fileHistory() const { return fileHistory_; }
   const History& aniHistory() const { return aniHistory_; }
   const Ports& ports() const { return ports_; }
@@ -125,6 +133,7 @@ class Shell final : public Editor {
   void doOpenIconFile(const std::string& path, bool useBrowser, bool& ok) override;
   void doOpenIconFileQuietly(const std::string& path, bool& ok) override;
   void AskSaveCurrent(const std::string& message, bool& proceed) override;
+  void setHotspotByClick(int x, int y) override;
   int colorBitCountOfImage() const override;
   void UpdateCommands() override;
   void showPanel(int panel) override;
@@ -133,6 +142,17 @@ class Shell final : public Editor {
   void ShowRunTimeError(const std::string& name, const std::string& description) override;
 
  private:
+  // Shows forms over the main form, once that is there.
+  class ShownForms final : public IconForms {
+   public:
+    explicit ShownForms(const Shell& shell) : shell_(shell) {}
+    void showMultiIcon() override;
+    void showHeaderDiff() override;
+
+   private:
+    const Shell& shell_;
+  };
+
   std::string settingsPath() const;
   void placeForm();
   void showEmptyStart();
@@ -152,8 +172,13 @@ class Shell final : public Editor {
   ColorMixer mixer_;
   PaletteFile paletteFile_;
   Drawing drawing_;
+  ShownForms iconForms_{*this};
+  const FilesContext filesContext_;
+  MultiIconCommands multiIcon_;
   IconFiles iconFiles_;
+  CursorFiles cursorFiles_;
   IconSaver iconSaver_;
+  Enquiry enquiry_;
   Settings settings_;
   History fileHistory_;
   History aniHistory_;

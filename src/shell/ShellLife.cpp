@@ -64,6 +64,7 @@ void Shell::openCommandLineFile(const std::string& commandLine) {
   if (file.kind == CommandLineKind::Missing) ports_.boxes.tell(fileNotFoundText(file.path), BoxIcon::Exclamation);
   bool ok = false;
   if (file.kind == CommandLineKind::Ico) doOpenIconFile(file.path, false, ok);
+  if (file.kind == CommandLineKind::Cur) cursorFiles_.doOpenCursorFile(file.path, ok);
   if (ok) {
     colors_.chooseColorChart();
     return;
@@ -93,6 +94,7 @@ void Shell::saveScreenPos(const FormPlace& place) {
 bool Shell::queryUnload() {
   const std::string question = unsavedQuestion(state_);
   if (!question.empty() && !ports_.boxes.ask(question)) return false;
+  cursorFiles_.mark().cancel();
   if (form_) saveScreenPos(form_->place());
   // Before the first Activate nothing but defaults is known of the options.
   if (!mFirstActivate) settings_.SaveOptions();

@@ -1,61 +1,22 @@
-// Runs the built gpicon as a user does and looks at what it prints, writes and answers.
-#include "files/IcoBuilder.h"
+// What gpicon prints, writes and answers on icon files, and how it takes its arguments.
+#include "cli/GpiconFixture.h"
 
-#include <cstdio>
-#include <filesystem>
-#include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 
 namespace gp::test {
 namespace {
 
 namespace fs = std::filesystem;
 
-std::string quoted(const std::string& argument) {
-  std::string out = "'";
-  for (const char c : argument) out += c == '\'' ? std::string("'\\''") : std::string(1, c);
-  return out + "'";
-}
-
-struct Outcome {
-  int status = -1;
-  std::string out, err;
-};
-
-class Gpicon : public testing::Test {
- protected:
-  TempFolder folder;
-
-  Outcome run(const std::vector<std::string>& arguments) const {
-    std::string command = quoted(GPICON);
-    for (const std::string& argument : arguments) command += " " + quoted(argument);
-    const std::string errors = folder.path("stderr");
-    Outcome outcome;
-    FILE* pipe = popen((command + " 2>" + quoted(errors)).c_str(), "r");
-    for (int c; (c = std::fgetc(pipe)) != EOF;) outcome.out += static_cast<char>(c);
-    const int status = pclose(pipe);
-    outcome.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    const Bytes bytes = bytesOf(errors);
-    outcome.err.assign(bytes.begin(), bytes.end());
-    return outcome;
-  }
-  std::string icon(const std::string& name, int size, int bits) const {
-    return folder.write(name, build(entryOf(anyPicture(size, bits))));
-  }
-  std::string textOf(const std::string& name) const {
-    const Bytes bytes = bytesOf(folder.path(name));
-    return {bytes.begin(), bytes.end()};
-  }
-};
-
-long lines(const std::string& text) { return std::count(text.begin(), text.end(), '\n'); }
-
 TEST_F(Gpicon, HelpTellsEverySubcommandAndSucceeds) {
   const Outcome o = run({"--help"});
   EXPECT_EQ(o.status, 0);
-  for (const char* word : {"gpicon probe FILE...", "gpicon list [--json] FILE...", "gpicon unpack FILE... -d DIR",
-                           "gpicon resave IN.ico INDEX OUT.ico", "Exit status", "count from 0", "NAME-2"})
+  for (const char* word :
+       {"gpicon probe FILE...", "gpicon list [--json] FILE...", "gpicon check FILE...", "gpicon unpack FILE... -d DIR",
+        "gpicon split FILE... -d DIR", "gpicon resave IN.ico INDEX OUT.ico",
+        "gpicon replace FILE INDEX ICON.ico [-o OUT]", "gpicon add FILE... ICON.ico [--at N] [-o OUT]",
+        "gpicon remove FILE INDEX [-o OUT]", "gpicon reorder FILE 3,1,2 [-o OUT]", "gpicon salvage FILE -o OUT",
+        "Exit status", "count from 0", "NAME-2", "NAME_32_256-2.ico", "hotspotX", "cursor"})
     EXPECT_NE(o.out.find(word), std::string::npos) << word;
 }
 
@@ -73,7 +34,31 @@ TEST_F(Gpicon, BadUsageIsStatus2WithOneLine) {
                                              {"resave", a, "0"},
                                              {"resave", a, "x", "b.ico"},
                                              {"resave", a, "0x", "b.ico"},
-                                             {"resave", a, "99999999999", "b.ico"}}) {
+                                             {"resave", a, "99999999999", "b.ico"},
+                                             {"check"},
+                                             {"check", "--json", a},
+                                             {"split", a},
+                                             {"split", "-d", folder.folder()},
+                                             {"split", a, "-d", folder.folder(), "-d", folder.folder()},
+                                             {"replace", a, "0"},
+                                             {"replace", a, "-1", a},
+                                             {"replace", a, "0", a, "-o"},
+                                             {"replace", a, "0", a, "-o", ""},
+                                             {"replace", a, "0", a, "--at", "1"},
+                                             {"add", a},
+                                             {"add", a, a, "--at"},
+                                             {"add", a, a, "--at", "x"},
+                                             {"add", a, a, "-o", "x", "-o", "y"},
+                                             {"add", a, a, a, "-o", folder.path("b.ico")},
+                                             {"remove", a},
+                                             {"remove", a, "x"},
+                                             {"remove", a, "0", "1"},
+                                             {"reorder", a},
+                                             {"reorder", a, "2,,1"},
+                                             {"reorder", a, "2,1,"},
+                                             {"reorder", a, "2;1"},
+                                             {"salvage", a},
+                                             {"salvage", a, a, "-o", folder.path("b.ico")}}) {
     const Outcome o = run(arguments);
     EXPECT_EQ(o.status, 2) << testing::PrintToString(arguments);
     EXPECT_EQ(o.out, "");
@@ -92,7 +77,7 @@ TEST_F(Gpicon, ProbePrintsTheNineNumbersOfEachFile) {
 
 TEST_F(Gpicon, ABadFileCostsOneLineAndNotTheOthers) {
   const std::string a = icon("a.ico", 32, 4), b = icon("b.ico", 32, 4),
-                    bad = folder.write("bad.ico", {0, 0, 2, 0, 1, 0});
+                    bad = folder.write("bad.ico", {0, 0, 3, 0, 1, 0});
   const Outcome o = run({"list", a, bad, folder.path("missing.ico"), b});
   EXPECT_EQ(o.status, 1);
   EXPECT_EQ(lines(o.out), 2);

@@ -3,12 +3,16 @@
 
 #include "document/Containers.h"
 #include "document/EditingArea.h"
+#include "document/IconsPanel.h"
 #include "files/IcoBuilder.h"
 #include "files/IconFiles.h"
+#include "files/IconForms.h"
 #include "files/IconSaver.h"
+#include "files/MultiIconCommands.h"
 #include "support/FakeEditor.h"
 #include "support/ScriptedPorts.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace gp::test {
@@ -17,9 +21,14 @@ namespace gp::test {
 class FilesEditor : public FakeEditor {
  public:
   FilesEditor(EditState& state, Display& display, MessagePump& pump)
-      : state_(state), area_(state, *this, display, pump) {}
+      : state_(state), area_(state, *this, display, pump), panel_(state, *this, area_, display, pump) {}
 
   void ClearContainer() override { FakeEditor::ClearContainer(), gp::ClearContainer(state_); }
+  // A click on the current container is only written down.
+  void SwitchContainer(int container) override {
+    FakeEditor::SwitchContainer(container);
+    if (container != state_.mCurContainer) panel_.SwitchContainer(container);
+  }
   void SizeEditSurfaces(int size) override { FakeEditor::SizeEditSurfaces(size), area_.SizeEditSurfaces(size); }
   void SizePanelSurfaces(int size) override { FakeEditor::SizePanelSurfaces(size), area_.SizePanelSurfaces(size); }
   void ComposeCurrentIcon() override { FakeEditor::ComposeCurrentIcon(), area_.ComposeCurrentIcon(); }
@@ -29,11 +38,34 @@ class FilesEditor : public FakeEditor {
  private:
   EditState& state_;
   EditingArea area_;
+  IconsPanel panel_;
+};
+
+// Forms in which the user does what a test says. Without a word he closes the browser at once.
+class FakeIconForms : public IconForms {
+ public:
+  std::function<void()> onMultiIcon, onHeaderDiff;
+  int multiIcons = 0, headerDiffs = 0;
+
+  explicit FakeIconForms(EditState& state) : state_(state) {}
+  void showMultiIcon() override {
+    ++multiIcons;
+    if (onMultiIcon) return onMultiIcon();
+    state_.multiIcon.gMultiIconResult.clear();
+    state_.multiIcon.gLoadAndReturn = false;
+  }
+  void showHeaderDiff() override {
+    ++headerDiffs;
+    if (onHeaderDiff) onHeaderDiff();
+  }
+
+ private:
+  EditState& state_;
 };
 
 class FilesTest : public testing::Test {
  protected:
-  TempFolder folder;
+  IconFolder folder;
   EditState state;
   RecordingDisplay display;
   ScriptedBoxes boxes;
@@ -41,13 +73,17 @@ class FilesTest : public testing::Test {
   ScriptedDialogs dialogs;
   clsGPDialog dialog{dialogs};
   FilesEditor editor{state, display, pump};
-  IconFiles files{state, editor, display, boxes, pump, dialog};
-  IconSaver saver{state, editor, display, boxes, pump, dialog};
+  FakeIconForms forms{state};
+  FilesContext context{state, editor, display, boxes, pump, dialog};
+  MultiIconCommands multiIcon{context, forms, folder.path("gptmp.ico")};
+  IconFiles files{context, multiIcon};
+  CursorFiles cursors{context};
+  IconSaver saver{context, cursors};
 
   IconContainerRec& record() { return state.current(); }
-  bool open(const std::string& path) {
+  bool open(const std::string& path, bool useBrowser = true) {
     bool ok = false;
-    files.doOpenIconFile(path, true, ok);
+    files.doOpenIconFile(path, useBrowser, ok);
     return ok;
   }
   bool openQuietly(const std::string& path) {

@@ -2,8 +2,9 @@
 // program's own writers.
 #pragma once
 
+#include "support/TempFolder.h"
+
 #include <cstdint>
-#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <optional>
@@ -164,33 +165,14 @@ inline Picture anyPicture(int size, int bits) {
   return p;
 }
 
-// A folder of its own for each test, gone afterwards.
-class TempFolder {
+// A folder of built files, gone after its test.
+class IconFolder : public TempFolder {
  public:
-  TempFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "glimmerpane-test-").string();
-    for (int i = 0;; ++i) {
-      folder_ = pattern + std::to_string(i) + "-" + std::to_string(reinterpret_cast<std::uintptr_t>(this));
-      if (std::filesystem::create_directory(folder_)) break;
-    }
-  }
-  ~TempFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
-  }
-  TempFolder(const TempFolder&) = delete;
-  TempFolder& operator=(const TempFolder&) = delete;
-
-  std::string path(const std::string& name) const { return folder_ + "/" + name; }
+  std::string path(const std::string& name) const { return file(name); }
   std::string write(const std::string& name, const Bytes& bytes) const {
-    std::ofstream(path(name), std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    return path(name);
+    return TempFolder::write(name, std::string(bytes.begin(), bytes.end()));
   }
-  const std::string& folder() const { return folder_; }
-
- private:
-  std::string folder_;
+  std::string folder() const { return TempFolder::path(); }
 };
 
 inline Bytes bytesOf(const std::string& path) {

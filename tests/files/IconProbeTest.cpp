@@ -122,12 +122,12 @@ TEST(IconProbe, AmongSeveralOnlySquareEntriesCount) {
 TEST(IconProbe, AFileThatIsNotThereIsNoIconFile) { EXPECT_EQ(ProbeIconFile("/no/such.ico", true).joined(), kNoIcon); }
 
 TEST(IconProbe, AFileIsProbedLikeItsBytes) {
-  const TempFolder folder;
+  const IconFolder folder;
   EXPECT_EQ(ProbeIconFile(folder.write("a.ico", build(icon(24, 8))), true).joined(), "1/1/0/24/24/256/8/256/8");
 }
 
 TEST(IconProbe, AnImageFarBehindInALongFileIsFound) {
-  const TempFolder folder;
+  const IconFolder folder;
   Bytes bytes = build(icon(32, 4));
   const Bytes image = imageBytes(anyPicture(32, 8));
   Entry second = icon(32, 8);

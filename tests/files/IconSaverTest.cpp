@@ -31,9 +31,14 @@ class IconSaverTest : public FilesTest {
     record().path = path;
     return saver.proposedName(mode);
   }
+  // A pixel of a bitmap file of any depth; (0, 0) is the top left one.
   Color bitmapPixel(const std::string& path, int x, int y) {
     const Bytes b = bytesOf(path);
-    const std::size_t at = 54 + static_cast<std::size_t>((record().size - 1 - y) * record().size * 3 + x * 3);
+    const int bits = b[28], size = record().size;
+    const std::size_t pixels = b[10] + 256U * b[11];
+    const std::size_t row = pixels + static_cast<std::size_t>((size * bits + 31) / 32 * 4 * (size - 1 - y));
+    std::size_t at = row + static_cast<std::size_t>(x * bits / 8);
+    if (bits <= 8) at = 54 + 4 * static_cast<std::size_t>(b[at] >> (8 - bits - x * bits % 8) & ((1 << bits) - 1));
     return rgb(b[at + 2], b[at + 1], b[at]);
   }
 };
@@ -231,7 +236,40 @@ TEST_F(IconSaverTest, SaveAsBitmapPutsTheCurrentColorBehindAndKeepsSilver) {
             (std::vector<FileFilter>{{"Bitmap files (*.bmp)", "*.bmp"}, {"(*.*)", "*.*"}}));
   EXPECT_EQ(bitmapPixel(folder.path("a.bmp"), 0, 0), rgb(0, 200, 0));
   EXPECT_EQ(bitmapPixel(folder.path("a.bmp"), 3, 2), 0xC0C0C0);
-  EXPECT_EQ(bitmapPixel(folder.path("a.bmp"), 4, 2), rgb(1, 2, 3));
+  EXPECT_EQ(bitmapPixel(folder.path("a.bmp"), 4, 2), kBlack) << "the dithers know colours by steps of 17 only";
+}
+
+// The depth is that of the colours, and each has its palette.
+TEST_F(IconSaverTest, BitmapsHaveTheDepthThatTheirColorsNeed) {
+  given(entryOf(anyPicture(16, 4)));
+  struct Case {
+    Color color;  // of one pixel, the rest is white
+    std::size_t size;
+    int bits, offset;
+    Color saved;
+  };
+  for (const Case& c : {Case{kBlack, 62 + 4 * 16, 1, 62, kBlack}, Case{0x0000FF, 118 + 8 * 16, 4, 118, 0x0000FF},
+                        Case{rgb(51, 102, 153), 1078 + 16 * 16, 8, 1078, rgb(51, 102, 153)}}) {
+    Surface picture(16, 16, kWhite);
+    picture.SetPixelV(5, 3, c.color);
+    bool ok = false;
+    saver.SaveBitmap(picture, folder.path("depth.bmp"), ok);
+    const Bytes b = bytesOf(folder.path("depth.bmp"));
+    EXPECT_TRUE(ok);
+    EXPECT_EQ(b.size(), c.size) << c.bits;
+    EXPECT_EQ(b[28], c.bits);
+    EXPECT_EQ(b[10] + 256 * b[11], c.offset);
+    EXPECT_EQ(bitmapPixel(folder.path("depth.bmp"), 5, 3), c.saved) << c.bits;
+    EXPECT_EQ(bitmapPixel(folder.path("depth.bmp"), 6, 3), kWhite) << c.bits;
+  }
+  Surface picture(32, 32, kWhite);
+  for (int y = 0; y < 32; ++y)
+    for (int x = 0; x < 32; ++x) picture.SetPixelV(x, y, rgb(8 * x, 8 * y, x ^ y));
+  record().size = 32;
+  bool ok = false;
+  saver.SaveBitmap(picture, folder.path("deep.bmp"), ok);
+  EXPECT_EQ(bytesOf(folder.path("deep.bmp"))[28], 24);
+  EXPECT_EQ(bitmapPixel(folder.path("deep.bmp"), 7, 9), rgb(56, 72, 7 ^ 9));
 }
 
 TEST_F(IconSaverTest, SaveAsBitmapOfAnIconWithAlphaBlendsOverTheGround) {

@@ -188,7 +188,7 @@ TEST(IconWriter, APictureThatNeedsMoreThan256EntriesIsWrittenInTrueColor) {
 }
 
 TEST(IconWriter, AnAlphaMatrixOfAnotherSizeFailsTheWrite) {
-  const TempFolder folder;
+  const IconFolder folder;
   EditState state;
   bool ok = true;
   WriteSingleIconFile(state, Surface(32, 32, kWhite), Surface(32, 32, kBlack), folder.path("a.ico"), true, ok);

@@ -69,14 +69,18 @@ struct EnablingCase {
 
 TEST_F(CommandTable, EntriesFollowTheRecord) {
   const EnablingCase cases[] = {
-      {"mnuFileSub", 2, true, true, true, true},     {"mnuFileSub", 7, true, true, true, true},
-      {"mnuFileSub", 12, false, true, true, true},   {"mnuFileSub", 13, false, true, true, true},
-      {"mnuFileSub", 19, false, true, true, true},   {"mnuFileSub", 20, false, true, true, true},
-      {"mnuTools", 0, false, true, true, true},      {"mnuTools", 4, false, true, true, true},
-      {"mnuTools", 8, false, true, true, true},      {"mnuTools", 6, false, true, true, true},
-      {"mnuBrushSize", 0, true, true, true, true},   {"mnuPaletteSub", 1, true, true, true, true},
-      {"mnuOptionsSub", 16, true, true, true, true}, {"mnuHelpSub", 0, true, true, true, true},
-      {"mnuPopUpSub", 0, true, true, true, true},    {"mnuPopUpSub", 3, false, false, false, false},
+      {"mnuFileSub", 2, true, true, true, true},          {"mnuFileSub", 7, true, true, true, true},
+      {"mnuFileSub", 12, false, true, true, true},        {"mnuFileSub", 13, false, true, true, true},
+      {"mnuFileSub", 19, false, true, true, true},        {"mnuFileSub", 20, false, true, true, true},
+      {"mnuTools", 0, false, true, true, true},           {"mnuTools", 4, false, true, true, true},
+      {"mnuTools", 8, false, true, true, true},           {"mnuTools", 6, false, true, true, true},
+      {"mnuBrushSize", 0, true, true, true, true},        {"mnuPaletteSub", 1, true, true, true, true},
+      {"mnuOptionsSub", 16, true, true, true, true},      {"mnuHelpSub", 0, true, true, true, true},
+      {"mnuPopUpSub", 0, true, true, true, true},         {"mnuPopUpSub", 3, false, false, true, true},
+      {"mnuFileSub", 9, true, true, true, true},          {"mnuFileSub", 15, false, false, true, true},
+      {"mnuFileSub", 16, false, true, false, false},      {"mnuFileSub", 18, false, true, true, false},
+      {"mnuPopUpSub", 7, false, false, false, false},     {"mnuEnquiryCurrent", 5, false, false, false, false},
+      {"mnuEnquiryCurrent", 9, false, false, true, true}, {"mnuEnquiryCurrent", 11, false, false, false, false},
   };
   start();
   auto check = [&](const char* name, bool EnablingCase::*column) {

@@ -63,6 +63,9 @@ class FakeEditor : public Editor {
   void AskSaveCurrent(const std::string& message, bool& proceed) override {
     log("AskSaveCurrent " + message), proceed = askSaveProceeds;
   }
+  void setHotspotByClick(int x, int y) override {
+    log("setHotspotByClick " + std::to_string(x) + " " + std::to_string(y));
+  }
   int colorBitCountOfImage() const override { return colorCount; }
   void UpdateCommands() override { log("UpdateCommands"); }
   void showPanel(int panel) override { log("showPanel " + std::to_string(panel)); }

@@ -59,6 +59,7 @@ class ScriptedDialogs : public FileDialogs {
   std::deque<Color> colors;  // kNoColor is a cancel
   int errorOnCancel = 0;
   std::vector<FileDialogRequest> requests;
+  std::function<void()> inside;  // what happens, once, while the next file dialog is up
 
   bool openFile(const FileDialogRequest& request, std::string& path, int& error) override {
     return answer(request, path, error);
@@ -92,6 +93,7 @@ class ScriptedDialogs : public FileDialogs {
   }
   bool answer(const FileDialogRequest& request, std::string& path, int& error) {
     requests.push_back(request);
+    if (auto action = std::exchange(inside, nullptr)) action();
     path = next();
     error = path.empty() ? errorOnCancel : 0;
     return !path.empty();

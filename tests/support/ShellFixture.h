@@ -8,6 +8,7 @@
 #include "support/ScriptedPorts.h"
 #include "support/TempFolder.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -16,12 +17,21 @@ namespace gp::test {
 class FakeForm : public MainForm {
  public:
   FormPlace now;
-  int abouts = 0, unloads = 0, maximizes = 0;
+  int abouts = 0, unloads = 0, maximizes = 0, multiIcons = 0, headerDiffs = 0;
+  std::function<void()> onMultiIcon, onHeaderDiff;  // what the user does in them
 
   FormPlace place() const override { return now; }
   void setPlace(const FormPlace& place) override { now = place; }
   void maximize() override { ++maximizes, now.maximized = true; }
   void showAbout() override { ++abouts; }
+  void showMultiIcon() override {
+    ++multiIcons;
+    if (onMultiIcon) onMultiIcon();
+  }
+  void showHeaderDiff() override {
+    ++headerDiffs;
+    if (onHeaderDiff) onHeaderDiff();
+  }
   void unload() override { ++unloads; }
 };
 

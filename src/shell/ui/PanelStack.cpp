@@ -2,6 +2,7 @@
 
 #include "colour/ui/ColorPanel.h"
 #include "drawing/ui/RotatePanelView.h"
+#include "files/ui/CursorPanelView.h"
 #include "shell/PanelTable.h"
 #include "shell/Shell.h"
 #include "shell/ui/QtDisplay.h"
@@ -40,6 +41,15 @@ QWidget* makeRotatePanel(QWidget* parent, Shell& shell, QtDisplay&) {
   return panel;
 }
 
+QWidget* makeCursorPanel(QWidget* parent, Shell& shell, QtDisplay&) {
+  auto* panel = new CursorPanelView(parent, shell.cursorFiles());
+  connectFrame(panel, shell, [&shell] { shell.iconSaver().doSaveAs(SaveMode::Cursor); });
+  QObject::connect(panel, &CursorPanelView::showHotspotRequested, panel, [&shell] {
+    shell.guarded("cmdShowHotspot_Click", [&shell] { shell.cursorFiles().showHotspot(); });
+  });
+  return panel;
+}
+
 struct PanelWidget {
   int number;
   QWidget* (*make)(QWidget* parent, Shell& shell, QtDisplay& display);
@@ -47,6 +57,7 @@ struct PanelWidget {
 
 constexpr std::array kPanelWidgets = {
     PanelWidget{kColorPanel, makeColorPanel},
+    PanelWidget{kCursorPanel, makeCursorPanel},
     PanelWidget{kRotatePanel, makeRotatePanel},
 };
 

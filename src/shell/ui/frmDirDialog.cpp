@@ -1,11 +1,11 @@
 #include "shell/ui/frmDirDialog.h"
 
+#include "platform/qt/DialogOwner.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/TextCell.h"
 #include "shell/FormPlacement.h"
 #include "shell/ui/FolderTree.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QFrame>
 #include <QLabel>
@@ -72,7 +72,7 @@ frmDirDialog::frmDirDialog(const std::string& pattern, const std::string& startF
 }
 
 std::string frmDirDialog::choose(const std::string& pattern, const std::string& startFolder, MessageBoxes& boxes) {
-  frmDirDialog form(pattern, startFolder, boxes, QApplication::activeWindow());
+  frmDirDialog form(pattern, startFolder, boxes, dialogOwner());
   form.exec();
   return form.result();
 }

@@ -7,6 +7,8 @@
 #include "document/ui/StatusBarView.h"
 #include "drawing/ui/ShiftPad.h"
 #include "drawing/ui/ToolBox.h"
+#include "files/ui/frmGPHeaderDiff.h"
+#include "files/ui/frmGPMultiIcon.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/Pictures.h"
 #include "shell/FormPlacement.h"
@@ -289,6 +291,19 @@ void frmGPEdit::maximize() { setWindowState(windowState() | Qt::WindowMaximized)
 void frmGPEdit::showAbout() {
   frmGPAbout about(shell_.ports().system, shell_.ports().boxes, this);
   about.exec();
+}
+
+// Behind a form over which a box stood the desktop may leave the main form inactive: it asks for the keys.
+void frmGPEdit::showMultiIcon() {
+  frmGPMultiIcon form(shell_.filesContext(), this);
+  form.run();
+  activateWindow();
+}
+
+void frmGPEdit::showHeaderDiff() {
+  frmGPHeaderDiff form(shell_.filesContext(), this);
+  form.exec();
+  activateWindow();
 }
 
 void frmGPEdit::unload() { close(); }

@@ -38,6 +38,8 @@ class frmGPEdit final : public QMainWindow, public MainForm {
   void setPlace(const FormPlace& place) override;
   void maximize() override;
   void showAbout() override;
+  void showMultiIcon() override;
+  void showHeaderDiff() override;
   void unload() override;
 
  protected:

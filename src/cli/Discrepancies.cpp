@@ -1,0 +1,145 @@
+#include "cli/Discrepancies.h"
+
+#include "cli/EntryRelations.h"
+#include "cli/ImageHeader.h"
+#include "cli/ImagePixels.h"
+#include "files/IcoLayout.h"
+#include "files/IconProbe.h"
+#include "platform/files/WholePicture.h"
+
+#include <array>
+#include <cstdlib>
+
+namespace gp::cli {
+namespace {
+
+// One entry with all that is known of it.
+struct Inspection {
+  const ImageFile& file;
+  int index;
+  IconEntry entry;
+  std::optional<ImageHeader> header;  // nothing where the file ends before it
+  bool sharesBytes;
+
+  std::span<const std::uint8_t> bytes() const { return file.bytes.span(); }
+  bool isBitmap() const { return header && !header->isPng; }
+};
+
+template <class Number>
+std::string text(Number number) {
+  return std::to_string(number);
+}
+
+std::string halfText(std::int64_t halves) {
+  const std::string sign = halves < 0 ? "-" : "";
+  return sign + text(std::abs(halves) / 2) + (halves % 2 != 0 ? ".5" : "");
+}
+
+void findOtherSize(const Inspection& image, const DiscrepancySink& tell) {
+  if (!image.header) return;
+  const int width = sideOf(image.entry.width), height = sideOf(image.entry.height);
+  if (image.header->width != width) tell({image.index, "width", text(width), text(image.header->width)});
+  if (image.header->heightInHalves() != 2 * height)
+    tell({image.index, "height", text(height), halfText(image.header->heightInHalves())});
+}
+
+// The pixels' word in a quarrel about the depth. Shared bytes are not read again and again.
+std::optional<PixelDepth> depthOfPixels(const Inspection& image) {
+  if (image.sharesBytes) return std::nullopt;
+  return measureDepth(image.bytes(), image.entry, *image.header);
+}
+
+// A count that the editor does not know may still be the truth.
+bool colorsFit(const IconEntry& entry, int headerColors) {
+  return ColorsForEntry(entry, entry.bitCount) == headerColors ||
+         RawColorsForEntry(entry, entry.bitCount) == headerColors;
+}
+
+// Without a bit count an entry tells its depth by the colours.
+bool bitsFit(const IconEntry& entry, int headerBits, bool fittingColors) {
+  return entry.bitCount == 0 ? fittingColors : entry.bitCount == headerBits;
+}
+
+void findOtherDepth(const Inspection& image, const DiscrepancySink& tell) {
+  if (!image.isBitmap() || image.file.isCursor()) return;
+  IconEntry uncounted = image.entry;
+  uncounted.colorCount = 0;
+  const int headerBits = image.header->bits, headerColors = ColorsForEntry(uncounted, headerBits);
+  const bool sameColors = colorsFit(image.entry, headerColors);
+  const bool sameBits = bitsFit(image.entry, headerBits, sameColors);
+  if (sameColors && sameBits) return;
+  const auto depth = depthOfPixels(image);
+  const std::string colors = depth ? text(depth->colors) : kNothingTold;
+  const std::string bits = depth ? text(depth->bits) : kNothingTold;
+  if (!sameColors) {
+    const int told = ColorsForEntry(image.entry, image.entry.bitCount);
+    tell({image.index, "colors", text(told), text(headerColors), colors});
+  }
+  if (!sameBits) tell({image.index, "bits", text(image.entry.bitCount), text(headerBits), bits});
+}
+
+void findMissingBytes(const Inspection& image, const DiscrepancySink& tell) {
+  const std::uint32_t told = image.entry.bytesInRes;
+  const auto size = image.bytes().size();
+  if (told < ico::kBitmapHeaderSize || !image.header) {
+    if (told < ico::kBitmapHeaderSize) tell({image.index, "bytes", text(told), text(ico::kBitmapHeaderSize)});
+  } else if (image.header->isPng) {
+    const auto picture = image.bytes()
+                             .subspan(image.entry.imageOffset)
+                             .first(std::min<std::size_t>(told, size - image.entry.imageOffset));
+    if (!isWholePng(picture)) tell({image.index, "bytes", text(told), kNothingTold, "incomplete"});
+  } else if (const auto needed = image.header->bytesNeeded(image.header->paletteTold()); told < needed) {
+    tell({image.index, "bytes", text(told), text(needed)});
+  }
+}
+
+void findWrongPlace(const Inspection& image, const DiscrepancySink& tell) {
+  const std::uint64_t end = std::uint64_t{image.entry.imageOffset} + image.entry.bytesInRes;
+  const std::size_t directoryEnd =
+      ico::kDirSize + static_cast<std::size_t>(image.file.directory.count) * ico::kEntrySize;
+  if (image.entry.imageOffset < directoryEnd)
+    tell({image.index, "offset", text(image.entry.imageOffset), kNothingTold, text(directoryEnd)});
+  if (end > image.bytes().size()) tell({image.index, "end", text(end), kNothingTold, text(image.bytes().size())});
+}
+
+void findStrayIndex(const Inspection& image, const DiscrepancySink& tell) {
+  if (!image.isBitmap() || image.sharesBytes) return;
+  const auto highest = highestIndex(image.bytes(), image.entry, *image.header);
+  if (highest && *highest >= image.header->colorsUsed)
+    tell({image.index, "pixels", kNothingTold, text(image.header->colorsUsed), text(*highest)});
+}
+
+void findStrayHotspot(const Inspection& image, const DiscrepancySink& tell) {
+  if (!image.file.isCursor()) return;
+  const int width = sideOf(image.entry.width), height = sideOf(image.entry.height);
+  if (image.entry.hotspotX() >= width)
+    tell({image.index, "hotspotX", text(image.entry.hotspotX()), kNothingTold, text(width)});
+  if (image.entry.hotspotY() >= height)
+    tell({image.index, "hotspotY", text(image.entry.hotspotY()), kNothingTold, text(height)});
+}
+
+constexpr std::array kRules{findOtherSize,  findOtherDepth, findMissingBytes,
+                            findWrongPlace, findStrayIndex, findStrayHotspot};
+
+void tellRelation(int index, const char* what, int other, const DiscrepancySink& tell) {
+  if (other >= 0) tell({index, what, "image " + text(other)});
+}
+
+}  // namespace
+
+void findDiscrepancies(const ImageFile& file, const DiscrepancySink& tell) {
+  const int count = wholeEntries(file);
+  if (count < file.directory.count) tell({-1, "count", text(file.directory.count), kNothingTold, text(count)});
+  const std::vector<int> sharing = entriesSharedWith(file, count);
+  const std::vector<int> alike = entriesLike(file, count);
+  for (int i = 0; i < count; ++i) {
+    const IconEntry entry = file.directory.entry(i);
+    const auto at = static_cast<std::size_t>(i);
+    const Inspection image{file, i, entry, readImageHeader(file.bytes.span(), entry), sharing[at] >= 0};
+    for (const auto rule : kRules) rule(image, tell);
+    tellRelation(i, "shared", sharing[at], tell);
+    tellRelation(i, "same", alike[at], tell);
+  }
+}
+
+}  // namespace gp::cli

@@ -1,0 +1,56 @@
+#include "cli/EntryLoading.h"
+
+#include "cli/Console.h"
+#include "files/IconLoading.h"
+#include "files/IconProbe.h"
+#include "files/IconWriter.h"
+
+namespace gp::cli {
+namespace {
+
+IconDefect loadChosenEntry(const ImageFile& file, const std::string& path, EditState& state) {
+  const IconFacts facts = probeIcon(file.bytes.span(), true);
+  if (facts.kind == 0) return IconDefect::NotAnIcon;
+  return facts.canBeOpened() ? loadEntry(file, facts.chosen, path, state) : IconDefect::SizeNotOffered;
+}
+
+// The Current Icon as the editor would save it.
+FileBytes savedForm(const EditState& state) {
+  const IconContainerRec& record = state.current();
+  const AlphaMatrix& alpha = state.mAlphaRecs.at(static_cast<std::size_t>(state.mCurContainer));
+  const int colors = colorsToWrite(state.picImage, record.dirColors);
+  return FileBytes(
+      composeSingleIcon(state.picImage, state.picMask, colors, isWrittenWithAlpha(record) ? &alpha : nullptr));
+}
+
+}  // namespace
+
+IconDefect loadEntry(const ImageFile& file, int index, const std::string& path, EditState& state) {
+  if (index >= file.directory.count) return IconDefect::NoSuchEntry;
+  const IconEntry entry = file.directory.entry(index);
+  if (const IconDefect defect = defectOfEntry(file.bytes.span(), entry); defect != IconDefect::None) return defect;
+  const IconFacts facts = factsOfEntry(file.bytes.span(), file.directory, index);
+  state.current().size = static_cast<std::int16_t>(facts.width);
+  state.picImage.resize(facts.width, facts.height);
+  state.picMask.resize(facts.width, facts.height);
+  const IconDefect defect =
+      loadIconPixels(file.bytes.span(), index, SizeSource::Surface, true, state, state.picImage, state.picMask);
+  if (defect != IconDefect::None) return defect;
+  describeLoadedIcon(state, facts, path);
+  return keepLoadedAlpha(state) ? IconDefect::None : IconDefect::StrangeTrueColor;
+}
+
+std::optional<NewIcon> loadNewIcon(const std::string& path) {
+  const auto file = openIconFile(path);
+  if (!file) return std::nullopt;
+  EditState state;
+  if (const IconDefect defect = loadChosenEntry(*file, path, state); defect != IconDefect::None) {
+    complain(path, describe(defect));
+    return std::nullopt;
+  }
+  auto image = imageOfSingleIcon(savedForm(state));
+  if (!image) return std::nullopt;
+  return NewIcon{traitsToWrite(state), std::move(*image)};
+}
+
+}  // namespace gp::cli

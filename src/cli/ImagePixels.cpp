@@ -1,0 +1,90 @@
+#include "cli/ImagePixels.h"
+
+#include "document/IconContainerRec.h"
+#include "files/ColorCount.h"
+#include "files/IcoLayout.h"
+#include "files/IconDecoder.h"
+#include "platform/files/ByteReader.h"
+
+#include <algorithm>
+
+namespace gp::cli {
+namespace {
+
+constexpr std::int64_t kLargestSide = 256;  // a byte of 0
+constexpr int kBitsPerByte = 8;
+constexpr int kBitsWithoutAlpha = 24;
+constexpr int kBitsWithAlpha = 32;
+constexpr std::uint8_t kOpaque = 255;
+
+bool isReadable(const ImageHeader& header) {
+  const std::int64_t height = header.rows / 2;
+  return !header.isPng && header.isPlain() && header.width >= 1 && header.width <= kLargestSide && height >= 1 &&
+         height <= kLargestSide;
+}
+
+bool hasKnownDepth(const ImageHeader& header) {
+  return ColorsForBitCount(header.bits) != kTrueColor || header.bits == kBitsWithoutAlpha ||
+         header.bits == kBitsWithAlpha;
+}
+
+// A shorter palette moves the rows, but some writers tell one and yet write a full one. The size tells.
+std::uint32_t paletteWritten(const IconEntry& entry, const ImageHeader& header) {
+  const std::uint32_t full = header.paletteForBits();
+  return entry.bytesInRes == header.bytesNeeded(full) ? full : header.paletteTold();
+}
+
+bool hasAlpha(const AlphaMatrix& alpha) {
+  for (int y = 0; y < alpha.height(); ++y)
+    for (int x = 0; x < alpha.width(); ++x)
+      if (alpha.at(x, y) != kOpaque) return true;
+  return false;
+}
+
+unsigned highestIndexInRow(std::span<const std::uint8_t> row, int width, int bits) {
+  const unsigned ones = (1U << bits) - 1;
+  unsigned highest = 0;
+  for (int x = 0; x < width; ++x) {
+    const auto at = static_cast<std::size_t>(x * bits / kBitsPerByte);
+    if (at >= row.size()) break;
+    highest = std::max(highest, row[at] >> (kBitsPerByte - bits - x * bits % kBitsPerByte) & ones);
+  }
+  return highest;
+}
+
+}  // namespace
+
+std::optional<PixelDepth> measureDepth(std::span<const std::uint8_t> file, const IconEntry& entry,
+                                       const ImageHeader& header) {
+  const bool isFull = paletteWritten(entry, header) == header.paletteForBits();
+  if (!isReadable(header) || !hasKnownDepth(header) || !isFull) return std::nullopt;
+  IconEntry told = entry;
+  told.colorCount = 0;
+  told.bitCount = header.bits;
+  const int width = static_cast<int>(header.width), height = static_cast<int>(header.rows / 2);
+  Surface image(width, height), mask(width, height);
+  AlphaMatrix alpha(1, 1, kOpaque);
+  if (decodeEntry(file, told, width, height, {image, mask, alpha}) != IconDefect::None) return std::nullopt;
+  PixelDepth depth;
+  GetColorBitCount_Image(image, depth.colors);
+  if (hasAlpha(alpha)) depth.colors = kTrueColor;
+  depth.bits = convBPP_Upto24(depth.colors);
+  if (depth.colors == kTrueColor && header.bits == kBitsWithAlpha) depth.bits = kBitsWithAlpha;
+  return depth;
+}
+
+std::optional<unsigned> highestIndex(std::span<const std::uint8_t> file, const IconEntry& entry,
+                                     const ImageHeader& header) {
+  const std::uint32_t palette = header.paletteTold();
+  if (!isReadable(header) || palette == header.paletteForBits()) return std::nullopt;
+  const int width = static_cast<int>(header.width);
+  const std::size_t stride = dib::rowStride(width, header.bits);
+  ByteReader reader(file, entry.imageOffset + ico::kBitmapHeaderSize +
+                              std::uint64_t{paletteWritten(entry, header)} * ico::kPaletteEntrySize);
+  unsigned highest = 0;
+  for (std::int64_t y = 0; y < header.rows / 2; ++y, reader.skip(stride))
+    highest = std::max(highest, highestIndexInRow(reader.bytesAt(reader.position(), stride), width, header.bits));
+  return highest;
+}
+
+}  // namespace gp::cli

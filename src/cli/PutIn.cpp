@@ -1,0 +1,89 @@
+// The subcommands that put an icon into files of several: in the place of one that is there, or beside those.
+#include "cli/EntryLoading.h"
+#include "cli/Subcommands.h"
+#include "cli/Updating.h"
+#include "document/Messages.h"
+#include "files/IconProbe.h"
+#include "files/MultiIconTexts.h"
+
+namespace gp::cli {
+namespace {
+
+enum ReplaceArgument { kFile, kIndex, kIcon, kReplaceArguments };
+
+bool refuse(const std::string& file, const std::string& reason) {
+  complain(file, reason);
+  return false;
+}
+
+// False, after a complaint, when the file holds an icon of this size and colours at another index.
+bool isNew(const IconArrays& arrays, const NewIcon& icon, int except, const std::string& path, SaveInto save) {
+  const int same = findSameIcon(arrays, icon.traits, except);
+  if (same < 0) return true;
+  return refuse(path, sameIconText(traitsOfEntry(arrays.entries[static_cast<std::size_t>(same)]), save));
+}
+
+bool replaceIn(const std::string& path, int index, NewIcon icon, const std::string& output) {
+  if (!FileExists(path)) return refuse(path, kFileGone);
+  IconArrays arrays;
+  if (readIconArrays(path, ReservedField::MustBeZero, arrays) != ArraysDefect::None)
+    return refuse(path, kReplaceNotRead);
+  if (!isNew(arrays, icon, index, path, SaveInto::Replace)) return false;
+  if (index >= arrays.count()) return refuse(path, kReplaceEntryGone);
+  replaceImage(arrays, index, std::move(icon.image));
+  return writeUpdate(arrays, path, output, notWrittenText(targetOf(path, output), SaveInto::Replace));
+}
+
+// `ref` counts from 1; 0 stands for behind the last icon.
+struct Place {
+  int ref = 0;
+  bool isGiven = false;
+};
+
+bool readForAdding(const std::string& path, IconArrays& arrays) {
+  auto bytes = readFile(path);
+  if (!bytes) return refuse(path, addNotReadText(path, ArraysDefect::NotReadable));
+  if (probeIcon(bytes->span(), true).kind == 0) return refuse(path, kAddToNoIcon);
+  const ArraysDefect defect = parseIconArrays(std::move(*bytes), ReservedField::MustBeZero, arrays);
+  return defect == ArraysDefect::None || refuse(path, addNotReadText(path, defect));
+}
+
+bool addTo(const std::string& path, const NewIcon& icon, const Place& place, const std::string& output) {
+  IconArrays arrays;
+  if (!readForAdding(path, arrays) || !isNew(arrays, icon, -1, path, SaveInto::Add)) return false;
+  const int index = place.isGiven ? place.ref - 1 : arrays.count();
+  if (index < 0 || index > arrays.count()) return refuse(path, addNoPositionText(path));
+  insertImage(arrays, index, icon.image);
+  return writeUpdate(arrays, path, output, notWrittenText(targetOf(path, output), SaveInto::Add));
+}
+
+}  // namespace
+
+int runReplace(const Arguments& arguments) {
+  const auto told = parseUpdate("replace", arguments, PositionOption::None);
+  int index = 0;
+  if (!told) return kBadUsage;
+  if (told->files.size() != kReplaceArguments) return badUsage("replace: FILE INDEX ICON.ico is needed");
+  if (!parseNumber(told->files[kIndex], index)) return badUsage("replace: the index is no number");
+  auto icon = loadNewIcon(told->files[kIcon]);
+  return icon && replaceIn(told->files[kFile], index, std::move(*icon), told->output) ? kDone : kRefused;
+}
+
+int runAdd(const Arguments& arguments) {
+  const auto told = parseUpdate("add", arguments, PositionOption::At);
+  if (!told) return kBadUsage;
+  Place place;
+  place.isGiven = !told->position.empty();
+  if (told->files.size() < 2) return badUsage("add: FILE... ICON.ico is needed");
+  if (place.isGiven && !parseNumber(told->position, place.ref)) return badUsage("add: --at takes a number");
+  if (!told->output.empty() && told->files.size() != 2) return badUsage("add: -o goes with one FILE only");
+
+  const auto icon = loadNewIcon(told->files.back());
+  if (!icon) return kRefused;
+  int status = kDone;
+  for (std::size_t i = 0; i + 1 < told->files.size(); ++i)
+    if (!addTo(told->files[i], *icon, place, told->output)) status = kRefused;
+  return status;
+}
+
+}  // namespace gp::cli

@@ -1,0 +1,104 @@
+// The subcommands that change what a file of several icons tells of them, and leave the images as they are.
+#include "cli/Subcommands.h"
+#include "cli/Updating.h"
+#include "files/IconSalvage.h"
+#include "files/IconUpdates.h"
+#include "files/MultiIconTexts.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace gp::cli {
+namespace {
+
+constexpr const char* kNoSuchImage = "no image of that index";
+constexpr const char* kNotEachOnce = "the sequence does not hold every position ref of the file once";
+constexpr const char* kNotWritten = "cannot be written";
+constexpr const char* kReadOnly = "File is read-only";
+
+int refuse(const std::string& file, const std::string& reason) {
+  complain(file, reason);
+  return kRefused;
+}
+
+// Of a failure the usual reason is told, if it is that.
+int writeOrRefuse(IconArrays& arrays, const std::string& path, const std::string& output, const std::string& text) {
+  const bool isReadOnly = HasFileAttribute(targetOf(path, output));
+  return writeUpdate(arrays, path, output, isReadOnly ? text + "\n" + kReadOnly : text) ? kDone : kRefused;
+}
+
+int removeFrom(const std::string& path, int index, const std::string& output) {
+  IconArrays arrays;
+  if (!readForUpdate(path, arrays)) return kRefused;
+  if (arrays.count() == 1) return refuse(path, kRemoveLastIcon);
+  if (index >= arrays.count()) return refuse(path, kNoSuchImage);
+  removeImage(arrays, index);
+  return writeOrRefuse(arrays, path, output, kRemoveNotWritten);
+}
+
+// Takes "3,1,2" as the indices 2, 0, 1. False for anything but numbers.
+bool parseOrder(std::string_view text, std::vector<int>& order) {
+  for (;;) {
+    const std::size_t comma = text.find(',');
+    int ref = 0;
+    if (!parseNumber(text.substr(0, comma), ref)) return false;
+    order.push_back(ref - 1);
+    if (comma == std::string_view::npos) return true;
+    text.remove_prefix(comma + 1);
+  }
+}
+
+bool holdsEachOnce(std::vector<int> order, int count) {
+  if (order.size() != static_cast<std::size_t>(count)) return false;
+  std::ranges::sort(order);
+  for (int i = 0; i < count; ++i)
+    if (order[static_cast<std::size_t>(i)] != i) return false;
+  return true;
+}
+
+int reorderIn(const std::string& path, const std::vector<int>& order, const std::string& output) {
+  IconArrays arrays;
+  if (!readForUpdate(path, arrays)) return kRefused;
+  if (arrays.count() == 1) return refuse(path, kRepositionSingleIcon);
+  if (!holdsEachOnce(order, arrays.count())) return refuse(path, kNotEachOnce);
+  if (std::ranges::is_sorted(order)) return refuse(path, kRepositionNoChange);
+  reorderImages(arrays, order);
+  return writeOrRefuse(arrays, path, output, kRepositionNotWritten + targetOf(path, output));
+}
+
+int salvageTo(const std::string& path, const std::string& output) {
+  IconArrays arrays;
+  if (!readForUpdate(path, arrays)) return kRefused;
+  if (!canBeSalvaged(arrays)) return refuse(path, kTooLargeToSalvage);
+  salvageEntries(arrays);
+  return writeOrRefuse(arrays, path, output, kNotWritten);
+}
+
+}  // namespace
+
+int runRemove(const Arguments& arguments) {
+  const auto told = parseUpdate("remove", arguments, PositionOption::None);
+  int index = 0;
+  if (!told) return kBadUsage;
+  if (told->files.size() != 2) return badUsage("remove: FILE INDEX is needed");
+  if (!parseNumber(told->files[1], index)) return badUsage("remove: the index is no number");
+  return removeFrom(told->files[0], index, told->output);
+}
+
+int runReorder(const Arguments& arguments) {
+  const auto told = parseUpdate("reorder", arguments, PositionOption::None);
+  std::vector<int> order;
+  if (!told) return kBadUsage;
+  if (told->files.size() != 2) return badUsage("reorder: FILE 3,1,2 is needed");
+  if (!parseOrder(told->files[1], order)) return badUsage("reorder: the sequence is not of numbers and commas");
+  return reorderIn(told->files[0], order, told->output);
+}
+
+int runSalvage(const Arguments& arguments) {
+  const auto told = parseUpdate("salvage", arguments, PositionOption::None);
+  if (!told) return kBadUsage;
+  if (told->files.size() != 1 || told->output.empty()) return badUsage("salvage: FILE -o OUT is needed");
+  return salvageTo(told->files[0], told->output);
+}
+
+}  // namespace gp::cli

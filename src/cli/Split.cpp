@@ -1,0 +1,104 @@
+#include "cli/ImageFile.h"
+#include "cli/OutputFolder.h"
+#include "cli/Subcommands.h"
+#include "files/IcoLayout.h"
+#include "files/MultiIconListing.h"
+#include "files/SingleEntryFile.h"
+#include "platform/files/ByteReader.h"
+
+#include <filesystem>
+
+namespace gp::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Entries may share bytes, and a small file could so ask for more than a disk holds. No honest one asks for this.
+constexpr std::uint64_t kMostBytes = std::uint64_t{256} << 20;
+
+// An input may stand in the folder that is written to: its name is not free.
+void keepOffInputs(const FolderArguments& told, OutputNames& names) {
+  std::map<fs::path, bool> isOutput;
+  for (const std::string& path : told.files) {
+    const fs::path above = fs::path(path).parent_path();
+    const auto [known, isUnknown] = isOutput.try_emplace(above, false);
+    std::error_code error;
+    if (isUnknown) known->second = fs::equivalent(above.empty() ? fs::path(".") : above, told.folder, error);
+    if (known->second) names.keepOff(stemOf(path));
+  }
+}
+
+bool isAllThere(const IconArrays& arrays, int index, const IconEntry& entry) {
+  const ByteReader reader(arrays.file.span());
+  const std::size_t at = ico::kDirSize + static_cast<std::size_t>(index) * ico::kEntrySize;
+  return reader.contains(at, ico::kEntrySize) && reader.contains(entry.imageOffset, entry.bytesInRes);
+}
+
+// Takes those images that are all there, unlike the updates, which refuse a file that lacks any.
+IconArrays takeWholeImages(FileBytes bytes, const IconDirectory& directory) {
+  IconArrays arrays;
+  arrays.file = std::move(bytes);
+  for (int i = 0; i < static_cast<int>(directory.entries.size()); ++i) {
+    const IconEntry entry = directory.entry(i);
+    if (!isAllThere(arrays, i, entry)) continue;
+    arrays.entries.push_back(entry);
+    arrays.images.push_back(ByteReader(arrays.file.span()).bytesAt(entry.imageOffset, entry.bytesInRes));
+  }
+  return arrays;
+}
+
+bool isOfSensibleSize(const IconArrays& arrays) {
+  std::uint64_t size = 0;
+  for (const ImageBytes image : arrays.images) size += image.size();
+  return size <= kMostBytes;
+}
+
+std::string nameOf(const std::string& stem, const IconEntry& entry) {
+  return stem + "_" + std::to_string(sideOf(entry.height)) + "_" +
+         colorsInFileName(ColorsForEntry(entry, entry.bitCount), entry.bitCount);
+}
+
+bool saveEntries(const IconArrays& arrays, const std::string& path, const std::string& folder, OutputNames& names) {
+  const std::string stem = stemOf(path);
+  for (int i = 0; i < arrays.count(); ++i) {
+    const std::string name = names.nameFor(nameOf(stem, arrays.entries[static_cast<std::size_t>(i)]));
+    const std::string output = folder + "/" + name + ".ico";
+    if (saveEntryToSingleFile(arrays, i, output)) continue;
+    complain(path, output + " cannot be written");
+    return false;
+  }
+  return true;
+}
+
+bool refuse(const std::string& path, const std::string& reason) {
+  complain(path, reason);
+  return false;
+}
+
+bool splitFile(const std::string& path, const std::string& folder, OutputNames& names) {
+  auto bytes = readFile(path);
+  if (!bytes) return refuse(path, describe(IconDefect::NotReadable));
+  const IconDirectory directory = parseIconDirectory(bytes->span());
+  if (!directory.isIcon() || directory.entries.empty()) return refuse(path, describe(IconDefect::NotAnIcon));
+  const IconArrays arrays = takeWholeImages(std::move(*bytes), directory);
+  if (!isOfSensibleSize(arrays)) return refuse(path, "its images share bytes, and come to more than 256 MB");
+  if (!saveEntries(arrays, path, folder, names)) return false;
+  const int lacking = directory.count - arrays.count();
+  return lacking == 0 || refuse(path, std::to_string(lacking) + " of its " + std::to_string(directory.count) +
+                                          " images reach behind the end of the file");
+}
+
+}  // namespace
+
+int runSplit(const Arguments& arguments) {
+  FolderArguments told;
+  if (const int status = takeFolderArguments("split", arguments, told); status != kDone) return status;
+  OutputNames names;
+  keepOffInputs(told, names);
+  int status = kDone;
+  for (const std::string& path : told.files)
+    if (!splitFile(path, told.folder, names)) status = kRefused;
+  return status;
+}
+
+}  // namespace gp::cli

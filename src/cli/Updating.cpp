@@ -1,0 +1,72 @@
+#include "cli/Updating.h"
+
+#include "files/IconDecoder.h"
+
+#include <filesystem>
+
+namespace gp::cli {
+namespace {
+
+constexpr const char* kNotOrdinary = "not an ordinary file, and not written over";
+constexpr const char* kShorterThanTold = "shorter than its directory says";
+
+const char* describeUnread(const std::string& path, ArraysDefect defect) {
+  if (defect == ArraysDefect::NotReadable) return describe(IconDefect::NotReadable);
+  const auto bytes = readFile(path);
+  const bool isIcon = bytes && parseIconDirectory(bytes->span()).isIcon();
+  return isIcon ? kShorterThanTold : describe(IconDefect::NotAnIcon);
+}
+
+// Also when nothing is there.
+bool isOrdinary(const std::string& path) {
+  std::error_code error;
+  const auto status = std::filesystem::status(path, error);
+  return !std::filesystem::exists(status) || std::filesystem::is_regular_file(status);
+}
+
+}  // namespace
+
+std::optional<UpdateArguments> parseUpdate(const std::string& command, Arguments arguments, PositionOption position) {
+  UpdateArguments told;
+  if (!takeOption(arguments, "-o", told.output)) {
+    badUsage(command + ": one -o OUT is all it takes");
+    return std::nullopt;
+  }
+  if (position == PositionOption::At && !takeOption(arguments, "--at", told.position)) {
+    badUsage(command + ": one --at N is all it takes");
+    return std::nullopt;
+  }
+  Split split = splitOptions(arguments);
+  if (!split.options.empty()) {
+    badUsage(command + ": unknown option " + split.options.front());
+    return std::nullopt;
+  }
+  told.files = std::move(split.files);
+  return told;
+}
+
+bool readForUpdate(const std::string& path, IconArrays& arrays) {
+  const ArraysDefect defect = readIconArrays(path, ReservedField::Any, arrays);
+  if (defect == ArraysDefect::None) return true;
+  complain(path, describeUnread(path, defect));
+  return false;
+}
+
+const std::string& targetOf(const std::string& path, const std::string& output) {
+  return output.empty() ? path : output;
+}
+
+bool writeUpdate(IconArrays& arrays, const std::string& path, const std::string& output, const std::string& failure) {
+  const std::string& target = targetOf(path, output);
+  if (!isOrdinary(target)) {
+    complain(target, kNotOrdinary);
+    return false;
+  }
+  const auto there = output.empty() ? std::nullopt : readFile(output);
+  const auto former = there ? there->span() : output.empty() ? arrays.file.span() : std::span<const std::uint8_t>{};
+  if (writeWholeFile(arrays, target, former)) return true;
+  complain(target, failure);
+  return false;
+}
+
+}  // namespace gp::cli

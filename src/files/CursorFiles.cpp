@@ -1,0 +1,122 @@
+#include "files/CursorFiles.h"
+
+#include "document/AlphaIndicator.h"
+#include "document/Containers.h"
+#include "document/Hourglass.h"
+#include "document/Messages.h"
+#include "document/PanelNumbers.h"
+#include "files/CursorLoading.h"
+#include "files/FileQuestions.h"
+#include "files/IconFileBytes.h"
+#include "files/IconLoading.h"
+#include "files/IconMessages.h"
+#include "files/IconWriter.h"
+
+namespace gp {
+namespace {
+
+constexpr const char* kCursorFilter = "Cursor files (*.cur)|*.cur|";
+constexpr const char* kInvalidFile = "\nInvalid cursor file";
+constexpr const char* kFailedToLoad = "Failed to load this cursor";
+constexpr const char* kAlphaReminder =
+    "Reminder:  The original cursor is with Alpha Channel.  To view the icon with\n"
+    "alpha effects, or to edit the alpha values, invoke the Alpha Channel screen.\n"
+    "\n";
+
+bool isInside(int coordinate) { return coordinate >= 0 && coordinate < kCursorSide; }
+bool isShownDepth(const CursorFacts& facts) { return facts.colors > 0 || facts.bits == 24 || facts.bits == 32; }
+
+}  // namespace
+
+CursorFiles::CursorFiles(const FilesContext& context)
+    : context_(context), state_(context.state), mark_(context.state, context.editor, context.pump) {}
+
+// Opening.
+
+void CursorFiles::doMnuFileOpenCursor() {
+  openChosenFile(context_, kCursorFilter, [this](const std::string& path, bool& ok) { doOpenCursorFile(path, ok); });
+}
+
+void CursorFiles::doOpenCursorFile(const std::string& path, bool& ok) {
+  ok = false;
+  const auto bytes = readIconFile(path);
+  const CursorFacts facts = bytes ? probeCursor(bytes->span()) : CursorFacts{};
+  if (!facts.valid) return context_.boxes.tell(path + kInvalidFile, BoxIcon::Exclamation);
+  if (!load(bytes->span())) return leaveEmpty(kFailedToLoad, BoxIcon::Exclamation);
+  if (!isShownDepth(facts)) return leaveEmpty(path + kStrangeTrueColor, BoxIcon::Information);
+  describeLoadedCursor(state_, facts, path);
+  if (!keepLoadedAlpha(state_)) context_.boxes.tell(kAlphaNotKept, BoxIcon::Exclamation);
+  showLoadedIcon(context_.editor);
+  ok = true;
+  remindOfAlpha();
+}
+
+bool CursorFiles::load(std::span<const std::uint8_t> file) {
+  const Hourglass hourglass(state_, context_.display);
+  emptyContainerFor(state_, context_.editor, kCursorSide);
+  if (loadCursorPixels(file, state_, state_.picImage, state_.picMask) == IconDefect::None) return true;
+  state_.picImage.clearPicture();
+  state_.picMask.clearPicture();
+  return false;
+}
+
+// Showing a container that is empty wipes the Surfaces, dims the tools and clears the status bar.
+void CursorFiles::leaveEmpty(const std::string& text, BoxIcon icon) {
+  context_.editor.SwitchContainer(state_.mCurContainer);
+  context_.boxes.tell(text, icon);
+}
+
+void CursorFiles::remindOfAlpha() {
+  if (!state_.options.flagMessageIfAlpha || !state_.current().hasAlpha) return;
+  flashAlphaIndicator(state_, context_.display, context_.pump);
+  context_.boxes.tell(std::string(kAlphaReminder) + kReminderHint, BoxIcon::Information);
+}
+
+// The Panel.
+
+void CursorFiles::openPanel() {
+  const IconContainerRec& record = state_.current();
+  const bool isKnown = record.isCursor && isInside(record.hotspotX) && isInside(record.hotspotY);
+  x_ = isKnown ? record.hotspotX : 0;
+  y_ = isKnown ? record.hotspotY : 0;
+  changed();
+  context_.editor.showPanel(kCursorPanel);
+  showHotspot();
+}
+
+void CursorFiles::setHotspotX(int x) {
+  if (isInside(x)) x_ = x;
+  changed();
+}
+
+void CursorFiles::setHotspotY(int y) {
+  if (isInside(y)) y_ = y;
+  changed();
+}
+
+void CursorFiles::setHotspotByClick(int x, int y) {
+  if (mark_.isFlashing() || !isInside(x) || !isInside(y)) return;
+  x_ = x;
+  y_ = y;
+  changed();
+  showHotspot();
+}
+
+void CursorFiles::showHotspot() {
+  if (state_.screen.mActivePanel == kCursorPanel && state_.current().present) mark_.FlashHotspot(x_, y_);
+}
+
+void CursorFiles::revealOriginalHotspot() {
+  const IconContainerRec& record = state_.current();
+  if (record.present && record.isCursor) mark_.FlashHotspot(record.hotspotX, record.hotspotY);
+}
+
+void CursorFiles::changed() {
+  if (onChange) onChange();
+}
+
+void CursorFiles::WriteCursorFile(const std::string& path, bool& ok) const {
+  ok = writeCurrentCursor(state_, x_, y_, path);
+}
+
+}  // namespace gp

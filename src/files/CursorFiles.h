@@ -1,0 +1,59 @@
+// The commands on cursor files: opening one, and the Panel "Save as cursor" with its hot spot.
+#pragma once
+
+#include "files/CursorProbe.h"
+#include "files/FilesContext.h"
+#include "files/HotspotMark.h"
+
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+
+namespace gp {
+
+class CursorFiles {
+ public:
+  explicit CursorFiles(const FilesContext& context);
+
+  // The command "Open &Cursor File  (cur) ....": offers to save, asks for a file and opens it.
+  void doMnuFileOpenCursor();
+  // Opens a file into the current container and tells the user what he should know of it.
+  void doOpenCursorFile(const std::string& path, bool& ok);
+
+  // Brings the Panel up, with the hot spot of the current cursor or 0, 0, and shows the spot once.
+  void openPanel();
+  // cboCursorHotSpot(0) and (1): their items, 0 to 31.
+  int hotspotX() const { return x_; }
+  int hotspotY() const { return y_; }
+  void setHotspotX(int x);
+  void setHotspotY(int y);
+  // A click on the Editing Area while the Panel is open, in pixels of the icon: takes the spot and shows it, unless one
+  // is being shown.
+  void setHotspotByClick(int x, int y);
+  // cmdShowHotspot.
+  void showHotspot();
+  // "&Reveal Hotspot Of Original Cursor".
+  void revealOriginalHotspot();
+
+  // Writes the Current Icon as a cursor with the hot spot of the lists. The record stays as it is. Tells nothing.
+  void WriteCursorFile(const std::string& path, bool& ok) const;
+
+  HotspotMark& mark() { return mark_; }
+  // What the view does when the lists changed.
+  std::function<void()> onChange;
+
+ private:
+  bool load(std::span<const std::uint8_t> file);
+  void leaveEmpty(const std::string& text, BoxIcon icon);
+  void remindOfAlpha();
+  void changed();
+
+  FilesContext context_;
+  EditState& state_;
+  HotspotMark mark_;
+  int x_ = 0;
+  int y_ = 0;
+};
+
+}  // namespace gp

@@ -1,0 +1,28 @@
+// What a cursor file holds, as far as the editor takes cursors: one picture of 32x32 at offset 22 with a hot spot
+// inside. Refuses nothing; a file that is no such cursor is an answer too.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+namespace gp {
+
+inline constexpr int kCursorSide = 32;  // pixels; a hot spot lies in 0 to 31
+
+struct CursorFacts {
+  bool valid = false;
+  int colors = 0;  // by the bitmap header alone, -1 for true colour
+  int bits = 0;    // biBitCount
+  int hotspotX = 0;
+  int hotspotY = 0;
+
+  // "1/", colours, "/", bits; "0/0/0" for what is no cursor.
+  std::string joined() const;
+};
+
+CursorFacts probeCursor(std::span<const std::uint8_t> file);
+// The same for a file; one that cannot be read counts as no cursor.
+CursorFacts ProbeCursorFile(const std::string& path);
+
+}  // namespace gp

@@ -1,0 +1,47 @@
+#include "files/FileQuestions.h"
+
+#include "platform/text/Paths.h"
+
+namespace gp {
+namespace {
+
+std::string remembered(FilesContext& context, const std::string& path) {
+  if (!path.empty()) context.state.process.mLastFolder = ParseFileName(path, PathPart::DriveAndFolder);
+  return path;
+}
+
+}  // namespace
+
+std::string askToOpen(FilesContext& context, const char* filter) {
+  OpenOptions options;
+  options.filter = filter;
+  options.initialFolder = context.state.process.mLastFolder;
+  return remembered(context, context.dialog.ShowOpen(options));
+}
+
+std::string askToSave(FilesContext& context, const std::string& proposedName, const char* filter, const char* extension,
+                      OverwriteQuestion question) {
+  SaveOptions options;
+  options.fileName = proposedName;
+  options.filter = filter;
+  options.defaultExtension = extension;
+  options.overwritePrompt = question == OverwriteQuestion::ByDialog;
+  options.initialFolder = context.state.process.mLastFolder;
+  return remembered(context, context.dialog.ShowSave(options));
+}
+
+void openChosenFile(FilesContext& context, const char* filter, const OpenFile& open) {
+  context.editor.CommitPendingPaint();
+  bool proceed = true;
+  if (context.state.IsIconChanged()) context.editor.AskSaveCurrent("", proceed);
+  if (!proceed) return;
+  const std::string path = askToOpen(context, filter);
+  if (path.empty()) return;
+  bool ok = false;
+  open(path, ok);
+  if (!ok) return;
+  context.state.process.mCommandFile = path;
+  context.editor.chooseColorChart();
+}
+
+}  // namespace gp

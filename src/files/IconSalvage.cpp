@@ -1,0 +1,55 @@
+#include "files/IconSalvage.h"
+
+#include "files/IcoLayout.h"
+#include "platform/files/ByteReader.h"
+#include "platform/text/Numbers.h"
+
+#include <algorithm>
+
+namespace gp {
+namespace {
+
+constexpr int kLargestSide = 128;
+// A height is told in one byte, which images of 128 pixels and more would overflow with their Mask.
+constexpr int kLeastWholeHeight = 256;
+constexpr int kMostWholeHeight = 2 * ico::kMaxEntrySide;
+
+int halfOf(std::int32_t height, std::uint8_t lowByte) {
+  const bool isWhole = height >= kLeastWholeHeight && height <= kMostWholeHeight;
+  return roundToInteger((isWhole ? height : lowByte) / 2.0);
+}
+
+bool isPngPicture(ImageBytes image) {
+  return image.size() >= ico::kPngSignature.size() &&
+         std::ranges::equal(image.first(ico::kPngSignature.size()), ico::kPngSignature);
+}
+
+}  // namespace
+
+bool hasBitmapHeader(ImageBytes image) { return image.size() > dib::kHeaderBitCount && !isPngPicture(image); }
+
+HeaderFacts headerFactsOf(ImageBytes image) {
+  if (!hasBitmapHeader(image)) return {};
+  ByteReader reader(image);
+  return {.width = reader.u8At(dib::kHeaderWidth),
+          .height = halfOf(reader.i32At(dib::kHeaderHeight), reader.u8At(dib::kHeaderHeight)),
+          .bits = reader.u8At(dib::kHeaderBitCount)};
+}
+
+bool canBeSalvaged(const IconArrays& arrays) {
+  return std::ranges::all_of(arrays.entries, [](const IconEntry& entry) {
+    return entry.width <= kLargestSide && entry.height <= kLargestSide;
+  });
+}
+
+void salvageEntries(IconArrays& arrays) {
+  for (std::size_t i = 0; i < arrays.entries.size(); ++i) {
+    if (!hasBitmapHeader(arrays.images[i])) continue;
+    const HeaderFacts facts = headerFactsOf(arrays.images[i]);
+    arrays.entries[i].width = facts.width;
+    arrays.entries[i].height = facts.height;
+    arrays.entries[i].bitCount = facts.bits;
+  }
+}
+
+}  // namespace gp

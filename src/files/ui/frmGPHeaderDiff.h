@@ -1,0 +1,54 @@
+// Sets side by side what an icon file's directory, its bitmap headers and its pixels tell, and salvages by the headers.
+// Its rules are those of a HeaderDiff; the form shows them and forwards what is pressed.
+#pragma once
+
+#include "files/HeaderDiff.h"
+
+#include <QDialog>
+
+#include <array>
+
+class QBoxLayout;
+class QPushButton;
+class QRadioButton;
+
+namespace gp {
+
+class EntryView;
+class TabbedList;
+class TextCell;
+
+class frmGPHeaderDiff final : public QDialog {
+  Q_OBJECT
+
+ public:
+  // The file is EditState::multiIcon's. What the context refers to must outlive the form.
+  frmGPHeaderDiff(const FilesContext& context, QWidget* parent);
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void makeControls();
+  QWidget* makeTable();
+  void layOut();
+  QBoxLayout* makeListColumn();
+  QBoxLayout* makeEntryColumn();
+  QBoxLayout* makeButtonRow();
+  void connectControls();
+  void refresh();
+
+  HeaderDiff diff_;
+  bool activated_ = false;
+
+  TextCell* lblFileSpec = nullptr;
+  TabbedList* lisIcons = nullptr;
+  EntryView* lblIconInFile = nullptr;
+  std::array<QRadioButton*, 2> optBase{};
+  QWidget* fraEnquiry = nullptr;
+  std::array<TextCell*, 6> enquiryCells_{};
+  QPushButton* cmdSalvage = nullptr;
+  QPushButton* cmdExit = nullptr;
+};
+
+}  // namespace gp

@@ -1,0 +1,55 @@
+// The browser of files with several icons, and the form that adds an icon to one. Its rules are those of a
+// MultiIconBrowser; the form shows them and forwards what is pressed.
+#pragma once
+
+#include "files/MultiIconBrowser.h"
+
+#include <QDialog>
+
+class QStackedWidget;
+
+namespace gp {
+
+class BrowserFaceView;
+class RepositionView;
+class TabbedList;
+
+class frmGPMultiIcon final : public QDialog {
+  Q_OBJECT
+
+ public:
+  // What the context refers to must outlive the form.
+  frmGPMultiIcon(const FilesContext& context, QWidget* parent);
+
+  // Shows the form until it is closed. A file that cannot be read shows nothing.
+  void run();
+  // Reads the file and shows the form; false when the file cannot be read.
+  bool comeUp();
+  // Esc ends what is open: the pane that repositions, else the form.
+  void reject() override;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void browserChanged();
+  QWidget* makeOtherIcons();
+  void makeControls();
+  void makeButtonsEqual();
+  void refresh();
+  void showPane();
+  void showOtherSizes(bool shown);
+  void resizeOnScreen(int width, int height);
+
+  MultiIconBrowser browser_;
+  const MultiIconExchange& exchange_;
+  bool unloaded_ = false;
+  QStackedWidget* panes_ = nullptr;
+  BrowserFaceView* faceView_ = nullptr;
+  RepositionView* repositionView_ = nullptr;
+  QWidget* fraOtherIcons_ = nullptr;
+  TabbedList* lisOtherIcons_ = nullptr;
+};
+
+}  // namespace gp

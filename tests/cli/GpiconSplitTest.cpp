@@ -1,0 +1,150 @@
+// Splitting files of several icons: each image as a file of its own, byte by byte.
+#include "cli/GpiconFixture.h"
+
+#include <sys/stat.h>
+
+namespace gp::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Not one that can be decoded: images are copied as they stand.
+Entry pngEntry(int side) {
+  Entry png;
+  png.width = png.height = side;
+  png.bitCount = 32;
+  png.image = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n', 1, 2, 3};
+  return png;
+}
+
+class GpiconSplit : public Gpicon {
+ protected:
+  Outcome split(const std::vector<std::string>& files) const {
+    std::vector<std::string> arguments{"split"};
+    arguments.insert(arguments.end(), files.begin(), files.end());
+    arguments.insert(arguments.end(), {"-d", folder.path("out")});
+    return run(arguments);
+  }
+  Bytes output(const std::string& name) const { return bytesOf(folder.path("out/" + name)); }
+};
+
+TEST_F(GpiconSplit, EveryImageOfEverySizeBecomesAFileWithItsBytes) {
+  Entry large = anyEntry(48, 8);
+  large.width = large.height = 64;  // a lie, copied as it stands
+  const std::vector<Entry> entries{anyEntry(16, 1),  anyEntry(32, 4), anyEntry(48, 8), anyEntry(24, 24),
+                                   anyEntry(32, 32), large,           pngEntry(0)};
+  const std::string path = folder.write("tools.ico", fileOf(entries));
+  const Bytes before = bytesOf(path);
+  const Outcome o = split({path});
+  EXPECT_EQ(o.status, 0) << o.err;
+  EXPECT_EQ(o.out + o.err, "");
+  const std::vector<std::string> names{"tools_16_2.ico",     "tools_32_16.ico",    "tools_48_256.ico",
+                                       "tools_24_24bpp.ico", "tools_32_32bpp.ico", "tools_64_256.ico",
+                                       "tools_256_32bpp.ico"};
+  EXPECT_EQ(namesIn("out").size(), names.size());
+  for (std::size_t i = 0; i < names.size(); ++i) EXPECT_EQ(output(names[i]), build(entries[i])) << names[i];
+  EXPECT_EQ(bytesOf(path), before);
+}
+
+TEST_F(GpiconSplit, TheEntryIsCopiedAsItStandsButForTheOffset) {
+  Entry odd = anyEntry(16, 4);
+  odd.colorCount = 7;
+  odd.bitCount = 0;
+  Bytes file = build(odd);
+  file[6 + 3] = 9;  // reserved
+  file[6 + 4] = 5;  // planes
+  EXPECT_EQ(split({folder.write("odd.ico", file)}).status, 0);
+  EXPECT_EQ(output("odd_16_16.ico"), file);
+}
+
+TEST_F(GpiconSplit, TheReservedFieldOfTheFileIsNotCopied) {
+  IcoFile file{{anyEntry(16, 4)}, 0xFFFF, 1, {}};
+  EXPECT_EQ(split({folder.write("r.ico", build(file))}).status, 0);
+  EXPECT_EQ(output("r_16_16.ico"), build(anyEntry(16, 4)));
+}
+
+TEST_F(GpiconSplit, ASizeIsTheHeight) {
+  Entry wide = anyEntry(16, 4);
+  wide.width = 48;
+  EXPECT_EQ(split({folder.write("w.ico", build(wide))}).status, 0);
+  EXPECT_EQ(output("w_16_16.ico"), build(wide));
+}
+
+TEST_F(GpiconSplit, ImagesOfOneSizeAndDepthGetNamesOfTheirOwn) {
+  Entry other = anyEntry(32, 8);
+  other.image.back() ^= 1;
+  fs::create_directory(folder.path("x"));
+  const std::string a = folder.write("a.ico", fileOf({anyEntry(32, 8), other})),
+                    b = folder.write("x/a.ico", fileOf({anyEntry(32, 8)}));
+  EXPECT_EQ(split({a, b}).status, 0);
+  EXPECT_EQ(namesIn("out"), (std::vector<std::string>{"a_32_256-2.ico", "a_32_256-3.ico", "a_32_256.ico"}));
+  EXPECT_EQ(output("a_32_256.ico"), build(anyEntry(32, 8)));
+  EXPECT_EQ(output("a_32_256-2.ico"), build(other));
+  EXPECT_EQ(output("a_32_256-3.ico"), build(anyEntry(32, 8)));
+}
+
+TEST_F(GpiconSplit, NoInputOfTheCallIsOverwritten) {
+  const std::string a = folder.write("a.ico", fileOf({anyEntry(32, 8)})),
+                    b = folder.write("a_32_256.ico", fileOf({anyEntry(16, 1), anyEntry(16, 4)}));
+  const Bytes before = bytesOf(b);
+  EXPECT_EQ(run({"split", a, b, "-d", folder.folder()}).status, 0);
+  EXPECT_EQ(bytesOf(b), before);
+  EXPECT_EQ(bytesOf(folder.path("a_32_256-2.ico")), build(anyEntry(32, 8)));
+  EXPECT_EQ(bytesOf(folder.path("a_32_256_16_2.ico")), build(anyEntry(16, 1)));
+}
+
+TEST_F(GpiconSplit, AnImageThatIsCutOffDoesNotCostTheOthers) {
+  const Bytes whole = fileOf({anyEntry(16, 4), anyEntry(32, 4)});
+  const std::string path = folder.write("cut.ico", Bytes(whole.begin(), whole.end() - 1));
+  const Outcome o = split({path});
+  EXPECT_EQ(o.status, 1);
+  EXPECT_EQ(o.err, "gpicon: " + path + ": 1 of its 2 images reach behind the end of the file\n");
+  EXPECT_EQ(namesIn("out"), std::vector<std::string>{"cut_16_16.ico"});
+}
+
+TEST_F(GpiconSplit, SharedBytesAreNoWayToFillADisk) {
+  // 1000 entries over the same 300 KB come to 300 MB.
+  std::vector<Entry> entries(1000);
+  for (Entry& entry : entries) entry.offset = 6 + 16 * 1000, entry.bytesInRes = 300'000;
+  entries.back().image = Bytes(300'000);
+  const std::string path = folder.write("bomb.ico", fileOf(entries));
+  const Outcome o = split({path});
+  EXPECT_EQ(o.status, 1);
+  EXPECT_EQ(lines(o.err), 1);
+  EXPECT_TRUE(namesIn("out").empty());
+}
+
+TEST_F(GpiconSplit, ManyImagesOfOneNameTakeNoQuadraticTime) {
+  std::vector<Entry> entries(5'000);
+  const Outcome o = split({folder.write("many.ico", fileOf(entries))});
+  EXPECT_EQ(o.status, 0);
+  EXPECT_EQ(namesIn("out").size(), 5'000u);
+  EXPECT_TRUE(fs::exists(folder.path("out/many_32_256-5000.ico")));
+}
+
+TEST_F(GpiconSplit, ABadFileCostsOneLineAndNotTheOthers) {
+  const std::string cursor = folder.write("c.cur", build(IcoFile{{anyEntry(32, 4)}, 0, 2, {}}));
+  const Outcome o = split({folder.path("missing.ico"), cursor, icon("good.ico", 16, 4)});
+  EXPECT_EQ(o.status, 1);
+  EXPECT_EQ(o.err, "gpicon: " + folder.path("missing.ico") + ": not a file that can be read\ngpicon: " + cursor +
+                       ": not an icon file\n");
+  EXPECT_EQ(namesIn("out"), std::vector<std::string>{"good_16_16.ico"});
+}
+
+TEST_F(GpiconSplit, WhatStandsInTheWayIsToldAndLeft) {
+  const std::string path = icon("a.ico", 16, 4);
+  fs::create_directories(folder.path("out/a_16_16.ico"));
+  const Outcome o = split({path});
+  EXPECT_EQ(o.status, 1);
+  EXPECT_EQ(o.err, "gpicon: " + path + ": " + folder.path("out/a_16_16.ico") + " cannot be written\n");
+}
+
+TEST_F(GpiconSplit, APipeInTheWayIsNoTrap) {
+  const std::string path = icon("a.ico", 16, 4);
+  fs::create_directories(folder.path("out"));
+  ASSERT_EQ(mkfifo(folder.path("out/a_16_16.ico").c_str(), 0600), 0);
+  EXPECT_EQ(split({path}).status, 1);
+}
+
+}  // namespace
+}  // namespace gp::test

@@ -1,0 +1,83 @@
+// A browser over files that a test builds, with scripted ports.
+#pragma once
+
+#include "files/Decoding.h"
+#include "files/IcoBuilder.h"
+#include "files/MultiIconBrowser.h"
+#include "support/FakeEditor.h"
+#include "support/ScriptedPorts.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace gp::test {
+
+inline Entry iconEntry(int size, int bits) { return entryOf(anyPicture(size, bits)); }
+inline IcoFile iconFile(std::vector<Entry> entries) { return {std::move(entries), 0, 1, {}}; }
+
+// An image that begins like a PNG picture, which the editor cannot show.
+inline Entry pngEntry(int size) {
+  Entry entry = iconEntry(size, 32);
+  const Bytes signature{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
+  std::copy(signature.begin(), signature.end(), entry.image.begin());
+  return entry;
+}
+
+inline void makeReadOnly(const std::string& path) {
+  std::filesystem::permissions(path, std::filesystem::perms::owner_read);
+}
+
+// What a picture and its Mask look like on the program's ground.
+inline Surface onGround(const Surface& image, const Surface& mask) {
+  Surface icon(image.width(), image.height());
+  for (int y = 0; y < icon.height(); ++y)
+    for (int x = 0; x < icon.width(); ++x) icon.SetPixelV(x, y, (kGround & mask.GetPixel(x, y)) ^ image.GetPixel(x, y));
+  return icon;
+}
+
+class BrowserTest : public testing::Test {
+ protected:
+  using Items = std::vector<std::string>;
+
+  IconFolder folder;
+  EditState state;
+  FakeEditor editor;
+  RecordingDisplay display;
+  ScriptedBoxes boxes;
+  ScriptedPump pump;
+  ScriptedDialogs dialogs;
+  clsGPDialog dialog{dialogs};
+  FilesContext context{state, editor, display, boxes, pump, dialog};
+  MultiIconExchange& exchange = state.multiIcon;
+  std::unique_ptr<MultiIconBrowser> browser;
+  std::string path;
+  int changes = 0, unloads = 0;
+
+  // Shows a file as from container 3 on the edit face.
+  MultiIconBrowser& browse(const Bytes& bytes, bool addFace = false) {
+    path = folder.write("tools.ico", bytes);
+    exchange.gMultiIconFile = path;
+    exchange.gMultiIconResult = addFace ? "" : "2";
+    exchange.gAddToFile = addFace;
+    return show();
+  }
+  MultiIconBrowser& browse(std::vector<Entry> entries, bool addFace = false) {
+    return browse(build(iconFile(std::move(entries))), addFace);
+  }
+  MultiIconBrowser& show() {
+    browser = std::make_unique<MultiIconBrowser>(context);
+    browser->onChange = [this] { ++changes; };
+    browser->onUnload = [this] { ++unloads; };
+    browser->activate();
+    return *browser;
+  }
+  bool listsNothingAndUnloaded() const { return unloads == 1 && browser->lisIcons().empty(); }
+  // Whether the preview shows entry `index` of a file.
+  bool previews(const Bytes& file, int index) const {
+    const Decoded entry = decode(file, index);
+    return samePixels(browser->picIconInFile(), onGround(entry.image, entry.mask));
+  }
+};
+
+}  // namespace gp::test

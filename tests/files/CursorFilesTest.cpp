@@ -1,0 +1,388 @@
+#include "files/CursorBuilder.h"
+#include "files/CursorFiles.h"
+#include "files/Decoding.h"
+#include "files/FilesFixture.h"
+
+#include <filesystem>
+
+namespace gp::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kInvalid = "\nInvalid cursor file";
+constexpr const char* kFailed = "Failed to load this cursor";
+constexpr const char* kStrange = "\nIncoming icon is a True Color icon but not of 24 BPP or 32 BPP.\n";
+constexpr const char* kAlphaReminder =
+    "Reminder:  The original cursor is with Alpha Channel.  To view the icon with\n"
+    "alpha effects, or to edit the alpha values, invoke the Alpha Channel screen.\n\n"
+    "(To remove Reminder, untick the related Option submenu)";
+constexpr const char* kReadOnly =
+    "File is read-only\n\nYou may save it under a different file name or reset the file attributes.";
+constexpr const char* kSizeOnly = "For cursor of 32x32 only";
+constexpr int kFlashMilliseconds = 900;
+constexpr int kSaveAsCursor = 18;
+constexpr int kPanel = 2;
+
+// Panels open and close as they do on the form.
+class PanelEditor : public FilesEditor {
+ public:
+  PanelEditor(EditState& state, Display& display, MessagePump& pump)
+      : FilesEditor(state, display, pump), shown_(state) {}
+  void showPanel(int panel) override { FakeEditor::showPanel(panel), shown_.screen.mActivePanel = panel; }
+  void closePanels() override { FakeEditor::closePanels(), shown_.screen.mActivePanel = 0; }
+
+ private:
+  EditState& shown_;
+};
+
+class CursorFilesTest : public FilesTest {
+ protected:
+  PanelEditor screen{state, display, pump};
+  FilesContext onScreen{state, screen, display, boxes, pump, dialog};
+  CursorFiles cursor{onScreen};
+  IconSaver cursorSaver{onScreen, cursor};
+
+  bool openCursor(const std::string& path) {
+    bool ok = true;
+    cursor.doOpenCursorFile(path, ok);
+    return ok;
+  }
+  std::string write(const CursorFile& file, const std::string& name = "given.cur") {
+    return folder.write(name, build(file));
+  }
+  // A cursor of 16 colours, opened.
+  std::string givenCursor(int hotspotX, int hotspotY) {
+    const std::string path = write(cursorOf(anyPicture(32, 4), hotspotX, hotspotY));
+    EXPECT_TRUE(openCursor(path));
+    screen.calls.clear();
+    return path;
+  }
+  void expectEmptyContainer() {
+    EXPECT_FALSE(record().used || record().present);
+    EXPECT_EQ(record().path.trimmed(), "");
+    EXPECT_FALSE(state.picPanelImage[0].hasPicture());
+    EXPECT_EQ(screen.calls.back(), "SwitchContainer 0") << "which shows it empty";
+    EXPECT_FALSE(state.screen.hourglass);
+  }
+  std::pair<int, int> spot() const { return {cursor.hotspotX(), cursor.hotspotY()}; }
+};
+
+// Opening.
+
+TEST_F(CursorFilesTest, ACursorOpensWithItsPixelsAndItsHotSpot) {
+  const Picture p = anyPicture(32, 4);
+  const std::string path = write(cursorOf(p, 12, 31));
+  record().modified = record().neverSaved = true;
+  EXPECT_TRUE(openCursor(path));
+  EXPECT_TRUE(record().used && record().present && record().isCursor);
+  EXPECT_EQ(record().sourceLabel.trimmed(), "CUR file");
+  EXPECT_EQ(record().path.trimmed(), path);
+  EXPECT_EQ(record().dirColors, 16);
+  EXPECT_EQ(record().bitCount, 4);
+  EXPECT_EQ(record().hotspotX, 12);
+  EXPECT_EQ(record().hotspotY, 31);
+  EXPECT_FALSE(record().isDiscrepant() || record().hasAlpha || state.IsIconChanged());
+  EXPECT_TRUE(samePixels(state.picImage, decode(build(entryOf(p))).image));
+  EXPECT_TRUE(samePixels(state.picPanelMask[0], decode(build(entryOf(p))).mask));
+}
+
+TEST_F(CursorFilesTest, OpeningClearsSizesShowsAndBeginsUndoButEntersNoHistory) {
+  EXPECT_TRUE(openCursor(write(cursorOf(anyPicture(32, 4)))));
+  EXPECT_EQ(screen.calls, (std::vector<std::string>{
+                              "clearRegion", "clearUndoHistory", "ClearContainer", "SizePanelSurfaces 32",
+                              "SizeEditSurfaces 32", "UpdatePanelFromCurrent", "ComposeCurrentIcon", "ShowCurrentIcon",
+                              "clearAllTools", "UpdateCommands", "UpdateCommands", "clearUndoHistory", "recordUndo"}));
+}
+
+TEST_F(CursorFilesTest, FilesThatAreNoSuchCursorsAreInvalid) {
+  CursorFile outside = cursorOf(anyPicture(32, 4), 32, 0), icon = cursorOf(anyPicture(32, 4)), none = icon,
+             several = icon, small = cursorOf(anyPicture(16, 4)), large = icon, empty = icon;
+  icon.type = 1;
+  none.count = 0;
+  several.count = 2;
+  several.offset = 38;
+  small.width = small.height = 16;
+  large.width = large.height = 48;
+  empty.width = empty.height = 0;
+  const std::string before = givenCursor(1, 2);
+  for (const CursorFile& file : {outside, icon, none, several, small, large, empty}) {
+    const std::string path = write(file, "bad.cur");
+    boxes.expectTold(path + kInvalid, BoxIcon::Exclamation);
+    EXPECT_FALSE(openCursor(path));
+  }
+  boxes.expectTold(folder.path("gone.cur") + kInvalid, BoxIcon::Exclamation);
+  EXPECT_FALSE(openCursor(folder.path("gone.cur")));
+  EXPECT_EQ(record().path.trimmed(), before) << "the icon that was there stays";
+  EXPECT_TRUE(screen.calls.empty());
+}
+
+TEST_F(CursorFilesTest, APngPictureFailsToLoadAndLeavesTheContainerEmpty) {
+  givenCursor(1, 2);
+  CursorFile png;
+  png.image = Bytes{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n', 0, 0, 0, 13, 'I', 'H', 'D', 'R'};
+  boxes.expectTold(kFailed, BoxIcon::Exclamation);
+  EXPECT_FALSE(openCursor(write(png, "png.cur")));
+  EXPECT_FALSE(state.picImage.hasPicture() || state.picMask.hasPicture());
+  expectEmptyContainer();
+}
+
+TEST_F(CursorFilesTest, TrueColorOfOddDepthsIsRefusedAndLeavesTheContainerEmpty) {
+  for (const int bits : {0, 2, 16, 65535}) {
+    givenCursor(1, 2);
+    CursorFile file = cursorOf(anyPicture(32, 32));
+    file.picture.headerBits = bits;
+    const std::string path = write(file, "odd.cur");
+    boxes.expectTold(path + kStrange, BoxIcon::Information);
+    EXPECT_FALSE(openCursor(path)) << bits;
+    expectEmptyContainer();
+  }
+}
+
+TEST_F(CursorFilesTest, AFileCutAnywhereOpensOrIsRefusedWithItsText) {
+  const Bytes whole = build(cursorOf(anyPicture(32, 24), 3, 4));
+  constexpr std::size_t kOffsetEnds = 19, kBitsBegin = 36, kStep = 37;
+  for (std::size_t size = 0; size < whole.size(); size += size < 64 ? 1 : kStep) {
+    const std::string path =
+        folder.write("cut.cur", Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)));
+    if (size < kOffsetEnds)
+      boxes.expectTold(path + kInvalid, BoxIcon::Exclamation);
+    else if (size <= kBitsBegin)
+      boxes.expectTold(path + kStrange, BoxIcon::Information);
+    EXPECT_EQ(openCursor(path), size > kBitsBegin) << size;
+    EXPECT_TRUE(boxes.done()) << size;
+  }
+}
+
+TEST_F(CursorFilesTest, AlphaIsKeptAndRemindedOfWhereTheOptionIsOn) {
+  const Picture p = anyPicture(32, 32);
+  const std::string path = write(cursorOf(p));
+  state.options.flagMessageIfAlpha = true;
+  state.options.alertIfBadHeader = true;
+  boxes.expectTold(kAlphaReminder, BoxIcon::Information);
+  EXPECT_TRUE(openCursor(path));
+  EXPECT_EQ(pump.waitedMilliseconds, 400);
+  EXPECT_TRUE(record().hasAlpha);
+  EXPECT_EQ(record().bitCount, 32);
+  EXPECT_EQ(record().bihBitCount, 32);
+  EXPECT_EQ(state.mAlphaRecs[0].at(4, 5), p.color(4, 5).a);
+  state.options.flagMessageIfAlpha = false;
+  EXPECT_TRUE(openCursor(path));
+  EXPECT_EQ(pump.waitedMilliseconds, 400);
+}
+
+TEST_F(CursorFilesTest, TheOpenCommandAsksOpensAndChoosesTheChart) {
+  const std::string path = write(cursorOf(anyPicture(32, 4), 1, 2));
+  dialogs.paths = {path};
+  cursor.doMnuFileOpenCursor();
+  ASSERT_EQ(dialogs.requests.size(), 1u);
+  EXPECT_EQ(dialogs.requests[0].filters, (std::vector<FileFilter>{{"Cursor files (*.cur)", "*.cur"}}));
+  EXPECT_EQ(state.process.mCommandFile, path);
+  EXPECT_EQ(screen.calls.front(), "CommitPendingPaint");
+  EXPECT_EQ(screen.calls.back(), "chooseColorChart");
+}
+
+TEST_F(CursorFilesTest, TheOpenCommandEndsOnCancelOnRefusalAndOnFailure) {
+  givenCursor(1, 2);
+  dialogs.paths = {""};
+  cursor.doMnuFileOpenCursor();
+  record().modified = true;
+  screen.askSaveProceeds = false;
+  cursor.doMnuFileOpenCursor();
+  EXPECT_EQ(dialogs.requests.size(), 1u);
+  screen.askSaveProceeds = true;
+  const std::string bad = folder.write("bad.cur", {1});
+  dialogs.paths = {bad};
+  boxes.expectTold(bad + kInvalid, BoxIcon::Exclamation);
+  cursor.doMnuFileOpenCursor();
+  EXPECT_EQ(state.process.mCommandFile, "");
+  EXPECT_EQ(screen.count("chooseColorChart"), 0);
+}
+
+// The Panel.
+
+TEST_F(CursorFilesTest, ThePanelOpensWithTheHotSpotOfTheCursorAndShowsItOnce) {
+  givenCursor(7, 30);
+  cursorSaver.mnuFileSub(kSaveAsCursor);
+  EXPECT_EQ(state.screen.mActivePanel, kPanel);
+  EXPECT_EQ(spot(), std::pair(7, 30));
+  EXPECT_EQ(pump.waitedMilliseconds, kFlashMilliseconds);
+}
+
+TEST_F(CursorFilesTest, ThePanelOpensAtZeroForIconsAndForSpotsOutside) {
+  givenCursor(7, 30);
+  record().isCursor = false;
+  cursor.openPanel();
+  EXPECT_EQ(spot(), std::pair(0, 0));
+  record().isCursor = true;
+  for (const auto& [x, y] : {std::pair{32, 5}, {5, 32}, {-1, 5}, {5, -1}}) {
+    record().hotspotX = static_cast<std::int16_t>(x);
+    record().hotspotY = static_cast<std::int16_t>(y);
+    cursor.openPanel();
+    EXPECT_EQ(spot(), std::pair(0, 0)) << x << "," << y;
+  }
+}
+
+TEST_F(CursorFilesTest, IconsOfOtherSizesCannotReachThePanel) {
+  for (const int size : {16, 24, 48}) {
+    EXPECT_TRUE(openQuietly(folder.write("a.ico", build(entryOf(anyPicture(size, 4))))));
+    boxes.expectTold(kSizeOnly, BoxIcon::None);
+    cursorSaver.mnuFileSub(kSaveAsCursor);
+    EXPECT_EQ(screen.count("showPanel 2"), 0) << size;
+  }
+}
+
+TEST_F(CursorFilesTest, AnIconOfAnotherSizeThatCameUpUnderThePanelIsNotSaved) {
+  givenCursor(31, 31);
+  cursor.openPanel();
+  EXPECT_TRUE(openQuietly(folder.write("a.ico", build(entryOf(anyPicture(24, 4))))));
+  boxes.expectTold(kSizeOnly, BoxIcon::None);
+  cursorSaver.doSaveAs(SaveMode::Cursor);
+  screen.ClearContainer();
+  boxes.expectTold("No icon in Editing Area yet", BoxIcon::None);
+  cursorSaver.doSaveAs(SaveMode::Cursor);
+  EXPECT_TRUE(dialogs.requests.empty());
+}
+
+TEST_F(CursorFilesTest, TheListsHoldZeroTo31AndTellTheView) {
+  int told = 0;
+  cursor.onChange = [&] { ++told; };
+  cursor.setHotspotX(31);
+  cursor.setHotspotY(17);
+  EXPECT_EQ(told, 2);
+  for (const int beyond : {-1, 32, 100000}) {
+    cursor.setHotspotX(beyond);
+    cursor.setHotspotY(beyond);
+  }
+  EXPECT_EQ(spot(), std::pair(31, 17));
+}
+
+TEST_F(CursorFilesTest, TheSpotIsShownOnlyWhileThePanelIsOpen) {
+  givenCursor(1, 1);
+  cursor.showHotspot();
+  EXPECT_EQ(pump.waitedMilliseconds, 0);
+  state.screen.mActivePanel = kPanel;
+  cursor.showHotspot();
+  EXPECT_EQ(pump.waitedMilliseconds, kFlashMilliseconds);
+}
+
+TEST_F(CursorFilesTest, AClickTakesTheSpotAndShowsIt) {
+  givenCursor(1, 1);
+  state.screen.mActivePanel = kPanel;
+  cursor.setHotspotByClick(20, 3);
+  EXPECT_EQ(spot(), std::pair(20, 3));
+  EXPECT_EQ(pump.waitedMilliseconds, kFlashMilliseconds);
+  for (const auto& [x, y] : {std::pair{-1, 5}, {32, 5}, {5, 32}}) cursor.setHotspotByClick(x, y);
+  EXPECT_EQ(spot(), std::pair(20, 3));
+  EXPECT_EQ(pump.waitedMilliseconds, kFlashMilliseconds);
+}
+
+TEST_F(CursorFilesTest, AClickWhileASpotIsShownIsIgnored) {
+  givenCursor(1, 1);
+  pump.inside = [this] { cursor.setHotspotByClick(20, 3); };
+  cursor.openPanel();
+  EXPECT_EQ(spot(), std::pair(1, 1));
+  EXPECT_EQ(pump.waitedMilliseconds, kFlashMilliseconds);
+}
+
+TEST_F(CursorFilesTest, TheOriginalHotSpotIsRevealedWhateverTheListsHold) {
+  givenCursor(3, 4);
+  cursor.setHotspotX(20);
+  cursor.revealOriginalHotspot();
+  EXPECT_EQ(pump.waitedMilliseconds, kFlashMilliseconds);
+  EXPECT_EQ(cursor.hotspotX(), 20);
+  record().isCursor = false;
+  cursor.revealOriginalHotspot();
+  EXPECT_EQ(pump.waitedMilliseconds, kFlashMilliseconds) << "an icon has none";
+}
+
+// Saving.
+
+TEST_F(CursorFilesTest, ProceedSavesWithTheHotSpotOfTheLists) {
+  givenCursor(7, 30);
+  cursor.openPanel();
+  cursor.setHotspotX(2);
+  cursor.setHotspotY(29);
+  const std::string path = folder.path("saved.cur");
+  dialogs.paths = {path};
+  cursorSaver.doSaveAs(SaveMode::Cursor);
+  ASSERT_EQ(dialogs.requests.size(), 1u);
+  EXPECT_EQ(dialogs.requests[0].filters, (std::vector<FileFilter>{{"cursor files (*.cur)", "*.cur"}}));
+  EXPECT_EQ(dialogs.requests[0].defaultExtension, "cur");
+  EXPECT_EQ(dialogs.requests[0].fileName, "given");
+  EXPECT_EQ(state.screen.mActivePanel, 0) << "the Panel has closed";
+  const Bytes file = bytesOf(path);
+  ASSERT_GT(file.size(), 22u);
+  EXPECT_EQ(Bytes(file.begin(), file.begin() + 14), (Bytes{0, 0, 2, 0, 1, 0, 32, 32, 0, 0, 2, 0, 29, 0}));
+}
+
+TEST_F(CursorFilesTest, SavingACursorLeavesTheIconWhatItWas) {
+  const std::string source = folder.write("former.ico", build(entryOf(anyPicture(32, 4))));
+  EXPECT_TRUE(openQuietly(source));
+  record().modified = true;
+  cursor.openPanel();
+  screen.calls.clear();
+  dialogs.paths = {folder.path("saved.cur")};
+  cursorSaver.doSaveAs(SaveMode::Cursor);
+  EXPECT_EQ(record().path.trimmed(), source);
+  EXPECT_EQ(record().sourceLabel.trimmed(), "ICO file");
+  EXPECT_FALSE(record().isCursor);
+  EXPECT_TRUE(record().modified);
+  EXPECT_FALSE(state.mSaveFailed);
+  EXPECT_EQ(screen.count("UpdatePanelFromCurrent"), 1);
+  EXPECT_EQ(screen.count("RefreshStatusBar"), 1);
+  EXPECT_EQ(screen.count("AddHistory " + folder.path("saved.cur")), 0);
+  EXPECT_EQ(cursorSaver.lastSavedFile(), folder.path("saved.cur"));
+}
+
+TEST_F(CursorFilesTest, AReadOnlyFileIsToldSo) {
+  givenCursor(1, 2);
+  const std::string path = folder.write("kept.cur", {1, 2, 3});
+  fs::permissions(path, fs::perms::owner_read);
+  dialogs.paths = {path};
+  boxes.expectTold(kReadOnly, BoxIcon::Exclamation);
+  cursorSaver.doSaveAs(SaveMode::Cursor);
+  EXPECT_EQ(bytesOf(path), (Bytes{1, 2, 3}));
+  EXPECT_TRUE(state.mSaveFailed);
+  EXPECT_EQ(screen.count("RefreshStatusBar"), 0);
+}
+
+TEST_F(CursorFilesTest, AnyOtherFailureIsToldInItsOwnSpelling) {
+  givenCursor(1, 2);
+  dialogs.paths = {folder.path("no/such.cur")};
+  boxes.expectTold("Failed to save curosr", BoxIcon::Exclamation);
+  cursorSaver.doSaveAs(SaveMode::Cursor);
+  EXPECT_TRUE(state.mSaveFailed);
+}
+
+TEST_F(CursorFilesTest, ProceedWhileTheSpotIsShownSavesNoMark) {
+  const Picture p = anyPicture(32, 4);
+  givenCursor(3, 4);
+  const std::string path = folder.path("saved.cur");
+  dialogs.paths = {path};
+  pump.inside = [this] { cursorSaver.doSaveAs(SaveMode::Cursor); };
+  cursor.openPanel();
+  bool ok = false;
+  cursor.doOpenCursorFile(path, ok);
+  EXPECT_TRUE(ok);
+  EXPECT_TRUE(samePixels(state.picImage, decode(build(entryOf(p))).image));
+}
+
+TEST_F(CursorFilesTest, ASavedCursorOpensAgainWithTheSamePixelsAndAlpha) {
+  state.options.flagMessageIfAlpha = false;
+  for (const int bits : {24, 32}) {
+    EXPECT_TRUE(openCursor(write(cursorOf(anyPicture(32, bits), 9, 8))));
+    const Surface image = state.picImage, mask = state.picMask;
+    cursor.openPanel();
+    const std::string path = folder.path("again.cur");
+    dialogs.paths = {path};
+    cursorSaver.doSaveAs(SaveMode::Cursor);
+    EXPECT_TRUE(openCursor(path));
+    EXPECT_EQ(record().bitCount, bits);
+    EXPECT_EQ(record().hotspotX, 9);
+    EXPECT_TRUE(samePixels(state.picImage, image) && samePixels(state.picMask, mask));
+  }
+}
+
+}  // namespace
+}  // namespace gp::test

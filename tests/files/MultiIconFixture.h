@@ -1,0 +1,93 @@
+// Commands on files of several icons, with a user who does in the browser what a test lists.
+#pragma once
+
+#include "files/Decoding.h"
+#include "files/FilesFixture.h"
+
+#include <deque>
+#include <filesystem>
+
+namespace gp::test {
+
+inline IcoFile fileOf(std::vector<Entry> entries) { return IcoFile{std::move(entries), 0, 1, {}}; }
+
+class MultiIconTest : public FilesTest {
+ protected:
+  const std::string scratch = folder.path("gptmp.ico");
+  // What he does each time the browser comes up; in the end he closes it.
+  std::deque<std::function<void()>> user;
+
+  MultiIconTest() {
+    forms.onMultiIcon = [this] {
+      if (user.empty()) return answers("", false);
+      const auto step = user.front();
+      user.pop_front();
+      step();
+    };
+  }
+
+  void answers(const std::string& text, bool comesBack = false) {
+    state.multiIcon.gMultiIconResult = text;
+    state.multiIcon.gLoadAndReturn = comesBack;
+  }
+  // An entry as the browser leaves it for loading.
+  void leaves(const Bytes& file, int index) {
+    const Decoded entry = decode(file, index);
+    state.picImageTemp = entry.image;
+    state.picMaskTemp = entry.mask;
+    if (entry.alpha.width() > 1) state.gAlphaValues = entry.alpha;
+  }
+  void userLoads(const Bytes& file, int index, const std::string& answer, bool comesBack = false) {
+    user.push_back([=, this] { leaves(file, index), answers(answer, comesBack); });
+  }
+  void userAnswers(const std::string& answer) {
+    user.push_back([=, this] { answers(answer); });
+  }
+
+  // The entry of a file becomes the Current Icon as after a load through the browser.
+  std::string givenEntry(const IcoFile& file, int index, const std::string& name = "multi.ico") {
+    const std::string path = folder.write(name, build(file));
+    holdEntry(path, file, index);
+    return path;
+  }
+  void holdEntry(const std::string& path, const IcoFile& file, int index) {
+    const Entry& entry = file.entries[static_cast<std::size_t>(index)];
+    const std::string single = folder.write("alone.ico", build(entry));
+    EXPECT_TRUE(openQuietly(single));
+    std::filesystem::remove(single);
+    record().path = path;
+    record().fromMultiIconFile = true;
+    record().multiIconIndex = static_cast<std::int16_t>(index);
+    record().modified = true;
+    editor.calls.clear();
+  }
+  // Nothing of a command is left beside what the user asked for.
+  bool scratchIsGone() const { return !std::filesystem::exists(scratch); }
+};
+
+// A true colour picture with one pixel of its own.
+inline Picture markedPicture(int size, int bits, const Rgb& mark) {
+  Picture picture = anyPicture(size, bits);
+  picture.color = [color = picture.color, mark](int x, int y) { return x == 1 && y == 0 ? mark : color(x, y); };
+  return picture;
+}
+
+// The same with what a file keeps of alpha: none where the picture is transparent.
+inline Picture withSavedAlpha(Picture picture) {
+  picture.color = [color = picture.color, transparent = picture.transparent](int x, int y) {
+    Rgb c = color(x, y);
+    if (transparent(x, y)) c.a = 0;
+    return c;
+  };
+  return picture;
+}
+
+// All white where it is opaque, and written as such.
+inline Picture whitePicture(int size) {
+  Picture picture = anyPicture(size, 1);
+  picture.palette = {{0, 0, 0}, {255, 255, 255}};
+  picture.index = [](int, int) { return 1; };
+  return picture;
+}
+
+}  // namespace gp::test

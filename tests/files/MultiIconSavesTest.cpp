@@ -1,0 +1,213 @@
+// The browser's saves of single entries. Files are compared byte by byte.
+#include "files/BrowserFixture.h"
+#include "support/FullDisk.h"
+
+namespace gp::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kReadOnly =
+    "File is read-only\n\nYou may save it under a different file name or reset the file attributes.";
+
+class BrowserSavesTest : public BrowserTest {
+ protected:
+  // Saves what is selected under a name; gives the name that was proposed.
+  std::string save(const std::string& name) {
+    dialogs.paths.push_back(name.empty() ? name : folder.path(name));
+    browser->cmdSaveSingle();
+    return dialogs.requests.back().fileName;
+  }
+  std::string question(const std::string& target, int count) const {
+    return "Single-icon files will be saved as " + target + "_(Size)_(Color), ...\nTotally " + std::to_string(count) +
+           " items on list.\n\nProceed?";
+  }
+  void split(int count, BoxAnswer answer = BoxAnswer::Yes) {
+    fs::create_directory(folder.path("out"));
+    dialogs.paths.push_back(folder.path("out"));
+    boxes.expectAsked(question(folder.path("out/tools"), count), answer);
+    browser->cmdSplitSave();
+  }
+  std::vector<std::string> namesSplit() const {
+    std::vector<std::string> names;
+    for (const auto& file : fs::directory_iterator(folder.path("out"))) names.push_back(file.path().filename());
+    std::ranges::sort(names);
+    return names;
+  }
+};
+
+TEST_F(BrowserSavesTest, SavesTheSelectedEntryAsAFileOfItsOwn) {
+  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  EXPECT_EQ(save("one.ico"), "tools_32_256.ico");
+  EXPECT_EQ(bytesOf(folder.path("one.ico")), build(iconEntry(32, 8)));
+  EXPECT_FALSE(state.screen.hourglass);
+}
+
+TEST_F(BrowserSavesTest, TheDialogOffersIconFiles) {
+  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  state.process.mLastFolder = "/last";
+  save("one.ico");
+  const FileDialogRequest& request = dialogs.requests.back();
+  EXPECT_EQ(request.filters, (std::vector<FileFilter>{{"Icon files (*.ico)", "*.ico"}}));
+  EXPECT_EQ(request.defaultExtension, "ico");
+  EXPECT_EQ(request.folder, "/last");
+}
+
+TEST_F(BrowserSavesTest, ProposesBitsForTrueColorAndColorsOtherwise) {
+  browse({iconEntry(32, 24), iconEntry(48, 32), iconEntry(16, 1), iconEntry(24, 4), entryOf(anyPicture(24, 8), 0, 0)});
+  const std::vector<std::string> expected{"tools_32_24bpp.ico", "tools_48_32bpp.ico", "tools_16_2.ico",
+                                          "tools_24_16.ico", "tools_24_256.ico"};
+  for (int item = 0; item < 5; ++item) {
+    browser->clickIcon(item);
+    EXPECT_EQ(save(""), expected[static_cast<std::size_t>(item)]);
+  }
+}
+
+TEST_F(BrowserSavesTest, ASaveOverTheFileItselfByAnotherNameListsItAnew) {
+  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  fs::create_symlink(browser->file(), folder.path("link.ico"));
+  save("link.ico");
+  EXPECT_EQ(browser->lisIcons().size(), 1U);
+}
+
+TEST_F(BrowserSavesTest, ACancelWritesNothing) {
+  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  save("");
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder.folder()), {}), 1);
+}
+
+// Header 0, 1, 1; the entry as it was, apart from its offset; the image as it was.
+TEST_F(BrowserSavesTest, EntryAndImageAreCopiedWithTheirLies) {
+  Bytes file = build(iconFile({iconEntry(16, 4), entryOf(anyPicture(32, 8), 77, 8)}));
+  file[0] = 9;           // idReserved
+  file[6 + 16 + 3] = 5;  // bReserved
+  file[6 + 16 + 4] = 3;  // wPlanes
+  browse(file);
+  save("one.ico");
+  Bytes expected = build(entryOf(anyPicture(32, 8), 77, 8));
+  expected[6 + 3] = 5;
+  expected[6 + 4] = 3;
+  EXPECT_EQ(bytesOf(folder.path("one.ico")), expected);
+}
+
+TEST_F(BrowserSavesTest, AnImageHasTheBytesThatItsEntryTells) {
+  Entry longer = iconEntry(32, 4), shorter = iconEntry(16, 4);
+  longer.bytesInRes = static_cast<std::uint32_t>(longer.image.size() + 20);  // reaches into the next image
+  shorter.bytesInRes = 50;
+  const Bytes file = build(iconFile({longer, shorter}));
+  browse(file);
+  save("long.ico");
+  browser->clickIcon(1);
+  save("short.ico");
+  const Bytes saved = bytesOf(folder.path("long.ico"));
+  ASSERT_EQ(saved.size(), 22 + longer.image.size() + 20);
+  EXPECT_TRUE(std::equal(saved.begin() + 22, saved.end(), file.begin() + 6 + 2 * 16));
+  EXPECT_EQ(fs::file_size(folder.path("short.ico")), 22u + 50u);
+}
+
+TEST_F(BrowserSavesTest, AReadOnlyTargetIsToldAndKept) {
+  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  makeReadOnly(folder.write("one.ico", {1, 2, 3}));
+  boxes.expectTold(kReadOnly, BoxIcon::Exclamation);
+  save("one.ico");
+  EXPECT_EQ(bytesOf(folder.path("one.ico")), (Bytes{1, 2, 3}));
+}
+
+TEST_F(BrowserSavesTest, AFullDiskIsTold) {
+  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  boxes.expectTold("Failed to save this icon", BoxIcon::Exclamation);
+  const FullDisk full(1000);
+  save("one.ico");
+  EXPECT_FALSE(fs::exists(folder.path("one.ico")));
+}
+
+TEST_F(BrowserSavesTest, NothingIsSavedWithoutASelection) {
+  browse({iconEntry(16, 4), iconEntry(32, 8)}, true);
+  browser->cmdSaveSingle();
+  browser->cmdSplitSave();
+  EXPECT_TRUE(dialogs.requests.empty());
+}
+
+TEST_F(BrowserSavesTest, TheAddFaceSavesToo) {
+  browse({iconEntry(16, 4), iconEntry(32, 8)}, true);
+  browser->clickIcon(0);
+  EXPECT_EQ(save("one.ico"), "tools_16_16.ico");
+  EXPECT_EQ(bytesOf(folder.path("one.ico")), build(iconEntry(16, 4)));
+}
+
+TEST_F(BrowserSavesTest, WhatIsSavedOverTheListedFileIsListed) {
+  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  save("tools.ico");
+  EXPECT_EQ(browser->lisIcons(), (Items{"Ref 1  \t8 BPP\t256-Color\t   32 x  32"}));
+  EXPECT_EQ(browser->selectedIcon(), 0);
+}
+
+// Split Save.
+
+TEST_F(BrowserSavesTest, SplitsTheListedEntriesIntoFiles) {
+  const Bytes file = build(iconFile({iconEntry(16, 4), iconEntry(64, 8), iconEntry(32, 24), iconEntry(48, 1)}));
+  browse(file);
+  split(3);
+  EXPECT_EQ(namesSplit(), (Items{"tools_16_16.ico", "tools_32_24bpp.ico", "tools_48_2.ico"}));
+  EXPECT_EQ(bytesOf(folder.path("out/tools_16_16.ico")), build(iconEntry(16, 4)));
+  EXPECT_EQ(bytesOf(folder.path("out/tools_32_24bpp.ico")), build(iconEntry(32, 24)));
+  EXPECT_EQ(bytesOf(folder.path("out/tools_48_2.ico")), build(iconEntry(48, 1)));
+  EXPECT_EQ(bytesOf(path), file);
+  EXPECT_FALSE(state.screen.hourglass);
+}
+
+TEST_F(BrowserSavesTest, TheSelectionComesBackAfterASplit) {
+  const Bytes file = build(iconFile({iconEntry(16, 4), iconEntry(32, 24), iconEntry(48, 1)}));
+  browse(file);
+  browser->clickIcon(1);
+  std::vector<int> followed;
+  browser->onChange = [&] { followed.push_back(browser->selectedIcon()); };
+  split(3);
+  EXPECT_EQ(followed, (std::vector{0, 1, 2, 1}));
+  EXPECT_TRUE(previews(file, 1));
+}
+
+TEST_F(BrowserSavesTest, OfTwoEntriesWithOneNameTheLaterStays) {
+  Picture first = anyPicture(16, 4), second = anyPicture(16, 4);
+  second.index = [](int, int) { return 7; };
+  browse({entryOf(first), entryOf(second)});
+  split(2);
+  EXPECT_EQ(namesSplit(), (Items{"tools_16_16.ico"}));
+  EXPECT_EQ(bytesOf(folder.path("out/tools_16_16.ico")), build(entryOf(second)));
+}
+
+TEST_F(BrowserSavesTest, ExistingFilesAreOverwrittenAndFailuresNotReported) {
+  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  fs::create_directory(folder.path("out"));
+  folder.write("out/tools_32_256.ico", Bytes(5000));
+  makeReadOnly(folder.write("out/tools_16_16.ico", {1, 2, 3}));
+  split(2);
+  EXPECT_EQ(bytesOf(folder.path("out/tools_16_16.ico")), (Bytes{1, 2, 3}));
+  EXPECT_EQ(bytesOf(folder.path("out/tools_32_256.ico")), build(iconEntry(32, 8)));
+}
+
+TEST_F(BrowserSavesTest, NoAnswerOtherThanYesSplits) {
+  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  split(2, BoxAnswer::No);
+  EXPECT_TRUE(namesSplit().empty());
+  dialogs.paths.push_back("");
+  browser->cmdSplitSave();  // no folder, no question
+}
+
+TEST_F(BrowserSavesTest, AFolderThatEndsWithASeparatorGetsNoSecondOne) {
+  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  dialogs.paths.push_back("/");
+  boxes.expectAsked(question("/tools", 2), BoxAnswer::No);
+  browser->cmdSplitSave();
+}
+
+TEST_F(BrowserSavesTest, EntriesThatCannotBeShownAreSplitAllTheSame) {
+  browse({iconEntry(32, 4), pngEntry(16), iconEntry(48, 8)});
+  split(3);
+  EXPECT_EQ(bytesOf(folder.path("out/tools_16_32bpp.ico")), build(pngEntry(16)));
+  EXPECT_EQ(namesSplit().size(), 3u);
+  EXPECT_EQ(browser->selectedIcon(), 0);
+}
+
+}  // namespace
+}  // namespace gp::test
