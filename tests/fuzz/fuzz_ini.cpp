@@ -1,4 +1,5 @@
 // Settings files and the texts that come from outside: profile files, paths, filters and typed numbers.
+#include "FuzzInput.h"
 #include "platform/dialogs/clsGPDialog.h"
 #include "platform/text/FixedText.h"
 #include "platform/text/Numbers.h"
@@ -7,9 +8,6 @@
 #include "shell/Settings.h"
 
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
-#include <random>
 #include <string>
 #include <string_view>
 
@@ -17,24 +15,6 @@ namespace {
 
 // Every option that is saved reads and writes the file again, so a long one costs much and tells no more.
 constexpr std::size_t kLargestSettings = 2048;
-
-// A file of this process alone, written anew for each input and gone with it.
-class ScratchFile {
- public:
-  ~ScratchFile() { std::filesystem::remove(path_); }
-  const std::string& holding(std::string_view content) {
-    std::ofstream(path_, std::ios::binary).write(content.data(), static_cast<std::streamsize>(content.size()));
-    return path_;
-  }
-
- private:
-  // Memory where there is some: a disk may take milliseconds for each file that is written again.
-  static std::filesystem::path folder() {
-    return std::filesystem::exists("/dev/shm") ? "/dev/shm" : std::filesystem::temp_directory_path();
-  }
-
-  std::string path_ = (folder() / ("glimmerpane-fuzz-" + std::to_string(std::random_device{}()))).string();
-};
 
 void useSettings(const std::string& file) {
   gp::Options options;
@@ -58,7 +38,7 @@ void useText(const std::string& text) {
   (void)gp::Val(text);
   (void)gp::valueOfHex(text);
   const gp::FixedText<32> field(text);
-  if (gp::countCharacters(field.padded()) != 32) __builtin_trap();
+  gp::fuzz::require(gp::countCharacters(field.padded()) == 32);
 }
 
 }  // namespace
@@ -66,7 +46,7 @@ void useText(const std::string& text) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string text(reinterpret_cast<const char*>(data), size);
   useText(text);
-  static ScratchFile scratch;
-  if (size <= kLargestSettings) useSettings(scratch.holding(text));
+  static const gp::fuzz::ScratchFolder folder;
+  if (size <= kLargestSettings) useSettings(folder.holding("settings", {data, size}));
   return 0;
 }

@@ -3,7 +3,8 @@
 
     tests/fuzz/run_all.py FOLDER-WITH-TARGETS
 
-fuzz_<kind>[_more] takes tests/fuzz/seeds/<kind>[_more], tests/fuzz/<kind>[_more].dict and the corpus folder <kind>.
+fuzz_<kind>[_more] takes the seeds of its name and of its kind in tests/fuzz/seeds, tests/fuzz/<kind>.dict and the
+corpus folder <kind>.
 The runs start from a fixed seed, so that a failure comes again. Prints PASS or FAIL per target and the counts last.
 """
 import concurrent.futures
@@ -24,9 +25,15 @@ SLOWEST_INPUT_SECONDS = 5
 GRACE_SECONDS = 60
 
 
+def kind(name):
+    """The kind of files that the target `name` is given."""
+    return name.split('_')[0]
+
+
 def inputs(name):
     """Folders with seeds for the target `name`."""
-    folders = [os.path.join(HERE, 'seeds', name), os.path.join(CORPUS, name.split('_')[0])]
+    names = dict.fromkeys([name, kind(name)])
+    folders = [*(os.path.join(HERE, 'seeds', n) for n in names), os.path.join(CORPUS, kind(name))]
     return [folder for folder in folders if os.path.isdir(folder)]
 
 
@@ -38,7 +45,7 @@ def run(program):
     command = [program, f'-runs={RUNS}', f'-max_total_time={SECONDS}', '-seed=1', f'-max_len={LONGEST_INPUT}',
                f'-malloc_limit_mb={LARGEST_BLOCK_MB}', f'-rss_limit_mb={MEMORY_MB}', f'-timeout={SLOWEST_INPUT_SECONDS}',
                f'-artifact_prefix={crashes}/', '-print_final_stats=1']
-    dictionary = os.path.join(HERE, name + '.dict')
+    dictionary = os.path.join(HERE, kind(name) + '.dict')
     if os.path.isfile(dictionary):
         command.append(f'-dict={dictionary}')
     with tempfile.TemporaryDirectory(prefix='glimmerpane.') as grown:

@@ -1,0 +1,79 @@
+// A user of the forms on icon files whose every answer is taken from the input, and the ports through which the rules
+// under test reach him.
+#pragma once
+
+#include "../support/FakeEditor.h"
+#include "FuzzInput.h"
+#include "files/FilesContext.h"
+
+namespace gp::fuzz {
+
+class UserBoxes : public MessageBoxes {
+ public:
+  explicit UserBoxes(Choices& choices) : choices_(choices) {}
+  BoxAnswer show(const std::string& text, BoxButtons buttons, BoxIcon, BoxAnswer) override {
+    require(!text.empty());
+    if (buttons == BoxButtons::Ok) return BoxAnswer::Ok;
+    const bool yes = choices_.next() % 2 == 0;
+    agreed_ = agreed_ || yes;
+    return yes ? BoxAnswer::Yes : BoxAnswer::No;
+  }
+  // True once a question was answered with Yes.
+  bool agreed() const { return agreed_; }
+
+ private:
+  Choices& choices_;
+  bool agreed_ = false;
+};
+
+// Files are saved under one name, and split into the folder of the file itself.
+class UserDialogs : public FileDialogs {
+ public:
+  UserDialogs(Choices& choices, const ScratchFolder& folder) : choices_(choices), folder_(folder) {}
+  bool openFile(const FileDialogRequest&, std::string&, int&) override { return false; }
+  bool saveFile(const FileDialogRequest&, std::string& path, int& error) override {
+    error = 0;
+    path = choices_.next() % 2 ? std::string() : folder_.path("saved.ico");
+    return !path.empty();
+  }
+  bool chooseColor(Color&) override { return false; }
+  bool choosePrinter(PrinterRequest&) override { return false; }
+  std::string chooseFolder(const std::string&, const std::string&) override {
+    return choices_.next() % 2 ? std::string() : folder_.path("split");
+  }
+
+ private:
+  Choices& choices_;
+  const ScratchFolder& folder_;
+};
+
+class NoPump : public MessagePump {
+ public:
+  void pump() override {}
+  void wait(int) override {}
+};
+
+// The state of the whole program takes longer to build than a run takes. Only what the forms on icon files use of it is
+// made new.
+inline EditState& freshState() {
+  static EditState state;
+  state.multiIcon.gMultiIconResult.clear();
+  state.multiIcon.gLoadAndReturn = state.multiIcon.gFileInPanel = state.multiIcon.gAddToFile = false;
+  state.gAlphaValues = {};
+  return state;
+}
+
+struct User {
+  User(Choices& choices, const ScratchFolder& folder) : boxes(choices), dialogs(choices, folder) {}
+
+  EditState& state = freshState();
+  test::FakeEditor editor;
+  test::RecordingDisplay display;
+  NoPump pump;
+  UserBoxes boxes;
+  UserDialogs dialogs;
+  clsGPDialog dialog{dialogs};
+  FilesContext context{state, editor, display, boxes, pump, dialog};
+};
+
+}  // namespace gp::fuzz
