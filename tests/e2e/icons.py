@@ -1,5 +1,6 @@
-"""Icons built byte by byte, and what independent programs read in an icon file. A picture is a list of rows, a pixel is
-(red, green, blue) or None where it is transparent."""
+"""Icons and cursors built byte by byte. A picture is a list of rows, a pixel is (red, green, blue), with a fourth number
+for its opacity in pictures of 32 bits, or None where it is transparent."""
+import collections
 import os
 import struct
 import subprocess
@@ -10,6 +11,15 @@ from PIL import Image
 # The platform's sixteen colours in the order of their palette.
 COLORS_16 = [(0, 0, 0), (128, 0, 0), (0, 128, 0), (128, 128, 0), (0, 0, 128), (128, 0, 128), (0, 128, 128), (192, 192, 192),
              (128, 128, 128), (255, 0, 0), (0, 255, 0), (255, 255, 0), (0, 0, 255), (255, 0, 255), (0, 255, 255), (255, 255, 255)]
+COLORS_256 = [(0, 0, 0), (255, 255, 255)] + [(i, 255 - i, i * 7 % 256) for i in range(2, 256)]
+PALETTES = {1: [(0, 0, 0), (255, 255, 255)], 4: COLORS_16, 8: COLORS_256}
+COLOR_COUNTS = {1: 2, 4: 16}  # of directory entries; 0 for others
+ICON, CURSOR = 1, 2
+
+# What a directory entry tells, and its image's bytes. Cursors have their hot spot in `planes` and `bits`.
+Entry = collections.namedtuple('Entry', 'width height colors reserved planes bits size offset image')
+DIRECTORY_ENTRY = struct.Struct('<BBBBHHII')
+DIRECTORY_BYTES = 6
 
 
 def padded(row):
@@ -25,15 +35,83 @@ def packBits(values, bits):
     return padded((number << (length * 8 - len(values) * bits)).to_bytes(length, 'big'))
 
 
+# Building ------------------------------------------------------------------------------------------------------------
+
+def motif(size, bits, seed=0):
+    """A picture of its own for each size, depth and seed, transparent in places. With 8 bits it has more colours than
+    the sixteen, with 24 more than 256."""
+    def pixel(x, y):
+        number = x * x + 3 * y + x * y // 4 + seed
+        if (x * 7 + y * 3 + seed) % 11 == 0 or x + y < 3:
+            return None
+        if bits in PALETTES:
+            return PALETTES[bits][number % len(PALETTES[bits])]
+        color = (x * 5 % 256, y * 5 % 256, number * 3 % 256)
+        return color if bits == 24 else color + (40 + number * 5 % 216,)
+    return [[pixel(x, y) for x in range(size)] for y in range(size)]
+
+
+def colorRow(row, bits, palette):
+    if palette:
+        return packBits([palette.index(p or (0, 0, 0)) for p in row], bits)
+    black = (0, 0, 0, 0)[:bits // 8]
+    return padded(b''.join(bytes((p[2], p[1], p[0])) + bytes(p[3:]) for p in [pixel or black for pixel in row]))
+
+
+def image(picture, bits, palette=None):
+    """A picture as it stands in an icon file, with 2 ^ bits colours of a palette where it has one."""
+    palette = palette or PALETTES.get(bits, [])
+    width, height = len(picture[0]), len(picture)
+    header = struct.pack('<IiiHHIIiiII', 40, width, 2 * height, 1, bits, 0, 0, 0, 0, 0, 0)
+    table = b''.join(bytes((b, g, r, 0)) for r, g, b in palette)
+    colors = b''.join(colorRow(row, bits, palette) for row in reversed(picture))
+    mask = b''.join(packBits([int(p is None) for p in row], 1) for row in reversed(picture))
+    return header + table + colors + mask
+
+
+def entryOf(picture, bits, palette=None, **lies):
+    """A directory entry with the picture in it; `lies` are fields that tell something else."""
+    data = image(picture, bits, palette)
+    entry = Entry(len(picture[0]), len(picture), COLOR_COUNTS.get(bits, 0), 0, 1, bits, len(data), 0, data)
+    return entry._replace(**lies)
+
+
+def fileOf(entries, kind=ICON):
+    """The bytes of a file with these entries, images in directory order."""
+    offset = DIRECTORY_BYTES + DIRECTORY_ENTRY.size * len(entries)
+    directory, images = struct.pack('<HHH', 0, kind, len(entries)), b''
+    for entry in entries:
+        directory += DIRECTORY_ENTRY.pack(*entry[:7], offset + len(images))
+        images += entry.image
+    return directory + images
+
+
+def icons(*sizesAndBits, seed=0):
+    """A file of motifs: icons((16, 4), (32, 8))."""
+    return fileOf([entryOf(motif(size, bits, seed), bits) for size, bits in sizesAndBits])
+
+
 def icon16(picture):
     """The bytes of an icon file with one picture of 16 colours."""
-    size = len(picture)
-    palette = b''.join(bytes((b, g, r, 0)) for r, g, b in COLORS_16)
-    colors = b''.join(packBits([COLORS_16.index(p or (0, 0, 0)) for p in row], 4) for row in reversed(picture))
-    mask = b''.join(packBits([int(p is None) for p in row], 1) for row in reversed(picture))
-    header = struct.pack('<IiiHHIIiiII', 40, size, 2 * size, 1, 4, 0, 0, 0, 0, 0, 0)
-    image = header + palette + colors + mask
-    return struct.pack('<HHH', 0, 1, 1) + struct.pack('<BBBBHHII', size, size, 16, 0, 1, 4, len(image), 22) + image
+    return fileOf([entryOf(picture, 4)])
+
+
+def cursor(picture, bits, x, y):
+    return fileOf([entryOf(picture, bits)._replace(planes=x, bits=y)], CURSOR)
+
+
+# Reading -------------------------------------------------------------------------------------------------------------
+
+def readEntries(path):
+    """The directory of a file of icons or cursors, each entry with the bytes that it points to."""
+    with open(path, 'rb') as file:
+        content = file.read()
+    _, _, count = struct.unpack_from('<HHH', content)
+    entries = []
+    for index in range(count):
+        fields = DIRECTORY_ENTRY.unpack_from(content, DIRECTORY_BYTES + index * DIRECTORY_ENTRY.size)
+        entries.append(Entry(*fields, content[fields[7]:fields[7] + fields[6]]))
+    return entries
 
 
 def fromRgba(width, data):
@@ -43,8 +121,8 @@ def fromRgba(width, data):
 
 
 def readByPillow(path):
-    with Image.open(path) as image:
-        return fromRgba(image.width, image.convert('RGBA').tobytes())
+    with Image.open(path) as picture:
+        return fromRgba(picture.width, picture.convert('RGBA').tobytes())
 
 
 def readByImageMagick(path):

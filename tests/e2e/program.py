@@ -12,11 +12,23 @@ DIALOG_ROLES = ('dialog', 'alert', 'file chooser', 'message box')
 TEXT_ROLES = ('label', 'static', 'text')
 SMALLEST_MAIN_FORM = (780, 540)  # the start-up picture and boxes are smaller
 DEEPEST = 40
+MOST_TAB_STOPS = 40
+OPERATED_ROLES = ('push button', 'toggle button', 'check box', 'radio button', 'text', 'combo box', 'list', 'spin button',
+                  'slider', 'canvas', 'graphic', 'image', 'icon', 'color chooser')
 
 
 def plain(caption):
     """A caption as it is spoken: no access key, single blanks."""
     return ' '.join((caption or '').replace('&', '').split())
+
+
+def spokenName(control):
+    """The name that a screen reader speaks: a drop-down list's own name is what it holds, its label is told apart."""
+    if control.getRoleName() == 'combo box':
+        labels = [relation.getTarget(0) for relation in control.getRelationSet()
+                  if relation.getRelationType() == pyatspi.RELATION_LABELLED_BY]
+        return plain(labels[0].name).removesuffix(':') if labels else ''
+    return plain(control.name)
 
 
 class Program:
@@ -82,12 +94,16 @@ class Program:
                 return window
         return None
 
+    def isShown(self, control):
+        return control.getState().contains(pyatspi.STATE_SHOWING)
+
     def walk(self, top):
-        """`top` and everything in it, outer before inner."""
+        """What is shown of `top` and of everything in it, outer before inner. Items of a list that is hidden would tell
+        that they are shown."""
         waiting = [(top, 0)]
         while waiting:
             control, depth = waiting.pop()
-            if not control:
+            if not control or not self.isShown(control):
                 continue
             yield control
             if depth < DEEPEST:
@@ -96,11 +112,13 @@ class Program:
     def find(self, name, role=None, under=None, startsWith=False):
         """The visible control of that name, None without one."""
         wanted = plain(name)
-        for window in [under] if under else self.windows():
+        # What is on top first: most of what is looked for is there.
+        for window in [under] if under else reversed(self.windows()):
             for control in self.walk(window):
-                spoken = plain(control.name)
-                if (spoken.startswith(wanted) if startsWith else spoken == wanted) and \
-                        role in (None, control.getRoleName()) and control.getState().contains(pyatspi.STATE_SHOWING):
+                if role and role != control.getRoleName():
+                    continue
+                spoken = spokenName(control) if role == 'combo box' else plain(control.name)
+                if spoken.startswith(wanted) if startsWith else spoken == wanted:
                     return control
         return None
 
@@ -119,12 +137,15 @@ class Program:
     def isEnabled(self, control):
         return control.getState().contains(pyatspi.STATE_ENABLED)
 
+    def isSelected(self, control):
+        return control.getState().contains(pyatspi.STATE_SELECTED)
+
     def isFocused(self, control):
         return control.getState().contains(pyatspi.STATE_FOCUSED)
 
-    def value(self, name):
+    def value(self, name, role=None):
         """The text that the control of that name holds."""
-        control = self.need(name)
+        control = self.need(name, role=role)
         try:
             return control.queryText().getText(0, -1)
         except NotImplementedError:
@@ -132,17 +153,27 @@ class Program:
 
     def describe(self):
         """Every control with role, name and place: for the report of a failure."""
-        lines = []
-        for window in self.windows():
-            for control in self.walk(window):
-                if control.getState().contains(pyatspi.STATE_SHOWING):
-                    lines.append(f'{control.getRoleName()} {control.name!r} {self.box(control)}')
-        return '\n'.join(lines)
+        controls = [control for window in self.windows() for control in self.walk(window)]
+        return '\n'.join(f'{control.getRoleName()} {control.name!r} {self.box(control)}' for control in controls)
+
+    def nameless(self, top):
+        """What is shown in `top`, can be worked with or looked at, and has no name."""
+        return [f'{control.getRoleName()} {self.box(control)}' for control in self.walk(top)
+                if control.getRoleName() in OPERATED_ROLES and not spokenName(control)]
 
     # Pressing --------------------------------------------------------------------------------------------------------
 
     def press(self, name, **how):
         self.session.click(self.centre(self.need(name, **how)))
+
+    def goTo(self, name, **how):
+        """Tab until the control of that name has the focus."""
+        control = self.need(name, **how)
+        for _ in range(MOST_TAB_STOPS):
+            if self.isFocused(control):
+                return
+            self.session.keys('Tab')
+        raise AssertionError(f'Tab does not reach "{name}"')
 
     def menu(self, *captions):
         """Walks from the menu bar to an entry; a caption may be given by its beginning."""
@@ -167,13 +198,33 @@ class Program:
 
     def answerFileDialog(self, path):
         """Types a path into the file dialog that is about to open, and accepts it."""
-        dialog = self.waitForDialog()
-        self.wait(lambda: self.find('File name:', under=dialog), 'the field for the file name')
+        self.chooseFile(path)
+        self.waitForNoDialog()
+
+    def chooseFile(self, path, replace=False, before=lambda: None):
+        """The same where other dialogs stay. `replace` agrees to lose a file of that name; `before` is done while the
+        dialog is open."""
+        self.need('File name:', role='label')
         time.sleep(2 * POLL_SECONDS)  # the field takes the focus after it is shown
+        before()
         self.session.keys('ctrl+a')
         self.session.type(path)
         self.session.keys('Return')
-        self.waitForNoDialog()
+        if replace:
+            self.wait(lambda: any('already exists' in self.dialogText(dialog) for dialog in self.dialogs()), 'the question')
+            self.session.keys('alt+y')
+        self.wait(lambda: not self.find('File name:', role='label'), 'the file dialog to close')
+
+    def messageBox(self):
+        """The message box on top, None without one."""
+        return next((dialog for dialog in self.dialogs() if dialog.name == 'Glimmerpane'), None)
+
+    def answerBox(self, beginning, key='Return'):
+        """Checks what a box tells, and answers it."""
+        text = self.dialogText(self.wait(self.messageBox, f'the box "{beginning}"'))
+        assert plain(text).startswith(plain(beginning)), f'{text!r} is not {beginning!r}'
+        self.session.keys(key)
+        self.wait(lambda: not self.messageBox() or self.dialogText(self.messageBox()) != text, 'the box to close')
 
     # Editing Area ----------------------------------------------------------------------------------------------------
 

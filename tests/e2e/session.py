@@ -92,11 +92,12 @@ class Session:
     def settingsPath(self):
         return os.path.join(self.folder, 'program', 'Glimmerpane.ini')
 
-    def start(self, *arguments, window=True):
-        """Starts the program and waits for its main form, or returns at once without one."""
+    def start(self, *arguments, window=True, within=()):
+        """Starts the program and waits for its main form, or returns at once without one. `within` is a command that
+        becomes the one that follows it."""
         from program import Program  # not before the accessibility bus runs: importing it would start one
         program = os.path.join(self.folder, 'program', os.path.basename(self.executable))
-        started = Program(self, self.run(program, *arguments))
+        started = Program(self, self.run(*within, program, *arguments))
         if window:
             started.waitForMainForm()
         return started

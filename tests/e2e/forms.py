@@ -1,0 +1,173 @@
+"""The forms of icon files as a person works with them: what to press, by the names that a screen reader speaks."""
+import os
+
+EDIT_FACE, ADD_FACE = 'Edit Icon In Multi-Icon File', 'Add Icon To Existing Icon File'
+POLLS_AT_REST = 5  # longer than a phase of the blinking
+CHART = '16-Color Palette'
+HEADER_DIFF = 'Header Entry Diff'
+ICONS, SEQUENCE, CONTAINER, POSITION = 'Icons in file', 'Icons in their new sequence', 'Load to container ref', 'Add to position ref'
+HOTSPOT_X, HOTSPOT_Y = 'Hot spot X', 'Hot spot Y'
+REPLACE_QUESTION = 'The current icon is originated from Index Ref. '
+REMOVE_QUESTION = 'Permanently remove the selected icon from the multi-icon file.'
+ALPHA_REMINDER = 'Reminder: The incoming icon is with Alpha Channel.'
+
+
+def write(session, name, content):
+    path = session.path(name)
+    with open(path, 'wb') as file:
+        file.write(content)
+    return path
+
+
+def read(path):
+    with open(path, 'rb') as file:
+        return file.read()
+
+
+class Desk:
+    """A program with what the tests of these forms press on it."""
+
+    def __init__(self, session, *arguments, **how):
+        self.session, self.program = session, session.start(*arguments, **how)
+
+    # Forms -----------------------------------------------------------------------------------------------------------
+
+    def form(self, title):
+        return next((dialog for dialog in self.program.dialogs() if dialog.name == title), None)
+
+    def waitForForm(self, title):
+        return self.program.wait(lambda: self.form(title), f'the form "{title}"')
+
+    def waitForNoForm(self, title):
+        self.program.wait(lambda: not self.form(title), f'the form "{title}" to close')
+
+    def nameless(self):
+        """What on the open form, or on the open Panel, has no name."""
+        return self.program.nameless(next(iter(self.program.dialogs()), None) or self.program.need('Save as cursor'))
+
+    def openIcons(self, path):
+        """Opens a file of several icons: its browser comes."""
+        self.session.keys('ctrl+o')
+        self.program.chooseFile(path)
+        return self.waitForForm(EDIT_FACE)
+
+    def exitBrowser(self):
+        self.program.press('Exit')
+        self.waitForNoForm(EDIT_FACE)
+
+    def openFile(self, path):
+        """Opens a file of one icon."""
+        self.session.keys('ctrl+o')
+        self.program.answerFileDialog(path)
+
+    def openCursor(self, path):
+        self.program.menu('File', 'Open Cursor File')
+        self.program.chooseFile(path)
+
+    # Lists -----------------------------------------------------------------------------------------------------------
+
+    def refs(self, name=ICONS):
+        """What a list tells of its entries, in its sequence."""
+        control = self.program.need(name, role='list')
+        return [control.getChildAtIndex(index).name for index in range(control.childCount)]
+
+    def isSelected(self, ref):
+        item = self.program.find(f'Ref {ref},', role='list item', startsWith=True)
+        return item and self.program.isSelected(item)
+
+    def waitForSelected(self, ref):
+        self.program.wait(lambda: self.isSelected(ref), f'Ref {ref} to be selected')
+
+    def pick(self, ref):
+        """A click on an entry of the list that is shown."""
+        self.program.press(f'Ref {ref},', role='list item', startsWith=True)
+        self.waitForSelected(ref)
+
+    def choose(self, name, item):
+        """Opens a drop-down list by mouse and picks the item, counted from 0, by the keys."""
+        self.program.press(name, role='combo box')
+        self.session.keys('Home', *['Down'] * item, 'Return')
+
+    def held(self, name):
+        """What a drop-down list shows."""
+        return self.program.need(name, role='combo box').name
+
+    def shift(self, *moves):
+        """In the pane for a new sequence: moves Refs by so many places, down or, with a negative number, up."""
+        for ref, places in moves:
+            self.pick(ref)
+            for _ in range(abs(places)):
+                self.program.press('Up' if places < 0 else 'Down')
+
+    def proposedName(self):
+        """What stands in the field of the file dialog."""
+        return self.program.value('File name:', role='text')
+
+    # Loading ---------------------------------------------------------------------------------------------------------
+
+    def load(self, ref, container=None):
+        """Loads an entry and comes back."""
+        self.prepareLoad(ref, container)
+        self.program.press('Load')
+        self.waitForForm(EDIT_FACE)
+
+    def loadAndExit(self, ref, container=None):
+        self.prepareLoad(ref, container)
+        self.program.press('Load & Exit')
+        self.waitForNoForm(EDIT_FACE)
+
+    def prepareLoad(self, ref, container):
+        self.pick(ref)
+        if container:
+            self.choose(CONTAINER, container - 1)
+            self.program.wait(lambda: self.held(CONTAINER) == str(container), f'container {container} to be chosen')
+
+    # The main form ---------------------------------------------------------------------------------------------------
+
+    def waitForIcon(self, size, path):
+        self.program.wait(lambda: self.program.value('Status 3') == f'{size} x {size}' and self.program.value('Status 0') == path,
+                          f'the icon of {os.path.basename(path)}')
+
+    def waitForPixel(self, x, y, size, color):
+        """Until the Editing Area shows that colour."""
+        point = self.program.pixelPoint(x, y, size)
+        self.program.wait(lambda: self.session.colorAt(point) == color, f'pixel {x}, {y} in {color}')
+
+    def waitForRest(self, x, y, size):
+        """Until a pixel blinks no more; its colour."""
+        seen, point = [], self.program.pixelPoint(x, y, size)
+
+        def rests():
+            seen.append(self.session.colorAt(point))
+            return len(seen) >= POLLS_AT_REST and len(set(seen[-POLLS_AT_REST:])) == 1
+
+        self.program.wait(rests, f'pixel {x}, {y} to rest')
+        return seen[-1]
+
+    def replaceIn(self, path, **how):
+        """Save As Multi-Icon File, up to the end of the file dialog."""
+        self.program.menu('File', 'Save As Multi-Icon File ....')
+        self.program.answerBox(REPLACE_QUESTION, 'alt+y')
+        self.program.chooseFile(path, **how)
+
+    def addTo(self, path):
+        """Save As Multi-Icon File (Add To), up to the end of the file dialog."""
+        self.program.menu('File', 'Save As Multi-Icon File (Add To)')
+        self.program.chooseFile(path)
+
+    def addAtPosition(self, position):
+        """On the add face: some icon of the file must be selected."""
+        self.waitForForm(ADD_FACE)
+        self.pick(1)
+        self.choose(POSITION, position - 1)
+        self.program.wait(lambda: self.held(POSITION) == str(position), f'position {position} to be chosen')
+        self.program.press('Save')
+
+    def paint(self, pixels, cell, color, size):
+        """Clicks on pixels with a colour of the 16-color palette."""
+        self.program.menu('Palette', CHART)
+        self.session.click(self.program.chartPoint(CHART, *cell, 8, 2))
+        self.program.press('Paint')
+        for x, y in pixels:
+            self.session.click(self.program.pixelPoint(x, y, size))
+            self.waitForPixel(x, y, size, color)
