@@ -1,0 +1,22 @@
+// Opening a file of 99 icons in the browser, from the file on disk to the first preview: the rules alone, without a
+// form. Processor time of the whole process.
+#include "ManyIconsFile.h"
+#include "files/MultiIconBrowser.h"
+
+namespace {
+
+using namespace gp;
+
+void openBrowser(benchmark::State& state, bench::Icons icons) {
+  bench::ManyIconsFile file(icons);
+  for (auto _ : state) {
+    MultiIconBrowser browser(file.context());
+    browser.activate();
+    if (browser.selectedIcon() < 0) return state.SkipWithError("no preview");
+    benchmark::DoNotOptimize(browser.picIconInFile().pixels().data());
+  }
+}
+BENCHMARK_CAPTURE(openBrowser, deep, bench::Icons::Deep)->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(openBrowser, mixed, bench::Icons::Mixed)->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
+
+}  // namespace

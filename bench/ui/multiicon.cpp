@@ -1,0 +1,58 @@
+// Opening a file of 99 icons in frmGPMultiIcon, from the file on disk to the first paint of the preview. Processor time
+// of the whole process; the very first opening stands apart, since fonts and styles are loaded in it.
+#include "../ManyIconsFile.h"
+#include "files/ui/frmGPMultiIcon.h"
+
+#include <QApplication>
+#include <QEvent>
+
+namespace {
+
+using namespace gp;
+
+constexpr int kPatience = 1000;  // rounds of events until a preview that was not painted is given up
+
+// Sees the preview being painted.
+class PaintWatcher : public QObject {
+ public:
+  bool painted = false;
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    painted = painted || (event->type() == QEvent::Paint && watched->objectName() == QLatin1String("picIconInFile(0)"));
+    return false;
+  }
+};
+
+bool isPainted(const PaintWatcher& watcher) {
+  for (int round = 0; round < kPatience && !watcher.painted; ++round) QApplication::processEvents();
+  return watcher.painted;
+}
+
+void openForm(benchmark::State& state, bench::Icons icons) {
+  bench::ManyIconsFile file(icons);
+  PaintWatcher watcher;
+  qApp->installEventFilter(&watcher);
+  for (auto _ : state) {
+    watcher.painted = false;
+    frmGPMultiIcon form(file.context(), nullptr);
+    if (!form.comeUp() || !isPainted(watcher)) return state.SkipWithError("no preview was painted");
+    state.PauseTiming();
+    form.reject();
+    QApplication::processEvents();
+    state.ResumeTiming();
+  }
+}
+BENCHMARK_CAPTURE(openForm, veryFirst, bench::Icons::Deep)
+    ->Iterations(1)
+    ->MeasureProcessCPUTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(openForm, deep, bench::Icons::Deep)->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(openForm, mixed, bench::Icons::Mixed)->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}
