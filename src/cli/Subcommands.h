@@ -13,8 +13,11 @@ int runCheck(const Arguments& arguments);
 // Taking apart.
 int runUnpack(const Arguments& arguments);
 int runSplit(const Arguments& arguments);
+int runBmp(const Arguments& arguments);
 // Writing.
 int runResave(const Arguments& arguments);
+int runReduce(const Arguments& arguments);
+int runEffect(const Arguments& arguments);
 int runReplace(const Arguments& arguments);
 int runAdd(const Arguments& arguments);
 int runRemove(const Arguments& arguments);

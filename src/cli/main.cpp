@@ -15,7 +15,7 @@ struct Subcommand {
   int (*run)(const Arguments& arguments);
 };
 
-constexpr std::array<Subcommand, 11> kSubcommands{{
+constexpr std::array<Subcommand, 14> kSubcommands{{
     {"probe", "probe FILE...",
      "Prints the file's name, a tab, and nine numbers joined by \"/\": kind (0 no icon\n"
      "file, 1 one entry, 2 several), usable entries as far as the scan went, chosen\n"
@@ -69,8 +69,30 @@ constexpr std::array<Subcommand, 11> kSubcommands{{
      "that stands in DIR. Other files of that name are replaced. DIR is made if it is\n"
      "not there. An image that is not all there costs a complaint and not the others.",
      runSplit},
+    {"bmp", "bmp IN.ico INDEX OUT.bmp [--background RRGGBB]",
+     "Writes one image as a bitmap, as the editor does. Transparent pixels get the\n"
+     "background, without it C0C0C0; alpha is blended over C0C0C0 with any background.\n"
+     "The bitmap has 1 bit for black and white, 4 for the standard colors, 8 for up to\n"
+     "256 colors, which become a palette of their own, and 24 for more.",
+     runBmp},
     {"resave", "resave IN.ico INDEX OUT.ico", "Loads one image as the editor does and saves it as the editor does.",
      runResave},
+    {"reduce", "reduce IN.ico INDEX OUT.ico --to COLORS --method METHOD [--threshold N]",
+     "Brings one image down to fewer colors and saves it as resave does. True color\n"
+     "icons stay true color. Refused with alpha, or when there are so few colors already.\n"
+     "  --to 256  optimal, system\n"
+     "  --to 16   optimized, nearest, vga\n"
+     "  --to 2    cutoff, weighted, ordered\n"
+     "With cutoff, pixels whose mean channel is below N, without it 128, become black and\n"
+     "the others transparent.",
+     runReduce},
+    {"effect", "effect IN.ico INDEX OUT.ico NAME [--color RRGGBB] [--style N]",
+     "Applies an effect to one image and saves it as resave does. Refused with alpha.\n"
+     "  embossed, engraved, raised\n"
+     "  shadowed   the shadow has the color, without it black\n"
+     "  buttonize  the frame has style 0, one line; 1, boxed; or 2, two tones\n"
+     "  disabled",
+     runEffect},
     {"replace", "replace FILE INDEX ICON.ico [-o OUT]",
      "Puts ICON.ico in the place of one image. The icon is loaded and saved as the\n"
      "editor does; of several images it has, the one that probe chooses. Refused when\n"
@@ -97,11 +119,13 @@ void printHelp() {
   for (const Subcommand& command : kSubcommands) std::printf("gpicon %s\n%s\n\n", command.usage, command.help);
   std::puts(
       "gpicon --help\nPrints this.\n\n"
-      "Indices count from 0. Options end at \"--\". replace, add, remove, reorder and salvage\n"
-      "write to OUT, replacing it, or else the file itself. They write nothing when they\n"
-      "refuse, and leave what was there when it cannot be written whole. A bad file costs\n"
-      "one line on stderr and not the others. Exit status: 0 done, 1 a file was bad or\n"
-      "refused, 2 bad usage.");
+      "Indices and styles count from 0. Options end at \"--\". Colors are six hexadecimal\n"
+      "digits, red first. replace, add, remove, reorder and salvage write to OUT, replacing\n"
+      "it, or else the file itself, and leave what was there when it cannot be written\n"
+      "whole. bmp, resave, reduce and effect replace OUT, which may be IN.ico, and leave\n"
+      "nothing when it cannot be written whole. None writes anything when it refuses. A bad\n"
+      "file costs one line on stderr and not the others. Exit status: 0 done, 1 a file was\n"
+      "bad or refused, 2 bad usage.");
 }
 
 bool isHelp(const std::string& argument) { return argument == "--help" || argument == "-h" || argument == "help"; }

@@ -93,14 +93,17 @@ TEST_F(GpiconCursor, TheHeaderDecidesTheDepthWhateverTheEntrySays) {
 TEST_F(GpiconCursor, WhatChangesIconFilesRefusesCursors) {
   const std::string path = cursor("c.cur", anyPicture(32, 4), 0, 0), a = icon("a.ico", 16, 4);
   const Bytes before = bytesOf(path);
-  for (const std::vector<std::string>& arguments :
-       std::vector<std::vector<std::string>>{{"replace", path, "0", a},
-                                             {"add", path, a},
-                                             {"remove", path, "0"},
-                                             {"reorder", path, "1"},
-                                             {"salvage", path, "-o", folder.path("out")},
-                                             {"resave", path, "0", folder.path("out")},
-                                             {"split", path, "-d", folder.path("parts")}}) {
+  for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
+           {"replace", path, "0", a},
+           {"add", path, a},
+           {"remove", path, "0"},
+           {"reorder", path, "1"},
+           {"salvage", path, "-o", folder.path("out")},
+           {"resave", path, "0", folder.path("out")},
+           {"bmp", path, "0", folder.path("out")},
+           {"reduce", path, "0", folder.path("out"), "--to", "2", "--method", "cutoff"},
+           {"effect", path, "0", folder.path("out"), "raised"},
+           {"split", path, "-d", folder.path("parts")}}) {
     const Outcome o = run(arguments);
     EXPECT_EQ(o.status, 1) << arguments.front();
     EXPECT_EQ(lines(o.err), 1) << arguments.front();

@@ -22,6 +22,13 @@ struct Outcome {
   std::string out, err;
 };
 
+// `count` bytes, the lowest first.
+inline std::uint32_t number(const Bytes& bytes, std::size_t at, int count) {
+  std::uint32_t value = 0;
+  for (int i = 0; i < count; ++i) value |= std::uint32_t{bytes.at(at + i)} << 8 * i;
+  return value;
+}
+
 inline long lines(const std::string& text) { return std::count(text.begin(), text.end(), '\n'); }
 
 class Gpicon : public testing::Test {

@@ -144,12 +144,6 @@ std::vector<HostileFile> allHostileFiles() {
   return all;
 }
 
-std::uint32_t number(const Bytes& bytes, std::size_t at, int count) {
-  std::uint32_t value = 0;
-  for (int i = 0; i < count; ++i) value |= std::uint32_t{bytes.at(at + i)} << 8 * i;
-  return value;
-}
-
 // True when the images follow each other behind the directory, in its order, and end with the file.
 bool isLaidOut(const Bytes& file) {
   const std::uint32_t count = number(file, 4, 2);
@@ -169,13 +163,16 @@ class GpiconHostile : public Gpicon {
 
   // Looks at a file in every way; none of them may change it.
   void lookAt(const std::string& path, const Bytes& bytes) const {
-    for (const std::vector<std::string>& arguments :
-         std::vector<std::vector<std::string>>{{"list", path},
-                                               {"list", "--json", path},
-                                               {"check", path},
-                                               {"probe", path},
-                                               {"unpack", path, "-d", folder.path("pictures")},
-                                               {"split", path, "-d", folder.path("parts")}}) {
+    for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
+             {"list", path},
+             {"list", "--json", path},
+             {"check", path},
+             {"probe", path},
+             {"unpack", path, "-d", folder.path("pictures")},
+             {"split", path, "-d", folder.path("parts")},
+             {"bmp", path, "1", folder.path("made")},
+             {"reduce", path, "1", folder.path("made"), "--to", "2", "--method", "ordered"},
+             {"effect", path, "1", folder.path("made"), "raised"}}) {
       const Outcome o = limited(arguments);
       EXPECT_TRUE(o.status == 0 || o.status == 1) << arguments.front() << " " << o.status << o.err;
       EXPECT_LE(lines(o.err), 1) << arguments.front() << o.err;

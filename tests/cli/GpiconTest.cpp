@@ -11,12 +11,26 @@ namespace fs = std::filesystem;
 TEST_F(Gpicon, HelpTellsEverySubcommandAndSucceeds) {
   const Outcome o = run({"--help"});
   EXPECT_EQ(o.status, 0);
-  for (const char* word :
-       {"gpicon probe FILE...", "gpicon list [--json] FILE...", "gpicon check FILE...", "gpicon unpack FILE... -d DIR",
-        "gpicon split FILE... -d DIR", "gpicon resave IN.ico INDEX OUT.ico",
-        "gpicon replace FILE INDEX ICON.ico [-o OUT]", "gpicon add FILE... ICON.ico [--at N] [-o OUT]",
-        "gpicon remove FILE INDEX [-o OUT]", "gpicon reorder FILE 3,1,2 [-o OUT]", "gpicon salvage FILE -o OUT",
-        "Exit status", "count from 0", "NAME-2", "NAME_32_256-2.ico", "hotspotX", "cursor"})
+  for (const char* word : {"gpicon probe FILE...",
+                           "gpicon list [--json] FILE...",
+                           "gpicon check FILE...",
+                           "gpicon unpack FILE... -d DIR",
+                           "gpicon split FILE... -d DIR",
+                           "gpicon resave IN.ico INDEX OUT.ico",
+                           "gpicon replace FILE INDEX ICON.ico [-o OUT]",
+                           "gpicon add FILE... ICON.ico [--at N] [-o OUT]",
+                           "gpicon remove FILE INDEX [-o OUT]",
+                           "gpicon reorder FILE 3,1,2 [-o OUT]",
+                           "gpicon salvage FILE -o OUT",
+                           "gpicon bmp IN.ico INDEX OUT.bmp [--background RRGGBB]",
+                           "gpicon reduce IN.ico INDEX OUT.ico --to COLORS --method METHOD [--threshold N]",
+                           "gpicon effect IN.ico INDEX OUT.ico NAME [--color RRGGBB] [--style N]",
+                           "Exit status",
+                           "count from 0",
+                           "NAME-2",
+                           "NAME_32_256-2.ico",
+                           "hotspotX",
+                           "cursor"})
     EXPECT_NE(o.out.find(word), std::string::npos) << word;
 }
 

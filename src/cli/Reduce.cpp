@@ -1,0 +1,84 @@
+#include "cli/OneImage.h"
+#include "cli/Subcommands.h"
+#include "effects/ColorReduction.h"
+#include "effects/EffectTexts.h"
+#include "files/ColorCount.h"
+
+#include <algorithm>
+#include <array>
+
+namespace gp::cli {
+namespace {
+
+struct Method {
+  int colors;  // that it reduces to
+  std::string_view name;
+  ReductionMethod method;
+};
+
+constexpr std::array<Method, 8> kMethods{{{256, "optimal", ReductionMethod::Optimal},
+                                          {256, "system", ReductionMethod::System},
+                                          {16, "optimized", ReductionMethod::Optimized},
+                                          {16, "nearest", ReductionMethod::Nearest},
+                                          {16, "vga", ReductionMethod::StandardVga},
+                                          {2, "cutoff", ReductionMethod::SelectCutoff},
+                                          {2, "weighted", ReductionMethod::Weighted},
+                                          {2, "ordered", ReductionMethod::Ordered}}};
+
+struct ReduceOptions {
+  std::string to, method, threshold;  // each empty when it is not there
+};
+
+bool takeOptions(Arguments& arguments, ReduceOptions& options) {
+  return takeOption(arguments, "--to", options.to) && takeOption(arguments, "--method", options.method) &&
+         takeOption(arguments, "--threshold", options.threshold);
+}
+
+// Null for a method that there is not, or not to so many colours.
+const Method* findMethod(const ReduceOptions& options) {
+  int colors = 0;
+  if (!parseNumber(options.to, colors)) return nullptr;
+  const auto found = std::ranges::find_if(
+      kMethods, [&](const Method& row) { return row.colors == colors && row.name == options.method; });
+  return found == kMethods.end() ? nullptr : &*found;
+}
+
+// Such an icon is refused, after a complaint.
+bool hasFewColors(const EditState& state, int most, const std::string& path) {
+  int colors = 0;
+  GetColorBitCount_Image(state.picImage, colors);
+  const bool isFew = colors > 0 && colors <= most;
+  if (isFew) complain(path, fewColorsText(colors));
+  return isFew;
+}
+
+int reduceTo(const Method& method, const ReductionSettings& settings, const ImageArguments& told) {
+  EditState state;
+  if (!loadImageForEffect(told, state) || hasFewColors(state, method.colors, told.input)) return kRefused;
+  IconPicture reduced = reduceColors(state.picImage, state.picMask, settings);
+  state.picImage = std::move(reduced.image);
+  state.picMask = std::move(reduced.mask);
+  return writeIcon(state, told.output);
+}
+
+}  // namespace
+
+int runReduce(const Arguments& arguments) {
+  Arguments rest = arguments;
+  ReduceOptions options;
+  ImageArguments told;
+  if (!takeOptions(rest, options)) return badUsage("reduce: --to, --method and --threshold take one value each");
+  if (options.to.empty() || options.method.empty()) return badUsage("reduce: --to and --method are needed");
+  const Method* const method = findMethod(options);
+  if (!method) return badUsage("reduce: --to " + options.to + " has no method " + options.method);
+  ReductionSettings settings{.method = method->method};
+  if (!options.threshold.empty() && method->method != ReductionMethod::SelectCutoff)
+    return badUsage("reduce: --threshold goes with cutoff only");
+  if (!options.threshold.empty() && !parseNumber(options.threshold, settings.threshold))
+    return badUsage("reduce: --threshold takes a number");
+  if (const int status = takeImageArguments("reduce", "IN.ico INDEX OUT.ico", rest, 0, told); status != kDone)
+    return status;
+  return reduceTo(*method, settings, told);
+}
+
+}  // namespace gp::cli
