@@ -1,5 +1,6 @@
 #include "document/EditingArea.h"
 
+#include "document/Compositing.h"
 #include "document/PatternCells.h"
 #include "platform/gdi/Pens.h"
 #include "platform/gdi/RasterOps.h"
@@ -32,13 +33,6 @@ Extent iconExtent(const Surface& icon) {
   return {kDefaultIconSize, kDefaultIconSize};
 }
 
-void compose(Surface& target, const Surface& mask, const Surface& image) {
-  target.clearPicture();
-  BitBlt(target, 0, 0, target.width(), target.height(), mask, 0, 0, RasterOp::SRCAND);
-  BitBlt(target, 0, 0, target.width(), target.height(), image, 0, 0, RasterOp::SRCINVERT);
-  target.makePersistent();
-}
-
 void stretchWhole(Surface& target, const Surface& source, const Extent& from, RasterOp op) {
   StretchBlt(target, 0, 0, target.width(), target.height(), source, 0, 0, from.width, from.height, op);
 }
@@ -69,7 +63,7 @@ void EditingArea::SizePanelSurfaces(int size) {
 }
 
 void EditingArea::ComposeCurrentIcon() {
-  compose(state_.PicIcon, state_.picMask, state_.picImage);
+  composeIcon(state_.picImage, state_.picMask, state_.PicIcon);
   state_.picImage.makePersistent();
   state_.picMask.makePersistent();
 }
@@ -80,7 +74,7 @@ void EditingArea::UpdatePanelFromCurrent() {
     SizePanelSurfaces(state_.picImage.width());
   BitbltPic(state_.picImage, state_.picPanelImage.at(container));
   BitbltPic(state_.picMask, state_.picPanelMask.at(container));
-  compose(state_.picPanelIcon.at(container), state_.picPanelMask.at(container), state_.picPanelImage.at(container));
+  composeIcon(state_.picPanelImage.at(container), state_.picPanelMask.at(container), state_.picPanelIcon.at(container));
   display_.changed(DisplayPart::IconsPanel);
 }
 

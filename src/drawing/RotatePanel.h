@@ -5,6 +5,7 @@
 #include "document/Display.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
+#include "document/PanelNumbers.h"
 #include "drawing/Regions.h"
 #include "platform/gdi/Surface.h"
 
@@ -13,7 +14,6 @@
 
 namespace gp {
 
-inline constexpr int kRotatePanel = 4;  // fraPanel(4)
 inline constexpr int kLargestAngle = 360;
 // Items of cboRotateImageAngle: index i is the angle i - 360.
 inline constexpr int kAngleCount = 2 * kLargestAngle + 1;

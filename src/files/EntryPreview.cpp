@@ -1,8 +1,8 @@
 #include "files/EntryPreview.h"
 
 #include "document/AlphaCompositing.h"
+#include "document/Compositing.h"
 #include "files/IconDecoder.h"
-#include "platform/gdi/RasterOps.h"
 
 #include <utility>
 
@@ -12,13 +12,6 @@ namespace {
 bool isReadSize(const IconEntry& entry, SizeRule rule) {
   if (rule == SizeRule::Any) return entry.width > 0 && entry.height > 0;
   return entry.width == entry.height && isIconSize(entry.width);
-}
-
-Surface composed(const Surface& image, const Surface& mask) {
-  Surface icon(image.width(), image.height(), kGround);
-  BitBlt(icon, 0, 0, icon.width(), icon.height(), mask, 0, 0, RasterOp::SRCAND);
-  BitBlt(icon, 0, 0, icon.width(), icon.height(), image, 0, 0, RasterOp::SRCINVERT);
-  return icon;
 }
 
 // paintAlphaPreview: what the Mask lets through is the plain ground, and nothing is inverted.
@@ -38,7 +31,7 @@ bool EntryPreview::show(const IconArrays& arrays, const IconEntry& entry, SizeRu
   if (decodeEntry(arrays.file.span(), entry, entry.width, entry.height, pixels) != IconDefect::None) return false;
 
   const bool hasAlpha = ColorsForEntry(entry, entry.bitCount) == kTrueColor;
-  picIcon_ = hasAlpha && showAlpha ? composedWithAlpha(image, mask, alpha) : composed(image, mask);
+  picIcon_ = hasAlpha && showAlpha ? composedWithAlpha(image, mask, alpha) : composedIcon(image, mask);
   if (hasAlpha) state_.gAlphaValues = std::move(alpha);
   picImageX_ = std::move(image);
   picMaskX_ = std::move(mask);

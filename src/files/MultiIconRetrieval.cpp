@@ -1,8 +1,8 @@
 #include "files/MultiIconRetrieval.h"
 
+#include "document/Compositing.h"
 #include "files/IconLoading.h"
 #include "files/PanelFiles.h"
-#include "platform/gdi/RasterOps.h"
 #include "platform/gdi/SurfaceOps.h"
 
 #include <utility>
@@ -89,13 +89,10 @@ void MultiIconRetrieval::showInEditingArea() {
 
 void MultiIconRetrieval::showInContainer() {
   const auto container = static_cast<std::size_t>(state_.mCurContainer);
-  Surface& icon = state_.picPanelIcon.at(container);
   state_.current().present = false;
   BitbltPic(image_, state_.picPanelImage.at(container));
   BitbltPic(mask_, state_.picPanelMask.at(container));
-  BitBlt(icon, 0, 0, icon.width(), icon.height(), mask_, 0, 0, RasterOp::SRCAND);
-  BitBlt(icon, 0, 0, icon.width(), icon.height(), image_, 0, 0, RasterOp::SRCINVERT);
-  icon.makePersistent();
+  composeIcon(image_, mask_, state_.picPanelIcon.at(container));
   context_.display.changed(DisplayPart::IconsPanel);
 }
 

@@ -73,6 +73,8 @@ void editCommand(Shell& shell, int index) { shell.mnuEditSub(index); }
 void copyToContainer(Shell& shell, int index) { shell.drawing().containerCopies.mnuEditSubCopyToContainer(index); }
 void copyFromContainer(Shell& shell, int index) { shell.drawing().containerCopies.mnuEditSubCopyFromContainer(index); }
 void rotateCommand(Shell& shell, int index) { shell.drawing().transforms.mnuRotateSubmenu(index); }
+void effect(Shell& shell, int index) { shell.effects().mnuEffectsSub(index); }
+void confineColors(Shell& shell, int index) { shell.effects().confine.doConfineColors(index); }
 void loadPalette(Shell& shell, int) { shell.paletteFile().imgLoadPalette(); }
 void savePalette(Shell& shell, int) { shell.paletteFile().imgSavePalette(); }
 void chooseGrid(Shell& shell, int index) { shell.editingArea().SetGrid(index); }

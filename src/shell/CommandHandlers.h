@@ -52,6 +52,8 @@ void editCommand(Shell& shell, int index);
 void copyToContainer(Shell& shell, int index);
 void copyFromContainer(Shell& shell, int index);
 void rotateCommand(Shell& shell, int index);
+void effect(Shell& shell, int index);
+void confineColors(Shell& shell, int index);
 void chooseColorFrame(Shell& shell, int index);
 void loadPalette(Shell& shell, int index);
 void savePalette(Shell& shell, int index);

@@ -7,11 +7,16 @@
 
 namespace gp {
 
+class Shell;
+
 struct PanelRow {
   int number;
-  const char* caption;
+  const char* caption;            // written like a menu's, with && for &
+  void (*proceed)(Shell& shell);  // what Proceed does; null for nothing
 };
 
 std::span<const PanelRow> panelTable();
+// The row of a panel; null for a number that no panel has.
+const PanelRow* findPanel(int number);
 
 }  // namespace gp

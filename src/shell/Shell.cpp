@@ -25,6 +25,7 @@ Shell::Shell(EditState& state, const Ports& ports, Display& display, std::string
       mixer_(state, display, ports.pump, colors_),
       paletteFile_(state, *this, ports.boxes, mDialog, ports.pictures, mixer_, folder_),
       drawing_(state, *this, display, editingArea_, colors_, ports.boxes, ports.pump, ports.clipboard),
+      effects_(state, *this, display, ports.boxes, ports.pump),
       filesContext_{state, *this, display, ports.boxes, ports.pump, mDialog},
       multiIcon_(filesContext_, iconForms_, folder_ + "/" + kScratchFileName),
       iconFiles_(filesContext_, multiIcon_),

@@ -10,6 +10,7 @@
 #include "document/Editor.h"
 #include "document/IconsPanel.h"
 #include "drawing/Drawing.h"
+#include "effects/Effects.h"
 #include "files/CursorFiles.h"
 #include "files/IconFiles.h"
 #include "files/IconSaver.h"
@@ -60,6 +61,7 @@ class Shell final : public Editor {
   const Drawing& drawing() const { return drawing_; }
   Tools& tools() { return drawing_.tools; }
   const Tools& tools() const { return drawing_.tools; }
+  Effects& effects() { return effects_; }
   MultiIconCommands& multiIcon() { return multiIcon_; }
   IconFiles& iconFiles() { return iconFiles_; }
   CursorFiles& cursorFiles() { return cursorFiles_; }
@@ -93,8 +95,10 @@ class Shell final : public Editor {
   void openIconFile();
   void openFromHistory(int index);
   void mnuEditSub(int index);
-  // Close of a side panel: nothing of it is kept.
-  void cancelPanel();
+  // Proceed of the side panel that is up; nothing where it has none.
+  void cmdProceed();
+  // Its Close: nothing of it is kept.
+  void cmdCancel();
   void openHelp();
   void switchToCustomSize();
   void toggleOption(int index);
@@ -172,6 +176,7 @@ class Shell final : public Editor {
   ColorMixer mixer_;
   PaletteFile paletteFile_;
   Drawing drawing_;
+  Effects effects_;
   ShownForms iconForms_{*this};
   const FilesContext filesContext_;
   MultiIconCommands multiIcon_;

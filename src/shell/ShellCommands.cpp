@@ -128,7 +128,12 @@ void Shell::mnuEditSub(int index) {
     command->run(drawing_);
 }
 
-void Shell::cancelPanel() {
+void Shell::cmdProceed() {
+  const PanelRow* panel = findPanel(state_.screen.mActivePanel);
+  if (panel && panel->proceed) panel->proceed(*this);
+}
+
+void Shell::cmdCancel() {
   showPanel(kColorPanel);
   ports_.pump.pump();
   if (state_.current().present) MagnifyIcon();
@@ -136,7 +141,7 @@ void Shell::cancelPanel() {
 
 void Shell::escapeKey() {
   if (state_.screen.mActivePanel != kColorPanel)
-    cancelPanel();
+    cmdCancel();
   else if (state_.mRegionExists)
     drawing_.tools.imgClearAllTools();
 }

@@ -209,7 +209,7 @@ TEST_F(CursorCommandsTest, WithoutThePanelAClickSetsNoHotSpot) {
 TEST_F(CursorCommandsTest, ClosingThePanelEndsABlinkEarly) {
   startWithPanel();
   const Pixels before = pixels();
-  duringBlink([this] { shell.cancelPanel(); });
+  duringBlink([this] { shell.cmdCancel(); });
   clickAt(20, 3);
   EXPECT_EQ(pump.waitedMilliseconds, kPhaseMilliseconds);
   EXPECT_EQ(state.screen.mActivePanel, kColorPanel);

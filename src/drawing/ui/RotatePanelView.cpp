@@ -1,8 +1,7 @@
 #include "drawing/ui/RotatePanelView.h"
 
-#include "document/ui/SurfacePainting.h"
+#include "document/ui/SampleView.h"
 #include "drawing/RotatePanel.h"
-#include "platform/qt/Accessibility.h"
 #include "platform/qt/PathText.h"
 
 #include <QAbstractListModel>
@@ -19,11 +18,8 @@
 namespace gp {
 namespace {
 
-constexpr const char* kTitle = "Rotate image (-359 to +359)";
 constexpr int kRowGap = 8;
-constexpr int kSampleFrame = 1;
 constexpr int kSampleScale = 2;
-constexpr int kSampleWidth = kSampleScale * kRotateSampleSide + 2 * kSampleFrame;
 constexpr int kAngleLetters = 6;
 constexpr int kLongestAngle = 24;  // characters that can be typed
 constexpr int kSliderPage = 15;
@@ -41,36 +37,10 @@ class AngleList : public QAbstractListModel {
   }
 };
 
-class SampleView : public QWidget, public AccessibleValue {
- public:
-  SampleView(QWidget* parent, const RotatePanel& panel) : QWidget(parent), panel_(panel) {
-    setObjectName("picRotateImageSample");
-    setAccessibleName("Sample");
-    setFixedSize(kSampleWidth, kSampleWidth);
-  }
-
-  QString accessibleValue() const override { return QString("%1 degrees").arg(panel_.hsrRotateImageAngle()); }
-  QAccessible::Role accessibleRole() const override { return QAccessible::Graphic; }
-
- protected:
-  void paintEvent(QPaintEvent*) override {
-    DevicePainter painter(this);
-    const QRect whole = painter.toDevice(rect());
-    painter.fillRect(whole, palette().color(QPalette::Mid));
-    const ScreenScale scale(kRotateSampleSide, 1, kSampleScale * devicePixelRatioF());
-    const int margin = (whole.width() - scale.deviceSize()) / 2;
-    const QRect all(0, 0, scale.deviceSize(), scale.deviceSize());
-    painter.drawImage(whole.topLeft() + QPoint(margin, margin), imageOf(panel_.picRotateImageSample(), scale, all));
-  }
-
- private:
-  const RotatePanel& panel_;
-};
-
 }  // namespace
 
 RotatePanelView::RotatePanelView(QWidget* parent, RotatePanel& panel)
-    : PanelFrame(parent, kRotatePanel, kTitle), panel_(panel) {
+    : PanelFrame(parent, kRotatePanel), panel_(panel) {
   rows()->addWidget(makeAngleRow());
   rows()->addWidget(makeSlider());
   rows()->addWidget(makeAntialias());
@@ -138,7 +108,8 @@ QWidget* RotatePanelView::makeSample() {
   column->setSpacing(kRowGap);
   auto* label = new QLabel("Sample", place);
   label->setObjectName("lblRotateImageSample");
-  picRotateImageSample_ = new SampleView(place, panel_);
+  picRotateImageSample_ = new SampleView(place, "picRotateImageSample", "Sample", panel_.picRotateImageSample(),
+                                         kSampleScale * kRotateSampleSide);
   column->addWidget(label, 0, Qt::AlignHCenter);
   column->addWidget(picRotateImageSample_, 0, Qt::AlignHCenter);
   return place;
@@ -151,7 +122,7 @@ void RotatePanelView::refresh() {
   hsrRotateImageAngle_->setValue(panel_.hsrRotateImageAngle());
   ckbRotateImageAntiAlias_->setChecked(panel_.ckbRotateImageAntiAlias());
   picRotateImageSample_->update();
-  accessibleValueChanged(picRotateImageSample_);
+  picRotateImageSample_->setValueText(QString("%1 degrees").arg(panel_.hsrRotateImageAngle()));
 }
 
 // The text may be one that is being typed: it stays as it is, and so does the place in it.

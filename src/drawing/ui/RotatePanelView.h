@@ -11,6 +11,7 @@ class QSlider;
 namespace gp {
 
 class RotatePanel;
+class SampleView;
 
 class RotatePanelView : public PanelFrame {
   Q_OBJECT
@@ -32,7 +33,7 @@ class RotatePanelView : public PanelFrame {
   QComboBox* cboRotateImageAngle_ = nullptr;
   QSlider* hsrRotateImageAngle_ = nullptr;
   QCheckBox* ckbRotateImageAntiAlias_ = nullptr;
-  QWidget* picRotateImageSample_ = nullptr;
+  SampleView* picRotateImageSample_ = nullptr;
 };
 
 }  // namespace gp

@@ -13,14 +13,13 @@
 namespace gp {
 namespace {
 
-constexpr const char* kTitle = "Save as cursor";
 constexpr const char* kHint = "Choose the hot spot here, or click its pixel in the Editing Area.";
 constexpr int kRowGap = 8;
 
 }  // namespace
 
 CursorPanelView::CursorPanelView(QWidget* parent, CursorFiles& cursors)
-    : PanelFrame(parent, kCursorPanel, kTitle), cursors_(cursors) {
+    : PanelFrame(parent, kCursorPanel), cursors_(cursors) {
   auto* hint = new QLabel(kHint, this);
   hint->setObjectName("lblCursorHotSpot");
   hint->setWordWrap(true);

@@ -2,6 +2,10 @@
 
 #include "colour/ui/ColorPanel.h"
 #include "drawing/ui/RotatePanelView.h"
+#include "effects/ui/ButtonizePanelView.h"
+#include "effects/ui/ConfinePanelView.h"
+#include "effects/ui/DisabledImagePanelView.h"
+#include "effects/ui/ShadesPanelView.h"
 #include "files/ui/CursorPanelView.h"
 #include "shell/PanelTable.h"
 #include "shell/Shell.h"
@@ -26,28 +30,24 @@ QWidget* makeColorPanel(QWidget* parent, Shell& shell, QtDisplay& display) {
   return panel;
 }
 
-// Proceed and Close of a side panel; `run` is what Proceed does.
-template <class Run>
-void connectFrame(PanelFrame* panel, Shell& shell, Run run) {
-  QObject::connect(panel, &PanelFrame::proceed, panel, [&shell, run] { shell.guarded("cmdProceed_Click", run); });
-  QObject::connect(panel, &PanelFrame::closeRequested, panel,
-                   [&shell] { shell.guarded("cmdCancel_Click", [&shell] { shell.cancelPanel(); }); });
-}
-
 QWidget* makeRotatePanel(QWidget* parent, Shell& shell, QtDisplay&) {
-  RotatePanel& logic = shell.drawing().rotatePanel;
-  auto* panel = new RotatePanelView(parent, logic);
-  connectFrame(panel, shell, [&logic] { logic.doRotateProceed(); });
-  return panel;
+  return new RotatePanelView(parent, shell.drawing().rotatePanel);
 }
 
 QWidget* makeCursorPanel(QWidget* parent, Shell& shell, QtDisplay&) {
   auto* panel = new CursorPanelView(parent, shell.cursorFiles());
-  connectFrame(panel, shell, [&shell] { shell.iconSaver().doSaveAs(SaveMode::Cursor); });
   QObject::connect(panel, &CursorPanelView::showHotspotRequested, panel, [&shell] {
     shell.guarded("cmdShowHotspot_Click", [&shell] { shell.cursorFiles().showHotspot(); });
   });
   return panel;
+}
+
+// The samples of an effect follow the icon: another one may come while the panel is up.
+template <class View, auto member>
+QWidget* makeEffectPanel(QWidget* parent, Shell& shell, QtDisplay& display) {
+  auto& logic = shell.effects().*member;
+  display.listen(DisplayPart::IconsPanel, [&logic] { logic.preview(); });
+  return new View(parent, logic);
 }
 
 struct PanelWidget {
@@ -55,10 +55,23 @@ struct PanelWidget {
   QWidget* (*make)(QWidget* parent, Shell& shell, QtDisplay& display);
 };
 
+// Title, Proceed and Close come from the table of panels.
+void completeFrame(PanelFrame* panel, int number, Shell& shell) {
+  panel->setTitle(findPanel(number)->caption);
+  QObject::connect(panel, &PanelFrame::proceed, panel,
+                   [&shell] { shell.guarded("cmdProceed_Click", [&shell] { shell.cmdProceed(); }); });
+  QObject::connect(panel, &PanelFrame::closeRequested, panel,
+                   [&shell] { shell.guarded("cmdCancel_Click", [&shell] { shell.cmdCancel(); }); });
+}
+
 constexpr std::array kPanelWidgets = {
     PanelWidget{kColorPanel, makeColorPanel},
     PanelWidget{kCursorPanel, makeCursorPanel},
     PanelWidget{kRotatePanel, makeRotatePanel},
+    PanelWidget{kButtonizePanel, makeEffectPanel<ButtonizePanelView, &Effects::buttonize>},
+    PanelWidget{kShadesPanel, makeEffectPanel<ShadesPanelView, &Effects::shades>},
+    PanelWidget{kDisabledImagePanel, makeEffectPanel<DisabledImagePanelView, &Effects::disabledImage>},
+    PanelWidget{kConfinePanel, makeEffectPanel<ConfinePanelView, &Effects::confine>},
 };
 
 }  // namespace
@@ -74,6 +87,7 @@ QWidget* PanelStack::panel(int number) {
   const auto row = std::ranges::find(kPanelWidgets, number, &PanelWidget::number);
   if (row == kPanelWidgets.end()) return nullptr;
   QWidget* widget = row->make(this, shell_, display_);
+  if (auto* frame = qobject_cast<PanelFrame*>(widget)) completeFrame(frame, number, shell_);
   stack_->addWidget(widget);
   made_.emplace(number, widget);
   return widget;

@@ -72,7 +72,8 @@ frmDirDialog::frmDirDialog(const std::string& pattern, const std::string& startF
 }
 
 std::string frmDirDialog::choose(const std::string& pattern, const std::string& startFolder, MessageBoxes& boxes) {
-  frmDirDialog form(pattern, startFolder, boxes, dialogOwner());
+  const DialogOwner owner;
+  frmDirDialog form(pattern, startFolder, boxes, owner.window());
   form.exec();
   return form.result();
 }

@@ -26,24 +26,28 @@ QPushButton* makeButton(QWidget* parent, const char* objectName, const QString& 
 
 }  // namespace
 
-PanelFrame::PanelFrame(QWidget* parent, int number, const QString& title) : QWidget(parent), rows_(new QVBoxLayout) {
+PanelFrame::PanelFrame(QWidget* parent, int number) : QWidget(parent), title_(makeTitle()), rows_(new QVBoxLayout) {
   setObjectName(QString("fraPanel(%1)").arg(number));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(kGap);
-  column->addWidget(makeTitle(title));
+  column->addWidget(title_);
   rows_->setSpacing(kGap);
   column->addLayout(rows_, 1);
 }
 
-QWidget* PanelFrame::makeTitle(const QString& title) {
-  auto* label = new QLabel(QString(title).replace("&&", "&"), this);
+QLabel* PanelFrame::makeTitle() {
+  auto* label = new QLabel(this);
   label->setTextFormat(Qt::PlainText);
   QFont bold = label->font();
   bold.setBold(true);
   label->setFont(bold);
-  setAccessibleName(label->text());
   return label;
+}
+
+void PanelFrame::setTitle(const QString& title) {
+  title_->setText(QString(title).replace("&&", "&"));
+  setAccessibleName(title_->text());
 }
 
 void PanelFrame::addButtons() {
@@ -60,7 +64,10 @@ void PanelFrame::addButtons() {
   row->addWidget(cmdProceed_, 1);
   row->addWidget(cmdCancel_, 1);
   layout()->addWidget(buttons);
+  setFocusProxy(cmdProceed_);
 }
+
+QWidget* PanelFrame::proceedButton() const { return cmdProceed_; }
 
 void PanelFrame::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {

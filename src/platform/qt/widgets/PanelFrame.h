@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+class QLabel;
 class QPushButton;
 class QVBoxLayout;
 
@@ -14,13 +15,18 @@ class PanelFrame : public QWidget {
   Q_OBJECT
 
  public:
-  // `number` is the index of fraPanel; a title is written like a menu's caption, with && for &.
-  PanelFrame(QWidget* parent, int number, const QString& title);
+  // `number` is the index of fraPanel.
+  PanelFrame(QWidget* parent, int number);
+
+  // Written like a menu's caption, with && for &.
+  void setTitle(const QString& title);
 
   // Where the panel puts its rows, from the top.
   QVBoxLayout* rows() const { return rows_; }
   // Once, after the rows: Tab comes to the buttons last.
+  // The focus goes to Proceed unless another proxy is set after it.
   void addButtons();
+  QWidget* proceedButton() const;
 
  signals:
   void proceed();
@@ -30,8 +36,9 @@ class PanelFrame : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  QWidget* makeTitle(const QString& title);
+  QLabel* makeTitle();
 
+  QLabel* title_;
   QVBoxLayout* rows_;
   QPushButton* cmdProceed_ = nullptr;
   QPushButton* cmdCancel_ = nullptr;

@@ -1,7 +1,8 @@
-#include "shell/ListTables.h"
+#include "document/ListTables.h"
 
 #include <algorithm>
 #include <initializer_list>
+#include <iterator>
 
 namespace gp {
 namespace {
@@ -99,6 +100,13 @@ FilledList fillFonts(const std::vector<std::string>& fonts) {
 }
 
 }  // namespace
+
+FilledList fillList(std::string_view control) {
+  const auto isIts = [control](const auto& row) { return row.control == control; };
+  if (const auto* row = std::ranges::find_if(kNumberRows, isIts); row != std::end(kNumberRows)) return fill(*row);
+  if (const auto* row = std::ranges::find_if(kTextRows, isIts); row != std::end(kTextRows)) return fill(*row);
+  return {std::string(control), {}, 0};
+}
 
 std::vector<FilledList> fillLists(const std::vector<std::string>& screenFonts) {
   std::vector<FilledList> lists;

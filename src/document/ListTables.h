@@ -14,6 +14,8 @@ struct FilledList {
   int first = 0;  // position, from 0, of the entry shown first
 };
 
+// The list of a control, whose font list is empty; without entries when it has none.
+FilledList fillList(std::string_view control);
 // All lists. `screenFonts` are the entries of cboFontName, in the order given.
 std::vector<FilledList> fillLists(const std::vector<std::string>& screenFonts);
 // The list of a control; null when it has none.

@@ -1,4 +1,4 @@
-#include "shell/ListTables.h"
+#include "document/ListTables.h"
 
 #include <gtest/gtest.h>
 #include <set>

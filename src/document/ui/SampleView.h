@@ -1,0 +1,35 @@
+// The square in which a side panel shows a picture: as large as whole factors allow, in the middle. It keeps no pixels:
+// the Surface, which must outlive it, may get another size or content at any time; update() shows it.
+#pragma once
+
+#include "platform/gdi/Surface.h"
+#include "platform/qt/Accessibility.h"
+
+#include <QWidget>
+
+namespace gp {
+
+class SampleView : public QWidget, public AccessibleValue {
+ public:
+  // `room` is the side of the largest picture, in pixels of the desktop.
+  SampleView(QWidget* parent, const QString& objectName, const QString& accessibleName, const Surface& picture,
+             int room);
+
+  // What a screen reader speaks of the picture: its size until another text is given.
+  void setValueText(const QString& text);
+
+  QString accessibleValue() const override;
+  QAccessible::Role accessibleRole() const override { return QAccessible::Graphic; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  int factor() const;
+
+  const Surface& picture_;
+  const int room_;
+  QString value_;
+};
+
+}  // namespace gp

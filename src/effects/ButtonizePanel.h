@@ -1,0 +1,27 @@
+// The Panel that frames the icon as a button: its list of patterns and the sample of the chosen one.
+#pragma once
+
+#include "effects/Buttonize.h"
+#include "effects/EffectPanel.h"
+
+namespace gp {
+
+class ButtonizePanel final : public EffectPanel {
+ public:
+  explicit ButtonizePanel(EffectFrame& frame);
+
+  void open();
+
+  // cboButtonizePattern. An index outside is ignored.
+  int cboButtonizePattern() const { return settings_.pattern; }
+  void pickPattern(int index);
+  const Surface& picButtonize() const { return sample(); }
+
+ protected:
+  IconPicture apply(const Surface& image, const Surface& mask) const override;
+
+ private:
+  ButtonizeSettings settings_;
+};
+
+}  // namespace gp

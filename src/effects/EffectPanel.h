@@ -1,0 +1,49 @@
+// A Panel that shows what an effect would make of the Current Icon, and makes it on Proceed. Both come from the one
+// function that a Panel of its own gives here; so the samples are what the icon becomes.
+#pragma once
+
+#include "effects/EffectFrame.h"
+#include "effects/IconPicture.h"
+
+#include <functional>
+
+namespace gp {
+
+class EffectPanel {
+ public:
+  // `number` is the index of fraPanel.
+  EffectPanel(EffectFrame& frame, int number) : frame_(frame), number_(number) {}
+  virtual ~EffectPanel() = default;
+  EffectPanel(const EffectPanel&) = delete;
+  EffectPanel& operator=(const EffectPanel&) = delete;
+
+  // Makes the samples anew, from the icon as it is now: an empty one while there is none. Nothing while the Panel is
+  // not up.
+  void preview();
+  // The icon becomes what the settings make of it, which may be another icon than the Panel came up for. The Panel
+  // stays up when the icon takes no effects.
+  void proceed();
+
+  // The icon as last previewed, and its look.
+  const IconPicture& picture() const { return picture_; }
+  const Surface& sample() const { return sample_; }
+  int number() const { return number_; }
+  // What the view redraws when settings or samples changed.
+  std::function<void()> onChange;
+
+ protected:
+  virtual IconPicture apply(const Surface& image, const Surface& mask) const = 0;
+  virtual bool recordsUndo() const { return true; }
+
+  // Brings the Panel up with its samples.
+  void show();
+  EffectFrame& frame() const { return frame_; }
+
+ private:
+  EffectFrame& frame_;
+  const int number_;
+  IconPicture picture_;
+  Surface sample_;
+};
+
+}  // namespace gp

@@ -1,0 +1,16 @@
+// What effects tell: the same in the editor and on the command line.
+#pragma once
+
+#include <string>
+
+namespace gp {
+
+inline constexpr const char* kIconIsWithAlpha =
+    "Current icon is with alpha, please run Convert 32 To 24 BPP\nto convert it to 24-BPP first.";
+
+// Why an icon of so few colours cannot be reduced.
+inline std::string fewColorsText(int colors) {
+  return "Current image is of " + std::to_string(colors) + "-color depth.  ";
+}
+
+}  // namespace gp

@@ -1,0 +1,34 @@
+#include "effects/ShadesPanel.h"
+
+#include "document/PanelNumbers.h"
+
+#include <array>
+
+namespace gp {
+namespace {
+
+// By the values of ReliefKind.
+constexpr std::array<const char*, 4> kNames{"Embossed", "Engraved", "Raised", "Shadowed"};
+
+}  // namespace
+
+ShadesPanel::ShadesPanel(EffectFrame& frame) : EffectPanel(frame, kShadesPanel) {}
+
+void ShadesPanel::open(ReliefKind kind) {
+  if (!frame().mayApply()) return;
+  kind_ = kind;
+  show();
+}
+
+const char* ShadesPanel::lblEffectsSample() const { return kNames.at(static_cast<std::size_t>(kind_)); }
+
+void ShadesPanel::setUseSelectedColor(bool use) {
+  useSelectedColor_ = use;
+  preview();
+}
+
+IconPicture ShadesPanel::apply(const Surface& image, const Surface& mask) const {
+  return relief(image, mask, {kind_, useSelectedColor_ ? frame().state().mCurrentColor : kBlack});
+}
+
+}  // namespace gp

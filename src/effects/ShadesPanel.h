@@ -1,0 +1,33 @@
+// The Panel of the effects that work on the whole icon at once: which of them it is tells the command that opened it.
+#pragma once
+
+#include "effects/EffectPanel.h"
+#include "effects/Relief.h"
+
+namespace gp {
+
+class ShadesPanel final : public EffectPanel {
+ public:
+  explicit ShadesPanel(EffectFrame& frame);
+
+  void open(ReliefKind kind);
+
+  ReliefKind mEffectKind() const { return kind_; }
+  // The name of the effect.
+  const char* lblEffectsSample() const;
+  const Surface& picEffectsSample() const { return sample(); }
+
+  // ckbUseSelectedColor: the shadow takes the current colour. Only a shadow asks for it.
+  bool ckbUseSelectedColor() const { return useSelectedColor_; }
+  bool asksForColor() const { return kind_ == ReliefKind::Shadowed; }
+  void setUseSelectedColor(bool use);
+
+ protected:
+  IconPicture apply(const Surface& image, const Surface& mask) const override;
+
+ private:
+  ReliefKind kind_ = ReliefKind::Embossed;
+  bool useSelectedColor_ = false;
+};
+
+}  // namespace gp

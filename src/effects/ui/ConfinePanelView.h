@@ -1,0 +1,36 @@
+// fraPanel(19): the list of methods of the present run, the threshold where there is one, and the samples of image and
+// Mask.
+#pragma once
+
+#include "effects/ui/EffectPanelView.h"
+
+#include <array>
+
+namespace gp {
+
+class ConfinePanel;
+
+class ConfinePanelView final : public EffectPanelView {
+  Q_OBJECT
+
+ public:
+  ConfinePanelView(QWidget* parent, ConfinePanel& panel);
+
+ protected:
+  void refresh() override;
+
+ private:
+  static constexpr std::size_t kMethodLists = 3;
+
+  void addMethods();
+  void addThreshold();
+
+  ConfinePanel& panel_;
+  QLabel* lblConfineTo_ = nullptr;
+  QLabel* lblRun_ = nullptr;
+  QLabel* lblThreshold_ = nullptr;
+  std::array<QComboBox*, kMethodLists> methods_{};
+  QComboBox* threshold_ = nullptr;
+};
+
+}  // namespace gp
