@@ -1,0 +1,17 @@
+// The icon framed as a button.
+#pragma once
+
+#include "effects/IconPicture.h"
+
+namespace gp {
+
+inline constexpr int kButtonPatterns = 3;
+
+struct ButtonizeSettings {
+  int pattern = 0;  // 0 one line, 1 boxed, 2 two tones; others are 0
+};
+
+// The icon under its frame, whose pixels are painted and whose four corners are transparent.
+IconPicture buttonize(const Surface& image, const Surface& mask, const ButtonizeSettings& settings);
+
+}  // namespace gp

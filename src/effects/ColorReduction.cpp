@@ -1,0 +1,90 @@
+#include "effects/ColorReduction.h"
+
+#include "document/Compositing.h"
+#include "effects/PaintedPixels.h"
+#include "effects/StandardSnap.h"
+#include "palette/HalftonePalette.h"
+#include "palette/MonoDiffusion.h"
+#include "palette/NearestMatch.h"
+#include "palette/clsGPDIB.h"
+#include "palette/clsGPPal.h"
+#include "palette/clsGPPalDither.h"
+
+#include <algorithm>
+#include <array>
+
+namespace gp {
+namespace {
+
+constexpr int kFullPalette = 256;
+constexpr int kTreeLevels = 8;
+constexpr double kChannels = 3.0;
+
+void ditherToOptimal(clsGPDIB& dib) {
+  clsGPPal palette;
+  palette.CreateOptimal(dib, kFullPalette, kTreeLevels);
+  clsGPPalDither().DitherToPalette256(dib, palette);
+}
+
+void ditherToStandard(clsGPDIB& dib) {
+  clsGPPal palette;
+  palette.CreatePalette16();
+  clsGPPalDither().DitherToPalette16(dib, palette);
+}
+
+void matchToHalftone(clsGPDIB& dib) { matchToPalette(dib, kHalftonePalette); }
+void matchToStandard(clsGPDIB& dib) { matchToPalette(dib, kStandardPalette); }
+
+void snapAll(clsGPDIB& dib) {
+  for (DibPixel& pixel : dib.DIBBitsPtr()) pixel = dibPixel(snapToStandard(colorOf(pixel)));
+}
+
+struct Reduction {
+  ReductionMethod method;
+  void (*reduce)(clsGPDIB& dib);
+};
+// Those that know nothing of a Mask.
+constexpr std::array kReductions{
+    Reduction{ReductionMethod::Optimal, ditherToOptimal},     Reduction{ReductionMethod::System, matchToHalftone},
+    Reduction{ReductionMethod::Optimized, ditherToStandard},  Reduction{ReductionMethod::Nearest, snapAll},
+    Reduction{ReductionMethod::StandardVga, matchToStandard}, Reduction{ReductionMethod::Weighted, ditherWeighted},
+    Reduction{ReductionMethod::Ordered, ditherOrdered}};
+
+Surface reduced(const Surface& image, const Reduction& reduction) {
+  clsGPDIB dib;
+  dib.CreateDIBFromPic(image);
+  reduction.reduce(dib);
+  Surface picture(image.width(), image.height());
+  dib.PaintFromDIB(picture, 0, 0, -1, -1, 0, 0, RasterOp::SRCCOPY);
+  return picture;
+}
+
+bool isBelow(Color color, int threshold) {
+  return (redOf(color) + greenOf(color) + blueOf(color)) / kChannels < threshold;
+}
+
+// It goes by the look of the icon on its ground, which is what pixels that invert are judged by.
+IconPicture cutOff(const Surface& image, const Surface& mask, int threshold) {
+  const Surface look = composedIcon(image, mask);
+  IconPicture icon = emptyIcon(image.width(), image.height());
+  for (int y = 0; y < look.height(); ++y) {
+    for (int x = 0; x < look.width(); ++x) {
+      const Color color = look.GetPixel(x, y);
+      const bool isGround = color == kGround && mask.GetPixel(x, y) == kWhite;
+      if (!isGround && isBelow(color, threshold)) icon.mask.SetPixelV(x, y, kBlack);
+    }
+  }
+  return icon;
+}
+
+}  // namespace
+
+IconPicture reduceColors(const Surface& image, const Surface& mask, const ReductionSettings& settings) {
+  const auto reduction = std::ranges::find(kReductions, settings.method, &Reduction::method);
+  if (reduction == kReductions.end()) return cutOff(image, mask, settings.threshold);
+  IconPicture icon{Surface(image.width(), image.height(), kBlack), mask};
+  copyPainted(reduced(image, *reduction), mask, icon.image);
+  return icon;
+}
+
+}  // namespace gp
