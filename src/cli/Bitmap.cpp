@@ -1,28 +1,8 @@
 #include "cli/OneImage.h"
 #include "cli/Subcommands.h"
-#include "document/AlphaCompositing.h"
-#include "document/Compositing.h"
-#include "document/Containers.h"
 #include "files/BitmapSaving.h"
 
 namespace gp::cli {
-namespace {
-
-// The Current Icon's look. Alpha blends over the usual ground whatever the background is; transparent pixels are told
-// from real silver by the Mask.
-Surface lookOn(Color background, const EditState& state) {
-  Surface look = composedIcon(state.picImage, state.picMask);
-  if (AlphaRecIsReady(state))
-    composeAlpha(state.picMask, state.picImage, state.mAlphaRecs.at(static_cast<std::size_t>(state.mCurContainer)),
-                 look);
-  for (int y = 0; y < look.height(); ++y)
-    for (int x = 0; x < look.width(); ++x)
-      if (look.GetPixel(x, y) == kGround && state.picMask.GetPixel(x, y) == kWhite) look.SetPixelV(x, y, background);
-  return look;
-}
-
-}  // namespace
-
 int runBmp(const Arguments& arguments) {
   Arguments rest = arguments;
   std::string color;
@@ -35,7 +15,7 @@ int runBmp(const Arguments& arguments) {
     return status;
   EditState state;
   if (!loadImage(told, state)) return kRefused;
-  return answerToWriting(saveByColors(lookOn(background, state), told.output), told.output);
+  return answerToWriting(saveByColors(composedForBitmap(state, background), told.output), told.output);
 }
 
 }  // namespace gp::cli

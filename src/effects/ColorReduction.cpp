@@ -3,12 +3,10 @@
 #include "document/Compositing.h"
 #include "effects/PaintedPixels.h"
 #include "effects/StandardSnap.h"
+#include "palette/DitheredReduction.h"
 #include "palette/HalftonePalette.h"
 #include "palette/MonoDiffusion.h"
 #include "palette/NearestMatch.h"
-#include "palette/clsGPDIB.h"
-#include "palette/clsGPPal.h"
-#include "palette/clsGPPalDither.h"
 
 #include <algorithm>
 #include <array>
@@ -16,20 +14,13 @@
 namespace gp {
 namespace {
 
-constexpr int kFullPalette = 256;
-constexpr int kTreeLevels = 8;
 constexpr double kChannels = 3.0;
 
-void ditherToOptimal(clsGPDIB& dib) {
+template <auto kDither>
+void dithered(clsGPDIB& dib) {
   clsGPPal palette;
-  palette.CreateOptimal(dib, kFullPalette, kTreeLevels);
-  clsGPPalDither().DitherToPalette256(dib, palette);
-}
-
-void ditherToStandard(clsGPDIB& dib) {
-  clsGPPal palette;
-  palette.CreatePalette16();
-  clsGPPalDither().DitherToPalette16(dib, palette);
+  clsGPPalDither dither;
+  kDither(dib, palette, dither);
 }
 
 void matchToHalftone(clsGPDIB& dib) { matchToPalette(dib, kHalftonePalette); }
@@ -44,11 +35,13 @@ struct Reduction {
   void (*reduce)(clsGPDIB& dib);
 };
 // Those that know nothing of a Mask.
-constexpr std::array kReductions{
-    Reduction{ReductionMethod::Optimal, ditherToOptimal},     Reduction{ReductionMethod::System, matchToHalftone},
-    Reduction{ReductionMethod::Optimized, ditherToStandard},  Reduction{ReductionMethod::Nearest, snapAll},
-    Reduction{ReductionMethod::StandardVga, matchToStandard}, Reduction{ReductionMethod::Weighted, ditherWeighted},
-    Reduction{ReductionMethod::Ordered, ditherOrdered}};
+constexpr std::array kReductions{Reduction{ReductionMethod::Optimal, dithered<ditherToOptimal>},
+                                 Reduction{ReductionMethod::System, matchToHalftone},
+                                 Reduction{ReductionMethod::Optimized, dithered<ditherToStandard>},
+                                 Reduction{ReductionMethod::Nearest, snapAll},
+                                 Reduction{ReductionMethod::StandardVga, matchToStandard},
+                                 Reduction{ReductionMethod::Weighted, ditherWeighted},
+                                 Reduction{ReductionMethod::Ordered, ditherOrdered}};
 
 Surface reduced(const Surface& image, const Reduction& reduction) {
   clsGPDIB dib;

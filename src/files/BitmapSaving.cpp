@@ -1,9 +1,10 @@
 #include "files/BitmapSaving.h"
 
+#include "document/AlphaCompositing.h"
+#include "document/Compositing.h"
+#include "document/Containers.h"
 #include "files/ColorCount.h"
-#include "palette/clsGPDIB.h"
-#include "palette/clsGPPal.h"
-#include "palette/clsGPPalDither.h"
+#include "palette/DitheredReduction.h"
 #include "palette/clsGPPalSave.h"
 #include "platform/files/BitmapFile.h"
 
@@ -13,8 +14,6 @@
 namespace gp {
 namespace {
 
-constexpr int kFullPalette = 256;
-constexpr int kTreeLevels = 8;
 constexpr int kMonoDivisor = 15;
 
 struct Depth {
@@ -23,24 +22,24 @@ struct Depth {
   void (*reduce)(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither);
 };
 
-void reduceTo256(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither) {
-  palette.CreateOptimal(dib, kFullPalette, kTreeLevels);
-  dither.DitherToPalette256(dib, palette);
-}
-
-void reduceTo16(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither) {
-  palette.CreatePalette16();
-  dither.DitherToPalette16(dib, palette);
-}
-
-void reduceTo2(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither) {
+void ditherToMono(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither) {
   palette.CreatePalette2();
   dither.DitherToBlackAndWhite(dib, kMonoDivisor);
 }
 
-constexpr std::array<Depth, 3> kDepths{{{256, 8, reduceTo256}, {16, 4, reduceTo16}, {2, 1, reduceTo2}}};
+constexpr std::array<Depth, 3> kDepths{{{256, 8, ditherToOptimal}, {16, 4, ditherToStandard}, {2, 1, ditherToMono}}};
 
 }  // namespace
+
+Surface composedForBitmap(const EditState& state, Color ground) {
+  Surface look = composedIcon(state.picImage, state.picMask);
+  const auto container = static_cast<std::size_t>(state.mCurContainer);
+  if (AlphaRecIsReady(state)) composeAlpha(state.picMask, state.picImage, state.mAlphaRecs.at(container), look);
+  for (int y = 0; y < look.height(); ++y)
+    for (int x = 0; x < look.width(); ++x)
+      if (look.GetPixel(x, y) == kGround && state.picMask.GetPixel(x, y) == kWhite) look.SetPixelV(x, y, ground);
+  return look;
+}
 
 bool saveByColors(const Surface& picture, const std::string& path) {
   int colors = 0;

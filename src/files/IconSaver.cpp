@@ -1,6 +1,5 @@
 #include "files/IconSaver.h"
 
-#include "document/AlphaCompositing.h"
 #include "document/Containers.h"
 #include "document/Hourglass.h"
 #include "document/Messages.h"
@@ -9,7 +8,6 @@
 #include "files/IconMessages.h"
 #include "files/IconWriter.h"
 #include "platform/files/Files.h"
-#include "platform/gdi/SurfaceOps.h"
 #include "platform/text/Paths.h"
 #include "platform/text/Utf8.h"
 
@@ -248,24 +246,9 @@ void IconSaver::saveCursorTo(const std::string& path, bool& ok) {
 
 // Bitmaps.
 
-// Transparent pixels take the current colour. They are told from real silver by the Mask.
-void IconSaver::composeForBitmap() {
-  Surface& target = state_.picTemp;
-  MakeSameSize(state_.PicIcon, target);
-  BitbltPic(state_.PicIcon, target);
-  if (AlphaRecIsReady(state_))
-    composeAlpha(state_.picMask, state_.picImage, state_.mAlphaRecs.at(static_cast<std::size_t>(state_.mCurContainer)),
-                 target);
-  for (int y = 0; y < target.height(); ++y)
-    for (int x = 0; x < target.width(); ++x)
-      if (target.GetPixel(x, y) == kGround && state_.picMask.GetPixel(x, y) == kWhite)
-        target.SetPixelV(x, y, state_.mCurrentColor);
-  target.makePersistent();
-}
-
 void IconSaver::saveBitmapTo(const std::string& path, bool& ok) {
-  composeForBitmap();
-  SaveBitmap(state_.picTemp, path, ok);
+  // Transparent pixels take the current colour.
+  SaveBitmap(composedForBitmap(state_, state_.mCurrentColor), path, ok);
   context_.editor.UpdatePanelFromCurrent();
 }
 

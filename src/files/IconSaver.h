@@ -57,7 +57,6 @@ class IconSaver {
   void saveCursorTo(const std::string& path, bool& ok);
   void saveBitmapTo(const std::string& path, bool& ok);
   void saveMaskTo(const std::string& path, bool& ok);
-  void composeForBitmap();
 
   FilesContext context_;
   EditState& state_;

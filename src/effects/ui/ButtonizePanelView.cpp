@@ -15,6 +15,7 @@ ButtonizePanelView::ButtonizePanelView(QWidget* parent, ButtonizePanel& panel)
   connect(cboButtonizePattern_, &QComboBox::activated, this, [this](int index) { panel_.pickPattern(index); });
   addLabel("lblButtonizePattern", "&Style:", cboButtonizePattern_);
   rows()->addWidget(cboButtonizePattern_);
+  rows()->addStretch(1);
   addSamples({{"picButtonize", "Sample", panel_.picButtonize()}});
   setFocusProxy(cboButtonizePattern_);
   refresh();

@@ -20,6 +20,8 @@ ConfinePanelView::ConfinePanelView(QWidget* parent, ConfinePanel& panel)
   lblRun_ = addLabel("lblConfineColors(1)", "");
   addMethods();
   addThreshold();
+  // Below the room that the threshold leaves, so that it stays in its place.
+  rows()->addStretch(1);
   addLabel("lblConfineColors(3)", "(Remarks: Undo will not be available)");
   addSamples({{"picConfineColors(0)", "Image", panel_.picture().image},
               {"picConfineColors(1)", "Mask", panel_.picture().mask}});

@@ -39,7 +39,6 @@ QLabel* EffectPanelView::addLabel(const QString& objectName, const QString& capt
 }
 
 std::vector<QLabel*> EffectPanelView::addSamples(const std::vector<SampleRow>& samples) {
-  rows()->addStretch(1);
   auto* row = new QHBoxLayout;
   row->setSpacing(kGap);
   std::vector<QLabel*> labels;

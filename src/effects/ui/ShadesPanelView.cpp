@@ -18,6 +18,7 @@ constexpr const char* kUseSelectedColor = "&Use currently selected color\n(other
 ShadesPanelView::ShadesPanelView(QWidget* parent, ShadesPanel& panel)
     : EffectPanelView(parent, panel), panel_(panel), ckbUseSelectedColor_(makeUseSelectedColor()) {
   rows()->addWidget(ckbUseSelectedColor_);
+  rows()->addStretch(1);
   lblEffectsSample_ = addSamples({{"picEffectsSample", "Sample", panel_.picEffectsSample()}}).front();
   lblEffectsSample_->setObjectName("lblEffectsSample");
   refresh();
