@@ -115,6 +115,21 @@ TEST(QtMessageBoxes, ABoxStandsOverTheActiveWindow) {
   EXPECT_TRUE(QtMessageBoxes().ask("Continue?"));
 }
 
+TEST(QtMessageBoxes, TheWindowBeneathIsActiveAgainAfterTwoThatClosedAtOnce) {
+  QWidget form;
+  form.show();
+  QApplication::setActiveWindow(&form);
+  whenShown<QMessageBox>([](QMessageBox& below) {
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+      below.done(QMessageBox::Ok);
+      box.done(QMessageBox::Ok);
+    });
+    QtMessageBoxes().tell("second");
+  });
+  QtMessageBoxes().tell("first");
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+}
+
 // ---- File dialogs
 
 std::string noFolder(const std::string&, const std::string&) { return {}; }

@@ -83,13 +83,15 @@ void QtFileDialogs::prepareSave(QFileDialog& dialog, const FileDialogRequest& re
 }
 
 bool QtFileDialogs::openFile(const FileDialogRequest& request, std::string& path, int& error) {
-  QFileDialog dialog(dialogOwner());
+  const DialogOwner owner;
+  QFileDialog dialog(owner.window());
   prepareOpen(dialog, request);
   return run(dialog, path, error);
 }
 
 bool QtFileDialogs::saveFile(const FileDialogRequest& request, std::string& path, int& error) {
-  QFileDialog dialog(dialogOwner());
+  const DialogOwner owner;
+  QFileDialog dialog(owner.window());
   prepareSave(dialog, request);
   bool chosen = run(dialog, path, error);
   while (chosen && !mayReplace(dialog, request, path)) chosen = run(dialog, path, error);
@@ -97,7 +99,8 @@ bool QtFileDialogs::saveFile(const FileDialogRequest& request, std::string& path
 }
 
 bool QtFileDialogs::chooseColor(Color& color) {
-  QColorDialog dialog(QColor(redOf(color), greenOf(color), blueOf(color)), dialogOwner());
+  const DialogOwner owner;
+  QColorDialog dialog(QColor(redOf(color), greenOf(color), blueOf(color)), owner.window());
   dialog.setOption(QColorDialog::DontUseNativeDialog);
   for (int i = 0; i < kCustomColors; ++i) QColorDialog::setCustomColor(i, Qt::white);
   if (dialog.exec() != QDialog::Accepted) return false;
@@ -109,7 +112,8 @@ bool QtFileDialogs::chooseColor(Color& color) {
 bool QtFileDialogs::choosePrinter(PrinterRequest& request) {
   auto printer = std::make_unique<QPrinter>();
   printer->setCopyCount(request.copies);
-  QPrintDialog dialog(printer.get(), dialogOwner());
+  const DialogOwner owner;
+  QPrintDialog dialog(printer.get(), owner.window());
   dialog.setOption(QPrintDialog::PrintSelection, false);
   dialog.setOption(QPrintDialog::PrintPageRange, request.flags & kPrintPageNumbers);
   if (dialog.exec() != QDialog::Accepted) return false;

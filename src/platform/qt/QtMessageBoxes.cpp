@@ -83,7 +83,8 @@ void QtMessageBoxes::prepare(QMessageBox& box, const std::string& text, BoxButto
 }
 
 BoxAnswer QtMessageBoxes::show(const std::string& text, BoxButtons buttons, BoxIcon icon, BoxAnswer suggested) {
-  QMessageBox box(dialogOwner());
+  const DialogOwner owner;
+  QMessageBox box(owner.window());
   prepare(box, text, buttons, icon, suggested);
   return answerOf(box.exec(), buttons);
 }
