@@ -5,6 +5,7 @@
 #include "document/Containers.h"
 #include "files/ColorCount.h"
 #include "palette/DitheredReduction.h"
+#include "palette/MonoDiffusion.h"
 #include "palette/clsGPPalSave.h"
 #include "platform/files/BitmapFile.h"
 
@@ -24,7 +25,12 @@ struct Depth {
 
 void ditherToMono(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither) {
   palette.CreatePalette2();
-  dither.DitherToBlackAndWhite(dib, kMonoDivisor);
+  // Under a threshold of 0 all would become white: a picture with hardly a white pixel, as the Mask of an opaque icon
+  // is.
+  if (meanBrightness(dib) == 0)
+    dither.TakeBlackAndWhite(dib);
+  else
+    dither.DitherToBlackAndWhite(dib, kMonoDivisor);
 }
 
 constexpr std::array<Depth, 3> kDepths{{{256, 8, ditherToOptimal}, {16, 4, ditherToStandard}, {2, 1, ditherToMono}}};

@@ -26,12 +26,6 @@ constexpr int kOrderedStep = 16;
 
 int brightnessOf(DibPixel pixel) { return (pixel.blue + pixel.green + pixel.red) / kChannels; }
 
-int meanBrightness(const clsGPDIB& dib) {
-  std::int64_t sum = 0;
-  for (const DibPixel pixel : dib.DIBBitsPtr()) sum += brightnessOf(pixel);
-  return static_cast<int>(sum / (std::int64_t{dib.DIBWidth()} * dib.DIBHeight()));
-}
-
 DibPixel mono(bool light) {
   const std::uint8_t level = light ? kLight : kDark;
   return {level, level, level, 0};
@@ -79,6 +73,12 @@ class ErrorRows {
 
 const DiffusionKernel kStucki{kStuckiShares, 42, 1};
 const DiffusionKernel kBurkes{kBurkesShares, 32, 0};
+
+int meanBrightness(const clsGPDIB& dib) {
+  std::int64_t sum = 0;
+  for (const DibPixel pixel : dib.DIBBitsPtr()) sum += brightnessOf(pixel);
+  return static_cast<int>(sum / (std::int64_t{dib.DIBWidth()} * dib.DIBHeight()));
+}
 
 void diffuseToMono(clsGPDIB& dib, const DiffusionKernel& kernel, int damping) {
   if (dib.isEmpty()) return;

@@ -22,6 +22,10 @@ struct DiffusionKernel {
 extern const DiffusionKernel kStucki;
 extern const DiffusionKernel kBurkes;
 
+// The mean over all pixels of a third of their channels' sum, without its fraction: the threshold of both diffusions.
+// The bitmap must not be empty.
+int meanBrightness(const clsGPDIB& dib);
+
 // Channels become all 0 or all 255. `damping` is what an error is divided by after being taken times ten; not 0.
 void diffuseToMono(clsGPDIB& dib, const DiffusionKernel& kernel, int damping);
 

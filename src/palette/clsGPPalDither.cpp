@@ -112,11 +112,16 @@ void clsGPPalDither::ditherToPalette(clsGPDIB& dib, const clsGPPal& palette, int
 
 void clsGPPalDither::DitherToBlackAndWhite(clsGPDIB& dib, int divisor) {
   if (dib.isEmpty()) return;
-  InitializePalID(dib.DIBWidth(), dib.DIBHeight(), 1);
   diffuseToMono(dib, kStucki, divisor);
+  TakeBlackAndWhite(dib);
+}
+
+void clsGPPalDither::TakeBlackAndWhite(const clsGPDIB& dib) {
+  InitializePalID(dib.DIBWidth(), dib.DIBHeight(), 1);
   std::vector<std::uint8_t> indices(static_cast<std::size_t>(dib.DIBWidth()));
   for (int y = 0; y < dib.DIBHeight(); ++y) {
-    std::ranges::transform(dib.row(y), indices.begin(), [](DibPixel pixel) { return pixel.red != 0 ? 1 : 0; });
+    std::ranges::transform(dib.row(y), indices.begin(),
+                           [](DibPixel pixel) { return colorOf(pixel) != kBlack ? 1 : 0; });
     storeRow(y, 1, indices);
   }
 }

@@ -21,6 +21,8 @@ class clsGPPalDither {
   // Black and white by Stucki's kernel on the mean brightness. Errors are spread by 10 / divisor of their size; the
   // divisor must not be 0.
   void DitherToBlackAndWhite(clsGPDIB& dib, int divisor);
+  // The rows of a bitmap that is black and white already; other colours count as white. The bitmap stays.
+  void TakeBlackAndWhite(const clsGPDIB& dib);
   // Floyd and Steinberg's kernel. A palette of no entry, or of more than 16 or 256, is refused: nothing happens.
   void DitherToPalette16(clsGPDIB& dib, const clsGPPal& palette);
   void DitherToPalette256(clsGPDIB& dib, const clsGPPal& palette);

@@ -301,6 +301,21 @@ TEST_F(IconSaverTest, SaveMaskWritesTheMask) {
   EXPECT_EQ(bitmapPixel(folder.path("m.bmp"), 1, 0), kBlack);
 }
 
+TEST_F(IconSaverTest, TheMaskOfAnIconWithHardlyATransparentPixelIsSavedAsItIs) {
+  given(entryOf(anyPicture(32, 4)));
+  state.picMask.fill(kBlack);
+  bool ok = false;
+  for (const auto& corners : {std::vector<int>{}, {0, 31}}) {
+    for (const int x : corners)
+      for (const int y : corners) state.picMask.SetPixelV(x, y, kWhite);
+    saver.SaveBitmap(state.picMask, folder.path("m.bmp"), ok);
+    ASSERT_TRUE(ok);
+    for (int y = 0; y < 32; ++y)
+      for (int x = 0; x < 32; ++x)
+        ASSERT_EQ(bitmapPixel(folder.path("m.bmp"), x, y), state.picMask.GetPixel(x, y)) << x << ", " << y;
+  }
+}
+
 TEST_F(IconSaverTest, ABitmapThatCannotBeWrittenIsTold) {
   given(entryOf(anyPicture(16, 4)));
   dialogs.paths = {folder.path("no/such.bmp")};
