@@ -4,6 +4,7 @@
 #include "colour/PaletteFile.h"
 #include "colour/ui/MixGradientView.h"
 #include "colour/ui/MixSwatch.h"
+#include "document/ui/Lists.h"
 #include "platform/qt/Accessibility.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/PictureButton.h"
@@ -134,13 +135,9 @@ QWidget* ColorMixerView::makeButtons() {
             [=, this] { mixer_.cmdAdjMix(static_cast<MixChange>(index)), refresh(); });
     layout->addWidget(button);
   }
-  cboIntervalColor_ = new QComboBox(row);
-  cboIntervalColor_->setObjectName("cboIntervalColor");
-  cboIntervalColor_->setAccessibleName("Interval value for darken/lighten");
+  cboIntervalColor_ = makeUnlabelledList(row, "cboIntervalColor", "Interval value for darken/lighten");
   cboIntervalColor_->setToolTip("Interval value for darken/lighten");
   cboIntervalColor_->setFixedHeight(kButtonSide);
-  for (int interval = kFirstInterval; interval <= kLastInterval; ++interval)
-    cboIntervalColor_->addItem(QString::number(interval));
   connect(cboIntervalColor_, &QComboBox::currentIndexChanged, this,
           [this](int index) { mixer_.cboIntervalColor(index); });
   layout->addWidget(cboIntervalColor_, 1);

@@ -5,6 +5,7 @@
 #include "colour/ui/ColorMixerView.h"
 #include "colour/ui/DirectEntryView.h"
 #include "document/EditState.h"
+#include "document/ui/Lists.h"
 #include "document/ui/SurfacePainting.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/CaptionFrame.h"
@@ -22,7 +23,6 @@
 namespace gp {
 namespace {
 
-constexpr int kBrushSizes = 6;
 constexpr int kFrameGap = 8;
 constexpr int kButtonSide = 28;
 constexpr int kSwatchWidth = 64;
@@ -156,11 +156,8 @@ QWidget* ColorPanel::makeScreenColorFrame() {
 
 QWidget* ColorPanel::makeBrushFrame() {
   CaptionFrame* frame = makeFrame(this, kBrushFrame);
-  cboBrushSize_ = new QComboBox(frame);
-  cboBrushSize_->setObjectName("cboBrushSize");
-  cboBrushSize_->setAccessibleName("Brush");
+  cboBrushSize_ = makeUnlabelledList(frame, "cboBrushSize", "Brush");
   cboBrushSize_->setFixedHeight(kSwatchHeight);
-  for (int size = 1; size <= kBrushSizes; ++size) cboBrushSize_->addItem(QString::number(size));
   connect(cboBrushSize_, &QComboBox::activated, this, &ColorPanel::brushChosen);
   return framed(frame, cboBrushSize_);
 }

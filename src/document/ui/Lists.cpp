@@ -4,7 +4,7 @@
 #include "platform/qt/PathText.h"
 
 #include <QComboBox>
-#include <QListView>
+#include <QLabel>
 
 namespace gp {
 namespace {
@@ -18,10 +18,18 @@ QComboBox* makeList(QWidget* parent, const QString& objectName, const QString& a
   combo->setObjectName(objectName);
   combo->setAccessibleName(accessibleName);
   combo->setMaxVisibleItems(kVisibleItems);
-  if (auto* view = qobject_cast<QListView*>(combo->view())) view->setUniformItemSizes(true);
   const FilledList list = fillList(objectName.toStdString());
   for (const std::string& entry : list.entries) combo->addItem(toText(entry));
   combo->setCurrentIndex(list.first);
+  return combo;
+}
+
+// A list's own name is the entry it shows; what it is for is told by its label alone.
+QComboBox* makeUnlabelledList(QWidget* parent, const QString& objectName, const QString& accessibleName) {
+  QComboBox* combo = makeList(parent, objectName, accessibleName);
+  auto* label = new QLabel(accessibleName, parent);
+  label->setBuddy(combo);
+  label->hide();
   return combo;
 }
 

@@ -11,4 +11,7 @@ namespace gp {
 // A list that may be picked from, with the entries that the tables give it by its objectName.
 QComboBox* makeList(QWidget* parent, const QString& objectName, const QString& accessibleName);
 
+// The same where no label stands beside it: screen readers find its name in a label that is not shown.
+QComboBox* makeUnlabelledList(QWidget* parent, const QString& objectName, const QString& accessibleName);
+
 }  // namespace gp

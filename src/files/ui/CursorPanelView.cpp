@@ -1,6 +1,7 @@
 #include "files/ui/CursorPanelView.h"
 
 #include "document/PanelNumbers.h"
+#include "document/ui/Lists.h"
 #include "files/CursorFiles.h"
 
 #include <QComboBox>
@@ -46,10 +47,8 @@ QGridLayout* CursorPanelView::makeLists() {
 }
 
 void CursorPanelView::addList(QGridLayout* grid, int index, const QString& caption, const QString& name) {
-  auto* list = cboCursorHotSpot_[static_cast<std::size_t>(index)] = new QComboBox(this);
-  list->setObjectName(QString("cboCursorHotSpot(%1)").arg(index));
-  list->setAccessibleName(name);
-  for (int value = 0; value < kCursorSide; ++value) list->addItem(QString::number(value));
+  auto* list = cboCursorHotSpot_[static_cast<std::size_t>(index)] =
+      makeList(this, QString("cboCursorHotSpot(%1)").arg(index), name);
   connect(list, &QComboBox::activated, this,
           [this, index](int value) { index == 0 ? cursors_.setHotspotX(value) : cursors_.setHotspotY(value); });
   auto* label = new QLabel(caption, this);
