@@ -57,10 +57,7 @@ int parseSettings(const Effect& effect, const std::string& color, const std::str
 int makeEffect(const Effect& effect, const EffectSettings& settings, const ImageArguments& told) {
   EditState state;
   if (!loadImageForEffect(told, state)) return kRefused;
-  IconPicture made = effect.make(state.picImage, state.picMask, settings);
-  state.picImage = std::move(made.image);
-  state.picMask = std::move(made.mask);
-  return writeIcon(state, told.output);
+  return writeIcon(state, effect.make(state.picImage, state.picMask, settings), told.output);
 }
 
 }  // namespace

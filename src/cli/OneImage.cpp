@@ -4,6 +4,8 @@
 #include "effects/EffectTexts.h"
 #include "files/IconWriter.h"
 
+#include <utility>
+
 namespace gp::cli {
 namespace {
 
@@ -45,6 +47,12 @@ int answerToWriting(bool isWritten, const std::string& output) {
 
 int writeIcon(const EditState& state, const std::string& output) {
   return answerToWriting(writeCurrentIcon(state, output), output);
+}
+
+int writeIcon(EditState& state, IconPicture made, const std::string& output) {
+  state.picImage = std::move(made.image);
+  state.picMask = std::move(made.mask);
+  return writeIcon(state, output);
 }
 
 }  // namespace gp::cli

@@ -4,6 +4,7 @@
 
 #include "cli/Console.h"
 #include "document/EditState.h"
+#include "effects/IconPicture.h"
 
 #include <cstddef>
 #include <string>
@@ -31,5 +32,7 @@ int takeImageArguments(const std::string& command, const std::string& needed, co
 int answerToWriting(bool isWritten, const std::string& output);
 // Writes the Current Icon as the editor saves it. Gives the exit status.
 int writeIcon(const EditState& state, const std::string& output);
+// The same with the pictures that an effect has made of it.
+int writeIcon(EditState& state, IconPicture made, const std::string& output);
 
 }  // namespace gp::cli

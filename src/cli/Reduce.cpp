@@ -55,10 +55,7 @@ bool hasFewColors(const EditState& state, int most, const std::string& path) {
 int reduceTo(const Method& method, const ReductionSettings& settings, const ImageArguments& told) {
   EditState state;
   if (!loadImageForEffect(told, state) || hasFewColors(state, method.colors, told.input)) return kRefused;
-  IconPicture reduced = reduceColors(state.picImage, state.picMask, settings);
-  state.picImage = std::move(reduced.image);
-  state.picMask = std::move(reduced.mask);
-  return writeIcon(state, told.output);
+  return writeIcon(state, reduceColors(state.picImage, state.picMask, settings), told.output);
 }
 
 }  // namespace
