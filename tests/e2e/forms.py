@@ -36,10 +36,13 @@ class Desk:
         return next((dialog for dialog in self.program.dialogs() if dialog.name == title), None)
 
     def waitForForm(self, title):
-        return self.program.wait(lambda: self.form(title), f'the form "{title}"')
+        form = self.program.wait(lambda: self.form(title), f'the form "{title}"')
+        self.program.waitForKeys()
+        return form
 
     def waitForNoForm(self, title):
         self.program.wait(lambda: not self.form(title), f'the form "{title}" to close')
+        self.program.waitForKeys()
 
     def nameless(self):
         """What on the open form, or on the open Panel, has no name."""
@@ -47,7 +50,7 @@ class Desk:
 
     def openIcons(self, path):
         """Opens a file of several icons: its browser comes."""
-        self.session.keys('ctrl+o')
+        self.program.command('ctrl+o')
         self.program.chooseFile(path)
         return self.waitForForm(EDIT_FACE)
 
@@ -57,7 +60,7 @@ class Desk:
 
     def openFile(self, path):
         """Opens a file of one icon."""
-        self.session.keys('ctrl+o')
+        self.program.command('ctrl+o')
         self.program.answerFileDialog(path)
 
     def openCursor(self, path):
@@ -86,7 +89,13 @@ class Desk:
     def choose(self, name, item):
         """Opens a drop-down list by mouse and picks the item, counted from 0, by the keys."""
         self.program.press(name, role='combo box')
+        self.program.wait(lambda: self.dropDown(name), f'the list of "{name}" to drop down')
         self.session.keys('Home', *['Down'] * item, 'Return')
+        self.program.wait(lambda: not self.dropDown(name), f'the list of "{name}" to close')
+
+    def dropDown(self, name):
+        """The list that has dropped down, None without one."""
+        return self.program.find('', role='list', under=self.program.need(name, role='combo box'))
 
     def held(self, name):
         """What a drop-down list shows."""
@@ -130,8 +139,7 @@ class Desk:
 
     def waitForPixel(self, x, y, size, color):
         """Until the Editing Area shows that colour."""
-        point = self.program.pixelPoint(x, y, size)
-        self.program.wait(lambda: self.session.colorAt(point) == color, f'pixel {x}, {y} in {color}')
+        self.program.wait(lambda: self.session.colorAt(self.program.pixelPoint(x, y, size)) == color, f'pixel {x}, {y} in {color}')
 
     def waitForRest(self, x, y, size):
         """Until a pixel blinks no more; its colour."""

@@ -4,11 +4,14 @@ import time
 
 import pyatspi
 
-START_SECONDS = 30
-WAIT_SECONDS = 10
+# Long, for busy machines: waiting costs nothing where it succeeds.
+START_SECONDS = 60
+WAIT_SECONDS = 30
+ANSWER_MS = 10000  # for one question over the accessibility bus
 POLL_SECONDS = 0.1
 STILL_POLLS = 4
 DIALOG_ROLES = ('dialog', 'alert', 'file chooser', 'message box')
+FILE_FIELD, BOX_TITLE = 'File name:', 'Glimmerpane'
 TEXT_ROLES = ('label', 'static', 'text')
 SMALLEST_MAIN_FORM = (780, 540)  # the start-up picture and boxes are smaller
 DEEPEST = 40
@@ -31,29 +34,45 @@ def spokenName(control):
     return plain(control.name)
 
 
+pyatspi.setTimeout(ANSWER_MS, START_SECONDS * 1000)
+
+
 class Program:
     def __init__(self, session, process):
         self.session, self.process = session, process
 
     # Waiting ---------------------------------------------------------------------------------------------------------
 
-    def wait(self, question, what, seconds=WAIT_SECONDS):
+    def wait(self, question, what, seconds=WAIT_SECONDS, poll=POLL_SECONDS):
         """The first true answer of `question`; an AssertionError that names `what` when there is none in time."""
         end = time.monotonic() + seconds
-        while time.monotonic() < end:
+        problem = None
+        while True:
+            asked = time.monotonic()
             try:
                 answer = question()
-            except Exception:  # a control that vanished while it was being read
-                answer = None
+            except Exception as vanished:  # a control that was there before
+                answer, problem = None, vanished
             if answer:
                 return answer
-            time.sleep(POLL_SECONDS)
+            if asked > end:
+                break
+            # A question that takes long is asked less often, so that the program has a processor to itself.
+            time.sleep(max(poll, time.monotonic() - asked))
         if self.process.poll() is not None:
             raise AssertionError(f'waited for {what}, but the program has ended with {self.process.returncode}')
-        raise AssertionError(f'waited in vain for {what}')
+        raise AssertionError(f'waited in vain for {what}; {self.situation()}; last problem: {problem!r}')
+
+    def situation(self):
+        """Which windows there are and which of them takes keys: for the report of a failure."""
+        try:
+            windows = [f'{window.getRoleName()} {window.name!r}' + ' (active)' * self.isActive(window) for window in self.windows()]
+        except Exception as problem:
+            windows = repr(problem)
+        return f'windows: {windows}; focus settled: {self.session.isFocusSettled()}'
 
     def waitForMainForm(self):
-        """The main form, once the window manager has put it into its place and it takes keys."""
+        """The main form, once the window manager has put it into its place and it, or a dialog over it, takes keys."""
         self.wait(self.mainForm, 'the main form', START_SECONDS)
         places = []
 
@@ -62,9 +81,19 @@ class Program:
             return len(places) >= STILL_POLLS and len(set(places[-STILL_POLLS:])) == 1
 
         self.wait(stays, 'the main form to keep its place')
-        active = lambda: self.dialogs() or self.mainForm().getState().contains(pyatspi.STATE_ACTIVE)
-        self.wait(active, 'the main form to be active')
+        self.waitForKeys()
         return self.mainForm()
+
+    def formWithKeys(self):
+        """The form that takes keys: a dialog if there is one, else the main form. None while the window manager hands the
+        focus on and when it has left none of them active."""
+        if not self.session.isFocusSettled():
+            return None
+        return next((form for form in self.dialogs() or [self.mainForm()] if form and self.isActive(form)), None)
+
+    def waitForKeys(self):
+        """The form that takes keys, as soon as there is one; True when the program has ended."""
+        return self.wait(lambda: self.process.poll() is not None or self.formWithKeys(), 'a form that takes keys')
 
     def waitForEnd(self, seconds=WAIT_SECONDS):
         """The exit status."""
@@ -73,6 +102,7 @@ class Program:
     # Looking ---------------------------------------------------------------------------------------------------------
 
     def root(self):
+        """The program on the accessibility bus; a LookupError without it, as nothing could be told of its windows."""
         desktop = pyatspi.Registry.getDesktop(0)
         desktop.clear_cache()
         for index in range(desktop.childCount):
@@ -80,12 +110,10 @@ class Program:
             if application and application.get_process_id() == self.process.pid:
                 application.clear_cache()
                 return application
-        return None
+        raise LookupError('the program is not on the accessibility bus')
 
     def windows(self):
-        root = self.root()
-        children = [root.getChildAtIndex(i) for i in range(root.childCount)] if root else []
-        return [child for child in children if child and child.getState().contains(pyatspi.STATE_VISIBLE)]
+        return [child for child in self.children(self.root()) if child and child.getState().contains(pyatspi.STATE_VISIBLE)]
 
     def mainForm(self):
         for window in self.windows():
@@ -94,8 +122,14 @@ class Program:
                 return window
         return None
 
+    def isActive(self, window):
+        return window.getState().contains(pyatspi.STATE_ACTIVE)
+
     def isShown(self, control):
         return control.getState().contains(pyatspi.STATE_SHOWING)
+
+    def children(self, control):
+        return [control.getChildAtIndex(index) for index in range(control.childCount)]
 
     def walk(self, top):
         """What is shown of `top` and of everything in it, outer before inner. Items of a list that is hidden would tell
@@ -107,13 +141,13 @@ class Program:
                 continue
             yield control
             if depth < DEEPEST:
-                waiting += [(control.getChildAtIndex(i), depth + 1) for i in reversed(range(control.childCount))]
+                waiting += [(child, depth + 1) for child in reversed(self.children(control))]
 
     def find(self, name, role=None, under=None, startsWith=False):
         """The visible control of that name, None without one."""
         wanted = plain(name)
         # What is on top first: most of what is looked for is there.
-        for window in [under] if under else reversed(self.windows()):
+        for window in [under] if under else sorted(self.windows(), key=self.isActive, reverse=True):
             for control in self.walk(window):
                 if role and role != control.getRoleName():
                     continue
@@ -164,23 +198,86 @@ class Program:
     # Pressing --------------------------------------------------------------------------------------------------------
 
     def press(self, name, **how):
-        self.session.click(self.centre(self.need(name, **how)))
+        control = self.need(name, **how)
+        self.waitForKeys()
+        self.session.click(self.centre(control))
+
+    def keys(self, *names):
+        """Keys for the form on top."""
+        self.waitForKeys()
+        self.session.keys(*names)
+
+    def command(self, *names):
+        """Keys for the main form, over which no dialog stands."""
+        self.wait(lambda: not self.dialogs() and self.formWithKeys(), 'the main form to take keys')
+        self.session.keys(*names)
 
     def goTo(self, name, **how):
         """Tab until the control of that name has the focus."""
         control = self.need(name, **how)
+        form = self.waitForKeys()
         for _ in range(MOST_TAB_STOPS):
             if self.isFocused(control):
                 return
+            before = self.focusPlace(form)
             self.session.keys('Tab')
+            self.wait(lambda: self.focusPlace(form) != before, 'Tab to move the focus')
         raise AssertionError(f'Tab does not reach "{name}"')
+
+    def focusPlace(self, form):
+        """Role, name and place of what has the focus on a form."""
+        return [(control.getRoleName(), control.name, self.box(control)) for control in self.walk(form) if self.isFocused(control)]
+
+    def typeInto(self, name, text, role=None, becomes=None):
+        """Types into the field of that name, in place of what it holds, once it has the focus; waits until it holds the text
+        or what the text becomes."""
+        field = self.wait(lambda: self.focusedField(name, role), f'the field "{name}" to have the focus')
+        self.session.keys('ctrl+a')
+        self.session.type(text)
+        wanted = becomes or text
+        self.wait(lambda: field.queryText().getText(0, -1) == wanted, f'{wanted!r} in the field "{name}"')
+
+    def focusedField(self, name, role):
+        """The field of that name on the form on top, None as long as it has not the focus."""
+        form = self.formWithKeys()
+        field = form and self.find(name, role=role, under=form)
+        return field if field and self.isFocused(field) else None
+
+    # Menus -----------------------------------------------------------------------------------------------------------
+
+    def popUp(self, entry):
+        """The shown menu that an entry has opened, None without one."""
+        return next((child for child in self.children(entry) if child.getRoleName() == 'popup menu' and self.isShown(child)), None)
+
+    def openedMenus(self):
+        bars = [child for child in self.children(self.mainForm()) if child.getRoleName() == 'menu bar']
+        return [menu for bar in bars for entry in self.children(bar) if (menu := self.popUp(entry))]
+
+    def waitForNoMenu(self):
+        self.wait(lambda: self.process.poll() is not None or not self.openedMenus(), 'the menus to close')
+
+    def openMenu(self, caption, under=None):
+        """Clicks on an entry, given by its beginning, and waits for the menu behind it."""
+        entry = self.need(caption, under=under, startsWith=True, role='menu item')
+        self.session.click(self.centre(entry))
+        return self.wait(lambda: self.popUp(entry), f'the menu "{caption}"')
 
     def menu(self, *captions):
         """Walks from the menu bar to an entry; a caption may be given by its beginning."""
-        control = None
-        for caption in captions:
-            control = self.need(caption, under=control, startsWith=True, role='menu item')
-            self.session.click(self.centre(control))
+        self.waitForKeys()
+        menu = None
+        for caption in captions[:-1]:
+            menu = self.openMenu(caption, menu)
+        entry = self.need(captions[-1], under=menu, startsWith=True, role='menu item')
+        self.session.click(self.centre(entry))
+        self.waitForNoMenu()
+
+    def menuByKeys(self, opening, *names):
+        """Opens a menu of the main form by its access key, and presses keys in it."""
+        self.command(opening)
+        self.wait(self.openedMenus, f'the menu of {opening}')
+        self.session.keys(*names)
+        self.waitForNoMenu()
 
     # Dialogs ---------------------------------------------------------------------------------------------------------
 
@@ -188,10 +285,11 @@ class Program:
         return [window for window in self.windows() if window.getRoleName() in DIALOG_ROLES]
 
     def waitForDialog(self):
-        return self.wait(lambda: next(iter(self.dialogs()), None), 'a dialog')
+        """A dialog that takes keys."""
+        return self.wait(lambda: self.dialogs() and self.formWithKeys(), 'a dialog')
 
     def waitForNoDialog(self):
-        self.wait(lambda: not self.dialogs(), 'the dialogs to close')
+        self.wait(lambda: not self.dialogs() and self.formWithKeys(), 'the dialogs to close and the main form to take keys')
 
     def dialogText(self, dialog):
         return '\n'.join(control.name for control in self.walk(dialog) if control.getRoleName() in TEXT_ROLES and control.name)
@@ -204,27 +302,47 @@ class Program:
     def chooseFile(self, path, replace=False, before=lambda: None):
         """The same where other dialogs stay. `replace` agrees to lose a file of that name; `before` is done while the
         dialog is open."""
-        self.need('File name:', role='label')
-        time.sleep(2 * POLL_SECONDS)  # the field takes the focus after it is shown
+        self.waitForFileDialog()
         before()
-        self.session.keys('ctrl+a')
-        self.session.type(path)
+        self.typeInto(FILE_FIELD, path, role='text')
         self.session.keys('Return')
         if replace:
-            self.wait(lambda: any('already exists' in self.dialogText(dialog) for dialog in self.dialogs()), 'the question')
+            self.wait(lambda: 'already exists' in self.dialogText(self.formWithKeys()), 'the question')
             self.session.keys('alt+y')
-        self.wait(lambda: not self.find('File name:', role='label'), 'the file dialog to close')
+        self.waitForNoFileDialog()
+
+    def giveUpFile(self):
+        """Closes the file dialog that is about to open."""
+        self.waitForFileDialog()
+        self.session.keys('Escape')
+        self.waitForNoFileDialog()
+
+    def waitForFileDialog(self):
+        self.wait(lambda: self.focusedField(FILE_FIELD, 'text'), 'the file dialog')
+
+    def waitForNoFileDialog(self):
+        self.wait(lambda: not self.find(FILE_FIELD, role='label'), 'the file dialog to close')
+        self.waitForKeys()
 
     def messageBox(self):
-        """The message box on top, None without one."""
-        return next((dialog for dialog in self.dialogs() if dialog.name == 'Glimmerpane'), None)
+        """The message box that takes keys, None without one."""
+        form = self.formWithKeys()
+        return form if form and self.isBox(form) else None
+
+    def isBox(self, window):
+        return window.getRoleName() in DIALOG_ROLES and window.name == BOX_TITLE
 
     def answerBox(self, beginning, key='Return'):
         """Checks what a box tells, and answers it."""
         text = self.dialogText(self.wait(self.messageBox, f'the box "{beginning}"'))
         assert plain(text).startswith(plain(beginning)), f'{text!r} is not {beginning!r}'
         self.session.keys(key)
-        self.wait(lambda: not self.messageBox() or self.dialogText(self.messageBox()) != text, 'the box to close')
+        self.wait(lambda: not self.isTold(text), 'the box to close')
+        self.waitForKeys()
+
+    def isTold(self, text):
+        """Whether a box of that text is there."""
+        return any(self.isBox(window) and self.dialogText(window) == text for window in self.windows())
 
     # Editing Area ----------------------------------------------------------------------------------------------------
 

@@ -22,7 +22,7 @@ def reportFailure(session, picture):
     traceback.print_exc()
     try:
         os.makedirs(os.path.dirname(picture), exist_ok=True)
-        session.screenshot(picture)
+        session.picture().save(picture)
         print('The screen at that moment:', picture)
         print(session.output()[-4000:])
     except Exception as problem:

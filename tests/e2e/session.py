@@ -6,9 +6,12 @@ import subprocess
 import tempfile
 import time
 
+from PIL import ImageGrab
+
 SCREEN = '1280x1024x24'
 KEY_DELAY_MS = 12
-START_SECONDS = 15
+START_SECONDS = 60
+POLL_SECONDS = 0.1
 ACCESSIBILITY_BUS = '/usr/libexec/at-spi-bus-launcher'
 
 
@@ -17,7 +20,7 @@ def waitUntil(question, what):
     while not question():
         if time.monotonic() > end:
             raise RuntimeError(f'waited in vain for {what}')
-        time.sleep(0.05)
+        time.sleep(POLL_SECONDS)
 
 
 class Session:
@@ -59,7 +62,10 @@ class Session:
     def startServer(self):
         """Starts an X server and returns the number that it chose."""
         reading, writing = os.pipe()
-        server = subprocess.Popen(['Xvfb', '-displayfd', str(writing), '-screen', '0', self.screen, '-nolisten', 'tcp'],
+        # No auto-repeat (-r): on a busy machine a key is released late and would count as held down. No reset when the last
+        # program leaves: the first question for the window manager would throw it out while it starts.
+        server = subprocess.Popen(['Xvfb', '-r', '-noreset', '-displayfd', str(writing), '-screen', '0', self.screen,
+                                   '-nolisten', 'tcp'],
                                   pass_fds=[writing], stdout=self.log, stderr=self.log)
         self.processes.append(server)
         os.close(writing)
@@ -130,8 +136,15 @@ class Session:
         self.xdotool('mouseup', button)
         time.sleep(0.1)
 
+    def isFocusSettled(self):
+        """Whether the keys go to the window that the window manager has made the active one. They do not while it hands
+        the focus on."""
+        active, focused = (subprocess.run(['xdotool', which], capture_output=True, text=True).stdout.strip()
+                           for which in ('getactivewindow', 'getwindowfocus'))
+        return bool(active) and active == focused
+
     def keys(self, *names):
-        """Names as xdotool has them: "ctrl+s", "Return"."""
+        """Presses keys, wherever they go; names as xdotool has them: "ctrl+s", "Return"."""
         self.xdotool('key', '--delay', KEY_DELAY_MS, *names)
         time.sleep(0.1)
 
@@ -141,12 +154,10 @@ class Session:
 
     # Eyes ------------------------------------------------------------------------------------------------------------
 
-    def screenshot(self, path):
-        subprocess.run(['import', '-silent', '-window', 'root', 'png:' + path], check=True)
+    def picture(self):
+        """What is on the screen."""
+        return ImageGrab.grab(xdisplay=os.environ['DISPLAY'])
 
     def colorAt(self, point):
         """(red, green, blue) of a point of the screen."""
-        x, y = map(int, point)
-        done = subprocess.run(['import', '-silent', '-window', 'root', '-crop', f'1x1+{x}+{y}', '-depth', '8', 'rgb:-'],
-                              check=True, capture_output=True)
-        return tuple(done.stdout[:3])
+        return self.picture().convert('RGB').getpixel(tuple(map(int, point)))

@@ -1,6 +1,5 @@
 """Files that are none, and names that are unusual: each ends in its text, and the program goes on."""
 import os
-import time
 
 import icons
 
@@ -26,17 +25,11 @@ def peakBytes(process):
         return next(int(line.split()[1]) * 1024 for line in file if line.startswith('VmHWM'))
 
 
-def openAndReadBox(session, program, path):
-    session.keys('ctrl+o')
-    dialog = program.waitForDialog()
-    program.wait(lambda: program.find('File name:', under=dialog), 'the field for the file name')
-    time.sleep(0.3)
-    session.keys('ctrl+a')
-    session.type(path)
-    session.keys('Return')
-    box = program.wait(lambda: next((d for d in program.dialogs() if d.name == 'Glimmerpane'), None), 'the box')
-    text = program.dialogText(box)
-    session.keys('Return')
+def openAndReadBox(program, path):
+    program.command('ctrl+o')
+    program.chooseFile(path)
+    text = program.dialogText(program.wait(program.messageBox, 'the box'))
+    program.keys('Return')
     program.waitForNoDialog()
     return text
 
@@ -50,7 +43,7 @@ def test_files_that_are_no_icons_end_in_the_text_and_the_program_goes_on(session
     for name, content in bad.items():
         with open(session.path(name), 'wb') as file:
             file.write(content)
-        assert INVALID in openAndReadBox(session, program, session.path(name)), name
+        assert INVALID in openAndReadBox(program, session.path(name)), name
     assert program.value('Status 0') == session.path('good.ico')
 
 
@@ -60,7 +53,7 @@ def test_a_huge_file_costs_little_time_and_memory(session):
         file.truncate(GIGABYTE)
     program = session.start()
     before = processorSeconds(program.process)
-    session.keys('ctrl+o')
+    program.command('ctrl+o')
     program.chooseFile(session.path('huge.ico'))
     program.wait(lambda: program.dialogs() or program.value('Status 3'), 'an icon or a box')
     assert processorSeconds(program.process) - before < PROCESSOR_SECONDS + 1, 'the dialog itself takes some'
@@ -72,7 +65,7 @@ def test_a_pipe_named_on_the_command_line_does_not_hang(session):
     program = session.start(session.path('pipe.ico'), window=False)
     box = program.waitForDialog()
     assert 'File not found.' in program.dialogText(box)
-    session.keys('Return')
+    program.keys('Return')
     program.waitForNoDialog()
     assert program.mainForm()
 
@@ -85,7 +78,7 @@ def test_unusual_names_open_from_the_command_line(session):
             file.write(plainIcon(24))
         program = session.start(path)
         program.wait(lambda: program.value('Status 3') == '24 x 24', f'the icon {name!r}')
-        session.keys('alt+F4')
+        program.command('alt+F4')
         assert program.waitForEnd() == 0
 
 
@@ -98,12 +91,12 @@ def test_saving_to_a_read_only_file_tells_so_and_keeps_the_change(session):
     program.wait(lambda: program.value('Status 3') == '32 x 32', 'the icon')
     program.press('Erase')
     session.click(program.pixelPoint(3, 3, 32))
-    session.keys('ctrl+s')
+    program.command('ctrl+s')
     box = program.waitForDialog()
     assert program.dialogText(box).startswith('File is read-only'), program.dialogText(box)
-    session.keys('Return')
+    program.keys('Return')
     program.waitForNoDialog()
     with open(path, 'rb') as file:
         assert file.read() == plainIcon(32)
-    session.keys('alt+F4')
+    program.command('alt+F4')
     assert 'not saved yet' in program.dialogText(program.waitForDialog())

@@ -69,7 +69,7 @@ def replaceOneAndAddTheOther(copies, desk):
     desk.program.answerBox(ALPHA_REMINDER)
     desk.waitForIcon(48, first)
     assert copies.isUntouched(FIRST)
-    desk.session.keys('ctrl+t')
+    desk.program.command('ctrl+t')
     desk.program.answerBox('Reminder: The original icon file contains multiple icons.')
     desk.program.answerFileDialog(alone)
     desk.waitForIcon(48, alone)

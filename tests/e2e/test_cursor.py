@@ -7,7 +7,7 @@ from forms import HOTSPOT_X, HOTSPOT_Y, Desk, read, write
 
 SIZE = 32
 HOT_RED, HOT_WHITE = (255, 0, 0), (255, 255, 255)
-BLINK_SECONDS = 2
+BLINK_POLL_SECONDS = 0.02  # a phase is short
 PROCEED, SHOW = 'Proceed', 'Show hotspot'
 
 
@@ -30,8 +30,8 @@ def seesBlink(desk, x, y, start):
     before = desk.session.colorAt(point)
     assert before not in (HOT_RED, HOT_WHITE)
     start()
-    desk.program.wait(lambda: desk.session.colorAt(point) == HOT_RED, f'pixel {x}, {y} to turn red', BLINK_SECONDS)
-    desk.program.wait(lambda: desk.session.colorAt(point) == HOT_WHITE, f'pixel {x}, {y} to turn white', BLINK_SECONDS)
+    desk.program.wait(lambda: desk.session.colorAt(point) == HOT_RED, f'pixel {x}, {y} to turn red', poll=BLINK_POLL_SECONDS)
+    desk.program.wait(lambda: desk.session.colorAt(point) == HOT_WHITE, f'pixel {x}, {y} to turn white', poll=BLINK_POLL_SECONDS)
     assert desk.waitForRest(x, y, SIZE) == before
 
 
@@ -49,7 +49,7 @@ def test_a_cursor_is_saved_with_the_hot_spot_that_was_clicked_or_chosen(session)
     desk = Desk(session)
     desk.openCursor(opened)
     desk.waitForIcon(SIZE, opened)
-    seesBlink(desk, 12, 20, lambda: session.keys('ctrl+h'))
+    seesBlink(desk, 12, 20, lambda: desk.program.command('ctrl+h'))
     openPanel(desk)
     waitForHotspot(desk, 12, 20)
     assert not desk.nameless(), desk.nameless()
@@ -65,7 +65,7 @@ def test_a_cursor_is_saved_with_the_hot_spot_that_was_clicked_or_chosen(session)
     desk.choose(HOTSPOT_X, 3)
     desk.program.wait(lambda: desk.held(HOTSPOT_X) == '3', 'x to be chosen')
     desk.program.goTo(HOTSPOT_Y, role='combo box')
-    session.keys('End')
+    desk.program.keys('End')
     waitForHotspot(desk, 3, 31)
     seesBlink(desk, 3, 31, lambda: desk.program.press(SHOW))
     readers.assertCursor(saveCursor(desk, 'chosen.cur'), picture, 4, (3, 31))
@@ -98,8 +98,8 @@ def test_a_close_while_the_hot_spot_blinks_ends_the_program(session):
     desk.openCursor(write(session, 'hand.cur', icons.cursor(picture, 4, 12, 20)))
     desk.program.wait(lambda: desk.program.value('Status 3') == '32 x 32', 'the cursor')
     point = desk.program.pixelPoint(12, 20, SIZE)
-    session.keys('ctrl+h')
-    desk.program.wait(lambda: session.colorAt(point) in (HOT_RED, HOT_WHITE), 'the blinking', BLINK_SECONDS)
+    desk.program.command('ctrl+h')
+    desk.program.wait(lambda: session.colorAt(point) in (HOT_RED, HOT_WHITE), 'the blinking', poll=BLINK_POLL_SECONDS)
     session.keys('alt+F4')
     assert desk.program.waitForEnd() == 0
 
@@ -116,15 +116,16 @@ def test_what_is_no_cursor_of_this_kind_is_refused(session):
         desk.program.answerBox(path + ' Invalid cursor file')
     desk.openFile(write(session, 'small.ico', icons.icons((24, 4))))
     desk.program.wait(lambda: desk.program.value('Status 3') == '24 x 24', 'the icon')
-    desk.program.menu('File')
+    desk.program.openMenu('File')
     assert not desk.program.isEnabled(desk.program.need('Save As Cursor', startsWith=True, role='menu item'))
     session.keys('Escape', 'Escape')
+    desk.program.waitForNoMenu()
 
     desk.openFile(write(session, 'right.ico', icons.icons((SIZE, 4))))
     desk.program.wait(lambda: desk.program.value('Status 3') == '32 x 32', 'the icon')
     openPanel(desk)
     desk.program.goTo(HOTSPOT_X, role='combo box')
-    session.keys('Escape')
+    desk.program.keys('Escape')
     desk.program.wait(lambda: not desk.program.find(HOTSPOT_X, role='combo box'), 'the Panel to close')
     openPanel(desk)
     locked = write(session, 'locked.cur', b'')

@@ -3,8 +3,6 @@ tool is for; ovals alone come from the measured pictures in tests/data/gdi."""
 import math
 import os
 
-from PIL import Image
-
 import icons
 
 SIZE = 32
@@ -148,7 +146,6 @@ class Artist:
     def __init__(self, session, *arguments):
         self.session, self.program = session, session.start(*arguments)
         self.places = {}
-        self.sawPath = session.path('shown.png')
 
     def findEditingArea(self):
         self.program.wait(lambda: self.program.value('Status 3') == f'{SIZE} x {SIZE}', 'the icon')
@@ -183,7 +180,7 @@ class Artist:
         self.program.wait(shown, f'{name} to be the current colour')
 
     def chooseBrush(self, size):
-        self.session.keys('alt+b', str(size))
+        self.program.menuByKeys('alt+b', str(size))
 
     def click(self, x, y, held=None):
         self.drag([self.middle(x, y)], held)
@@ -220,10 +217,8 @@ class Artist:
         self.session.xdotool('mouseup', 1)
 
     def shown(self):
-        self.session.screenshot(self.sawPath)
-        with Image.open(self.sawPath) as screen:
-            pixels = screen.convert('RGB').load()
-            return mapped(lambda x, y: pixels[self.middle(x, y)])
+        pixels = self.session.picture().convert('RGB').load()
+        return mapped(lambda x, y: pixels[self.middle(x, y)])
 
     def expect(self, picture, what):
         """Until the Editing Area shows the picture."""
@@ -241,11 +236,11 @@ class Artist:
     def undoAllAndRedoAll(self, steps):
         """`steps` are the pictures from the baseline to now."""
         for number in range(len(steps) - 1, 0, -1):
-            self.session.keys('ctrl+z')
+            self.program.command('ctrl+z')
             self.expect(steps[number - 1], f'Undo of step {number}')
         self.program.wait(lambda: not self.program.isEnabled(self.program.need('Undo')), 'Undo to be dim')
         for number in range(1, len(steps)):
-            self.session.keys('ctrl+r')
+            self.program.command('ctrl+r')
             self.expect(steps[number], f'Redo of step {number}')
         self.program.wait(lambda: not self.program.isEnabled(self.program.need('Redo')), 'Redo to be dim')
 
@@ -253,12 +248,12 @@ class Artist:
         dialog = self.program.waitForDialog()
         text = self.program.dialogText(dialog)
         assert text.startswith(beginning), text
-        self.session.keys(key)
+        self.program.keys(key)
         self.program.waitForNoDialog()
 
     def saveAndCompare(self, name, picture):
         path = self.session.path(name)
-        self.session.keys('ctrl+t')
+        self.program.command('ctrl+t')
         self.program.answerFileDialog(path)
         self.program.wait(lambda: os.path.isfile(path), 'the saved file')
         for reader, read in icons.READERS.items():
@@ -279,9 +274,9 @@ def openPatchwork(session):
 
 def test_a_picture_that_uses_every_tool(session):
     artist = Artist(session)
-    session.keys('ctrl+n')
+    artist.program.command('ctrl+n')
     artist.findEditingArea()
-    session.keys('alt+p', '1')
+    artist.program.menuByKeys('alt+p', '1')
     picture = blank()
     steps = [copyOf(picture)]
 
@@ -370,15 +365,15 @@ def test_a_picture_that_uses_every_tool(session):
     artist.click(31, 31)
     picture[31][31] = COLOR['maroon']
     artist.expect(picture, 'a brush of 2 in the last corner')
-    session.keys('ctrl+z')
+    artist.program.command('ctrl+z')
     artist.expect(before, 'Undo of the step and of Restore before it')
-    session.keys('ctrl+r')
+    artist.program.command('ctrl+r')
     artist.expect(picture, 'both again')
 
-    session.keys('alt+p', '2')
-    session.keys('F3')
+    artist.program.menuByKeys('alt+p', '2')
+    artist.program.command('F3')
     artist.click(10, 2)
-    session.keys('F4')
+    artist.program.command('F4')
     artist.click(0, 30)
     box(picture, 0, 30, 1, 31, COLOR['green'])
     artist.expect(picture, 'Paint in the colour that was picked')
@@ -432,20 +427,20 @@ def test_a_picture_that_uses_every_region_command(session):
     merged('a region made wider and dragged', 4, 4)
 
     artist.mark(0, 0, 3, 3)
-    session.keys('ctrl+u')
+    artist.program.command('ctrl+u')
     box(picture, 0, 0, 3, 3, None)
     artist.expect(picture, 'a region erased')
     steps.append(copyOf(picture))
 
     artist.dragCorners(26, 25, 30, 27, held='shift')
-    session.keys('ctrl+x')
+    artist.program.command('ctrl+x')
     content = cutOut(picture, 26, 25, 29, 28)
     assert any(None in row for row in content) and any(any(row) for row in content)
     artist.expect(picture, 'a square region cut')
     steps.append(copyOf(picture))
     artist.undoAllAndRedoAll(steps)
 
-    session.keys('ctrl+v')
+    artist.program.command('ctrl+v')
     beneath = copyOf(picture)
     merge(picture, content, 0, 0)
     artist.expect(picture, 'the cut region pasted')
@@ -454,11 +449,11 @@ def test_a_picture_that_uses_every_region_command(session):
     merge(picture, content, 6, 20)
     merged('the pasted region dragged', 28, 4)
 
-    session.keys('ctrl+v')
+    artist.program.command('ctrl+v')
     pasted = copyOf(picture)
     merge(pasted, content, 0, 0)
     artist.expect(pasted, 'the region pasted again')
-    session.keys('ctrl+u')
+    artist.program.command('ctrl+u')
     artist.expect(picture, 'what lies beneath a floating region that is erased')
 
     artist.press('Paste opaque')
@@ -466,7 +461,7 @@ def test_a_picture_that_uses_every_region_command(session):
     merge(picture, content, 10, 1, opaque=True)
     merged('a region pasted opaque', 28, 28)
 
-    session.keys('ctrl+c')
+    artist.program.command('ctrl+c')
     artist.program.wait(lambda: artist.program.isEnabled(artist.program.need('Paste')), 'Paste to be possible')
     artist.program.menu('Edit', 'Clear Clipboard')
     artist.program.wait(lambda: not artist.program.isEnabled(artist.program.need('Paste')), 'Paste to be dim')
@@ -495,8 +490,7 @@ def test_a_picture_that_is_shifted_flipped_and_rotated(session):
 
     artist.program.menu('Rotate', 'Rotate At Any Selected Angle')
     artist.press('Angle')
-    session.keys('ctrl+a')
-    session.type('33')
+    artist.program.typeInto('Angle', '33')
     session.keys('Return')
     picture = rotated(picture, 33)
     artist.expect(picture, 'the picture rotated by 33 degrees')
@@ -505,7 +499,7 @@ def test_a_picture_that_is_shifted_flipped_and_rotated(session):
 
     artist.press('Set/unset shift image', *['Shift left'] * 3, *['Shift down right'] * 2)
     artist.expect(shifted(picture, -1, 2), 'the shifted picture')
-    session.keys('ctrl+z')
+    artist.program.command('ctrl+z')
     artist.expect(picture, 'Undo of all of Shift')
 
     artist.press('Set/unset shift image', *['Shift up'] * 5)

@@ -74,8 +74,8 @@ def test_painted_icon_saved_under_a_new_name_has_the_same_pixels_everywhere(sess
     assertReadersSee(saved, picture)
     assertReadersSee(session.path('before.ico'), checkerboard())
 
-    session.keys('ctrl+n')
-    session.keys('ctrl+o')
+    program.command('ctrl+n')
+    program.command('ctrl+o')
     program.answerFileDialog(saved)
     waitForPixel(program, 10, 12, RED)
     waitForPixel(program, 17, 20, NAVY)

@@ -11,25 +11,25 @@ def test_a_second_start_is_refused_and_the_first_goes_on(session):
     second = session.start(window=False)
     dialog = second.waitForDialog()
     assert second.dialogText(dialog).startswith(TELLS_SO), second.dialogText(dialog)
-    session.keys('Return')
+    second.keys('Return')
     assert second.waitForEnd() == 0
     assert first.mainForm()
 
 
 def test_closing_with_unsaved_work_asks_and_no_stays(session):
     program = session.start()
-    session.keys('ctrl+n')
+    program.command('ctrl+n')
     program.wait(lambda: program.value('Status 3') == '32 x 32', 'the new icon')
     session.click(program.pixelPoint(3, 3, 32))
-    session.keys('alt+F4')
+    program.command('alt+F4')
     dialog = program.waitForDialog()
     assert program.dialogText(dialog).startswith('The following is not saved yet:'), program.dialogText(dialog)
-    session.keys('alt+n')
+    program.keys('alt+n')
     program.waitForNoDialog()
     assert program.mainForm()
-    session.keys('alt+F4')
+    program.command('alt+F4')
     program.waitForDialog()
-    session.keys('alt+y')
+    program.keys('alt+y')
     assert program.waitForEnd() == 0
 
 
@@ -40,7 +40,7 @@ def test_settings_survive_and_what_is_foreign_in_the_file_stays(session):
         file.write('; kept by hand\n[Elsewhere]\nKey=Value\n')
     program = session.start()
     program.menu('Options', 'Prompt To Save On Icons Panel Switching')
-    session.keys('alt+F4')
+    program.command('alt+F4')
     program.waitForEnd()
     with open(settings, encoding='utf-8') as file:
         text = file.read()
@@ -54,8 +54,8 @@ def test_an_opened_file_stands_in_the_history_of_the_next_start(session):
         file.write(icons.icon16([[(0, 0, 255)] * 24 for _ in range(24)]))
     program = session.start(path)
     program.wait(lambda: program.value('Status 3') == '24 x 24', 'the icon')
-    session.keys('alt+F4')
+    program.command('alt+F4')
     program.waitForEnd()
     program = session.start()
-    session.keys('alt+f', '1')
+    program.menuByKeys('alt+f', '1')
     program.wait(lambda: program.value('Status 0') == path, 'the file of the history')
