@@ -36,10 +36,9 @@ bool takeOptions(Arguments& arguments, ReduceOptions& options) {
 
 // Null for a method that there is not, or not to so many colours.
 const Method* findMethod(const ReduceOptions& options) {
-  int colors = 0;
-  if (!parseNumber(options.to, colors)) return nullptr;
-  const auto found = std::ranges::find_if(
-      kMethods, [&](const Method& row) { return row.colors == colors && row.name == options.method; });
+  const auto found = std::ranges::find_if(kMethods, [&](const Method& row) {
+    return std::to_string(row.colors) == options.to && row.name == options.method;
+  });
   return found == kMethods.end() ? nullptr : &*found;
 }
 

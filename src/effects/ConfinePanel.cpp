@@ -44,6 +44,9 @@ void ConfinePanel::doConfineColors(int run) {
   frame().pump().pump();
 }
 
+// Another icon may have come up under the Panel.
+bool ConfinePanel::mayProceed() { return EffectPanel::mayProceed() && !hasFewColors(run_); }
+
 bool ConfinePanel::hasFewColors(int run) {
   const int colors = frame().editor().colorBitCountOfImage();
   if (colors <= 0 || colors > rowOf(run).colors) return false;
@@ -59,6 +62,7 @@ void ConfinePanel::offerToCorrectRecord(int colors) {
   if (!frame().boxes().ask("The header entry of current icon is 24-BPP True Color,  but the actual  image is of " +
                            number + "-color.    Proceed to change header entry?"))
     return;
+  // Both depths, as a save would write them; and so that a save is not forgotten, the icon counts as changed.
   IconContainerRec& record = frame().state().current();
   record.dirColors = record.bihColors = colors;
   record.bitCount = record.bihBitCount = static_cast<std::int16_t>(convBPP_Upto24(colors));

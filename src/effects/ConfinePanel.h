@@ -37,6 +37,7 @@ class ConfinePanel final : public EffectPanel {
 
  protected:
   IconPicture apply(const Surface& image, const Surface& mask) const override;
+  bool mayProceed() override;
   bool recordsUndo() const override { return false; }
 
  private:

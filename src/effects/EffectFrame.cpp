@@ -6,8 +6,8 @@
 #include "effects/EffectTexts.h"
 #include "platform/gdi/SurfaceOps.h"
 
-#include <algorithm>
-#include <vector>
+#include <cstdint>
+#include <set>
 
 namespace gp {
 
@@ -42,10 +42,9 @@ void EffectFrame::copyPanelAfterApply() {
 
 int EffectFrame::countMaskColors(const Surface& surface) {
   const Hourglass hourglass(state_, display_);
-  std::vector<Color> colors;
-  for (const std::uint32_t pixel : surface.pixels()) colors.push_back(static_cast<Color>(pixel & kColorBits));
-  std::ranges::sort(colors);
-  return static_cast<int>(std::ranges::unique(colors).begin() - colors.begin());
+  std::set<std::uint32_t> colors;
+  for (const std::uint32_t pixel : surface.pixels()) colors.insert(pixel & kColorBits);
+  return static_cast<int>(colors.size());
 }
 
 }  // namespace gp

@@ -25,7 +25,8 @@ class EffectFrame {
   // The same where picImage alone has been given its new pixels.
   void copyPanelAfterApply();
 
-  // How many colours a Surface has; 0 without pixels. A Mask of one colour is all painted or all transparent.
+  // How many colours a Surface has; 0 without pixels. Effects on the unpainted area ask it of the Mask, which is all
+  // painted or all transparent when it has one.
   int countMaskColors(const Surface& surface);
 
   EditState& state() const { return state_; }

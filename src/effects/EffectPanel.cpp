@@ -24,7 +24,7 @@ void EffectPanel::preview() {
 }
 
 void EffectPanel::proceed() {
-  if (!frame_.mayApply()) return;
+  if (!mayProceed()) return;
   EditState& state = frame_.state();
   Editor& editor = frame_.editor();
   {

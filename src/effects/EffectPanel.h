@@ -33,6 +33,8 @@ class EffectPanel {
 
  protected:
   virtual IconPicture apply(const Surface& image, const Surface& mask) const = 0;
+  // Whether the icon that is there now takes the effect; if not, says why.
+  virtual bool mayProceed() { return frame_.mayApply(); }
   virtual bool recordsUndo() const { return true; }
 
   // Brings the Panel up with its samples.

@@ -5,7 +5,6 @@
 #include "document/Containers.h"
 #include "files/ColorCount.h"
 #include "palette/DitheredReduction.h"
-#include "palette/MonoDiffusion.h"
 #include "palette/clsGPPalSave.h"
 #include "platform/files/BitmapFile.h"
 
@@ -15,23 +14,11 @@
 namespace gp {
 namespace {
 
-constexpr int kMonoDivisor = 15;
-
 struct Depth {
   int colors;
   int bits;
   void (*reduce)(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither);
 };
-
-void ditherToMono(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither) {
-  palette.CreatePalette2();
-  // Under a threshold of 0 all would become white: a picture with hardly a white pixel, as the Mask of an opaque icon
-  // is.
-  if (meanBrightness(dib) == 0)
-    dither.TakeBlackAndWhite(dib);
-  else
-    dither.DitherToBlackAndWhite(dib, kMonoDivisor);
-}
 
 constexpr std::array<Depth, 3> kDepths{{{256, 8, ditherToOptimal}, {16, 4, ditherToStandard}, {2, 1, ditherToMono}}};
 

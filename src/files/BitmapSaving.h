@@ -8,8 +8,8 @@
 
 namespace gp {
 
-// The look of the Current Icon for a bitmap, with a colour behind transparent pixels, which are told from real silver by
-// the Mask. Alpha values blend over the usual ground whatever that colour is.
+// The look of the Current Icon for a bitmap, with a colour behind transparent pixels, which are told from real silver
+// by the Mask. Alpha values blend over the usual ground whatever that colour is.
 Surface composedForBitmap(const EditState& state, Color ground);
 
 // Writes 1 bit a pixel for black and white, 4 for the sixteen standard colours, 8 for up to 256 colours and 24 for

@@ -2,6 +2,7 @@
 
 #include "platform/text/Numbers.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace gp {
@@ -45,7 +46,7 @@ constexpr auto kHalves = [] {
 
 }  // namespace
 
-ColorTree::ColorTree(int levels) : mTree(kFirstNodes + 1), mLevels(levels) {}
+ColorTree::ColorTree(int levels) : mTree(kFirstNodes + 1), mLevels(std::clamp(levels, 1, kMaxLevels)) {}
 
 void ColorTree::AddColor(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
   std::uint32_t halves = kHalves[red] | kHalves[green] << 1 | kHalves[blue] << 2;

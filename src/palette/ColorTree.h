@@ -20,7 +20,7 @@ struct ColorTreeNodeRec {
 
 class ColorTree {
  public:
-  // 1 to 8 levels.
+  // 1 to 8 levels; others are limited to these.
   explicit ColorTree(int levels);
 
   void AddColor(std::uint8_t red, std::uint8_t green, std::uint8_t blue);

@@ -1,5 +1,7 @@
 #include "palette/DitheredReduction.h"
 
+#include "palette/MonoDiffusion.h"
+
 namespace gp {
 namespace {
 
@@ -16,6 +18,15 @@ void ditherToOptimal(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither) {
 void ditherToStandard(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither) {
   palette.CreatePalette16();
   dither.DitherToPalette16(dib, palette);
+}
+
+void ditherToMono(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither) {
+  palette.CreatePalette2();
+  // The Mask of an opaque icon has hardly a white pixel: under a threshold of 0 all of it would become white.
+  if (meanBrightness(dib) == 0)
+    dither.TakeBlackAndWhite(dib);
+  else
+    dither.DitherToBlackAndWhite(dib, kMonoDamping);
 }
 
 }  // namespace gp

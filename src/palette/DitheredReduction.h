@@ -12,5 +12,7 @@ namespace gp {
 void ditherToOptimal(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither);
 // To the sixteen standard colours.
 void ditherToStandard(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither);
+// To black and white. A picture whose mean rounds to black is not dithered; what is not black in it counts as white.
+void ditherToMono(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither);
 
 }  // namespace gp

@@ -10,7 +10,6 @@ namespace {
 constexpr std::uint8_t kDark = 0;
 constexpr std::uint8_t kLight = 255;
 constexpr int kUndamped = 10;
-constexpr int kDamping = 15;  // two thirds of each error go on
 constexpr int kKernelRows = 3;
 constexpr int kChannels = 3;
 
@@ -75,6 +74,7 @@ const DiffusionKernel kStucki{kStuckiShares, 42, 1};
 const DiffusionKernel kBurkes{kBurkesShares, 32, 0};
 
 int meanBrightness(const clsGPDIB& dib) {
+  if (dib.isEmpty()) return 0;
   std::int64_t sum = 0;
   for (const DibPixel pixel : dib.DIBBitsPtr()) sum += brightnessOf(pixel);
   return static_cast<int>(sum / (std::int64_t{dib.DIBWidth()} * dib.DIBHeight()));
@@ -95,7 +95,7 @@ void diffuseToMono(clsGPDIB& dib, const DiffusionKernel& kernel, int damping) {
   }
 }
 
-void ditherWeighted(clsGPDIB& dib) { diffuseToMono(dib, kBurkes, kDamping); }
+void ditherWeighted(clsGPDIB& dib) { diffuseToMono(dib, kBurkes, kMonoDamping); }
 
 void ditherOrdered(clsGPDIB& dib) {
   for (int y = 0; y < dib.DIBHeight(); ++y) {

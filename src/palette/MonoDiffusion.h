@@ -22,8 +22,11 @@ struct DiffusionKernel {
 extern const DiffusionKernel kStucki;
 extern const DiffusionKernel kBurkes;
 
+// What the program spreads errors with: two thirds of each go on.
+inline constexpr int kMonoDamping = 15;
+
 // The mean over all pixels of a third of their channels' sum, without its fraction: the threshold of both diffusions.
-// The bitmap must not be empty.
+// 0 for an empty bitmap.
 int meanBrightness(const clsGPDIB& dib);
 
 // Channels become all 0 or all 255. `damping` is what an error is divided by after being taken times ten; not 0.

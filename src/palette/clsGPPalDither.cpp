@@ -71,8 +71,8 @@ void ditherRow(const TwoRows& rows, const ColorCube& cube, std::span<const DibPi
 }  // namespace
 
 void clsGPPalDither::InitializePalID(int width, int height, int bits) {
-  stride_ = dib::rowStride(width, bits);
-  rows_.assign(stride_ * static_cast<std::size_t>(height), 0);
+  stride_ = dib::rowStride(std::max(0, width), bits);
+  rows_.assign(stride_ * static_cast<std::size_t>(std::max(0, height)), 0);
 }
 
 // The leftmost pixel of a byte stands in its highest bits.

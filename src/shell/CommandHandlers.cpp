@@ -97,6 +97,8 @@ void chooseColorFrame(Shell& shell, int index) {
   using Choice = void (ColorSelection::*)();
   constexpr std::array<Choice, 3> kChoices = {&ColorSelection::imgGet16ColorChart, &ColorSelection::imgGet256ColorChart,
                                               &ColorSelection::imgGetDirectEntryColor};
+  // Under a side panel the frame would not be seen.
+  shell.closePanels();
   (shell.colors().*kChoices.at(static_cast<std::size_t>(index)))();
 }
 

@@ -1,6 +1,7 @@
 #include "shell/Shell.h"
 
 #include "document/Containers.h"
+#include "document/Hourglass.h"
 #include "files/ColorCount.h"
 #include "shell/PanelTable.h"
 
@@ -108,7 +109,12 @@ void Shell::recordUndo() { drawing_.history.recordUndo(); }
 void Shell::clearUndoHistory() { drawing_.history.clearUndoHistory(); }
 
 void Shell::showPanel(int panel) {
+  const Hourglass hourglass(state_, display_);
   if (panel != kCursorPanel) cursorFiles_.mark().cancel();
+  if (state_.screen.mActivePanel == kColorPanel && state_.screen.aniContainerVisible) {
+    state_.screen.aniContainerVisible = false;
+    RefreshStatusBar();
+  }
   state_.screen.mActivePanel = panel;
   drawing_.tools.clearAllTools();
   display_.changed(DisplayPart::Panel);

@@ -1,5 +1,6 @@
 // Effects in the whole program: what opens their Panels, what Proceed and Close do, and what a user may do while a
 // Panel is up.
+#include "document/ListTables.h"
 #include "document/PanelNumbers.h"
 #include "support/ShellFixture.h"
 
@@ -254,6 +255,57 @@ TEST_F(EffectCommandsTest, ARegionThatStandsEndsWithProceed) {
   EXPECT_EQ(at(4, 4), kGrey);
 }
 
+TEST_F(EffectCommandsTest, CommandsThatChangeTheIconOrShowAChartCloseThePanel) {
+  struct Case {
+    const char* control;
+    int index;
+  };
+  for (const Case& one : {Case{"mnuRotateSubmenu", 0},
+                          {"mnuRotateSubmenu", 1},
+                          {"mnuRotateSubmenu", 2},
+                          {"mnuRotateSubmenu", 3},
+                          {"mnuEditSub", kUndo},
+                          {"mnuEditSub", 13},
+                          {"mnuFileSub", kNewIcon32},
+                          {"mnuPaletteSub", 0},
+                          {"mnuPaletteSub", 1},
+                          {"mnuPaletteSub", 2}}) {
+    startWithNew();
+    set(3, 3, kRed);
+    shell.clearUndoHistory();
+    shell.recordUndo();
+    shell.recordUndo();
+    click("mnuEffectsSub", kEmbossed);
+    if (one.index == 13) boxes.expectAsked("Clear current icon from container.  Proceed?\n", BoxAnswer::Yes);
+    click(one.control, one.index);
+    EXPECT_EQ(panel(), kColorPanel) << one.control << one.index;
+    state.current().modified = state.current().neverSaved = false;
+  }
+}
+
+TEST_F(EffectCommandsTest, AnotherContainerClosesThePanel) {
+  startWithNew();
+  click("mnuEffectsSub", kEmbossed);
+  shell.SwitchContainer(3);
+  EXPECT_EQ(panel(), kColorPanel);
+}
+
+TEST_F(EffectCommandsTest, APanelThatComesUpTakesTheAnimatedCursorsPlace) {
+  startWithNew();
+  state.screen.aniContainerVisible = true;
+  state.screen.lblStatusPanel[static_cast<std::size_t>(StatusPanel::Path)] = "frames";
+  display.parts.clear();
+  shell.showPanel(kShadesPanel);
+  EXPECT_FALSE(state.screen.aniContainerVisible);
+  EXPECT_EQ(status(StatusPanel::Path), state.current().path.trimmed());
+  EXPECT_TRUE(display.told(DisplayPart::Pointer));
+  EXPECT_FALSE(state.screen.hourglass);
+  // Only where none was up before.
+  state.screen.aniContainerVisible = true;
+  shell.showPanel(kColorPanel);
+  EXPECT_TRUE(state.screen.aniContainerVisible);
+}
+
 // Relief.
 
 TEST_F(EffectCommandsTest, ThePanelOfReliefIsNamedAfterItsEffect) {
@@ -431,6 +483,42 @@ TEST_F(EffectCommandsTest, UnsavedChangesOfAnIconOfAMultiIconFileAreAskedAboutFi
   EXPECT_EQ(panel(), kConfinePanel);
 }
 
+TEST_F(EffectCommandsTest, AnsweringYesSavesFirstAndACancelledSaveKeepsThePanelAway) {
+  startWithNew();
+  paintManyColors();
+  state.current().fromMultiIconFile = state.current().modified = true;
+  const auto askToSave = [this](const std::string& path) {
+    boxes.expect("Save current icon to file?", BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Yes);
+    boxes.expectTold(
+        "Reminder:  The original icon file contains multiple icons.\n\n If you don't wish to overwrite it, save to a "
+        "different name.",
+        BoxIcon::Information);
+    dialogs.paths = {path};
+    click("mnuEffectsSub3", 0);
+  };
+  askToSave("");
+  EXPECT_EQ(panel(), kColorPanel);
+  EXPECT_TRUE(state.current().modified);
+  askToSave(folder.file("saved.ico"));
+  EXPECT_EQ(panel(), kConfinePanel);
+  EXPECT_FALSE(state.current().modified);
+}
+
+TEST_F(EffectCommandsTest, AnIconOfFewColorsThatCameUpUnderThePanelIsNotReduced) {
+  startWithNew();
+  paintManyColors();
+  click("mnuEffectsSub3", 2);
+  bool ok = false;
+  shell.doOpenIconFileQuietly(folder.write("other.ico", plainIconFile(16, 0)), ok);
+  ASSERT_TRUE(ok);
+  state.picImage.fill(kWhite);
+  const Surface image = state.picImage, mask = state.picMask;
+  boxes.expectTold("Current image is of 2-color depth.  ", BoxIcon::None);
+  shell.cmdProceed();
+  EXPECT_TRUE(samePixels(state.picImage, image) && samePixels(state.picMask, mask));
+  EXPECT_EQ(panel(), kConfinePanel);
+}
+
 TEST_F(EffectCommandsTest, EachRunStartsWithItsFirstMethod) {
   constexpr std::array kCaptions{"Confine Colors To 256-Color Palette", "Confine Colors To 16-Color Palette",
                                  "Confine Colors To Mono"};
@@ -504,6 +592,35 @@ TEST_F(EffectCommandsTest, ReducingFeedsNoStepToUndo) {
   EXPECT_EQ(status(StatusPanel::Path), state.current().path.trimmed());
 }
 
+// The chain goes on where it was: what is taken back is the step before, and the reduction with it.
+TEST_F(EffectCommandsTest, UndoAfterAReductionTakesTheStepBeforeItBackToo) {
+  startWithNew();
+  paintManyColors();
+  const Surface image = state.picImage;
+  click("mnuEffectsSub", kButtonize);
+  shell.cmdProceed();
+  const Surface button = state.picImage;
+  click("mnuEffectsSub3", 1);
+  shell.cmdProceed();
+  EXPECT_EQ(shell.drawing().history.undoCount(), 2);
+  click("mnuEditSub", kUndo);
+  EXPECT_TRUE(samePixels(state.picImage, image));
+  click("mnuEditSub", 2);
+  EXPECT_TRUE(samePixels(state.picImage, button));
+}
+
+TEST_F(EffectCommandsTest, TheListsHoldWhatThePanelsKnow) {
+  EXPECT_EQ(static_cast<int>(fillList("cboButtonizePattern").entries.size()), kButtonPatterns);
+  EXPECT_EQ(fillList("cboButtonizePattern").first, shell.effects().buttonize.cboButtonizePattern());
+  const FilledList thresholds = fillList("cboConfineColors(3)");
+  EXPECT_EQ(static_cast<int>(thresholds.entries.size()), kThresholdCount);
+  EXPECT_EQ(thresholds.first, confine().thresholdIndex());
+  EXPECT_EQ(thresholds.entries.front(), std::to_string(kFirstThreshold));
+  EXPECT_EQ(thresholds.entries.at(static_cast<std::size_t>(thresholds.first)),
+            std::to_string(ReductionSettings{}.threshold));
+  EXPECT_TRUE(fillList("cboNothing").entries.empty());
+}
+
 TEST_F(EffectCommandsTest, AClickOnTheListFromInsideThePumpOfAPreviewWins) {
   startWithNew();
   paintManyColors();
@@ -525,6 +642,20 @@ TEST_F(EffectCommandsTest, CloseDuringAPreviewClosesThePanel) {
   confine().pickMethod(1);
   EXPECT_EQ(panel(), kColorPanel);
   EXPECT_EQ(changes, 0);
+}
+
+TEST_F(EffectCommandsTest, CloseAfterThePreviewIsDrawnClosesThePanelToo) {
+  startWithNew();
+  paintManyColors();
+  pump.inside = [this] { shell.cmdCancel(); };
+  click("mnuEffectsSub3", 1);
+  EXPECT_EQ(panel(), kColorPanel);
+  click("mnuEffectsSub3", 1);
+  // At the second pump of the click, which comes when the samples are drawn.
+  pump.inside = [this] { pump.inside = [this] { shell.cmdCancel(); }; };
+  confine().pickMethod(1);
+  EXPECT_EQ(panel(), kColorPanel);
+  EXPECT_EQ(pump.inside, nullptr);
 }
 
 TEST_F(EffectCommandsTest, ProceedAndADropDuringAPreviewLeaveAWholeIcon) {

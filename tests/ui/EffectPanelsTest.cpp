@@ -257,6 +257,41 @@ TEST_F(EffectPanelsTest, TheSamplesFollowAnIconThatIsOpenedUnderThePanel) {
   EXPECT_EQ(sampleAt(find("picEffectsSample"), 8, 8, 16, 192), toRgb(state.picImage.GetPixel(8, 8)));
 }
 
+TEST_F(EffectPanelsTest, TheSampleFollowsTheCurrentColor) {
+  startWithDisc();
+  for (int y = 0; y < kTopLeftSquare; ++y)
+    for (int x = 0; x < kTopLeftSquare; ++x) set(x, y, kRed);
+  openPanel(14);
+  find<QCheckBox>("ckbUseSelectedColor")->setChecked(true);
+  state.mCurrentColor = rgb(1, 2, 3);
+  display.changed(DisplayPart::ColorPanel);
+  EXPECT_EQ(sampleAt(find("picEffectsSample"), kTopLeftSquare, 2, 32, 192), qRgb(1, 2, 3));
+}
+
+TEST_F(EffectPanelsTest, TheEditingAreaHasTheKeysWhenThePanelIsClosed) {
+  startWithDisc();
+  for (const int closing : {Qt::Key_Escape, Qt::Key_Return}) {
+    for (const int effect : {3, 11, 14, 21}) {
+      openPanel(effect);
+      EXPECT_TRUE(
+          find(QString("fraPanel(%1)").arg(state.screen.mActivePanel))->isAncestorOf(QApplication::focusWidget()));
+      key(closing);
+      EXPECT_TRUE(isUp(kColorPanel));
+      EXPECT_EQ(QApplication::focusWidget(), find("picDisp")) << effect;
+    }
+  }
+}
+
+TEST_F(EffectPanelsTest, AChartThatIsAskedForUnderAPanelIsSeen) {
+  startWithDisc();
+  for (const int entry : {0, 1, 2}) {
+    openPanel(11);
+    trigger("mnuPaletteSub", entry);
+    EXPECT_TRUE(isUp(kColorPanel));
+    EXPECT_TRUE(QApplication::focusWidget()->isVisible());
+  }
+}
+
 TEST_F(EffectPanelsTest, PicturesForTheEye) {
   const std::array<std::pair<int, const char*>, 3> effects{
       {{14, "panel-shades"}, {3, "panel-buttonize"}, {21, "panel-disabled"}}};

@@ -20,9 +20,14 @@ SampleView::SampleView(QWidget* parent, const QString& objectName, const QString
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
+void SampleView::refresh() {
+  update();
+  accessibleValueChanged(this);
+}
+
 void SampleView::setValueText(const QString& text) {
   value_ = text;
-  accessibleValueChanged(this);
+  refresh();
 }
 
 QString SampleView::accessibleValue() const {

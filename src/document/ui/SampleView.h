@@ -1,5 +1,5 @@
 // The square in which a side panel shows a picture: as large as whole factors allow, in the middle. It keeps no pixels:
-// the Surface, which must outlive it, may get another size or content at any time; update() shows it.
+// the Surface, which must outlive it, may get another size or content at any time; refresh() shows it.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -15,6 +15,8 @@ class SampleView : public QWidget, public AccessibleValue {
   SampleView(QWidget* parent, const QString& objectName, const QString& accessibleName, const Surface& picture,
              int room);
 
+  // The picture has another content or size.
+  void refresh();
   // What a screen reader speaks of the picture: its size until another text is given.
   void setValueText(const QString& text);
 

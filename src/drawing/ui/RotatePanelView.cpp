@@ -121,7 +121,6 @@ void RotatePanelView::refresh() {
   refreshAngle();
   hsrRotateImageAngle_->setValue(panel_.hsrRotateImageAngle());
   ckbRotateImageAntiAlias_->setChecked(panel_.ckbRotateImageAntiAlias());
-  picRotateImageSample_->update();
   picRotateImageSample_->setValueText(QString("%1 degrees").arg(panel_.hsrRotateImageAngle()));
 }
 

@@ -1,7 +1,6 @@
 #include "effects/ui/ConfinePanelView.h"
 
 #include "document/ui/Lists.h"
-#include "effects/ConfinePanel.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -30,7 +29,7 @@ ConfinePanelView::ConfinePanelView(QWidget* parent, ConfinePanel& panel)
 
 void ConfinePanelView::addMethods() {
   lblConfineTo_ = addLabel("lblConfineColors(0)", "Conf&ine to");
-  for (std::size_t run = 0; run < kMethodLists; ++run) {
+  for (std::size_t run = 0; run < methods_.size(); ++run) {
     methods_[run] = makeList(this, QString("cboConfineColors(%1)").arg(run), kListNames[run]);
     connect(methods_[run], &QComboBox::activated, this, [this](int index) { panel_.pickMethod(index); });
     rows()->addWidget(methods_[run]);

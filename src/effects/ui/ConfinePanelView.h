@@ -2,13 +2,12 @@
 // Mask.
 #pragma once
 
+#include "effects/ConfinePanel.h"
 #include "effects/ui/EffectPanelView.h"
 
 #include <array>
 
 namespace gp {
-
-class ConfinePanel;
 
 class ConfinePanelView final : public EffectPanelView {
   Q_OBJECT
@@ -20,8 +19,6 @@ class ConfinePanelView final : public EffectPanelView {
   void refresh() override;
 
  private:
-  static constexpr std::size_t kMethodLists = 3;
-
   void addMethods();
   void addThreshold();
 
@@ -29,7 +26,7 @@ class ConfinePanelView final : public EffectPanelView {
   QLabel* lblConfineTo_ = nullptr;
   QLabel* lblRun_ = nullptr;
   QLabel* lblThreshold_ = nullptr;
-  std::array<QComboBox*, kMethodLists> methods_{};
+  std::array<QComboBox*, kConfineRuns> methods_{};
   QComboBox* threshold_ = nullptr;
 };
 

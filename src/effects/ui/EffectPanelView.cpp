@@ -26,7 +26,7 @@ EffectPanelView::~EffectPanelView() { panel_.onChange = nullptr; }
 
 void EffectPanelView::refreshAll() {
   refresh();
-  for (SampleView* sample : samples_) sample->update();
+  for (SampleView* sample : samples_) sample->refresh();
 }
 
 QLabel* EffectPanelView::addLabel(const QString& objectName, const QString& caption, QWidget* buddy) {
@@ -54,6 +54,7 @@ QLabel* EffectPanelView::addSample(QHBoxLayout* row, const SampleRow& sample, in
   column->setSpacing(kGap);
   auto* label = new QLabel(sample.caption, this);
   auto* view = new SampleView(this, sample.objectName, sample.caption, sample.picture, room);
+  label->setBuddy(view);
   column->addWidget(label, 0, Qt::AlignHCenter);
   column->addWidget(view, 0, Qt::AlignHCenter);
   row->addLayout(column);

@@ -11,6 +11,7 @@
 #include "shell/Shell.h"
 #include "shell/ui/QtDisplay.h"
 
+#include <QApplication>
 #include <QStackedLayout>
 
 #include <algorithm>
@@ -42,11 +43,12 @@ QWidget* makeCursorPanel(QWidget* parent, Shell& shell, QtDisplay&) {
   return panel;
 }
 
-// The samples of an effect follow the icon: another one may come while the panel is up.
+// The samples of an effect follow the icon and the current colour: others may come while the panel is up.
 template <class View, auto member>
 QWidget* makeEffectPanel(QWidget* parent, Shell& shell, QtDisplay& display) {
   auto& logic = shell.effects().*member;
-  display.listen(DisplayPart::IconsPanel, [&logic] { logic.preview(); });
+  for (const DisplayPart part : {DisplayPart::IconsPanel, DisplayPart::ColorPanel})
+    display.listen(part, [&logic] { logic.preview(); });
   return new View(parent, logic);
 }
 
@@ -96,9 +98,12 @@ QWidget* PanelStack::panel(int number) {
 void PanelStack::showPanel(int number) {
   QWidget* widget = panel(number);
   if (!widget) return;
+  const bool hadFocus = stack_->currentWidget() && stack_->currentWidget()->isAncestorOf(QApplication::focusWidget());
+  const bool closes = number == kColorPanel && stack_->currentWidget() != widget;
   stack_->setCurrentWidget(widget);
-  // A side panel is worked with the keyboard at once; the colour panel leaves the focus where it is.
-  if (number != kColorPanel) widget->setFocus();
+  // A side panel is worked with the keyboard at once, and where the keys go is seen.
+  if (number != kColorPanel) widget->setFocus(Qt::TabFocusReason);
+  if (closes && hadFocus) emit focusGivenBack();
 }
 
 }  // namespace gp

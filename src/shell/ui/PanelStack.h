@@ -22,6 +22,10 @@ class PanelStack : public QWidget {
   // Brings a panel up. One that has no widget yet leaves the column as it is.
   void showPanel(int number);
 
+ signals:
+  // A side panel that had the focus has closed: something else is to take it.
+  void focusGivenBack();
+
  private:
   QWidget* panel(int number);
 

@@ -99,6 +99,7 @@ frmGPEdit::frmGPEdit(Shell& shell, QtDisplay& display, std::string commandLine)
   connectEditingArea();
   connectIconsPanel();
   connectToolBox();
+  connect(panels_, &PanelStack::focusGivenBack, this, [this] { room_->view().setFocus(Qt::OtherFocusReason); });
   connect(menus_, &CommandMenus::commandRan, this, &frmGPEdit::refreshCommandsSoon);
   commandsTimer_->setSingleShot(true);
   connect(commandsTimer_, &QTimer::timeout, this, &frmGPEdit::refreshCommands);

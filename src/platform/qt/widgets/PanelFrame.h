@@ -23,8 +23,8 @@ class PanelFrame : public QWidget {
 
   // Where the panel puts its rows, from the top.
   QVBoxLayout* rows() const { return rows_; }
-  // Once, after the rows: Tab comes to the buttons last.
-  // The focus goes to Proceed unless another proxy is set after it.
+  // Called once, after the rows, so that Tab comes to the buttons last. A panel that is given the focus hands it to
+  // Proceed, unless it sets another proxy afterwards.
   void addButtons();
   QWidget* proceedButton() const;
 
