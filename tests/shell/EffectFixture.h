@@ -1,0 +1,47 @@
+// An icon in the whole program for the Panels of the effects to work on.
+#pragma once
+
+#include "document/PanelNumbers.h"
+#include "support/ShellFixture.h"
+
+#include <algorithm>
+
+namespace gp::test {
+
+inline constexpr int kNewIcon32 = 2, kNewIcon16 = 3, kUndo = 1, kRedo = 2, kButtonize = 3, kEmbossed = 11;
+inline constexpr Color kRed = rgb(255, 0, 0);
+
+inline bool samePixels(const Surface& a, const Surface& b) {
+  return a.width() == b.width() && a.height() == b.height() && std::ranges::equal(a.pixels(), b.pixels());
+}
+
+class EffectFixture : public ShellFixture {
+ protected:
+  // A new icon, all transparent but for what a test sets.
+  void startWithNew(int newIcon = kNewIcon32) {
+    start();
+    click("mnuFileSub", newIcon);
+    state.current().neverSaved = false;
+  }
+  void set(int x, int y, Color color) {
+    state.picImage.SetPixelV(x, y, color);
+    state.picMask.SetPixelV(x, y, kBlack);
+    shell.ComposeCurrentIcon();
+    shell.UpdatePanelFromCurrent();
+  }
+  // More colours than a table of 256 takes: no run says that there are few.
+  void paintManyColors() {
+    for (int y = 0; y < state.picImage.height(); ++y)
+      for (int x = 0; x < state.picImage.width(); ++x) set(x, y, rgb(x * 7, y * 7, x * y % 256));
+    shell.clearUndoHistory();
+    shell.recordUndo();
+    state.current().modified = false;
+  }
+  // What stands at a pixel: its colour, kNoColor where the icon is transparent.
+  Color at(int x, int y) const {
+    return state.picMask.GetPixel(x, y) == kBlack ? state.picImage.GetPixel(x, y) : kNoColor;
+  }
+  int panel() const { return state.screen.mActivePanel; }
+};
+
+}  // namespace gp::test
