@@ -1,6 +1,7 @@
 // The desktop program: makes the ports, the shell and the main form, and nothing else.
 #include "platform/files/Files.h"
 #include "platform/qt/Accessibility.h"
+#include "platform/qt/ProgramStyle.h"
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtFileDialogs.h"
 #include "platform/qt/QtMessageBoxes.h"
@@ -60,6 +61,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName(gp::kProgramName);
   QApplication::setApplicationVersion(GLIMMERPANE_VERSION);
   QGuiApplication::setDesktopFileName("glimmerpane");
+  gp::installProgramStyle();
   gp::installAccessibility();
   return run(application, commandLineOf(argc, argv));
 }

@@ -248,6 +248,17 @@ TEST_F(EffectCommandsTest, CommandsThatChangeTheIconOrShowAChartCloseThePanel) {
   }
 }
 
+TEST_F(EffectCommandsTest, ThePanelPutsTheToolAwayAndAToolPutsThePanelAway) {
+  startWithNew();
+  shell.tools().selectTool(kPaint);
+  click("mnuEffectsSub", kEmbossed);
+  EXPECT_EQ(shell.selectedTool(), kNoTool);
+  paint(4, 4);
+  EXPECT_EQ(at(4, 4), kNoColor);
+  shell.tools().selectTool(kPaint);
+  EXPECT_EQ(panel(), kColorPanel);
+}
+
 TEST_F(EffectCommandsTest, AnotherContainerClosesThePanel) {
   startWithNew();
   click("mnuEffectsSub", kEmbossed);

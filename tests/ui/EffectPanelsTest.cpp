@@ -10,6 +10,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 
 namespace gp {
 namespace {
@@ -290,6 +291,29 @@ TEST_F(EffectPanelsTest, AChartThatIsAskedForUnderAPanelIsSeen) {
     EXPECT_TRUE(isUp(kColorPanel));
     EXPECT_TRUE(QApplication::focusWidget()->isVisible());
   }
+}
+
+TEST_F(EffectPanelsTest, ALongListDropsDownWithTwelveEntriesAndAScrollBar) {
+  startWithDisc(4);
+  openRun(2);
+  QComboBox* threshold = confineList(3);
+  threshold->showPopup();
+  const QAbstractItemView* items = threshold->view();
+  ASSERT_TRUE(items->isVisible());
+  const int row = items->visualRect(items->model()->index(threshold->currentIndex(), 0)).height();
+  EXPECT_EQ(items->viewport()->height() / row, 12);
+  EXPECT_TRUE(items->verticalScrollBar()->isVisible());
+  threshold->hidePopup();
+}
+
+TEST_F(EffectPanelsTest, OnlyTheControlThatTakesTheKeysTellsThatItHasTheFocus) {
+  startWithDisc();
+  openPanel(3);
+  const auto tells = [](QWidget* widget) {
+    return static_cast<bool>(QAccessible::queryAccessibleInterface(widget)->state().focused);
+  };
+  EXPECT_TRUE(tells(find("cboButtonizePattern")));
+  EXPECT_FALSE(tells(find("fraPanel(7)")));
 }
 
 TEST_F(EffectPanelsTest, PicturesForTheEye) {

@@ -188,7 +188,7 @@ TEST_F(RotatePanelViewTest, TheButtonsTellOnce) {
 }
 
 TEST_F(RotatePanelViewTest, TheFocusGoesToTheAngleAndTabFollowsTheEye) {
-  view->setFocus(Qt::OtherFocusReason);
+  view->focusFirstControl();
   for (const char* name :
        {"cboRotateImageAngle", "hsrRotateImageAngle", "ckbRotateImageAntiAlias", "cmdProceed", "cmdCancel"}) {
     QWidget* focused = QApplication::focusWidget();

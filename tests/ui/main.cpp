@@ -1,4 +1,5 @@
 #include "platform/qt/Accessibility.h"
+#include "platform/qt/ProgramStyle.h"
 
 #include <QApplication>
 
@@ -11,6 +12,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Glimmerpane"));
   QApplication::setApplicationVersion(QStringLiteral("1.0.0"));
+  gp::installProgramStyle();
   gp::installAccessibility();
   return RUN_ALL_TESTS();
 }

@@ -47,7 +47,7 @@ RotatePanelView::RotatePanelView(QWidget* parent, RotatePanel& panel)
   rows()->addStretch(1);
   rows()->addWidget(makeSample());
   addButtons();
-  setFocusProxy(cboRotateImageAngle_);
+  setFirstControl(cboRotateImageAngle_);
   panel_.onChange = [this] { refresh(); };
   refresh();
 }

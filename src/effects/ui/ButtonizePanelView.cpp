@@ -17,7 +17,7 @@ ButtonizePanelView::ButtonizePanelView(QWidget* parent, ButtonizePanel& panel)
   rows()->addWidget(cboButtonizePattern_);
   rows()->addStretch(1);
   addSamples({{"picButtonize", "Sample", panel_.picButtonize()}});
-  setFocusProxy(cboButtonizePattern_);
+  setFirstControl(cboButtonizePattern_);
   refresh();
 }
 

@@ -54,7 +54,7 @@ void ConfinePanelView::refresh() {
   }
   QComboBox* present = methods_[static_cast<std::size_t>(panel_.run())];
   lblConfineTo_->setBuddy(present);
-  setFocusProxy(present);
+  setFirstControl(present);
   threshold_->setCurrentIndex(panel_.thresholdIndex());
   threshold_->setVisible(panel_.showsThreshold());
   lblThreshold_->setVisible(panel_.showsThreshold());

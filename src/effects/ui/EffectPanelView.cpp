@@ -11,7 +11,7 @@ namespace gp {
 namespace {
 
 constexpr int kGap = 8;
-// Four, or two, desktop pixels for each pixel of the largest icon.
+// Four times, or twice, as large as the largest icon; all icon sizes fill them by whole factors.
 constexpr int kLargeRoom = 192;
 constexpr int kSmallRoom = 96;
 

@@ -36,7 +36,7 @@ void ShadesPanelView::refresh() {
   const QSignalBlocker quiet(ckbUseSelectedColor_);
   ckbUseSelectedColor_->setChecked(panel_.ckbUseSelectedColor());
   ckbUseSelectedColor_->setVisible(panel_.asksForColor());
-  setFocusProxy(panel_.asksForColor() ? ckbUseSelectedColor_ : proceedButton());
+  setFirstControl(panel_.asksForColor() ? ckbUseSelectedColor_ : proceedButton());
   lblEffectsSample_->setText(panel_.lblEffectsSample());
 }
 

@@ -29,7 +29,7 @@ CursorPanelView::CursorPanelView(QWidget* parent, CursorFiles& cursors)
   rows()->addWidget(makeShowButton());
   rows()->addStretch(1);
   addButtons();
-  setFocusProxy(cboCursorHotSpot_[0]);
+  setFirstControl(cboCursorHotSpot_[0]);
   cursors_.onChange = [this] { refresh(); };
   refresh();
 }

@@ -101,8 +101,8 @@ void PanelStack::showPanel(int number) {
   const bool hadFocus = stack_->currentWidget() && stack_->currentWidget()->isAncestorOf(QApplication::focusWidget());
   const bool closes = number == kColorPanel && stack_->currentWidget() != widget;
   stack_->setCurrentWidget(widget);
-  // A side panel is worked with the keyboard at once, and where the keys go is seen.
-  if (number != kColorPanel) widget->setFocus(Qt::TabFocusReason);
+  // A side panel is worked with the keyboard at once; the colour panel leaves the focus where it is.
+  if (auto* frame = qobject_cast<PanelFrame*>(widget)) frame->focusFirstControl();
   if (closes && hadFocus) emit focusGivenBack();
 }
 

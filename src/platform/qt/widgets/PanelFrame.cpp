@@ -64,8 +64,11 @@ void PanelFrame::addButtons() {
   row->addWidget(cmdProceed_, 1);
   row->addWidget(cmdCancel_, 1);
   layout()->addWidget(buttons);
-  setFocusProxy(cmdProceed_);
+  setFirstControl(cmdProceed_);
 }
+
+// As if by a key, so that it is seen where the keys go.
+void PanelFrame::focusFirstControl() { firstControl_->setFocus(Qt::TabFocusReason); }
 
 QWidget* PanelFrame::proceedButton() const { return cmdProceed_; }
 

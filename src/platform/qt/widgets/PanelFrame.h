@@ -23,9 +23,12 @@ class PanelFrame : public QWidget {
 
   // Where the panel puts its rows, from the top.
   QVBoxLayout* rows() const { return rows_; }
-  // Called once, after the rows, so that Tab comes to the buttons last. A panel that is given the focus hands it to
-  // Proceed, unless it sets another proxy afterwards.
+  // Called once, after the rows, so that Tab comes to the buttons last.
   void addButtons();
+  // What takes the focus when the panel comes up: Proceed, until another control is named after addButtons. It is no
+  // focus proxy, with which the frame itself would tell that it has the focus.
+  void setFirstControl(QWidget* control) { firstControl_ = control; }
+  void focusFirstControl();
   QWidget* proceedButton() const;
 
  signals:
@@ -40,6 +43,7 @@ class PanelFrame : public QWidget {
 
   QLabel* title_;
   QVBoxLayout* rows_;
+  QWidget* firstControl_ = nullptr;
   QPushButton* cmdProceed_ = nullptr;
   QPushButton* cmdCancel_ = nullptr;
 };

@@ -1,0 +1,10 @@
+// The desktop's style but for one thing: a list drops down as a list, with as many entries as it was told to show and a
+// scroll bar, and not as a menu that may cover the whole screen.
+#pragma once
+
+namespace gp {
+
+// Once, after the application was made.
+void installProgramStyle();
+
+}  // namespace gp
