@@ -88,10 +88,13 @@ class Desk:
 
     def choose(self, name, item):
         """Opens a drop-down list by mouse and picks the item, counted from 0, by the keys."""
-        self.program.press(name, role='combo box')
-        self.program.wait(lambda: self.dropDown(name), f'the list of "{name}" to drop down')
+        self.openList(name)
         self.session.keys('Home', *['Down'] * item, 'Return')
         self.program.wait(lambda: not self.dropDown(name), f'the list of "{name}" to close')
+
+    def openList(self, name):
+        self.program.press(name, role='combo box')
+        self.program.wait(lambda: self.dropDown(name), f'the list of "{name}" to drop down')
 
     def dropDown(self, name):
         """The list that has dropped down, None without one."""

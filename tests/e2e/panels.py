@@ -10,6 +10,7 @@ CHART_SHAPE = (8, 2)
 SAMPLE_FRAME = 1
 # A list that has dropped down takes no click yet that may be the second one of a double click.
 DOUBLE_CLICK_SECONDS = 0.5
+WHEEL_DOWN, MOST_WHEEL_TURNS = 5, 20
 
 SHADES, BUTTONIZE = 'Effects - shades', 'Buttonize'
 DISABLED, REDUCE = 'Image for disabled button', 'Reduce number of colors'
@@ -143,7 +144,7 @@ class PanelDesk(Desk):
         self.waitForNoPanel(title)
 
     def dropList(self, name):
-        self.program.press(name, role='combo box')
+        self.openList(name)
         time.sleep(DOUBLE_CLICK_SECONDS)
 
     def entryPoint(self, entry):
@@ -152,8 +153,12 @@ class PanelDesk(Desk):
         return left + height, top + height // 2
 
     def pickEntry(self, name, entry):
-        """Picks an entry of a drop-down list with the mouse."""
+        """Picks an entry of a drop-down list with the mouse; one further down than the list shows is scrolled to."""
         self.dropList(name)
+        for _ in range(MOST_WHEEL_TURNS):
+            if self.program.find(entry, role='list item'):
+                break
+            self.session.click(self.program.centre(self.dropDown(name)), button=WHEEL_DOWN)
         self.session.click(self.entryPoint(entry))
         self.program.wait(lambda: self.held(name) == entry, f'"{entry}" to be picked')
 

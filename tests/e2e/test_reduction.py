@@ -385,7 +385,7 @@ def test_a_bitmap_is_given_up_at_the_question_and_in_the_file_dialog_and_named_b
     desk.program.menu('File', 'Save As Bitmap')
     desk.program.answerBox(BACKGROUND_QUESTION, 'alt+y')
     desk.program.wait(lambda: desk.proposedName() == 'a', 'the proposed name')
-    session.keys('Return')
+    desk.program.keys('Return')
     desk.program.waitForNoDialog()
     desk.program.wait(lambda: sorted(os.listdir(session.path())) == ['a.bmp', 'a.ico'], 'the bitmap')
     assert bitsOf(session.path('a.bmp')) == 4
