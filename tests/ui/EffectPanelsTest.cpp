@@ -283,6 +283,18 @@ TEST_F(EffectPanelsTest, TheEditingAreaHasTheKeysWhenThePanelIsClosed) {
   }
 }
 
+TEST_F(EffectPanelsTest, TheEditingAreaHasTheKeysAfterADropFromAnotherProgramToo) {
+  startWithDisc();
+  openPanel(3);
+  QWidget other;
+  other.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  ASSERT_FALSE(form->isAncestorOf(QApplication::focusWidget()));
+  shell.iconsPanel().PanelDrop(2, {folder.write("dropped.ico", test::plainIconFile(16, 3))});
+  EXPECT_TRUE(isUp(kColorPanel));
+  EXPECT_EQ(form->focusWidget(), find("picDisp"));
+}
+
 TEST_F(EffectPanelsTest, AChartThatIsAskedForUnderAPanelIsSeen) {
   startWithDisc();
   for (const int entry : {0, 1, 2}) {

@@ -11,7 +11,6 @@
 #include "shell/Shell.h"
 #include "shell/ui/QtDisplay.h"
 
-#include <QApplication>
 #include <QStackedLayout>
 
 #include <algorithm>
@@ -98,7 +97,8 @@ QWidget* PanelStack::panel(int number) {
 void PanelStack::showPanel(int number) {
   QWidget* widget = panel(number);
   if (!widget) return;
-  const bool hadFocus = stack_->currentWidget() && stack_->currentWidget()->isAncestorOf(QApplication::focusWidget());
+  // The form's own focus: during a drop the keys are with another program.
+  const bool hadFocus = stack_->currentWidget() && stack_->currentWidget()->isAncestorOf(window()->focusWidget());
   const bool closes = number == kColorPanel && stack_->currentWidget() != widget;
   stack_->setCurrentWidget(widget);
   // A side panel is worked with the keyboard at once; the colour panel leaves the focus where it is.
