@@ -1,6 +1,7 @@
 #include "document/ListTables.h"
 
 #include <algorithm>
+#include <array>
 #include <initializer_list>
 #include <iterator>
 
@@ -50,7 +51,7 @@ struct TextRow {
   int first;
 };
 
-const TextRow kTextRows[] = {
+constexpr TextRow kTextRows[] = {
     {"cboTextWriteStyle", {"Ordinary", "Hollow", "Embossed", "Engraved", "Shadowed"}, 0},
     {"cboSphere(1)", {"Normal Size", "Small", "Tiny"}, 0},
     {"cboSharpenSoften", {"Sharpen strong", "Sharpen", "Original", "Soften", "Soften strong"}, 2},
@@ -94,32 +95,30 @@ FilledList fill(const NumberRow& row) {
 
 FilledList fill(const TextRow& row) { return {row.control, {row.entries.begin(), row.entries.end()}, row.first}; }
 
-FilledList fillFonts(const std::vector<std::string>& fonts) {
-  const auto found = std::find(fonts.begin(), fonts.end(), kPreferredFont);
-  return {kFontControl, fonts, found == fonts.end() ? 0 : static_cast<int>(found - fonts.begin())};
+FilledList fillFonts(std::span<const std::string> fonts) {
+  const auto found = std::ranges::find(fonts, kPreferredFont);
+  return {
+      kFontControl, {fonts.begin(), fonts.end()}, found == fonts.end() ? 0 : static_cast<int>(found - fonts.begin())};
 }
+
+constexpr bool eachListStandsOnce() {
+  std::array<std::string_view, std::size(kNumberRows) + std::size(kTextRows) + 1> controls{kFontControl};
+  auto next = controls.begin() + 1;
+  for (const NumberRow& row : kNumberRows) *next++ = row.control;
+  for (const TextRow& row : kTextRows) *next++ = row.control;
+  std::ranges::sort(controls);
+  return std::ranges::adjacent_find(controls) == controls.end();
+}
+static_assert(eachListStandsOnce());
 
 }  // namespace
 
-FilledList fillList(std::string_view control) {
+FilledList fillList(std::string_view control, std::span<const std::string> screenFonts) {
   const auto isIts = [control](const auto& row) { return row.control == control; };
   if (const auto* row = std::ranges::find_if(kNumberRows, isIts); row != std::end(kNumberRows)) return fill(*row);
   if (const auto* row = std::ranges::find_if(kTextRows, isIts); row != std::end(kTextRows)) return fill(*row);
+  if (control == kFontControl) return fillFonts(screenFonts);
   return {std::string(control), {}, 0};
-}
-
-std::vector<FilledList> fillLists(const std::vector<std::string>& screenFonts) {
-  std::vector<FilledList> lists;
-  for (const NumberRow& row : kNumberRows) lists.push_back(fill(row));
-  for (const TextRow& row : kTextRows) lists.push_back(fill(row));
-  lists.push_back(fillFonts(screenFonts));
-  return lists;
-}
-
-const FilledList* findList(std::span<const FilledList> lists, std::string_view control) {
-  const auto found =
-      std::find_if(lists.begin(), lists.end(), [control](const FilledList& list) { return list.control == control; });
-  return found == lists.end() ? nullptr : &*found;
 }
 
 }  // namespace gp

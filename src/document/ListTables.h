@@ -14,11 +14,8 @@ struct FilledList {
   int first = 0;  // position, from 0, of the entry shown first
 };
 
-// The list of a control, whose font list is empty; without entries when it has none.
-FilledList fillList(std::string_view control);
-// All lists. `screenFonts` are the entries of cboFontName, in the order given.
-std::vector<FilledList> fillLists(const std::vector<std::string>& screenFonts);
-// The list of a control; null when it has none.
-const FilledList* findList(std::span<const FilledList> lists, std::string_view control);
+// The list of a control; without entries when it has none. `screenFonts` are the entries of cboFontName, in the order
+// given.
+FilledList fillList(std::string_view control, std::span<const std::string> screenFonts = {});
 
 }  // namespace gp

@@ -16,11 +16,11 @@ ShadesPanel::ShadesPanel(EffectFrame& frame) : EffectPanel(frame, kShadesPanel) 
 
 void ShadesPanel::open(ReliefKind kind) {
   if (!frame().mayApply()) return;
-  kind_ = kind;
+  mEffectKind_ = kind;
   show();
 }
 
-const char* ShadesPanel::lblEffectsSample() const { return kNames.at(static_cast<std::size_t>(kind_)); }
+const char* ShadesPanel::lblEffectsSample() const { return kNames.at(static_cast<std::size_t>(mEffectKind_)); }
 
 void ShadesPanel::setUseSelectedColor(bool use) {
   useSelectedColor_ = use;
@@ -28,7 +28,7 @@ void ShadesPanel::setUseSelectedColor(bool use) {
 }
 
 IconPicture ShadesPanel::apply(const Surface& image, const Surface& mask) const {
-  return relief(image, mask, {kind_, useSelectedColor_ ? frame().state().mCurrentColor : kBlack});
+  return relief(image, mask, {mEffectKind_, useSelectedColor_ ? frame().state().mCurrentColor : kBlack});
 }
 
 }  // namespace gp

@@ -12,21 +12,20 @@ class ShadesPanel final : public EffectPanel {
 
   void open(ReliefKind kind);
 
-  ReliefKind mEffectKind() const { return kind_; }
   // The name of the effect.
   const char* lblEffectsSample() const;
   const Surface& picEffectsSample() const { return sample(); }
 
   // ckbUseSelectedColor: the shadow takes the current colour. Only a shadow asks for it.
   bool ckbUseSelectedColor() const { return useSelectedColor_; }
-  bool asksForColor() const { return kind_ == ReliefKind::Shadowed; }
+  bool asksForColor() const { return mEffectKind_ == ReliefKind::Shadowed; }
   void setUseSelectedColor(bool use);
 
  protected:
   IconPicture apply(const Surface& image, const Surface& mask) const override;
 
  private:
-  ReliefKind kind_ = ReliefKind::Embossed;
+  ReliefKind mEffectKind_ = ReliefKind::Embossed;
   bool useSelectedColor_ = false;
 };
 

@@ -1,7 +1,6 @@
 #include "document/ListTables.h"
 
 #include <gtest/gtest.h>
-#include <set>
 
 namespace gp {
 namespace {
@@ -42,15 +41,14 @@ TEST(ListTables, RangesHoldTheirNumbersAsText) {
       {"cboANI(1)", 32, "0", "1", "31", "0"},
       {"cboANI(2)", 32, "0", "1", "31", "0"},
   };
-  const auto lists = fillLists({});
   for (const RangeCase& row : cases) {
-    const FilledList* list = findList(lists, row.control);
-    ASSERT_NE(list, nullptr) << row.control;
-    ASSERT_EQ(list->entries.size(), row.count) << row.control;
-    EXPECT_EQ(list->entries.front(), row.first) << row.control;
-    EXPECT_EQ(list->entries[1], row.second) << row.control;
-    EXPECT_EQ(list->entries.back(), row.last) << row.control;
-    EXPECT_EQ(list->entries.at(list->first), row.shown) << row.control;
+    const FilledList list = fillList(row.control);
+    EXPECT_EQ(list.control, row.control);
+    ASSERT_EQ(list.entries.size(), row.count) << row.control;
+    EXPECT_EQ(list.entries.front(), row.first) << row.control;
+    EXPECT_EQ(list.entries[1], row.second) << row.control;
+    EXPECT_EQ(list.entries.back(), row.last) << row.control;
+    EXPECT_EQ(list.entries.at(list.first), row.shown) << row.control;
   }
 }
 
@@ -67,33 +65,30 @@ TEST(ListTables, TextsStandInTheirOrder) {
       {"cboTexturize(2)", {"Style 1", "Style 2"}, 0},
       {"cboResizeIcon", {"Auto-Softening", "Without Softening"}, 0},
   };
-  const auto lists = fillLists({});
   for (const FilledList& row : expected) {
-    const FilledList* list = findList(lists, row.control);
-    ASSERT_NE(list, nullptr) << row.control;
-    EXPECT_EQ(list->entries, row.entries) << row.control;
-    EXPECT_EQ(list->first, row.first) << row.control;
+    const FilledList list = fillList(row.control);
+    EXPECT_EQ(list.control, row.control);
+    EXPECT_EQ(list.entries, row.entries) << row.control;
+    EXPECT_EQ(list.first, row.first) << row.control;
   }
 }
 
 TEST(ListTables, ArialIsShownFirstWhereItIsListed) {
-  const auto lists = fillLists({"Agency", "Arial", "Courier"});
-  EXPECT_EQ(findList(lists, "cboFontName")->first, 1);
-  EXPECT_EQ(findList(lists, "cboFontName")->entries.size(), 3u);
+  const std::vector<std::string> fonts{"Agency", "Arial", "Courier"};
+  const FilledList list = fillList("cboFontName", fonts);
+  EXPECT_EQ(list.first, 1);
+  EXPECT_EQ(list.entries, fonts);
 }
 
 TEST(ListTables, WithoutArialTheFirstFontIsShown) {
-  const auto lists = fillLists({"Agency", "Arial Black"});
-  EXPECT_EQ(findList(lists, "cboFontName")->first, 0);
+  const std::vector<std::string> fonts{"Agency", "Arial Black"};
+  EXPECT_EQ(fillList("cboFontName", fonts).first, 0);
 }
 
-TEST(ListTables, EachListStandsOnce) {
-  const auto lists = fillLists({});
-  std::set<std::string> controls;
-  for (const FilledList& list : lists) controls.insert(list.control);
-  EXPECT_EQ(controls.size(), lists.size());
-  EXPECT_EQ(lists.size(), 35u);
-  EXPECT_EQ(findList(lists, "cboNothing"), nullptr);
+TEST(ListTables, AControlWithoutAListHasNoEntries) {
+  const FilledList list = fillList("cboNothing");
+  EXPECT_EQ(list.control, "cboNothing");
+  EXPECT_TRUE(list.entries.empty());
 }
 
 }  // namespace

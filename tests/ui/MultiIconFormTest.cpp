@@ -65,7 +65,7 @@ TEST_F(MultiIconForm, TheFirstIconThatCannotBeShownIsToldOfOverTheForm) {
 
 TEST_F(MultiIconForm, MessageBoxesStandOverIt) {
   open();
-  EXPECT_EQ(dialogOwner(), form.get());
+  EXPECT_EQ(DialogOwner().window(), form.get());
 }
 
 TEST_F(MultiIconForm, TheFileIsNamedInFullInTheTooltip) {

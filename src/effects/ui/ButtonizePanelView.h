@@ -3,6 +3,8 @@
 
 #include "effects/ui/EffectPanelView.h"
 
+class QComboBox;
+
 namespace gp {
 
 class ButtonizePanel;

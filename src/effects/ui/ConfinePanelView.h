@@ -7,6 +7,8 @@
 
 #include <array>
 
+class QComboBox;
+
 namespace gp {
 
 class ConfinePanelView final : public EffectPanelView {

@@ -6,7 +6,6 @@
 
 #include <vector>
 
-class QComboBox;
 class QLabel;
 class QHBoxLayout;
 

@@ -9,6 +9,7 @@
 #include "drawing/ui/ToolBox.h"
 #include "files/ui/frmGPHeaderDiff.h"
 #include "files/ui/frmGPMultiIcon.h"
+#include "platform/qt/DialogOwner.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/Pictures.h"
 #include "shell/FormPlacement.h"
@@ -294,17 +295,16 @@ void frmGPEdit::showAbout() {
   about.exec();
 }
 
-// Behind a form over which a box stood the desktop may leave the main form inactive: it asks for the keys.
 void frmGPEdit::showMultiIcon() {
+  const DialogOwner owner;
   frmGPMultiIcon form(shell_.filesContext(), this);
   form.run();
-  activateWindow();
 }
 
 void frmGPEdit::showHeaderDiff() {
+  const DialogOwner owner;
   frmGPHeaderDiff form(shell_.filesContext(), this);
   form.exec();
-  activateWindow();
 }
 
 void frmGPEdit::unload() { close(); }
