@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <vector>
 
 namespace gp {
 namespace {
@@ -12,12 +13,28 @@ namespace {
 // Most icon files fit in this and are read at once. A directory may be longer.
 constexpr std::size_t kFirstPart = 256 * 1024;
 
-// Where the last byte ends that a reader can want.
-std::size_t extentOf(const IconDirectory& directory) {
-  std::size_t extent = ico::kMaxDirectorySize;
-  for (const IconEntry& entry : directory.entries)
-    extent = std::max(extent, std::size_t{entry.imageOffset} + ico::kLargestImage);
-  return extent;
+// Far above what the images of any real file take; of one that lies, no more than this is read.
+constexpr std::uint64_t kMostRead = std::uint64_t{64} << 20;
+
+// Where the bytes are that a reader can want, as far as kMostRead allows: the directory, and each image once, however
+// many entries share it.
+std::vector<FileRange> wantedRanges(const IconDirectory& directory) {
+  std::vector<std::uint64_t> offsets;
+  for (const IconEntry& entry : directory.entries) offsets.push_back(entry.imageOffset);
+  std::ranges::sort(offsets);
+  std::vector<FileRange> ranges{{0, ico::kMaxDirectorySize}};
+  std::uint64_t taken = ico::kMaxDirectorySize;
+  for (const std::uint64_t offset : offsets) {
+    FileRange& last = ranges.back();
+    const std::uint64_t begin = std::max(offset, last.end);
+    const std::uint64_t end = std::min(std::max(offset + ico::kLargestImage, last.end), begin + kMostRead - taken);
+    taken += end - begin;
+    if (begin == last.end)
+      last.end = end;
+    else if (begin < end)
+      ranges.push_back({begin, end});
+  }
+  return ranges;
 }
 
 }  // namespace
@@ -29,7 +46,7 @@ std::optional<FileBytes> readIconFile(const std::string& path) {
   if (!begun.isIcon() && !begun.isCursor()) return start;
   const auto directoryBytes = readFileStart(path, ico::kMaxDirectorySize);
   if (!directoryBytes) return std::nullopt;
-  return readFileStart(path, extentOf(parseIconDirectory(directoryBytes->span())));
+  return readFileRanges(path, wantedRanges(parseIconDirectory(directoryBytes->span())));
 }
 
 }  // namespace gp

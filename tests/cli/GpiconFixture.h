@@ -66,7 +66,6 @@ class Gpicon : public testing::Test {
   }
 };
 
-inline Entry anyEntry(int size, int bits) { return entryOf(anyPicture(size, bits)); }
 inline Bytes fileOf(const std::vector<Entry>& entries) { return build(IcoFile{entries, 0, 1, {}}); }
 
 }  // namespace gp::test

@@ -13,12 +13,11 @@
 
 namespace gp::test {
 
-inline Entry iconEntry(int size, int bits) { return entryOf(anyPicture(size, bits)); }
 inline IcoFile iconFile(std::vector<Entry> entries) { return {std::move(entries), 0, 1, {}}; }
 
 // An image that begins like a PNG picture, which the editor cannot show.
 inline Entry pngEntry(int size) {
-  Entry entry = iconEntry(size, 32);
+  Entry entry = anyEntry(size, 32);
   const Bytes signature{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
   std::copy(signature.begin(), signature.end(), entry.image.begin());
   return entry;

@@ -1,15 +1,14 @@
 // Icon files that lie, in the browser: what is listed is shown or refused entry by entry, and what is only looked at
 // stays as it was on disk.
 #include "files/BrowserFixture.h"
-
-#include <fstream>
+#include "support/ProcessUse.h"
 
 namespace gp::test {
 namespace {
 
 class HostileBrowsing : public BrowserTest {
  protected:
-  IcoFile file = iconFile({iconEntry(16, 4), iconEntry(32, 8), iconEntry(48, 24)});
+  IcoFile file = iconFile({anyEntry(16, 4), anyEntry(32, 8), anyEntry(48, 24)});
 
   bool lists(const Bytes& bytes, std::size_t count) {
     unloads = 0;
@@ -88,7 +87,7 @@ TEST_F(HostileBrowsing, EntriesWithoutOrWithUnequalSidesStandWithTheOtherSizes) 
 TEST_F(HostileBrowsing, EntriesWithoutSizeCannotBeShownOnThePane) {
   file.entries[1].width = file.entries[1].height = 0;
   file.entries[2].height = 0;
-  file.entries.push_back(iconEntry(24, 4));
+  file.entries.push_back(anyEntry(24, 4));
   EXPECT_TRUE(lists(build(file), 4));
   browser->cmdReposition();
   for (const int item : {1, 2}) {
@@ -106,7 +105,7 @@ TEST_F(HostileBrowsing, TheDirectorysSizeCountsNotTheImages) {
 }
 
 TEST_F(HostileBrowsing, DepthsWithoutRowFormatCannotBeShown) {
-  file.entries = {iconEntry(32, 4), entryOf(anyPicture(16, 8), 0, 2), entryOf(anyPicture(16, 8), 0, 3),
+  file.entries = {anyEntry(32, 4), entryOf(anyPicture(16, 8), 0, 2), entryOf(anyPicture(16, 8), 0, 3),
                   entryOf(anyPicture(16, 8), 0, 7)};
   const Bytes bytes = build(file);
   EXPECT_TRUE(lists(bytes, 4));
@@ -174,7 +173,7 @@ TEST_F(HostileBrowsing, AnImageInsideTheDirectoryIsShownAsWhatItReadsAs) {
 }
 
 TEST_F(HostileBrowsing, TheFileOfOverlappingImagesIsWrittenWithAllOfThem) {
-  file.entries = {iconEntry(16, 4), iconEntry(16, 8), iconEntry(24, 4)};
+  file.entries = {anyEntry(16, 4), anyEntry(16, 8), anyEntry(24, 4)};
   const std::uint32_t first = 6 + 3 * 16;
   file.entries[0].offset = file.entries[2].offset = first;
   file.entries[2].bytesInRes = static_cast<std::uint32_t>(file.entries[0].image.size());
@@ -184,15 +183,15 @@ TEST_F(HostileBrowsing, TheFileOfOverlappingImagesIsWrittenWithAllOfThem) {
                         "\n\nSure to remove this icon permanently?\n\n",
                     BoxAnswer::Yes);
   browser->cmdRemove();
-  Entry last = iconEntry(24, 4);
-  last.image = iconEntry(16, 4).image;
-  EXPECT_EQ(bytesOf(path), build(iconFile({iconEntry(16, 4), last})));
+  Entry last = anyEntry(24, 4);
+  last.image = anyEntry(16, 4).image;
+  EXPECT_EQ(bytesOf(path), build(iconFile({anyEntry(16, 4), last})));
 }
 
 // Images.
 
 TEST_F(HostileBrowsing, LiesOfBitmapHeadersChangeNoPreview) {
-  const Bytes honest = build(iconEntry(32, 8));
+  const Bytes honest = build(anyEntry(32, 8));
   for (const auto& lie : std::vector<std::function<void(Picture&)>>{
            [](Picture& p) { p.headerHeight = 32; }, [](Picture& p) { p.headerHeight = 0; },
            [](Picture& p) { p.headerHeight = -64; }, [](Picture& p) { p.headerWidth = 0x7FFFFFFF; },
@@ -206,7 +205,7 @@ TEST_F(HostileBrowsing, LiesOfBitmapHeadersChangeNoPreview) {
 }
 
 TEST_F(HostileBrowsing, PngImagesOfAnySizeCannotBeShown) {
-  file.entries = {iconEntry(32, 4), pngEntry(16), pngEntry(24), pngEntry(48)};
+  file.entries = {anyEntry(32, 4), pngEntry(16), pngEntry(24), pngEntry(48)};
   EXPECT_TRUE(lists(build(file), 4));
   for (int item = 1; item < 4; ++item) {
     expectNotShown(item + 1);
@@ -216,16 +215,16 @@ TEST_F(HostileBrowsing, PngImagesOfAnySizeCannotBeShown) {
 }
 
 TEST_F(HostileBrowsing, ATruncatedLastImageUnloadsAndASizeThatFitsIsShownWithoutItsMask) {
-  Entry entry = iconEntry(16, 8);
+  Entry entry = anyEntry(16, 8);
   entry.image.resize(entry.image.size() - 16 * 4);  // the Mask
   EXPECT_TRUE(lists(build(entry), 1));
   EXPECT_EQ(browser->selectedIcon(), 0);
-  const Color topLeft = decode(build(iconEntry(16, 8))).image.GetPixel(0, 0);
+  const Color topLeft = decode(build(anyEntry(16, 8))).image.GetPixel(0, 0);
   EXPECT_EQ(browser->picIconInFile().GetPixel(0, 0), topLeft);
 }
 
 TEST_F(HostileBrowsing, FilesCutAnywhereUnloadAndStayAsTheyWere) {
-  file.entries = {iconEntry(16, 4), iconEntry(16, 1)};
+  file.entries = {anyEntry(16, 4), anyEntry(16, 1)};
   const Bytes whole = build(file);
   for (std::size_t size = 0; size < whole.size(); ++size) {
     const Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size));
@@ -236,7 +235,7 @@ TEST_F(HostileBrowsing, FilesCutAnywhereUnloadAndStayAsTheyWere) {
 
 // The same with sizes that leave every cut readable.
 TEST_F(HostileBrowsing, ImagesCutAnywhereAreShown) {
-  const Bytes whole = build(iconEntry(16, 4));
+  const Bytes whole = build(anyEntry(16, 4));
   for (std::size_t size = 22; size < whole.size(); ++size) {
     Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size));
     for (std::size_t at = 14; at < 18; ++at) cut[at] = 0;
@@ -248,16 +247,9 @@ TEST_F(HostileBrowsing, ImagesCutAnywhereAreShown) {
 
 // Many entries.
 
-std::size_t peakMemory() {
-  std::ifstream status("/proc/self/status");
-  for (std::string line; std::getline(status, line);)
-    if (line.starts_with("VmHWM:")) return std::stoul(line.substr(6)) * 1024;
-  return 0;
-}
-
 TEST_F(HostileBrowsing, AFileOf65535EntriesWithOneImageCostsNoMoreThanItsSizeAnd64MB) {
   constexpr int kEntries = 65535;
-  constexpr std::size_t kImageRoom = 4 << 20, kAllowance = std::size_t{64} << 20;
+  constexpr std::size_t kImageRoom = 4 << 20, kAllowance = 64 * kMegabyte;
   Bytes bytes{0, 0, 1, 0, 0xFF, 0xFF};
   bytes.reserve(6 + 16 * kEntries + kImageRoom);
   for (int i = 0; i < kEntries; ++i) {
@@ -265,13 +257,13 @@ TEST_F(HostileBrowsing, AFileOf65535EntriesWithOneImageCostsNoMoreThanItsSizeAnd
     put32(bytes, kImageRoom);
     put32(bytes, 6 + 16 * kEntries);
   }
-  append(bytes, iconEntry(32, 8).image);
+  append(bytes, anyEntry(32, 8).image);
   bytes.resize(6 + 16 * kEntries + kImageRoom);
   path = folder.write("tools.ico", bytes);
   exchange.gMultiIconFile = path;
   const std::size_t size = std::exchange(bytes, {}).size();
 
-  std::ofstream("/proc/self/clear_refs") << '5';  // the peak counts from here
+  restartPeakMemory();
   const std::size_t before = peakMemory();
   show();
   EXPECT_LE(peakMemory(), before + size + kAllowance);
@@ -285,7 +277,7 @@ TEST_F(HostileBrowsing, AFileOf65535EntriesWithOneImageCostsNoMoreThanItsSizeAnd
 // 99 images of 4 MB that are one: to write them apart would take more than a file may have.
 TEST_F(HostileBrowsing, OverlappingImagesThatWouldFillMoreThanAFileMayHaveAreNotWritten) {
   constexpr std::uint32_t kImageRoom = 4 << 20;
-  std::vector<Entry> entries(99, iconEntry(16, 4));
+  std::vector<Entry> entries(99, anyEntry(16, 4));
   for (Entry& entry : entries) {
     entry.offset = 6 + 16 * 99;
     entry.bytesInRes = kImageRoom;

@@ -165,6 +165,8 @@ inline Picture anyPicture(int size, int bits) {
   return p;
 }
 
+inline Entry anyEntry(int size, int bits) { return entryOf(anyPicture(size, bits)); }
+
 // A folder of built files, gone after its test.
 class IconFolder : public TempFolder {
  public:

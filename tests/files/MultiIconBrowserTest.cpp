@@ -7,10 +7,10 @@ namespace {
 constexpr const char* kNotShown = "Ref 2\nUnable to get this one";
 
 const std::vector<Entry>& threeIcons() {
-  static const std::vector<Entry> kEntries{iconEntry(16, 4), iconEntry(32, 8), iconEntry(48, 32)};
+  static const std::vector<Entry> kEntries{anyEntry(16, 4), anyEntry(32, 8), anyEntry(48, 32)};
   return kEntries;
 }
-Entry otherSize(int size = 64) { return iconEntry(size, 8); }
+Entry otherSize(int size = 64) { return anyEntry(size, 8); }
 
 // Opening.
 
@@ -71,7 +71,7 @@ TEST_F(BrowserTest, AFileThatCannotBeReadUnloadsWithoutAWord) {
 // Listing.
 
 TEST_F(BrowserTest, ListsStandardAndOtherSizesInFileOrder) {
-  browse({iconEntry(16, 4), otherSize(), iconEntry(32, 24), entryOf(anyPicture(48, 1))});
+  browse({anyEntry(16, 4), otherSize(), anyEntry(32, 24), entryOf(anyPicture(48, 1))});
   EXPECT_EQ(browser->lisIcons(),
             (Items{"Ref 1  \t4 BPP\t16-Color\t   16 x  16", "Ref 3  \t24 BPP\tTrue-Color\t   32 x  32",
                    "Ref 4  \t1 BPP\t2-Color\t   48 x  48"}));
@@ -80,7 +80,7 @@ TEST_F(BrowserTest, ListsStandardAndOtherSizesInFileOrder) {
 }
 
 TEST_F(BrowserTest, A64x64EntryCannotBeSelectedAndKeepsItsRef) {
-  browse({otherSize(), iconEntry(16, 4), iconEntry(32, 4)});
+  browse({otherSize(), anyEntry(16, 4), anyEntry(32, 4)});
   EXPECT_EQ(browser->lisOtherIcons(), (Items{"Ref 1  \t8 BPP\t256-Color\t  64 x 64"}));
   EXPECT_EQ(browser->lisIcons().front(), "Ref 2  \t4 BPP\t16-Color\t   16 x  16");
   browser->cmdEdit();
@@ -88,14 +88,14 @@ TEST_F(BrowserTest, A64x64EntryCannotBeSelectedAndKeepsItsRef) {
 }
 
 TEST_F(BrowserTest, TheFootnoteStandsWhereAnEntryHasNoBits) {
-  browse({iconEntry(16, 4), entryOf(anyPicture(32, 4), 16, 0)});
+  browse({anyEntry(16, 4), entryOf(anyPicture(32, 4), 16, 0)});
   EXPECT_TRUE(browser->showsBitsFootnote());
   EXPECT_EQ(browser->lisIcons().at(1), "Ref 2  \t0 BPP*\t16-Color\t   32 x  32");
 }
 
 TEST_F(BrowserTest, OtherSizesAreOpenWhereThereAreAny) {
   EXPECT_FALSE(browse(threeIcons()).otherSizesShown());
-  EXPECT_TRUE(browse({iconEntry(16, 4), otherSize()}).otherSizesShown());
+  EXPECT_TRUE(browse({anyEntry(16, 4), otherSize()}).otherSizesShown());
   browser->setOtherSizesShown(false);
   EXPECT_FALSE(browser->otherSizesShown());
   browser->setOtherSizesShown(true);
@@ -103,7 +103,7 @@ TEST_F(BrowserTest, OtherSizesAreOpenWhereThereAreAny) {
 }
 
 TEST_F(BrowserTest, AFileOfOneEntryOpensWithNothingToSplitRemoveOrReposition) {
-  browse({iconEntry(32, 4)});
+  browse({anyEntry(32, 4)});
   EXPECT_EQ(browser->selectedIcon(), 0);
   EXPECT_TRUE(browser->canLoad());
   EXPECT_FALSE(browser->canSaveEntries());
@@ -122,22 +122,22 @@ TEST_F(BrowserTest, AFileOfOtherSizesOnlyShowsThemAndDisablesAllButtons) {
 }
 
 TEST_F(BrowserTest, TwoStandardEntriesEnableAllButtons) {
-  browse({iconEntry(16, 4), iconEntry(32, 4)});
+  browse({anyEntry(16, 4), anyEntry(32, 4)});
   EXPECT_TRUE(browser->canLoad());
   EXPECT_TRUE(browser->canSaveEntries());
   EXPECT_TRUE(browser->canRearrange());
 }
 
 TEST_F(BrowserTest, OtherSizesDoNotCountForTheButtons) {
-  browse({iconEntry(16, 4), otherSize(), otherSize(20)});
+  browse({anyEntry(16, 4), otherSize(), otherSize(20)});
   EXPECT_TRUE(browser->canLoad());
   EXPECT_FALSE(browser->canSaveEntries());
   EXPECT_FALSE(browser->canRearrange());
 }
 
 TEST_F(BrowserTest, FilesOf100EntriesCannotBeRearranged) {
-  EXPECT_TRUE(browse(std::vector<Entry>(99, iconEntry(16, 1))).canRearrange());
-  EXPECT_FALSE(browse(std::vector<Entry>(100, iconEntry(16, 1))).canRearrange());
+  EXPECT_TRUE(browse(std::vector<Entry>(99, anyEntry(16, 1))).canRearrange());
+  EXPECT_FALSE(browse(std::vector<Entry>(100, anyEntry(16, 1))).canRearrange());
   EXPECT_TRUE(browser->canSaveEntries());
   EXPECT_TRUE(browser->canLoad());
 }
@@ -145,24 +145,24 @@ TEST_F(BrowserTest, FilesOf100EntriesCannotBeRearranged) {
 // Selecting.
 
 TEST_F(BrowserTest, TheFirst32x32EntryIsSelectedAndPreviewed) {
-  const Bytes file = build(iconFile({iconEntry(16, 8), iconEntry(32, 4), iconEntry(32, 24)}));
+  const Bytes file = build(iconFile({anyEntry(16, 8), anyEntry(32, 4), anyEntry(32, 24)}));
   browse(file);
   EXPECT_EQ(browser->selectedIcon(), 1);
   EXPECT_TRUE(previews(file, 1));
 }
 
 TEST_F(BrowserTest, ALater32x32EntryOf8BitsIsSelectedInstead) {
-  browse({iconEntry(32, 4), iconEntry(32, 24), iconEntry(32, 8), iconEntry(48, 8)});
+  browse({anyEntry(32, 4), anyEntry(32, 24), anyEntry(32, 8), anyEntry(48, 8)});
   EXPECT_EQ(browser->selectedIcon(), 2);
 }
 
 TEST_F(BrowserTest, ItemsAreCountedInTheListNotInTheFile) {
-  browse({otherSize(), iconEntry(16, 4), otherSize(), iconEntry(32, 4)});
+  browse({otherSize(), anyEntry(16, 4), otherSize(), anyEntry(32, 4)});
   EXPECT_EQ(browser->selectedIcon(), 1);
 }
 
 TEST_F(BrowserTest, AClickPreviewsTheEntry) {
-  const Bytes file = build(iconFile({iconEntry(32, 4), otherSize(), iconEntry(48, 24)}));
+  const Bytes file = build(iconFile({anyEntry(32, 4), otherSize(), anyEntry(48, 24)}));
   browse(file);
   changes = 0;
   browser->clickIcon(1);
@@ -187,7 +187,7 @@ TEST_F(BrowserTest, ClicksThatTheBrowsersOwnSelectionCausesAreIgnored) {
 }
 
 TEST_F(BrowserTest, AnEntryThatCannotBeShownLeavesTheEarlierOneSelected) {
-  const Bytes file = build(iconFile({iconEntry(32, 4), pngEntry(48), iconEntry(16, 4)}));
+  const Bytes file = build(iconFile({anyEntry(32, 4), pngEntry(48), anyEntry(16, 4)}));
   browse(file);
   boxes.expectTold(kNotShown, BoxIcon::None);
   changes = 0;
@@ -200,7 +200,7 @@ TEST_F(BrowserTest, AnEntryThatCannotBeShownLeavesTheEarlierOneSelected) {
 
 TEST_F(BrowserTest, AFirstEntryThatCannotBeShownLeavesNothingSelected) {
   boxes.expectTold(kNotShown, BoxIcon::None);
-  browse({iconEntry(16, 4), pngEntry(32)});
+  browse({anyEntry(16, 4), pngEntry(32)});
   EXPECT_EQ(browser->selectedIcon(), -1);
   EXPECT_EQ(browser->picIconInFile().width(), 0);
   browser->cmdEdit();
@@ -226,8 +226,8 @@ TEST_F(BrowserTest, EntriesOf32BitsArePreviewedWithAlpha) {
 }
 
 TEST_F(BrowserTest, Ref100ShowsTheEntryThatItReadsAs) {
-  std::vector<Entry> entries(100, iconEntry(16, 1));
-  entries[9] = iconEntry(16, 24);
+  std::vector<Entry> entries(100, anyEntry(16, 1));
+  entries[9] = anyEntry(16, 24);
   const Bytes file = build(iconFile(entries));
   browse(file);
   browser->clickIcon(99);

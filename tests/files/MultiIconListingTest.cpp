@@ -12,7 +12,7 @@ std::vector<ListedEntry> listOf(std::vector<Entry> entries) {
             ArraysDefect::None);
   return listEntries(arrays);
 }
-Entry iconEntry(int size, int bits) { return entryOf(anyPicture(size, bits)); }
+Entry anyEntry(int size, int bits) { return entryOf(anyPicture(size, bits)); }
 ListedEntry listed(const Entry& entry) { return listOf({entry}).front(); }
 ListedEntry withTold(int colorCount, int bitCount) { return listed(entryOf(anyPicture(16, 8), colorCount, bitCount)); }
 
@@ -31,7 +31,7 @@ TEST(MultiIconListing, StrangeColorCountsCountAsTwoOrSixteen) {
 }
 
 TEST(MultiIconListing, TheHeadersBitsAreTheLowByteAtFourteen) {
-  Entry entry = iconEntry(16, 4);
+  Entry entry = anyEntry(16, 4);
   entry.image[14] = 8;
   entry.image[15] = 1;
   EXPECT_EQ(listed(entry).bihBits, 8);
@@ -41,7 +41,7 @@ TEST(MultiIconListing, TheHeadersBitsAreTheLowByteAtFourteen) {
 }
 
 TEST(MultiIconListing, AnImageTooShortForItsHeaderHasNoBits) {
-  Entry entry = iconEntry(16, 4);
+  Entry entry = anyEntry(16, 4);
   entry.bytesInRes = 14;
   EXPECT_EQ(listed(entry).bihBits, 0);
   entry.bytesInRes = 15;
@@ -57,8 +57,8 @@ TEST(MultiIconListing, StandardAreSquaresOfTheFourIconSizes) {
 }
 
 TEST(MultiIconListing, ItemTextsHaveThreePartsBehindTheRef) {
-  EXPECT_EQ(itemText(3, listed(iconEntry(32, 32)), true), "Ref 3  \t32 BPP\tTrue-Color\t   32 x  32");
-  EXPECT_EQ(itemText(12, listed(iconEntry(16, 4)), true), "Ref 12  \t4 BPP\t16-Color\t   16 x  16");
+  EXPECT_EQ(itemText(3, listed(anyEntry(32, 32)), true), "Ref 3  \t32 BPP\tTrue-Color\t   32 x  32");
+  EXPECT_EQ(itemText(12, listed(anyEntry(16, 4)), true), "Ref 12  \t4 BPP\t16-Color\t   16 x  16");
 }
 
 TEST(MultiIconListing, OtherSizesAreNotPadded) {

@@ -12,10 +12,10 @@ constexpr const char* kLowScreen =
     "Proceed still?";
 
 const std::vector<Entry>& threeIcons() {
-  static const std::vector<Entry> kEntries{iconEntry(16, 4), iconEntry(32, 8), iconEntry(48, 32)};
+  static const std::vector<Entry> kEntries{anyEntry(16, 4), anyEntry(32, 8), anyEntry(48, 32)};
   return kEntries;
 }
-Entry otherSize(int size = 64) { return iconEntry(size, 8); }
+Entry otherSize(int size = 64) { return anyEntry(size, 8); }
 
 // Loading.
 
@@ -44,7 +44,7 @@ TEST_F(BrowserTest, LoadAsksToComeBackAndMayGoToAnotherContainer) {
 }
 
 TEST_F(BrowserTest, IndicesOfTwoDigitsStandAsTheyAre) {
-  std::vector<Entry> entries(12, iconEntry(16, 4));
+  std::vector<Entry> entries(12, anyEntry(16, 4));
   browse(entries);
   browser->clickIcon(11);
   browser->cmdEdit();
@@ -118,7 +118,7 @@ TEST_F(BrowserBitsTest, StrangeBitsAbove8AreRefused) {
 TEST_F(BrowserTest, TrueColorOnALowScreenIsAskedFor) {
   for (const int bits : {24, 32}) {
     state.process.gScreenBPP = 8;
-    browse({iconEntry(32, bits)});
+    browse({anyEntry(32, bits)});
     boxes.expectAsked(kLowScreen, BoxAnswer::No);
     browser->cmdEdit();
     EXPECT_EQ(exchange.gMultiIconResult, "");
@@ -130,10 +130,10 @@ TEST_F(BrowserTest, TrueColorOnALowScreenIsAskedFor) {
 
 TEST_F(BrowserTest, NothingIsAskedOnAScreenOfManyColorsOrForAPalette) {
   state.process.gScreenBPP = 9;
-  browse({iconEntry(32, 24)}).cmdEdit();
+  browse({anyEntry(32, 24)}).cmdEdit();
   EXPECT_NE(exchange.gMultiIconResult, "");
   state.process.gScreenBPP = 8;
-  browse({iconEntry(32, 8)}).cmdEdit();
+  browse({anyEntry(32, 8)}).cmdEdit();
   EXPECT_NE(exchange.gMultiIconResult, "");
 }
 
@@ -168,7 +168,7 @@ TEST_F(BrowserTest, LookingAtAFileLeavesItAsItWas) {
 // Adding.
 
 TEST_F(BrowserTest, AppendingIsProposed) {
-  browse({iconEntry(16, 4), otherSize(), iconEntry(32, 4)}, true);
+  browse({anyEntry(16, 4), otherSize(), anyEntry(32, 4)}, true);
   EXPECT_EQ(browser->addPositionCount(), 4);
   EXPECT_EQ(browser->addPosition(), 3);
   EXPECT_TRUE(browser->canAdd());
@@ -179,7 +179,7 @@ TEST_F(BrowserTest, AppendingIsProposed) {
 }
 
 TEST_F(BrowserTest, AnyOtherPositionInserts) {
-  browse({iconEntry(16, 4), otherSize(), iconEntry(32, 4)}, true);
+  browse({anyEntry(16, 4), otherSize(), anyEntry(32, 4)}, true);
   browser->setAddPosition(0);
   boxes.expectAsked("Insert to position ref 1.   \n\nConfirm?\n", BoxAnswer::Yes);
   browser->cmdSaveAdd(kSaveAsButton);
@@ -187,7 +187,7 @@ TEST_F(BrowserTest, AnyOtherPositionInserts) {
 }
 
 TEST_F(BrowserTest, ARefusedAddKeepsTheFormOpen) {
-  browse({iconEntry(16, 4), otherSize()}, true);
+  browse({anyEntry(16, 4), otherSize()}, true);
   browser->setAddPosition(1);
   boxes.expectAsked("Insert to position ref 2.   \n\nConfirm?\n", BoxAnswer::No);
   browser->cmdSaveAdd(kSaveButton);

@@ -9,7 +9,7 @@ constexpr const char* kNotUpdated = "Failed to update the file for this icon.";
 
 class BrowserRearrangingTest : public BrowserTest {
  protected:
-  Entry a = iconEntry(16, 4), b = iconEntry(32, 8), c = iconEntry(48, 24), other = iconEntry(64, 8);
+  Entry a = anyEntry(16, 4), b = anyEntry(32, 8), c = anyEntry(48, 24), other = anyEntry(64, 8);
 
   Bytes laidOut(std::vector<Entry> entries) const { return build(iconFile(std::move(entries))); }
   void expectRemovalAsked(BoxAnswer answer) {
@@ -64,7 +64,7 @@ TEST_F(BrowserRearrangingTest, RemovingGoesByTheRefNotByThePlaceInTheList) {
 }
 
 TEST_F(BrowserRearrangingTest, TheSamePlaceIsSelectedAfterwardsOrTheLast) {
-  browse({a, b, c, iconEntry(24, 4)});
+  browse({a, b, c, anyEntry(24, 4)});
   remove(1);
   EXPECT_EQ(browser->selectedIcon(), 1);
   EXPECT_TRUE(previews(bytesOf(path), 1));
@@ -136,16 +136,16 @@ TEST_F(BrowserRearrangingTest, AFileInAContainerKeepsItsEntries) {
 TEST_F(BrowserRearrangingTest, NothingIsRemovedWithoutASelectionOrFromAFileOf100) {
   browse({a, b}, true);
   browser->cmdRemove();
-  browse(std::vector<Entry>(100, iconEntry(16, 1)));
+  browse(std::vector<Entry>(100, anyEntry(16, 1)));
   browser->cmdRemove();
   browser->cmdReposition();
   EXPECT_FALSE(browser->showsReposition());
 }
 
 TEST_F(BrowserRearrangingTest, EntryNinetyNineIsRemovedAndNoOther) {
-  std::vector<Entry> entries(99, iconEntry(16, 1));
-  entries[8] = entries[97] = iconEntry(16, 4);
-  entries[98] = iconEntry(16, 8);
+  std::vector<Entry> entries(99, anyEntry(16, 1));
+  entries[8] = entries[97] = anyEntry(16, 4);
+  entries[98] = anyEntry(16, 8);
   browse(entries);
   remove(98);
   entries.pop_back();

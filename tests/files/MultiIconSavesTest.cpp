@@ -37,14 +37,14 @@ class BrowserSavesTest : public BrowserTest {
 };
 
 TEST_F(BrowserSavesTest, SavesTheSelectedEntryAsAFileOfItsOwn) {
-  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  browse({anyEntry(16, 4), anyEntry(32, 8)});
   EXPECT_EQ(save("one.ico"), "tools_32_256.ico");
-  EXPECT_EQ(bytesOf(folder.path("one.ico")), build(iconEntry(32, 8)));
+  EXPECT_EQ(bytesOf(folder.path("one.ico")), build(anyEntry(32, 8)));
   EXPECT_FALSE(state.screen.hourglass);
 }
 
 TEST_F(BrowserSavesTest, TheDialogOffersIconFiles) {
-  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  browse({anyEntry(16, 4), anyEntry(32, 8)});
   state.process.mLastFolder = "/last";
   save("one.ico");
   const FileDialogRequest& request = dialogs.requests.back();
@@ -54,7 +54,7 @@ TEST_F(BrowserSavesTest, TheDialogOffersIconFiles) {
 }
 
 TEST_F(BrowserSavesTest, ProposesBitsForTrueColorAndColorsOtherwise) {
-  browse({iconEntry(32, 24), iconEntry(48, 32), iconEntry(16, 1), iconEntry(24, 4), entryOf(anyPicture(24, 8), 0, 0)});
+  browse({anyEntry(32, 24), anyEntry(48, 32), anyEntry(16, 1), anyEntry(24, 4), entryOf(anyPicture(24, 8), 0, 0)});
   const std::vector<std::string> expected{"tools_32_24bpp.ico", "tools_48_32bpp.ico", "tools_16_2.ico",
                                           "tools_24_16.ico", "tools_24_256.ico"};
   for (int item = 0; item < 5; ++item) {
@@ -64,21 +64,21 @@ TEST_F(BrowserSavesTest, ProposesBitsForTrueColorAndColorsOtherwise) {
 }
 
 TEST_F(BrowserSavesTest, ASaveOverTheFileItselfByAnotherNameListsItAnew) {
-  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  browse({anyEntry(16, 4), anyEntry(32, 8)});
   fs::create_symlink(browser->file(), folder.path("link.ico"));
   save("link.ico");
   EXPECT_EQ(browser->lisIcons().size(), 1U);
 }
 
 TEST_F(BrowserSavesTest, ACancelWritesNothing) {
-  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  browse({anyEntry(16, 4), anyEntry(32, 8)});
   save("");
   EXPECT_EQ(std::distance(fs::directory_iterator(folder.folder()), {}), 1);
 }
 
 // Header 0, 1, 1; the entry as it was, apart from its offset; the image as it was.
 TEST_F(BrowserSavesTest, EntryAndImageAreCopiedWithTheirLies) {
-  Bytes file = build(iconFile({iconEntry(16, 4), entryOf(anyPicture(32, 8), 77, 8)}));
+  Bytes file = build(iconFile({anyEntry(16, 4), entryOf(anyPicture(32, 8), 77, 8)}));
   file[0] = 9;           // idReserved
   file[6 + 16 + 3] = 5;  // bReserved
   file[6 + 16 + 4] = 3;  // wPlanes
@@ -91,7 +91,7 @@ TEST_F(BrowserSavesTest, EntryAndImageAreCopiedWithTheirLies) {
 }
 
 TEST_F(BrowserSavesTest, AnImageHasTheBytesThatItsEntryTells) {
-  Entry longer = iconEntry(32, 4), shorter = iconEntry(16, 4);
+  Entry longer = anyEntry(32, 4), shorter = anyEntry(16, 4);
   longer.bytesInRes = static_cast<std::uint32_t>(longer.image.size() + 20);  // reaches into the next image
   shorter.bytesInRes = 50;
   const Bytes file = build(iconFile({longer, shorter}));
@@ -106,7 +106,7 @@ TEST_F(BrowserSavesTest, AnImageHasTheBytesThatItsEntryTells) {
 }
 
 TEST_F(BrowserSavesTest, AReadOnlyTargetIsToldAndKept) {
-  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  browse({anyEntry(16, 4), anyEntry(32, 8)});
   makeReadOnly(folder.write("one.ico", {1, 2, 3}));
   boxes.expectTold(kReadOnly, BoxIcon::Exclamation);
   save("one.ico");
@@ -114,7 +114,7 @@ TEST_F(BrowserSavesTest, AReadOnlyTargetIsToldAndKept) {
 }
 
 TEST_F(BrowserSavesTest, AFullDiskIsTold) {
-  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  browse({anyEntry(16, 4), anyEntry(32, 8)});
   boxes.expectTold("Failed to save this icon", BoxIcon::Exclamation);
   const FullDisk full(1000);
   save("one.ico");
@@ -122,21 +122,21 @@ TEST_F(BrowserSavesTest, AFullDiskIsTold) {
 }
 
 TEST_F(BrowserSavesTest, NothingIsSavedWithoutASelection) {
-  browse({iconEntry(16, 4), iconEntry(32, 8)}, true);
+  browse({anyEntry(16, 4), anyEntry(32, 8)}, true);
   browser->cmdSaveSingle();
   browser->cmdSplitSave();
   EXPECT_TRUE(dialogs.requests.empty());
 }
 
 TEST_F(BrowserSavesTest, TheAddFaceSavesToo) {
-  browse({iconEntry(16, 4), iconEntry(32, 8)}, true);
+  browse({anyEntry(16, 4), anyEntry(32, 8)}, true);
   browser->clickIcon(0);
   EXPECT_EQ(save("one.ico"), "tools_16_16.ico");
-  EXPECT_EQ(bytesOf(folder.path("one.ico")), build(iconEntry(16, 4)));
+  EXPECT_EQ(bytesOf(folder.path("one.ico")), build(anyEntry(16, 4)));
 }
 
 TEST_F(BrowserSavesTest, WhatIsSavedOverTheListedFileIsListed) {
-  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  browse({anyEntry(16, 4), anyEntry(32, 8)});
   save("tools.ico");
   EXPECT_EQ(browser->lisIcons(), (Items{"Ref 1  \t8 BPP\t256-Color\t   32 x  32"}));
   EXPECT_EQ(browser->selectedIcon(), 0);
@@ -145,19 +145,19 @@ TEST_F(BrowserSavesTest, WhatIsSavedOverTheListedFileIsListed) {
 // Split Save.
 
 TEST_F(BrowserSavesTest, SplitsTheListedEntriesIntoFiles) {
-  const Bytes file = build(iconFile({iconEntry(16, 4), iconEntry(64, 8), iconEntry(32, 24), iconEntry(48, 1)}));
+  const Bytes file = build(iconFile({anyEntry(16, 4), anyEntry(64, 8), anyEntry(32, 24), anyEntry(48, 1)}));
   browse(file);
   split(3);
   EXPECT_EQ(namesSplit(), (Items{"tools_16_16.ico", "tools_32_24bpp.ico", "tools_48_2.ico"}));
-  EXPECT_EQ(bytesOf(folder.path("out/tools_16_16.ico")), build(iconEntry(16, 4)));
-  EXPECT_EQ(bytesOf(folder.path("out/tools_32_24bpp.ico")), build(iconEntry(32, 24)));
-  EXPECT_EQ(bytesOf(folder.path("out/tools_48_2.ico")), build(iconEntry(48, 1)));
+  EXPECT_EQ(bytesOf(folder.path("out/tools_16_16.ico")), build(anyEntry(16, 4)));
+  EXPECT_EQ(bytesOf(folder.path("out/tools_32_24bpp.ico")), build(anyEntry(32, 24)));
+  EXPECT_EQ(bytesOf(folder.path("out/tools_48_2.ico")), build(anyEntry(48, 1)));
   EXPECT_EQ(bytesOf(path), file);
   EXPECT_FALSE(state.screen.hourglass);
 }
 
 TEST_F(BrowserSavesTest, TheSelectionComesBackAfterASplit) {
-  const Bytes file = build(iconFile({iconEntry(16, 4), iconEntry(32, 24), iconEntry(48, 1)}));
+  const Bytes file = build(iconFile({anyEntry(16, 4), anyEntry(32, 24), anyEntry(48, 1)}));
   browse(file);
   browser->clickIcon(1);
   std::vector<int> followed;
@@ -177,17 +177,17 @@ TEST_F(BrowserSavesTest, OfTwoEntriesWithOneNameTheLaterStays) {
 }
 
 TEST_F(BrowserSavesTest, ExistingFilesAreOverwrittenAndFailuresNotReported) {
-  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  browse({anyEntry(16, 4), anyEntry(32, 8)});
   fs::create_directory(folder.path("out"));
   folder.write("out/tools_32_256.ico", Bytes(5000));
   makeReadOnly(folder.write("out/tools_16_16.ico", {1, 2, 3}));
   split(2);
   EXPECT_EQ(bytesOf(folder.path("out/tools_16_16.ico")), (Bytes{1, 2, 3}));
-  EXPECT_EQ(bytesOf(folder.path("out/tools_32_256.ico")), build(iconEntry(32, 8)));
+  EXPECT_EQ(bytesOf(folder.path("out/tools_32_256.ico")), build(anyEntry(32, 8)));
 }
 
 TEST_F(BrowserSavesTest, NoAnswerOtherThanYesSplits) {
-  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  browse({anyEntry(16, 4), anyEntry(32, 8)});
   split(2, BoxAnswer::No);
   EXPECT_TRUE(namesSplit().empty());
   dialogs.paths.push_back("");
@@ -195,14 +195,14 @@ TEST_F(BrowserSavesTest, NoAnswerOtherThanYesSplits) {
 }
 
 TEST_F(BrowserSavesTest, AFolderThatEndsWithASeparatorGetsNoSecondOne) {
-  browse({iconEntry(16, 4), iconEntry(32, 8)});
+  browse({anyEntry(16, 4), anyEntry(32, 8)});
   dialogs.paths.push_back("/");
   boxes.expectAsked(question("/tools", 2), BoxAnswer::No);
   browser->cmdSplitSave();
 }
 
 TEST_F(BrowserSavesTest, EntriesThatCannotBeShownAreSplitAllTheSame) {
-  browse({iconEntry(32, 4), pngEntry(16), iconEntry(48, 8)});
+  browse({anyEntry(32, 4), pngEntry(16), anyEntry(48, 8)});
   split(3);
   EXPECT_EQ(bytesOf(folder.path("out/tools_16_32bpp.ico")), build(pngEntry(16)));
   EXPECT_EQ(namesSplit().size(), 3u);

@@ -2,6 +2,7 @@
 // programs would, bytes and all.
 #include "platform/qt/PictureCorner.h"
 #include "platform/qt/QtClipboard.h"
+#include "support/ProcessUse.h"
 
 #include <QBuffer>
 #include <QClipboard>
@@ -12,7 +13,6 @@
 
 #include <array>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 namespace gp {
 namespace {
@@ -83,12 +83,6 @@ QByteArray hugePng(quint32 width, quint32 height, int rows, char interlace = 0) 
   QByteArray data("IDAT");
   data += qCompress(row.repeated(rows)).mid(4);
   return QByteArray("\x89PNG\r\n\x1A\n", 8) + pngChunk(header) + pngChunk(data) + pngChunk("IEND");
-}
-
-long peakMegabytes() {
-  rusage usage{};
-  getrusage(RUSAGE_SELF, &usage);
-  return usage.ru_maxrss / 1024;
 }
 
 class QtClipboardTest : public testing::Test {
@@ -211,9 +205,9 @@ TEST_F(QtClipboardTest, AnotherFormatUnderTheNameOfOneIsRefused) {
 
 TEST_F(QtClipboardTest, OfAHugePictureOnlyTheFirstRowsAreDecoded) {
   offer({{"image/png", hugePng(20000, 20000, 60)}});
-  const long before = peakMegabytes();
+  const std::size_t before = test::peakMemory();
   ASSERT_TRUE(get());
-  EXPECT_LE(peakMegabytes() - before, 64);
+  EXPECT_LE(test::peakMemory() - before, 64 * test::kMegabyte);
   EXPECT_EQ(image.width, 20000);
   EXPECT_EQ(image.height, 20000);
   EXPECT_EQ(image.corner.width(), kLimit);
@@ -222,12 +216,12 @@ TEST_F(QtClipboardTest, OfAHugePictureOnlyTheFirstRowsAreDecoded) {
 }
 
 TEST_F(QtClipboardTest, AHugePictureThatCannotBeReadInPartIsRefused) {
-  const long before = peakMegabytes();
+  const std::size_t before = test::peakMemory();
   offer({{"image/png", hugePng(20000, 20000, 10, 1)}});
   EXPECT_FALSE(get());
   offer({{"image/png", hugePng(2000000000, 2000000000, 0)}});
   EXPECT_FALSE(get());
-  EXPECT_LE(peakMegabytes() - before, 64);
+  EXPECT_LE(test::peakMemory() - before, 64 * test::kMegabyte);
   expectUntouched();
 }
 

@@ -26,14 +26,30 @@ std::optional<std::uintmax_t> sizeOf(const fs::path& path) {
   return error ? std::nullopt : std::optional(size);
 }
 
-std::optional<FileBytes> readBytes(const fs::path& path, std::size_t size) {
+// Zeros that the system gives only when they are touched. Nothing without the room for them.
+FileBytes::Memory zeros(std::size_t size) {
+  return FileBytes::Memory(static_cast<std::uint8_t*>(std::calloc(std::max<std::size_t>(size, 1), 1)));
+}
+
+std::optional<FileBytes> readBytes(const fs::path& path, std::size_t size, std::span<const FileRange> ranges) {
   std::ifstream stream(path, std::ios::binary);
-  // Not zeroed: every byte that is handed out has been read.
-  std::unique_ptr<std::uint8_t[]> bytes(new (std::nothrow) std::uint8_t[size]);
+  FileBytes::Memory bytes = zeros(size);
   if (!stream || !bytes) return std::nullopt;
-  stream.read(reinterpret_cast<char*>(bytes.get()), static_cast<std::streamsize>(size));
-  if (stream.bad()) return std::nullopt;
-  return FileBytes(std::move(bytes), static_cast<std::size_t>(stream.gcount()));
+  for (const auto& [begin, end] : ranges) {
+    if (begin >= size) break;
+    const std::size_t wanted = std::min<std::uint64_t>(end, size) - begin;
+    stream.seekg(static_cast<std::streamoff>(begin));
+    stream.read(reinterpret_cast<char*>(bytes.get()) + begin, static_cast<std::streamsize>(wanted));
+    if (stream.bad()) return std::nullopt;
+    const auto read = static_cast<std::size_t>(stream.gcount());
+    if (read < wanted) return FileBytes(std::move(bytes), begin + read);  // shortened meanwhile
+  }
+  return FileBytes(std::move(bytes), size);
+}
+
+std::optional<FileBytes> readBytes(const fs::path& path, std::size_t size) {
+  const FileRange whole{0, size};
+  return readBytes(path, size, {&whole, 1});
 }
 
 bool mayReplace(const fs::path& path) {
@@ -121,8 +137,8 @@ WriteOutcome overwrite(const fs::path& path, Pieces pieces, Piece former, std::u
 
 }  // namespace
 
-FileBytes::FileBytes(std::vector<std::uint8_t> bytes)
-    : bytes_(std::make_unique_for_overwrite<std::uint8_t[]>(bytes.size())), size_(bytes.size()) {
+FileBytes::FileBytes(std::span<const std::uint8_t> bytes) : bytes_(zeros(bytes.size())), size_(bytes.size()) {
+  if (!bytes_) throw std::bad_alloc();
   std::copy(bytes.begin(), bytes.end(), bytes_.get());
 }
 
@@ -134,6 +150,13 @@ std::optional<FileBytes> readFile(const std::string& path) {
 std::optional<FileBytes> readFileStart(const std::string& path, std::size_t count) {
   const auto size = sizeOf(path);
   return size ? readBytes(path, static_cast<std::size_t>(std::min({*size, std::uintmax_t{count}, kMaxFileBytes})))
+              : std::nullopt;
+}
+
+std::optional<FileBytes> readFileRanges(const std::string& path, std::span<const FileRange> ranges) {
+  const auto size = sizeOf(path);
+  const std::uint64_t extent = ranges.empty() ? 0 : ranges.back().end;
+  return size ? readBytes(path, static_cast<std::size_t>(std::min<std::uintmax_t>(*size, extent)), ranges)
               : std::nullopt;
 }
 

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <memory>
 #include <optional>
 #include <span>
@@ -12,23 +13,37 @@
 
 namespace gp {
 
-// The bytes of one file, read whole.
+// The bytes of one file.
 class FileBytes {
  public:
+  struct Free {
+    void operator()(std::uint8_t* bytes) const { std::free(bytes); }
+  };
+  using Memory = std::unique_ptr<std::uint8_t[], Free>;
+
   FileBytes() = default;
-  explicit FileBytes(std::vector<std::uint8_t> bytes);
-  FileBytes(std::unique_ptr<std::uint8_t[]> bytes, std::size_t size) : bytes_(std::move(bytes)), size_(size) {}
+  explicit FileBytes(std::span<const std::uint8_t> bytes);
+  FileBytes(Memory bytes, std::size_t size) : bytes_(std::move(bytes)), size_(size) {}
   std::span<const std::uint8_t> span() const { return {bytes_.get(), size_}; }
 
  private:
-  std::unique_ptr<std::uint8_t[]> bytes_;
+  Memory bytes_;
   std::size_t size_ = 0;
+};
+
+// The places [begin, end) of a file.
+struct FileRange {
+  std::uint64_t begin = 0;
+  std::uint64_t end = 0;
 };
 
 // The whole file; nothing when it is no regular file, cannot be read, or has more than 256 MB.
 std::optional<FileBytes> readFile(const std::string& path);
 // The first `count` bytes of a file, or fewer if it is shorter; nothing as above.
 std::optional<FileBytes> readFileStart(const std::string& path, std::size_t count);
+// A file up to the end of the last range, of which only the ranges are read; they are in ascending order and apart from
+// each other. What lies between them is zero and takes no memory. Shorter if the file is; nothing as above.
+std::optional<FileBytes> readFileRanges(const std::string& path, std::span<const FileRange> ranges);
 // Writes a file in place of an existing one, whose permissions and links it keeps. False when the old one is read-only
 // (no write permission for its owner) or no regular file, and then it stays as it is; false too when the new one cannot
 // be written whole, and then neither is left.

@@ -1,9 +1,9 @@
 #include "platform/files/Files.h"
 #include "support/FullDisk.h"
+#include "support/ProcessUse.h"
 #include "support/TempFolder.h"
 
 #include <cstdlib>
-#include <ctime>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <vector>
@@ -60,11 +60,44 @@ TEST_F(Files, TheStartOfAFileIsAtMostTheFile) {
 TEST_F(Files, AFileOfOneGigabyteIsRefusedAtOnceButItsStartIsRead) {
   const std::string path = folder_.write("a", "abc");
   fs::resize_file(path, std::uintmax_t{1} << 30);
-  const std::clock_t before = std::clock();
+  const std::size_t before = test::bytesRead(), memory = test::peakMemory();
   EXPECT_FALSE(readFile(path));
   EXPECT_EQ(textOf(readFileStart(path, 3)), "abc");
   EXPECT_TRUE(FileExists(path));
-  EXPECT_LT(static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC, 0.1);
+  EXPECT_LT(test::bytesRead() - before, test::kMegabyte);
+  EXPECT_LT(test::peakMemory() - memory, test::kMegabyte);
+}
+
+TEST_F(Files, OfRangesOnlyTheirBytesAreRead) {
+  const std::string path = folder_.write("a", "abcdefghij");
+  const FileRange ranges[] = {{1, 3}, {5, 8}};
+  using namespace std::string_literals;
+  EXPECT_EQ(textOf(readFileRanges(path, ranges)), "\0bc\0\0fgh"s);
+  EXPECT_EQ(textOf(readFileRanges(path, {})), "");
+  EXPECT_EQ(textOf(readFileRanges(folder_.file("none"), ranges)), "nothing");
+}
+
+TEST_F(Files, RangesEndWithTheFile) {
+  const std::string path = folder_.write("a", "abcdef");
+  const FileRange across[] = {{0, 2}, {4, 100}}, behind[] = {{0, 2}, {6, 8}, {50, 60}};
+  using namespace std::string_literals;
+  EXPECT_EQ(textOf(readFileRanges(path, across)), "ab\0\0ef"s);
+  EXPECT_EQ(textOf(readFileRanges(path, behind)), "ab\0\0\0\0"s);
+}
+
+TEST_F(Files, WhatLiesBetweenRangesTakesNoMemory) {
+  const std::string path = folder_.write("a", "abc");
+  constexpr std::uintmax_t kGigabyte = std::uintmax_t{1} << 30;
+  fs::resize_file(path, kGigabyte);
+  const std::size_t before = test::bytesRead(), memory = test::peakMemory();
+  const FileRange ranges[] = {{0, 3}, {kGigabyte - 1, kGigabyte}};
+  const auto bytes = readFileRanges(path, ranges);
+  ASSERT_TRUE(bytes);
+  EXPECT_EQ(bytes->span().size(), kGigabyte);
+  EXPECT_EQ(bytes->span()[2], 'c');
+  EXPECT_EQ(bytes->span()[3], 0);
+  EXPECT_LT(test::bytesRead() - before, test::kMegabyte);
+  EXPECT_LT(test::peakMemory() - memory, test::kMegabyte);
 }
 
 TEST_F(Files, ASparseFileIsReadWithItsZeros) {
