@@ -2,10 +2,10 @@
 
 #include "platform/gdi/Pens.h"
 #include "platform/gdi/SurfaceOps.h"
+#include "platform/scope/FlagFor.h"
 #include "platform/text/Numbers.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace gp {
 
@@ -103,11 +103,10 @@ void ColorMixer::adjustSliders(MixChange change) {
 
 void ColorMixer::cmdAdjMix(MixChange change) {
   if (!isEnabled(change)) return;
-  const bool before = std::exchange(movesSliders_, true);
+  const FlagFor moving(movesSliders_);
   adjustSliders(change);
   rebuildMixGradient();
   if (change != MixChange::CopySelected) colors_.setCurrentColor(mixed_);
-  movesSliders_ = before;
 }
 
 void ColorMixer::cboIntervalColor(int index) { intervalIndex_ = std::clamp(index, 0, kLastInterval - kFirstInterval); }

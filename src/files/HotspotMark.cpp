@@ -1,5 +1,7 @@
 #include "files/HotspotMark.h"
 
+#include "platform/scope/FlagFor.h"
+
 #include <string>
 
 namespace gp {
@@ -22,17 +24,6 @@ ShownIcon shownIcon(const EditState& state) {
   const IconContainerRec& record = state.current();
   return {state.mCurContainer, record.size, record.present, record.path.trimmed()};
 }
-
-class FlagFor {
- public:
-  explicit FlagFor(bool& flag) : flag_(flag) { flag_ = true; }
-  ~FlagFor() { flag_ = false; }
-  FlagFor(const FlagFor&) = delete;
-  FlagFor& operator=(const FlagFor&) = delete;
-
- private:
-  bool& flag_;
-};
 
 }  // namespace
 

@@ -3,8 +3,8 @@
 #include "document/Hourglass.h"
 #include "files/IconMessages.h"
 #include "files/IconProbe.h"
-#include "files/MultiIconBrowserParts.h"
 #include "platform/gdi/SurfaceOps.h"
+#include "platform/scope/FlagFor.h"
 #include "platform/text/Numbers.h"
 #include "platform/text/Paths.h"
 
@@ -57,7 +57,7 @@ MultiIconBrowser::MultiIconBrowser(const FilesContext& context)
       repositionPreview_(context.state) {}
 
 void MultiIconBrowser::changed() {
-  const Busy busy(mBusy_);
+  const FlagFor busy(mBusy_);
   if (onChange) onChange();
 }
 

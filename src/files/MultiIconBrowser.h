@@ -81,8 +81,6 @@ class MultiIconBrowser {
   std::function<void()> onUnload;
 
  private:
-  class Busy;
-
   void changed();
   void unload();
   bool isEditFace() const { return face_ == BrowserFace::Edit; }

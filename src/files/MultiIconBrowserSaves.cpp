@@ -2,7 +2,7 @@
 #include "document/Hourglass.h"
 #include "files/FileQuestions.h"
 #include "files/IconMessages.h"
-#include "files/MultiIconBrowserParts.h"
+#include "files/MultiIconBrowser.h"
 #include "files/SingleEntryFile.h"
 #include "platform/files/Files.h"
 #include "platform/text/Paths.h"

@@ -1,7 +1,7 @@
 // The browser's changes of its own file: an entry taken out, and all of them put into another sequence.
 #include "document/Hourglass.h"
 #include "files/IconUpdates.h"
-#include "files/MultiIconBrowserParts.h"
+#include "files/MultiIconBrowser.h"
 #include "files/MultiIconTexts.h"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 
     tests/e2e/run_all.py [--build DIR] [PART-OF-NAME...]
 
-Prints PASS, FAIL or SKIP per test; the last line counts them.
+Prints PASS, FAIL or SKIP and the seconds per test; the last line counts them.
 """
 import argparse
 import glob
@@ -12,6 +12,7 @@ import re
 import signal
 import subprocess
 import sys
+import time
 
 HERE = os.path.dirname(os.path.realpath(__file__))
 SECONDS_PER_TEST = 900  # on a busy machine
@@ -60,10 +61,11 @@ def main():
     counts = {'PASS': 0, 'FAIL': 0, 'SKIP': 0}
     # One after another: each has a desktop to itself, and a person does not work on a machine that is busy elsewhere.
     for test in tests:
+        start = time.monotonic()
         status, output = run(executable, pictures, *test)
         word = {0: 'PASS', SKIPPED: 'SKIP'}.get(status, 'FAIL')
         counts[word] += 1
-        print(word, test[1], '' if word == 'PASS' else '\n' + output, flush=True)
+        print(word, test[1], f'({time.monotonic() - start:.0f} s)', '' if word == 'PASS' else '\n' + output, flush=True)
     print(f'{counts["PASS"]} passed, {counts["FAIL"]} failed, {counts["SKIP"]} skipped')
     return 1 if counts['FAIL'] or not tests else 0
 
