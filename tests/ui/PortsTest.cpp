@@ -20,9 +20,11 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <filesystem>
 #include <functional>
 #include <gtest/gtest.h>
@@ -95,6 +97,19 @@ TEST(QtMessageBoxes, HaveTheirTitlePlainTextDefaultButtonAndEscape) {
     });
     EXPECT_EQ(QtMessageBoxes().show(text, look.buttons, look.icon, look.suggested), look.onEscape);
   }
+}
+
+TEST(QtMessageBoxes, ABoxIsAsWideAsItsLinesIfTheScreenIs) {
+  const auto widthOf = [](const std::string& text) {
+    QMessageBox box;
+    QtMessageBoxes::prepare(box, text, BoxButtons::Ok, BoxIcon::None, BoxAnswer::Ok);
+    return box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))->minimumWidth();
+  };
+  const QFontMetrics metrics(QMessageBox().findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))->font());
+  const int screen = QGuiApplication::primaryScreen()->availableGeometry().width();
+  EXPECT_EQ(widthOf("A short line,\nand one that is longer."),
+            std::min(metrics.horizontalAdvance("and one that is longer."), screen - 600));
+  EXPECT_EQ(widthOf(std::string(1000, 'x')), screen - 600);
 }
 
 TEST(QtMessageBoxes, EnterGivesTheSuggestedAnswer) {

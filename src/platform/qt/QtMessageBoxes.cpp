@@ -3,10 +3,17 @@
 #include "platform/qt/DialogOwner.h"
 #include "platform/qt/PathText.h"
 
+#include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace gp {
 namespace {
+
+// What Qt's box wants of the screen beside its text: it leaves 480 pixels free, and has its picture and margins.
+constexpr int kBesideText = 600;
 
 QMessageBox::StandardButtons standardButtons(BoxButtons buttons) {
   switch (buttons) {
@@ -69,6 +76,16 @@ BoxAnswer answerOf(int button, BoxButtons buttons) {
   return escapeAnswer(buttons);
 }
 
+// Texts are written in lines, which stay whole as far as the screen is wide enough; Qt alone would break those beyond
+// half a screen once more.
+void keepLines(QMessageBox& box) {
+  auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  if (!label) return;
+  label->ensurePolished();
+  const int lines = label->fontMetrics().size(Qt::TextExpandTabs, box.text()).width();
+  label->setMinimumWidth(std::clamp(box.screen()->availableGeometry().width() - kBesideText, 0, lines));
+}
+
 }  // namespace
 
 void QtMessageBoxes::prepare(QMessageBox& box, const std::string& text, BoxButtons buttons, BoxIcon icon,
@@ -80,6 +97,7 @@ void QtMessageBoxes::prepare(QMessageBox& box, const std::string& text, BoxButto
   box.setStandardButtons(standardButtons(buttons));
   box.setDefaultButton(standardButton(suggested));
   box.setEscapeButton(standardButton(escapeAnswer(buttons)));
+  keepLines(box);
 }
 
 BoxAnswer QtMessageBoxes::show(const std::string& text, BoxButtons buttons, BoxIcon icon, BoxAnswer suggested) {
