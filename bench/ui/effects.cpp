@@ -2,6 +2,10 @@
 #include "effects/Effects.h"
 
 #include "../ManyIconsFile.h"
+#include "effects/ButtonizePanel.h"
+#include "effects/ConfinePanel.h"
+#include "effects/DisabledImagePanel.h"
+#include "effects/ShadesPanel.h"
 #include "effects/ui/ButtonizePanelView.h"
 #include "effects/ui/ConfinePanelView.h"
 #include "effects/ui/DisabledImagePanelView.h"
@@ -76,36 +80,36 @@ void measure(benchmark::State& state, Panel& panel, Change change) {
   }
 }
 
-void relief(benchmark::State& state, ReliefKind kind) {
+void relief(benchmark::State& state, int command) {
   Panels panels;
-  ShadesPanel& panel = panels.effects().shades;
-  panel.open(kind);
+  ShadesPanel& panel = panels.effects().panel<ShadesPanel>();
+  panel.open(command);
   measure<ShadesPanelView>(state, panel, [&](int turn) { panel.setUseSelectedColor(turn % 2 == 0); });
 }
-BENCHMARK_CAPTURE(relief, embossed, ReliefKind::Embossed)->UseRealTime()->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(relief, engraved, ReliefKind::Engraved)->UseRealTime()->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(relief, raised, ReliefKind::Raised)->UseRealTime()->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(relief, shadowed, ReliefKind::Shadowed)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(relief, embossed, 11)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(relief, engraved, 12)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(relief, raised, 13)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(relief, shadowed, 14)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 void buttonStyles(benchmark::State& state) {
   Panels panels;
-  ButtonizePanel& panel = panels.effects().buttonize;
-  panel.open();
+  ButtonizePanel& panel = panels.effects().panel<ButtonizePanel>();
+  panel.open(ButtonizePanel::kCommands.front());
   measure<ButtonizePanelView>(state, panel, [&](int turn) { panel.pickPattern(turn % kButtonPatterns); });
 }
 BENCHMARK(buttonStyles)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 void disabledButton(benchmark::State& state) {
   Panels panels;
-  DisabledImagePanel& panel = panels.effects().disabledImage;
-  panel.open();
+  DisabledImagePanel& panel = panels.effects().panel<DisabledImagePanel>();
+  panel.open(DisabledImagePanel::kCommands.front());
   measure<DisabledImagePanelView>(state, panel, [&](int) { panel.preview(); });
 }
 BENCHMARK(disabledButton)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 void reduction(benchmark::State& state, int run, int method) {
   Panels panels;
-  ConfinePanel& panel = panels.effects().confine;
+  ConfinePanel& panel = panels.effects().panel<ConfinePanel>();
   panel.doConfineColors(run);
   measure<ConfinePanelView>(state, panel, [&](int) { panel.pickMethod(method); });
 }

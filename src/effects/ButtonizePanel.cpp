@@ -1,14 +1,8 @@
 #include "effects/ButtonizePanel.h"
 
-#include "document/PanelNumbers.h"
-
 namespace gp {
 
-ButtonizePanel::ButtonizePanel(EffectFrame& frame) : EffectPanel(frame, kButtonizePanel) {}
-
-void ButtonizePanel::open() {
-  if (frame().mayApply()) show();
-}
+ButtonizePanel::ButtonizePanel(EffectFrame& frame) : EffectPanel(frame, kNumber) {}
 
 void ButtonizePanel::pickPattern(int index) {
   if (index < 0 || index >= kButtonPatterns) return;

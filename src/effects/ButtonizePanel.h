@@ -4,13 +4,16 @@
 #include "effects/Buttonize.h"
 #include "effects/EffectPanel.h"
 
+#include <array>
+
 namespace gp {
 
 class ButtonizePanel final : public EffectPanel {
  public:
-  explicit ButtonizePanel(EffectFrame& frame);
+  static constexpr int kNumber = 7;
+  static constexpr std::array kCommands{3};
 
-  void open();
+  explicit ButtonizePanel(EffectFrame& frame);
 
   // cboButtonizePattern. An index outside is ignored.
   int cboButtonizePattern() const { return settings_.pattern; }

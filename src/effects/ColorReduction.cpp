@@ -33,12 +33,13 @@ void snapAll(clsGPDIB& dib) {
 struct Reduction {
   ReductionMethod method;
   void (*reduce)(clsGPDIB& dib);
+  bool keepsInverting = false;  // pixels that invert stay so
 };
 // Those that know nothing of a Mask.
 constexpr std::array kReductions{Reduction{ReductionMethod::Optimal, dithered<ditherToOptimal>},
                                  Reduction{ReductionMethod::System, matchToHalftone},
                                  Reduction{ReductionMethod::Optimized, dithered<ditherToStandard>},
-                                 Reduction{ReductionMethod::Nearest, snapAll},
+                                 Reduction{ReductionMethod::Nearest, snapAll, true},
                                  Reduction{ReductionMethod::StandardVga, matchToStandard},
                                  Reduction{ReductionMethod::Weighted, ditherWeighted},
                                  Reduction{ReductionMethod::Ordered, ditherOrdered}};
@@ -75,8 +76,10 @@ IconPicture cutOff(const Surface& image, const Surface& mask, int threshold) {
 IconPicture reduceColors(const Surface& image, const Surface& mask, const ReductionSettings& settings) {
   const auto reduction = std::ranges::find(kReductions, settings.method, &Reduction::method);
   if (reduction == kReductions.end()) return cutOff(image, mask, settings.threshold);
+  const Surface picture = reduced(image, *reduction);
+  if (reduction->keepsInverting) return {picture, mask};
   IconPicture icon{Surface(image.width(), image.height(), kBlack), mask};
-  copyPainted(reduced(image, *reduction), mask, icon.image);
+  copyPainted(picture, mask, icon.image);
   return icon;
 }
 

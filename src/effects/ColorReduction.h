@@ -14,8 +14,8 @@ struct ReductionSettings {
 
 // The icon with fewer colours: Optimal has 256 chosen for this picture, System those of the platform's halftone
 // palette; Optimized, Nearest and StandardVga have the sixteen standard colours; the others are black and white. All
-// but SelectCutoff keep the Mask, and leave the image black wherever it is not black. SelectCutoff paints black alone
-// and makes the rest transparent.
+// but SelectCutoff keep the Mask. All but Nearest leave the image black where the Mask is not, so that pixels which
+// invert become transparent. SelectCutoff paints black alone and makes the rest transparent.
 IconPicture reduceColors(const Surface& image, const Surface& mask, const ReductionSettings& settings);
 
 }  // namespace gp

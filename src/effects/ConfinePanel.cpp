@@ -1,6 +1,5 @@
 #include "effects/ConfinePanel.h"
 
-#include "document/PanelNumbers.h"
 #include "effects/EffectTexts.h"
 #include "files/ColorCount.h"
 
@@ -28,7 +27,7 @@ const Run& rowOf(int run) { return kRuns.at(static_cast<std::size_t>(run)); }
 
 }  // namespace
 
-ConfinePanel::ConfinePanel(EffectFrame& frame) : EffectPanel(frame, kConfinePanel) {}
+ConfinePanel::ConfinePanel(EffectFrame& frame) : EffectPanel(frame, kNumber) {}
 
 void ConfinePanel::doConfineColors(int run) {
   if (!frame().mayApply() || hasFewColors(run)) return;

@@ -15,6 +15,9 @@ inline constexpr int kThresholdCount = 354;
 
 class ConfinePanel final : public EffectPanel {
  public:
+  static constexpr int kNumber = 19;
+  static constexpr std::array<int, 0> kCommands{};  // it has commands of its own
+
   explicit ConfinePanel(EffectFrame& frame);
 
   // Brings the Panel up for run 0, 1 or 2. An icon that has so few colours already is not reduced: what its record
@@ -38,7 +41,7 @@ class ConfinePanel final : public EffectPanel {
  protected:
   IconPicture apply(const Surface& image, const Surface& mask) const override;
   bool mayProceed() override;
-  bool recordsUndo() const override { return false; }
+  bool isStep() const override { return false; }
 
  private:
   bool hasFewColors(int run);

@@ -3,13 +3,17 @@
 
 #include "effects/EffectPanel.h"
 
+#include <array>
+
 namespace gp {
 
 class DisabledImagePanel final : public EffectPanel {
  public:
+  static constexpr int kNumber = 15;
+  static constexpr std::array kCommands{21};
+
   explicit DisabledImagePanel(EffectFrame& frame);
 
-  void open();
   const Surface& picImageForDisabledBtn() const { return sample(); }
 
  protected:

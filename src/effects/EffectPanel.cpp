@@ -5,6 +5,10 @@
 
 namespace gp {
 
+void EffectPanel::open(int) {
+  if (frame_.mayApply()) show();
+}
+
 void EffectPanel::show() {
   // Which control takes the focus depends on the settings.
   if (onChange) onChange();
@@ -33,7 +37,8 @@ void EffectPanel::proceed() {
     frame_.applyTemps(apply(state.picImage, state.picMask));
   }
   // It pumps messages, and so comes when the Panel can no longer be used.
-  if (recordsUndo()) editor.recordUndo();
+  if (!isStep()) editor.clearUndoHistory();
+  editor.recordUndo();
 }
 
 }  // namespace gp

@@ -11,12 +11,15 @@ namespace gp {
 
 class EffectPanel {
  public:
-  // `number` is the index of fraPanel.
+  // `number` is the index of fraPanel. A class of its own has it as kNumber, and as kCommands the indices of
+  // mnuEffectsSub that open it.
   EffectPanel(EffectFrame& frame, int number) : frame_(frame), number_(number) {}
   virtual ~EffectPanel() = default;
   EffectPanel(const EffectPanel&) = delete;
   EffectPanel& operator=(const EffectPanel&) = delete;
 
+  // Brings the Panel up for one of its commands, if the icon takes effects.
+  virtual void open(int command);
   // Makes the samples anew, from the icon as it is now: an empty one while there is none. Nothing while the Panel is
   // not up.
   void preview();
@@ -35,7 +38,8 @@ class EffectPanel {
   virtual IconPicture apply(const Surface& image, const Surface& mask) const = 0;
   // Whether the icon that is there now takes the effect; if not, says why.
   virtual bool mayProceed() { return frame_.mayApply(); }
-  virtual bool recordsUndo() const { return true; }
+  // Whether it is a step of Undo; if not, nothing before it can be undone either.
+  virtual bool isStep() const { return true; }
 
   // Brings the Panel up with its samples.
   void show();

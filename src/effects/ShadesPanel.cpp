@@ -1,22 +1,18 @@
 #include "effects/ShadesPanel.h"
 
-#include "document/PanelNumbers.h"
-
-#include <array>
-
 namespace gp {
 namespace {
 
 // By the values of ReliefKind.
-constexpr std::array<const char*, 4> kNames{"Embossed", "Engraved", "Raised", "Shadowed"};
+constexpr std::array<const char*, ShadesPanel::kCommands.size()> kNames{"Embossed", "Engraved", "Raised", "Shadowed"};
 
 }  // namespace
 
-ShadesPanel::ShadesPanel(EffectFrame& frame) : EffectPanel(frame, kShadesPanel) {}
+ShadesPanel::ShadesPanel(EffectFrame& frame) : EffectPanel(frame, kNumber) {}
 
-void ShadesPanel::open(ReliefKind kind) {
+void ShadesPanel::open(int command) {
   if (!frame().mayApply()) return;
-  mEffectKind_ = kind;
+  mEffectKind_ = static_cast<ReliefKind>(command - kCommands.front());
   show();
 }
 

@@ -4,13 +4,18 @@
 #include "effects/EffectPanel.h"
 #include "effects/Relief.h"
 
+#include <array>
+
 namespace gp {
 
 class ShadesPanel final : public EffectPanel {
  public:
+  static constexpr int kNumber = 13;
+  static constexpr std::array kCommands{11, 12, 13, 14};  // in the order of ReliefKind
+
   explicit ShadesPanel(EffectFrame& frame);
 
-  void open(ReliefKind kind);
+  void open(int command) override;
 
   // The name of the effect.
   const char* lblEffectsSample() const;

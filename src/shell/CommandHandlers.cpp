@@ -1,5 +1,6 @@
 #include "shell/CommandHandlers.h"
 
+#include "effects/ConfinePanel.h"
 #include "shell/PanelTable.h"
 #include "shell/Shell.h"
 
@@ -25,6 +26,7 @@ bool hasCursorSize(const Shell& shell, int) { return record(shell).present && re
 bool hasAlpha(const Shell& shell, int) { return record(shell).present && record(shell).hasAlpha; }
 bool isCursor(const Shell& shell, int) { return record(shell).present && record(shell).isCursor; }
 bool isDiscrepant(const Shell& shell, int) { return record(shell).present && record(shell).isDiscrepant(); }
+bool hasEffect(const Shell& shell, int index) { return record(shell).present && shell.effects().has(index); }
 bool hasNoRegion(const Shell& shell, int) { return !shell.state().mRegionActive; }
 
 bool hasRegion(const Shell& shell, int) { return record(shell).present && shell.state().mRegionExists; }
@@ -74,7 +76,7 @@ void copyToContainer(Shell& shell, int index) { shell.drawing().containerCopies.
 void copyFromContainer(Shell& shell, int index) { shell.drawing().containerCopies.mnuEditSubCopyFromContainer(index); }
 void rotateCommand(Shell& shell, int index) { shell.drawing().transforms.mnuRotateSubmenu(index); }
 void effect(Shell& shell, int index) { shell.effects().mnuEffectsSub(index); }
-void confineColors(Shell& shell, int index) { shell.effects().confine.doConfineColors(index); }
+void confineColors(Shell& shell, int index) { shell.effects().panel<ConfinePanel>().doConfineColors(index); }
 void loadPalette(Shell& shell, int) { shell.paletteFile().imgLoadPalette(); }
 void savePalette(Shell& shell, int) { shell.paletteFile().imgSavePalette(); }
 void chooseGrid(Shell& shell, int index) { shell.editingArea().SetGrid(index); }

@@ -17,6 +17,7 @@ bool hasCursorSize(const Shell& shell, int index);
 bool hasAlpha(const Shell& shell, int index);
 bool isCursor(const Shell& shell, int index);
 bool isDiscrepant(const Shell& shell, int index);
+bool hasEffect(const Shell& shell, int index);
 bool canPickColor(const Shell& shell, int index);
 bool hasNoRegion(const Shell& shell, int index);
 bool hasRegion(const Shell& shell, int index);

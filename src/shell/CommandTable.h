@@ -1,5 +1,5 @@
 // Every command of the program: one row per menu entry, from which menus, keys, toolbar, enabling and tests come.
-// Adding a command is one row here and one handler in Commands.cpp.
+// Adding a command is one row here and one handler in CommandHandlers.cpp.
 #pragma once
 
 #include <span>

@@ -11,10 +11,7 @@ namespace {
 
 void saveCursor(Shell& shell) { shell.iconSaver().doSaveAs(SaveMode::Cursor); }
 void rotate(Shell& shell) { shell.drawing().rotatePanel.doRotateProceed(); }
-void buttonize(Shell& shell) { shell.effects().buttonize.proceed(); }
-void shade(Shell& shell) { shell.effects().shades.proceed(); }
-void drawDisabled(Shell& shell) { shell.effects().disabledImage.proceed(); }
-void confine(Shell& shell) { shell.effects().confine.proceed(); }
+void applyEffect(Shell& shell) { shell.effects().proceed(shell.state().screen.mActivePanel); }
 
 constexpr PanelRow kPanels[] = {
     {kColorPanel, "Color", nullptr},
@@ -22,21 +19,21 @@ constexpr PanelRow kPanels[] = {
     {kCursorPanel, "Save as cursor", saveCursor},
     {3, "Print", nullptr},
     {kRotatePanel, "Rotate image (-359 to +359)", rotate},
-    {5, "Text", nullptr},
-    {6, "Auto-draw sphere", nullptr},
-    {kButtonizePanel, "Buttonize", buttonize},
-    {8, "Gradient unpainted area", nullptr},
-    {9, "Adjust brightness of colors", nullptr},
-    {10, "Sharpen/soften image", nullptr},
-    {11, "Antialiasing", nullptr},
-    {12, "Set color theme", nullptr},
-    {kShadesPanel, "Effects - shades", shade},
-    {14, "Swap elements of pixels", nullptr},
-    {kDisabledImagePanel, "Image for disabled button", drawDisabled},
-    {16, "Blend in other icon into current one", nullptr},
-    {17, "Texturize Painted Area", nullptr},
-    {18, "Resize current icon", nullptr},
-    {kConfinePanel, "Reduce number of colors", confine},
+    {5, "Text", applyEffect},
+    {6, "Auto-draw sphere", applyEffect},
+    {7, "Buttonize", applyEffect},
+    {8, "Gradient unpainted area", applyEffect},
+    {9, "Adjust brightness of colors", applyEffect},
+    {10, "Sharpen/soften image", applyEffect},
+    {11, "Antialiasing", applyEffect},
+    {12, "Set color theme", applyEffect},
+    {13, "Effects - shades", applyEffect},
+    {14, "Swap elements of pixels", applyEffect},
+    {15, "Image for disabled button", applyEffect},
+    {16, "Blend in other icon into current one", applyEffect},
+    {17, "Texturize Painted Area", applyEffect},
+    {18, "Resize current icon", applyEffect},
+    {19, "Reduce number of colors", applyEffect},
     {20, "Search && extract from exe files", nullptr},
     {21, "Preview - different screen colors", nullptr},
 };

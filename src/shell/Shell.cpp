@@ -109,6 +109,8 @@ void Shell::recordUndo() { drawing_.history.recordUndo(); }
 void Shell::clearUndoHistory() { drawing_.history.clearUndoHistory(); }
 
 void Shell::showPanel(int panel) {
+  // Nothing could be done with a region while a side panel is up.
+  if (panel != kColorPanel) drawing_.tools.imgClearAllTools();
   const Hourglass hourglass(state_, display_);
   if (panel != kCursorPanel) cursorFiles_.mark().cancel();
   if (state_.screen.mActivePanel == kColorPanel && state_.screen.aniContainerVisible) {

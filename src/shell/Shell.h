@@ -62,6 +62,7 @@ class Shell final : public Editor {
   Tools& tools() { return drawing_.tools; }
   const Tools& tools() const { return drawing_.tools; }
   Effects& effects() { return effects_; }
+  const Effects& effects() const { return effects_; }
   MultiIconCommands& multiIcon() { return multiIcon_; }
   IconFiles& iconFiles() { return iconFiles_; }
   CursorFiles& cursorFiles() { return cursorFiles_; }

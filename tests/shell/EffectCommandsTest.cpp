@@ -7,7 +7,7 @@
 namespace gp::test {
 namespace {
 
-constexpr int kShadowed = 14, kDisabled = 21, kClearContainer = 13;
+constexpr int kShadowed = 14, kDisabled = 21, kClearContainer = 13, kCut = 4;
 constexpr Color kGrey = rgb(128, 128, 128);
 constexpr const char* kAlphaText =
     "Current icon is with alpha, please run Convert 32 To 24 BPP\nto convert it to 24-BPP first.";
@@ -19,11 +19,11 @@ struct Opener {
   int panel;
 };
 constexpr std::array kOpeners{
-    Opener{"mnuEffectsSub", 3, kButtonizePanel}, Opener{"mnuEffectsSub", 11, kShadesPanel},
-    Opener{"mnuEffectsSub", 12, kShadesPanel},   Opener{"mnuEffectsSub", 13, kShadesPanel},
-    Opener{"mnuEffectsSub", 14, kShadesPanel},   Opener{"mnuEffectsSub", 21, kDisabledImagePanel},
-    Opener{"mnuEffectsSub3", 0, kConfinePanel},  Opener{"mnuEffectsSub3", 1, kConfinePanel},
-    Opener{"mnuEffectsSub3", 2, kConfinePanel},
+    Opener{"mnuEffectsSub", 3, ButtonizePanel::kNumber}, Opener{"mnuEffectsSub", 11, ShadesPanel::kNumber},
+    Opener{"mnuEffectsSub", 12, ShadesPanel::kNumber},   Opener{"mnuEffectsSub", 13, ShadesPanel::kNumber},
+    Opener{"mnuEffectsSub", 14, ShadesPanel::kNumber},   Opener{"mnuEffectsSub", 21, DisabledImagePanel::kNumber},
+    Opener{"mnuEffectsSub3", 0, ConfinePanel::kNumber},  Opener{"mnuEffectsSub3", 1, ConfinePanel::kNumber},
+    Opener{"mnuEffectsSub3", 2, ConfinePanel::kNumber},
 };
 
 class EffectCommandsTest : public EffectFixture {};
@@ -90,8 +90,9 @@ TEST_F(EffectCommandsTest, ProceedMakesTheIconWhatTheSampleShows) {
     startWithNew();
     paintManyColors();
     click(opener.control, opener.index);
-    const std::vector<const EffectPanel*> panels{&shell.effects().buttonize, &shell.effects().shades,
-                                                 &shell.effects().disabledImage, &shell.effects().confine};
+    const std::vector<const EffectPanel*> panels{
+        &shell.effects().panel<ButtonizePanel>(), &shell.effects().panel<ShadesPanel>(),
+        &shell.effects().panel<DisabledImagePanel>(), &shell.effects().panel<ConfinePanel>()};
     const auto up = std::ranges::find_if(panels, [&](const EffectPanel* p) { return p->number() == panel(); });
     const IconPicture shown = (*up)->picture();
     const Surface look = (*up)->sample();
@@ -138,7 +139,7 @@ TEST_F(EffectCommandsTest, ProceedOfPanelsThatHaveNoneDoesNothing) {
 
 TEST_F(EffectCommandsTest, CloseWithoutAnIconDoesNotShowOne) {
   start();
-  shell.showPanel(kShadesPanel);
+  shell.showPanel(ShadesPanel::kNumber);
   display.repaints = 0;
   display.parts.clear();
   shell.cmdCancel();
@@ -168,9 +169,9 @@ TEST_F(EffectCommandsTest, ProceedWorksOnTheIconThatIsThereThen) {
   bool ok = false;
   shell.doOpenIconFileQuietly(folder.write("other.ico", plainIconFile(16, 3)), ok);
   ASSERT_TRUE(ok);
-  ASSERT_EQ(panel(), kShadesPanel);
-  shell.effects().shades.preview();
-  EXPECT_EQ(shell.effects().shades.sample().width(), 16);
+  ASSERT_EQ(panel(), ShadesPanel::kNumber);
+  shell.effects().panel<ShadesPanel>().preview();
+  EXPECT_EQ(shell.effects().panel<ShadesPanel>().sample().width(), 16);
   const Surface image = state.picImage;
   shell.cmdProceed();
   // All painted: no edge has room, and the picture lies on top.
@@ -188,32 +189,48 @@ TEST_F(EffectCommandsTest, AnIconWithAlphaThatCameUpUnderThePanelIsRefusedAndThe
   boxes.expectTold(kAlphaText, BoxIcon::None);
   shell.cmdProceed();
   EXPECT_TRUE(samePixels(state.picImage, image));
-  EXPECT_EQ(panel(), kDisabledImagePanel);
+  EXPECT_EQ(panel(), DisabledImagePanel::kNumber);
 }
 
 TEST_F(EffectCommandsTest, AnEmptyContainerUnderThePanelShowsAnEmptySampleAndIsRefused) {
   startWithNew();
   click("mnuEffectsSub", kDisabled);
   state.current().present = false;
-  shell.effects().disabledImage.preview();
-  EXPECT_EQ(shell.effects().disabledImage.sample().width(), 0);
+  shell.effects().panel<DisabledImagePanel>().preview();
+  EXPECT_EQ(shell.effects().panel<DisabledImagePanel>().sample().width(), 0);
   boxes.expectTold(kNoIcon, BoxIcon::None);
   shell.cmdProceed();
-  EXPECT_EQ(panel(), kDisabledImagePanel);
+  EXPECT_EQ(panel(), DisabledImagePanel::kNumber);
 }
 
-TEST_F(EffectCommandsTest, ARegionThatStandsEndsWithProceed) {
+TEST_F(EffectCommandsTest, ARegionEndsWhereItIsWhenAPanelComesUp) {
+  startWithNew();
+  set(3, 3, kRed);
+  shell.recordUndo();
+  shell.tools().selectTool(kRegion);
+  drag(2, 2, 6, 6);
+  ASSERT_TRUE(state.mRegionExists);
+  drag(3, 3, 13, 13);
+  ASSERT_EQ(at(13, 13), kRed);
+  const int steps = shell.drawing().history.undoCount();
+  click("mnuEffectsSub", kEmbossed);
+  EXPECT_FALSE(state.mRegionExists);
+  EXPECT_FALSE(enabled("mnuEditSub", kCut));
+  EXPECT_EQ(at(13, 13), kRed);
+  EXPECT_EQ(shell.drawing().history.undoCount(), steps + 1);
+  shell.cmdCancel();
+  click("mnuEditSub", kUndo);
+  EXPECT_EQ(at(3, 3), kRed);
+  EXPECT_EQ(at(13, 13), kNoColor);
+}
+
+TEST_F(EffectCommandsTest, WhatStoodInARegionTakesTheEffect) {
   startWithNew();
   set(3, 3, kRed);
   shell.tools().selectTool(kRegion);
-  shell.tools().press(ShellFixture::at(2, 2));
-  shell.tools().move(ShellFixture::at(6, 6));
-  shell.tools().release(ShellFixture::at(6, 6));
-  ASSERT_TRUE(state.mRegionExists);
+  drag(2, 2, 6, 6);
   click("mnuEffectsSub", kEmbossed);
   shell.cmdProceed();
-  EXPECT_FALSE(state.mRegionExists);
-  EXPECT_FALSE(state.mRegionActive);
   EXPECT_EQ(at(2, 2), kWhite);
   EXPECT_EQ(at(3, 3), kRed);
   EXPECT_EQ(at(4, 4), kGrey);
@@ -271,7 +288,7 @@ TEST_F(EffectCommandsTest, APanelThatComesUpTakesTheAnimatedCursorsPlace) {
   state.screen.aniContainerVisible = true;
   state.screen.lblStatusPanel[static_cast<std::size_t>(StatusPanel::Path)] = "frames";
   display.parts.clear();
-  shell.showPanel(kShadesPanel);
+  shell.showPanel(ShadesPanel::kNumber);
   EXPECT_FALSE(state.screen.aniContainerVisible);
   EXPECT_EQ(status(StatusPanel::Path), state.current().path.trimmed());
   EXPECT_TRUE(display.told(DisplayPart::Pointer));
@@ -288,8 +305,8 @@ TEST_F(EffectCommandsTest, ThePanelOfReliefIsNamedAfterItsEffect) {
   startWithNew();
   for (const auto& [index, name] : {std::pair{11, "Embossed"}, {12, "Engraved"}, {13, "Raised"}, {14, "Shadowed"}}) {
     click("mnuEffectsSub", index);
-    EXPECT_STREQ(shell.effects().shades.lblEffectsSample(), name);
-    EXPECT_EQ(shell.effects().shades.asksForColor(), index == kShadowed);
+    EXPECT_STREQ(shell.effects().panel<ShadesPanel>().lblEffectsSample(), name);
+    EXPECT_EQ(shell.effects().panel<ShadesPanel>().asksForColor(), index == kShadowed);
   }
 }
 
@@ -298,13 +315,13 @@ TEST_F(EffectCommandsTest, AShadowIsBlackOrOfTheCurrentColor) {
   set(5, 5, kRed);
   state.mCurrentColor = rgb(1, 2, 3);
   click("mnuEffectsSub", kShadowed);
-  EXPECT_EQ(shell.effects().shades.picture().image.GetPixel(6, 6), kBlack);
-  EXPECT_EQ(shell.effects().shades.picture().mask.GetPixel(6, 6), kBlack);
+  EXPECT_EQ(shell.effects().panel<ShadesPanel>().picture().image.GetPixel(6, 6), kBlack);
+  EXPECT_EQ(shell.effects().panel<ShadesPanel>().picture().mask.GetPixel(6, 6), kBlack);
   int changes = 0;
-  shell.effects().shades.onChange = [&] { ++changes; };
-  shell.effects().shades.setUseSelectedColor(true);
+  shell.effects().panel<ShadesPanel>().onChange = [&] { ++changes; };
+  shell.effects().panel<ShadesPanel>().setUseSelectedColor(true);
   EXPECT_EQ(changes, 1);
-  EXPECT_EQ(shell.effects().shades.sample().GetPixel(6, 6), rgb(1, 2, 3));
+  EXPECT_EQ(shell.effects().panel<ShadesPanel>().sample().GetPixel(6, 6), rgb(1, 2, 3));
   shell.cmdProceed();
   EXPECT_EQ(at(6, 6), rgb(1, 2, 3));
   EXPECT_EQ(at(5, 5), kRed);
@@ -314,7 +331,7 @@ TEST_F(EffectCommandsTest, OnlyAShadowTakesTheCurrentColor) {
   startWithNew();
   set(5, 5, kRed);
   state.mCurrentColor = rgb(1, 2, 3);
-  shell.effects().shades.setUseSelectedColor(true);
+  shell.effects().panel<ShadesPanel>().setUseSelectedColor(true);
   click("mnuEffectsSub", kEmbossed);
   shell.cmdProceed();
   EXPECT_EQ(at(4, 4), kWhite);
@@ -336,9 +353,10 @@ TEST_F(EffectCommandsTest, EachStyleOfTheButtonIsShownAndMade) {
   for (int pattern = 0; pattern < kButtonPatterns; ++pattern) {
     startWithNew(kNewIcon16);
     click("mnuEffectsSub", kButtonize);
-    shell.effects().buttonize.pickPattern(pattern);
-    EXPECT_EQ(shell.effects().buttonize.cboButtonizePattern(), pattern);
-    EXPECT_EQ(shell.effects().buttonize.sample().GetPixel(5, 0), kTopEdge[static_cast<std::size_t>(pattern)]);
+    shell.effects().panel<ButtonizePanel>().pickPattern(pattern);
+    EXPECT_EQ(shell.effects().panel<ButtonizePanel>().cboButtonizePattern(), pattern);
+    EXPECT_EQ(shell.effects().panel<ButtonizePanel>().sample().GetPixel(5, 0),
+              kTopEdge[static_cast<std::size_t>(pattern)]);
     shell.cmdProceed();
     EXPECT_EQ(at(5, 0), kTopEdge[static_cast<std::size_t>(pattern)]);
     EXPECT_EQ(at(0, 0), kNoColor);
@@ -349,9 +367,9 @@ TEST_F(EffectCommandsTest, EachStyleOfTheButtonIsShownAndMade) {
 TEST_F(EffectCommandsTest, AStyleOutsideTheListIsIgnored) {
   startWithNew();
   click("mnuEffectsSub", kButtonize);
-  shell.effects().buttonize.pickPattern(2);
-  for (const int index : {-1, kButtonPatterns, 1000}) shell.effects().buttonize.pickPattern(index);
-  EXPECT_EQ(shell.effects().buttonize.cboButtonizePattern(), 2);
+  shell.effects().panel<ButtonizePanel>().pickPattern(2);
+  for (const int index : {-1, kButtonPatterns, 1000}) shell.effects().panel<ButtonizePanel>().pickPattern(index);
+  EXPECT_EQ(shell.effects().panel<ButtonizePanel>().cboButtonizePattern(), 2);
 }
 
 }  // namespace

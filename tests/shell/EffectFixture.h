@@ -2,13 +2,17 @@
 #pragma once
 
 #include "document/PanelNumbers.h"
+#include "effects/ButtonizePanel.h"
+#include "effects/ConfinePanel.h"
+#include "effects/DisabledImagePanel.h"
+#include "effects/ShadesPanel.h"
 #include "support/ShellFixture.h"
 
 #include <algorithm>
 
 namespace gp::test {
 
-inline constexpr int kNewIcon32 = 2, kNewIcon16 = 3, kUndo = 1, kRedo = 2, kButtonize = 3, kEmbossed = 11;
+inline constexpr int kNewIcon32 = 2, kNewIcon16 = 3, kUndoAll = 0, kUndo = 1, kRedo = 2, kButtonize = 3, kEmbossed = 11;
 inline constexpr Color kRed = rgb(255, 0, 0);
 
 inline bool samePixels(const Surface& a, const Surface& b) {
@@ -36,6 +40,11 @@ class EffectFixture : public ShellFixture {
     shell.clearUndoHistory();
     shell.recordUndo();
     state.current().modified = false;
+  }
+  void drag(int fromX, int fromY, int toX, int toY) {
+    shell.tools().press(ShellFixture::at(fromX, fromY));
+    shell.tools().move(ShellFixture::at(toX, toY));
+    shell.tools().release(ShellFixture::at(toX, toY));
   }
   // What stands at a pixel: its colour, kNoColor where the icon is transparent.
   Color at(int x, int y) const {

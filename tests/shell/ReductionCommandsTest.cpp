@@ -10,7 +10,7 @@ namespace {
 
 class ReductionCommandsTest : public EffectFixture {
  protected:
-  ConfinePanel& confine() { return shell.effects().confine; }
+  ConfinePanel& confine() { return shell.effects().panel<ConfinePanel>(); }
 };
 
 TEST_F(ReductionCommandsTest, AnIconOfFewColorsIsNotReduced) {
@@ -30,7 +30,7 @@ TEST_F(ReductionCommandsTest, AnIconOfFewColorsIsNotReduced) {
       const bool refused = std::ranges::find(one.refusedRuns, run) != one.refusedRuns.end();
       if (refused) boxes.expectTold(one.text, BoxIcon::None);
       click("mnuEffectsSub3", run);
-      EXPECT_EQ(panel(), refused ? kColorPanel : kConfinePanel) << one.text << run;
+      EXPECT_EQ(panel(), refused ? kColorPanel : ConfinePanel::kNumber) << one.text << run;
       shell.cmdCancel();
     }
     state.current().modified = false;
@@ -105,7 +105,7 @@ TEST_F(ReductionCommandsTest, UnsavedChangesOfAnIconOfAMultiIconFileAreAskedAbou
   paintManyColors();
   state.current().modified = true;
   click("mnuEffectsSub3", 0);
-  EXPECT_EQ(panel(), kConfinePanel);
+  EXPECT_EQ(panel(), ConfinePanel::kNumber);
   shell.cmdCancel();
   state.current().fromMultiIconFile = true;
   boxes.expect("Save current icon to file?", BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Cancel);
@@ -113,7 +113,7 @@ TEST_F(ReductionCommandsTest, UnsavedChangesOfAnIconOfAMultiIconFileAreAskedAbou
   EXPECT_EQ(panel(), kColorPanel);
   boxes.expect("Save current icon to file?", BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::No);
   click("mnuEffectsSub3", 0);
-  EXPECT_EQ(panel(), kConfinePanel);
+  EXPECT_EQ(panel(), ConfinePanel::kNumber);
 }
 
 TEST_F(ReductionCommandsTest, AnsweringYesSavesFirstAndACancelledSaveKeepsThePanelAway) {
@@ -133,7 +133,7 @@ TEST_F(ReductionCommandsTest, AnsweringYesSavesFirstAndACancelledSaveKeepsThePan
   EXPECT_EQ(panel(), kColorPanel);
   EXPECT_TRUE(state.current().modified);
   askToSave(folder.file("saved.ico"));
-  EXPECT_EQ(panel(), kConfinePanel);
+  EXPECT_EQ(panel(), ConfinePanel::kNumber);
   EXPECT_FALSE(state.current().modified);
 }
 
@@ -149,7 +149,7 @@ TEST_F(ReductionCommandsTest, AnIconOfFewColorsThatCameUpUnderThePanelIsNotReduc
   boxes.expectTold("Current image is of 2-color depth.  ", BoxIcon::None);
   shell.cmdProceed();
   EXPECT_TRUE(samePixels(state.picImage, image) && samePixels(state.picMask, mask));
-  EXPECT_EQ(panel(), kConfinePanel);
+  EXPECT_EQ(panel(), ConfinePanel::kNumber);
 }
 
 TEST_F(ReductionCommandsTest, EachRunStartsWithItsFirstMethod) {
@@ -225,26 +225,42 @@ TEST_F(ReductionCommandsTest, ReducingFeedsNoStepToUndo) {
   EXPECT_EQ(status(StatusPanel::Path), state.current().path.trimmed());
 }
 
-// The chain goes on where it was: what is taken back is the step before, and the reduction with it.
-TEST_F(ReductionCommandsTest, UndoAfterAReductionTakesTheStepBeforeItBackToo) {
+TEST_F(ReductionCommandsTest, AfterAReductionNothingCanBeUndoneOrRedone) {
   startWithNew();
   paintManyColors();
+  for (int step = 0; step < 2; ++step) {
+    click("mnuEffectsSub", kButtonize);
+    shell.cmdProceed();
+  }
+  click("mnuEditSub", kUndo);
+  ASSERT_TRUE(enabled("mnuEditSub", kUndo) && enabled("mnuEditSub", kRedo));
+  click("mnuEffectsSub3", 1);
+  shell.cmdProceed();
+  const Surface image = state.picImage;
+  for (const int command : {kUndoAll, kUndo, kRedo}) {
+    EXPECT_FALSE(enabled("mnuEditSub", command)) << command;
+    click("mnuEditSub", command);
+    EXPECT_TRUE(samePixels(state.picImage, image)) << command;
+  }
+}
+
+TEST_F(ReductionCommandsTest, AStepAfterAReductionGoesBackToIt) {
+  startWithNew();
+  paintManyColors();
+  click("mnuEffectsSub3", 1);
+  shell.cmdProceed();
   const Surface image = state.picImage;
   click("mnuEffectsSub", kButtonize);
   shell.cmdProceed();
-  const Surface button = state.picImage;
-  click("mnuEffectsSub3", 1);
-  shell.cmdProceed();
-  EXPECT_EQ(shell.drawing().history.undoCount(), 2);
+  ASSERT_FALSE(samePixels(state.picImage, image));
   click("mnuEditSub", kUndo);
   EXPECT_TRUE(samePixels(state.picImage, image));
-  click("mnuEditSub", kRedo);
-  EXPECT_TRUE(samePixels(state.picImage, button));
+  EXPECT_FALSE(enabled("mnuEditSub", kUndo));
 }
 
 TEST_F(ReductionCommandsTest, TheListsHoldWhatThePanelsKnow) {
   EXPECT_EQ(static_cast<int>(fillList("cboButtonizePattern").entries.size()), kButtonPatterns);
-  EXPECT_EQ(fillList("cboButtonizePattern").first, shell.effects().buttonize.cboButtonizePattern());
+  EXPECT_EQ(fillList("cboButtonizePattern").first, shell.effects().panel<ButtonizePanel>().cboButtonizePattern());
   const FilledList thresholds = fillList("cboConfineColors(3)");
   EXPECT_EQ(static_cast<int>(thresholds.entries.size()), kThresholdCount);
   EXPECT_EQ(thresholds.first, confine().thresholdIndex());

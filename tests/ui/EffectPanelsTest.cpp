@@ -1,6 +1,10 @@
 // The panels of the effects on the main form, worked by mouse and keyboard.
 #include "document/PanelNumbers.h"
 #include "document/ui/SurfacePainting.h"
+#include "effects/ButtonizePanel.h"
+#include "effects/ConfinePanel.h"
+#include "effects/DisabledImagePanel.h"
+#include "effects/ShadesPanel.h"
 #include "ui/FormFixture.h"
 #include "ui/Screens.h"
 
@@ -94,7 +98,8 @@ TEST_F(EffectPanelsTest, EachPanelHasItsTitleAndNamesForAllItsControls) {
   }
   for (int run = 0; run < 3; ++run) openRun(run);
   EXPECT_EQ(find("fraPanel(19)")->accessibleName(), "Reduce number of colors");
-  for (const int number : {kButtonizePanel, kShadesPanel, kDisabledImagePanel, kConfinePanel})
+  for (const int number :
+       {ButtonizePanel::kNumber, ShadesPanel::kNumber, DisabledImagePanel::kNumber, ConfinePanel::kNumber})
     for (QWidget* control : find(QString("fraPanel(%1)").arg(number))->findChildren<QWidget*>()) {
       if (!(control->focusPolicy() & Qt::TabFocus) || control->objectName().isEmpty()) continue;
       const QString name = QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name);
@@ -112,13 +117,13 @@ TEST_F(EffectPanelsTest, ReliefIsShownUnderItsNameAndMadeByEnter) {
   startWithDisc();
   for (const auto& [index, name] : {std::pair{11, "Embossed"}, {12, "Engraved"}, {13, "Raised"}, {14, "Shadowed"}}) {
     openPanel(index);
-    ASSERT_TRUE(isUp(kShadesPanel));
+    ASSERT_TRUE(isUp(ShadesPanel::kNumber));
     EXPECT_EQ(find<QLabel>("lblEffectsSample")->text(), name);
     EXPECT_EQ(find("ckbUseSelectedColor")->isVisible(), index == 14);
     QWidget* sample = find("picEffectsSample");
-    EXPECT_EQ(sampleAt(sample, 16, 16, 32, 192), toRgb(shell.effects().shades.sample().GetPixel(16, 16)));
+    EXPECT_EQ(sampleAt(sample, 16, 16, 32, 192), toRgb(shell.effects().panel<ShadesPanel>().sample().GetPixel(16, 16)));
     EXPECT_EQ(sampleAt(sample, 0, 0, 32, 192), toRgb(kGround));
-    expectNothingClipped(kShadesPanel);
+    expectNothingClipped(ShadesPanel::kNumber);
   }
   key(Qt::Key_Return);
   EXPECT_TRUE(isUp(kColorPanel));
@@ -140,7 +145,7 @@ TEST_F(EffectPanelsTest, TheShadowTakesTheCurrentColorByMouseAndKey) {
   key(Qt::Key_Space);
   EXPECT_TRUE(box->isChecked());
   EXPECT_EQ(sampleAt(sample, kTopLeftSquare, 2, 32, 192), qRgb(0, 255, 0));
-  proceed(kShadesPanel);
+  proceed(ShadesPanel::kNumber);
   EXPECT_EQ(state.picImage.GetPixel(kTopLeftSquare, 2), rgb(0, 255, 0));
   EXPECT_TRUE(isUp(kColorPanel));
 }
@@ -176,8 +181,8 @@ TEST_F(EffectPanelsTest, EachStyleOfTheButtonIsPickedFromTheList) {
     EXPECT_EQ(sampleAt(sample, 16, 0, 32, 192), topEdges[static_cast<std::size_t>(style)]) << style;
     EXPECT_EQ(sampleAt(sample, 16, 1, 32, 192), belowTop[static_cast<std::size_t>(style)]) << style;
   }
-  expectNothingClipped(kButtonizePanel);
-  proceed(kButtonizePanel);
+  expectNothingClipped(ButtonizePanel::kNumber);
+  proceed(ButtonizePanel::kNumber);
   EXPECT_EQ(state.picImage.GetPixel(16, 1), rgb(0xE0, 0xE0, 0xE0));
 }
 
@@ -185,11 +190,11 @@ TEST_F(EffectPanelsTest, TheDisabledImageIsShownAndMade) {
   startWithDisc();
   for (int x = 0; x < kTopLeftSquare; ++x) set(x, 1, rgb(10, 20, 30));
   openPanel(21);
-  ASSERT_TRUE(isUp(kDisabledImagePanel));
+  ASSERT_TRUE(isUp(DisabledImagePanel::kNumber));
   QWidget* sample = find("picImageForDisabledBtn");
   EXPECT_EQ(sampleAt(sample, 3, 1, 32, 192), qRgb(128, 128, 128));
   EXPECT_EQ(sampleAt(sample, 3, 2, 32, 192), qRgb(255, 255, 255));
-  expectNothingClipped(kDisabledImagePanel);
+  expectNothingClipped(DisabledImagePanel::kNumber);
   key(Qt::Key_Return);
   EXPECT_EQ(state.picImage.GetPixel(3, 1), rgb(128, 128, 128));
 }
@@ -203,7 +208,7 @@ TEST_F(EffectPanelsTest, EachRunShowsItsOwnListOfMethods) {
   startWithDisc(4);
   for (int run = 0; run < 3; ++run) {
     openRun(run);
-    ASSERT_TRUE(isUp(kConfinePanel)) << run;
+    ASSERT_TRUE(isUp(ConfinePanel::kNumber)) << run;
     EXPECT_EQ(find<QLabel>("lblConfineColors(1)")->text(), captions[static_cast<std::size_t>(run)]);
     EXPECT_EQ(find<QLabel>("lblConfineColors(3)")->text(), "(Remarks: Undo will not be available)");
     EXPECT_EQ(find<QLabel>("lblConfineColors(0)")->buddy(), confineList(run));
@@ -213,12 +218,12 @@ TEST_F(EffectPanelsTest, EachRunShowsItsOwnListOfMethods) {
     for (int i = 0; i < texts.size(); ++i) {
       EXPECT_EQ(confineList(run)->itemText(i), texts[i]);
       pick(confineList(run), i);
-      const IconPicture& picture = shell.effects().confine.picture();
+      const IconPicture& picture = shell.effects().panel<ConfinePanel>().picture();
       EXPECT_EQ(sampleAt(find("picConfineColors(0)"), 24, 20, 48, 96), toRgb(picture.image.GetPixel(24, 20)))
           << run << i;
       EXPECT_EQ(sampleAt(find("picConfineColors(1)"), 24, 20, 48, 96), toRgb(picture.mask.GetPixel(24, 20)))
           << run << i;
-      expectNothingClipped(kConfinePanel);
+      expectNothingClipped(ConfinePanel::kNumber);
     }
     for (int other = 0; other < 3; ++other) EXPECT_EQ(confineList(other)->isVisible(), other == run);
     key(Qt::Key_Escape);
@@ -242,7 +247,7 @@ TEST_F(EffectPanelsTest, TheThresholdComesAndGoesWithSelectCutoff) {
   EXPECT_TRUE(threshold->isVisible());
   threshold->setFocus();
   key(Qt::Key_End);
-  EXPECT_EQ(shell.effects().confine.thresholdIndex(), 353);
+  EXPECT_EQ(shell.effects().panel<ConfinePanel>().thresholdIndex(), 353);
   // Above the brightest pixel: all that was painted is black.
   EXPECT_EQ(sampleAt(find("picConfineColors(1)"), 24, 24, 48, 96), qRgb(0, 0, 0));
 }
@@ -253,8 +258,8 @@ TEST_F(EffectPanelsTest, TheSamplesFollowAnIconThatIsOpenedUnderThePanel) {
   bool ok = false;
   shell.doOpenIconFileQuietly(folder.write("other.ico", test::plainIconFile(16, 3)), ok);
   settle();
-  ASSERT_TRUE(isUp(kShadesPanel));
-  EXPECT_EQ(shell.effects().shades.sample().width(), 16);
+  ASSERT_TRUE(isUp(ShadesPanel::kNumber));
+  EXPECT_EQ(shell.effects().panel<ShadesPanel>().sample().width(), 16);
   EXPECT_EQ(sampleAt(find("picEffectsSample"), 8, 8, 16, 192), toRgb(state.picImage.GetPixel(8, 8)));
 }
 

@@ -24,6 +24,8 @@ EffectPanelView::EffectPanelView(QWidget* parent, EffectPanel& panel)
 
 EffectPanelView::~EffectPanelView() { panel_.onChange = nullptr; }
 
+void EffectPanelView::follow() { panel_.preview(); }
+
 void EffectPanelView::refreshAll() {
   refresh();
   for (SampleView* sample : samples_) sample->refresh();

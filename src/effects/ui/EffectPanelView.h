@@ -29,6 +29,9 @@ class EffectPanelView : public PanelFrame {
   EffectPanelView(QWidget* parent, EffectPanel& panel);
   ~EffectPanelView() override;
 
+  // The icon or the current colour is another: the samples follow.
+  void follow();
+
  protected:
   // A label above the list that it belongs to; `caption` may have an access letter.
   QLabel* addLabel(const QString& objectName, const QString& caption, QWidget* buddy = nullptr);

@@ -2,10 +2,8 @@
 
 #include "colour/ui/ColorPanel.h"
 #include "drawing/ui/RotatePanelView.h"
-#include "effects/ui/ButtonizePanelView.h"
-#include "effects/ui/ConfinePanelView.h"
-#include "effects/ui/DisabledImagePanelView.h"
-#include "effects/ui/ShadesPanelView.h"
+#include "effects/ui/EffectPanelView.h"
+#include "effects/ui/EffectViews.h"
 #include "files/ui/CursorPanelView.h"
 #include "shell/PanelTable.h"
 #include "shell/Shell.h"
@@ -43,12 +41,12 @@ QWidget* makeCursorPanel(QWidget* parent, Shell& shell, QtDisplay&) {
 }
 
 // The samples of an effect follow the icon and the current colour: others may come while the panel is up.
-template <class View, auto member>
-QWidget* makeEffectPanel(QWidget* parent, Shell& shell, QtDisplay& display) {
-  auto& logic = shell.effects().*member;
+QWidget* makeEffectPanel(int number, QWidget* parent, Shell& shell, QtDisplay& display) {
+  EffectPanelView* view = makeEffectView(number, parent, shell.effects());
+  if (!view) return nullptr;
   for (const DisplayPart part : {DisplayPart::IconsPanel, DisplayPart::ColorPanel})
-    display.listen(part, [&logic] { logic.preview(); });
-  return new View(parent, logic);
+    display.listen(part, [view] { view->follow(); });
+  return view;
 }
 
 struct PanelWidget {
@@ -69,11 +67,14 @@ constexpr std::array kPanelWidgets = {
     PanelWidget{kColorPanel, makeColorPanel},
     PanelWidget{kCursorPanel, makeCursorPanel},
     PanelWidget{kRotatePanel, makeRotatePanel},
-    PanelWidget{kButtonizePanel, makeEffectPanel<ButtonizePanelView, &Effects::buttonize>},
-    PanelWidget{kShadesPanel, makeEffectPanel<ShadesPanelView, &Effects::shades>},
-    PanelWidget{kDisabledImagePanel, makeEffectPanel<DisabledImagePanelView, &Effects::disabledImage>},
-    PanelWidget{kConfinePanel, makeEffectPanel<ConfinePanelView, &Effects::confine>},
 };
+
+// Null for a panel that the program does not have yet.
+QWidget* makePanel(int number, QWidget* parent, Shell& shell, QtDisplay& display) {
+  const auto* row = std::ranges::find(kPanelWidgets, number, &PanelWidget::number);
+  return row == kPanelWidgets.end() ? makeEffectPanel(number, parent, shell, display)
+                                    : row->make(parent, shell, display);
+}
 
 }  // namespace
 
@@ -85,9 +86,8 @@ PanelStack::PanelStack(QWidget* parent, Shell& shell, QtDisplay& display)
 
 QWidget* PanelStack::panel(int number) {
   if (const auto made = made_.find(number); made != made_.end()) return made->second;
-  const auto row = std::ranges::find(kPanelWidgets, number, &PanelWidget::number);
-  if (row == kPanelWidgets.end()) return nullptr;
-  QWidget* widget = row->make(this, shell_, display_);
+  QWidget* widget = makePanel(number, this, shell_, display_);
+  if (!widget) return nullptr;
   if (auto* frame = qobject_cast<PanelFrame*>(widget)) completeFrame(frame, number, shell_);
   stack_->addWidget(widget);
   made_.emplace(number, widget);

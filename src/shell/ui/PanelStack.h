@@ -1,5 +1,5 @@
 // The right column: exactly one of the panels fraPanel(n) at a time, all of one size. A panel's widget is made when it
-// is first shown; which widget that is stands in the table of PanelStack.cpp, one row for each panel.
+// is first shown; which widget that is stands in the table of PanelStack.cpp, for effects in that of EffectViews.cpp.
 #pragma once
 
 #include <QWidget>
