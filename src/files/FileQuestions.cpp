@@ -20,13 +20,13 @@ std::string askToOpen(FilesContext& context, const char* filter) {
 }
 
 std::string askToSave(FilesContext& context, const std::string& proposedName, const char* filter, const char* extension,
-                      OverwriteQuestion question) {
+                      OverwriteQuestion question, const std::string& folder) {
   SaveOptions options;
   options.fileName = proposedName;
   options.filter = filter;
   options.defaultExtension = extension;
   options.overwritePrompt = question == OverwriteQuestion::ByDialog;
-  options.initialFolder = context.state.process.mLastFolder;
+  options.initialFolder = folder.empty() ? context.state.process.mLastFolder : folder;
   return remembered(context, context.dialog.ShowSave(options));
 }
 

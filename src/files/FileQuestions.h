@@ -1,4 +1,5 @@
-// The file dialogs of the commands on icon files: both begin in the folder of the last one, and remember theirs.
+// The file dialogs of the commands on icon files: they begin in the folder of the last one unless told another, and
+// remember theirs.
 #pragma once
 
 #include "files/FilesContext.h"
@@ -11,10 +12,10 @@ namespace gp {
 // Who asks whether an existing file may be overwritten.
 enum class OverwriteQuestion { ByDialog, ByCaller };
 
-// The chosen path, empty for a cancel.
+// The chosen path, empty for a cancel. An empty folder stands for that of the last dialog.
 std::string askToOpen(FilesContext& context, const char* filter);
 std::string askToSave(FilesContext& context, const std::string& proposedName, const char* filter, const char* extension,
-                      OverwriteQuestion question = OverwriteQuestion::ByDialog);
+                      OverwriteQuestion question = OverwriteQuestion::ByDialog, const std::string& folder = {});
 
 // The body of an open command: offers to save what is on the Editing Area, asks for a file, opens it, and remembers
 // what was opened.

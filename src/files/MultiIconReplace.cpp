@@ -43,8 +43,7 @@ MultiIconReplace::MultiIconReplace(FilesContext& context, const std::string& scr
 void MultiIconReplace::run() {
   finishCurrentIcon(context_);
   if (!isConfirmed() || !readOriginal() || !isAllowed()) return;
-  const std::string path =
-      askToSave(context_, ParseFileName(original_, PathPart::BareName), kReplaceFilter, kIconExtension);
+  const std::string path = askForName();
   if (path.empty()) return;
   auto image = makeImage();
   if (!image || !readOriginalAgain()) return;
@@ -79,6 +78,12 @@ bool MultiIconReplace::isAllowed() {
   else
     return true;
   return false;
+}
+
+// The question has promised to write to the original file, wherever the last dialog was.
+std::string MultiIconReplace::askForName() {
+  return askToSave(context_, ParseFileName(original_, PathPart::BareName), kReplaceFilter, kIconExtension,
+                   OverwriteQuestion::ByDialog, ParseFileName(original_, PathPart::DriveAndFolder));
 }
 
 std::optional<NewImage> MultiIconReplace::makeImage() {

@@ -20,6 +20,7 @@ class MultiIconReplace {
   bool isConfirmed();
   bool readOriginal();
   bool isAllowed();
+  std::string askForName();
   std::optional<NewImage> makeImage();
   bool readOriginalAgain();
   bool write(const std::string& path);

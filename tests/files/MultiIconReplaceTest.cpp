@@ -196,7 +196,7 @@ TEST_F(MultiIconReplaceTest, WhatIsOpenOnTheIconEndsAndItsContainerIsUpToDate) {
   EXPECT_EQ(state.picPanelImage[0].GetPixel(1, 0), rgb(kMark.r, kMark.g, kMark.b));
 }
 
-TEST_F(MultiIconReplaceTest, TheDialogOffersTheFilesName) {
+TEST_F(MultiIconReplaceTest, TheDialogOffersTheFilesNameInItsFolder) {
   const std::string path = givenSecond();
   state.process.mLastFolder = "/somewhere";
   boxes.expectAsked(question(2), BoxAnswer::Yes);
@@ -204,7 +204,7 @@ TEST_F(MultiIconReplaceTest, TheDialogOffersTheFilesName) {
   replace();
   ASSERT_EQ(dialogs.requests.size(), 1u);
   EXPECT_EQ(dialogs.requests[0].fileName, "multi");
-  EXPECT_EQ(dialogs.requests[0].folder, "/somewhere");
+  EXPECT_EQ(dialogs.requests[0].folder, folder.folder() + "/");
   EXPECT_EQ(dialogs.requests[0].defaultExtension, "ico");
   EXPECT_EQ(dialogs.requests[0].filters, (std::vector<FileFilter>{{"Icon files (*.ico)", "*.ico"}, {"(*.*)", "*.*"}}));
   EXPECT_EQ(bytesOf(path), build(three));
