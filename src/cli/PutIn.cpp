@@ -3,6 +3,7 @@
 #include "cli/Subcommands.h"
 #include "cli/Updating.h"
 #include "document/Messages.h"
+#include "files/IconDecoder.h"
 #include "files/IconProbe.h"
 #include "files/MultiIconTexts.h"
 
@@ -28,8 +29,8 @@ bool replaceIn(const std::string& path, int index, NewIcon icon, const std::stri
   IconArrays arrays;
   if (readIconArrays(path, ReservedField::MustBeZero, arrays) != ArraysDefect::None)
     return refuse(path, kReplaceNotRead);
+  if (index >= arrays.count()) return refuse(path, describe(IconDefect::NoSuchEntry));
   if (!isNew(arrays, icon, index, path, SaveInto::Replace)) return false;
-  if (index >= arrays.count()) return refuse(path, kReplaceEntryGone);
   replaceImage(arrays, index, std::move(icon.image));
   return writeUpdate(arrays, path, output, notWrittenText(targetOf(path, output), SaveInto::Replace));
 }

@@ -1,6 +1,7 @@
 // The subcommands that change what a file of several icons tells of them, and leave the images as they are.
 #include "cli/Subcommands.h"
 #include "cli/Updating.h"
+#include "files/IconDecoder.h"
 #include "files/IconSalvage.h"
 #include "files/IconUpdates.h"
 #include "files/MultiIconTexts.h"
@@ -11,7 +12,6 @@
 namespace gp::cli {
 namespace {
 
-constexpr const char* kNoSuchImage = "no image of that index";
 constexpr const char* kNotEachOnce = "the sequence does not hold every position ref of the file once";
 constexpr const char* kNotWritten = "cannot be written";
 constexpr const char* kReadOnly = "File is read-only";
@@ -31,7 +31,7 @@ int removeFrom(const std::string& path, int index, const std::string& output) {
   IconArrays arrays;
   if (!readForUpdate(path, arrays)) return kRefused;
   if (arrays.count() == 1) return refuse(path, kRemoveLastIcon);
-  if (index >= arrays.count()) return refuse(path, kNoSuchImage);
+  if (index >= arrays.count()) return refuse(path, describe(IconDefect::NoSuchEntry));
   removeImage(arrays, index);
   return writeOrRefuse(arrays, path, output, kRemoveNotWritten);
 }

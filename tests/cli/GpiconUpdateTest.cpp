@@ -111,10 +111,11 @@ TEST_F(GpiconUpdate, ReplaceComparesWhatThePictureHasBecome) {
 }
 
 TEST_F(GpiconUpdate, ReplaceOfAnEntryThatIsNotThereIsRefused) {
-  expectRefusal({"replace", file, "3", trueColorIcon(32)},
-                file +
-                    ": The original multi-icon file has been changed meanwhile. Cannot proceed to save current icon "
-                    "back.");
+  expectRefusal({"replace", file, "3", trueColorIcon(32)}, file + ": no image of that index");
+  const Bytes two = fileOf({anyEntry(16, 1), anyEntry(32, 24)});
+  const std::string path = folder.write("t.ico", two);
+  expectRefusal({"replace", path, "2", trueColorIcon(32)}, path + ": no image of that index");
+  EXPECT_EQ(bytesOf(path), two);
 }
 
 TEST_F(GpiconUpdate, ReplaceInWhatCannotBeReadIsRefused) {
