@@ -5,6 +5,7 @@
 #include "platform/text/Numbers.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace gp {
 namespace {
@@ -13,10 +14,13 @@ constexpr int kLargestSide = 128;
 // A height is told in one byte, which images of 128 pixels and more would overflow with their Mask.
 constexpr int kLeastWholeHeight = 256;
 constexpr int kMostWholeHeight = 2 * ico::kMaxEntrySide;
+constexpr std::int64_t kLowByte = 0xFF;
 
-int halfOf(std::int32_t height, std::uint8_t lowByte) {
-  const bool isWhole = height >= kLeastWholeHeight && height <= kMostWholeHeight;
-  return roundToInteger((isWhole ? height : lowByte) / 2.0);
+// A height below zero means that the top row comes first, and counts the same rows.
+int halfOf(std::int32_t height) {
+  const std::int64_t rows = std::abs(std::int64_t{height});
+  const bool isWhole = rows >= kLeastWholeHeight && rows <= kMostWholeHeight;
+  return roundToInteger(static_cast<int>(isWhole ? rows : rows & kLowByte) / 2.0);
 }
 
 bool isPngPicture(ImageBytes image) {
@@ -32,7 +36,7 @@ HeaderFacts headerFactsOf(ImageBytes image) {
   if (!hasBitmapHeader(image)) return {};
   ByteReader reader(image);
   return {.width = reader.u8At(dib::kHeaderWidth),
-          .height = halfOf(reader.i32At(dib::kHeaderHeight), reader.u8At(dib::kHeaderHeight)),
+          .height = halfOf(reader.i32At(dib::kHeaderHeight)),
           .bits = reader.u8At(dib::kHeaderBitCount)};
 }
 

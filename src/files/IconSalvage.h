@@ -10,7 +10,7 @@ namespace gp {
 // An image by its own header, in bytes as a directory has them: a side of 0 means 256. All zeros without a header.
 struct HeaderFacts {
   int width = 0;   // mBihWidth: the low byte of biWidth
-  int height = 0;  // mBihHeight: half of biHeight, which counts picture and Mask; of its low byte above 510
+  int height = 0;  // mBihHeight: half of |biHeight|, which counts picture and Mask; of its low byte above 510
   int bits = 0;    // mBihBits: the low byte of biBitCount
   bool operator==(const HeaderFacts&) const = default;
 };

@@ -314,6 +314,13 @@ TEST_F(GpiconUpdate, SalvageTakesSizeAndBitsFromTheHeadersAndNothingElse) {
   expectFile(run({"salvage", path, "-o", path}), {mended, known, png}, path);
 }
 
+TEST_F(GpiconUpdate, SalvageLeavesTheSizeOfAnIconWhoseTopRowComesFirst) {
+  Picture p = anyPicture(32, 24);
+  p.headerHeight = -64;
+  const std::string path = folder.write("t.ico", fileOf({entryOf(p)})), out = folder.path("out.ico");
+  expectFile(run({"salvage", path, "-o", out}), {entryOf(p)}, out);
+}
+
 TEST_F(GpiconUpdate, SalvageRefusesSidesAbove128) {
   Entry large = anyEntry(32, 8);
   large.width = 129;

@@ -299,6 +299,15 @@ TEST_F(HeaderDiffTest, AHeightThatIsNotDoubledGivesHalfOfItsByte) {
   EXPECT_EQ(entryByte(out, 0, kHeightAt), 16);
 }
 
+TEST_F(HeaderDiffTest, AnIconWhoseTopRowComesFirstKeepsItsSize) {
+  Picture topDown = anyPicture(32, 24);
+  topDown.headerHeight = -64;
+  open({entryOf(topDown)});
+  diff->setBase(HeaderBase::Bitmap);
+  EXPECT_EQ(diff->lisIcons(), (Texts{"1\t24-BPP\tTrue-Color\t32 x 32"}));
+  EXPECT_EQ(salvage(), bytesOf(path));
+}
+
 TEST_F(HeaderDiffTest, SalvagingOverTheSourceAsksAndReplacesIt) {
   Bytes expected = build(lyingEntry());
   open(expected);

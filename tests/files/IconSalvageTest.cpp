@@ -2,6 +2,7 @@
 #include "files/IconSalvage.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace gp::test {
 namespace {
@@ -60,8 +61,13 @@ INSTANTIATE_TEST_SUITE_P(NotDoubledOddOrNone, HeaderFactsOfBytes,
                                          HeaderCase{32, 1, 4, {32, 0, 4}}, HeaderCase{32, 3, 4, {32, 2, 4}},
                                          HeaderCase{32, 5, 4, {32, 2, 4}}, HeaderCase{32, 63, 4, {32, 32, 4}},
                                          HeaderCase{32, 257, 4, {32, 128, 4}}));
-INSTANTIATE_TEST_SUITE_P(NegativeHugeAndStrange, HeaderFactsOfBytes,
-                         testing::Values(HeaderCase{32, -64, 4, {32, 96, 4}}, HeaderCase{-1, -1, 4, {255, 128, 4}},
+INSTANTIATE_TEST_SUITE_P(OfTheTopRowFirst, HeaderFactsOfBytes,
+                         testing::Values(HeaderCase{32, -64, 4, {32, 32, 4}}, HeaderCase{128, -256, 8, {128, 128, 8}},
+                                         HeaderCase{255, -510, 8, {255, 255, 8}}, HeaderCase{32, -1, 4, {32, 0, 4}},
+                                         HeaderCase{32, -3, 4, {32, 2, 4}}, HeaderCase{0, -512, 8, {0, 0, 8}},
+                                         HeaderCase{32, std::numeric_limits<int>::min(), 4, {32, 0, 4}}));
+INSTANTIATE_TEST_SUITE_P(NegativeWidthHugeAndStrange, HeaderFactsOfBytes,
+                         testing::Values(HeaderCase{-1, 2, 4, {255, 1, 4}},
                                          HeaderCase{0x7FFFFFFF, 0x7FFFFFFF, 4, {255, 128, 4}},
                                          HeaderCase{32, 64, 16, {32, 32, 16}}, HeaderCase{32, 64, 65535, {32, 32, 255}},
                                          HeaderCase{32, 64, 0, {32, 32, 0}}, HeaderCase{32, 64, 256, {32, 32, 0}}));
