@@ -22,14 +22,6 @@ constexpr const char* kOwnFile = "Cannot add to original file itself.";
 constexpr const char* kNotMade = "Failed to save current icon - preparation";
 constexpr const char* kNotLoaded = "Failed to save current icon - load preparation";
 
-std::string openedInPanelText(int container) {
-  return "File being added to is currently opened in Icons Panel ref " + std::to_string(container + 1) +
-         ".\n"
-         "\n"
-         "Please unload that icon first  (by using \"Clear Container\"\n"
-         "submenu of \"Edit\" main menu).\n";
-}
-
 std::string depthText(const IconTraits& traits) {
   if (traits.colors > 0) return std::to_string(traits.colors) + "-color";
   return traits.bits == kBitsWithAlpha ? "32 BPP   True-color" : "24 BPP   True-color";

@@ -5,6 +5,7 @@
 #include "files/FileQuestions.h"
 #include "files/MultiIconSaving.h"
 #include "files/MultiIconTexts.h"
+#include "files/PanelFiles.h"
 #include "files/ScratchIcon.h"
 #include "platform/text/Paths.h"
 
@@ -44,7 +45,7 @@ void MultiIconReplace::run() {
   finishCurrentIcon(context_);
   if (!isConfirmed() || !readOriginal() || !isAllowed()) return;
   const std::string path = askForName();
-  if (path.empty()) return;
+  if (path.empty() || !isInNoOtherContainer(path)) return;
   auto image = makeImage();
   if (!image || !readOriginalAgain()) return;
   replaceImage(arrays_, index_, std::move(*image));
@@ -84,6 +85,14 @@ bool MultiIconReplace::isAllowed() {
 std::string MultiIconReplace::askForName() {
   return askToSave(context_, ParseFileName(original_, PathPart::BareName), kReplaceFilter, kIconExtension,
                    OverwriteQuestion::ByDialog, ParseFileName(original_, PathPart::DriveAndFolder));
+}
+
+// That icon knows its entry by its index, which would be another's afterwards.
+bool MultiIconReplace::isInNoOtherContainer(const std::string& path) {
+  if (isFileOf(state_.current(), path)) return true;
+  const auto container = findContainerOf(state_, path);
+  if (container) context_.boxes.tell(openedInPanelText(*container));
+  return !container;
 }
 
 std::optional<NewImage> MultiIconReplace::makeImage() {

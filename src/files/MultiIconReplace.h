@@ -21,6 +21,8 @@ class MultiIconReplace {
   bool readOriginal();
   bool isAllowed();
   std::string askForName();
+  // False, after telling it, when the icon of another container came from a file that is not the original one.
+  bool isInNoOtherContainer(const std::string& path);
   std::optional<NewImage> makeImage();
   bool readOriginalAgain();
   bool write(const std::string& path);

@@ -38,6 +38,14 @@ const char* notWrittenText(const std::string& path, SaveInto save) {
   return HasFileAttribute(path) ? textsOf(save).readOnly : textsOf(save).notWritten;
 }
 
+std::string openedInPanelText(int container) {
+  return "File being added to is currently opened in Icons Panel ref " + std::to_string(container + 1) +
+         ".\n"
+         "\n"
+         "Please unload that icon first  (by using \"Clear Container\"\n"
+         "submenu of \"Edit\" main menu).\n";
+}
+
 std::string addNotReadText(const std::string& path, ArraysDefect defect) {
   return (defect == ArraysDefect::NotReadable ? "Failed to open " : "No icon found in ") + path;
 }

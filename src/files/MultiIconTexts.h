@@ -16,6 +16,8 @@ enum class SaveInto { Replace, Add };
 std::string sameIconText(const IconTraits& same, SaveInto save);
 // The file to write is read-only, or could not be written for another reason.
 const char* notWrittenText(const std::string& path, SaveInto save);
+// Both refuse a file that an icon in another container came from; containers count from 0.
+std::string openedInPanelText(int container);
 
 // Replace.
 inline constexpr const char* kReplaceNotRead = "Failed to save current icon - at reading preparation stage";

@@ -11,11 +11,6 @@ constexpr const char* kReadOnly = "File is read-only";
 constexpr const char* kNotWritten = "Failed to save current icon - writing";
 constexpr const char* kNotPrepared = "Failed to save current icon - preparation";
 
-std::string openedInPanel(int ref) {
-  return "File being added to is currently opened in Icons Panel ref " + std::to_string(ref) +
-         ".\n\nPlease unload that icon first  (by using \"Clear Container\"\nsubmenu of \"Edit\" main menu).\n";
-}
-
 std::string sameIcon(const std::string& what) {
   return what +
          "\n\nIcon of same size and color palette already in file.\n"

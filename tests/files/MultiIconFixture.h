@@ -11,6 +11,12 @@ namespace gp::test {
 
 inline IcoFile fileOf(std::vector<Entry> entries) { return IcoFile{std::move(entries), 0, 1, {}}; }
 
+// Of a file that an icon in a container came from; its ref counts from 1.
+inline std::string openedInPanel(int ref) {
+  return "File being added to is currently opened in Icons Panel ref " + std::to_string(ref) +
+         ".\n\nPlease unload that icon first  (by using \"Clear Container\"\nsubmenu of \"Edit\" main menu).\n";
+}
+
 class MultiIconTest : public FilesTest {
  protected:
   const std::string scratch = folder.path("gptmp.ico");

@@ -173,6 +173,30 @@ TEST_F(MultiIconReplaceTest, AnotherFileThatIsThereIsOverwrittenWhole) {
   EXPECT_EQ(bytesOf(other), threeWith(entryOf(markedPicture(16, 24, kMark))));
 }
 
+TEST_F(MultiIconReplaceTest, AnotherFileOfAnotherContainerIsRefusedHoweverItIsReached) {
+  const std::string old = givenSecond(), other = folder.write("other.ico", build(three));
+  fs::create_symlink(other, folder.path("link.ico"));
+  state.mIconRecs[3].path = other;
+  for (const std::string& path : {other, folder.path("link.ico")}) {
+    boxes.expectAsked(question(2), BoxAnswer::Yes);
+    boxes.expectTold(openedInPanel(4), BoxIcon::None);
+    dialogs.paths = {path};
+    replace();
+    EXPECT_EQ(bytesOf(other), build(three));
+    EXPECT_EQ(bytesOf(old), build(three));
+  }
+  EXPECT_EQ(record().path.trimmed(), old);
+  EXPECT_TRUE(record().modified);
+  EXPECT_EQ(editor.count("AddHistory " + other), 0);
+}
+
+TEST_F(MultiIconReplaceTest, TheOriginalFileIsWrittenAlsoWhenAnotherContainerHasAnIconOfIt) {
+  const std::string path = givenSecond();
+  state.mIconRecs[3].path = path;
+  replaceOnto(path, 2);
+  EXPECT_EQ(bytesOf(path), threeWith(entryOf(markedPicture(16, 24, kMark))));
+}
+
 TEST_F(MultiIconReplaceTest, TheRecordIsSavedAndTheHistoryKnowsTheFile) {
   const std::string path = givenSecond();
   record().neverSaved = record().modified = true;
