@@ -53,13 +53,13 @@ void MultiIconBrowser::cmdSplitSave() {
 }
 
 // An image that cannot be shown is saved like the others, so nothing is told of it; nor is a file that cannot be
-// written.
+// written. The views go through their whole lists each time they are told of a change, and nothing of it is seen before
+// the end: they are told then.
 void MultiIconBrowser::splitInto(const std::string& stem) {
   const Hourglass hourglass(context_.state, context_.display);
   const int before = selected_;
   for (int item = 0; isIcon(item); ++item) {
     if (preview(iconText(item), preview_)) selected_ = item;
-    changed();
     static_cast<void>(saveItem(item, singleFileName(stem, item)));
   }
   if (preview(iconText(before), preview_)) selected_ = before;

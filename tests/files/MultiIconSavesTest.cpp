@@ -10,6 +10,15 @@ namespace fs = std::filesystem;
 constexpr const char* kReadOnly =
     "File is read-only\n\nYou may save it under a different file name or reset the file attributes.";
 
+// Lets a test look around whenever the pointer changes, as it does at the end of each save.
+class WatchedDisplay : public RecordingDisplay {
+ public:
+  std::function<void()> inside;
+  void changed(DisplayPart part) override {
+    if (part == DisplayPart::Pointer && inside) inside();
+  }
+};
+
 class BrowserSavesTest : public BrowserTest {
  protected:
   // Saves what is selected under a name; gives the name that was proposed.
@@ -160,11 +169,29 @@ TEST_F(BrowserSavesTest, TheSelectionComesBackAfterASplit) {
   const Bytes file = build(iconFile({anyEntry(16, 4), anyEntry(32, 24), anyEntry(48, 1)}));
   browse(file);
   browser->clickIcon(1);
-  std::vector<int> followed;
-  browser->onChange = [&] { followed.push_back(browser->selectedIcon()); };
+  changes = 0;
   split(3);
-  EXPECT_EQ(followed, (std::vector{0, 1, 2, 1}));
+  EXPECT_EQ(browser->selectedIcon(), 1);
   EXPECT_TRUE(previews(file, 1));
+  EXPECT_EQ(changes, 1) << "the views follow once, however many items there are";
+}
+
+TEST_F(BrowserSavesTest, EachItemIsSelectedAndPreviewedWhenItIsSaved) {
+  const Bytes file = build(iconFile({anyEntry(16, 4), anyEntry(32, 24), anyEntry(48, 1)}));
+  browse(file);
+  WatchedDisplay watched;
+  browser = std::make_unique<MultiIconBrowser>(FilesContext{state, editor, watched, boxes, pump, dialog});
+  browser->activate();
+  const Items names{"tools_16_16.ico", "tools_32_24bpp.ico", "tools_48_2.ico"};
+  std::vector<int> saved;
+  watched.inside = [&] {
+    const std::size_t next = saved.size();
+    if (next == names.size() || !fs::exists(folder.path("out/" + names[next]))) return;
+    saved.push_back(browser->selectedIcon());
+    EXPECT_TRUE(previews(file, static_cast<int>(next)));
+  };
+  split(3);
+  EXPECT_EQ(saved, (std::vector{0, 1, 2}));
 }
 
 TEST_F(BrowserSavesTest, OfTwoEntriesWithOneNameTheLaterStays) {
