@@ -47,6 +47,7 @@ void CursorFiles::doOpenCursorFile(const std::string& path, bool& ok) {
   describeLoadedCursor(state_, facts, path);
   if (!keepLoadedAlpha(state_)) context_.boxes.tell(kAlphaNotKept, BoxIcon::Exclamation);
   showLoadedIcon(context_.editor);
+  if (state_.screen.mActivePanel == kCursorPanel) setSpot(startOf(state_.current()));
   ok = true;
   remindOfAlpha();
 }
@@ -75,35 +76,39 @@ void CursorFiles::remindOfAlpha() {
 // The Panel.
 
 void CursorFiles::openPanel() {
-  const IconContainerRec& record = state_.current();
-  const bool isKnown = record.isCursor && isInside(record.hotspotX) && isInside(record.hotspotY);
-  x_ = isKnown ? record.hotspotX : 0;
-  y_ = isKnown ? record.hotspotY : 0;
-  changed();
+  setSpot(startOf(state_.current()));
   context_.editor.showPanel(kCursorPanel);
   showHotspot();
 }
 
-void CursorFiles::setHotspotX(int x) {
-  if (isInside(x)) x_ = x;
-  changed();
+CursorFiles::Spot CursorFiles::startOf(const IconContainerRec& record) {
+  const bool isKnown = record.isCursor && isInside(record.hotspotX) && isInside(record.hotspotY);
+  return isKnown ? Spot{record.hotspotX, record.hotspotY} : Spot{};
 }
 
-void CursorFiles::setHotspotY(int y) {
-  if (isInside(y)) y_ = y;
-  changed();
+// Other rooms bring icons up too, and tell nobody here.
+CursorFiles::Spot CursorFiles::spot() const {
+  return !spotOf_ || *spotOf_ == shownIcon(state_) ? spot_ : startOf(state_.current());
 }
+
+void CursorFiles::setSpot(Spot spot) {
+  spot_ = spot;
+  spotOf_ = shownIcon(state_);
+  if (onChange) onChange();
+}
+
+void CursorFiles::setHotspotX(int x) { setSpot({isInside(x) ? x : hotspotX(), hotspotY()}); }
+void CursorFiles::setHotspotY(int y) { setSpot({hotspotX(), isInside(y) ? y : hotspotY()}); }
 
 void CursorFiles::setHotspotByClick(int x, int y) {
   if (mark_.isFlashing() || !isInside(x) || !isInside(y)) return;
-  x_ = x;
-  y_ = y;
-  changed();
+  setSpot({x, y});
   showHotspot();
 }
 
 void CursorFiles::showHotspot() {
-  if (state_.screen.mActivePanel == kCursorPanel && state_.current().present) mark_.FlashHotspot(x_, y_);
+  if (state_.screen.mActivePanel == kCursorPanel && state_.current().present)
+    mark_.FlashHotspot(hotspotX(), hotspotY());
 }
 
 void CursorFiles::revealOriginalHotspot() {
@@ -111,12 +116,8 @@ void CursorFiles::revealOriginalHotspot() {
   if (record.present && record.isCursor) mark_.FlashHotspot(record.hotspotX, record.hotspotY);
 }
 
-void CursorFiles::changed() {
-  if (onChange) onChange();
-}
-
 void CursorFiles::WriteCursorFile(const std::string& path, bool& ok) const {
-  ok = writeCurrentCursor(state_, x_, y_, path);
+  ok = writeCurrentCursor(state_, hotspotX(), hotspotY(), path);
 }
 
 }  // namespace gp

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -23,9 +24,10 @@ class CursorFiles {
 
   // Brings the Panel up, with the hot spot of the current cursor or 0, 0, and shows the spot once.
   void openPanel();
-  // cboCursorHotSpot(0) and (1): their items, 0 to 31.
-  int hotspotX() const { return x_; }
-  int hotspotY() const { return y_; }
+  // cboCursorHotSpot(0) and (1): their items, 0 to 31. When another icon has come up since the Panel did, they are as
+  // if it had come up with that one.
+  int hotspotX() const { return spot().x; }
+  int hotspotY() const { return spot().y; }
   void setHotspotX(int x);
   void setHotspotY(int y);
   // A click on the Editing Area while the Panel is open, in pixels of the icon: takes the spot and shows it, unless one
@@ -44,16 +46,23 @@ class CursorFiles {
   std::function<void()> onChange;
 
  private:
+  struct Spot {
+    int x = 0;
+    int y = 0;
+  };
   bool load(std::span<const std::uint8_t> file);
   void leaveEmpty(const std::string& text, BoxIcon icon);
   void remindOfAlpha();
-  void changed();
+  // Where the lists start for an icon: at the hot spot of a cursor, otherwise at 0, 0.
+  static Spot startOf(const IconContainerRec& record);
+  Spot spot() const;
+  void setSpot(Spot spot);
 
   FilesContext context_;
   EditState& state_;
   HotspotMark mark_;
-  int x_ = 0;
-  int y_ = 0;
+  Spot spot_;
+  std::optional<ShownIcon> spotOf_;  // the icon for which the lists were set; nothing before the first time
 };
 
 }  // namespace gp

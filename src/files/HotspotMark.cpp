@@ -2,8 +2,6 @@
 
 #include "platform/scope/FlagFor.h"
 
-#include <string>
-
 namespace gp {
 namespace {
 
@@ -11,21 +9,12 @@ constexpr int kPhases = 2 * 3;  // three times red and white
 constexpr int kPhaseMilliseconds = 150;
 constexpr Color kRed = 0x0000FF;
 
-// What is on the Editing Area, as far as the mark cares.
-struct ShownIcon {
-  int container;
-  int size;
-  bool present;
-  std::string path;
-  bool operator==(const ShownIcon&) const = default;
-};
+}  // namespace
 
 ShownIcon shownIcon(const EditState& state) {
   const IconContainerRec& record = state.current();
-  return {state.mCurContainer, record.size, record.present, record.path.trimmed()};
+  return {state.mCurContainer, record.size, record.present, record.path.trimmed(), record.multiIconIndex};
 }
-
-}  // namespace
 
 HotspotMark::HotspotMark(EditState& state, Editor& editor, MessagePump& pump)
     : state_(state), editor_(editor), pump_(pump) {}

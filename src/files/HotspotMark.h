@@ -7,7 +7,20 @@
 #include "document/Editor.h"
 #include "platform/ports/MessagePump.h"
 
+#include <string>
+
 namespace gp {
+
+// What is on the Editing Area, as far as a hot spot cares: one is of no use on another icon.
+struct ShownIcon {
+  int container;
+  int size;
+  bool present;
+  std::string path;
+  int multiIconIndex;
+  bool operator==(const ShownIcon&) const = default;
+};
+ShownIcon shownIcon(const EditState& state);
 
 class HotspotMark {
  public:

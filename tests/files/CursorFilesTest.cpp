@@ -257,6 +257,76 @@ TEST_F(CursorFilesTest, TheListsHoldZeroTo31AndTellTheView) {
   EXPECT_EQ(spot(), std::pair(31, 17));
 }
 
+// Another icon under the Panel.
+
+TEST_F(CursorFilesTest, AnotherCursorUnderThePanelStartsTheListsAtItsOwnHotSpotAndTellsTheView) {
+  givenCursor(7, 30);
+  cursor.openPanel();
+  cursor.setHotspotByClick(2, 29);
+  std::vector<std::pair<int, int>> seen;
+  cursor.onChange = [&] { seen.push_back(spot()); };
+  EXPECT_TRUE(openCursor(write(cursorOf(anyPicture(32, 8), 12, 5), "other.cur")));
+  EXPECT_EQ(seen, (std::vector{std::pair(12, 5)}));
+  EXPECT_EQ(spot(), std::pair(12, 5));
+  dialogs.paths = {folder.path("saved.cur")};
+  cursorSaver.doSaveAs(SaveMode::Cursor);
+  const Bytes file = bytesOf(folder.path("saved.cur"));
+  ASSERT_GT(file.size(), 22u);
+  EXPECT_EQ(Bytes(file.begin() + 10, file.begin() + 14), (Bytes{12, 0, 5, 0}));
+}
+
+TEST_F(CursorFilesTest, TheSameFileOpenedAgainUnderThePanelStartsTheListsAgain) {
+  const std::string path = givenCursor(7, 30);
+  cursor.openPanel();
+  cursor.setHotspotX(2);
+  EXPECT_TRUE(openCursor(path));
+  EXPECT_EQ(spot(), std::pair(7, 30));
+}
+
+TEST_F(CursorFilesTest, AnIconUnderThePanelIsSavedWithTheHotSpotAtZero) {
+  givenCursor(7, 30);
+  cursor.openPanel();
+  EXPECT_TRUE(openQuietly(folder.write("a.ico", build(entryOf(anyPicture(32, 4))))));
+  EXPECT_EQ(spot(), std::pair(0, 0));
+  dialogs.paths = {folder.path("saved.cur")};
+  cursorSaver.doSaveAs(SaveMode::Cursor);
+  const Bytes file = bytesOf(folder.path("saved.cur"));
+  ASSERT_GT(file.size(), 22u);
+  EXPECT_EQ(Bytes(file.begin() + 10, file.begin() + 14), (Bytes{0, 0, 0, 0}));
+}
+
+TEST_F(CursorFilesTest, AHotSpotOutsideOfAnIconThatCameUpUnderThePanelCountsAsZero) {
+  givenCursor(7, 30);
+  cursor.openPanel();
+  state.mIconRecs[1] = record();
+  state.mCurContainer = 1;
+  EXPECT_EQ(spot(), std::pair(7, 30));
+  for (const auto& [x, y] : {std::pair{32, 5}, {5, 32}, {-1, 5}, {5, -1}}) {
+    record().hotspotX = static_cast<std::int16_t>(x);
+    record().hotspotY = static_cast<std::int16_t>(y);
+    EXPECT_EQ(spot(), std::pair(0, 0)) << x << "," << y;
+  }
+}
+
+TEST_F(CursorFilesTest, AnotherEntryOfTheSameFileIsAnotherIcon) {
+  givenCursor(7, 30);
+  record().isCursor = false;
+  cursor.openPanel();
+  cursor.setHotspotX(20);
+  record().multiIconIndex = 3;
+  EXPECT_EQ(spot(), std::pair(0, 0));
+}
+
+TEST_F(CursorFilesTest, WhatIsChosenForTheIconThatCameUpHolds) {
+  givenCursor(7, 30);
+  cursor.openPanel();
+  EXPECT_TRUE(openQuietly(folder.write("a.ico", build(entryOf(anyPicture(32, 4))))));
+  cursor.setHotspotX(20);
+  EXPECT_EQ(spot(), std::pair(20, 0));
+  cursor.setHotspotY(31);
+  EXPECT_EQ(spot(), std::pair(20, 31));
+}
+
 TEST_F(CursorFilesTest, TheSpotIsShownOnlyWhileThePanelIsOpen) {
   givenCursor(1, 1);
   cursor.showHotspot();

@@ -204,6 +204,44 @@ TEST_F(CursorCommandsTest, WithoutThePanelAClickSetsNoHotSpot) {
   EXPECT_EQ(pump.waitedMilliseconds, 0);
 }
 
+TEST_F(CursorCommandsTest, AnotherCursorUnderThePanelIsSavedWithItsOwnHotSpot) {
+  startWithPanel();
+  clickAt(20, 31);
+  dialogs.paths = {writeCursor(9, 8, 8, "other.cur")};
+  click("mnuFileSub", kOpenCursor);
+  EXPECT_EQ(state.screen.mActivePanel, kCursorPanel);
+  EXPECT_EQ(spot(), std::pair(9, 8));
+  dialogs.paths = {folder.file("saved.cur")};
+  shell.cmdProceed();
+  const std::string file = folder.read("saved.cur");
+  ASSERT_GT(file.size(), 22U);
+  EXPECT_EQ(file.substr(10, 4), std::string({9, 0, 8, 0}));
+}
+
+TEST_F(CursorCommandsTest, AnIconUnderThePanelStartsTheListsAtZeroAndAClickCountsAgain) {
+  startWithPanel();
+  const Bytes bytes = build(entryOf(anyPicture(32, 8)));
+  dialogs.paths = {folder.write("other.ico", std::string(bytes.begin(), bytes.end()))};
+  click("mnuFileSub", 7);
+  EXPECT_EQ(state.screen.mActivePanel, kCursorPanel);
+  EXPECT_EQ(spot(), std::pair(0, 0));
+  clickAt(20, 31);
+  EXPECT_EQ(spot(), std::pair(20, 31));
+}
+
+TEST_F(CursorCommandsTest, ACursorCopiedFromAnotherContainerUnderThePanelBringsItsHotSpot) {
+  startWithCursor(3, 4);
+  shell.iconsPanel().SwitchContainer(1);
+  dialogs.paths = {writeCursor(9, 8, 4, "other.cur")};
+  click("mnuFileSub", kOpenCursor);
+  click("mnuFileSub", kSaveAsCursor);
+  EXPECT_EQ(spot(), std::pair(9, 8));
+  boxes.expectAsked("Copy from Container 1 to current container.  Proceed?", BoxAnswer::Yes);
+  click("mnuEditSubCopyFromContainer", 0);
+  EXPECT_EQ(state.screen.mActivePanel, kCursorPanel);
+  EXPECT_EQ(spot(), std::pair(3, 4));
+}
+
 // What ends a blink.
 
 TEST_F(CursorCommandsTest, ClosingThePanelEndsABlinkEarly) {
