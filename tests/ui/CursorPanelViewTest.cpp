@@ -65,6 +65,15 @@ TEST_F(CursorPanelViewTest, TheCommandBringsItUpWithTheHotSpotOfTheCursor) {
   expectSpot(7, 30);
 }
 
+TEST_F(CursorPanelViewTest, TheListsFollowAnIconThatIsOpenedUnderIt) {
+  startWithPanel();
+  bool ok = false;
+  shell.doOpenIconFileQuietly(folder.write("other.ico", test::plainIconFile(32, 3)), ok);
+  settle();
+  ASSERT_TRUE(isPanelUp());
+  expectSpot(0, 0);
+}
+
 TEST_F(CursorPanelViewTest, BothListsHoldZeroTo31AndEveryControlHasAName) {
   startWithPanel();
   for (const int index : {0, 1}) {

@@ -21,6 +21,9 @@ class CursorPanelView : public PanelFrame {
   CursorPanelView(QWidget* parent, CursorFiles& cursors);
   ~CursorPanelView() override;
 
+  // Shows the hot spot that the lists stand at, which is another icon's when one has come up.
+  void refresh();
+
  signals:
   void showHotspotRequested();
 
@@ -28,7 +31,6 @@ class CursorPanelView : public PanelFrame {
   QGridLayout* makeLists();
   void addList(QGridLayout* grid, int index, const QString& caption, const QString& name);
   QWidget* makeShowButton();
-  void refresh();
 
   CursorFiles& cursors_;
   std::array<QComboBox*, 2> cboCursorHotSpot_{};

@@ -32,11 +32,12 @@ QWidget* makeRotatePanel(QWidget* parent, Shell& shell, QtDisplay&) {
   return new RotatePanelView(parent, shell.drawing().rotatePanel);
 }
 
-QWidget* makeCursorPanel(QWidget* parent, Shell& shell, QtDisplay&) {
+QWidget* makeCursorPanel(QWidget* parent, Shell& shell, QtDisplay& display) {
   auto* panel = new CursorPanelView(parent, shell.cursorFiles());
   QObject::connect(panel, &CursorPanelView::showHotspotRequested, panel, [&shell] {
     shell.guarded("cmdShowHotspot_Click", [&shell] { shell.cursorFiles().showHotspot(); });
   });
+  display.listen(DisplayPart::IconsPanel, [panel] { panel->refresh(); });
   return panel;
 }
 
