@@ -111,6 +111,112 @@ TEST_F(MultiIconForm, RepositionListsAllSizesWithTheFirstSelected) {
   EXPECT_EQ(find("picReposition")->size(), QSize(24, 24));
 }
 
+// An entry of 24 bits whose pixels, 0xRRGGBB, are what `colorAt` gives. Its side in the directory is its width, a
+// multiple of four.
+using ColorAt = std::function<std::size_t(int x, int y)>;
+Told trueColorEntry(int width, int height, const ColorAt& colorAt) {
+  const auto columns = static_cast<std::size_t>(width), rows = static_cast<std::size_t>(height);
+  std::string image = test::littleEndian(40, 4) + test::littleEndian(columns, 4) + test::littleEndian(2 * rows, 4) +
+                      test::littleEndian(1, 2) + test::littleEndian(24, 2) + std::string(24, '\0');
+  for (int y = height; y-- > 0;)
+    for (int x = 0; x < width; ++x) image += test::littleEndian(colorAt(x, y), 3);
+  return {width, 0, 24, image + std::string((columns + 31) / 32 * 4 * rows, '\0')};
+}
+
+// Red and green above, blue and white below.
+Told quartersEntry(int width, int height) {
+  return trueColorEntry(width, height, [=](int x, int y) -> std::size_t {
+    if (y < height / 2) return x < width / 2 ? 0xFF0000 : 0x00FF00;
+    return x < width / 2 ? 0x0000FF : 0xFFFFFF;
+  });
+}
+
+const QColor kRed(255, 0, 0), kGreen(0, 255, 0), kBlue(0, 0, 255), kWhiteQuarter(255, 255, 255);
+const QColor kPreviewGround(0xC0, 0xC0, 0xC0);
+
+// Looks at the preview in the pane, in pixels of the form.
+class PreviewLook {
+ public:
+  explicit PreviewLook(QWidget* frame) : image_(frame->grab().toImage()) {}
+  QColor at(int x, int y) const {
+    const double ratio = image_.devicePixelRatio();
+    return image_.pixelColor(static_cast<int>((x + 0.5) * ratio), static_cast<int>((y + 0.5) * ratio));
+  }
+  int width() const { return image_.deviceIndependentSize().toSize().width(); }
+
+ private:
+  QImage image_;
+};
+
+TEST_F(MultiIconForm, RepositionShowsLargePicturesWhole) {
+  open({quartersEntry(128, 128), quartersEntry(64, 64), quartersEntry(252, 252), kStandard[0], kStandard[1]});
+  click("cmdReposition(0)");
+  const QSize formSize = form->size();
+  for (const int item : {0, 1, 2}) {
+    clickItem(sequence(), item);
+    EXPECT_EQ(find("picReposition")->geometry(), QRect(1, 1, 48, 48));
+    const PreviewLook look(find("lblReposition"));
+    ASSERT_EQ(look.width(), 50);
+    for (const int near : {1, 12, 23}) {
+      const int far = 49 - near;
+      EXPECT_EQ(look.at(near, near), kRed);
+      EXPECT_EQ(look.at(far, near), kGreen);
+      EXPECT_EQ(look.at(near, far), kBlue);
+      EXPECT_EQ(look.at(far, far), kWhiteQuarter);
+    }
+  }
+  EXPECT_EQ(accessible("lblReposition", QAccessible::Value), "252 by 252 pixels");
+  clickItem(sequence(), 3);
+  EXPECT_EQ(find("picReposition")->geometry(), QRect(17, 17, 16, 16));
+  EXPECT_EQ(form->size(), formSize);
+}
+
+TEST_F(MultiIconForm, RepositionKeepsTheAspectOfALargePicture) {
+  struct Shape {
+    int width, height;
+    QRect shown;
+  };
+  constexpr std::size_t kThirdHeight = 6 + 2 * 16 + 1;
+  for (const Shape& shape : {Shape{64, 16, {1, 19, 48, 12}},
+                             {16, 64, {19, 1, 12, 48}},
+                             {128, 1, {1, 24, 48, 1}},
+                             {48, 16, {1, 17, 48, 16}}}) {
+    std::string content = test::iconFileOf({kStandard[0], kStandard[1], quartersEntry(shape.width, shape.height)});
+    content[kThirdHeight] = static_cast<char>(shape.height);
+    openFile(folder.write("wide.ico", content));
+    click("cmdReposition(0)");
+    clickItem(sequence(), 2);
+    EXPECT_EQ(find("picReposition")->geometry(), shape.shown);
+    const PreviewLook look(find("lblReposition"));
+    const QRect shown = shape.shown;
+    EXPECT_EQ(look.at(shown.left(), shown.bottom()), kBlue);
+    EXPECT_EQ(look.at(shown.right(), shown.bottom()), kWhiteQuarter);
+    if (shape.height > 1) {
+      EXPECT_EQ(look.at(shown.left(), shown.top()), kRed);
+      EXPECT_EQ(look.at(shown.right(), shown.top()), kGreen);
+    }
+    EXPECT_EQ(look.at(3, 3), kPreviewGround);
+    EXPECT_EQ(look.at(46, 46), kPreviewGround);
+  }
+}
+
+TEST_F(MultiIconForm, RepositionSmoothsWhatItScalesDownAndNothingElse) {
+  const auto stripes = [](int, int y) -> std::size_t { return y % 2 == 0 ? 0x000000 : 0xFFFFFF; };
+  open({trueColorEntry(192, 192, stripes), trueColorEntry(48, 48, stripes), trueColorEntry(32, 32, stripes)});
+  click("cmdReposition(0)");
+  const auto look = [&](int item) {
+    clickItem(sequence(), item);
+    return PreviewLook(find("lblReposition"));
+  };
+  const PreviewLook large = look(0), largest = look(1), small = look(2);
+  for (const int y : {10, 11, 30, 31}) {
+    EXPECT_NEAR(large.at(20, y).lightness(), 127, 1);
+    const QColor exact = y % 2 == 0 ? Qt::white : Qt::black;  // both begin at an odd row
+    EXPECT_EQ(largest.at(20, y), exact);
+    EXPECT_EQ(small.at(20, y), exact);
+  }
+}
+
 TEST_F(MultiIconForm, ShiftButtonsAreEnabledBetweenTheEnds) {
   open();
   click("cmdReposition(0)");

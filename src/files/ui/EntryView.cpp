@@ -1,11 +1,18 @@
 #include "files/ui/EntryView.h"
 
 #include "document/ui/SurfacePainting.h"
+#include "platform/gdi/SurfaceOps.h"
 
 namespace gp {
 namespace {
 
 constexpr int kOutline = 1;
+
+// The size in which a picture is shown in a square of `side`: its own, or as large as there is room for.
+QSize fittedSize(const QSize& picture, int side) {
+  if (picture.width() <= side && picture.height() <= side) return picture;
+  return picture.scaled(side, side, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+}
 
 class EntryPicture final : public QWidget {
  public:
@@ -14,10 +21,20 @@ class EntryPicture final : public QWidget {
  protected:
   void paintEvent(QPaintEvent*) override {
     DevicePainter painter(this);
-    paintCentred(painter, shown_, painter.toDevice(rect()), devicePixelRatioF());
+    const QRect area = painter.toDevice(rect());
+    if (shown_.width() > width() || shown_.height() > height())
+      paintCentred(painter, stretchedTo(area.size()), area, 1);
+    else
+      paintCentred(painter, shown_, area, devicePixelRatioF());
   }
 
  private:
+  Surface stretchedTo(const QSize& size) const {
+    Surface stretched(size.width(), size.height());
+    StretchbltPic(shown_, stretched, true);
+    return stretched;
+  }
+
   const Surface& shown_;
 };
 
@@ -34,8 +51,9 @@ EntryView::EntryView(QWidget* parent, const EntryViewNames& names, const Surface
 }
 
 void EntryView::refresh() {
-  picIconInFile->resize(shown_.width(), shown_.height());
-  picIconInFile->move((width() - shown_.width()) / 2, (height() - shown_.height()) / 2);
+  const QSize size = fittedSize(QSize(shown_.width(), shown_.height()), width() - 2 * kOutline);
+  picIconInFile->resize(size);
+  picIconInFile->move((width() - size.width()) / 2, (height() - size.height()) / 2);
   picIconInFile->update();
   accessibleValueChanged(this);
 }

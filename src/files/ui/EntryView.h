@@ -1,5 +1,5 @@
-// lblIconInFile and picIconInFile: the preview of an entry of a file, in the middle of a place that has room for the
-// largest one. It owns no pixels: the Surface must outlive it.
+// lblIconInFile and picIconInFile: the preview of an entry of a file, in the middle of a place of one size. A picture
+// that is larger than the place is scaled down to it as a whole. It owns no pixels: the Surface must outlive it.
 #pragma once
 
 #include "platform/gdi/Surface.h"
