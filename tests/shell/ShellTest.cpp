@@ -338,6 +338,18 @@ TEST_F(ShellTest, AStrokeIsTakenBackAndBroughtBack) {
   EXPECT_FALSE(enabled("mnuEditSub", 2));
 }
 
+TEST_F(ShellTest, WhatWasSavedUnderANameCanStillBeUndone) {
+  start();
+  click("mnuFileSub", 2);
+  paint(3, 4);
+  dialogs.paths = {folder.file("saved.ico")};
+  click("mnuFileSub", 13);
+  ASSERT_FALSE(folder.read("saved.ico").empty());
+  EXPECT_TRUE(enabled("mnuEditSub", 1));
+  click("mnuEditSub", 1);
+  EXPECT_EQ(state.picMask.GetPixel(3, 4), kWhite);
+}
+
 TEST_F(ShellTest, SwitchingContainersStartsTheHistoryAfresh) {
   start();
   click("mnuFileSub", 2);
