@@ -220,20 +220,6 @@ TEST(QtFileDialogs, StarDotStarAlsoMeansNamesWithoutADot) {
   EXPECT_EQ(dialog.nameFilters(), (QStringList{"All files (*)", "Icons and cursors (*.ico *.cur)"}));
 }
 
-TEST(QtFileDialogs, SaveAppendsTheDefaultExtensionToANameWithoutOne) {
-  const test::TempFolder folder;
-  for (const auto& [typed, saved] : {std::pair("new", "new.ico"), {"new.bmp", "new.bmp"}}) {
-    whenShown<QFileDialog>([name = typed](QFileDialog& dialog) { typeName(dialog, name); });
-    FileDialogRequest request = iconRequest(folder);
-    request.flags = kFileOverwritePrompt;
-    request.defaultExtension = "ico";
-    std::string path;
-    int error = -1;
-    EXPECT_TRUE(QtFileDialogs(noFolder).saveFile(request, path, error));
-    EXPECT_EQ(path, folder.file(saved));
-  }
-}
-
 // Saves over a file and answers the question that may come; counts the questions.
 bool saveOver(const test::TempFolder& folder, const std::string& name, unsigned flags,
               QMessageBox::StandardButton answer, std::string& path, int& questions) {

@@ -3,13 +3,20 @@
 #include "platform/files/Files.h"
 #include "platform/qt/DialogOwner.h"
 #include "platform/qt/PathText.h"
+#include "platform/text/Paths.h"
 
 #include <QColorDialog>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QItemSelectionModel>
+#include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
+
+#include <algorithm>
 
 namespace gp {
 namespace {
@@ -17,9 +24,11 @@ namespace {
 constexpr int kCustomColors = 16;
 constexpr const char* kAllFiles = "*.*";
 
+bool meansAllFiles(const std::string& pattern) { return pattern.empty() || pattern == kAllFiles; }
+
 // A pattern list such as "*.ico;*.cur" as Qt takes it; "*.*" means names without a dot too.
 QString qtPatterns(const std::string& pattern) {
-  if (pattern.empty() || pattern == kAllFiles) return QStringLiteral("*");
+  if (meansAllFiles(pattern)) return QStringLiteral("*");
   return toText(pattern).replace(u';', u' ');
 }
 
@@ -45,6 +54,62 @@ void prepare(QFileDialog& dialog, const FileDialogRequest& request) {
   if (!request.defaultExtension.empty()) dialog.setDefaultSuffix(toText(request.defaultExtension));
   if (!request.fileName.empty()) dialog.selectFile(pathToText(request.fileName));
 }
+
+// Completes the name that is typed, so that the chosen file type lists the file later. Qt itself takes whatever stands
+// behind a dot for an extension, and looks for folders of that name in the current directory only.
+class SaveDialog final : public QFileDialog {
+ public:
+  // The request must outlive the dialog.
+  SaveDialog(QWidget* parent, const FileDialogRequest& request) : QFileDialog(parent), request_(request) {}
+
+ protected:
+  void accept() override {
+    const QStringList chosen = selectedFiles();
+    if (chosen.isEmpty()) return;
+    for (const QFileInfo& file : {QFileInfo(chosen.constFirst()), QFileInfo(directory(), nameField()->text())})
+      if (file.isDir()) return enter(file);
+    completeName(chosen.constFirst());
+    QFileDialog::accept();
+  }
+
+ private:
+  void enter(const QFileInfo& folder) {
+    setDirectory(folder.absoluteFilePath());
+    nameField()->selectAll();
+  }
+
+  QLineEdit* nameField() const { return findChild<QLineEdit*>(QStringLiteral("fileNameEdit")); }
+  QItemSelectionModel* selection() const { return findChild<QListView*>(QStringLiteral("listView"))->selectionModel(); }
+
+  // `path` is what Qt makes of the text in the field.
+  void completeName(const QString& path) {
+    // Qt takes what stands in quotes and drops what follows them.
+    QString text = nameField()->text().contains(u'"') ? path : nameField()->text();
+    if (!lacksExtension(QFileInfo(text).fileName())) return;
+    if (text.endsWith(u'.')) text.chop(1);
+    selection()->clear();  // a file of the name as it was typed goes before the text
+    nameField()->setText(text + u'.' + toText(request_.defaultExtension));
+  }
+
+  bool lacksExtension(const QString& name) const {
+    if (request_.defaultExtension.empty()) return false;
+    const std::string pattern = chosenPattern();
+    // Among all files one without an extension may be picked in the list.
+    if (meansAllFiles(pattern)) return !name.contains(u'.') && !selection()->hasSelection();
+    QStringList endings = toText(pattern).split(u';');
+    endings << QStringLiteral("*.") + toText(request_.defaultExtension);
+    return std::ranges::none_of(endings, [name = textToPath(name)](const QString& ending) {
+      return matchesPattern(name, textToPath(ending.trimmed()));
+    });
+  }
+
+  std::string chosenPattern() const {
+    const auto chosen = static_cast<std::size_t>(nameFilters().indexOf(selectedNameFilter()));
+    return chosen < request_.filters.size() ? request_.filters[chosen].pattern : std::string();
+  }
+
+  const FileDialogRequest& request_;
+};
 
 // Qt asks before it replaces a file, but does not find one whose name is no UTF-8.
 bool mayReplace(QFileDialog& dialog, const FileDialogRequest& request, const std::string& path) {
@@ -91,7 +156,7 @@ bool QtFileDialogs::openFile(const FileDialogRequest& request, std::string& path
 
 bool QtFileDialogs::saveFile(const FileDialogRequest& request, std::string& path, int& error) {
   const DialogOwner owner;
-  QFileDialog dialog(owner.window());
+  SaveDialog dialog(owner.window(), request);
   prepareSave(dialog, request);
   bool chosen = run(dialog, path, error);
   while (chosen && !mayReplace(dialog, request, path)) chosen = run(dialog, path, error);
