@@ -5,9 +5,8 @@
 
 #include <QLabel>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QScreen>
-
-#include <algorithm>
 
 namespace gp {
 namespace {
@@ -76,14 +75,22 @@ BoxAnswer answerOf(int button, BoxButtons buttons) {
   return escapeAnswer(buttons);
 }
 
-// Texts are written in lines, which stay whole as far as the screen is wide enough; Qt alone would break those beyond
-// half a screen once more.
-void keepLines(QMessageBox& box) {
+// A word that does not fit into a line, such as a long file name, may be broken every so often: Qt would cut it off.
+QString breakable(QString text) {
+  static const QRegularExpression longWord(QStringLiteral("(\\S{50})(?=\\S{50})"));
+  return text.replace(longWord, QStringLiteral("\\1\u200B"));
+}
+
+// Texts are written in lines, which stay whole where the screen is wide enough; Qt alone would break those beyond half
+// a screen once more.
+void setLines(QMessageBox& box, const QString& text) {
+  box.setText(breakable(text));
   auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
   if (!label) return;
+  label->setAccessibleName(text);
   label->ensurePolished();
-  const int lines = label->fontMetrics().size(Qt::TextExpandTabs, box.text()).width();
-  label->setMinimumWidth(std::clamp(box.screen()->availableGeometry().width() - kBesideText, 0, lines));
+  const int lines = label->fontMetrics().size(Qt::TextExpandTabs, text).width();
+  if (lines <= box.screen()->availableGeometry().width() - kBesideText) label->setMinimumWidth(lines);
 }
 
 }  // namespace
@@ -92,12 +99,11 @@ void QtMessageBoxes::prepare(QMessageBox& box, const std::string& text, BoxButto
                              BoxAnswer suggested) {
   box.setWindowTitle(toText(kProgramName));
   box.setTextFormat(Qt::PlainText);
-  box.setText(toText(text));
+  setLines(box, toText(text));
   box.setIcon(standardIcon(icon));
   box.setStandardButtons(standardButtons(buttons));
   box.setDefaultButton(standardButton(suggested));
   box.setEscapeButton(standardButton(escapeAnswer(buttons)));
-  keepLines(box);
 }
 
 BoxAnswer QtMessageBoxes::show(const std::string& text, BoxButtons buttons, BoxIcon icon, BoxAnswer suggested) {
