@@ -171,6 +171,16 @@ TEST_F(SaveDialog, ANameThatTheChosenFileTypeDoesNotListGetsTheExtension) {
   for (const auto& [name, saved] : names) EXPECT_EQ(saveAs(name), folder.file(saved)) << name;
 }
 
+TEST_F(SaveDialog, AProposedNameThatIsAlsoAFoldersIsAFile) {
+  folder.makeFolder("app");
+  proposed = "app";
+  EXPECT_EQ(save({entered()}), folder.file("app.ico"));
+  EXPECT_EQ(save({pressed()}), folder.file("app.ico"));
+  folder.write("app.ico");
+  EXPECT_EQ(save({entered()}), folder.file("app.ico"));
+  EXPECT_EQ(questions.size(), 1U);
+}
+
 TEST_F(SaveDialog, ANameThatTheChosenFileTypeListsStays) {
   for (const char* name : {"a.ico", "a.ICO", "py4.0.Ico", "a.ico.ico", "caf\xE9.ICO"})
     EXPECT_EQ(saveAs(name), folder.file(name));

@@ -67,12 +67,18 @@ class SaveDialog final : public QFileDialog {
     const QStringList chosen = selectedFiles();
     if (chosen.isEmpty()) return;
     for (const QFileInfo& file : {QFileInfo(chosen.constFirst()), QFileInfo(directory(), nameField()->text())})
-      if (file.isDir()) return enter(file);
+      if (file.isDir() && !isProposed(file)) return enter(file);
     completeName(chosen.constFirst());
     QFileDialog::accept();
   }
 
  private:
+  // The name that was proposed is meant for a file, even beside a folder that has it.
+  bool isProposed(const QFileInfo& file) const {
+    const QString proposed = pathToText(request_.fileName);
+    return nameField()->text() == proposed && file.fileName() == proposed;
+  }
+
   void enter(const QFileInfo& folder) {
     setDirectory(folder.absoluteFilePath());
     nameField()->selectAll();
