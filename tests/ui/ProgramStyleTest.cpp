@@ -15,7 +15,7 @@
 namespace gp {
 namespace {
 
-constexpr int kLight = 239, kDark = 42;
+constexpr int kLight = 239, kDark = 42, kBlackest = 0;
 // What outlines of controls need beside their ground to be seen by most people.
 constexpr double kLeastContrast = 3;
 
@@ -52,15 +52,19 @@ double greatestContrast(QWidget& control, int window) {
 }
 
 TEST(ProgramStyle, UntickedBoxesAreSeenOnADarkWindow) {
-  QCheckBox box;
-  EXPECT_GE(greatestContrast(box, kDark), kLeastContrast);
-  QRadioButton button;
-  EXPECT_GE(greatestContrast(button, kDark), kLeastContrast);
+  for (const int window : {kDark, kBlackest}) {
+    QCheckBox box;
+    EXPECT_GE(greatestContrast(box, window), kLeastContrast) << window;
+    QRadioButton button;
+    EXPECT_GE(greatestContrast(button, window), kLeastContrast) << window;
+  }
 }
 
 TEST(ProgramStyle, SlidersAreSeenOnADarkWindow) {
-  QSlider slider(Qt::Horizontal);
-  EXPECT_GE(greatestContrast(slider, kDark), kLeastContrast);
+  for (const int window : {kDark, kBlackest}) {
+    QSlider slider(Qt::Horizontal);
+    EXPECT_GE(greatestContrast(slider, window), kLeastContrast) << window;
+  }
 }
 
 // On a light window boxes look as those of other programs do.

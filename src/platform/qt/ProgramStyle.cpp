@@ -7,16 +7,19 @@
 namespace gp {
 namespace {
 
-constexpr int kDarkLightness = 128;
-// How much lighter, in percent, a dark window counts for outlines: they are drawn a third darker than that.
-constexpr int kLighter = 480;
+// A colour three quarters of the way from the window's to that of its text.
+QColor nearText(const QColor& window, const QColor& text) {
+  const auto mixed = [](int from, int to) { return (from + 3 * to) / 4; };
+  return {mixed(window.red(), text.red()), mixed(window.green(), text.green()), mixed(window.blue(), text.blue())};
+}
 
-// Outlines are drawn darker than the window, which nobody sees on a dark one: there they are drawn as on a light one.
+// Outlines are drawn a third darker than the window, which nobody sees on a dark one: there they are drawn as on a
+// lighter one.
 template <class Option>
 Option withVisibleOutline(const Option& option) {
   Option visible = option;
-  const QColor window = option.palette.color(QPalette::Window);
-  if (window.lightness() < kDarkLightness) visible.palette.setColor(QPalette::Window, window.lighter(kLighter));
+  const QColor window = option.palette.color(QPalette::Window), text = option.palette.color(QPalette::WindowText);
+  if (window.lightness() < text.lightness()) visible.palette.setColor(QPalette::Window, nearText(window, text));
   return visible;
 }
 
