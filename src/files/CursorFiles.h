@@ -50,6 +50,7 @@ class CursorFiles {
     int x = 0;
     int y = 0;
   };
+
   bool load(std::span<const std::uint8_t> file);
   void leaveEmpty(const std::string& text, BoxIcon icon);
   void remindOfAlpha();

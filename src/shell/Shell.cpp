@@ -110,7 +110,10 @@ void Shell::clearUndoHistory() { drawing_.history.clearUndoHistory(); }
 
 void Shell::showPanel(int panel) {
   // Nothing could be done with a region while a side panel is up.
-  if (panel != kColorPanel) drawing_.tools.imgClearAllTools();
+  if (panel == kColorPanel)
+    drawing_.tools.clearAllTools();
+  else
+    drawing_.tools.imgClearAllTools();
   const Hourglass hourglass(state_, display_);
   if (panel != kCursorPanel) cursorFiles_.mark().cancel();
   if (state_.screen.mActivePanel == kColorPanel && state_.screen.aniContainerVisible) {
@@ -118,7 +121,6 @@ void Shell::showPanel(int panel) {
     RefreshStatusBar();
   }
   state_.screen.mActivePanel = panel;
-  drawing_.tools.clearAllTools();
   display_.changed(DisplayPart::Panel);
   UpdateCommands();
 }
