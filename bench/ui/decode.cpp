@@ -1,8 +1,8 @@
 // Decoding icon entries of 16 to 48 pixels into Surfaces, beside Qt's own reader of icon files on the same entries.
 // Both get the bytes of whole files in memory. Files come from the folder given by GLIMMERPANE_CORPUS, otherwise from
 // the corpus beside the repository.
-#include "files/IconDecoder.h"
-#include "files/IconProbe.h"
+#include "files/format/IconDecoder.h"
+#include "files/format/IconProbe.h"
 
 #include <QBuffer>
 #include <QByteArray>

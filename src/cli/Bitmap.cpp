@@ -1,6 +1,6 @@
 #include "cli/OneImage.h"
 #include "cli/Subcommands.h"
-#include "files/BitmapSaving.h"
+#include "files/saving/BitmapSaving.h"
 
 namespace gp::cli {
 int runBmp(const Arguments& arguments) {

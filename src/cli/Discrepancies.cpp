@@ -3,8 +3,8 @@
 #include "cli/EntryRelations.h"
 #include "cli/ImageHeader.h"
 #include "cli/ImagePixels.h"
-#include "files/IcoLayout.h"
-#include "files/IconProbe.h"
+#include "files/format/IcoLayout.h"
+#include "files/format/IconProbe.h"
 #include "platform/files/WholePicture.h"
 
 #include <array>

@@ -16,13 +16,13 @@ struct EffectSettings {
 };
 
 template <ReliefKind kKind>
-IconPicture makeRelief(const Surface& image, const Surface& mask, const EffectSettings& settings) {
+IconImage makeRelief(const Surface& image, const Surface& mask, const EffectSettings& settings) {
   return relief(image, mask, {kKind, settings.color});
 }
-IconPicture makeButton(const Surface& image, const Surface& mask, const EffectSettings& settings) {
+IconImage makeButton(const Surface& image, const Surface& mask, const EffectSettings& settings) {
   return buttonize(image, mask, {settings.style});
 }
-IconPicture makeDisabled(const Surface& image, const Surface& mask, const EffectSettings&) {
+IconImage makeDisabled(const Surface& image, const Surface& mask, const EffectSettings&) {
   return disabledImage(image, mask);
 }
 
@@ -31,7 +31,7 @@ enum class EffectOption { None, Color, Style };
 struct Effect {
   std::string_view name;
   EffectOption option;  // the one that goes with it
-  IconPicture (*make)(const Surface& image, const Surface& mask, const EffectSettings& settings);
+  IconImage (*make)(const Surface& image, const Surface& mask, const EffectSettings& settings);
 };
 
 constexpr std::array<Effect, 6> kEffects{{{"embossed", EffectOption::None, makeRelief<ReliefKind::Embossed>},

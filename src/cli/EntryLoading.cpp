@@ -1,9 +1,10 @@
 #include "cli/EntryLoading.h"
 
 #include "cli/Console.h"
-#include "files/IconLoading.h"
-#include "files/IconProbe.h"
-#include "files/IconWriter.h"
+#include "document/Containers.h"
+#include "files/format/IconProbe.h"
+#include "files/format/IconWriter.h"
+#include "files/opening/IconLoading.h"
 
 namespace gp::cli {
 namespace {
@@ -30,14 +31,12 @@ IconDefect loadEntry(const ImageFile& file, int index, const std::string& path, 
   const IconEntry entry = file.directory.entry(index);
   if (const IconDefect defect = defectOfEntry(file.bytes.span(), entry); defect != IconDefect::None) return defect;
   const IconFacts facts = factsOfEntry(file.bytes.span(), file.directory, index);
-  state.current().size = static_cast<std::int16_t>(facts.width);
-  state.picImage.resize(facts.width, facts.height);
-  state.picMask.resize(facts.width, facts.height);
-  const IconDefect defect =
-      loadIconPixels(file.bytes.span(), index, SizeSource::Surface, true, state, state.picImage, state.picMask);
-  if (defect != IconDefect::None) return defect;
-  describeLoadedIcon(state, facts, path);
-  return keepLoadedAlpha(state) ? IconDefect::None : IconDefect::StrangeTrueColor;
+  DecodedIcon decoded = loadIconImage(file.bytes.span(), index, true);
+  if (!decoded.isRead()) return decoded.defect;
+  SetRecord(state, state.mCurContainer, decoded.icon, recordOfLoadedIcon(facts, decoded.icon, path));
+  state.picImage = std::move(decoded.icon.image);
+  state.picMask = std::move(decoded.icon.mask);
+  return IconDefect::None;
 }
 
 std::optional<NewIcon> loadNewIcon(const std::string& path) {

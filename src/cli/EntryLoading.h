@@ -4,7 +4,7 @@
 
 #include "cli/ImageFile.h"
 #include "document/EditState.h"
-#include "files/IconUpdates.h"
+#include "files/format/IconUpdates.h"
 
 #include <optional>
 #include <string>

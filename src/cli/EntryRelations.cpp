@@ -1,7 +1,7 @@
 #include "cli/EntryRelations.h"
 
-#include "files/IcoLayout.h"
-#include "files/IconProbe.h"
+#include "files/format/IcoLayout.h"
+#include "files/format/IconProbe.h"
 
 #include <algorithm>
 #include <map>

@@ -2,16 +2,14 @@
 
 #include "cli/Console.h"
 #include "document/IconContainerRec.h"
-#include "files/CursorLoading.h"
-#include "files/IconFileBytes.h"
-#include "files/IconProbe.h"
+#include "files/cursor/CursorLoading.h"
+#include "files/format/IconFileBytes.h"
+#include "files/format/IconProbe.h"
 
 namespace gp::cli {
 namespace {
 
 constexpr int kSideOfZero = 256;
-constexpr int kBitsWithoutAlpha = 24;
-constexpr int kBitsWithAlpha = 32;
 
 std::optional<ImageFile> openFile(const std::string& path, bool withCursors) {
   auto bytes = readIconFile(path);
@@ -33,12 +31,9 @@ bool isUsableCursor(std::span<const std::uint8_t> file) {
 }
 
 std::optional<DecodedImage> decodeCursor(std::span<const std::uint8_t> file, const IconEntry& entry) {
-  EditState state;
-  DecodedImage decoded{Surface(entry.width, entry.height), Surface(entry.width, entry.height), {}, false};
-  if (loadCursorPixels(file, state, decoded.image, decoded.mask) != IconDefect::None) return std::nullopt;
-  decoded.alpha = state.gAlphaValues;
-  decoded.hasAlpha = headerBitCount(file, entry) == kBitsWithAlpha;
-  return decoded;
+  DecodedIcon decoded = loadCursorImage(file);
+  if (!decoded.isRead()) return std::nullopt;
+  return DecodedImage{std::move(decoded.icon), headerBitCount(file, entry) == kBitsWithAlpha};
 }
 
 }  // namespace
@@ -57,11 +52,10 @@ std::optional<DecodedImage> decodeImage(const ImageFile& file, int index) {
   if (!isUsableImage(file, index)) return std::nullopt;
   const IconEntry entry = file.directory.entry(index);
   if (file.isCursor()) return decodeCursor(file.bytes.span(), entry);
-  DecodedImage decoded{Surface(entry.width, entry.height), Surface(entry.width, entry.height), {}, false};
-  const IconPixels pixels{decoded.image, decoded.mask, decoded.alpha};
-  if (decodeEntry(file.bytes.span(), entry, entry.width, entry.height, pixels) != IconDefect::None) return std::nullopt;
-  decoded.hasAlpha = factsOfEntry(file.bytes.span(), file.directory, index).bitCount() == kBitsWithAlpha;
-  return decoded;
+  DecodedIcon decoded = decodeEntry(file.bytes.span(), entry, entry.width, entry.height);
+  if (!decoded.isRead()) return std::nullopt;
+  const int bits = factsOfEntry(file.bytes.span(), file.directory, index).bitCount();
+  return DecodedImage{std::move(decoded.icon), bits == kBitsWithAlpha};
 }
 
 }  // namespace gp::cli

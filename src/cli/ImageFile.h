@@ -3,8 +3,8 @@
 #pragma once
 
 #include "document/AlphaMatrix.h"
-#include "files/IcoDirectory.h"
-#include "files/IconDecoder.h"
+#include "files/format/IcoDirectory.h"
+#include "files/format/IconDecoder.h"
 #include "platform/files/Files.h"
 #include "platform/gdi/Surface.h"
 
@@ -33,8 +33,7 @@ bool isUsableImage(const ImageFile& file, int index);
 
 // An image as the editor shows it.
 struct DecodedImage {
-  Surface image, mask;
-  AlphaMatrix alpha;
+  IconImage icon;
   bool hasAlpha = false;
 };
 // Nothing for an image that is not usable.

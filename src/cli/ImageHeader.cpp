@@ -1,6 +1,6 @@
 #include "cli/ImageHeader.h"
 
-#include "files/IcoLayout.h"
+#include "files/format/IcoLayout.h"
 #include "platform/files/ByteReader.h"
 
 #include <algorithm>

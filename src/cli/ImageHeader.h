@@ -2,7 +2,7 @@
 // kept as they stand there; nothing is refused.
 #pragma once
 
-#include "files/IcoDirectory.h"
+#include "files/format/IcoDirectory.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,9 +1,9 @@
 #include "cli/ImagePixels.h"
 
+#include "colour/ColorCount.h"
 #include "document/IconContainerRec.h"
-#include "files/ColorCount.h"
-#include "files/IcoLayout.h"
-#include "files/IconDecoder.h"
+#include "files/format/IcoLayout.h"
+#include "files/format/IconDecoder.h"
 #include "platform/files/ByteReader.h"
 
 #include <algorithm>
@@ -13,8 +13,6 @@ namespace {
 
 constexpr std::int64_t kLargestSide = 256;  // a byte of 0
 constexpr int kBitsPerByte = 8;
-constexpr int kBitsWithoutAlpha = 24;
-constexpr int kBitsWithAlpha = 32;
 constexpr std::uint8_t kOpaque = 255;
 
 bool isReadable(const ImageHeader& header) {
@@ -62,12 +60,11 @@ std::optional<PixelDepth> measureDepth(std::span<const std::uint8_t> file, const
   told.colorCount = 0;
   told.bitCount = header.bits;
   const int width = static_cast<int>(header.width), height = static_cast<int>(header.rows / 2);
-  Surface image(width, height), mask(width, height);
-  AlphaMatrix alpha(1, 1, kOpaque);
-  if (decodeEntry(file, told, width, height, {image, mask, alpha}) != IconDefect::None) return std::nullopt;
+  const DecodedIcon decoded = decodeEntry(file, told, width, height);
+  if (!decoded.isRead()) return std::nullopt;
   PixelDepth depth;
-  GetColorBitCount_Image(image, depth.colors);
-  if (hasAlpha(alpha)) depth.colors = kTrueColor;
+  GetColorBitCount_Image(decoded.icon.image, depth.colors);
+  if (decoded.icon.hasAlphaValues() && hasAlpha(decoded.icon.alpha)) depth.colors = kTrueColor;
   depth.bits = convBPP_Upto24(depth.colors);
   if (depth.colors == kTrueColor && header.bits == kBitsWithAlpha) depth.bits = kBitsWithAlpha;
   return depth;

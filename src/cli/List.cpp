@@ -1,7 +1,7 @@
 #include "cli/ImageFile.h"
 #include "cli/Json.h"
 #include "cli/Subcommands.h"
-#include "files/IconProbe.h"
+#include "files/format/IconProbe.h"
 
 #include <cstdio>
 

@@ -2,7 +2,7 @@
 
 #include "cli/EntryLoading.h"
 #include "effects/EffectTexts.h"
-#include "files/IconWriter.h"
+#include "files/format/IconWriter.h"
 
 #include <utility>
 
@@ -49,7 +49,7 @@ int writeIcon(const EditState& state, const std::string& output) {
   return answerToWriting(writeCurrentIcon(state, output), output);
 }
 
-int writeIcon(EditState& state, IconPicture made, const std::string& output) {
+int writeIcon(EditState& state, IconImage made, const std::string& output) {
   state.picImage = std::move(made.image);
   state.picMask = std::move(made.mask);
   return writeIcon(state, output);

@@ -4,7 +4,7 @@
 
 #include "cli/Console.h"
 #include "document/EditState.h"
-#include "effects/IconPicture.h"
+#include "document/IconImage.h"
 
 #include <cstddef>
 #include <string>
@@ -33,6 +33,6 @@ int answerToWriting(bool isWritten, const std::string& output);
 // Writes the Current Icon as the editor saves it. Gives the exit status.
 int writeIcon(const EditState& state, const std::string& output);
 // The same with the pictures that an effect has made of it.
-int writeIcon(EditState& state, IconPicture made, const std::string& output);
+int writeIcon(EditState& state, IconImage made, const std::string& output);
 
 }  // namespace gp::cli

@@ -1,9 +1,9 @@
 #include "cli/Subcommands.h"
-#include "files/CursorProbe.h"
-#include "files/IcoLayout.h"
-#include "files/IconDecoder.h"
-#include "files/IconFileBytes.h"
-#include "files/IconProbe.h"
+#include "files/cursor/CursorProbe.h"
+#include "files/format/IcoLayout.h"
+#include "files/format/IconDecoder.h"
+#include "files/format/IconFileBytes.h"
+#include "files/format/IconProbe.h"
 
 #include <cstdio>
 

@@ -3,9 +3,9 @@
 #include "cli/Subcommands.h"
 #include "cli/Updating.h"
 #include "document/Messages.h"
-#include "files/IconDecoder.h"
-#include "files/IconProbe.h"
-#include "files/MultiIconTexts.h"
+#include "files/format/IconDecoder.h"
+#include "files/format/IconProbe.h"
+#include "files/saving/MultiIconTexts.h"
 
 namespace gp::cli {
 namespace {

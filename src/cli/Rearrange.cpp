@@ -1,10 +1,10 @@
 // The subcommands that change what a file of several icons tells of them, and leave the images as they are.
 #include "cli/Subcommands.h"
 #include "cli/Updating.h"
-#include "files/IconDecoder.h"
-#include "files/IconSalvage.h"
-#include "files/IconUpdates.h"
-#include "files/MultiIconTexts.h"
+#include "files/format/IconDecoder.h"
+#include "files/format/IconSalvage.h"
+#include "files/format/IconUpdates.h"
+#include "files/saving/MultiIconTexts.h"
 
 #include <algorithm>
 #include <string_view>

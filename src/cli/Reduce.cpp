@@ -1,8 +1,8 @@
 #include "cli/OneImage.h"
 #include "cli/Subcommands.h"
+#include "colour/ColorCount.h"
 #include "effects/ColorReduction.h"
 #include "effects/EffectTexts.h"
-#include "files/ColorCount.h"
 
 #include <algorithm>
 #include <array>

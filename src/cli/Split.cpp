@@ -1,9 +1,9 @@
 #include "cli/ImageFile.h"
 #include "cli/OutputFolder.h"
 #include "cli/Subcommands.h"
-#include "files/IcoLayout.h"
-#include "files/MultiIconListing.h"
-#include "files/SingleEntryFile.h"
+#include "files/browser/MultiIconListing.h"
+#include "files/format/IcoLayout.h"
+#include "files/format/SingleEntryFile.h"
 #include "platform/files/ByteReader.h"
 
 #include <filesystem>

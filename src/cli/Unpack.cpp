@@ -54,9 +54,9 @@ bool unpackImage(const ImageFile& file, int index, const std::string& prefix) {
   const auto decoded = decodeImage(file, index);
   if (!decoded) return false;
   const std::string start = prefix + "_" + std::to_string(index);
-  return imageFile(decoded->image).writeTo(start + ".image.ppm") &&
-         maskFile(decoded->mask).writeTo(start + ".mask.pgm") &&
-         (!decoded->hasAlpha || alphaFile(decoded->alpha).writeTo(start + ".alpha.pgm"));
+  return imageFile(decoded->icon.image).writeTo(start + ".image.ppm") &&
+         maskFile(decoded->icon.mask).writeTo(start + ".mask.pgm") &&
+         (!decoded->hasAlpha || alphaFile(decoded->icon.alpha).writeTo(start + ".alpha.pgm"));
 }
 
 bool unpackFile(const std::string& path, const std::string& prefix) {

@@ -1,6 +1,6 @@
 #include "cli/Updating.h"
 
-#include "files/IconDecoder.h"
+#include "files/format/IconDecoder.h"
 
 #include <filesystem>
 

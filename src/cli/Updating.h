@@ -3,7 +3,7 @@
 #pragma once
 
 #include "cli/Console.h"
-#include "files/IconArrays.h"
+#include "files/format/IconArrays.h"
 
 #include <optional>
 #include <string>

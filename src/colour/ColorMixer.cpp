@@ -1,7 +1,11 @@
 #include "colour/ColorMixer.h"
 
+#include "colour/ColorSelection.h"
+#include "document/Display.h"
+#include "document/EditState.h"
 #include "platform/gdi/Pens.h"
 #include "platform/gdi/SurfaceOps.h"
+#include "platform/ports/MessagePump.h"
 #include "platform/scope/FlagFor.h"
 #include "platform/text/Numbers.h"
 
@@ -56,12 +60,14 @@ std::string listOf(Color color) {
 
 }  // namespace
 
-ColorMixer::ColorMixer(EditState& state, Display& display, MessagePump& pump, ColorSelection& colors)
-    : state_(state), display_(display), pump_(pump), colors_(colors), intervalIndex_(kFirstIntervalIndex) {
+ColorMixer::ColorMixer(const Context& context, ColorSelection& colors)
+    : context_(context), state_(context.state), colors_(colors), intervalIndex_(kFirstIntervalIndex) {
   for (int channel = 0; channel < kMixChannels; ++channel)
     setSlider(channel, kFirstValues[static_cast<std::size_t>(channel)]);
   paintGradient();
 }
+
+void ColorMixer::showMixer() { context_.display.changed(DisplayPart::ColorPanel); }
 
 std::string ColorMixer::lblRGB(int channel) const {
   const int value = HsrRGB(channel);
@@ -92,7 +98,7 @@ void ColorMixer::moveSlider(int channel, int value) {
 }
 
 void ColorMixer::adjustSliders(MixChange change) {
-  if (change == MixChange::CopySelected) examine(state_.mCurrentColor);
+  if (change == MixChange::CopySelected) colors_.examine(state_.mCurrentColor);
   const Channels selected = channelsOf(state_.mCurrentColor);
   const int interval = kFirstInterval + intervalIndex_;
   const int step = change == MixChange::Lighten ? interval : -interval;
@@ -111,18 +117,12 @@ void ColorMixer::cmdAdjMix(MixChange change) {
 
 void ColorMixer::cboIntervalColor(int index) { intervalIndex_ = std::clamp(index, 0, kLastInterval - kFirstInterval); }
 
-void ColorMixer::examine(Color color) {
-  state_.mHoverR = redOf(color);
-  state_.mHoverG = greenOf(color);
-  state_.mHoverB = blueOf(color);
-}
-
 void ColorMixer::swatchRelease(int channel) { colors_.setCurrentColor(PicRGB(channel)); }
 
 void ColorMixer::mixRelease() { colors_.setCurrentColor(mixed_); }
 
 std::string ColorMixer::mixHover() {
-  examine(mixed_);
+  colors_.examine(mixed_);
   return Hex(mixed_) + "h  RGB(" + listOf(mixed_) + ")";
 }
 
@@ -133,7 +133,7 @@ Color ColorMixer::stripColorAt(int x, int y) const {
 void ColorMixer::gradientPress(int x, int y) {
   const Color color = stripColorAt(x, y);
   if (color == kNoColor) return;
-  examine(color);
+  colors_.examine(color);
   colors_.setCurrentColor(color);
 }
 
@@ -141,7 +141,7 @@ void ColorMixer::gradientMove(int x, int y) {
   const Color color = stripColorAt(x, y);
   if (color == kNoColor) return;
   markerTop_ = y - kMarkerRise;
-  examine(color);
+  colors_.examine(color);
   lblMix_ = "RGB: " + listOf(color);
   showMixer();
 }
@@ -173,7 +173,7 @@ void ColorMixer::paintGradient() {
 void ColorMixer::rebuildMixGradient() {
   paintGradient();
   showMixer();
-  pump_.pump();
+  context_.pump.pump();
 }
 
 void ColorMixer::takeGradient(const Surface& picture) {

@@ -3,11 +3,8 @@
 // the current colour: the sliders do not.
 #pragma once
 
-#include "colour/ColorSelection.h"
-#include "document/Display.h"
-#include "document/EditState.h"
+#include "document/Context.h"
 #include "platform/gdi/Surface.h"
-#include "platform/ports/MessagePump.h"
 
 #include <array>
 #include <string>
@@ -29,9 +26,11 @@ inline constexpr int kLastInterval = 30;
 // The indices of cmdAdjMix.
 enum class MixChange { Lighten = 0, Darken = 1, CopySelected = 2 };
 
+class ColorSelection;
+
 class ColorMixer {
  public:
-  ColorMixer(EditState& state, Display& display, MessagePump& pump, ColorSelection& colors);
+  ColorMixer(const Context& context, ColorSelection& colors);
 
   // What is shown.
   int HsrRGB(int channel) const { return sliders_.at(static_cast<std::size_t>(channel)); }
@@ -76,14 +75,12 @@ class ColorMixer {
  private:
   void setSlider(int channel, int value);
   Color stripColorAt(int x, int y) const;
-  void examine(Color color);
   void adjustSliders(MixChange change);
   void paintGradient();
-  void showMixer() { display_.changed(DisplayPart::ColorPanel); }
+  void showMixer();
 
+  Context context_;
   EditState& state_;
-  Display& display_;
-  MessagePump& pump_;
   ColorSelection& colors_;
 
   std::array<int, kMixChannels> sliders_{};

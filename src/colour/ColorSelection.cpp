@@ -1,6 +1,12 @@
 #include "colour/ColorSelection.h"
 
-#include "document/Messages.h"
+#include "colour/ColorCount.h"
+#include "document/Display.h"
+#include "document/EditState.h"
+#include "document/Editor.h"
+#include "platform/dialogs/clsGPDialog.h"
+#include "platform/ports/MessageBoxes.h"
+#include "platform/ports/MessagePump.h"
 #include "platform/text/Numbers.h"
 
 namespace gp {
@@ -11,9 +17,8 @@ constexpr int kManyColors = 256;
 
 }  // namespace
 
-ColorSelection::ColorSelection(EditState& state, Editor& editor, Display& display, MessageBoxes& boxes,
-                               MessagePump& pump, clsGPDialog& dialog)
-    : state_(state), editor_(editor), display_(display), boxes_(boxes), pump_(pump), dialog_(dialog) {}
+ColorSelection::ColorSelection(const Context& context, clsGPDialog& dialog)
+    : context_(context), state_(context.state), display_(context.display), dialog_(dialog) {}
 
 void ColorSelection::setCurrentColor(Color color) {
   state_.mCurrentColor = color;
@@ -25,10 +30,7 @@ std::string ColorSelection::chartHover(ChartKind chart, double x, double y) {
   if (cell < 0) return {};
   if (chart == ChartKind::Chart16) return chartText(chart, cell);
   if (!state_.options.tooltip256ColorChart) return {};
-  const Color color = chartColor(chart, cell);
-  state_.mHoverR = redOf(color);
-  state_.mHoverG = greenOf(color);
-  state_.mHoverB = blueOf(color);
+  examine(chartColor(chart, cell));
   return chartText(chart, cell);
 }
 
@@ -41,11 +43,11 @@ void ColorSelection::chartRelease(ChartKind chart, double x, double y) {
 void ColorSelection::tellCurrentColor() {
   const Color color = state_.mCurrentColor;
   const std::string gap = "\n\n";
-  boxes_.tell("Currently selected color:      " + gap + std::to_string(color) + " / h" + Hex(color) + gap + "RGB(" +
-                  std::to_string(redOf(color)) + ", " + std::to_string(greenOf(color)) + ", " +
-                  std::to_string(blueOf(color)) + ") " + gap + "HTML #" +
-                  hexHtmlColor(state_.mHoverR, state_.mHoverG, state_.mHoverB),
-              BoxIcon::Information);
+  context_.boxes.tell("Currently selected color:      " + gap + std::to_string(color) + " / h" + Hex(color) + gap +
+                          "RGB(" + std::to_string(redOf(color)) + ", " + std::to_string(greenOf(color)) + ", " +
+                          std::to_string(blueOf(color)) + ") " + gap + "HTML #" +
+                          hexHtmlColor(redOf(hover_), greenOf(hover_), blueOf(hover_)),
+                      BoxIcon::Information);
 }
 
 void ColorSelection::showFrame(ColorFrame frame) {
@@ -81,7 +83,8 @@ void ColorSelection::imgPopColorChart() {
 }
 
 void ColorSelection::chooseColorChart() {
-  const int count = editor_.colorBitCountOfImage();
+  int count = 0;
+  GetColorBitCount_Image(state_.picImage, count);
   if (state_.current().isTrueColor() || count < 1 || count >= kManyColors)
     imgGet256ColorChart();
   else
@@ -89,18 +92,13 @@ void ColorSelection::chooseColorChart() {
 }
 
 void ColorSelection::imgColorPicker() {
-  if (!state_.current().present) {
-    deselectPicker();
-    tellNoIconYet(boxes_);
-    return;
-  }
-  editor_.clearRegion();
-  editor_.UpdateCommands();
+  context_.editor.clearRegion();
+  context_.editor.UpdateCommands();
   const bool select = !pickerSelected_;
-  if (select) editor_.clearAllTools();
+  if (select) context_.editor.clearAllTools();
   pickerSelected_ = select;
   for (DisplayPart part : {DisplayPart::Tools, DisplayPart::Commands, DisplayPart::Pointer}) display_.changed(part);
-  pump_.pump();
+  context_.pump.pump();
 }
 
 void ColorSelection::deselectPicker() {

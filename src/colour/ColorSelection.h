@@ -4,22 +4,21 @@
 
 #include "colour/ColorCharts.h"
 #include "colour/DirectEntry.h"
-#include "document/Display.h"
-#include "document/EditState.h"
-#include "document/Editor.h"
-#include "platform/dialogs/clsGPDialog.h"
-#include "platform/ports/MessageBoxes.h"
-#include "platform/ports/MessagePump.h"
+#include "document/Context.h"
 
 #include <string>
 
 namespace gp {
 
+class clsGPDialog;
+enum class ColorFrame;
+
 class ColorSelection {
  public:
-  ColorSelection(EditState& state, Editor& editor, Display& display, MessageBoxes& boxes, MessagePump& pump,
-                 clsGPDialog& dialog);
+  ColorSelection(const Context& context, clsGPDialog& dialog);
 
+  // Remembers a colour that the pointer is over, which need not be the one selected: mHoverR, mHoverG, mHoverB.
+  void examine(Color color) { hover_ = color; }
   // Makes a colour the current one, shown by picColorToUse.
   void setCurrentColor(Color color);
 
@@ -54,14 +53,13 @@ class ColorSelection {
  private:
   void showFrame(ColorFrame frame);
 
+  Context context_;
   EditState& state_;
-  Editor& editor_;
   Display& display_;
-  MessageBoxes& boxes_;
-  MessagePump& pump_;
   clsGPDialog& dialog_;
   DirectEntry directEntry_;
   bool pickerSelected_ = false;
+  Color hover_ = kBlack;
 };
 
 }  // namespace gp

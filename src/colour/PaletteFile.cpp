@@ -1,6 +1,11 @@
 #include "colour/PaletteFile.h"
 
+#include "colour/ColorMixer.h"
+#include "document/Editor.h"
+#include "platform/dialogs/clsGPDialog.h"
 #include "platform/files/BitmapFile.h"
+#include "platform/ports/MessageBoxes.h"
+#include "platform/ports/PictureLoader.h"
 
 #include <filesystem>
 #include <system_error>
@@ -35,18 +40,12 @@ const char* refusalOf(const LoadedPicture& picture) {
 
 }  // namespace
 
-PaletteFile::PaletteFile(EditState& state, Editor& editor, MessageBoxes& boxes, clsGPDialog& dialog,
-                         PictureLoader& loader, ColorMixer& mixer, std::string folder)
-    : state_(state),
-      editor_(editor),
-      boxes_(boxes),
-      dialog_(dialog),
-      loader_(loader),
-      mixer_(mixer),
-      folder_(std::move(folder)) {}
+PaletteFile::PaletteFile(const Context& context, clsGPDialog& dialog, PictureLoader& loader, ColorMixer& mixer,
+                         std::string folder)
+    : context_(context), dialog_(dialog), loader_(loader), mixer_(mixer), folder_(std::move(folder)) {}
 
 void PaletteFile::bringForward() {
-  editor_.closePanels();
+  context_.editor.closePanels();
   std::error_code ignored;
   std::filesystem::current_path(folder_, ignored);
 }
@@ -62,14 +61,11 @@ void PaletteFile::imgLoadPalette() {
 }
 
 void PaletteFile::load(const std::string& path) {
-  LoadedPicture loaded = loader_.loadPicture(path, kLargestRead, kLargestRead);
-  state_.picAuto = std::move(loaded.picture);
-  if (const char* refusal = refusalOf(loaded)) {
-    boxes_.tell(refusal);
-    return;
-  }
-  mixer_.takeGradient(state_.picAuto);
-  state_.picAuto = Surface();
+  const LoadedPicture loaded = loader_.loadPicture(path, kLargestRead, kLargestRead);
+  if (const char* refusal = refusalOf(loaded))
+    context_.boxes.tell(refusal);
+  else
+    mixer_.takeGradient(loaded.picture);
 }
 
 void PaletteFile::imgSavePalette() {
@@ -80,7 +76,7 @@ void PaletteFile::imgSavePalette() {
   options.defaultExtension = kExtension;
   const std::string path = dialog_.ShowSave(options);
   if (path.empty() || writeBitmap(mixer_.picMixGradient(), path)) return;
-  editor_.ShowRunTimeError("imgSavePalette_Click", "The palette file cannot be written");
+  context_.editor.ShowRunTimeError("imgSavePalette_Click", "The palette file cannot be written");
 }
 
 }  // namespace gp

@@ -9,7 +9,7 @@ AlphaMatrix& currentAlphaRec(EditState& state) {
 }
 
 bool countsAsAlphaIcon(const IconContainerRec& record) {
-  return record.used && record.isTrueColor() && record.bitCount == 32 && record.hasAlpha;
+  return record.used && record.isTrueColor() && record.bitCount == kBitsWithAlpha && record.hasAlpha;
 }
 
 }  // namespace
@@ -34,18 +34,29 @@ void ClearContainer(EditState& state) {
   PrepareAlphaRec(state);
 }
 
-void NewRecord(EditState& state) {
-  IconContainerRec& record = state.current();
+IconContainerRec NewRecord() {
+  IconContainerRec record;
   record.used = true;
   record.sourceLabel = "New icon";
-  record.dirColors = 0;
-  record.bitCount = 0;
-  record.hasAlpha = false;
-  record.bihColors = 0;
-  record.bihBitCount = 0;
   record.present = true;
   record.path = "Untitled";
-  record.clearOrigin();
+  return record;
+}
+
+void SetRecord(EditState& state, int container, const IconImage& icon, const IconContainerRec& record) {
+  IconContainerRec& target = state.mIconRecs.at(static_cast<std::size_t>(container));
+  const std::int16_t seq = target.seq;
+  target = record;
+  target.seq = seq;
+  target.used = true;
+  target.size = static_cast<std::int16_t>(icon.width());
+
+  AlphaMatrix& alpha = state.mAlphaRecs.at(static_cast<std::size_t>(container));
+  const bool keepsAlpha = countsAsAlphaIcon(target) && icon.alpha.isOfSize(target.size);
+  alpha = keepsAlpha ? icon.alpha : AlphaMatrix();
+  if (keepsAlpha || !target.hasAlpha) return;
+  target.hasAlpha = false;
+  target.bitCount = kBitsWithoutAlpha;
 }
 
 bool PrepareAlphaRec(EditState& state) {

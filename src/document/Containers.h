@@ -3,14 +3,19 @@
 #pragma once
 
 #include "document/EditState.h"
+#include "document/IconImage.h"
 
 namespace gp {
 
 // Empties the current container: its Surfaces, and the record from `used` through `present`; size 32, no path. The
 // fields from fromMultiIconFile on stay: who reuses the record sets them.
 void ClearContainer(EditState& state);
-// The current record becomes that of a new, unsaved icon. The size is the caller's.
-void NewRecord(EditState& state);
+// The record of a new, unsaved icon. Its size follows from the icon's image.
+IconContainerRec NewRecord();
+// Describes the icon that a container receives: the record but for its number, `used` and `size`, which are set here,
+// and the icon's alpha values. An icon that counts as one with alpha but has no value for each pixel becomes one of 24
+// bits without alpha.
+void SetRecord(EditState& state, int container, const IconImage& icon, const IconContainerRec& record);
 
 // Makes the alpha matrix of the current container: 1 x 1, or size x size for a true colour icon with alpha whose values
 // are in gAlphaValues; true in the second case. Does nothing while the form loads.

@@ -4,7 +4,6 @@
 
 #include "document/AlphaMatrix.h"
 #include "document/IconContainerRec.h"
-#include "document/MultiIconExchange.h"
 #include "document/Options.h"
 #include "platform/gdi/Surface.h"
 
@@ -74,7 +73,8 @@ struct EditState {
   // True when the Current Icon would be lost by replacing it.
   bool IsIconChanged() const { return current().present && (current().modified || current().neverSaved); }
 
-  MultiIconExchange multiIcon;
+  // The identity of the Current Icon: raised whenever another icon, or none, comes to the Editing Area.
+  unsigned iconSerial = 0;
 
   AlphaMatrix gAlphaValues;
   std::array<AlphaMatrix, kContainerCount> mAlphaRecs;
@@ -85,29 +85,19 @@ struct EditState {
   Surface PicIcon{32, 32, kGround};
   Surface picDisp{384, 384, kGround};
   Surface PicGrid{384, 384, kWhite};
-  std::array<Surface, 2> picTile;
   // Each container's own copy.
   std::array<Surface, kContainerCount> picPanelImage;
   std::array<Surface, kContainerCount> picPanelMask;
   std::array<Surface, kContainerCount> picPanelIcon;
-  // Scratch of the size of the icon.
-  Surface picImageSnap, picMaskSnap;
-  Surface picImageTemp, picMaskTemp, picTemp;
-  Surface picUndo, picAuto;
-  // Region work.
-  Surface picImageRegion, picMaskRegion, picImageDrag, picMaskDrag, picDragSnap;
 
   int gMagnification = 12;  // pixels of picDisp per icon pixel
   Color gGridColor = 0x606060;
 
   Color mCurrentColor = kWhite;  // what all tools paint with, shown by picColorToUse
-  // Channels of the colour last examined, not necessarily the one selected.
-  int mHoverR = 0, mHoverG = 0, mHoverB = 0;
 
   bool mRegionActive = false;  // a region floats or is selected: it keeps commands waiting
   bool mRegionExists = false;  // a region box stands on the Editing Area
   bool mPendingPaint = false;  // a tool action is open and must be committed before the container changes
-  bool mSaveFailed = false;    // the last save was cancelled or failed
   bool mInLoad = false;        // the main form is being made: no layout, no alpha work
 };
 

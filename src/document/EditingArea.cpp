@@ -1,11 +1,16 @@
 #include "document/EditingArea.h"
 
 #include "document/Compositing.h"
+#include "document/Display.h"
+#include "document/EditState.h"
+#include "document/Editor.h"
+#include "document/IconImage.h"
 #include "document/PatternCells.h"
 #include "platform/gdi/Pens.h"
 #include "platform/gdi/RasterOps.h"
 #include "platform/gdi/Stretch.h"
 #include "platform/gdi/SurfaceOps.h"
+#include "platform/ports/MessagePump.h"
 
 #include <algorithm>
 #include <array>
@@ -41,26 +46,17 @@ void stretchWhole(Surface& target, const Surface& source, const Extent& from, Ra
 
 Color gridColorOf(int index) { return kGridColors.at(static_cast<std::size_t>(index)); }
 
-EditingArea::EditingArea(EditState& state, Editor& editor, Display& display, MessagePump& pump)
-    : state_(state), editor_(editor), display_(display), pump_(pump) {
+EditingArea::EditingArea(const Context& context) : context_(context), state_(context.state), display_(context.display) {
   for (Surface& image : state_.picPanelImage) image.backColor = kBlack;
   for (Surface& icon : state_.picPanelIcon) icon.backColor = kGround;
 }
 
 void EditingArea::SizeEditSurfaces(int size) {
   ChooseMagnify(size);
-  for (Surface* surface :
-       {&state_.picImage, &state_.picMask, &state_.PicIcon, &state_.picImageSnap, &state_.picMaskSnap,
-        &state_.picImageTemp, &state_.picMaskTemp, &state_.picTemp, &state_.picUndo, &state_.picAuto})
-    MakePicSize(*surface, size, size);
+  for (Surface* surface : {&state_.picImage, &state_.picMask, &state_.PicIcon}) MakePicSize(*surface, size, size);
 }
 
-void EditingArea::SizePanelSurfaces(int size) {
-  const auto container = static_cast<std::size_t>(state_.mCurContainer);
-  for (Surface* surface :
-       {&state_.picPanelIcon.at(container), &state_.picPanelImage.at(container), &state_.picPanelMask.at(container)})
-    MakePicSize(*surface, size, size);
-}
+void EditingArea::SizePanelSurfaces(int size) { sizeContainer(static_cast<std::size_t>(state_.mCurContainer), size); }
 
 void EditingArea::ComposeCurrentIcon() {
   composeIcon(state_.picImage, state_.picMask, state_.PicIcon);
@@ -72,10 +68,26 @@ void EditingArea::UpdatePanelFromCurrent() {
   const auto container = static_cast<std::size_t>(state_.mCurContainer);
   if (SurfaceSizeDiffers(state_.picImage, state_.picPanelImage.at(container)))
     SizePanelSurfaces(state_.picImage.width());
-  BitbltPic(state_.picImage, state_.picPanelImage.at(container));
-  BitbltPic(state_.picMask, state_.picPanelMask.at(container));
-  composeIcon(state_.picPanelImage.at(container), state_.picPanelMask.at(container), state_.picPanelIcon.at(container));
+  copyToContainer(container, state_.picImage, state_.picMask);
+}
+
+void EditingArea::sizeContainer(std::size_t container, int size) {
+  for (Surface* surface :
+       {&state_.picPanelIcon.at(container), &state_.picPanelImage.at(container), &state_.picPanelMask.at(container)})
+    MakePicSize(*surface, size, size);
+}
+
+void EditingArea::copyToContainer(std::size_t container, const Surface& image, const Surface& mask) {
+  BitbltPic(image, state_.picPanelImage.at(container));
+  BitbltPic(mask, state_.picPanelMask.at(container));
+  composeIcon(image, mask, state_.picPanelIcon.at(container));
   display_.changed(DisplayPart::IconsPanel);
+}
+
+void EditingArea::storeInContainer(int container, const IconImage& icon) {
+  const auto index = static_cast<std::size_t>(container);
+  sizeContainer(index, icon.width());
+  copyToContainer(index, icon.image, icon.mask);
 }
 
 void EditingArea::showSquare(int left, int top, int right, int bottom, Color color) {
@@ -106,7 +118,7 @@ void EditingArea::BuildGrid() {
   MakePicSize(state_.PicGrid, width, height);
   // What is shown stays when there is no other size: a save only refreshes the status bar.
   if (SurfaceSizeDiffers(state_.picDisp, state_.PicGrid)) sizePicDisp(width, height);
-  pump_.pump();
+  context_.pump.pump();
 
   if (state_.gGridColor == kNoGrid) return;
   if (state_.gGridColor < 0) {
@@ -135,9 +147,9 @@ void EditingArea::drawGridDots(Color color) {
 }
 
 void EditingArea::tilePattern(int width, int height) {
-  for (Surface& tile : state_.picTile) MakePicSize(tile, width, height);
-  TilePicture(patternCell(kFirstPattern - state_.gGridColor), state_.picTile[0]);
-  state_.picTile[0].makePersistent();
+  for (Surface& tile : picTile_) MakePicSize(tile, width, height);
+  TilePicture(patternCell(kFirstPattern - state_.gGridColor), picTile_[0]);
+  picTile_[0].makePersistent();
 }
 
 void EditingArea::MagnifyIcon() {
@@ -146,9 +158,9 @@ void EditingArea::MagnifyIcon() {
   stretchWhole(state_.picDisp, state_.PicIcon, icon, RasterOp::SRCCOPY);
   overlayGrid();
   state_.picDisp.makePersistent();
-  if (state_.mRegionExists) editor_.redrawRegion();
+  if (state_.mRegionExists) context_.editor.redrawRegion();
   display_.changed(DisplayPart::EditingArea);
-  editor_.UpdateCommands();
+  context_.editor.UpdateCommands();
 }
 
 void EditingArea::overlayGrid() {
@@ -161,8 +173,8 @@ void EditingArea::overlayGrid() {
 // On a patterned grid the pattern, not the ground, shows through transparent pixels.
 void EditingArea::overlayPattern() {
   const Extent icon = iconExtent(state_.PicIcon);
-  Surface& ground = state_.picTile[1];
-  BitbltPic(state_.picTile[0], ground);
+  Surface& ground = picTile_[1];
+  BitbltPic(picTile_[0], ground);
   stretchWhole(ground, state_.picMask, icon, RasterOp::SRCAND);
   stretchWhole(ground, state_.picImage, icon, RasterOp::SRCINVERT);
   BitBlt(state_.picDisp, 0, 0, ground.width(), ground.height(), ground, 0, 0, RasterOp::SRCCOPY);
@@ -170,8 +182,13 @@ void EditingArea::overlayPattern() {
 
 void EditingArea::ShowCurrentIcon() {
   state_.current().present = true;
-  editor_.clearAllTools();
+  context_.editor.clearAllTools();
   RefreshStatusBar();
+  MagnifyIcon();
+}
+
+void EditingArea::showChangedIcon() {
+  ComposeCurrentIcon();
   MagnifyIcon();
 }
 
@@ -183,8 +200,8 @@ void EditingArea::showEmpty() {
 
 void EditingArea::RefreshStatusBar() {
   if (state_.mPendingPaint) {
-    editor_.clearUndoHistory();
-    editor_.clearAllTools();
+    context_.editor.clearUndoHistory();
+    context_.editor.clearAllTools();
     state_.mPendingPaint = false;
   }
   const IconContainerRec& record = state_.current();
@@ -203,47 +220,13 @@ void EditingArea::RefreshStatusBar() {
 
   BuildGrid();
   for (DisplayPart part : {DisplayPart::StatusBar, DisplayPart::Tools, DisplayPart::ColorPanel}) display_.changed(part);
-  editor_.UpdateCommands();
+  context_.editor.UpdateCommands();
 }
 
 void EditingArea::ClearStatusBar() {
   state_.screen.lblStatusPanel.fill("");
   state_.screen.imgAlphaOnStatusPanel = false;
   display_.changed(DisplayPart::StatusBar);
-}
-
-void EditingArea::SetGrid(int index) {
-  editor_.CommitPendingPaint();
-  state_.options.grid = index;
-  state_.gGridColor = gridColorOf(index);
-  BuildGrid();
-  if (state_.current().present) MagnifyIcon();
-  display_.changed(DisplayPart::Commands);
-}
-
-void EditingArea::ApplyEnlargedOption() {
-  if (state_.current().used && state_.mPendingPaint) {
-    editor_.CommitPendingPaint();
-  } else if (editor_.selectedTool() == kRegionTool) {
-    editor_.clearAllTools();
-    editor_.clearRegion();
-  }
-  if (!state_.current().present) {
-    showEmpty();
-    return;
-  }
-  ChooseMagnify(state_.current().size);
-  BuildGrid();
-  MagnifyIcon();
-}
-
-void EditingArea::setRoom(int width, int height) {
-  if (state_.mInLoad) return;
-  const int before = state_.gMagnification;
-  state_.screen.dispContainerWidth = width;
-  state_.screen.dispContainerHeight = height;
-  ChooseMagnify(state_.current().present ? state_.current().size : kDefaultIconSize);
-  if (state_.gMagnification != before) ApplyEnlargedOption();
 }
 
 }  // namespace gp

@@ -2,20 +2,21 @@
 // it, and what the status bar tells of it. Owns the choice of gMagnification and gGridColor.
 #pragma once
 
-#include "document/Display.h"
-#include "document/EditState.h"
-#include "document/Editor.h"
-#include "platform/ports/MessagePump.h"
+#include "document/Context.h"
+#include "platform/gdi/Surface.h"
 
-#include <string>
+#include <array>
+#include <cstddef>
 
 namespace gp {
 
+struct IconImage;
+
 class EditingArea {
  public:
-  EditingArea(EditState& state, Editor& editor, Display& display, MessagePump& pump);
+  explicit EditingArea(const Context& context);
 
-  // Gives the 1:1 Surfaces, and the scratch Surfaces, the size of an icon; their pictures are lost.
+  // Gives the 1:1 Surfaces the size of an icon; their pictures are lost.
   void SizeEditSurfaces(int size);
   // The same for the current container's three Surfaces.
   void SizePanelSurfaces(int size);
@@ -24,6 +25,8 @@ class EditingArea {
   void ComposeCurrentIcon();
   // Copies the Current Icon to its container's Surfaces.
   void UpdatePanelFromCurrent();
+  // Gives a container the icon's size and pictures, and shows it in the Icons Panel.
+  void storeInContainer(int container, const IconImage& icon);
   // Composes again, and shows on picDisp only what a freehand tool changed: the square with both corners included, in
   // Editing Area pixels and any distance beyond its edge. `color` is what the square shows.
   void showSquare(int left, int top, int right, int bottom, Color color);
@@ -36,20 +39,17 @@ class EditingArea {
   void MagnifyIcon();
   // Marks the icon as present and shows it.
   void ShowCurrentIcon();
+  // ComposeCurrentIcon, then MagnifyIcon: the icon's pixels changed.
+  void showChangedIcon();
   // picDisp without an icon: empty, at the size of one of 32.
   void showEmpty();
 
   void RefreshStatusBar();
   void ClearStatusBar();
 
-  // Selects a grid (index of mnuOptionsSubGrid).
-  void SetGrid(int index);
-  // Reconsiders the magnification after the option or the room changed.
-  void ApplyEnlargedOption();
-  // The client size of picDispContainer, in pixels, after a new layout.
-  void setRoom(int width, int height);
-
  private:
+  void sizeContainer(std::size_t container, int size);
+  void copyToContainer(std::size_t container, const Surface& image, const Surface& mask);
   void sizePicDisp(int width, int height);
   void drawGridLines(Color color);
   void drawGridDots(Color color);
@@ -57,16 +57,14 @@ class EditingArea {
   void overlayGrid();
   void overlayPattern();
 
+  Context context_;
   EditState& state_;
-  Editor& editor_;
   Display& display_;
-  MessagePump& pump_;
+  std::array<Surface, 2> picTile_;  // of a patterned grid: the pattern alone, and the icon over it
 };
 
 // gGridColor of a grid entry: a colour, or -1 to -3 for the patterned grids.
 Color gridColorOf(int index);
 inline constexpr Color kNoGrid = kGround;
-// The index of the Region tool: a new magnification ends it.
-inline constexpr int kRegionTool = 14;
 
 }  // namespace gp

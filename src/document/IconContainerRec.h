@@ -2,6 +2,7 @@
 // runs; a record is empty (not used), held by a loader (used, not present) or loaded (both).
 #pragma once
 
+#include "document/IconSizes.h"
 #include "platform/text/FixedText.h"
 
 #include <cstdint>
@@ -11,8 +12,9 @@ namespace gp {
 inline constexpr int kContainerCount = 6;
 // dirColors and bihColors of a true colour icon.
 inline constexpr int kTrueColor = -1;
-// The size an empty container counts as.
-inline constexpr int kDefaultIconSize = 32;
+// bitCount of a true colour icon.
+inline constexpr int kBitsWithAlpha = 32;
+inline constexpr int kBitsWithoutAlpha = 24;
 
 struct IconContainerRec {
   std::int16_t seq = 0;
@@ -40,8 +42,5 @@ struct IconContainerRec {
   // fromMultiIconFile up to and including modified become zero.
   void clearOrigin();
 };
-
-// True for 16, 24, 32 and 48.
-constexpr bool isIconSize(int size) { return size == 16 || size == 24 || size == 32 || size == 48; }
 
 }  // namespace gp

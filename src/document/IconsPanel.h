@@ -2,10 +2,7 @@
 // them.
 #pragma once
 
-#include "document/Display.h"
-#include "document/EditState.h"
-#include "document/Editor.h"
-#include "platform/ports/MessagePump.h"
+#include "document/Context.h"
 
 #include <string>
 #include <vector>
@@ -13,10 +10,11 @@
 namespace gp {
 
 class EditingArea;
+class IconArrival;
 
 class IconsPanel {
  public:
-  IconsPanel(EditState& state, Editor& editor, EditingArea& editingArea, Display& display, MessagePump& pump);
+  IconsPanel(const Context& context, EditingArea& editingArea, IconArrival& arrival);
 
   // Makes a container current: picPanelIcon(i) and lblPanelIcon(i) Click and DblClick.
   void SwitchContainer(int container);
@@ -38,13 +36,12 @@ class IconsPanel {
 
  private:
   bool leaveCurrent();
-  void showContainer(int container);
+  void showCurrentContainer();
 
+  Context context_;
   EditState& state_;
-  Editor& editor_;
   EditingArea& editingArea_;
-  Display& display_;
-  MessagePump& pump_;
+  IconArrival& arrival_;
 };
 
 }  // namespace gp

@@ -11,6 +11,8 @@ inline constexpr const char* kReminderHint = "(To remove Reminder, untick the re
 inline constexpr const char* kFileGone = "\nfile can no longer be found!";
 
 // What every command says that needs an icon and finds none.
-inline void tellNoIconYet(MessageBoxes& boxes) { boxes.tell("No icon in Editing Area yet"); }
+inline constexpr const char* kNoIconYet = "No icon in Editing Area yet";
+// What pasting says without a picture.
+inline constexpr const char* kNoClipboardImage = "No image in clipboard yet";
 
 }  // namespace gp

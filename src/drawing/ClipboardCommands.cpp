@@ -1,33 +1,27 @@
 #include "drawing/ClipboardCommands.h"
 
 #include "document/Containers.h"
+#include "document/Document.h"
+#include "document/EditState.h"
+#include "document/Editor.h"
 #include "document/Hourglass.h"
 #include "document/Messages.h"
 #include "document/PanelNumbers.h"
-#include "drawing/ToolTable.h"
+#include "drawing/Regions.h"
+#include "drawing/Tools.h"
+#include "drawing/UndoHistory.h"
 #include "platform/gdi/Pens.h"
 #include "platform/gdi/RasterOps.h"
-#include "platform/gdi/SurfaceOps.h"
+#include "platform/ports/Clipboard.h"
 #include "platform/text/Numbers.h"
 
 #include <algorithm>
-#include <array>
 
 namespace gp {
 
 namespace {
 
-constexpr std::array<int, 4> kIconSizes = {16, 24, 32, 48};
-constexpr int kLargestIcon = kIconSizes.back();
-constexpr const char* kNoImage = "No image in clipboard yet";
 constexpr const char* kNoRegion = "No picture region yet";
-
-// The smallest icon that a picture fits in; the largest there is for what fits in none.
-int iconSizeFor(int width, int height) {
-  const auto fits = [&](int size) { return size >= std::max(width, height); };
-  const auto found = std::ranges::find_if(kIconSizes, fits);
-  return found == kIconSizes.end() ? kLargestIcon : *found;
-}
 
 std::string sizeText(const ClipboardImage& image) {
   return "Image size is of " + std::to_string(image.width) + "x" + std::to_string(image.height);
@@ -35,20 +29,25 @@ std::string sizeText(const ClipboardImage& image) {
 
 }  // namespace
 
-ClipboardCommands::ClipboardCommands(EditState& state, Editor& editor, Display& display, MessageBoxes& boxes,
-                                     Clipboard& clipboard, Regions& regions)
-    : state_(state), editor_(editor), display_(display), boxes_(boxes), clipboard_(clipboard), regions_(regions) {}
+ClipboardCommands::ClipboardCommands(const Context& context, Document& document, UndoHistory& history, Regions& regions,
+                                     Tools& tools, Clipboard& clipboard)
+    : context_(context),
+      state_(context.state),
+      document_(document),
+      history_(history),
+      regions_(regions),
+      tools_(tools),
+      clipboard_(clipboard) {}
 
 // Cut.
 
 void ClipboardCommands::doCutRegion(bool copyFirst) {
-  if (!state_.current().present || !regions_.exists()) return;
   if (regions_.isEmpty()) {
-    boxes_.tell(kNoRegion);
+    context_.boxes.tell(kNoRegion);
     return;
   }
   regions_.finishDrag();
-  if (state_.screen.mActivePanel != kColorPanel) editor_.showPanel(kColorPanel);
+  if (state_.screen.mActivePanel != kColorPanel) context_.editor.showPanel(kColorPanel);
   if (copyFirst) doCopyRegion();
   const bool floating = regions_.isFloating();
   if (floating)
@@ -56,9 +55,8 @@ void ClipboardCommands::doCutRegion(bool copyFirst) {
   else
     cutContent();
   state_.current().modified = true;
-  editor_.ComposeCurrentIcon();
-  editor_.MagnifyIcon();
-  if (!floating) editor_.recordUndo();
+  document_.editingArea.showChangedIcon();
+  if (!floating) history_.recordUndo();
 }
 
 void ClipboardCommands::cutContent() {
@@ -75,10 +73,6 @@ void ClipboardCommands::cutContent() {
 // Copy.
 
 void ClipboardCommands::doCopyRegion() {
-  if (!state_.current().used) {
-    tellNoIconYet(boxes_);
-    return;
-  }
   clipboard_.clear();
   if (regions_.exists()) {
     regions_.finishDrag();
@@ -86,13 +80,13 @@ void ClipboardCommands::doCopyRegion() {
   } else {
     clipboard_.setImage(state_.PicIcon);
   }
-  editor_.UpdateCommands();
+  context_.editor.UpdateCommands();
 }
 
 // Transparency is not carried: it arrives as the ground behind it.
 Surface ClipboardCommands::pictureOfRegion() const {
-  const Surface& image = state_.picImageRegion;
-  const Surface& mask = state_.picMaskRegion;
+  const Surface& image = regions_.content().image;
+  const Surface& mask = regions_.content().mask;
   Surface picture(image.width(), image.height());
   BitBlt(picture, 0, 0, image.width(), image.height(), mask, 0, 0, RasterOp::SRCAND);
   BitBlt(picture, 0, 0, image.width(), image.height(), image, 0, 0, RasterOp::SRCINVERT);
@@ -104,36 +98,34 @@ Surface ClipboardCommands::pictureOfRegion() const {
 
 void ClipboardCommands::clearClipboard() {
   clipboard_.clear();
-  editor_.UpdateCommands();
+  context_.editor.UpdateCommands();
 }
 
 // Paste.
 
 void ClipboardCommands::doPaste(bool opaque) {
-  if (state_.screen.mActivePanel == kIconsListPanel) return;
   ClipboardImage image;
   // The picture is read before anything changes: its owner may have withdrawn it since it was offered.
-  if (!clipboard_.hasImage() || !fetch(image)) {
-    boxes_.tell(kNoImage);
+  if (!fetch(image)) {
+    context_.boxes.tell(kNoClipboardImage);
     return;
   }
   regions_.finishDrag();
-  const int container = state_.mCurContainer;
-  const bool used = state_.current().used;
-  editor_.clearUndoHistory();
-  editor_.recordUndo();
+  const unsigned icon = state_.iconSerial;
+  history_.clearUndoHistory();
+  history_.recordUndo();
   // Recording pumps messages: a picture meant for one icon does not go into another.
-  if (state_.mCurContainer != container || state_.current().used != used || !makeRoomFor(image)) return;
+  if (state_.iconSerial != icon || !makeRoomFor(image)) return;
   const int width = std::min(image.corner.width(), state_.picImage.width());
   const int height = std::min(image.corner.height(), state_.picImage.height());
-  MakePicSize(state_.picTemp, width, height);
-  BitBlt(state_.picTemp, 0, 0, width, height, image.corner, 0, 0, RasterOp::SRCCOPY);
-  state_.picTemp.makePersistent();
-  showPasted(opaque);
+  Surface picture(width, height);
+  BitBlt(picture, 0, 0, width, height, image.corner, 0, 0, RasterOp::SRCCOPY);
+  picture.makePersistent();
+  showPasted(picture, opaque);
 }
 
 bool ClipboardCommands::fetch(ClipboardImage& image) {
-  if (!clipboard_.getImage(image, kLargestIcon)) return false;
+  if (!clipboard_.getImage(image, kLargestIconSize)) return false;
   return image.width > 0 && image.height > 0 && image.corner.width() > 0 && image.corner.height() > 0;
 }
 
@@ -142,42 +134,27 @@ bool ClipboardCommands::makeRoomFor(const ClipboardImage& image) {
   const int size = state_.current().size;
   if (state_.current().used) {
     const bool fits = image.width <= size && image.height <= size;
-    return fits || boxes_.ask(sizeText(image) + "; too large for current icon.\n\nChange to fit in?");
+    return fits || context_.boxes.ask(sizeText(image) + "; too large for current icon.\n\nChange to fit in?");
   }
   const bool isOfIcon = image.width == image.height && isIconSize(image.width);
-  if (!isOfIcon && !boxes_.ask(sizeText(image) + ", not of 16x16, 24x24, 32x32 or 48x48.\n\nCreate to fit in?"))
+  if (!isOfIcon && !context_.boxes.ask(sizeText(image) + ", not of 16x16, 24x24, 32x32 or 48x48.\n\nCreate to fit in?"))
     return false;
   return makeNewIcon(iconSizeFor(image.width, image.height));
 }
 
-// Showing an icon pumps messages: false when another container is current, or none is shown, after it.
+// Showing an icon pumps messages: false when another icon, or none, is shown after it.
 bool ClipboardCommands::makeNewIcon(int size) {
-  const int container = state_.mCurContainer;
-  regions_.clearRegion();
-  NewRecord(state_);
-  PrepareAlphaRec(state_);
-  state_.current().size = static_cast<std::int16_t>(size);
-  editor_.SizePanelSurfaces(size);
-  editor_.SizeEditSurfaces(size);
-  state_.picImage.fill(kBlack);
-  state_.picMask.fill(kWhite);
-  editor_.UpdatePanelFromCurrent();
-  editor_.ComposeCurrentIcon();
-  editor_.ShowCurrentIcon();
-  editor_.chooseColorChart();
-  // The size is another: the baseline is the empty icon.
-  editor_.clearUndoHistory();
-  editor_.recordUndo();
-  return state_.mCurContainer == container && state_.current().present && state_.picImage.width() == size;
+  const unsigned arriving = state_.iconSerial + 1;
+  document_.arrival.arrive(transparentIcon(size), NewRecord());
+  return state_.iconSerial == arriving;
 }
 
-void ClipboardCommands::showPasted(bool opaque) {
-  const Hourglass hourglass(state_, display_);
+void ClipboardCommands::showPasted(const Surface& picture, bool opaque) {
+  const Hourglass hourglass(state_, context_.display);
   regions_.clearRegion();
-  editor_.clearAllTools();
-  editor_.selectTool(kRegion);
-  regions_.placePicture(state_.picTemp, opaque);
-  state_.picTemp.clearPicture();
+  tools_.clearAllTools();
+  tools_.selectTool(kRegion);
+  regions_.placePicture(picture, opaque);
 }
 
 }  // namespace gp

@@ -2,21 +2,24 @@
 // is a stranger's, and is used only as far as it fits an icon.
 #pragma once
 
-#include "document/Display.h"
-#include "document/EditState.h"
-#include "document/Editor.h"
-#include "drawing/Regions.h"
-#include "platform/ports/Clipboard.h"
-#include "platform/ports/MessageBoxes.h"
+#include "document/Context.h"
+#include "platform/gdi/Surface.h"
 
 #include <string>
 
 namespace gp {
 
+class Clipboard;
+class Regions;
+class Tools;
+class UndoHistory;
+struct ClipboardImage;
+struct Document;
+
 class ClipboardCommands {
  public:
-  ClipboardCommands(EditState& state, Editor& editor, Display& display, MessageBoxes& boxes, Clipboard& clipboard,
-                    Regions& regions);
+  ClipboardCommands(const Context& context, Document& document, UndoHistory& history, Regions& regions, Tools& tools,
+                    Clipboard& clipboard);
 
   // mnuEditSub(4) with copyFirst, and (5): blanks the region, or takes a floating one away from what lies beneath.
   // Silently nothing without a region.
@@ -27,7 +30,6 @@ class ClipboardCommands {
   void doPaste(bool opaque);
   // mnuEditSub(9).
   void clearClipboard();
-  bool hasImage() { return clipboard_.hasImage(); }
 
  private:
   void cutContent();
@@ -35,14 +37,15 @@ class ClipboardCommands {
   bool fetch(ClipboardImage& image);
   bool makeRoomFor(const ClipboardImage& image);
   bool makeNewIcon(int size);
-  void showPasted(bool opaque);
+  void showPasted(const Surface& picture, bool opaque);
 
+  Context context_;
   EditState& state_;
-  Editor& editor_;
-  Display& display_;
-  MessageBoxes& boxes_;
-  Clipboard& clipboard_;
+  Document& document_;
+  UndoHistory& history_;
   Regions& regions_;
+  Tools& tools_;
+  Clipboard& clipboard_;
 };
 
 }  // namespace gp

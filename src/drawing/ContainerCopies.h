@@ -2,17 +2,16 @@
 // are whole in one container may be copied: not those of a file with several icons, and not those with alpha.
 #pragma once
 
-#include "document/Display.h"
-#include "document/EditState.h"
-#include "document/Editor.h"
-#include "drawing/Regions.h"
-#include "platform/ports/MessageBoxes.h"
+#include "document/Context.h"
 
 namespace gp {
 
+class Regions;
+struct Document;
+
 class ContainerCopies {
  public:
-  ContainerCopies(EditState& state, Editor& editor, Display& display, MessageBoxes& boxes, Regions& regions);
+  ContainerCopies(const Context& context, Document& document, Regions& regions);
 
   // The current icon replaces that of another container, 0 to 5, and counts as never saved there.
   void mnuEditSubCopyToContainer(int target);
@@ -24,12 +23,10 @@ class ContainerCopies {
  private:
   bool mayCopyTo(int target);
   bool mayCopyFrom(int source);
-  void showCopied(int size);
 
+  Context context_;
   EditState& state_;
-  Editor& editor_;
-  Display& display_;
-  MessageBoxes& boxes_;
+  Document& document_;
   Regions& regions_;
 };
 

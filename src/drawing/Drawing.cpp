@@ -1,25 +1,27 @@
 #include "drawing/Drawing.h"
 
+#include "document/Document.h"
+
 namespace gp {
 
-Drawing::Drawing(EditState& state, Editor& editor, Display& display, EditingArea& editingArea, ColorSelection& colors,
-                 MessageBoxes& boxes, MessagePump& pump, Clipboard& clipboard)
-    : history(state, editor, pump),
-      regions(state, drawState_, editor, display),
-      tools(state, editor, display, colors, boxes, pump, drawState_),
-      shift(state, editor, boxes),
-      rotatePanel(state, editor, display, regions),
-      transforms(state, editor, display, boxes, regions, rotatePanel),
-      clipboardCommands(state, editor, display, boxes, clipboard, regions),
-      containerCopies(state, editor, display, boxes, regions),
-      freehand_(state, editor, editingArea, pump, drawState_),
-      restore_(state, editor, drawState_),
-      fill_(state, editor),
-      replace_(state, editor),
-      shapes_(state, editor, display, pump, drawState_, history),
-      region_(state, drawState_, editor, regions, pump) {
+Drawing::Drawing(const Context& context, Document& document, ColorSelection& colors, Clipboard& clipboard)
+    : history(context, document.editingArea),
+      regions(context, document.editingArea, drawState_),
+      tools(context, document.iconsPanel, colors, history, regions, drawState_),
+      undo(context, document.editingArea, history, regions, tools),
+      shift(context, document.editingArea, history, tools),
+      rotatePanel(context, document.editingArea, history, regions),
+      transforms(context, document.editingArea, history, regions, tools, rotatePanel),
+      clipboardCommands(context, document, history, regions, tools, clipboard),
+      containerCopies(context, document, regions),
+      freehand_(context, document.editingArea, history, drawState_),
+      restore_(context, document.editingArea, drawState_),
+      fill_(context, document.editingArea, history),
+      replace_(context, document.editingArea, history),
+      shapes_(context, document.editingArea, history, drawState_),
+      region_(context, drawState_, history, regions, tools) {
   const struct {
-    int tool;
+    Tool tool;
     DrawingTool& worker;
   } workers[] = {
       {kPaint, freehand_},  {kErase, freehand_},    {kFill, fill_},        {kReplace, replace_},

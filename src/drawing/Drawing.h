@@ -1,12 +1,7 @@
-// The whole room at work: makes the tools and commands of drawing, ties each tool to its place in the tool box, and
-// holds them for the shell. It decides nothing.
+// The face of the room: makes the tools and commands of drawing, ties each tool to its place in the tool box, and hands
+// them to the rooms to the right. It decides nothing.
 #pragma once
 
-#include "colour/ColorSelection.h"
-#include "document/Display.h"
-#include "document/EditState.h"
-#include "document/EditingArea.h"
-#include "document/Editor.h"
 #include "drawing/ClipboardCommands.h"
 #include "drawing/ContainerCopies.h"
 #include "drawing/DrawState.h"
@@ -19,17 +14,18 @@
 #include "drawing/ShiftTool.h"
 #include "drawing/Tools.h"
 #include "drawing/Transforms.h"
+#include "drawing/UndoCommands.h"
 #include "drawing/UndoHistory.h"
-#include "platform/ports/Clipboard.h"
-#include "platform/ports/MessageBoxes.h"
-#include "platform/ports/MessagePump.h"
 
 namespace gp {
 
+struct Document;
+class Clipboard;
+class ColorSelection;
+
 class Drawing {
  public:
-  Drawing(EditState& state, Editor& editor, Display& display, EditingArea& editingArea, ColorSelection& colors,
-          MessageBoxes& boxes, MessagePump& pump, Clipboard& clipboard);
+  Drawing(const Context& context, Document& document, ColorSelection& colors, Clipboard& clipboard);
 
  private:
   DrawState drawState_;
@@ -38,6 +34,7 @@ class Drawing {
   UndoHistory history;
   Regions regions;
   Tools tools;
+  UndoCommands undo;
   ShiftTool shift;
   RotatePanel rotatePanel;
   Transforms transforms;

@@ -2,10 +2,13 @@
 // the tool is selected, the position has become a pixel, and at a release the icon is marked as modified.
 #pragma once
 
+#include "document/Tool.h"
+
 namespace gp {
 
 struct ToolMouse {
-  int pixelX = 0;  // icon pixel; at a release it may lie outside the icon
+  Tool tool = kNoTool;  // the selected one
+  int pixelX = 0;       // icon pixel; at a release it may lie outside the icon
   int pixelY = 0;
   float x = 0;  // Editing Area pixels
   float y = 0;

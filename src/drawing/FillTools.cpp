@@ -1,7 +1,9 @@
 #include "drawing/FillTools.h"
 
+#include "document/EditState.h"
+#include "document/EditingArea.h"
+#include "drawing/UndoHistory.h"
 #include "platform/gdi/FloodFill.h"
-#include "platform/gdi/SurfaceOps.h"
 
 namespace gp {
 
@@ -36,34 +38,24 @@ void setPixelsWhere(EditState& state, const PixelPair& pixel, const Condition& c
       if (condition(x, y)) setPixel(state, x, y, pixel);
 }
 
-// A copy of what the user sees with the area around a pixel filled, on a work Surface that is empty otherwise.
+// A copy of what the user sees with the area around a pixel filled.
 class FilledCopy {
  public:
-  FilledCopy(Surface& work, const Surface& seen, int x, int y, Color color)
-      : work_(work), seen_(seen), formerFill_(work.fillColor) {
-    MakeSameSize(seen, work);
-    BitbltPic(seen, work);
-    work.fillColor = color;
-    ExtFloodFill(work, x, y, work.GetPixel(x, y));
+  FilledCopy(const Surface& seen, int x, int y, Color color) : seen_(seen), filled_(seen) {
+    filled_.fillColor = color;
+    ExtFloodFill(filled_, x, y, filled_.GetPixel(x, y));
   }
-  FilledCopy(const FilledCopy&) = delete;
-  FilledCopy& operator=(const FilledCopy&) = delete;
-  ~FilledCopy() {
-    work_.clearPicture();
-    work_.fillColor = formerFill_;
-  }
-  bool differsAt(int x, int y) const { return work_.GetPixel(x, y) != seen_.GetPixel(x, y); }
+
+  bool differsAt(int x, int y) const { return filled_.GetPixel(x, y) != seen_.GetPixel(x, y); }
 
  private:
-  Surface& work_;
   const Surface& seen_;
-  const Color formerFill_;
+  Surface filled_;
 };
 
-void showStep(Editor& editor) {
-  editor.ComposeCurrentIcon();
-  editor.MagnifyIcon();
-  editor.recordUndo();
+void showStep(EditingArea& editingArea, UndoHistory& history) {
+  editingArea.showChangedIcon();
+  history.recordUndo();
 }
 
 }  // namespace
@@ -73,15 +65,15 @@ void FillTool::release(const ToolMouse& mouse) {
     fill(mouse.pixelX, mouse.pixelY);
   else
     fillTransparent(mouse.pixelX, mouse.pixelY);
-  showStep(editor_);
+  showStep(editingArea_, history_);
 }
 
 void FillTool::fill(int x, int y) {
   const Color color = state_.mCurrentColor;
   const bool fromTransparent = isTransparent(state_, x, y);
-  const FilledCopy filled(state_.picTemp, state_.PicIcon, x, y, color);
+  const FilledCopy filled(state_.PicIcon, x, y, color);
   // Tells a transparent area even where the current colour is that of the ground, so that the fill does not show.
-  const FilledCopy marked(state_.picAuto, state_.PicIcon, x, y, kMark);
+  const FilledCopy marked(state_.PicIcon, x, y, kMark);
   setPixelsWhere(state_, opaquePixel(color), [&](int i, int j) {
     const bool isReached = filled.differsAt(i, j) || (fromTransparent && marked.differsAt(i, j));
     return isReached && isTransparent(state_, i, j) == fromTransparent;
@@ -92,7 +84,7 @@ void FillTool::fillTransparent(int x, int y) {
   if (isTransparent(state_, x, y)) return;
   Color mark = state_.mCurrentColor;
   if (mark == state_.picImage.GetPixel(x, y)) mark = mark != kMark ? kMark : kOtherMark;
-  const FilledCopy filled(state_.picTemp, state_.PicIcon, x, y, mark);
+  const FilledCopy filled(state_.PicIcon, x, y, mark);
   setPixelsWhere(state_, kTransparentPixel,
                  [&](int i, int j) { return filled.differsAt(i, j) && !isTransparent(state_, i, j); });
 }
@@ -106,7 +98,7 @@ void ReplaceTool::release(const ToolMouse& mouse) {
   setPixelsWhere(state_, pixel, [&, isGround = target == kGround](int x, int y) {
     return state_.PicIcon.GetPixel(x, y) == target && (!isGround || state_.picMask.GetPixel(x, y) == wantedMask);
   });
-  showStep(editor_);
+  showStep(editingArea_, history_);
 }
 
 }  // namespace gp

@@ -4,16 +4,19 @@
 // finds nothing.
 #pragma once
 
-#include "document/EditState.h"
-#include "document/Editor.h"
+#include "document/Context.h"
 #include "drawing/DrawingTool.h"
 
 namespace gp {
 
+class EditingArea;
+class UndoHistory;
+
 // The area around the pixel.
 class FillTool : public DrawingTool {
  public:
-  FillTool(EditState& state, Editor& editor) : state_(state), editor_(editor) {}
+  FillTool(const Context& context, EditingArea& editingArea, UndoHistory& history)
+      : state_(context.state), editingArea_(editingArea), history_(history) {}
   void release(const ToolMouse& mouse) override;
 
  private:
@@ -21,18 +24,21 @@ class FillTool : public DrawingTool {
   void fillTransparent(int x, int y);
 
   EditState& state_;
-  Editor& editor_;
+  EditingArea& editingArea_;
+  UndoHistory& history_;
 };
 
 // All pixels of the icon that show the same colour.
 class ReplaceTool : public DrawingTool {
  public:
-  ReplaceTool(EditState& state, Editor& editor) : state_(state), editor_(editor) {}
+  ReplaceTool(const Context& context, EditingArea& editingArea, UndoHistory& history)
+      : state_(context.state), editingArea_(editingArea), history_(history) {}
   void release(const ToolMouse& mouse) override;
 
  private:
   EditState& state_;
-  Editor& editor_;
+  EditingArea& editingArea_;
+  UndoHistory& history_;
 };
 
 }  // namespace gp

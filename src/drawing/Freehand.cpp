@@ -1,7 +1,11 @@
 #include "drawing/Freehand.h"
 
-#include "drawing/ToolTable.h"
+#include "document/EditState.h"
+#include "document/EditingArea.h"
+#include "drawing/DrawState.h"
+#include "drawing/UndoHistory.h"
 #include "platform/gdi/Pens.h"
+#include "platform/ports/MessagePump.h"
 #include "platform/text/Numbers.h"
 
 #include <algorithm>
@@ -20,41 +24,36 @@ Square squareOf(const DrawRect& rect) {
 
 }  // namespace
 
-FreehandTool::FreehandTool(EditState& state, Editor& editor, EditingArea& editingArea, MessagePump& pump,
-                           DrawState& drawState)
-    : state_(state), editor_(editor), editingArea_(editingArea), pump_(pump), drawState_(drawState) {}
-
-bool FreehandTool::isErase() const { return editor_.selectedTool() == kErase; }
+FreehandTool::FreehandTool(const Context& context, EditingArea& editingArea, UndoHistory& history, DrawState& drawState)
+    : context_(context), state_(context.state), editingArea_(editingArea), history_(history), drawState_(drawState) {}
 
 void FreehandTool::press(const ToolMouse& mouse) {
   state_.current().modified = true;
-  (isErase() ? drawState_.mErasing : drawState_.mPainting) = true;
+  (mouse.tool == kErase ? drawState_.mErasing : drawState_.mPainting) = true;
   stamp(mouse);
-  editor_.ComposeCurrentIcon();
-  editor_.MagnifyIcon();
+  editingArea_.showChangedIcon();
 }
 
 // Stamps where the pointer is; nothing is interpolated, so a fast drag leaves gaps.
 void FreehandTool::move(const ToolMouse& mouse) {
   if (!drawState_.mPainting && !drawState_.mErasing) return;
-  pump_.pump();
+  context_.pump.pump();
   if (!drawState_.mPainting && !drawState_.mErasing) return;
   stamp(mouse);
-  editor_.ComposeCurrentIcon();
-  showStamp();
+  editingArea_.ComposeCurrentIcon();
+  showStamp(mouse.tool);
 }
 
 void FreehandTool::release(const ToolMouse& /*mouse*/) {
-  editor_.ComposeCurrentIcon();
-  editor_.MagnifyIcon();
+  editingArea_.showChangedIcon();
   // Messages are pumped last, by the recording: what arrives there finds the stroke recorded.
-  editor_.recordUndo();
+  history_.recordUndo();
 }
 
 void FreehandTool::cancel() {
   if (!drawState_.mPainting && !drawState_.mErasing) return;
   drawState_.mPainting = drawState_.mErasing = false;
-  editor_.recordUndo();
+  history_.recordUndo();
 }
 
 // The brush hangs from its top left pixel and is cut at the right and bottom edges of the icon.
@@ -64,23 +63,23 @@ void FreehandTool::stamp(const ToolMouse& mouse) {
                      static_cast<double>(std::min(mouse.pixelX + state_.screen.brushIndex, last)),
                      static_cast<double>(std::min(mouse.pixelY + state_.screen.brushIndex, last))};
   const Square square = squareOf(drawState_.draw);
-  const bool erase = isErase();
+  const bool erase = mouse.tool == kErase;
   FillBox(state_.picImage, square.x1, square.y1, square.x2, square.y2, erase ? kBlack : state_.mCurrentColor);
   FillBox(state_.picMask, square.x1, square.y1, square.x2, square.y2, erase ? kWhite : kBlack);
 }
 
 // The square on picDisp spares the grid lines to its left and top, and may run past the right and bottom edge.
-void FreehandTool::showStamp() {
+void FreehandTool::showStamp(Tool tool) {
   const int m = state_.gMagnification;
   const int reach = 1 + state_.screen.brushIndex;
   const Square square = squareOf(drawState_.draw);
   const auto first = [m](int cell) { return cell == 0 ? 0 : m * cell + 1; };
   editingArea_.showSquare(first(square.x1), first(square.y1), (square.x1 + reach) * m - 1, (square.y1 + reach) * m - 1,
-                          isErase() ? kGround : state_.mCurrentColor);
+                          tool == kErase ? kGround : state_.mCurrentColor);
 }
 
-RestoreTool::RestoreTool(EditState& state, Editor& editor, DrawState& drawState)
-    : state_(state), editor_(editor), drawState_(drawState) {}
+RestoreTool::RestoreTool(const Context& context, EditingArea& editingArea, DrawState& drawState)
+    : state_(context.state), editingArea_(editingArea), drawState_(drawState) {}
 
 void RestoreTool::press(const ToolMouse& mouse) {
   drawState_.mRestoring = true;
@@ -91,6 +90,8 @@ void RestoreTool::move(const ToolMouse& mouse) {
   if (drawState_.mRestoring) restorePixel(mouse);
 }
 
+void RestoreTool::cancel() { drawState_.mRestoring = false; }
+
 void RestoreTool::restorePixel(const ToolMouse& mouse) {
   const auto container = static_cast<std::size_t>(state_.mCurContainer);
   const Color image = state_.picPanelImage.at(container).GetPixel(mouse.pixelX, mouse.pixelY);
@@ -98,8 +99,7 @@ void RestoreTool::restorePixel(const ToolMouse& mouse) {
   if (image == kNoColor || mask == kNoColor) return;
   state_.picImage.SetPixelV(mouse.pixelX, mouse.pixelY, image);
   state_.picMask.SetPixelV(mouse.pixelX, mouse.pixelY, mask);
-  editor_.ComposeCurrentIcon();
-  editor_.MagnifyIcon();
+  editingArea_.showChangedIcon();
 }
 
 }  // namespace gp

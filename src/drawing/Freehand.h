@@ -2,19 +2,19 @@
 // the container holds. A stroke runs from press to release; whatever ends it, icon and Mask agree.
 #pragma once
 
-#include "document/EditState.h"
-#include "document/EditingArea.h"
-#include "document/Editor.h"
-#include "drawing/DrawState.h"
+#include "document/Context.h"
 #include "drawing/DrawingTool.h"
-#include "platform/ports/MessagePump.h"
 
 namespace gp {
+
+class EditingArea;
+class UndoHistory;
+struct DrawState;
 
 // Paint and Erase, by the tool that is selected.
 class FreehandTool : public DrawingTool {
  public:
-  FreehandTool(EditState& state, Editor& editor, EditingArea& editingArea, MessagePump& pump, DrawState& drawState);
+  FreehandTool(const Context& context, EditingArea& editingArea, UndoHistory& history, DrawState& drawState);
 
   void press(const ToolMouse& mouse) override;
   void move(const ToolMouse& mouse) override;
@@ -23,31 +23,30 @@ class FreehandTool : public DrawingTool {
   void cancel() override;
 
  private:
-  bool isErase() const;
   void stamp(const ToolMouse& mouse);
-  void showStamp();
+  void showStamp(Tool tool);
 
+  Context context_;
   EditState& state_;
-  Editor& editor_;
   EditingArea& editingArea_;
-  MessagePump& pump_;
+  UndoHistory& history_;
   DrawState& drawState_;
 };
 
 // One pixel at a time, whatever the brush. Its strokes are recorded with the next step only.
 class RestoreTool : public DrawingTool {
  public:
-  RestoreTool(EditState& state, Editor& editor, DrawState& drawState);
+  RestoreTool(const Context& context, EditingArea& editingArea, DrawState& drawState);
 
   void press(const ToolMouse& mouse) override;
   void move(const ToolMouse& mouse) override;
-  void cancel() override { drawState_.mRestoring = false; }
+  void cancel() override;
 
  private:
   void restorePixel(const ToolMouse& mouse);
 
   EditState& state_;
-  Editor& editor_;
+  EditingArea& editingArea_;
   DrawState& drawState_;
 };
 

@@ -1,9 +1,12 @@
 // What is in a region: lifting it from the icon, merging it back, and showing it while it moves.
+#include "document/EditingArea.h"
 #include "drawing/Regions.h"
 #include "platform/gdi/Pens.h"
 #include "platform/gdi/RasterOps.h"
 #include "platform/gdi/SurfaceOps.h"
 #include "platform/text/Numbers.h"
+
+#include <utility>
 
 namespace gp {
 
@@ -16,14 +19,14 @@ void copyPicture(const Surface& source, Surface& target) {
 
 }  // namespace
 
-// Another size of the icon empties picImageSnap: what was lifted belongs to an icon that is gone.
+// What was lifted belongs to the icon that it was lifted from, at the size that it had.
 bool Regions::isLifted() const {
-  return mRegionLifted && state_.picImageSnap.hasPicture() && !SurfaceSizeDiffers(state_.picImageSnap, state_.picImage);
+  return mRegionLifted && liftedFrom_ == state_.iconSerial && !SurfaceSizeDiffers(beneath_.image, state_.picImage);
 }
 
 void Regions::keepIconBeneath() {
-  copyPicture(state_.picImage, state_.picImageSnap);
-  copyPicture(state_.picMask, state_.picMaskSnap);
+  copyPicture(state_.picImage, beneath_.image);
+  copyPicture(state_.picMask, beneath_.mask);
 }
 
 void Regions::liftRegion(bool blankSource) {
@@ -33,33 +36,38 @@ void Regions::liftRegion(bool blankSource) {
   const int y1 = roundToInteger(at.y1);
   const int width = roundToInteger(at.x2) - x1 + 1;
   const int height = roundToInteger(at.y2) - y1 + 1;
-  MakePicSize(state_.picImageRegion, width, height);
-  MakePicSize(state_.picMaskRegion, width, height);
+  MakePicSize(content_.image, width, height);
+  MakePicSize(content_.mask, width, height);
   keepIconBeneath();
   if (blankSource)
     liftOpaquePixels();
   else
     liftBlock(width, height);
-  state_.picImageRegion.makePersistent();
-  state_.picMaskRegion.makePersistent();
-  FillBox(state_.picImageSnap, x1, y1, x1 + width - 1, y1 + height - 1, kBlack);
-  FillBox(state_.picMaskSnap, x1, y1, x1 + width - 1, y1 + height - 1, kWhite);
-  mRegionLifted = true;
+  content_.image.makePersistent();
+  content_.mask.makePersistent();
+  FillBox(beneath_.image, x1, y1, x1 + width - 1, y1 + height - 1, kBlack);
+  FillBox(beneath_.mask, x1, y1, x1 + width - 1, y1 + height - 1, kWhite);
+  setLifted();
   setRegionLimits();
   startDragAtBox();
   buildDragSurfaces();
 }
 
+void Regions::setLifted() {
+  mRegionLifted = true;
+  liftedFrom_ = state_.iconSerial;
+}
+
 void Regions::liftOpaquePixels() {
-  state_.picImageRegion.fill(kBlack);
-  state_.picMaskRegion.fill(kWhite);
+  content_.image.fill(kBlack);
+  content_.mask.fill(kWhite);
   const int x1 = roundToInteger(draw_.draw.x1);
   const int y1 = roundToInteger(draw_.draw.y1);
-  for (int y = 0; y < state_.picMaskRegion.height(); ++y) {
-    for (int x = 0; x < state_.picMaskRegion.width(); ++x) {
+  for (int y = 0; y < content_.mask.height(); ++y) {
+    for (int x = 0; x < content_.mask.width(); ++x) {
       if (state_.picMask.GetPixel(x1 + x, y1 + y) != kBlack) continue;
-      state_.picImageRegion.SetPixelV(x, y, state_.picImage.GetPixel(x1 + x, y1 + y));
-      state_.picMaskRegion.SetPixelV(x, y, kBlack);
+      content_.image.SetPixelV(x, y, state_.picImage.GetPixel(x1 + x, y1 + y));
+      content_.mask.SetPixelV(x, y, kBlack);
     }
   }
 }
@@ -67,23 +75,23 @@ void Regions::liftOpaquePixels() {
 void Regions::liftBlock(int width, int height) {
   const int x1 = roundToInteger(draw_.draw.x1);
   const int y1 = roundToInteger(draw_.draw.y1);
-  BitBlt(state_.picImageRegion, 0, 0, width, height, state_.picImage, x1, y1, RasterOp::SRCCOPY);
-  BitBlt(state_.picMaskRegion, 0, 0, width, height, state_.picMask, x1, y1, RasterOp::SRCCOPY);
+  BitBlt(content_.image, 0, 0, width, height, state_.picImage, x1, y1, RasterOp::SRCCOPY);
+  BitBlt(content_.mask, 0, 0, width, height, state_.picMask, x1, y1, RasterOp::SRCCOPY);
 }
 
 void Regions::placePicture(const Surface& picture, bool opaque) {
   setRegionFromPicture(picture, 0, 0);
   setRegionLimits();
-  copyPicture(picture, state_.picImageRegion);
-  MakeSameSize(picture, state_.picMaskRegion);
-  state_.picMaskRegion.fill(kBlack);
+  copyPicture(picture, content_.image);
+  MakeSameSize(picture, content_.mask);
+  content_.mask.fill(kBlack);
   mPasteOpaque = opaque;
   if (!opaque) maskPicture();
-  state_.picMaskRegion.makePersistent();
+  content_.mask.makePersistent();
   setFloating(true);
   setExists();
   keepIconBeneath();
-  mRegionLifted = true;
+  setLifted();
   state_.current().modified = true;
   buildDragSurfaces();
   renderRegion();
@@ -92,41 +100,41 @@ void Regions::placePicture(const Surface& picture, bool opaque) {
 // The ground behind transparent pixels is what a copied icon shows there: such pixels are transparent again.
 void Regions::maskPicture() {
   const Color transparent = state_.PicIcon.backColor;
-  Surface& image = state_.picImageRegion;
+  Surface& image = content_.image;
   for (int y = 0; y < image.height(); ++y) {
     for (int x = 0; x < image.width(); ++x) {
       if (image.GetPixel(x, y) != transparent) continue;
       image.SetPixelV(x, y, kBlack);
-      state_.picMaskRegion.SetPixelV(x, y, kWhite);
+      content_.mask.SetPixelV(x, y, kWhite);
     }
   }
   image.makePersistent();
 }
 
 void Regions::buildDragSurfaces() {
-  if (state_.options.updateOnlyEditingArea) dragView_.build();
+  if (state_.options.updateOnlyEditingArea) dragView_.build(beneath_, content_);
 }
 
 void Regions::renderRegion() {
   regionToPixels();
   unrendered_ = false;
   if (!isLifted()) return;
-  BitbltPic(state_.picImageSnap, state_.picImage);
-  BitbltPic(state_.picMaskSnap, state_.picMask);
+  BitbltPic(beneath_.image, state_.picImage);
+  BitbltPic(beneath_.mask, state_.picMask);
   mergeContent();
   state_.current().modified = true;
   // What lies beneath the region is as it was.
   const bool ready = dragView_.isReady();
-  editor_.ComposeCurrentIcon();
-  editor_.MagnifyIcon();
+  editingArea_.ComposeCurrentIcon();
+  editingArea_.MagnifyIcon();
   dragView_.setReady(ready);
 }
 
 void Regions::mergeContent() {
   const int x = roundToInteger(draw_.draw.x1);
   const int y = roundToInteger(draw_.draw.y1);
-  const Surface& image = state_.picImageRegion;
-  const Surface& mask = state_.picMaskRegion;
+  const Surface& image = content_.image;
+  const Surface& mask = content_.mask;
   const int width = image.width();
   const int height = image.height();
   if (mPasteOpaque) {
@@ -145,7 +153,7 @@ void Regions::renderRegionFast() {
   DrawRect former = shown_;
   if (!dragView_.isReady()) {
     // A redraw shows the content where the icon has it, which is not where the box was drawn.
-    dragView_.build();
+    dragView_.build(beneath_, content_);
     former = {0, 0, static_cast<double>(state_.picDisp.width()), static_cast<double>(state_.picDisp.height())};
   }
   dragView_.moveContent(former, draw_.region);
@@ -153,16 +161,16 @@ void Regions::renderRegionFast() {
   unrendered_ = true;
 }
 
-void Regions::contentChanged() {
+void Regions::replaceContent(IconImage content) {
+  content_ = std::move(content);
+  if (content_.width() != roundToInteger(draw_.draw.x2 - draw_.draw.x1) + 1 ||
+      content_.height() != roundToInteger(draw_.draw.y2 - draw_.draw.y1) + 1) {
+    setRegionFromPicture(content_.image, roundToInteger(draw_.draw.x1), roundToInteger(draw_.draw.y1));
+    setRegionLimits();
+  }
   setFloating(true);
   buildDragSurfaces();
   renderRegion();
-}
-
-void Regions::contentTurned() {
-  setRegionFromPicture(state_.picImageRegion, roundToInteger(draw_.draw.x1), roundToInteger(draw_.draw.y1));
-  setRegionLimits();
-  contentChanged();
 }
 
 }  // namespace gp

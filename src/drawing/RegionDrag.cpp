@@ -1,5 +1,7 @@
 #include "drawing/RegionDrag.h"
 
+#include "document/Display.h"
+#include "document/EditState.h"
 #include "document/EditingArea.h"
 #include "platform/gdi/RasterOps.h"
 #include "platform/gdi/Stretch.h"
@@ -19,36 +21,35 @@ void magnify(const Surface& source, Surface& target, int factor) {
 
 }  // namespace
 
-RegionDrag::RegionDrag(EditState& state, Editor& editor, Display& display)
-    : state_(state), editor_(editor), display_(display) {}
+RegionDrag::RegionDrag(const Context& context, EditingArea& editingArea)
+    : context_(context), state_(context.state), editingArea_(editingArea) {}
 
-void RegionDrag::build() {
-  showWithoutRegion();
-  MakeSameSize(state_.picDisp, state_.picDragSnap);
-  BitBlt(state_.picDragSnap, 0, 0, state_.picDisp.width(), state_.picDisp.height(), state_.picDisp, 0, 0,
-         RasterOp::SRCCOPY);
-  editor_.ComposeCurrentIcon();
-  editor_.MagnifyIcon();
-  magnify(state_.picImageRegion, state_.picImageDrag, state_.gMagnification);
-  magnify(state_.picMaskRegion, state_.picMaskDrag, state_.gMagnification);
+void RegionDrag::build(IconImage& beneath, const IconImage& content) {
+  showWithoutRegion(beneath);
+  MakeSameSize(state_.picDisp, picDragSnap_);
+  BitBlt(picDragSnap_, 0, 0, state_.picDisp.width(), state_.picDisp.height(), state_.picDisp, 0, 0, RasterOp::SRCCOPY);
+  editingArea_.ComposeCurrentIcon();
+  editingArea_.MagnifyIcon();
+  magnify(content.image, picImageDrag_, state_.gMagnification);
+  magnify(content.mask, picMaskDrag_, state_.gMagnification);
   ready_ = true;
 }
 
 // The Editing Area knows how to show an icon with its grid or pattern, so it is lent the icon without the region.
-void RegionDrag::showWithoutRegion() {
+void RegionDrag::showWithoutRegion(IconImage& beneath) {
   const bool active = std::exchange(state_.mRegionActive, false);
-  std::swap(state_.picImage, state_.picImageSnap);
-  std::swap(state_.picMask, state_.picMaskSnap);
-  editor_.ComposeCurrentIcon();
-  editor_.MagnifyIcon();
-  std::swap(state_.picImage, state_.picImageSnap);
-  std::swap(state_.picMask, state_.picMaskSnap);
+  std::swap(state_.picImage, beneath.image);
+  std::swap(state_.picMask, beneath.mask);
+  editingArea_.ComposeCurrentIcon();
+  editingArea_.MagnifyIcon();
+  std::swap(state_.picImage, beneath.image);
+  std::swap(state_.picMask, beneath.mask);
   state_.mRegionActive = active;
 }
 
 void RegionDrag::forget() {
   ready_ = false;
-  for (Surface* surface : {&state_.picDragSnap, &state_.picImageDrag, &state_.picMaskDrag}) MakePicSize(*surface, 0, 0);
+  for (Surface* surface : {&picDragSnap_, &picImageDrag_, &picMaskDrag_}) MakePicSize(*surface, 0, 0);
 }
 
 void RegionDrag::moveContent(const DrawRect& former, const DrawRect& box) {
@@ -58,18 +59,18 @@ void RegionDrag::moveContent(const DrawRect& former, const DrawRect& box) {
   const int oldTop = roundToInteger(former.y1);
   const int oldWidth = roundToInteger(former.x2) - oldLeft + 1;
   const int oldHeight = roundToInteger(former.y2) - oldTop + 1;
-  BitBlt(disp, oldLeft, oldTop, oldWidth, oldHeight, state_.picDragSnap, oldLeft, oldTop, RasterOp::SRCCOPY);
+  BitBlt(disp, oldLeft, oldTop, oldWidth, oldHeight, picDragSnap_, oldLeft, oldTop, RasterOp::SRCCOPY);
 
   const int left = roundToInteger(box.x1);
   const int top = roundToInteger(box.y1);
-  const int width = state_.picImageDrag.width();
-  const int height = state_.picImageDrag.height();
-  BitBlt(disp, left, top, width, height, state_.picMaskDrag, 0, 0, RasterOp::SRCAND);
-  BitBlt(disp, left, top, width, height, state_.picImageDrag, 0, 0, RasterOp::SRCINVERT);
+  const int width = picImageDrag_.width();
+  const int height = picImageDrag_.height();
+  BitBlt(disp, left, top, width, height, picMaskDrag_, 0, 0, RasterOp::SRCAND);
+  BitBlt(disp, left, top, width, height, picImageDrag_, 0, 0, RasterOp::SRCINVERT);
   // The grid stands still under the mouse, as it does when the whole Editing Area is built.
   if (state_.gGridColor != kNoGrid) BitBlt(disp, left, top, width, height, state_.PicGrid, left, top, RasterOp::SRCAND);
-  display_.repaintEditingArea(oldLeft, oldTop, oldWidth, oldHeight);
-  display_.repaintEditingArea(left, top, width + 1, height + 1);
+  context_.display.repaintEditingArea(oldLeft, oldTop, oldWidth, oldHeight);
+  context_.display.repaintEditingArea(left, top, width + 1, height + 1);
 }
 
 }  // namespace gp

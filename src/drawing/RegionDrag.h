@@ -3,20 +3,21 @@
 // the other. It writes picDisp and nothing else of the icon.
 #pragma once
 
-#include "document/Display.h"
-#include "document/EditState.h"
-#include "document/Editor.h"
+#include "document/Context.h"
+#include "document/IconImage.h"
 #include "drawing/DrawState.h"
 
 namespace gp {
 
+class EditingArea;
+
 class RegionDrag {
  public:
-  RegionDrag(EditState& state, Editor& editor, Display& display);
+  RegionDrag(const Context& context, EditingArea& editingArea);
 
-  // Makes the three Surfaces from picImageSnap, picMaskSnap and the content in picImageRegion, picMaskRegion. The icon
-  // and the Editing Area are afterwards as before.
-  void build();
+  // Makes the three Surfaces from the icon beneath the region and from the region's content. The icon and the Editing
+  // Area are afterwards as before.
+  void build(IconImage& beneath, const IconImage& content);
   // Empties them.
   void forget();
   // The Editing Area was built anew: what lies under the region has to be taken again before it is used.
@@ -30,11 +31,13 @@ class RegionDrag {
   void moveContent(const DrawRect& former, const DrawRect& box);
 
  private:
-  void showWithoutRegion();
+  void showWithoutRegion(IconImage& beneath);
 
+  Context context_;
   EditState& state_;
-  Editor& editor_;
-  Display& display_;
+  EditingArea& editingArea_;
+  // The Editing Area without the region, and the region's content, magnified.
+  Surface picDragSnap_, picImageDrag_, picMaskDrag_;
   bool ready_ = false;
 };
 

@@ -1,7 +1,12 @@
 #include "drawing/RegionTool.h"
 
+#include "document/EditState.h"
+#include "drawing/DrawState.h"
+#include "drawing/Regions.h"
 #include "drawing/ShapeGeometry.h"
 #include "drawing/Tools.h"
+#include "drawing/UndoHistory.h"
+#include "platform/ports/MessagePump.h"
 #include "platform/text/Numbers.h"
 
 namespace gp {
@@ -34,8 +39,10 @@ double* sideOf(DrawRect& box, RegionEdge edge) {
 
 }  // namespace
 
-RegionTool::RegionTool(EditState& state, DrawState& draw, Editor& editor, Regions& regions, MessagePump& pump)
-    : state_(state), draw_(draw), editor_(editor), regions_(regions), pump_(pump) {}
+RegionTool::RegionTool(const Context& context, DrawState& draw, UndoHistory& history, Regions& regions, Tools& tools)
+    : context_(context), state_(context.state), draw_(draw), history_(history), regions_(regions), tools_(tools) {}
+
+void RegionTool::cancel() { regions_.finishDrag(); }
 
 void RegionTool::snap(const ToolMouse& mouse) {
   mRegionX = snapToCell(static_cast<double>(mouse.x), SnapMode::NearestCorner, state_.gMagnification);
@@ -94,7 +101,7 @@ void RegionTool::beginEdgeDrag(const ToolMouse& mouse) {
   drag.mEdgeIndex = edgeUnderPress(draw_.region, x, y);
   drag.mEdgeMouse = isHorizontal(drag.mEdgeIndex) ? x : y;
   drag.mEdgeDrag = true;
-  pump_.pump();
+  context_.pump.pump();
 }
 
 void RegionTool::moveEdge(const ToolMouse& mouse) {
@@ -106,7 +113,7 @@ void RegionTool::moveEdge(const ToolMouse& mouse) {
     drag.mEdgeMouse = position;
   }
   regions_.drawRegionBox();
-  pump_.pump();
+  context_.pump.pump();
 }
 
 void RegionTool::finishEdgeDrag() {
@@ -120,7 +127,7 @@ void RegionTool::finishEdgeDrag() {
   regions_.liftRegion(true);
   regions_.wipeRegionBox();
   regions_.drawRegionBox();
-  pump_.pump();
+  context_.pump.pump();
 }
 
 // Moving the region.
@@ -142,10 +149,10 @@ void RegionTool::moveRegion() {
 
 // The region is merged where it is, and a new one can be drawn.
 void RegionTool::merge() {
-  editor_.clearAllTools();
+  tools_.clearAllTools();
   regions_.clearRegion();
-  editor_.selectTool(kRegion);
-  editor_.recordUndo();
+  tools_.selectTool(kRegion);
+  history_.recordUndo();
 }
 
 void RegionTool::move(const ToolMouse& mouse) {

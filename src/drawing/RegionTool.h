@@ -3,24 +3,25 @@
 // Mask and region in agreement, since pumping comes last.
 #pragma once
 
-#include "document/EditState.h"
-#include "document/Editor.h"
-#include "drawing/DrawState.h"
+#include "document/Context.h"
 #include "drawing/DrawingTool.h"
-#include "drawing/Regions.h"
-#include "platform/ports/MessagePump.h"
 
 namespace gp {
 
+class Regions;
+class Tools;
+class UndoHistory;
+struct DrawState;
+
 class RegionTool : public DrawingTool {
  public:
-  RegionTool(EditState& state, DrawState& draw, Editor& editor, Regions& regions, MessagePump& pump);
+  RegionTool(const Context& context, DrawState& draw, UndoHistory& history, Regions& regions, Tools& tools);
 
   void press(const ToolMouse& mouse) override;
   void move(const ToolMouse& mouse) override;
   void release(const ToolMouse& mouse) override;
   // A drag ends where it is.
-  void cancel() override { regions_.finishDrag(); }
+  void cancel() override;
   int pointer(float x, float y) const override;
 
  private:
@@ -34,11 +35,12 @@ class RegionTool : public DrawingTool {
   void moveRegion();
   void merge();
 
+  Context context_;
   EditState& state_;
   DrawState& draw_;
-  Editor& editor_;
+  UndoHistory& history_;
   Regions& regions_;
-  MessagePump& pump_;
+  Tools& tools_;
   double mRegionX = 0;  // the mouse at the nearest grid corner, Editing Area pixels
   double mRegionY = 0;
 };

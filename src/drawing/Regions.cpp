@@ -1,5 +1,7 @@
 #include "drawing/Regions.h"
 
+#include "document/Display.h"
+#include "document/Editor.h"
 #include "platform/gdi/Pens.h"
 #include "platform/gdi/SurfaceOps.h"
 #include "platform/text/Numbers.h"
@@ -16,8 +18,12 @@ int drawnSide(double position, int length) {
 
 }  // namespace
 
-Regions::Regions(EditState& state, DrawState& draw, Editor& editor, Display& display)
-    : state_(state), draw_(draw), editor_(editor), display_(display), dragView_(state, editor, display) {}
+Regions::Regions(const Context& context, EditingArea& editingArea, DrawState& draw)
+    : context_(context),
+      state_(context.state),
+      editingArea_(editingArea),
+      draw_(draw),
+      dragView_(context, editingArea) {}
 
 RegionScale Regions::scale() const {
   return {state_.gMagnification, state_.picDisp.width(), state_.picDisp.height(), state_.PicIcon.width(),
@@ -38,17 +44,17 @@ void Regions::clearRegion() {
   state_.picDisp.clearDrawing();
   setLabel("");
   state_.screen.editingPointer = kDefaultPointer;
-  display_.changed(DisplayPart::Pointer);
-  display_.changed(DisplayPart::EditingArea);
-  editor_.UpdateCommands();
+  context_.display.changed(DisplayPart::Pointer);
+  context_.display.changed(DisplayPart::EditingArea);
+  context_.editor.UpdateCommands();
 }
 
 void Regions::dropContent() {
   const bool lifted = isLifted();
   clearRegion();
   if (!lifted) return;
-  BitbltPic(state_.picImageSnap, state_.picImage);
-  BitbltPic(state_.picMaskSnap, state_.picMask);
+  BitbltPic(beneath_.image, state_.picImage);
+  BitbltPic(beneath_.mask, state_.picMask);
 }
 
 void Regions::finishDrag() {
@@ -125,7 +131,7 @@ void Regions::repaintBox() {
   normalizeBox(box);
   const int left = roundToInteger(box.x1) - 1;
   const int top = roundToInteger(box.y1) - 1;
-  display_.repaintEditingArea(left, top, roundToInteger(box.x2) - left + 1, roundToInteger(box.y2) - top + 1);
+  context_.display.repaintEditingArea(left, top, roundToInteger(box.x2) - left + 1, roundToInteger(box.y2) - top + 1);
 }
 
 void Regions::updateRegionLabel() { setLabel(drag_.mEdgeDrag ? "" : regionLabel(draw_.region, draw_.draw)); }
@@ -134,7 +140,7 @@ void Regions::setLabel(const std::string& text) {
   std::string& label = state_.screen.lblDispXY.at(static_cast<std::size_t>(Readout::Region));
   if (label == text) return;
   label = text;
-  display_.changed(DisplayPart::Readouts);
+  context_.display.changed(DisplayPart::Readouts);
 }
 
 void Regions::redrawRegion() {

@@ -7,18 +7,20 @@
 // did not come from its place on the icon, and the icon must be taken over by its container before a tool is changed.
 #pragma once
 
-#include "document/Display.h"
+#include "document/Context.h"
 #include "document/EditState.h"
-#include "document/Editor.h"
+#include "document/IconImage.h"
 #include "drawing/DrawState.h"
 #include "drawing/RegionBox.h"
 #include "drawing/RegionDrag.h"
 
 namespace gp {
 
+class EditingArea;
+
 class Regions {
  public:
-  Regions(EditState& state, DrawState& draw, Editor& editor, Display& display);
+  Regions(const Context& context, EditingArea& editingArea, DrawState& draw);
 
   // Ends the region: box, flags of all strokes, overlay and label go, and a drag that the icon has not seen is dropped.
   // Pixels of the icon stay.
@@ -64,10 +66,10 @@ class Regions {
   // The same on picDisp alone; renderRegion() must follow.
   void renderRegionFast();
 
-  // The content was mirrored in picImageRegion and picMaskRegion: floats, and is shown.
-  void contentChanged();
-  // The same for content that was turned and may have another shape: the box follows, its top left corner stays.
-  void contentTurned();
+  // The lifted content: picImageRegion and picMaskRegion. Empty before anything was lifted.
+  const IconImage& content() const { return content_; }
+  // Replaces the content, which then floats and is shown. The box takes its shape; its top left corner stays.
+  void replaceContent(IconImage content);
   // The icon returns to what it is beneath the region; the region ends.
   void dropContent();
   // What a command in the middle of a drag finds is a drag that has ended where it is; a side being moved goes back.
@@ -89,6 +91,7 @@ class Regions {
   RegionScale scale() const;
   void setFloating(bool floating);
   void keepIconBeneath();
+  void setLifted();
   void liftOpaquePixels();
   void liftBlock(int width, int height);
   void maskPicture();
@@ -99,10 +102,12 @@ class Regions {
   void setLabel(const std::string& text);
   void repaintBox();
 
+  Context context_;
   EditState& state_;
+  EditingArea& editingArea_;
   DrawState& draw_;
-  Editor& editor_;
-  Display& display_;
+  IconImage content_;  // picImageRegion, picMaskRegion
+  IconImage beneath_;  // picImageSnap, picMaskSnap: the icon without the content
   RegionDrag dragView_;
   Drag drag_;
   RegionLimits limits_;
@@ -110,7 +115,8 @@ class Regions {
   int magnification_ = 0;  // that the box is measured in
   bool mRegionFloating = false;
   bool mPasteOpaque = false;
-  bool mRegionLifted = false;  // the region Surfaces hold the content of this box
+  bool mRegionLifted = false;  // content_ is that of this box
+  unsigned liftedFrom_ = 0;    // the iconSerial of the icon it was lifted from
   bool unrendered_ = false;    // the content was moved on the Editing Area only
 };
 

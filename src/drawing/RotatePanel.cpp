@@ -1,9 +1,13 @@
 #include "drawing/RotatePanel.h"
 
+#include "document/EditState.h"
+#include "document/EditingArea.h"
+#include "document/Editor.h"
 #include "document/Hourglass.h"
+#include "drawing/Regions.h"
 #include "drawing/RotateSurface.h"
+#include "drawing/UndoHistory.h"
 #include "platform/gdi/RasterOps.h"
-#include "platform/gdi/SurfaceOps.h"
 #include "platform/text/Numbers.h"
 
 #include <algorithm>
@@ -17,15 +21,27 @@ constexpr int kSampleMargin = 2;
 
 bool isWholeTurn(double angle) { return angle == 0 || angle == kLargestAngle || angle == -kLargestAngle; }
 
+// The work Surface is as wide as the diagonal, rounded to the nearest pixel, and the offset truncated: so the middle of
+// the icon stays where it is.
+void rotate(Surface& picture, double angle, Color background) {
+  const int side = diagonalOf(picture.width(), picture.height());
+  Surface work(side, side, background);
+  rotateSurface(picture, work, {.angleDegrees = angle, .skipBackground = true, .backgroundColor = background});
+  const int offX = divide(side - picture.width(), 2);
+  const int offY = divide(side - picture.height(), 2);
+  BitBlt(picture, 0, 0, picture.width(), picture.height(), work, offX, offY, RasterOp::SRCCOPY);
+  picture.makePersistent();
+}
+
 }  // namespace
 
-RotatePanel::RotatePanel(EditState& state, Editor& editor, Display& display, Regions& regions)
-    : state_(state), editor_(editor), display_(display), regions_(regions) {}
+RotatePanel::RotatePanel(const Context& context, EditingArea& editingArea, UndoHistory& history, Regions& regions)
+    : context_(context), state_(context.state), editingArea_(editingArea), history_(history), regions_(regions) {}
 
 std::string RotatePanel::angleText(int index) { return std::to_string(index - kLargestAngle); }
 
 void RotatePanel::open() {
-  editor_.showPanel(kRotatePanel);
+  context_.editor.showPanel(kRotatePanel);
   drawSample();
 }
 
@@ -56,10 +72,8 @@ void RotatePanel::changed() {
 }
 
 void RotatePanel::drawSample() {
-  Surface& work = state_.picImageTemp;
   const int side = diagonalOf(state_.PicIcon.width(), state_.PicIcon.height()) + kSampleMargin;
-  MakePicSize(work, side, side);
-  work.fill(kGround);
+  Surface work(side, side, kGround);
   rotateSurface(state_.picImage, work,
                 {.angleDegrees = static_cast<double>(slider_),
                  .skipBackground = true,
@@ -69,45 +83,29 @@ void RotatePanel::drawSample() {
   BitBlt(sample_, 0, 0, kRotateSampleSide, kRotateSampleSide, work, (side - kRotateSampleSide) / 2,
          (side - kRotateSampleSide) / 2, RasterOp::SRCCOPY);
   sample_.makePersistent();
-  work.clearPicture();
   if (onChange) onChange();
 }
 
 void RotatePanel::doRotateProceed() {
   const double angle = Val(angleText_);
   if (isWholeTurn(angle) || !state_.current().present) {
-    editor_.closePanels();
+    context_.editor.closePanels();
     return;
   }
   rotateIcon(angle);
-  editor_.closePanels();
+  context_.editor.closePanels();
   // It pumps messages, and so comes when the Panel can no longer be used.
-  editor_.recordUndo();
+  history_.recordUndo();
 }
 
 void RotatePanel::rotateIcon(double angle) {
-  const Hourglass hourglass(state_, display_);
+  const Hourglass hourglass(state_, context_.display);
   regions_.finishDrag();
   regions_.clearRegion();
-  rotateInto(state_.picImage, state_.picImageTemp, angle, kBlack);
-  rotateInto(state_.picMask, state_.picMaskTemp, angle, kWhite);
+  rotate(state_.picImage, angle, kBlack);
+  rotate(state_.picMask, angle, kWhite);
   state_.current().modified = true;
-  editor_.ComposeCurrentIcon();
-  editor_.MagnifyIcon();
-}
-
-// The work Surface is as wide as the diagonal, rounded to the nearest pixel, and the offset truncated: so the middle of
-// the icon stays where it is.
-void RotatePanel::rotateInto(Surface& picture, Surface& work, double angle, Color background) {
-  const int side = diagonalOf(picture.width(), picture.height());
-  MakePicSize(work, side, side);
-  work.fill(background);
-  rotateSurface(picture, work, {.angleDegrees = angle, .skipBackground = true, .backgroundColor = background});
-  const int offX = divide(side - picture.width(), 2);
-  const int offY = divide(side - picture.height(), 2);
-  BitBlt(picture, 0, 0, picture.width(), picture.height(), work, offX, offY, RasterOp::SRCCOPY);
-  picture.makePersistent();
-  work.clearPicture();
+  editingArea_.showChangedIcon();
 }
 
 }  // namespace gp

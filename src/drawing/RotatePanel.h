@@ -2,11 +2,8 @@
 // other; the view shows what is here. The sample is smooth where Antialias is on, the icon itself never is.
 #pragma once
 
-#include "document/Display.h"
-#include "document/EditState.h"
-#include "document/Editor.h"
+#include "document/Context.h"
 #include "document/PanelNumbers.h"
-#include "drawing/Regions.h"
 #include "platform/gdi/Surface.h"
 
 #include <functional>
@@ -20,9 +17,13 @@ inline constexpr int kAngleCount = 2 * kLargestAngle + 1;
 // The side of picRotateImageSample: the largest icon fits in it at any angle.
 inline constexpr int kRotateSampleSide = 70;
 
+class EditingArea;
+class Regions;
+class UndoHistory;
+
 class RotatePanel {
  public:
-  RotatePanel(EditState& state, Editor& editor, Display& display, Regions& regions);
+  RotatePanel(const Context& context, EditingArea& editingArea, UndoHistory& history, Regions& regions);
 
   // Brings the Panel forward with its sample.
   void open();
@@ -49,12 +50,12 @@ class RotatePanel {
  private:
   void drawSample();
   void rotateIcon(double angle);
-  void rotateInto(Surface& picture, Surface& work, double angle, Color background);
   void changed();
 
+  Context context_;
   EditState& state_;
-  Editor& editor_;
-  Display& display_;
+  EditingArea& editingArea_;
+  UndoHistory& history_;
   Regions& regions_;
   std::string angleText_ = "0";
   int slider_ = 0;

@@ -1,9 +1,14 @@
 #include "drawing/ShapeTools.h"
 
+#include "document/Display.h"
+#include "document/EditState.h"
+#include "document/EditingArea.h"
+#include "drawing/DrawState.h"
 #include "drawing/ShapeGeometry.h"
-#include "drawing/ToolTable.h"
 #include "drawing/Tools.h"
+#include "drawing/UndoHistory.h"
 #include "platform/gdi/Pens.h"
+#include "platform/ports/MessagePump.h"
 #include "platform/text/Numbers.h"
 
 #include <algorithm>
@@ -92,7 +97,7 @@ void drawFilledOval(Surface& surface, const DrawRect& rect, Color color) {
 }
 
 struct ShapeRow {
-  int tool;
+  Tool tool;
   void (*draw)(Surface& surface, const DrawRect& rect, Color color);
   FillMode fillMode;
   bool isBox;    // the band has a box
@@ -108,7 +113,7 @@ constexpr std::array<ShapeRow, 5> kShapes = {{
     {kFilledOval, drawFilledOval, FillMode::Solid, true, true, kFilledOvalPen},
 }};
 
-const ShapeRow* findShape(int tool) {
+const ShapeRow* findShape(Tool tool) {
   const auto row = std::ranges::find(kShapes, tool, &ShapeRow::tool);
   return row == kShapes.end() ? nullptr : &*row;
 }
@@ -120,17 +125,16 @@ void drawOn(Surface& surface, const ShapeRow& row, int penWidth, const DrawRect&
 
 }  // namespace
 
-ShapeTool::ShapeTool(EditState& state, Editor& editor, Display& display, MessagePump& pump, DrawState& drawState,
-                     const UndoHistory& history)
-    : state_(state), editor_(editor), display_(display), pump_(pump), drawState_(drawState), history_(history) {}
+ShapeTool::ShapeTool(const Context& context, EditingArea& editingArea, UndoHistory& history, DrawState& drawState)
+    : context_(context), state_(context.state), editingArea_(editingArea), history_(history), drawState_(drawState) {}
 
 ShapeTool::Ground ShapeTool::ground() const {
-  return {state_.mCurContainer, state_.screen.mActivePanel, history_.era(), state_.mRegionExists};
+  return {state_.iconSerial, state_.screen.mActivePanel, state_.mRegionExists};
 }
 
-bool ShapeTool::hasStillIts(const Ground& ground) const { return state_.current().present && ground == this->ground(); }
+bool ShapeTool::isStillOn(const Ground& ground) const { return state_.current().present && ground == this->ground(); }
 
-bool ShapeTool::isDragging() const { return dragged_ && drawState_.mPainting && hasStillIts(dragGround_); }
+bool ShapeTool::isDragging() const { return dragged_ && drawState_.mPainting && isStillOn(dragGround_); }
 
 void ShapeTool::press(const ToolMouse& mouse) {
   drawState_.mPainting = true;
@@ -161,10 +165,10 @@ void ShapeTool::move(const ToolMouse& mouse) {
   follow(mouse);
   if ((mouse.modifiers & kConstrainKeys) != 0)
     constrainToSquare(drawState_, state_.current().size, state_.gMagnification);
-  showBand(editor_.selectedTool());
+  showBand(mouse.tool);
 }
 
-void ShapeTool::showBand(int tool) {
+void ShapeTool::showBand(Tool tool) {
   const ShapeRow* row = findShape(tool);
   if (row == nullptr) return;
   state_.picDisp.clearDrawing();
@@ -176,7 +180,7 @@ void ShapeTool::showBand(int tool) {
     BandEllipse(state_.picDisp, oval.mOvalCenterX, oval.mOvalCenterY, oval.mOvalRadius, oval.mOvalAspect);
   const ShapeBox former = std::exchange(shownBand_, boxOf(band));
   const ShapeBox changed = unite(former, shownBand_);
-  display_.repaintEditingArea(changed.left, changed.top, changed.width(), changed.height());
+  context_.display.repaintEditingArea(changed.left, changed.top, changed.width(), changed.height());
 }
 
 void ShapeTool::cancel() {
@@ -188,26 +192,25 @@ void ShapeTool::clearBand() {
   const ShapeBox former = std::exchange(shownBand_, {});
   if (former.isEmpty()) return;
   state_.picDisp.clearDrawing();
-  display_.repaintEditingArea(former.left, former.top, former.width(), former.height());
+  context_.display.repaintEditingArea(former.left, former.top, former.width(), former.height());
 }
 
-void ShapeTool::release(const ToolMouse& /*mouse*/) {
+void ShapeTool::release(const ToolMouse& mouse) {
   // The second button of a drag, or one that no press belongs to, finds nothing to draw.
-  const bool isIts = dragged_ && hasStillIts(dragGround_);
+  const bool mayDraw = dragged_ && isStillOn(dragGround_);
   cancel();
-  const ShapeRow* row = findShape(editor_.selectedTool());
-  if (!isIts || row == nullptr) return;
+  const ShapeRow* row = findShape(mouse.tool);
+  if (!mayDraw || row == nullptr) return;
   // A nested press begins a drag of its own: what is drawn here is settled before.
   const DrawRect corners = drawState_.draw;
   const Ground before = dragGround_;
-  if (row->isOval) pump_.pump();
-  if (!hasStillIts(before)) return;
+  if (row->isOval) context_.pump.pump();
+  if (!isStillOn(before)) return;
   const int penWidth = row->penWidth != 0 ? row->penWidth : state_.screen.brushIndex + 1;
   drawOn(state_.picImage, *row, penWidth, corners, state_.mCurrentColor);
   drawOn(state_.picMask, *row, penWidth, corners, kBlack);
-  editor_.ComposeCurrentIcon();
-  editor_.MagnifyIcon();
-  editor_.recordUndo();
+  editingArea_.showChangedIcon();
+  history_.recordUndo();
 }
 
 }  // namespace gp

@@ -6,21 +6,19 @@
 // shape is dropped whole.
 #pragma once
 
-#include "document/Display.h"
-#include "document/EditState.h"
-#include "document/Editor.h"
-#include "drawing/DrawState.h"
+#include "document/Context.h"
 #include "drawing/DrawingTool.h"
-#include "drawing/UndoHistory.h"
 #include "platform/gdi/Outlines.h"
-#include "platform/ports/MessagePump.h"
 
 namespace gp {
 
+class EditingArea;
+class UndoHistory;
+struct DrawState;
+
 class ShapeTool : public DrawingTool {
  public:
-  ShapeTool(EditState& state, Editor& editor, Display& display, MessagePump& pump, DrawState& drawState,
-            const UndoHistory& history);
+  ShapeTool(const Context& context, EditingArea& editingArea, UndoHistory& history, DrawState& drawState);
 
   void press(const ToolMouse& mouse) override;
   void move(const ToolMouse& mouse) override;
@@ -30,28 +28,26 @@ class ShapeTool : public DrawingTool {
   void cancel() override;
 
  private:
-  // What the icon under a drag is known by.
+  // What a drag draws on.
   struct Ground {
-    int container;
+    unsigned icon;  // iconSerial
     int panel;
-    unsigned era;
     bool hasRegion;
     bool operator==(const Ground&) const = default;
   };
 
   Ground ground() const;
-  bool hasStillIts(const Ground& ground) const;
+  bool isStillOn(const Ground& ground) const;
   bool isDragging() const;
   void follow(const ToolMouse& mouse);
-  void showBand(int tool);
+  void showBand(Tool tool);
   void clearBand();
 
+  Context context_;
   EditState& state_;
-  Editor& editor_;
-  Display& display_;
-  MessagePump& pump_;
+  EditingArea& editingArea_;
+  UndoHistory& history_;
   DrawState& drawState_;
-  const UndoHistory& history_;
 
   bool dragged_ = false;  // a press began what the next release draws
   Ground dragGround_{};

@@ -1,9 +1,12 @@
 #include "drawing/ShiftTool.h"
 
-#include "document/Messages.h"
-#include "drawing/ToolTable.h"
+#include "document/EditState.h"
+#include "document/EditingArea.h"
+#include "drawing/Tools.h"
+#include "drawing/UndoHistory.h"
 #include "platform/gdi/Pens.h"
 #include "platform/gdi/SurfaceOps.h"
+#include "platform/ports/MessageBoxes.h"
 #include "platform/text/Numbers.h"
 
 #include <algorithm>
@@ -48,41 +51,32 @@ ShiftCell shiftCellAt(double x, double y, double side) {
   return kPad[row][column];
 }
 
-ShiftTool::ShiftTool(EditState& state, Editor& editor, MessageBoxes& boxes)
-    : state_(state), editor_(editor), boxes_(boxes) {}
+ShiftTool::ShiftTool(const Context& context, EditingArea& editingArea, UndoHistory& history, Tools& tools)
+    : context_(context), state_(context.state), editingArea_(editingArea), history_(history), tools_(tools) {}
 
 // The history gets two like entries: the first is the baseline that an Undo during Shift returns to.
 void ShiftTool::turnOn() {
-  MakeSameSize(state_.picImage, state_.picImageRegion);
-  MakeSameSize(state_.picMask, state_.picMaskRegion);
-  BitbltPic(state_.picImage, state_.picImageRegion);
-  BitbltPic(state_.picMask, state_.picMaskRegion);
+  kept_ = {state_.picImage, state_.picMask, {}};
+  keptFrom_ = state_.iconSerial;
   mShiftX_ = mShiftY_ = 0;
-  editor_.clearUndoHistory();
-  editor_.recordUndo();
+  history_.clearUndoHistory();
+  history_.recordUndo();
   // Recording pumps messages, in which Shift may have been ended again.
-  if (editor_.selectedTool() == kShift) editor_.recordUndo();
+  if (tools_.selectedTool() == kShift) history_.recordUndo();
 }
 
 void ShiftTool::padPress(ShiftCell cell) { shown_ = cell; }
 
 void ShiftTool::padRelease(ShiftCell cell) {
   shown_ = ShiftCell::Rest;
-  if (!state_.current().present) {
-    editor_.clearAllTools();
-    tellNoIconYet(boxes_);
-    return;
-  }
-  if (editor_.selectedTool() != kShift) {
-    boxes_.tell(kSelectShiftFirst);
-    return;
-  }
-  shift(cell);
+  if (tools_.selectedTool() == kShift)
+    shift(cell);
+  else
+    context_.boxes.tell(kSelectShiftFirst);
 }
 
 bool ShiftTool::isPictureKept() const {
-  return state_.picImageRegion.hasPicture() && !SurfaceSizeDiffers(state_.picImageRegion, state_.picImage) &&
-         !SurfaceSizeDiffers(state_.picMaskRegion, state_.picMask);
+  return keptFrom_ == state_.iconSerial && !SurfaceSizeDiffers(kept_.image, state_.picImage);
 }
 
 void ShiftTool::shift(ShiftCell cell) {
@@ -101,15 +95,14 @@ void ShiftTool::redraw() {
   FillBox(state_.picMask, 0, 0, size - 1, size - 1, kWhite);
   for (int j = std::max(mShiftY_, 0); j < size; ++j) {
     for (int i = std::max(mShiftX_, 0); i < size; ++i) {
-      const Color color = state_.picImageRegion.GetPixel(i, j);
-      if (color == kBlack && state_.picMaskRegion.GetPixel(i, j) != kBlack) continue;
+      const Color color = kept_.image.GetPixel(i, j);
+      if (color == kBlack && kept_.mask.GetPixel(i, j) != kBlack) continue;
       state_.picImage.SetPixelV(i - mShiftX_, j - mShiftY_, color);
       state_.picMask.SetPixelV(i - mShiftX_, j - mShiftY_, kBlack);
     }
   }
   state_.current().modified = true;
-  editor_.ComposeCurrentIcon();
-  editor_.MagnifyIcon();
+  editingArea_.showChangedIcon();
 }
 
 }  // namespace gp

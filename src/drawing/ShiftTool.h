@@ -1,12 +1,11 @@
 // Shift: moves the whole picture by single pixels, wrapping after the icon's size. Owns the offsets; the picture as it
-// was when Shift was turned on is kept in picImageRegion and picMaskRegion, so that pixels pushed over the edge come
-// back. Shift does nothing on the Editing Area itself: it is worked with the pad.
+// was when Shift was turned on is kept, so that pixels pushed over the edge come back. Shift does nothing on the
+// Editing Area itself: it is worked with the pad.
 #pragma once
 
-#include "document/EditState.h"
-#include "document/Editor.h"
+#include "document/Context.h"
+#include "document/IconImage.h"
 #include "drawing/DrawingTool.h"
-#include "platform/ports/MessageBoxes.h"
 
 namespace gp {
 
@@ -16,9 +15,13 @@ inline constexpr int kShiftPictureCount = 9;
 // The cell at a position on a pad of that side, in its own pixels. The middle one, and what lies outside, is Rest.
 ShiftCell shiftCellAt(double x, double y, double side);
 
+class EditingArea;
+class Tools;
+class UndoHistory;
+
 class ShiftTool : public DrawingTool {
  public:
-  ShiftTool(EditState& state, Editor& editor, MessageBoxes& boxes);
+  ShiftTool(const Context& context, EditingArea& editingArea, UndoHistory& history, Tools& tools);
 
   void selected() override { turnOn(); }
   // imgTool(15) Click has selected the tool: a new baseline of Undo, then the picture is kept.
@@ -39,9 +42,13 @@ class ShiftTool : public DrawingTool {
   bool isPictureKept() const;
   void redraw();
 
+  Context context_;
   EditState& state_;
-  Editor& editor_;
-  MessageBoxes& boxes_;
+  EditingArea& editingArea_;
+  UndoHistory& history_;
+  Tools& tools_;
+  IconImage kept_;         // the picture when Shift was turned on
+  unsigned keptFrom_ = 0;  // the iconSerial of its icon
   ShiftCell shown_ = ShiftCell::Rest;
   // The picture is drawn at minus these values: a positive mShiftX has moved it left.
   int mShiftX_ = 0;

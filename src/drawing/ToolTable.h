@@ -1,36 +1,23 @@
 // The table of tools. Index, picture, tooltip and menu entry of a tool belong together by the index of imgTool.
 #pragma once
 
+#include "document/Tool.h"
+
 #include <array>
 #include <string>
 
 namespace gp {
 
-enum Tool : int {
-  kNoTool = 0,
-  kPaint = 4,
-  kErase,
-  kFill,
-  kReplace,
-  kRestore,
-  kLine,
-  kRectangle,
-  kFilledRectangle,
-  kOval,
-  kFilledOval,
-  kRegion,
-  kShift,
-};
-
 struct ToolRow {
-  int index;
+  Tool index;
   const char* tooltip;
   const char* picture;
 };
 
-inline constexpr int kFirstTool = kPaint;
-inline constexpr int kLastTool = kShift;
+inline constexpr Tool kFirstTool = kPaint;
+inline constexpr Tool kLastTool = kShift;
 const std::array<ToolRow, 12>& toolTable();
+// Throws std::out_of_range for a number that is no tool.
 const ToolRow& toolRow(int index);
 // A tool's tooltip up to its first bracket: the name a person knows it by.
 std::string toolName(int index);

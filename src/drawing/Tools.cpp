@@ -1,7 +1,16 @@
 #include "drawing/Tools.h"
 
-#include "document/Messages.h"
+#include "colour/ColorSelection.h"
+#include "document/Display.h"
+#include "document/EditState.h"
+#include "document/Editor.h"
+#include "document/IconsPanel.h"
 #include "document/PanelNumbers.h"
+#include "drawing/DrawState.h"
+#include "drawing/Regions.h"
+#include "drawing/ToolTable.h"
+#include "drawing/UndoHistory.h"
+#include "platform/ports/MessagePump.h"
 #include "platform/text/Numbers.h"
 
 #include <algorithm>
@@ -9,12 +18,7 @@
 
 namespace gp {
 
-namespace {
-
-constexpr int kMenuClearTools = 0;
-constexpr int kMenuColorPicker = 2;
-
-}  // namespace
+namespace {}  // namespace
 
 int snapToCell(double position, SnapMode mode, int magnification) {
   const int pos = Fix(position);
@@ -24,19 +28,20 @@ int snapToCell(double position, SnapMode mode, int magnification) {
   return (nextCorner ? cell + 1 : cell) * magnification;
 }
 
-Tools::Tools(EditState& state, Editor& editor, Display& display, ColorSelection& colors, MessageBoxes& boxes,
-             MessagePump& pump, DrawState& drawState)
-    : state_(state),
-      editor_(editor),
-      display_(display),
+Tools::Tools(const Context& context, IconsPanel& iconsPanel, ColorSelection& colors, UndoHistory& history,
+             Regions& regions, DrawState& drawState)
+    : context_(context),
+      state_(context.state),
+      display_(context.display),
+      iconsPanel_(iconsPanel),
       colors_(colors),
-      boxes_(boxes),
-      pump_(pump),
+      history_(history),
+      regions_(regions),
       drawState_(drawState) {}
 
-void Tools::attach(int tool, DrawingTool& worker) { workers_.at(static_cast<std::size_t>(tool)) = &worker; }
+void Tools::attach(Tool tool, DrawingTool& worker) { workers_.at(static_cast<std::size_t>(tool)) = &worker; }
 
-DrawingTool* Tools::worker(int tool) const { return workers_.at(static_cast<std::size_t>(tool)); }
+DrawingTool* Tools::worker(Tool tool) const { return workers_.at(static_cast<std::size_t>(tool)); }
 
 bool Tools::isToolActive() const { return state_.screen.fraTools[1] && worker(selected_) != nullptr; }
 
@@ -48,7 +53,7 @@ void Tools::locate(const MouseInput& mouse) {
 }
 
 ToolMouse Tools::toolMouse(const MouseInput& mouse) const {
-  return {mPixelX, mPixelY, mouse.x, mouse.y, mouse.modifiers};
+  return {selected_, mPixelX, mPixelY, mouse.x, mouse.y, mouse.modifiers};
 }
 
 void Tools::press(const MouseInput& mouse) {
@@ -62,7 +67,7 @@ void Tools::press(const MouseInput& mouse) {
 }
 
 void Tools::move(const MouseInput& mouse) {
-  pump_.pump();
+  context_.pump.pump();
   if (!state_.current().present) return;
   const Surface& disp = state_.picDisp;
   if (mouse.x < 0 || mouse.y < 0 || mouse.x > static_cast<float>(disp.width() - 1) ||
@@ -86,7 +91,7 @@ void Tools::release(const MouseInput& mouse) {
   if (!state_.current().present) return;
   locate(mouse);
   if (state_.screen.mActivePanel == kCursorPanel) {
-    editor_.setHotspotByClick(mPixelX, mPixelY);
+    context_.editor.setHotspotByClick(mPixelX, mPixelY);
     return;
   }
   if (colors_.isPickerSelected()) {
@@ -96,7 +101,7 @@ void Tools::release(const MouseInput& mouse) {
   if (!isToolActive()) return;
   state_.current().modified = true;
   worker(selected_)->release(toolMouse(mouse));
-  editor_.UpdateCommands();
+  context_.editor.UpdateCommands();
 }
 
 void Tools::pickColor() {
@@ -144,19 +149,14 @@ void Tools::updateEditingPointer(float x, float y) {
   display_.changed(DisplayPart::Pointer);
 }
 
-void Tools::selectTool(int tool) {
-  if (!state_.current().present) {
-    clearAllTools();
-    tellNoIconYet(boxes_);
-    return;
-  }
-  if (!isAvailable(toolRow(tool).index)) return;
-  editor_.CommitPendingPaint();
-  editor_.deselectColorPicker();
-  if (state_.screen.mActivePanel != 0) editor_.showPanel(0);
+void Tools::selectTool(Tool tool) {
+  if (!isAvailable(tool)) return;
+  iconsPanel_.CommitPendingPaint();
+  colors_.deselectPicker();
+  if (state_.screen.mActivePanel != 0) context_.editor.showPanel(0);
   const bool wasSelected = selected_ == tool;
   clearAllTools();
-  editor_.clearRegion();
+  regions_.clearRegion();
   if (wasSelected) return;
   selected_ = tool;
   worker(tool)->selected();
@@ -175,30 +175,34 @@ void Tools::toolsChanged() {
   display_.changed(DisplayPart::Commands);
 }
 
-void Tools::mnuTools(int index) {
-  if (index == kMenuClearTools) imgClearAllTools();
-  if (!state_.current().present) {
-    if (index != kMenuClearTools) tellNoIconYet(boxes_);
-    return;
-  }
-  if (index == kMenuColorPicker) colors_.imgColorPicker();
-  if (index >= kFirstTool) selectTool(index);
+void Tools::selectFromMenu(int tool) {
+  selectTool(toolRow(tool).index);
+  display_.nudgeMousePointer();
+}
+
+void Tools::pickColorFromMenu() {
+  colors_.imgColorPicker();
+  display_.nudgeMousePointer();
+}
+
+void Tools::clearFromMenu() {
+  imgClearAllTools();
   display_.nudgeMousePointer();
 }
 
 void Tools::clearAllTools() {
   setReadout(Readout::Region, "");
   deselect();
-  editor_.deselectColorPicker();
+  colors_.deselectPicker();
   toolsChanged();
 }
 
 void Tools::imgClearAllTools() {
   // The key may come in the midst of a drag: the step is what that leaves.
   deselect();
-  if (state_.current().present && state_.mRegionExists) editor_.recordUndo();
+  if (state_.current().present && state_.mRegionExists) history_.recordUndo();
   clearAllTools();
-  editor_.clearRegion();
+  regions_.clearRegion();
 }
 
 void Tools::setBrush(int index) {

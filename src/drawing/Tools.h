@@ -3,15 +3,9 @@
 // pointer over the Editing Area; what the tools do is their own business.
 #pragma once
 
-#include "colour/ColorSelection.h"
-#include "document/Display.h"
-#include "document/EditState.h"
-#include "document/Editor.h"
-#include "drawing/DrawState.h"
+#include "document/Context.h"
+#include "document/Tool.h"
 #include "drawing/DrawingTool.h"
-#include "drawing/ToolTable.h"
-#include "platform/ports/MessageBoxes.h"
-#include "platform/ports/MessagePump.h"
 
 #include <array>
 #include <string>
@@ -33,14 +27,21 @@ struct MouseInput {
   float y = 0;
 };
 
+class ColorSelection;
+class IconsPanel;
+class Regions;
+class UndoHistory;
+enum class Readout;
+struct DrawState;
+
 class Tools {
  public:
-  Tools(EditState& state, Editor& editor, Display& display, ColorSelection& colors, MessageBoxes& boxes,
-        MessagePump& pump, DrawState& drawState);
+  Tools(const Context& context, IconsPanel& iconsPanel, ColorSelection& colors, UndoHistory& history, Regions& regions,
+        DrawState& drawState);
 
   // Says who does the work of a tool; it must outlive the tools. A tool without one cannot be selected.
-  void attach(int tool, DrawingTool& worker);
-  bool isAvailable(int tool) const { return worker(tool) != nullptr; }
+  void attach(Tool tool, DrawingTool& worker);
+  bool isAvailable(Tool tool) const { return worker(tool) != nullptr; }
 
   // MouseDown, MouseMove and MouseUp of picDisp.
   void press(const MouseInput& mouse);
@@ -51,21 +52,23 @@ class Tools {
 
   // True when the tools are shown and one is selected.
   bool isToolActive() const;
-  int selectedTool() const { return selected_; }
+  Tool selectedTool() const { return selected_; }
   // "RGB: 0, 128, 0" of a pixel of the Current Icon, "N/A" of a transparent one. It must lie inside.
   std::string pixelText(int x, int y) const;
   // imgTool Click: selects a tool; a second click turns it off.
-  void selectTool(int tool);
-  // mnuTools Click.
-  void mnuTools(int index);
+  void selectTool(Tool tool);
+  // mnuTools Click: a tool by its index, the colour picker, Clear Tools. The pointer takes its new shape at once.
+  void selectFromMenu(int tool);
+  void pickColorFromMenu();
+  void clearFromMenu();
   void clearAllTools();
-  // imgClearAllTools Click, and mnuTools(0): a region is merged as a step of its own.
+  // imgClearAllTools Click: a region is merged as a step of its own.
   void imgClearAllTools();
   // cboBrushSize or mnuBrushSize: list index 0 to 5.
   void setBrush(int index);
 
  private:
-  DrawingTool* worker(int tool) const;
+  DrawingTool* worker(Tool tool) const;
   void locate(const MouseInput& mouse);
   ToolMouse toolMouse(const MouseInput& mouse) const;
   void pickColor();
@@ -77,16 +80,17 @@ class Tools {
   void deselect();
   void toolsChanged();
 
+  Context context_;
   EditState& state_;
-  Editor& editor_;
   Display& display_;
+  IconsPanel& iconsPanel_;
   ColorSelection& colors_;
-  MessageBoxes& boxes_;
-  MessagePump& pump_;
+  UndoHistory& history_;
+  Regions& regions_;
   DrawState& drawState_;
 
-  std::array<DrawingTool*, kLastTool + 1> workers_{};
-  int selected_ = kNoTool;
+  std::array<DrawingTool*, kShift + 1> workers_{};
+  Tool selected_ = kNoTool;
   int mPixelX = 0;
   int mPixelY = 0;
   float lastX_ = 0;  // where the pointer was last, Editing Area pixels

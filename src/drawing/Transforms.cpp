@@ -1,13 +1,17 @@
 #include "drawing/Transforms.h"
 
+#include "document/EditState.h"
+#include "document/EditingArea.h"
+#include "document/Editor.h"
 #include "document/Hourglass.h"
-#include "document/Messages.h"
 #include "document/PanelNumbers.h"
-#include "drawing/ToolTable.h"
+#include "drawing/Regions.h"
+#include "drawing/RotatePanel.h"
+#include "drawing/Tools.h"
+#include "drawing/UndoHistory.h"
 #include "platform/gdi/Stretch.h"
 #include "platform/gdi/SurfaceOps.h"
-
-#include <array>
+#include "platform/ports/MessageBoxes.h"
 
 namespace gp {
 
@@ -15,13 +19,13 @@ namespace {
 
 constexpr const char* kEndShift = "Terminate Shift operation and accept the current image?\n";
 
-void mirrorHorizontally(Surface& target, const Surface& source) {
+void mirrorHorizontally(const Surface& source, Surface& target) {
   const int width = source.width();
   const int height = source.height();
   StretchBlt(target, width - 1, 0, -width, height, source, 0, 0, width, height, RasterOp::SRCCOPY);
 }
 
-void mirrorVertically(Surface& target, const Surface& source) {
+void mirrorVertically(const Surface& source, Surface& target) {
   const int width = source.width();
   const int height = source.height();
   StretchBlt(target, 0, height - 1, width, -height, source, 0, 0, width, height, RasterOp::SRCCOPY);
@@ -39,98 +43,63 @@ void turnRight(const Surface& source, Surface& target) {
 
 }  // namespace
 
-Transforms::Transforms(EditState& state, Editor& editor, Display& display, MessageBoxes& boxes, Regions& regions,
-                       RotatePanel& rotatePanel)
-    : state_(state), editor_(editor), display_(display), boxes_(boxes), regions_(regions), rotatePanel_(rotatePanel) {}
+Transforms::Transforms(const Context& context, EditingArea& editingArea, UndoHistory& history, Regions& regions,
+                       Tools& tools, RotatePanel& rotatePanel)
+    : context_(context),
+      state_(context.state),
+      editingArea_(editingArea),
+      history_(history),
+      regions_(regions),
+      tools_(tools),
+      rotatePanel_(rotatePanel) {}
 
-void Transforms::mnuRotateSubmenu(int index) {
-  if (!state_.current().present) {
-    tellNoIconYet(boxes_);
-    return;
-  }
-  if (editor_.selectedTool() == kShift) {
-    if (!boxes_.ask(kEndShift)) return;
-    editor_.clearAllTools();
-  }
-  static constexpr std::array<void (Transforms::*)(), 4> kRoutines = {
-      &Transforms::RotateFlipHoriz, &Transforms::RotateFlipVertical, &Transforms::RotateLeft, &Transforms::RotateRight};
-  constexpr int kAnyAngle = kRoutines.size();
-  if (index == kAnyAngle)
-    rotatePanel_.open();
-  else if (index >= 0 && index < kAnyAngle)
-    (this->*kRoutines[static_cast<std::size_t>(index)])();
+bool Transforms::endShift() {
+  if (tools_.selectedTool() != kShift) return true;
+  if (!context_.boxes.ask(kEndShift)) return false;
+  tools_.clearAllTools();
+  return true;
 }
 
-void Transforms::RotateFlipHoriz() { flip(mirrorHorizontally); }
-void Transforms::RotateFlipVertical() { flip(mirrorVertically); }
-void Transforms::RotateLeft() { turn(turnLeft); }
-void Transforms::RotateRight() { turn(turnRight); }
+void Transforms::RotateFlipHoriz() { transform(mirrorHorizontally, false); }
+void Transforms::RotateFlipVertical() { transform(mirrorVertically, false); }
+void Transforms::RotateLeft() { transform(turnLeft, true); }
+void Transforms::RotateRight() { transform(turnRight, true); }
+
+void Transforms::rotateAtAnyAngle() {
+  if (endShift()) rotatePanel_.open();
+}
 
 void Transforms::bringColorPanelForward() {
-  if (state_.screen.mActivePanel != kColorPanel) editor_.showPanel(kColorPanel);
+  if (state_.screen.mActivePanel != kColorPanel) context_.editor.showPanel(kColorPanel);
 }
 
-void Transforms::flip(Mirror mirror) {
-  if (!state_.current().present) return;
+// A turn exchanges width and height.
+void Transforms::transform(Transform transformPixels, bool turns) {
+  if (!endShift()) return;
   bringColorPanelForward();
-  if (regions_.exists()) {
-    const Hourglass hourglass(state_, display_);
-    regions_.finishDrag();
-    for (Surface* surface : {&state_.picImageRegion, &state_.picMaskRegion}) {
-      mirror(*surface, *surface);
-      surface->makePersistent();
-    }
-    regions_.contentChanged();
+  const auto transformed = [&](const Surface& image, const Surface& mask) {
+    const int width = turns ? image.height() : image.width();
+    const int height = turns ? image.width() : image.height();
+    IconImage icon{Surface(width, height), Surface(width, height), {}};
+    transformPixels(image, icon.image);
+    transformPixels(mask, icon.mask);
+    return icon;
+  };
+  if (!regions_.exists()) {
+    takeOver(transformed(state_.picImage, state_.picMask));
     return;
   }
-  MakeSameSize(state_.picImage, state_.picImageTemp);
-  MakeSameSize(state_.picMask, state_.picMaskTemp);
-  mirror(state_.picImageTemp, state_.picImage);
-  mirror(state_.picMaskTemp, state_.picMask);
-  takeOver();
+  const Hourglass hourglass(state_, context_.display);
+  regions_.finishDrag();
+  regions_.replaceContent(transformed(regions_.content().image, regions_.content().mask));
 }
 
-void Transforms::turn(Turn turnPixels) {
-  if (!state_.current().present) return;
-  bringColorPanelForward();
-  if (regions_.exists()) {
-    const Hourglass hourglass(state_, display_);
-    regions_.finishDrag();
-    turnIntoTemp(turnPixels, state_.picImageRegion, state_.picMaskRegion);
-    takeOverRegion();
-    return;
-  }
-  turnIntoTemp(turnPixels, state_.picImage, state_.picMask);
-  takeOver();
-}
-
-void Transforms::turnIntoTemp(Turn turnPixels, const Surface& image, const Surface& mask) {
-  MakePicSize(state_.picImageTemp, image.height(), image.width());
-  MakePicSize(state_.picMaskTemp, mask.height(), mask.width());
-  turnPixels(image, state_.picImageTemp);
-  turnPixels(mask, state_.picMaskTemp);
-}
-
-void Transforms::takeOverRegion() {
-  MakeSameSize(state_.picImageTemp, state_.picImageRegion);
-  BitbltPic(state_.picImageTemp, state_.picImageRegion);
-  MakeSameSize(state_.picMaskTemp, state_.picMaskRegion);
-  BitbltPic(state_.picMaskTemp, state_.picMaskRegion);
-  state_.picImageTemp.clearPicture();
-  state_.picMaskTemp.clearPicture();
-  regions_.contentTurned();
-}
-
-// The whole icon becomes what the temp Surfaces hold.
-void Transforms::takeOver() {
-  BitbltPic(state_.picImageTemp, state_.picImage);
-  BitbltPic(state_.picMaskTemp, state_.picMask);
-  state_.picImageTemp.clearPicture();
-  state_.picMaskTemp.clearPicture();
+void Transforms::takeOver(const IconImage& icon) {
+  BitbltPic(icon.image, state_.picImage);
+  BitbltPic(icon.mask, state_.picMask);
   state_.current().modified = true;
-  editor_.ComposeCurrentIcon();
-  editor_.MagnifyIcon();
-  editor_.recordUndo();
+  editingArea_.showChangedIcon();
+  history_.recordUndo();
 }
 
 }  // namespace gp

@@ -1,46 +1,45 @@
 // Flips and quarter turns of the Current Icon, or of the region where one stands, and the commands of the Rotate menu.
 #pragma once
 
-#include "document/Display.h"
-#include "document/EditState.h"
-#include "document/Editor.h"
-#include "drawing/Regions.h"
-#include "drawing/RotatePanel.h"
-#include "platform/ports/MessageBoxes.h"
+#include "document/Context.h"
+#include "document/IconImage.h"
 
 namespace gp {
 
+class EditingArea;
+class Regions;
+class RotatePanel;
+class Tools;
+class UndoHistory;
+
 class Transforms {
  public:
-  Transforms(EditState& state, Editor& editor, Display& display, MessageBoxes& boxes, Regions& regions,
+  Transforms(const Context& context, EditingArea& editingArea, UndoHistory& history, Regions& regions, Tools& tools,
              RotatePanel& rotatePanel);
 
-  // mnuRotateSubmenu Click, 0 to 4: asks to end a Shift first. An index outside does nothing.
-  void mnuRotateSubmenu(int index);
-
+  // The commands of the Rotate menu. Each asks to end a Shift first and does nothing when the user keeps it.
   // Left and right, or top and bottom, change places.
   void RotateFlipHoriz();
   void RotateFlipVertical();
   // Against the clock and with it. A region changes its shape and keeps its top left corner.
   void RotateLeft();
   void RotateRight();
+  // Opens the panel that rotates the icon by any angle.
+  void rotateAtAnyAngle();
 
  private:
-  using Mirror = void (*)(Surface& surface, const Surface& source);
-  using Turn = void (*)(const Surface& source, Surface& target);
-
-  void flip(Mirror mirror);
-  void turn(Turn turnPixels);
-  void turnIntoTemp(Turn turnPixels, const Surface& image, const Surface& mask);
-  void takeOver();
-  void takeOverRegion();
+  bool endShift();
+  using Transform = void (*)(const Surface& source, Surface& target);
+  void transform(Transform transformPixels, bool turns);
+  void takeOver(const IconImage& icon);
   void bringColorPanelForward();
 
+  Context context_;
   EditState& state_;
-  Editor& editor_;
-  Display& display_;
-  MessageBoxes& boxes_;
+  EditingArea& editingArea_;
+  UndoHistory& history_;
   Regions& regions_;
+  Tools& tools_;
   RotatePanel& rotatePanel_;
 };
 

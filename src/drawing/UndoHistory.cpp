@@ -1,9 +1,11 @@
 #include "drawing/UndoHistory.h"
 
-#include "document/PanelNumbers.h"
-#include "drawing/ToolTable.h"
+#include "document/EditState.h"
+#include "document/EditingArea.h"
+#include "document/Editor.h"
 #include "platform/gdi/RasterOps.h"
 #include "platform/gdi/SurfaceOps.h"
+#include "platform/ports/MessagePump.h"
 
 #include <limits>
 #include <utility>
@@ -21,25 +23,23 @@ void moveLast(std::vector<Surface>& from, std::vector<Surface>& to) {
 
 }  // namespace
 
-UndoHistory::UndoHistory(EditState& state, Editor& editor, MessagePump& pump)
-    : state_(state), editor_(editor), pump_(pump) {
+UndoHistory::UndoHistory(const Context& context, EditingArea& editingArea)
+    : context_(context), state_(context.state), editingArea_(editingArea) {
   mUndoStack.reserve(kMaxEntries);
 }
 
 void UndoHistory::recordUndo() {
   clearRedoStack();
   if (mUndoSeq < std::numeric_limits<std::int16_t>::max()) ++mUndoSeq;
-  take();
-  // The oldest entry makes room for the newest, whose pixels it has the memory for.
-  Surface entry;
+  // The oldest entry makes room for the newest, which reuses its memory.
+  Surface memory;
   if (mUndoStack.size() == kMaxEntries) {
-    entry = std::move(mUndoStack.front());
+    memory = std::move(mUndoStack.front());
     mUndoStack.erase(mUndoStack.begin());
   }
-  entry = state_.picUndo;
-  mUndoStack.push_back(std::move(entry));
-  editor_.UpdateCommands();
-  pump_.pump();
+  mUndoStack.push_back(snapshot(std::move(memory)));
+  context_.editor.UpdateCommands();
+  context_.pump.pump();
 }
 
 void UndoHistory::clearRedoStack() { mRedoStack.clear(); }
@@ -48,7 +48,6 @@ void UndoHistory::clearUndoHistory() {
   mUndoStack.clear();
   clearRedoStack();
   mUndoSeq = 0;
-  ++era_;
 }
 
 bool UndoHistory::restoreUndo(UndoMode mode) {
@@ -63,7 +62,7 @@ bool UndoHistory::restoreUndo(UndoMode mode) {
     clearRedoStack();
     mUndoSeq = 1;
   }
-  editor_.ComposeCurrentIcon();
+  editingArea_.ComposeCurrentIcon();
   return true;
 }
 
@@ -71,52 +70,24 @@ bool UndoHistory::restoreRedo() {
   if (!canRedo() || !fitsIcon(mRedoStack.back())) return false;
   apply(mRedoStack.back());
   moveLast(mRedoStack, mUndoStack);
-  editor_.ComposeCurrentIcon();
+  editingArea_.ComposeCurrentIcon();
   return true;
-}
-
-void UndoHistory::doUndo() {
-  if (!canUndo()) return;
-  bringColorPanelForward();
-  // A shift is taken back as a whole, not by one nudge: the history began anew when it was turned on.
-  const bool wholeShift = editor_.selectedTool() == kShift;
-  if (wholeShift)
-    editor_.clearAllTools();
-  else
-    editor_.clearRegion();
-  if (restoreUndo(wholeShift ? UndoMode::Baseline : UndoMode::OneStep)) editor_.MagnifyIcon();
-}
-
-void UndoHistory::doUndoAll() {
-  if (!canUndo()) return;
-  bringColorPanelForward();
-  editor_.clearRegion();
-  if (restoreUndo(UndoMode::Baseline)) editor_.MagnifyIcon();
-}
-
-void UndoHistory::doRedo() {
-  if (!canRedo()) return;
-  bringColorPanelForward();
-  editor_.clearRegion();
-  if (restoreRedo()) editor_.MagnifyIcon();
-}
-
-void UndoHistory::bringColorPanelForward() {
-  if (state_.screen.mActivePanel != kColorPanel) editor_.showPanel(kColorPanel);
 }
 
 bool UndoHistory::fitsIcon(const Surface& snapshot) const {
   return snapshot.width() == 2 * state_.picImage.width() && snapshot.height() == state_.picImage.height();
 }
 
-void UndoHistory::take() {
+// The icon now. `picUndo` is memory that is no longer needed.
+Surface UndoHistory::snapshot(Surface picUndo) const {
   const int width = state_.picImage.width();
   const int height = state_.picImage.height();
   // Every pixel is written below: at its size already, picUndo need not be emptied first.
-  if (!fitsIcon(state_.picUndo)) MakePicSize(state_.picUndo, 2 * width, height);
-  BitBlt(state_.picUndo, 0, 0, width, height, state_.picImage, 0, 0, RasterOp::SRCCOPY);
-  BitBlt(state_.picUndo, width, 0, width, height, state_.picMask, 0, 0, RasterOp::SRCCOPY);
-  state_.picUndo.makePersistent();
+  if (!fitsIcon(picUndo)) MakePicSize(picUndo, 2 * width, height);
+  BitBlt(picUndo, 0, 0, width, height, state_.picImage, 0, 0, RasterOp::SRCCOPY);
+  BitBlt(picUndo, width, 0, width, height, state_.picMask, 0, 0, RasterOp::SRCCOPY);
+  picUndo.makePersistent();
+  return picUndo;
 }
 
 void UndoHistory::apply(const Surface& snapshot) {

@@ -3,10 +3,8 @@
 // the icon's size is never applied.
 #pragma once
 
-#include "document/EditState.h"
-#include "document/Editor.h"
+#include "document/Context.h"
 #include "platform/gdi/Surface.h"
-#include "platform/ports/MessagePump.h"
 
 #include <cstdint>
 #include <vector>
@@ -17,9 +15,11 @@ inline constexpr int kMaxUndoSteps = 10;
 
 enum class UndoMode { OneStep = 1, Baseline = 2 };
 
+class EditingArea;
+
 class UndoHistory {
  public:
-  UndoHistory(EditState& state, Editor& editor, MessagePump& pump);
+  UndoHistory(const Context& context, EditingArea& editingArea);
 
   // Pushes the state now on picImage and picMask, which ends the redo chain. Pumps messages, last of all.
   void recordUndo();
@@ -30,11 +30,6 @@ class UndoHistory {
   bool restoreUndo(UndoMode mode);
   bool restoreRedo();
 
-  // mnuEditSub(1), (0) and (2) and the toolbar's buttons. Silently nothing when there is nothing to do.
-  void doUndo();
-  void doUndoAll();
-  void doRedo();
-
   // Entries of mUndoStack, the baseline included, and of mRedoStack.
   int undoCount() const { return static_cast<int>(mUndoStack.size()); }
   int redoCount() const { return static_cast<int>(mRedoStack.size()); }
@@ -42,26 +37,21 @@ class UndoHistory {
   bool canRedo() const { return redoCount() > 0; }
   // Counts the steps recorded since the baseline.
   int undoSeq() const { return mUndoSeq; }
-  // Changes whenever the history is cleared: what was begun before belongs to an icon, or to a state of it, that is no
-  // longer there.
-  unsigned era() const { return era_; }
 
  private:
-  void bringColorPanelForward();
   bool fitsIcon(const Surface& snapshot) const;
-  void take();
+  Surface snapshot(Surface memory) const;
   void apply(const Surface& snapshot);
 
+  Context context_;
   EditState& state_;
-  Editor& editor_;
-  MessagePump& pump_;
+  EditingArea& editingArea_;
 
   // Pictures of double width: picImage to the left, picMask to the right. The last one is the state now on the icon,
   // the first the baseline.
   std::vector<Surface> mUndoStack;
   std::vector<Surface> mRedoStack;  // the one undone last at the end
   std::int16_t mUndoSeq = 0;
-  unsigned era_ = 0;
 };
 
 }  // namespace gp

@@ -85,8 +85,8 @@ Surface copyOf(const Surface& picture) {
 
 }  // namespace
 
-IconPicture buttonize(const Surface& image, const Surface& mask, const ButtonizeSettings& settings) {
-  IconPicture icon{copyOf(image), copyOf(mask)};
+IconImage buttonize(const Surface& image, const Surface& mask, const ButtonizeSettings& settings) {
+  IconImage icon{copyOf(image), copyOf(mask), {}};
   for (const FramePart& part : partsOf(settings.pattern)) {
     draw(part, icon.image, part.color);
     draw(part, icon.mask, kBlack);

@@ -1,7 +1,7 @@
 // The icon framed as a button.
 #pragma once
 
-#include "effects/IconPicture.h"
+#include "document/IconImage.h"
 
 namespace gp {
 
@@ -12,6 +12,6 @@ struct ButtonizeSettings {
 };
 
 // The icon under its frame, whose pixels are painted and whose four corners are transparent.
-IconPicture buttonize(const Surface& image, const Surface& mask, const ButtonizeSettings& settings);
+IconImage buttonize(const Surface& image, const Surface& mask, const ButtonizeSettings& settings);
 
 }  // namespace gp

@@ -10,7 +10,7 @@ void ButtonizePanel::pickPattern(int index) {
   preview();
 }
 
-IconPicture ButtonizePanel::apply(const Surface& image, const Surface& mask) const {
+IconImage ButtonizePanel::apply(const Surface& image, const Surface& mask) const {
   return buttonize(image, mask, settings_);
 }
 

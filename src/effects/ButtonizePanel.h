@@ -21,7 +21,7 @@ class ButtonizePanel final : public EffectPanel {
   const Surface& picButtonize() const { return sample(); }
 
  protected:
-  IconPicture apply(const Surface& image, const Surface& mask) const override;
+  IconImage apply(const Surface& image, const Surface& mask) const override;
 
  private:
   ButtonizeSettings settings_;

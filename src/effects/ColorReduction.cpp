@@ -58,9 +58,9 @@ bool isBelow(Color color, int threshold) {
 }
 
 // It goes by the look of the icon on its ground, which is what pixels that invert are judged by.
-IconPicture cutOff(const Surface& image, const Surface& mask, int threshold) {
+IconImage cutOff(const Surface& image, const Surface& mask, int threshold) {
   const Surface look = composedIcon(image, mask);
-  IconPicture icon = emptyIcon(image.width(), image.height());
+  IconImage icon = emptyIcon(image.width(), image.height());
   for (int y = 0; y < look.height(); ++y) {
     for (int x = 0; x < look.width(); ++x) {
       const Color color = look.GetPixel(x, y);
@@ -73,12 +73,12 @@ IconPicture cutOff(const Surface& image, const Surface& mask, int threshold) {
 
 }  // namespace
 
-IconPicture reduceColors(const Surface& image, const Surface& mask, const ReductionSettings& settings) {
+IconImage reduceColors(const Surface& image, const Surface& mask, const ReductionSettings& settings) {
   const auto reduction = std::ranges::find(kReductions, settings.method, &Reduction::method);
   if (reduction == kReductions.end()) return cutOff(image, mask, settings.threshold);
   const Surface picture = reduced(image, *reduction);
-  if (reduction->keepsInverting) return {picture, mask};
-  IconPicture icon{Surface(image.width(), image.height(), kBlack), mask};
+  if (reduction->keepsInverting) return {picture, mask, {}};
+  IconImage icon{Surface(image.width(), image.height(), kBlack), mask, {}};
   copyPainted(picture, mask, icon.image);
   return icon;
 }

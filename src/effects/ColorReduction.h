@@ -1,7 +1,7 @@
 // An icon brought down to 256, 16 or 2 colours.
 #pragma once
 
-#include "effects/IconPicture.h"
+#include "document/IconImage.h"
 
 namespace gp {
 
@@ -16,6 +16,6 @@ struct ReductionSettings {
 // palette; Optimized, Nearest and StandardVga have the sixteen standard colours; the others are black and white. All
 // but SelectCutoff keep the Mask. All but Nearest leave the image black where the Mask is not, so that pixels which
 // invert become transparent. SelectCutoff paints black alone and makes the rest transparent.
-IconPicture reduceColors(const Surface& image, const Surface& mask, const ReductionSettings& settings);
+IconImage reduceColors(const Surface& image, const Surface& mask, const ReductionSettings& settings);
 
 }  // namespace gp

@@ -1,7 +1,13 @@
 #include "effects/ConfinePanel.h"
 
+#include "colour/ColorCount.h"
+#include "document/CurrentIconGuard.h"
+#include "document/Document.h"
+#include "document/EditState.h"
+#include "document/Editor.h"
 #include "effects/EffectTexts.h"
-#include "files/ColorCount.h"
+#include "platform/ports/MessageBoxes.h"
+#include "platform/ports/MessagePump.h"
 
 #include <span>
 #include <string>
@@ -32,44 +38,42 @@ ConfinePanel::ConfinePanel(EffectFrame& frame) : EffectPanel(frame, kNumber) {}
 void ConfinePanel::doConfineColors(int run) {
   if (!frame().mayApply() || hasFewColors(run)) return;
   const EditState& state = frame().state();
-  if (state.IsIconChanged() && state.current().fromMultiIconFile) {
-    bool proceed = true;
-    frame().editor().AskSaveCurrent("", proceed);
-    if (!proceed) return;
-  }
+  if (state.current().fromMultiIconFile && !mayCurrentIconGo(frame().context())) return;
   run_ = run;
   methods_.at(static_cast<std::size_t>(run)) = 0;
   show();
-  frame().pump().pump();
+  frame().context().pump.pump();
 }
 
 // Another icon may have come up under the Panel.
 bool ConfinePanel::mayProceed() { return EffectPanel::mayProceed() && !hasFewColors(run_); }
 
 bool ConfinePanel::hasFewColors(int run) {
-  const int colors = frame().editor().colorBitCountOfImage();
+  int colors = 0;
+  GetColorBitCount_Image(frame().state().picImage, colors);
   if (colors <= 0 || colors > rowOf(run).colors) return false;
   if (frame().state().current().isTrueColor())
     offerToCorrectRecord(colors);
   else
-    frame().boxes().tell(fewColorsText(colors));
+    frame().context().boxes.tell(fewColorsText(colors));
   return true;
 }
 
 void ConfinePanel::offerToCorrectRecord(int colors) {
   const std::string number = std::to_string(colors);
-  if (!frame().boxes().ask("The header entry of current icon is 24-BPP True Color,  but the actual  image is of " +
-                           number + "-color.    Proceed to change header entry?"))
+  if (!frame().context().boxes.ask(
+          "The header entry of current icon is 24-BPP True Color,  but the actual  image is of " + number +
+          "-color.    Proceed to change header entry?"))
     return;
   // Both depths, as a save would write them; and so that a save is not forgotten, the icon counts as changed.
   IconContainerRec& record = frame().state().current();
   record.dirColors = record.bihColors = colors;
   record.bitCount = record.bihBitCount = static_cast<std::int16_t>(convBPP_Upto24(colors));
   record.modified = true;
-  frame().editor().RefreshStatusBar();
-  frame().editor().UpdateCommands();
-  frame().boxes().tell("Header entry has been changed to " + std::to_string(record.bitCount) + "-BPP " + number +
-                       "-Color.\nYou may proceed to save it to file.");
+  frame().document().editingArea.RefreshStatusBar();
+  frame().context().editor.UpdateCommands();
+  frame().context().boxes.tell("Header entry has been changed to " + std::to_string(record.bitCount) + "-BPP " +
+                               number + "-Color.\nYou may proceed to save it to file.");
 }
 
 bool ConfinePanel::showsThreshold() const {
@@ -91,12 +95,12 @@ void ConfinePanel::pickThreshold(int index) {
 }
 
 void ConfinePanel::confinePreview() {
-  frame().pump().pump();
+  frame().context().pump.pump();
   preview();
-  frame().pump().pump();
+  frame().context().pump.pump();
 }
 
-IconPicture ConfinePanel::apply(const Surface& image, const Surface& mask) const {
+IconImage ConfinePanel::apply(const Surface& image, const Surface& mask) const {
   const ReductionMethod method = rowOf(run_).methods[static_cast<std::size_t>(cboConfineColors(run_))];
   return reduceColors(image, mask, {method, thresholdIndex_ + kFirstThreshold});
 }

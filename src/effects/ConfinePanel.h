@@ -39,7 +39,7 @@ class ConfinePanel final : public EffectPanel {
   void pickThreshold(int index);
 
  protected:
-  IconPicture apply(const Surface& image, const Surface& mask) const override;
+  IconImage apply(const Surface& image, const Surface& mask) const override;
   bool mayProceed() override;
   bool isStep() const override { return false; }
 

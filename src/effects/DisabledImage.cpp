@@ -27,9 +27,9 @@ Surface darkShape(const Surface& image, const Surface& mask) {
 
 }  // namespace
 
-IconPicture disabledImage(const Surface& image, const Surface& mask) {
+IconImage disabledImage(const Surface& image, const Surface& mask) {
   const Surface shape = darkShape(image, mask);
-  IconPicture icon = emptyIcon(image.width(), image.height());
+  IconImage icon = emptyIcon(image.width(), image.height());
   stamp(icon, shape, 1, kWhite);
   stamp(icon, shape, 0, kEdgeGrey);
   return icon;

@@ -6,7 +6,7 @@ namespace gp {
 
 DisabledImagePanel::DisabledImagePanel(EffectFrame& frame) : EffectPanel(frame, kNumber) {}
 
-IconPicture DisabledImagePanel::apply(const Surface& image, const Surface& mask) const {
+IconImage DisabledImagePanel::apply(const Surface& image, const Surface& mask) const {
   return disabledImage(image, mask);
 }
 

@@ -17,7 +17,7 @@ class DisabledImagePanel final : public EffectPanel {
   const Surface& picImageForDisabledBtn() const { return sample(); }
 
  protected:
-  IconPicture apply(const Surface& image, const Surface& mask) const override;
+  IconImage apply(const Surface& image, const Surface& mask) const override;
 };
 
 }  // namespace gp

@@ -1,30 +1,36 @@
 #include "effects/EffectFrame.h"
 
+#include "document/Document.h"
+#include "document/EditState.h"
+#include "document/Editor.h"
 #include "document/Hourglass.h"
 #include "document/Messages.h"
 #include "document/PanelNumbers.h"
 #include "effects/EffectTexts.h"
 #include "platform/gdi/SurfaceOps.h"
+#include "platform/ports/MessageBoxes.h"
 
 #include <cstdint>
 #include <set>
 
 namespace gp {
 
-EffectFrame::EffectFrame(EditState& state, Editor& editor, Display& display, MessageBoxes& boxes, MessagePump& pump)
-    : state_(state), editor_(editor), display_(display), boxes_(boxes), pump_(pump) {}
+EffectFrame::EffectFrame(const Context& context, Document& document, UndoHistory& history)
+    : context_(context), state_(context.state), document_(document), history_(history) {}
+
+bool EffectFrame::isUp(int panel) const { return state_.screen.mActivePanel == panel; }
 
 bool EffectFrame::mayApply() {
   const IconContainerRec& record = state_.current();
   if (!record.present) {
-    tellNoIconYet(boxes_);
+    context_.boxes.tell(kNoIconYet);
     return false;
   }
-  if (record.hasAlpha) boxes_.tell(kIconIsWithAlpha);
+  if (record.hasAlpha) context_.boxes.tell(kIconIsWithAlpha);
   return !record.hasAlpha;
 }
 
-void EffectFrame::applyTemps(const IconPicture& result) {
+void EffectFrame::applyTemps(const IconImage& result) {
   BitbltPic(result.image, state_.picImage);
   BitbltPic(result.mask, state_.picMask);
   copyPanelAfterApply();
@@ -32,16 +38,16 @@ void EffectFrame::applyTemps(const IconPicture& result) {
 
 void EffectFrame::copyPanelAfterApply() {
   // First of all: a Panel that is up follows the icon with its samples.
-  editor_.showPanel(kColorPanel);
+  context_.editor.showPanel(kColorPanel);
   state_.current().modified = true;
-  editor_.ComposeCurrentIcon();
-  editor_.UpdatePanelFromCurrent();
-  editor_.RefreshStatusBar();
-  editor_.MagnifyIcon();
+  document_.editingArea.ComposeCurrentIcon();
+  document_.editingArea.UpdatePanelFromCurrent();
+  document_.editingArea.RefreshStatusBar();
+  document_.editingArea.MagnifyIcon();
 }
 
 int EffectFrame::countMaskColors(const Surface& surface) {
-  const Hourglass hourglass(state_, display_);
+  const Hourglass hourglass(state_, context_.display);
   std::set<std::uint32_t> colors;
   for (const std::uint32_t pixel : surface.pixels()) colors.insert(pixel & kColorBits);
   return static_cast<int>(colors.size());

@@ -2,26 +2,25 @@
 // and putting a result in the icon's place. Nothing touches the icon before that.
 #pragma once
 
-#include "document/Display.h"
-#include "document/EditState.h"
-#include "document/Editor.h"
-#include "effects/IconPicture.h"
-#include "platform/ports/MessageBoxes.h"
-#include "platform/ports/MessagePump.h"
+#include "document/Context.h"
+#include "document/IconImage.h"
 
 namespace gp {
 
+class UndoHistory;
+struct Document;
+
 class EffectFrame {
  public:
-  EffectFrame(EditState& state, Editor& editor, Display& display, MessageBoxes& boxes, MessagePump& pump);
+  EffectFrame(const Context& context, Document& document, UndoHistory& history);
 
   // Whether an effect may change the Current Icon; if not, says why: there is none, or it has alpha values, which would
   // no longer fit its pixels.
   bool mayApply();
-  bool isUp(int panel) const { return state_.screen.mActivePanel == panel; }
+  bool isUp(int panel) const;
 
   // The result becomes the Current Icon, and the Panel closes. Records no step of Undo.
-  void applyTemps(const IconPicture& result);
+  void applyTemps(const IconImage& result);
   // The same where picImage alone has been given its new pixels.
   void copyPanelAfterApply();
 
@@ -29,18 +28,16 @@ class EffectFrame {
   // painted or all transparent when it has one.
   int countMaskColors(const Surface& surface);
 
+  const Context& context() const { return context_; }
   EditState& state() const { return state_; }
-  Editor& editor() const { return editor_; }
-  Display& display() const { return display_; }
-  MessageBoxes& boxes() const { return boxes_; }
-  MessagePump& pump() const { return pump_; }
+  Document& document() const { return document_; }
+  UndoHistory& history() const { return history_; }
 
  private:
+  Context context_;
   EditState& state_;
-  Editor& editor_;
-  Display& display_;
-  MessageBoxes& boxes_;
-  MessagePump& pump_;
+  Document& document_;
+  UndoHistory& history_;
 };
 
 }  // namespace gp

@@ -1,7 +1,11 @@
 #include "effects/EffectPanel.h"
 
 #include "document/Compositing.h"
+#include "document/Document.h"
+#include "document/EditState.h"
+#include "document/Editor.h"
 #include "document/Hourglass.h"
+#include "drawing/UndoHistory.h"
 
 namespace gp {
 
@@ -12,7 +16,7 @@ void EffectPanel::open(int) {
 void EffectPanel::show() {
   // Which control takes the focus depends on the settings.
   if (onChange) onChange();
-  frame_.editor().showPanel(number_);
+  frame_.context().editor.showPanel(number_);
   preview();
 }
 
@@ -20,8 +24,8 @@ void EffectPanel::preview() {
   const EditState& state = frame_.state();
   if (!frame_.isUp(number_)) return;
   {
-    const Hourglass hourglass(frame_.state(), frame_.display());
-    picture_ = state.current().present ? apply(state.picImage, state.picMask) : IconPicture{};
+    const Hourglass hourglass(frame_.state(), frame_.context().display);
+    picture_ = state.current().present ? apply(state.picImage, state.picMask) : IconImage{};
     sample_ = composedIcon(picture_.image, picture_.mask);
   }
   if (onChange) onChange();
@@ -30,15 +34,14 @@ void EffectPanel::preview() {
 void EffectPanel::proceed() {
   if (!mayProceed()) return;
   EditState& state = frame_.state();
-  Editor& editor = frame_.editor();
   {
-    const Hourglass hourglass(state, frame_.display());
-    editor.EndToolAction();
+    const Hourglass hourglass(state, frame_.context().display);
+    frame_.document().iconsPanel.EndToolAction();
     frame_.applyTemps(apply(state.picImage, state.picMask));
   }
   // It pumps messages, and so comes when the Panel can no longer be used.
-  if (!isStep()) editor.clearUndoHistory();
-  editor.recordUndo();
+  if (!isStep()) frame_.history().clearUndoHistory();
+  frame_.history().recordUndo();
 }
 
 }  // namespace gp

@@ -2,8 +2,8 @@
 // function that a Panel of its own gives here; so the samples are what the icon becomes.
 #pragma once
 
+#include "document/IconImage.h"
 #include "effects/EffectFrame.h"
-#include "effects/IconPicture.h"
 
 #include <functional>
 
@@ -28,14 +28,14 @@ class EffectPanel {
   void proceed();
 
   // The icon as last previewed, and its look.
-  const IconPicture& picture() const { return picture_; }
+  const IconImage& picture() const { return picture_; }
   const Surface& sample() const { return sample_; }
   int number() const { return number_; }
   // What the view redraws when settings or samples changed.
   std::function<void()> onChange;
 
  protected:
-  virtual IconPicture apply(const Surface& image, const Surface& mask) const = 0;
+  virtual IconImage apply(const Surface& image, const Surface& mask) const = 0;
   // Whether the icon that is there now takes the effect; if not, says why.
   virtual bool mayProceed() { return frame_.mayApply(); }
   // Whether it is a step of Undo; if not, nothing before it can be undone either.
@@ -48,7 +48,7 @@ class EffectPanel {
  private:
   EffectFrame& frame_;
   const int number_;
-  IconPicture picture_;
+  IconImage picture_;
   Surface sample_;
 };
 

@@ -36,15 +36,15 @@ const EffectRow* findCommand(int command) {
 
 }  // namespace
 
-Effects::Effects(EditState& state, Editor& editor, Display& display, MessageBoxes& boxes, MessagePump& pump)
-    : frame_(state, editor, display, boxes, pump) {
+Effects::Effects(const Context& context, Document& document, UndoHistory& history)
+    : frame_(context, document, history) {
   for (const EffectRow& row : kEffects) panels_.push_back(row.make(frame_));
 }
 
 bool Effects::has(int command) const { return findCommand(command) != nullptr; }
 
-void Effects::mnuEffectsSub(int index) {
-  if (const EffectRow* row = findCommand(index)) find(row->number)->open(index);
+void Effects::open(int command) {
+  if (const EffectRow* row = findCommand(command)) find(row->number)->open(command);
 }
 
 void Effects::proceed(int number) {

@@ -1,5 +1,5 @@
-// The whole room at work: makes the Panels of the effects, opens each by its command, and holds them for the shell. It
-// decides nothing.
+// The face of the room: makes the panels of the effects, opens each by its command, and hands them to the rooms to the
+// right. It decides nothing.
 #pragma once
 
 #include "effects/EffectFrame.h"
@@ -12,12 +12,12 @@ namespace gp {
 
 class Effects {
  public:
-  Effects(EditState& state, Editor& editor, Display& display, MessageBoxes& boxes, MessagePump& pump);
+  Effects(const Context& context, Document& document, UndoHistory& history);
 
   // Whether an index of the Effects menu stands for an effect.
   bool has(int command) const;
-  // The Effects menu by its index; nothing for an index without an effect.
-  void mnuEffectsSub(int index);
+  // Opens the panel of the effect that an index of the Effects menu stands for; nothing for another index.
+  void open(int command);
   // Proceed of the Panel of that number; nothing if it is not one of an effect.
   void proceed(int number);
 

@@ -4,11 +4,11 @@
 
 namespace gp {
 
-IconPicture emptyIcon(int width, int height) {
-  return {Surface(width, height, kBlack), Surface(width, height, kWhite)};
+IconImage emptyIcon(int width, int height) {
+  return {Surface(width, height, kBlack), Surface(width, height, kWhite), {}};
 }
 
-void stamp(IconPicture& icon, const Surface& mask, int step, Color color) {
+void stamp(IconImage& icon, const Surface& mask, int step, Color color) {
   const int first = std::max(0, -step);
   const int right = mask.width() - std::max(0, step);
   const int bottom = mask.height() - std::max(0, step);

@@ -22,9 +22,9 @@ EdgeColors edgeColors(const ReliefSettings& settings) {
 }  // namespace
 
 // The order matters where they meet: light lies over dark, and the picture over both.
-IconPicture relief(const Surface& image, const Surface& mask, const ReliefSettings& settings) {
+IconImage relief(const Surface& image, const Surface& mask, const ReliefSettings& settings) {
   const EdgeColors colors = edgeColors(settings);
-  IconPicture icon = emptyIcon(image.width(), image.height());
+  IconImage icon = emptyIcon(image.width(), image.height());
   stamp(icon, mask, 1, colors.dark);
   if (colors.light != kNoColor) stamp(icon, mask, -1, colors.light);
   stamp(icon, mask, 0, kBlack);

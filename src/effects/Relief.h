@@ -2,7 +2,7 @@
 // area grows by up to one pixel on the sides that get an edge; what would leave the icon is lost.
 #pragma once
 
-#include "effects/IconPicture.h"
+#include "document/IconImage.h"
 
 namespace gp {
 
@@ -14,6 +14,6 @@ struct ReliefSettings {
 };
 
 // The icon with its edge. A Mask without a black pixel gives an empty icon.
-IconPicture relief(const Surface& image, const Surface& mask, const ReliefSettings& settings);
+IconImage relief(const Surface& image, const Surface& mask, const ReliefSettings& settings);
 
 }  // namespace gp

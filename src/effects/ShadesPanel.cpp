@@ -1,5 +1,7 @@
 #include "effects/ShadesPanel.h"
 
+#include "document/EditState.h"
+
 namespace gp {
 namespace {
 
@@ -23,7 +25,7 @@ void ShadesPanel::setUseSelectedColor(bool use) {
   preview();
 }
 
-IconPicture ShadesPanel::apply(const Surface& image, const Surface& mask) const {
+IconImage ShadesPanel::apply(const Surface& image, const Surface& mask) const {
   return relief(image, mask, {mEffectKind_, useSelectedColor_ ? frame().state().mCurrentColor : kBlack});
 }
 

@@ -27,7 +27,7 @@ class ShadesPanel final : public EffectPanel {
   void setUseSelectedColor(bool use);
 
  protected:
-  IconPicture apply(const Surface& image, const Surface& mask) const override;
+  IconImage apply(const Surface& image, const Surface& mask) const override;
 
  private:
   ReliefKind mEffectKind_ = ReliefKind::Embossed;

@@ -1,5 +1,8 @@
 #include "files/FileQuestions.h"
 
+#include "document/CurrentIconGuard.h"
+#include "document/EditState.h"
+#include "platform/dialogs/clsGPDialog.h"
 #include "platform/text/Paths.h"
 
 namespace gp {
@@ -31,17 +34,12 @@ std::string askToSave(FilesContext& context, const std::string& proposedName, co
 }
 
 void openChosenFile(FilesContext& context, const char* filter, const OpenFile& open) {
-  context.editor.CommitPendingPaint();
-  bool proceed = true;
-  if (context.state.IsIconChanged()) context.editor.AskSaveCurrent("", proceed);
-  if (!proceed) return;
+  if (!mayCurrentIconGo(context)) return;
   const std::string path = askToOpen(context, filter);
   if (path.empty()) return;
   bool ok = false;
   open(path, ok);
-  if (!ok) return;
-  context.state.process.mCommandFile = path;
-  context.editor.chooseColorChart();
+  if (ok) context.state.process.mCommandFile = path;
 }
 
 }  // namespace gp

@@ -1,22 +1,22 @@
-// What the commands on icon files work with: the shared state and the ports, which outlive them all.
+// What the commands on icon files work with.
 #pragma once
 
-#include "document/Display.h"
-#include "document/EditState.h"
-#include "document/Editor.h"
-#include "platform/dialogs/clsGPDialog.h"
-#include "platform/ports/MessageBoxes.h"
-#include "platform/ports/MessagePump.h"
+#include "document/Context.h"
 
 namespace gp {
 
-struct FilesContext {
-  EditState& state;
-  Editor& editor;
-  Display& display;
-  MessageBoxes& boxes;
-  MessagePump& pump;
+class Drawing;
+class FileForms;
+class clsGPDialog;
+struct Document;
+struct MultiIconExchange;
+
+struct FilesContext : Context {
+  Document& document;
+  Drawing& drawing;
   clsGPDialog& dialog;
+  MultiIconExchange& multiIcon;  // between the commands and the browser of multi-icon files
+  FileForms*& forms;             // null until there is a main form to show forms over
 };
 
 }  // namespace gp

@@ -1,39 +1,31 @@
-// The Inquiry menu: what the program tells of the Current Icon. It changes nothing of the icon itself.
+// The Inquiry menu: what the program states about the Current Icon. It changes nothing of the icon itself.
 #pragma once
 
-#include "document/EditState.h"
-#include "document/Editor.h"
-#include "files/CursorFiles.h"
-#include "files/IconForms.h"
-#include "platform/ports/MessageBoxes.h"
-#include "platform/ports/MessagePump.h"
+#include "document/Context.h"
 
 #include <string>
 
 namespace gp {
 
+class Files;
+
 class Enquiry {
  public:
-  Enquiry(EditState& state, Editor& editor, MessageBoxes& boxes, MessagePump& pump, IconForms& forms,
-          CursorFiles& cursors);
+  Enquiry(const Context& context, Files& files);
 
-  // A click on mnuEnquiryCurrent: 5 the headers of the original file, 9 the icons in it, 11 the hot spot of the
-  // original cursor. Says so when there is no icon. Nothing for other indices, and where the record has nothing of the
-  // kind.
-  void mnuEnquiryCurrent(int index);
+  // The headers of the file that the icon came from, beside its pixels.
+  void showOriginalHeaders();
+  // The icons in the multi-icon file that the icon came from.
+  void showIconsInFile();
+  // The hot spot of the cursor that the icon came from.
+  void revealHotspot();
 
  private:
-  void showOriginalHeaders();
-  void showIconsInFile();
-  void revealHotspot();
   bool originalIsThere(const std::string& path);
 
+  Context context_;
   EditState& state_;
-  Editor& editor_;
-  MessageBoxes& boxes_;
-  MessagePump& pump_;
-  IconForms& forms_;
-  CursorFiles& cursors_;
+  Files& files_;
 };
 
 }  // namespace gp

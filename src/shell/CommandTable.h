@@ -1,5 +1,5 @@
 // Every command of the program: one row per menu entry, from which menus, keys, toolbar, enabling and tests come.
-// Adding a command is one row here and one handler in CommandHandlers.cpp.
+// Adding a command is one row in CommandRows.cpp.
 #pragma once
 
 #include <span>
@@ -10,6 +10,9 @@ namespace gp {
 
 class Shell;
 
+// Whether what is open on the Editing Area is committed before the command runs.
+enum class Commits : bool { No, Yes };
+
 struct Command {
   const char* control;  // "mnuFileSub"
   int index;            // its index, kNoIndex for a control that is no array
@@ -17,7 +20,9 @@ struct Command {
   const char* caption;  // with "&"; empty for history entries, whose captions come at run time
   const char* key;      // "Ctrl+N", empty for none
   const char* picture;  // name of its picture, empty for none
-  bool (*enabled)(const Shell& shell, int index);
+  // Why the command cannot run: null when it can, a text for a box, or an empty text where nothing is said.
+  const char* (*unmet)(const Shell& shell, int index);
+  Commits commits;
   bool (*checked)(const Shell& shell, int index);  // null for an entry that bears no tick
   void (*run)(Shell& shell, int index);            // null for a sub-menu, and for what the program cannot do yet
 };

@@ -1,8 +1,8 @@
 // Where the main form comes up and how large it may be: pure rules over twips. The form itself is moved by the caller.
 #pragma once
 
-#include "shell/MainForm.h"
 #include "shell/Settings.h"
+#include "shell/ShellForms.h"
 
 namespace gp {
 

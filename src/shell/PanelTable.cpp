@@ -9,14 +9,14 @@ namespace gp {
 
 namespace {
 
-void saveCursor(Shell& shell) { shell.iconSaver().doSaveAs(SaveMode::Cursor); }
+void saveCursor(Shell& shell) { shell.files().iconSaver.doSaveAs(SaveMode::Cursor); }
 void rotate(Shell& shell) { shell.drawing().rotatePanel.doRotateProceed(); }
 void applyEffect(Shell& shell) { shell.effects().proceed(shell.state().screen.mActivePanel); }
 
 constexpr PanelRow kPanels[] = {
     {kColorPanel, "Color", nullptr},
     {kIconsListPanel, "Icons List", nullptr},
-    {kCursorPanel, "Save as cursor", saveCursor},
+    {kCursorPanel, "Save as cursor", saveCursor, "mnuFileSub", 18},
     {3, "Print", nullptr},
     {kRotatePanel, "Rotate image (-359 to +359)", rotate},
     {5, "Text", applyEffect},

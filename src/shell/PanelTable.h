@@ -13,6 +13,9 @@ struct PanelRow {
   int number;
   const char* caption;            // written like a menu's, with && for &
   void (*proceed)(Shell& shell);  // what Proceed does; null for nothing
+  // The command whose needs must be met again at Proceed; null where Proceed asks itself.
+  const char* command = nullptr;
+  int commandIndex = 0;
 };
 
 std::span<const PanelRow> panelTable();

@@ -2,34 +2,32 @@
 // and runs commands and the life-cycle of the main form. The forms forward their events here.
 #pragma once
 
-#include "colour/ColorMixer.h"
-#include "colour/ColorSelection.h"
-#include "colour/PaletteFile.h"
+#include "colour/Colour.h"
+#include "document/Document.h"
 #include "document/EditState.h"
-#include "document/EditingArea.h"
 #include "document/Editor.h"
-#include "document/IconsPanel.h"
 #include "drawing/Drawing.h"
 #include "effects/Effects.h"
-#include "files/CursorFiles.h"
-#include "files/IconFiles.h"
-#include "files/IconSaver.h"
-#include "files/MultiIconCommands.h"
-#include "output/Enquiry.h"
+#include "files/Files.h"
+#include "output/Output.h"
 #include "platform/dialogs/clsGPDialog.h"
 #include "platform/ports/SystemInfo.h"
 #include "shell/CommandTable.h"
 #include "shell/FormPlacement.h"
 #include "shell/History.h"
-#include "shell/MainForm.h"
 #include "shell/Settings.h"
+#include "shell/ShellForms.h"
 
 #include <exception>
 #include <string>
 
 namespace gp {
 
-// The ports the program stands on; app/ and the tests make them.
+class Clipboard;
+class FileDialogs;
+class PictureLoader;
+
+// The ports that the program uses; app/ and the tests make them.
 struct Ports {
   MessageBoxes& boxes;
   FileDialogs& dialogs;
@@ -46,37 +44,32 @@ class Shell final : public Editor {
   Shell(EditState& state, const Ports& ports, Display& display, std::string folder);
   ~Shell() override;
 
-  // The main form tells that it is there; before that, commands that need a window do nothing.
-  void attach(MainForm* form) { form_ = form; }
+  // The main form, or null when it goes. Without it, commands that need a window do nothing.
+  void attach(ShellForms* form, FileForms* fileForms);
 
   EditState& state() { return state_; }
   const EditState& state() const { return state_; }
-  EditingArea& editingArea() { return editingArea_; }
-  IconsPanel& iconsPanel() { return iconsPanel_; }
-  ColorSelection& colors() { return colors_; }
-  const ColorSelection& colors() const { return colors_; }
-  ColorMixer& mixer() { return mixer_; }
-  PaletteFile& paletteFile() { return paletteFile_; }
+  Document& document() { return document_; }
+  const Document& document() const { return document_; }
+  Colour& colour() { return colour_; }
+  const Colour& colour() const { return colour_; }
   Drawing& drawing() { return drawing_; }
   const Drawing& drawing() const { return drawing_; }
-  Tools& tools() { return drawing_.tools; }
-  const Tools& tools() const { return drawing_.tools; }
+  Files& files() { return files_; }
   Effects& effects() { return effects_; }
   const Effects& effects() const { return effects_; }
-  MultiIconCommands& multiIcon() { return multiIcon_; }
-  IconFiles& iconFiles() { return iconFiles_; }
-  CursorFiles& cursorFiles() { return cursorFiles_; }
-  IconSaver& iconSaver() { return iconSaver_; }
-  Enquiry& enquiry() { return enquiry_; }
-  // What the forms on icon files work with.
-  const FilesContext& filesContext() const { return filesContext_; }
+  Output& output() { return output_; }
   const History& fileHistory() const { return fileHistory_; }
   const History& aniHistory() const { return aniHistory_; }
   const Ports& ports() const { return ports_; }
   const std::string& folder() const { return folder_; }
 
-  // Runs a command as a click on its menu entry does; errors in it end in a box. Nothing for a row without a handler.
+  // Runs a command, whether it comes from a menu, a key, the toolbar or the pop-up menu: commits what is open where the
+  // command says so, asks what it needs and tells the user why not, then calls its body. Errors end in a box. Nothing
+  // for a row without a body.
   void run(const Command& command);
+  // True when what a command needs is there; otherwise the user is told why not.
+  bool mayRun(const Command& command);
   // A toolbar button: the overlay of the Editing Area goes first.
   void runToolbar(const ToolbarButton& button);
   // Runs any handler under the guard that reports run-time errors under the given name.
@@ -93,9 +86,11 @@ class Shell final : public Editor {
   bool queryUnload();
 
   // Command bodies of the shell itself.
-  void openIconFile();
   void openFromHistory(int index);
-  void mnuEditSub(int index);
+  // Clicks on imgTool, imgColorPicker and the directions of imgShiftDirBase.
+  void chooseTool(Tool tool);
+  void chooseColorPicker();
+  void shiftTowards(ShiftCell cell);
   // Proceed of the side panel that is up; nothing where it has none.
   void cmdProceed();
   // Its Close: nothing of it is kept.
@@ -112,34 +107,17 @@ class Shell final : public Editor {
   void showAbout();
 
   // Editor.
-  void ClearContainer() override;
-  void CommitPendingPaint() override;
-  void EndToolAction() override;
-  void SwitchContainer(int container) override;
-  void SizeEditSurfaces(int size) override;
-  void SizePanelSurfaces(int size) override;
-  void ComposeCurrentIcon() override;
-  void UpdatePanelFromCurrent() override;
-  void MagnifyIcon() override;
-  void ShowCurrentIcon() override;
-  void RefreshStatusBar() override;
-  void ClearStatusBar() override;
   void chooseColorChart() override;
   void showChart16() override;
-  void deselectColorPicker() override;
-  bool isColorPickerSelected() const override;
   void clearAllTools() override;
-  void selectTool(int tool) override;
-  int selectedTool() const override;
+  Tool selectedTool() const override;
   void clearRegion() override;
   void redrawRegion() override;
   void recordUndo() override;
   void clearUndoHistory() override;
-  void doOpenIconFile(const std::string& path, bool useBrowser, bool& ok) override;
   void doOpenIconFileQuietly(const std::string& path, bool& ok) override;
   void AskSaveCurrent(const std::string& message, bool& proceed) override;
   void setHotspotByClick(int x, int y) override;
-  int colorBitCountOfImage() const override;
   void UpdateCommands() override;
   void showPanel(int panel) override;
   void closePanels() override;
@@ -147,17 +125,7 @@ class Shell final : public Editor {
   void ShowRunTimeError(const std::string& name, const std::string& description) override;
 
  private:
-  // Shows forms over the main form, once that is there.
-  class ShownForms final : public IconForms {
-   public:
-    explicit ShownForms(const Shell& shell) : shell_(shell) {}
-    void showMultiIcon() override;
-    void showHeaderDiff() override;
-
-   private:
-    const Shell& shell_;
-  };
-
+  bool isMet(const char* refusal);
   std::string settingsPath() const;
   void placeForm();
   void showEmptyStart();
@@ -169,22 +137,15 @@ class Shell final : public Editor {
   Ports ports_;
   Display& display_;
   std::string folder_;
-  MainForm* form_ = nullptr;
+  ShellForms* form_ = nullptr;
   clsGPDialog mDialog;
-  EditingArea editingArea_;
-  IconsPanel iconsPanel_;
-  ColorSelection colors_;
-  ColorMixer mixer_;
-  PaletteFile paletteFile_;
+  const Context context_;
+  Document document_;
+  Colour colour_;
   Drawing drawing_;
+  Files files_;
   Effects effects_;
-  ShownForms iconForms_{*this};
-  const FilesContext filesContext_;
-  MultiIconCommands multiIcon_;
-  IconFiles iconFiles_;
-  CursorFiles cursorFiles_;
-  IconSaver iconSaver_;
-  Enquiry enquiry_;
+  Output output_;
   Settings settings_;
   History fileHistory_;
   History aniHistory_;

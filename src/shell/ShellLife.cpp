@@ -1,5 +1,8 @@
 // The life of the main form: Load, the first Activate, Resize and QueryUnload.
 #include "document/Containers.h"
+#include "document/Display.h"
+#include "platform/ports/MessageBoxes.h"
+#include "platform/ports/MessagePump.h"
 #include "shell/CommandLine.h"
 #include "shell/FormPlacement.h"
 #include "shell/Shell.h"
@@ -42,7 +45,7 @@ void Shell::formActivate(const std::string& commandLine) {
     fileHistory_.load();
     aniHistory_.load();
   }
-  editingArea_.SetGrid(state_.options.grid);
+  document_.areaOptions.SetGrid(state_.options.grid);
   state_.screen.pixelRgbVisible = state_.options.displayPixelRgb;
   showEmptyStart();
   guarded("Form_Activate", [&] { openCommandLineFile(commandLine); });
@@ -51,7 +54,7 @@ void Shell::formActivate(const std::string& commandLine) {
 
 void Shell::showEmptyStart() {
   state_.screen.fraTools = {true, false};
-  iconsPanel_.showEmptyContainer();
+  document_.iconsPanel.showEmptyContainer();
   for (DisplayPart part : {DisplayPart::History, DisplayPart::Readouts, DisplayPart::ColorPanel, DisplayPart::Panel})
     display_.changed(part);
   UpdateCommands();
@@ -63,12 +66,9 @@ void Shell::openCommandLineFile(const std::string& commandLine) {
   state_.process.mCommandFile = file.path;
   if (file.kind == CommandLineKind::Missing) ports_.boxes.tell(fileNotFoundText(file.path), BoxIcon::Exclamation);
   bool ok = false;
-  if (file.kind == CommandLineKind::Ico) doOpenIconFile(file.path, false, ok);
-  if (file.kind == CommandLineKind::Cur) cursorFiles_.doOpenCursorFile(file.path, ok);
-  if (ok) {
-    colors_.chooseColorChart();
-    return;
-  }
+  if (file.kind == CommandLineKind::Ico) files_.iconFiles.doOpenIconFile(file.path, false, ok);
+  if (file.kind == CommandLineKind::Cur) files_.cursorFiles.doOpenCursorFile(file.path, ok);
+  if (ok) return;
   std::error_code ignored;
   std::filesystem::current_path(folder_, ignored);
 }
@@ -84,7 +84,7 @@ void Shell::applyStartScreen() {
 }
 
 void Shell::formResize(int dispContainerWidth, int dispContainerHeight) {
-  if (!state_.mInLoad) editingArea_.setRoom(dispContainerWidth, dispContainerHeight);
+  if (!state_.mInLoad) document_.areaOptions.setRoom(dispContainerWidth, dispContainerHeight);
 }
 
 void Shell::saveScreenPos(const FormPlace& place) {
@@ -94,7 +94,7 @@ void Shell::saveScreenPos(const FormPlace& place) {
 bool Shell::queryUnload() {
   const std::string question = unsavedQuestion(state_);
   if (!question.empty() && !ports_.boxes.ask(question)) return false;
-  cursorFiles_.mark().cancel();
+  files_.cursorFiles.mark().cancel();
   if (form_) saveScreenPos(form_->place());
   // Before the first Activate nothing but defaults is known of the options.
   if (!mFirstActivate) settings_.SaveOptions();

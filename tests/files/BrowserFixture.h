@@ -3,7 +3,7 @@
 
 #include "files/Decoding.h"
 #include "files/IcoBuilder.h"
-#include "files/MultiIconBrowser.h"
+#include "files/browser/MultiIconBrowser.h"
 #include "support/FakeEditor.h"
 #include "support/ScriptedPorts.h"
 

@@ -2,7 +2,7 @@
 // repository, and compares it with what others measured.
 #include "document/IconContainerRec.h"
 #include "files/Decoding.h"
-#include "files/IconProbe.h"
+#include "files/format/IconProbe.h"
 #include "support/Sha256.h"
 
 #include <filesystem>

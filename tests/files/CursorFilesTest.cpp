@@ -1,5 +1,5 @@
 #include "files/CursorBuilder.h"
-#include "files/CursorFiles.h"
+#include "files/cursor/CursorFiles.h"
 #include "files/Decoding.h"
 #include "files/FilesFixture.h"
 

@@ -1,5 +1,5 @@
 #include "files/CursorBuilder.h"
-#include "files/CursorProbe.h"
+#include "files/cursor/CursorProbe.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "document/IconContainerRec.h"
 #include "files/CursorBuilder.h"
-#include "files/CursorLoading.h"
+#include "files/cursor/CursorLoading.h"
 #include "files/Decoding.h"
 #include "support/Sha256.h"
 

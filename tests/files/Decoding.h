@@ -2,8 +2,8 @@
 #pragma once
 
 #include "files/IcoBuilder.h"
-#include "files/IcoDirectory.h"
-#include "files/IconDecoder.h"
+#include "files/format/IcoDirectory.h"
+#include "files/format/IconDecoder.h"
 
 #include <algorithm>
 #include <string>

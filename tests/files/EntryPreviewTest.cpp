@@ -1,5 +1,5 @@
 #include "files/Decoding.h"
-#include "files/EntryPreview.h"
+#include "files/browser/EntryPreview.h"
 
 #include <gtest/gtest.h>
 

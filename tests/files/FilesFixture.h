@@ -5,10 +5,10 @@
 #include "document/EditingArea.h"
 #include "document/IconsPanel.h"
 #include "files/IcoBuilder.h"
-#include "files/IconFiles.h"
-#include "files/IconForms.h"
-#include "files/IconSaver.h"
-#include "files/MultiIconCommands.h"
+#include "files/opening/IconFiles.h"
+#include "files/FileForms.h"
+#include "files/saving/IconSaver.h"
+#include "files/browser/MultiIconCommands.h"
 #include "support/FakeEditor.h"
 #include "support/ScriptedPorts.h"
 
@@ -42,12 +42,12 @@ class FilesEditor : public FakeEditor {
 };
 
 // Forms in which the user does what a test says. Without a word he closes the browser at once.
-class FakeIconForms : public IconForms {
+class FakeFileForms : public FileForms {
  public:
   std::function<void()> onMultiIcon, onHeaderDiff;
   int multiIcons = 0, headerDiffs = 0;
 
-  explicit FakeIconForms(EditState& state) : state_(state) {}
+  explicit FakeFileForms(EditState& state) : state_(state) {}
   void showMultiIcon() override {
     ++multiIcons;
     if (onMultiIcon) return onMultiIcon();
@@ -73,7 +73,7 @@ class FilesTest : public testing::Test {
   ScriptedDialogs dialogs;
   clsGPDialog dialog{dialogs};
   FilesEditor editor{state, display, pump};
-  FakeIconForms forms{state};
+  FakeFileForms forms{state};
   FilesContext context{state, editor, display, boxes, pump, dialog};
   MultiIconCommands multiIcon{context, forms, folder.path("gptmp.ico")};
   IconFiles files{context, multiIcon};

@@ -1,6 +1,6 @@
 #include "files/Decoding.h"
 #include "files/FilesFixture.h"
-#include "files/HeaderDiff.h"
+#include "files/browser/HeaderDiff.h"
 #include "support/FullDisk.h"
 
 #include <filesystem>

@@ -1,7 +1,7 @@
 // One test for each way in which icon files are known to lie. The builders say in words what is wrong. What must hold
 // everywhere: an answer without a crash, no memory for what is not there, and no harm to other images.
 #include "files/Decoding.h"
-#include "files/IconProbe.h"
+#include "files/format/IconProbe.h"
 
 #include <gtest/gtest.h>
 #include <random>

@@ -1,4 +1,4 @@
-#include "files/HotspotMark.h"
+#include "files/cursor/HotspotMark.h"
 #include "files/Watching.h"
 
 namespace gp::test {

@@ -1,5 +1,5 @@
 #include "files/IcoBuilder.h"
-#include "files/IcoDirectory.h"
+#include "files/format/IcoDirectory.h"
 
 #include <gtest/gtest.h>
 

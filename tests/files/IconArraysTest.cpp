@@ -1,5 +1,5 @@
 #include "files/IcoBuilder.h"
-#include "files/IconArrays.h"
+#include "files/format/IconArrays.h"
 #include "support/FullDisk.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #include "files/IcoBuilder.h"
-#include "files/IconFileBytes.h"
+#include "files/format/IconFileBytes.h"
 #include "support/ProcessUse.h"
 #include "support/TempFolder.h"
 

@@ -1,5 +1,5 @@
 #include "files/IcoBuilder.h"
-#include "files/IconProbe.h"
+#include "files/format/IconProbe.h"
 
 #include <gtest/gtest.h>
 

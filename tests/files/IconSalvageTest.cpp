@@ -1,5 +1,5 @@
 #include "files/IcoBuilder.h"
-#include "files/IconSalvage.h"
+#include "files/format/IconSalvage.h"
 
 #include <gtest/gtest.h>
 #include <limits>

@@ -1,5 +1,5 @@
 #include "files/IcoBuilder.h"
-#include "files/IconUpdates.h"
+#include "files/format/IconUpdates.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "files/Decoding.h"
 #include "files/IcoBuilder.h"
-#include "files/IconRows.h"
-#include "files/IconWriter.h"
+#include "files/format/IconRows.h"
+#include "files/format/IconWriter.h"
 #include "platform/files/ByteWriter.h"
 
 #include <gtest/gtest.h>

@@ -2,10 +2,10 @@
 // unchanged, split, shortened, put into another order and repaired. Decodes nothing but what is split out.
 #include "document/IconContainerRec.h"
 #include "files/Decoding.h"
-#include "files/IconArrays.h"
-#include "files/IconSalvage.h"
-#include "files/IconUpdates.h"
-#include "files/SingleEntryFile.h"
+#include "files/format/IconArrays.h"
+#include "files/format/IconSalvage.h"
+#include "files/format/IconUpdates.h"
+#include "files/format/SingleEntryFile.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #include "files/IcoBuilder.h"
-#include "files/MultiIconListing.h"
+#include "files/browser/MultiIconListing.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "files/MultiIconListing.h"
-#include "files/RepositionPane.h"
+#include "files/browser/MultiIconListing.h"
+#include "files/browser/RepositionPane.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 // Surfaces. The program's row readers must equal it.
 #pragma once
 
-#include "files/IcoDirectory.h"
-#include "files/IconDecoder.h"
+#include "files/format/IcoDirectory.h"
+#include "files/format/IconDecoder.h"
 
 #include <span>
 

@@ -1,7 +1,7 @@
 // Cursor files: the probe's answer, and the picture loaded from what it takes for a cursor and from what it does not.
 #include "FuzzInput.h"
-#include "files/CursorLoading.h"
-#include "files/CursorProbe.h"
+#include "files/cursor/CursorLoading.h"
+#include "files/cursor/CursorProbe.h"
 
 namespace {
 

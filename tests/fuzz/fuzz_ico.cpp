@@ -1,6 +1,6 @@
 // Icon files: directory, probe, and every entry decoded by its own size and as 32x32.
-#include "files/IconDecoder.h"
-#include "files/IconProbe.h"
+#include "files/format/IconDecoder.h"
+#include "files/format/IconProbe.h"
 
 #include <cstdint>
 

@@ -1,8 +1,8 @@
 // frmGPMultiIcon's rules over a file on disk: every entry clicked, then buttons pressed as the input says. The file
 // changes only after a Yes, and it stays one that can be read.
 #include "FuzzUser.h"
-#include "files/IconArrays.h"
-#include "files/MultiIconBrowser.h"
+#include "files/format/IconArrays.h"
+#include "files/browser/MultiIconBrowser.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // frmGPHeaderDiff's rules over a file on disk: every entry clicked by either kind of header, then salvaged to another
 // file. The file itself never changes, and what was salvaged holds the same images.
 #include "FuzzUser.h"
-#include "files/HeaderDiff.h"
-#include "files/IconArrays.h"
+#include "files/browser/HeaderDiff.h"
+#include "files/format/IconArrays.h"
 
 #include <algorithm>
 

@@ -9,7 +9,7 @@ namespace gp::test {
 namespace {
 
 // Writes down what is shown, with the file that it is shown for.
-class RecordingForms : public IconForms {
+class RecordingForms : public FileForms {
  public:
   explicit RecordingForms(EditState& state) : state_(state) {}
   std::vector<std::string> shown;

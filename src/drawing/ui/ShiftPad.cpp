@@ -1,6 +1,7 @@
 #include "drawing/ui/ShiftPad.h"
 
 #include "document/EditState.h"
+#include "drawing/ToolTable.h"
 #include "drawing/Tools.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/PictureButton.h"
@@ -90,8 +91,7 @@ void ShiftPad::press(ShiftCell cell) {
 // The look comes first: what follows may show a message, and ends only when that is closed.
 void ShiftPad::release(ShiftCell cell) {
   press(ShiftCell::Rest);
-  shift_.padRelease(cell);
-  refresh();
+  emit directionReleased(cell);
 }
 
 void ShiftPad::letGo() {

@@ -28,6 +28,7 @@ class ShiftPad : public QWidget {
 
  signals:
   void toolChosen(int tool);
+  void directionReleased(ShiftCell cell);
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;

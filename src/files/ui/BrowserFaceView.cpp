@@ -1,5 +1,7 @@
 #include "files/ui/BrowserFaceView.h"
 
+#include "document/IconContainerRec.h"
+#include "files/browser/MultiIconExchange.h"
 #include "files/ui/BrowserLists.h"
 #include "files/ui/EntryView.h"
 #include "platform/qt/PathText.h"

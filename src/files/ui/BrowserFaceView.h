@@ -2,7 +2,7 @@
 // own selector, and its buttons from a table. It shows a MultiIconBrowser and forwards what is pressed.
 #pragma once
 
-#include "files/MultiIconBrowser.h"
+#include "files/browser/MultiIconBrowser.h"
 
 #include <QWidget>
 

@@ -2,7 +2,7 @@
 
 #include "document/PanelNumbers.h"
 #include "document/ui/Lists.h"
-#include "files/CursorFiles.h"
+#include "files/cursor/CursorFiles.h"
 
 #include <QComboBox>
 #include <QGridLayout>

@@ -1,7 +1,7 @@
 // The pane of frmGPMultiIcon that puts a file's icons into another sequence.
 #pragma once
 
-#include "files/MultiIconBrowser.h"
+#include "files/browser/MultiIconBrowser.h"
 
 #include <QWidget>
 

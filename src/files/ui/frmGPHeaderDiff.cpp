@@ -1,6 +1,6 @@
 #include "files/ui/frmGPHeaderDiff.h"
 
-#include "files/IcoLayout.h"
+#include "files/format/IcoLayout.h"
 #include "files/ui/EntryView.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/CaptionFrame.h"

@@ -2,7 +2,7 @@
 // Its rules are those of a HeaderDiff; the form shows them and forwards what is pressed.
 #pragma once
 
-#include "files/HeaderDiff.h"
+#include "files/browser/HeaderDiff.h"
 
 #include <QDialog>
 
@@ -22,7 +22,7 @@ class frmGPHeaderDiff final : public QDialog {
   Q_OBJECT
 
  public:
-  // The file is EditState::multiIcon's. What the context refers to must outlive the form.
+  // The file is MultiIconExchange's. What the context refers to must outlive the form.
   frmGPHeaderDiff(const FilesContext& context, QWidget* parent);
 
  protected:

@@ -1,5 +1,6 @@
 #include "files/ui/frmGPMultiIcon.h"
 
+#include "document/EditState.h"
 #include "files/ui/BrowserFaceView.h"
 #include "files/ui/BrowserLists.h"
 #include "files/ui/RepositionView.h"
@@ -17,7 +18,7 @@
 namespace gp {
 
 frmGPMultiIcon::frmGPMultiIcon(const FilesContext& context, QWidget* parent)
-    : QDialog(parent), browser_(context), exchange_(context.state.multiIcon) {
+    : QDialog(parent), browser_(context), exchange_(context.multiIcon) {
   setObjectName(QStringLiteral("frmGPMultiIcon"));
   setModal(true);
   browser_.onChange = [this] { browserChanged(); };

@@ -2,7 +2,7 @@
 // MultiIconBrowser; the form shows them and forwards what is pressed.
 #pragma once
 
-#include "files/MultiIconBrowser.h"
+#include "files/browser/MultiIconBrowser.h"
 
 #include <QDialog>
 

@@ -20,8 +20,10 @@ namespace {
 constexpr int kPanelWidth = 264;
 
 QWidget* makeColorPanel(QWidget* parent, Shell& shell, QtDisplay& display) {
-  auto* panel = new ColorPanel(parent, shell.state(), shell.colors(), shell.mixer(), shell.paletteFile());
-  QObject::connect(panel, &ColorPanel::brushChosen, panel, [&shell](int index) { shell.tools().setBrush(index); });
+  auto* panel =
+      new ColorPanel(parent, shell.state(), shell.colour().selection, shell.colour().mixer, shell.colour().paletteFile);
+  QObject::connect(panel, &ColorPanel::brushChosen, panel,
+                   [&shell](int index) { shell.drawing().tools.setBrush(index); });
   for (const DisplayPart part : {DisplayPart::ColorPanel, DisplayPart::Tools})
     display.listen(part, [panel] { panel->refresh(); });
   display.requests().focusColorValue = [panel] { panel->focusColorValue(); };
@@ -33,9 +35,9 @@ QWidget* makeRotatePanel(QWidget* parent, Shell& shell, QtDisplay&) {
 }
 
 QWidget* makeCursorPanel(QWidget* parent, Shell& shell, QtDisplay& display) {
-  auto* panel = new CursorPanelView(parent, shell.cursorFiles());
+  auto* panel = new CursorPanelView(parent, shell.files().cursorFiles);
   QObject::connect(panel, &CursorPanelView::showHotspotRequested, panel, [&shell] {
-    shell.guarded("cmdShowHotspot_Click", [&shell] { shell.cursorFiles().showHotspot(); });
+    shell.guarded("cmdShowHotspot_Click", [&shell] { shell.files().cursorFiles.showHotspot(); });
   });
   display.listen(DisplayPart::IconsPanel, [panel] { panel->refresh(); });
   return panel;

@@ -108,11 +108,11 @@ frmGPEdit::frmGPEdit(Shell& shell, QtDisplay& display, std::string commandLine)
   setRequests();
   refreshCommands();
   room_->view().setFocus(Qt::OtherFocusReason);
-  shell_.attach(this);
+  shell_.attach(this, this);
 }
 
 frmGPEdit::~frmGPEdit() {
-  shell_.attach(nullptr);
+  shell_.attach(nullptr, nullptr);
   display_.forgetAll();
   if (hourglassShown_) QGuiApplication::restoreOverrideCursor();
 }
@@ -122,7 +122,7 @@ QWidget* frmGPEdit::makeMiddle(QWidget* parent) {
   auto* columns = new QHBoxLayout(middle);
   columns->setContentsMargins(kEdge, kEdge, kEdge, kEdge);
   columns->setSpacing(kEdge);
-  columns->addWidget(iconsPanel_ = new IconsPanelView(middle, shell_.state(), shell_.iconsPanel()));
+  columns->addWidget(iconsPanel_ = new IconsPanelView(middle, shell_.state(), shell_.document().iconsPanel));
   columns->addWidget(makeToolColumn(middle));
   columns->addWidget(makeEditingColumn(middle), 1);
   columns->addWidget(panels_ = new PanelStack(middle, shell_, display_));
@@ -136,8 +136,8 @@ QWidget* frmGPEdit::makeToolColumn(QWidget* parent) {
   auto* rows = new QVBoxLayout(column);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(kEdge);
-  rows->addWidget(toolBox_ = new ToolBox(column, shell_.state(), shell_.tools(), shell_.colors()));
-  rows->addWidget(shiftPad_ = new ShiftPad(column, shell_.state(), shell_.tools(), shell_.drawing().shift), 0,
+  rows->addWidget(toolBox_ = new ToolBox(column, shell_.state(), shell_.drawing().tools, shell_.colour().selection));
+  rows->addWidget(shiftPad_ = new ShiftPad(column, shell_.state(), shell_.drawing().tools, shell_.drawing().shift), 0,
                   Qt::AlignHCenter);
   auto* label = new QLabel("1:1", column);
   label->setObjectName("lblIcon");
@@ -162,55 +162,60 @@ void frmGPEdit::connectEditingArea() {
   EditingAreaView& view = room_->view();
   view.setPixelDescription([this](QPoint pixel) {
     return QString("X=%1  Y=%2  ").arg(pixel.x() + 1).arg(pixel.y() + 1) +
-           toText(shell_.tools().pixelText(pixel.x(), pixel.y()));
+           toText(shell_.drawing().tools.pixelText(pixel.x(), pixel.y()));
   });
   connect(&view, &EditingAreaView::pressed, this, [this](QPointF at, Qt::MouseButton button, auto modifiers) {
-    shell_.guarded("picDisp_MouseDown", [&] { shell_.tools().press(mouseInput(at, modifiers, button)); });
+    shell_.guarded("picDisp_MouseDown", [&] { shell_.drawing().tools.press(mouseInput(at, modifiers, button)); });
   });
   connect(&view, &EditingAreaView::moved, this, [this](QPointF at, auto modifiers) {
-    shell_.guarded("picDisp_MouseMove", [&] { shell_.tools().move(mouseInput(at, modifiers)); });
+    shell_.guarded("picDisp_MouseMove", [&] { shell_.drawing().tools.move(mouseInput(at, modifiers)); });
   });
   connect(&view, &EditingAreaView::released, this, [this](QPointF at, Qt::MouseButton button, auto modifiers) {
-    shell_.guarded("picDisp_MouseUp", [&] { shell_.tools().release(mouseInput(at, modifiers, button)); });
+    shell_.guarded("picDisp_MouseUp", [&] { shell_.drawing().tools.release(mouseInput(at, modifiers, button)); });
   });
-  connect(&view, &EditingAreaView::left, this, [this] { shell_.tools().leave(); });
+  connect(&view, &EditingAreaView::left, this, [this] { shell_.drawing().tools.leave(); });
   connect(&view, &EditingAreaView::popUpRequested, this, &frmGPEdit::popUp);
   connect(room_, &EditingAreaRoom::resized, this, &frmGPEdit::resizeRoom);
 }
 
 void frmGPEdit::connectIconsPanel() {
   connect(iconsPanel_, &IconsPanelView::containerChosen, this, [this](int container) {
-    shell_.guarded("picPanelIcon_Click", [&] { shell_.iconsPanel().SwitchContainer(container); });
+    shell_.guarded("picPanelIcon_Click", [&] { shell_.document().iconsPanel.SwitchContainer(container); });
   });
   connect(iconsPanel_, &IconsPanelView::containerRightClicked, this, [this](int container) {
-    shell_.guarded("picPanelIcon_MouseUp", [&] { shell_.iconsPanel().PanelRightClick(container); });
+    shell_.guarded("picPanelIcon_MouseUp", [&] { shell_.document().iconsPanel.PanelRightClick(container); });
   });
-  connect(iconsPanel_, &IconsPanelView::updateRequested, this,
-          [this] { shell_.guarded("imgUpdIconsPanel_Click", [&] { shell_.iconsPanel().updateFromCurrent(); }); });
+  connect(iconsPanel_, &IconsPanelView::updateRequested, this, [this] {
+    shell_.guarded("imgUpdIconsPanel_Click", [&] { shell_.document().iconsPanel.updateFromCurrent(); });
+  });
   // Queued: the file manager must not wait for what is asked about the file.
   connect(
       iconsPanel_, &IconsPanelView::filesDropped, this,
       [this](int container, const std::vector<std::string>& files) {
-        shell_.guarded("picPanelIcon_OLEDragDrop", [&] { shell_.iconsPanel().PanelDrop(container, files); });
+        shell_.guarded("picPanelIcon_OLEDragDrop", [&] { shell_.document().iconsPanel.PanelDrop(container, files); });
       },
       Qt::QueuedConnection);
 }
 
 void frmGPEdit::connectToolBox() {
-  connect(shiftPad_, &ShiftPad::toolChosen, this, [this](int tool) {
-    shell_.guarded("imgTool_Click", [&] { shell_.tools().selectTool(tool); });
-    shiftPad_->refresh();
-  });
-  connect(toolBox_, &ToolBox::toolChosen, this, [this](int tool) {
-    shell_.guarded("imgTool_Click", [&] { shell_.tools().selectTool(tool); });
-    toolBox_->refresh();
-  });
+  connect(shiftPad_, &ShiftPad::toolChosen, this, &frmGPEdit::chooseTool);
+  connect(toolBox_, &ToolBox::toolChosen, this, &frmGPEdit::chooseTool);
   connect(toolBox_, &ToolBox::colorPickerChosen, this, [this] {
-    shell_.guarded("imgColorPicker_Click", [&] { shell_.colors().imgColorPicker(); });
+    shell_.guarded("imgColorPicker_Click", [&] { shell_.chooseColorPicker(); });
     toolBox_->refresh();
   });
   connect(toolBox_, &ToolBox::clearAllChosen, this,
-          [this] { shell_.guarded("imgClearAllTools_Click", [&] { shell_.tools().imgClearAllTools(); }); });
+          [this] { shell_.guarded("imgClearAllTools_Click", [&] { shell_.drawing().tools.imgClearAllTools(); }); });
+  connect(shiftPad_, &ShiftPad::directionReleased, this, [this](ShiftCell cell) {
+    shell_.guarded("imgShiftDir_MouseUp", [&] { shell_.shiftTowards(cell); });
+    shiftPad_->refresh();
+  });
+}
+
+void frmGPEdit::chooseTool(int tool) {
+  shell_.guarded("imgTool_Click", [&] { shell_.chooseTool(toolRow(tool).index); });
+  toolBox_->refresh();
+  shiftPad_->refresh();
 }
 
 void frmGPEdit::listen() {
@@ -248,7 +253,7 @@ void frmGPEdit::refreshCommands() {
 }
 
 void frmGPEdit::refreshCurrentIcon() {
-  const QString tooltip = toText(shell_.colors().picIconTooltip());
+  const QString tooltip = toText(shell_.colour().selection.picIconTooltip());
   for (QWidget* shown : {static_cast<QWidget*>(picIcon_), lblIcon_})
     if (shown->toolTip() != tooltip) shown->setToolTip(tooltip);
   picIcon_->update();
@@ -297,13 +302,13 @@ void frmGPEdit::showAbout() {
 
 void frmGPEdit::showMultiIcon() {
   const DialogOwner owner;
-  frmGPMultiIcon form(shell_.filesContext(), this);
+  frmGPMultiIcon form(shell_.files().context(), this);
   form.run();
 }
 
 void frmGPEdit::showHeaderDiff() {
   const DialogOwner owner;
-  frmGPHeaderDiff form(shell_.filesContext(), this);
+  frmGPHeaderDiff form(shell_.files().context(), this);
   form.exec();
 }
 

@@ -2,7 +2,8 @@
 // decides nothing and holds no state of the document.
 #pragma once
 
-#include "shell/MainForm.h"
+#include "files/FileForms.h"
+#include "shell/ShellForms.h"
 
 #include <QMainWindow>
 
@@ -25,7 +26,7 @@ class StatusBarView;
 class ToolBox;
 class ToolbarView;
 
-class frmGPEdit final : public QMainWindow, public MainForm {
+class frmGPEdit final : public QMainWindow, public ShellForms, public FileForms {
   Q_OBJECT
 
  public:
@@ -33,14 +34,15 @@ class frmGPEdit final : public QMainWindow, public MainForm {
   frmGPEdit(Shell& shell, QtDisplay& display, std::string commandLine);
   ~frmGPEdit() override;
 
-  // MainForm.
+  // ShellForms.
   FormPlace place() const override;
   void setPlace(const FormPlace& place) override;
   void maximize() override;
   void showAbout() override;
+  void unload() override;
+  // FileForms.
   void showMultiIcon() override;
   void showHeaderDiff() override;
-  void unload() override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -58,6 +60,7 @@ class frmGPEdit final : public QMainWindow, public MainForm {
   void setRequests();
 
   void activate();
+  void chooseTool(int tool);
   void refreshCommands();
   void refreshCommandsSoon();
   void refreshCurrentIcon();

@@ -1,0 +1,25 @@
+// The face of the room: makes what shows and holds the Current Icon and the six containers, and hands it to the rooms
+// to the right. It decides nothing.
+#pragma once
+
+#include "document/EditingArea.h"
+#include "document/EditingAreaOptions.h"
+#include "document/IconArrival.h"
+#include "document/IconsPanel.h"
+
+namespace gp {
+
+struct Document {
+  explicit Document(const Context& context)
+      : editingArea(context),
+        arrival(context, editingArea),
+        iconsPanel(context, editingArea, arrival),
+        areaOptions(context, editingArea, iconsPanel) {}
+
+  EditingArea editingArea;
+  IconArrival arrival;
+  IconsPanel iconsPanel;
+  EditingAreaOptions areaOptions;
+};
+
+}  // namespace gp

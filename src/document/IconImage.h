@@ -1,0 +1,28 @@
+// The pixels of one icon by value: what decoders, previews and the browser return and what arrives on the Editing Area.
+// Where the Mask is black the icon is painted with the image's pixel; where it is white it is transparent and the image
+// black. An icon without an alpha channel has an alpha matrix of 1 x 1.
+#pragma once
+
+#include "document/AlphaMatrix.h"
+#include "platform/gdi/Surface.h"
+
+namespace gp {
+
+struct IconImage {
+  Surface image = Surface();
+  Surface mask = Surface();
+  AlphaMatrix alpha;
+
+  int width() const { return image.width(); }
+  int height() const { return image.height(); }
+  bool isEmpty() const { return width() == 0 || height() == 0; }
+  // True when there is one alpha value for each pixel.
+  bool hasAlphaValues() const { return alpha.width() == width() && alpha.height() == height(); }
+};
+
+// An icon without a painted pixel, of size x size.
+inline IconImage transparentIcon(int size) {
+  return {Surface(size, size, kBlack), Surface(size, size, kWhite), AlphaMatrix()};
+}
+
+}  // namespace gp

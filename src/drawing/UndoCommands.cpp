@@ -1,0 +1,47 @@
+#include "drawing/UndoCommands.h"
+
+#include "document/EditState.h"
+#include "document/EditingArea.h"
+#include "document/Editor.h"
+#include "document/PanelNumbers.h"
+#include "drawing/Regions.h"
+#include "drawing/Tools.h"
+#include "drawing/UndoHistory.h"
+
+namespace gp {
+
+UndoCommands::UndoCommands(const Context& context, EditingArea& editingArea, UndoHistory& history, Regions& regions,
+                           Tools& tools)
+    : context_(context), editingArea_(editingArea), history_(history), regions_(regions), tools_(tools) {}
+
+void UndoCommands::doUndo() {
+  if (!history_.canUndo()) return;
+  bringColorPanelForward();
+  // A shift is taken back as a whole, not by one nudge: the history began anew when it was turned on.
+  const bool wholeShift = tools_.selectedTool() == kShift;
+  if (wholeShift)
+    tools_.clearAllTools();
+  else
+    regions_.clearRegion();
+  if (history_.restoreUndo(wholeShift ? UndoMode::Baseline : UndoMode::OneStep)) editingArea_.MagnifyIcon();
+}
+
+void UndoCommands::doUndoAll() {
+  if (!history_.canUndo()) return;
+  bringColorPanelForward();
+  regions_.clearRegion();
+  if (history_.restoreUndo(UndoMode::Baseline)) editingArea_.MagnifyIcon();
+}
+
+void UndoCommands::doRedo() {
+  if (!history_.canRedo()) return;
+  bringColorPanelForward();
+  regions_.clearRegion();
+  if (history_.restoreRedo()) editingArea_.MagnifyIcon();
+}
+
+void UndoCommands::bringColorPanelForward() {
+  if (context_.state.screen.mActivePanel != kColorPanel) context_.editor.showPanel(kColorPanel);
+}
+
+}  // namespace gp

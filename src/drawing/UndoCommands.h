@@ -1,0 +1,32 @@
+// The Undo, Redo and Undo All commands: what ends before a step is taken back, and what is shown after it.
+#pragma once
+
+#include "document/Context.h"
+
+namespace gp {
+
+class EditingArea;
+class Regions;
+class Tools;
+class UndoHistory;
+
+class UndoCommands {
+ public:
+  UndoCommands(const Context& context, EditingArea& editingArea, UndoHistory& history, Regions& regions, Tools& tools);
+
+  // mnuEditSub(1), (0) and (2). Nothing happens when there is no step.
+  void doUndo();
+  void doUndoAll();
+  void doRedo();
+
+ private:
+  void bringColorPanelForward();
+
+  Context context_;
+  EditingArea& editingArea_;
+  UndoHistory& history_;
+  Regions& regions_;
+  Tools& tools_;
+};
+
+}  // namespace gp

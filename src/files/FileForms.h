@@ -1,0 +1,16 @@
+// The modal forms that commands on icon files show. The main form implements it; each call returns when
+// the form is closed.
+#pragma once
+
+namespace gp {
+
+class FileForms {
+ public:
+  virtual ~FileForms() = default;
+  // frmGPMultiIcon, on the face that gAddToFile tells.
+  virtual void showMultiIcon() = 0;
+  // frmGPHeaderDiff.
+  virtual void showHeaderDiff() = 0;
+};
+
+}  // namespace gp

@@ -1,0 +1,226 @@
+#include "files/browser/HeaderDiff.h"
+
+#include "colour/ColorCount.h"
+#include "document/EditState.h"
+#include "document/Hourglass.h"
+#include "document/IconContainerRec.h"
+#include "files/FileQuestions.h"
+#include "files/browser/MultiIconExchange.h"
+#include "files/format/IcoLayout.h"
+#include "platform/ports/MessageBoxes.h"
+#include "platform/text/Numbers.h"
+#include "platform/text/Paths.h"
+
+#include <algorithm>
+#include <array>
+
+namespace gp {
+namespace {
+
+constexpr const char* kNoIcon = "No icon retrieved.";
+constexpr const char* kNotShown = "\nUnable to get this one";
+constexpr const char* kNotWritten = "Error occurred in writing overall header";
+constexpr const char* kSalvaged = "\n\n(per bitmap header entry, irrespective of actual color depth)\n\n";
+constexpr const char* kNameEnding = "_X.ico";
+
+constexpr const char* kTrue = "True";
+constexpr const char* kDoubtful = "   (?)";
+constexpr int kPreferredSize = 32;
+constexpr int kAlphaBits = 32;
+constexpr std::size_t kPixelBytes = 4;
+constexpr std::size_t kAlphaByte = 3;
+constexpr int kLargestSide = 256;
+
+std::string itemText(std::size_t index, int bits, int colors, int width, int height) {
+  const std::string color = colors > 0 ? std::to_string(colors) : kTrue;
+  return std::to_string(index + 1) + "\t" + std::to_string(bits) + "-BPP\t" + color + "-Color\t" +
+         std::to_string(width) + " x " + std::to_string(height);
+}
+
+// The entry that an item text tells of.
+std::size_t indexIn(const std::string& item) {
+  return static_cast<std::size_t>(Int(Val(item.substr(0, item.find('\t'))))) - 1;
+}
+
+std::string colorLabel(int colors) { return colors > 0 ? std::to_string(colors) : kTrue; }
+
+std::string bitsLabel(int bits, int colors) {
+  const int fitting = convBPP_Upto24(colors);
+  const bool isDoubtful = colors > 0 && ColorsForBitCount(fitting) == colors && bits != fitting;
+  return std::to_string(bits) + (isDoubtful ? kDoubtful : "");
+}
+
+int sideOf(int byte) { return byte == 0 ? kLargestSide : byte; }
+
+// Whether any pixel of a 32-bit image has an alpha byte. The decoder's alpha values do not tell: there an image without
+// alpha is as opaque as one whose alpha is full.
+bool hasAlphaBytes(ImageBytes image, const HeaderFacts& facts) {
+  if (facts.bits != kAlphaBits || image.size() <= ico::kBitmapHeaderSize) return false;
+  const ImageBytes rows = image.subspan(ico::kBitmapHeaderSize);
+  const std::size_t told = static_cast<std::size_t>(sideOf(facts.width)) * sideOf(facts.height);
+  const std::size_t pixels = std::min(told, rows.size() / kPixelBytes);
+  for (std::size_t i = 0; i < pixels; ++i)
+    if (rows[i * kPixelBytes + kAlphaByte] != 0) return true;
+  return false;
+}
+
+}  // namespace
+
+HeaderDiff::HeaderDiff(const FilesContext& context) : context_(context), file_(context.multiIcon.gMultiIconFile) {}
+
+void HeaderDiff::changed() const {
+  if (onChange) onChange();
+}
+
+void HeaderDiff::activate() {
+  loadAndList();
+  changed();
+}
+
+void HeaderDiff::setBase(HeaderBase base) {
+  if (base == base_) return;
+  base_ = base;
+  loadAndList();
+  changed();
+}
+
+void HeaderDiff::loadAndList() {
+  readMultiIconFile();
+  if (icons_.empty())
+    context_.boxes.tell(kNoIcon);
+  else
+    select(defaultItem());
+}
+
+void HeaderDiff::readMultiIconFile() {
+  const Hourglass hourglass(context_.state, context_.display);
+  selected_ = -1;
+  table_ = {};
+  preview_.clear();
+  // A defect leaves the arrays empty, and that is all that it means here.
+  static_cast<void>(readIconArrays(file_, ReservedField::Any, arrays_));
+  entries_ = listEntries(arrays_);
+  headers_.clear();
+  for (const ImageBytes image : arrays_.images) headers_.push_back(headerFactsOf(image));
+  listIcons();
+}
+
+void HeaderDiff::listIcons() {
+  icons_.clear();
+  for (std::size_t i = 0; i < entries_.size(); ++i) {
+    const ListedEntry shown = shownEntry(i);
+    icons_.push_back(itemText(i, shown.dirBits, shown.dirColors, shown.width, shown.height));
+  }
+}
+
+// Without a bitmap header there is but the directory.
+bool HeaderDiff::goesByHeader(std::size_t index) const {
+  return base_ == HeaderBase::Bitmap && hasBitmapHeader(arrays_.images[index]);
+}
+
+ListedEntry HeaderDiff::shownEntry(std::size_t index) const {
+  ListedEntry shown = entries_[index];
+  if (!goesByHeader(index)) return shown;
+  shown.width = headers_[index].width;
+  shown.height = headers_[index].height;
+  shown.dirBits = shown.bihBits;
+  shown.dirColors = shown.bihColors;
+  return shown;
+}
+
+int HeaderDiff::defaultItem() const {
+  DefaultSelection selection;
+  for (std::size_t i = 0; i < entries_.size(); ++i) {
+    const ListedEntry shown = shownEntry(i);
+    if (shown.width == kPreferredSize && shown.height == kPreferredSize)
+      selection.consider(static_cast<int>(i), shown.width, shown.dirBits);
+  }
+  return selection.item();
+}
+
+void HeaderDiff::clickIcon(int item) {
+  if (item >= 0 && static_cast<std::size_t>(item) < icons_.size()) select(item);
+  changed();
+}
+
+void HeaderDiff::select(int item) {
+  const std::size_t index = indexIn(icons_[static_cast<std::size_t>(item)]);
+  if (!readImageAtIndex(index)) {
+    context_.boxes.tell("Ref " + std::to_string(index + 1) + kNotShown);
+    return;
+  }
+  selected_ = item;
+  table_ = tableOf(index);
+}
+
+// By the bitmap header its bit count alone tells the colours: the directory's count may be the lie.
+bool HeaderDiff::readImageAtIndex(std::size_t index) {
+  const Hourglass hourglass(context_.state, context_.display);
+  IconEntry entry = arrays_.entries[index];
+  if (goesByHeader(index)) {
+    entry.width = headers_[index].width;
+    entry.height = headers_[index].height;
+    entry.bitCount = headers_[index].bits;
+    entry.colorCount = 0;
+  }
+  return preview_.show(arrays_, entry, SizeRule::Any, false);
+}
+
+EnquiryTable HeaderDiff::tableOf(std::size_t index) const {
+  const ListedEntry& entry = entries_[index];
+  const int headerBits = headers_[index].bits;
+  EnquiryTable table;
+  table.lblIDEColor = colorLabel(entry.dirColors);
+  table.lblIDEBPP = bitsLabel(entry.dirBits, entry.dirColors);
+  table.lblBIHColor = colorLabel(entry.bihColors);
+  table.lblBIHBPP = std::to_string(headerBits);
+
+  int actual = 0;
+  GetColorBitCount_Image(preview_.icon().image, actual);
+  if (hasAlphaBytes(arrays_.images[index], headers_[index])) actual = kTrueColor;
+  table.lblActualColor = colorLabel(actual);
+  const bool isDeep = actual == kTrueColor && headerBits == kAlphaBits;
+  table.lblActualBPP = std::to_string(isDeep ? kAlphaBits : convBPP_Upto24(actual));
+  return table;
+}
+
+void HeaderDiff::cmdSalvage() {
+  if (!canSalvage()) return;
+  if (!canBeSalvaged(arrays_)) return context_.boxes.tell(kTooLargeToSalvage, BoxIcon::Exclamation);
+  const std::string proposed = ParseFileName(file_, PathPart::BareName) + kNameEnding;
+  const std::string target = askToSave(context_, proposed, kIconFilter, kIconExtension, OverwriteQuestion::ByCaller);
+  if (target.empty() || !confirmsSalvage(target)) return;
+  salvageTo(target);
+  changed();
+}
+
+bool HeaderDiff::confirmsSalvage(const std::string& target) const {
+  return context_.boxes.ask(FileExists(target) ? target + " already in existence.\n\nOverwrite?\n"
+                                               : "Salvage to \n\n" + target + "\nProceed?");
+}
+
+WriteOutcome HeaderDiff::writeSalvaged(const std::string& target) const {
+  const Hourglass hourglass(context_.state, context_.display);
+  IconArrays salvaged;
+  salvaged.reserved = arrays_.reserved;
+  salvaged.type = arrays_.type;
+  salvaged.entries = arrays_.entries;
+  salvaged.images = arrays_.images;
+  salvageEntries(salvaged);
+  if (target == file_) return writeWholeFile(salvaged, target, arrays_.file.span());
+  const auto former = readFile(target);
+  return writeWholeFile(salvaged, target, former ? former->span() : ImageBytes{});
+}
+
+void HeaderDiff::salvageTo(const std::string& target) {
+  const WriteOutcome outcome = writeSalvaged(target);
+  if (!outcome.opened) return;
+  if (!outcome.whole) return context_.boxes.tell(kNotWritten);
+  context_.boxes.tell("File salvaged to " + target + kSalvaged);
+  if (!isSameFile(target, file_)) return;
+  const int item = selected_;
+  readMultiIconFile();
+  if (static_cast<std::size_t>(item) < icons_.size()) select(item);
+}
+
+}  // namespace gp

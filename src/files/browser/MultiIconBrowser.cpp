@@ -1,0 +1,220 @@
+#include "files/browser/MultiIconBrowser.h"
+
+#include "document/EditState.h"
+#include "document/Hourglass.h"
+#include "files/browser/MultiIconExchange.h"
+#include "files/format/IconProbe.h"
+#include "files/opening/IconMessages.h"
+#include "platform/ports/MessageBoxes.h"
+#include "platform/scope/FlagFor.h"
+#include "platform/text/Numbers.h"
+#include "platform/text/Paths.h"
+
+#include <algorithm>
+
+namespace gp {
+namespace {
+
+constexpr int kTooManyEntries = 100;  // from here on a Ref does not fit into the two characters it is read from
+constexpr std::size_t kFewestToChooseFrom = 2;
+constexpr int kPaletteBits = 8;  // the most that go with a palette
+
+constexpr const char* kEditCaption = "Edit Icon In Multi-Icon File";
+constexpr const char* kAddCaption = "Add Icon To Existing Icon File";
+constexpr const char* kNotShown = "\nUnable to get this one";
+constexpr const char* kStrangePaletteBits = "Selected item is below 8 BPP, but not 1, 4 (or 0 if old Win 95 icons)";
+constexpr const char* kStrangeTrueColorBits = "Selected item is of True Color but not 24 BPP or 32 BPP.";
+constexpr const char* kNothingListed = "No icon in file listed";
+
+int containerIn(const std::string& text) {
+  const int item = text.empty() ? -1 : Int(Val(text));
+  return item >= 0 && item < kContainerCount ? item : -1;
+}
+
+bool isPaletteBitCount(int bits) { return bits == 0 || bits == 1 || bits == 4 || bits == kPaletteBits; }
+bool isTrueColorBitCount(int bits) { return bits == 24 || bits == kBitsWithAlpha; }
+
+// The bit count that a load answers: one that does not fit the colours follows from them.
+int bitsToLoad(const ListedEntry& entry) {
+  IconFacts facts;
+  facts.dirColors = entry.dirColors;
+  facts.dirBits = entry.dirBits;
+  return facts.bitCount();
+}
+
+std::string twoDigits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
+
+}  // namespace
+
+MultiIconBrowser::MultiIconBrowser(const FilesContext& context) : context_(context), exchange_(context.multiIcon) {}
+
+void MultiIconBrowser::changed() {
+  const FlagFor busy(mBusy_);
+  if (onChange) onChange();
+}
+
+void MultiIconBrowser::unload() {
+  arrays_ = {};
+  entries_.clear();
+  icons_.clear();
+  otherIcons_.clear();
+  selected_ = -1;
+  if (onUnload) onUnload();
+}
+
+void MultiIconBrowser::activate() {
+  face_ = exchange_.gAddToFile ? BrowserFace::Add : BrowserFace::Edit;
+  container_ = containerIn(std::exchange(exchange_.gMultiIconResult, {}));
+  openFile();
+}
+
+const char* MultiIconBrowser::caption() const { return isEditFace() ? kEditCaption : kAddCaption; }
+std::string MultiIconBrowser::fileText() const { return ShortenPath(file()); }
+const std::string& MultiIconBrowser::file() const { return exchange_.gMultiIconFile; }
+int MultiIconBrowser::addPositionCount() const { return static_cast<int>(icons_.size() + otherIcons_.size()) + 1; }
+bool MultiIconBrowser::hasTooManyRefs() const { return arrays_.count() >= kTooManyEntries; }
+bool MultiIconBrowser::canLoad() const { return isEditFace() && !icons_.empty(); }
+bool MultiIconBrowser::canSaveEntries() const { return icons_.size() >= kFewestToChooseFrom; }
+bool MultiIconBrowser::canRearrange() const { return canSaveEntries() && !hasTooManyRefs(); }
+bool MultiIconBrowser::canAdd() const { return !icons_.empty() || !otherIcons_.empty(); }
+
+const ListedEntry& MultiIconBrowser::listed(const ItemReading& reading) const {
+  return entries_.at(static_cast<std::size_t>(reading.index));
+}
+
+// Listing.
+
+bool MultiIconBrowser::readMultiIconFile() {
+  return readIconArrays(file(), ReservedField::Any, arrays_) == ArraysDefect::None;
+}
+
+// Answers the item that is selected at first.
+int MultiIconBrowser::fillIconLists() {
+  DefaultSelection first;
+  entries_ = listEntries(arrays_);
+  icons_.clear();
+  otherIcons_.clear();
+  int ref = 0;
+  for (const ListedEntry& entry : entries_) {
+    ++ref;
+    if (entry.isStandard()) first.consider(static_cast<int>(icons_.size()), entry.width, entry.dirBits);
+    (entry.isStandard() ? icons_ : otherIcons_).push_back(itemText(ref, entry, entry.isStandard()));
+  }
+  lacksBits_ = std::ranges::any_of(entries_, &ListedEntry::lacksBits);
+  addPosition_ = addPositionCount() - 1;
+  return first.item();
+}
+
+void MultiIconBrowser::openFile() {
+  if (!readMultiIconFile()) return unload();
+  const int first = fillIconLists();
+  otherSizesShown_ = !otherIcons_.empty();
+  selectAnew(isEditFace() ? first : -1);
+}
+
+// Selecting.
+
+// The item's text is the only record of what is selected: where its Ref reads as another entry's, that one is shown.
+bool MultiIconBrowser::preview(const std::string& item, EntryPreview& preview) {
+  const Hourglass hourglass(context_.state, context_.display);
+  const ItemReading reading = readItem(item);
+  IconEntry entry = arrays_.entries.at(static_cast<std::size_t>(reading.index));
+  entry.width = reading.width;
+  entry.height = reading.height;
+  return preview.show(arrays_, entry, sizesShownIn(preview), listed(reading).dirBits >= kBitsWithAlpha);
+}
+
+// The pane moves entries of all sizes, so it shows them too.
+SizeRule MultiIconBrowser::sizesShownIn(const EntryPreview& preview) const {
+  return &preview == &repositionPreview_ ? SizeRule::Any : SizeRule::IconSizes;
+}
+
+bool MultiIconBrowser::previewOrTell(const std::string& item, EntryPreview& preview) {
+  if (this->preview(item, preview)) return true;
+  context_.boxes.tell("Ref " + std::to_string(readItem(item).index + 1) + kNotShown);
+  return false;
+}
+
+// Selects in a list that is new; -1 and what cannot be shown leave nothing selected.
+void MultiIconBrowser::selectAnew(int item) {
+  selected_ = -1;
+  preview_.clear();
+  changed();
+  clickIcon(item);
+}
+
+void MultiIconBrowser::clickIcon(int item) {
+  if (mBusy_ || !isIcon(item)) return;
+  if (previewOrTell(iconText(item), preview_)) selected_ = item;
+  changed();
+}
+
+void MultiIconBrowser::setOtherSizesShown(bool shown) {
+  otherSizesShown_ = shown;
+  changed();
+}
+
+void MultiIconBrowser::setContainer(int item) {
+  if (container_ >= 0 && item >= 0 && item < kContainerCount) container_ = item;
+}
+
+void MultiIconBrowser::setAddPosition(int item) {
+  if (item >= 0 && item < addPositionCount()) addPosition_ = item;
+}
+
+// Loading, adding, closing.
+
+void MultiIconBrowser::cmdEdit() {
+  exchange_.gLoadAndReturn = false;
+  loadSelectedIcon();
+}
+
+void MultiIconBrowser::cmdLoad() {
+  exchange_.gLoadAndReturn = true;
+  loadSelectedIcon();
+}
+
+void MultiIconBrowser::loadSelectedIcon() {
+  if (!isEditFace() || !isIcon(selected_) || !isLoadable(listed(readItem(iconText(selected_))))) return;
+  exchange_.gMultiIconResult = loadAnswer();
+  exchange_.chosenIcon = preview_.icon();
+  unload();
+}
+
+bool MultiIconBrowser::isLoadable(const ListedEntry& entry) {
+  const int bits = entry.dirBits;
+  if (!isPaletteBitCount(bits) && !isTrueColorBitCount(bits)) {
+    context_.boxes.tell(bits < kPaletteBits ? kStrangePaletteBits : kStrangeTrueColorBits);
+    return false;
+  }
+  if (!isTrueColorBitCount(bits) || context_.state.process.gScreenBPP >= kManyColorsScreenBits) return true;
+  return ConfirmTrueColorOnLowScreen(context_.boxes);
+}
+
+std::string MultiIconBrowser::loadAnswer() const {
+  const ItemReading reading = readItem(iconText(selected_));
+  const ListedEntry& entry = listed(reading);
+  std::string answer = std::to_string(container_ + 1) + "/" + twoDigits(reading.index);
+  for (const int field :
+       {reading.width, reading.height, entry.dirColors, bitsToLoad(entry), entry.bihColors, entry.bihBits})
+    answer += "/" + std::to_string(field);
+  return answer;
+}
+
+void MultiIconBrowser::cmdSaveAdd(int button) {
+  if (!isIcon(selected_) && otherIcons_.empty()) return context_.boxes.tell(kNothingListed);
+  const std::string position = std::to_string(addPosition_ + 1);
+  const bool appends = addPosition_ == addPositionCount() - 1;
+  if (!context_.boxes.ask((appends ? "Append" : "Insert") + (" to position ref " + position) + ".   \n\nConfirm?\n"))
+    return;
+  exchange_.gMultiIconResult = std::to_string(button + 1) + "/" + position;
+  unload();
+}
+
+void MultiIconBrowser::cmdClose() {
+  exchange_.gMultiIconResult.clear();
+  exchange_.gLoadAndReturn = false;
+  unload();
+}
+
+}  // namespace gp

@@ -1,0 +1,72 @@
+// The browser's saves of single entries.
+#include "document/EditState.h"
+#include "document/Hourglass.h"
+#include "files/FileQuestions.h"
+#include "files/browser/MultiIconBrowser.h"
+#include "files/format/SingleEntryFile.h"
+#include "files/opening/IconMessages.h"
+#include "platform/dialogs/clsGPDialog.h"
+#include "platform/files/Files.h"
+#include "platform/ports/MessageBoxes.h"
+#include "platform/text/Paths.h"
+
+namespace gp {
+namespace {
+
+constexpr const char* kFolderPattern = "*.*";
+
+std::string joined(const std::string& folder, const std::string& name) {
+  return !folder.empty() && isSeparator(folder.back()) ? folder + name : folder + "/" + name;
+}
+
+}  // namespace
+
+// "tools_32_16.ico", where `stem` is "tools".
+std::string MultiIconBrowser::singleFileName(const std::string& stem, int item) const {
+  const ItemReading reading = readItem(iconText(item));
+  const ListedEntry& entry = listed(reading);
+  return stem + "_" + std::to_string(reading.height) + "_" + colorsInFileName(entry.dirColors, entry.dirBits) + "." +
+         kIconExtension;
+}
+
+bool MultiIconBrowser::saveItem(int item, const std::string& path) {
+  const Hourglass hourglass(context_.state, context_.display);
+  return saveEntryToSingleFile(arrays_, readItem(iconText(item)).index, path);
+}
+
+void MultiIconBrowser::cmdSaveSingle() {
+  if (!isIcon(selected_)) return;
+  const std::string proposed = singleFileName(ParseFileName(file(), PathPart::BareName), selected_);
+  const std::string path = askToSave(context_, proposed, kIconFilter, kIconExtension);
+  if (path.empty()) return;
+  const bool isOwnFile = isSameFile(path, file());
+  if (!saveItem(selected_, path)) tellIconNotSaved(context_.boxes, path);
+  // What is listed must be what a later command rewrites.
+  if (isOwnFile || path == file()) openFile();
+}
+
+void MultiIconBrowser::cmdSplitSave() {
+  if (!isIcon(selected_)) return;
+  const std::string folder = context_.dialog.chooseFolder(kFolderPattern, context_.state.process.mLastFolder);
+  if (folder.empty()) return;
+  const std::string stem = joined(folder, ParseFileName(file(), PathPart::BareName));
+  const std::string question = "Single-icon files will be saved as " + stem + "_(Size)_(Color), ...\nTotally " +
+                               std::to_string(icons_.size()) + " items on list.\n\nProceed?";
+  if (context_.boxes.ask(question)) splitInto(stem);
+}
+
+// An image that cannot be shown is saved like the others, so nothing is told of it; nor is a file that cannot be
+// written. The views go through their whole lists each time they are told of a change, and nothing of it is seen before
+// the end: they are told then.
+void MultiIconBrowser::splitInto(const std::string& stem) {
+  const Hourglass hourglass(context_.state, context_.display);
+  const int before = selected_;
+  for (int item = 0; isIcon(item); ++item) {
+    if (preview(iconText(item), preview_)) selected_ = item;
+    static_cast<void>(saveItem(item, singleFileName(stem, item)));
+  }
+  if (preview(iconText(before), preview_)) selected_ = before;
+  changed();
+}
+
+}  // namespace gp

@@ -1,0 +1,122 @@
+// The browser's changes of its own file: an entry taken out, and all of them put into another sequence.
+#include "document/EditState.h"
+#include "document/Hourglass.h"
+#include "files/browser/MultiIconBrowser.h"
+#include "files/browser/MultiIconExchange.h"
+#include "files/format/IconUpdates.h"
+#include "files/saving/MultiIconTexts.h"
+#include "platform/ports/MessageBoxes.h"
+
+#include <algorithm>
+
+namespace gp {
+namespace {
+
+constexpr const char* kNoDeletion =
+    "As currently there is at least an icon from this file loaded in Icons Panel, \nhence no deletion is allowed.";
+constexpr const char* kRemoveQuestion = "Permanently remove the selected icon from the multi-icon file.\n";
+constexpr const char* kRemoveAssurance = "\n\nSure to remove this icon permanently?\n\n";
+
+constexpr const char* kNoReposition =
+    "As currently there is at least an icon from this file loaded in Icons Panel, \nhence no reposition is allowed.";
+constexpr const char* kNothingSelected = "No title selected yet";
+constexpr const char* kSingleIconListed = "There is only a single icon in file.";
+constexpr const char* kRepositionQuestion = "\nProceed to save re-positioned sequence of icons in file?\n";
+constexpr const char* kFileNotOpened = "Error-1 encountered in writing file.";
+constexpr const char* kFileNotWritten = "Error-3 encountered in writing file.";
+constexpr const char* kRepositioned = "Repositioned icons sequence in ";
+
+}  // namespace
+
+bool MultiIconBrowser::isUnchangeable(const char* onlyIcon, const char* inPanel) {
+  if (arrays_.count() != 1 && !exchange_.gFileInPanel) return false;
+  context_.boxes.tell(arrays_.count() == 1 ? onlyIcon : inPanel);
+  return true;
+}
+
+// Removing.
+
+void MultiIconBrowser::cmdRemove() {
+  if (!isIcon(selected_) || hasTooManyRefs() || isUnchangeable(kRemoveLastIcon, kNoDeletion)) return;
+  if (!context_.boxes.ask(kRemoveQuestion + file() + kRemoveAssurance)) return;
+  const int item = selected_;
+  if (!removeEntry(readItem(iconText(item)).index)) context_.boxes.tell(kRemoveNotWritten);
+  relistAt(item);
+}
+
+bool MultiIconBrowser::removeEntry(int index) {
+  const Hourglass hourglass(context_.state, context_.display);
+  removeImage(arrays_, index);
+  return writeWholeFile(arrays_, file(), arrays_.file.span());
+}
+
+// Lists what the file holds now, and selects at the same place or at the last one.
+void MultiIconBrowser::relistAt(int item) {
+  if (!readMultiIconFile()) return unload();
+  fillIconLists();
+  selectAnew(std::min(item, static_cast<int>(icons_.size()) - 1));
+}
+
+// Repositioning.
+
+void MultiIconBrowser::cmdReposition() {
+  if (arrays_.count() == 0 || hasTooManyRefs() || isUnchangeable(kRepositionSingleIcon, kNoReposition)) return;
+  std::vector<std::string> items;
+  for (const ListedEntry& entry : entries_) items.push_back(itemText(static_cast<int>(items.size()) + 1, entry, true));
+  reposition_.open(std::move(items));
+  repositioning_ = true;
+  otherSizesShown_ = false;
+  // Nobody picked the first one: when it cannot be shown it is selected all the same.
+  if (!preview(reposition_.lisReposition().front(), repositionPreview_)) repositionPreview_.clear();
+  changed();
+}
+
+void MultiIconBrowser::clickRepositionIcon(int item) {
+  const auto& items = reposition_.lisReposition();
+  if (mBusy_ || !repositioning_ || item < 0 || static_cast<std::size_t>(item) >= items.size()) return;
+  if (previewOrTell(items[static_cast<std::size_t>(item)], repositionPreview_)) reposition_.select(item);
+  changed();
+}
+
+void MultiIconBrowser::cmdShiftUp() {
+  if (reposition_.selected() < 0) return context_.boxes.tell(kNothingSelected);
+  reposition_.shiftUp();
+  changed();
+}
+
+void MultiIconBrowser::cmdShiftDown() {
+  if (reposition_.selected() < 0) return context_.boxes.tell(kNothingSelected);
+  reposition_.shiftDown();
+  changed();
+}
+
+void MultiIconBrowser::cmdRepositionAbort() {
+  repositioning_ = false;
+  otherSizesShown_ = !otherIcons_.empty();
+  changed();
+}
+
+void MultiIconBrowser::cmdRepositionProceed() {
+  const auto& items = reposition_.lisReposition();
+  if (!repositioning_ || items.empty()) return;
+  if (items.size() == 1) return context_.boxes.tell(kSingleIconListed);
+  if (reposition_.isUnchanged()) return context_.boxes.tell(kRepositionNoChange);
+  if (!context_.boxes.ask(file() + kRepositionQuestion)) return;
+  writeRepositioned();
+  repositioning_ = false;
+  openFile();
+}
+
+void MultiIconBrowser::writeRepositioned() {
+  WriteOutcome outcome;
+  {
+    const Hourglass hourglass(context_.state, context_.display);
+    reorderImages(arrays_, reposition_.order());
+    outcome = writeWholeFile(arrays_, file(), arrays_.file.span());
+  }
+  if (!outcome.opened) return context_.boxes.tell(kFileNotOpened);
+  if (!outcome.whole) context_.boxes.tell(kFileNotWritten);
+  context_.boxes.tell((outcome.whole ? kRepositioned : kRepositionNotWritten) + file() + "\n");
+}
+
+}  // namespace gp

@@ -1,0 +1,84 @@
+#include "files/browser/MultiIconListing.h"
+
+#include "document/IconContainerRec.h"
+#include "files/format/IcoLayout.h"
+#include "platform/text/Numbers.h"
+#include "platform/text/Utf8.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace gp {
+namespace {
+
+constexpr int kPreferredSize = 32;
+constexpr int kPreferredBits = 8;
+
+// How an item text is read again: its parts stand at fixed distances from both ends.
+constexpr std::size_t kSideWidth = 3;
+constexpr std::size_t kSizeWidth = 9;
+constexpr std::size_t kRefField = 6;
+constexpr std::size_t kRefWidth = 2;
+
+int lowHeaderBits(ImageBytes image) { return image.size() > ico::kHeaderBitCount ? image[ico::kHeaderBitCount] : 0; }
+
+ListedEntry listedEntry(const IconEntry& entry, ImageBytes image) {
+  ListedEntry listed;
+  listed.width = entry.width;
+  listed.height = entry.height;
+  listed.dirBits = entry.bitCount;
+  listed.dirColors = ColorsForEntry(entry, entry.bitCount);
+  listed.bihBits = lowHeaderBits(image);
+  listed.bihColors = ColorsForEntry(entry, listed.bihBits);
+  return listed;
+}
+
+std::string sideText(int side, bool padded) {
+  const std::string digits = std::to_string(side);
+  return padded && digits.size() < kSideWidth ? std::string(kSideWidth - digits.size(), ' ') + digits : digits;
+}
+
+std::string_view lastCharacters(std::string_view text, std::size_t count) {
+  return text.substr(text.size() - std::min(count, text.size()));
+}
+
+int numberIn(std::string_view text) { return Int(Val(trim(text))); }
+
+}  // namespace
+
+bool ListedEntry::isStandard() const { return width == height && isIconSize(width); }
+bool ListedEntry::lacksBits() const { return dirColors > 0 && dirBits == 0; }
+
+std::vector<ListedEntry> listEntries(const IconArrays& arrays) {
+  std::vector<ListedEntry> listed;
+  listed.reserve(arrays.entries.size());
+  for (std::size_t i = 0; i < arrays.entries.size(); ++i)
+    listed.push_back(listedEntry(arrays.entries[i], arrays.images[i]));
+  return listed;
+}
+
+std::string itemText(int ref, const ListedEntry& entry, bool padded) {
+  const std::string bits = std::to_string(entry.dirBits) + " BPP" + (entry.lacksBits() ? "*" : "");
+  const std::string colors = entry.dirColors > 0 ? std::to_string(entry.dirColors) + "-Color" : "True-Color";
+  return "Ref " + std::to_string(ref) + "  \t" + bits + "\t" + colors + "\t  " + sideText(entry.width, padded) + " x " +
+         sideText(entry.height, padded);
+}
+
+ItemReading readItem(const std::string& text) {
+  const std::string field = trim(std::string_view(text).substr(0, kRefField));
+  ItemReading reading;
+  reading.index = numberIn(lastCharacters(field, kRefWidth)) - 1;
+  reading.width = numberIn(lastCharacters(text, kSizeWidth).substr(0, kSideWidth));
+  reading.height = numberIn(lastCharacters(text, kSideWidth));
+  return reading;
+}
+
+std::string colorsInFileName(int colors, int bits) {
+  return colors > 0 ? std::to_string(colors) : std::to_string(bits) + "bpp";
+}
+
+void DefaultSelection::consider(int item, int width, int bits) {
+  if (width == kPreferredSize && (!item_ || bits == kPreferredBits)) item_ = item;
+}
+
+}  // namespace gp

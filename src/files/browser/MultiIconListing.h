@@ -1,0 +1,54 @@
+// How the entries of a file are listed: each as one line of text with tabs, from which a click is read again. A Ref is
+// an entry's place in the file, counted from 1.
+#pragma once
+
+#include "files/format/IconArrays.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace gp {
+
+// One entry by its directory entry and by the bitmap header of its image.
+struct ListedEntry {
+  int width = 0;  // the directory's bytes
+  int height = 0;
+  int dirColors = 0;  // mDirColors, -1 for true colour
+  int dirBits = 0;    // mDirBits
+  int bihColors = 0;  // mBihColors
+  int bihBits = 0;    // mBihBits: the low byte of biBitCount, 0 where the image is too short
+
+  // Square, and of 16, 24, 32 or 48 pixels.
+  bool isStandard() const;
+  // Told by its colours alone: its bit text gets an asterisk.
+  bool lacksBits() const;
+};
+
+std::vector<ListedEntry> listEntries(const IconArrays& arrays);
+
+// "Ref 3  \t32 BPP\tTrue-Color\t   32 x  32"; with padding width and height are three characters each.
+std::string itemText(int ref, const ListedEntry& entry, bool padded);
+
+// What a padded item text tells of itself. Refs are read from two characters only: 100 reads as 10.
+struct ItemReading {
+  int index = -1;  // Ref - 1
+  int width = 0;
+  int height = 0;
+};
+ItemReading readItem(const std::string& text);
+
+// "16", or "24bpp" for true colour of 24 bits: the colour part of a file name.
+std::string colorsInFileName(int colors, int bits);
+
+// The item that is selected at first: the first 32x32 entry, displaced by a later one of 8 bits. 0 when there is none.
+class DefaultSelection {
+ public:
+  void consider(int item, int width, int bits);
+  int item() const { return item_.value_or(0); }
+
+ private:
+  std::optional<int> item_;
+};
+
+}  // namespace gp

@@ -1,0 +1,78 @@
+#include "files/browser/MultiIconRetrieval.h"
+
+#include "document/CurrentIconGuard.h"
+#include "document/Document.h"
+#include "document/EditState.h"
+#include "document/Editor.h"
+#include "files/FileForms.h"
+#include "files/browser/MultiIconExchange.h"
+#include "files/opening/IconLoading.h"
+#include "files/saving/PanelFiles.h"
+#include "platform/ports/MessageBoxes.h"
+
+#include <utility>
+
+namespace gp {
+namespace {
+
+constexpr const char* kRetrievalFailed = "Retrieval failed";
+
+bool isLoadable(const IconFacts& facts) { return isIconSize(facts.width, facts.height); }
+
+}  // namespace
+
+MultiIconRetrieval::MultiIconRetrieval(FilesContext& context, std::string file, bool intoEditingArea)
+    : context_(context),
+      state_(context.state),
+      file_(std::move(file)),
+      intoEditingArea_(intoEditingArea),
+      firstContainer_(context.state.mCurContainer) {}
+
+std::string MultiIconRetrieval::run() {
+  const MultiIconExchange& exchange = context_.multiIcon;
+  std::string lastAnswer;
+  do {
+    showBrowser();
+    const auto answer = parseLoadAnswer(exchange.gMultiIconResult);
+    if (!answer) break;
+    if (!isLoadable(answer->facts)) {
+      context_.boxes.tell(kRetrievalFailed, BoxIcon::Exclamation);
+      break;
+    }
+    if (!goTo(answer->container)) continue;
+    load(*answer);
+    lastAnswer = exchange.gMultiIconResult;
+  } while (exchange.gLoadAndReturn);
+  return lastAnswer;
+}
+
+void MultiIconRetrieval::showBrowser() {
+  MultiIconExchange& exchange = context_.multiIcon;
+  exchange.gMultiIconFile = file_;
+  exchange.gMultiIconResult = std::to_string(state_.mCurContainer);
+  exchange.gAddToFile = false;
+  exchange.gFileInPanel = findContainerOf(state_, file_).has_value();
+  if (context_.forms) context_.forms->showMultiIcon();
+}
+
+// False when the user wants to keep what is in one of the two containers. The
+// caller has dealt with the first container's icon.
+bool MultiIconRetrieval::goTo(int container) {
+  if (container != state_.mCurContainer) context_.document.iconsPanel.SwitchContainer(container);
+  if (container != state_.mCurContainer) return false;
+  return container == firstContainer_ || mayCurrentIconGo(context_);
+}
+
+void MultiIconRetrieval::load(const LoadAnswer& answer) {
+  const IconImage& icon = context_.multiIcon.chosenIcon;
+  IconContainerRec record = recordOfLoadedIcon(answer.facts, icon, file_);
+  record.present = intoEditingArea_;
+  if (intoEditingArea_)
+    context_.document.arrival.arrive(icon, record);
+  else
+    context_.document.arrival.fillContainer(answer.container, icon, record);
+  context_.editor.UpdateCommands();
+  context_.editor.AddHistory(file_);
+}
+
+}  // namespace gp

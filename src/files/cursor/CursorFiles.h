@@ -1,0 +1,69 @@
+// The commands on cursor files: opening one, and the Panel "Save as cursor" with its hot spot.
+#pragma once
+
+#include "files/FilesContext.h"
+#include "files/cursor/CursorProbe.h"
+#include "files/cursor/HotspotMark.h"
+#include "platform/ports/MessageBoxes.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace gp {
+
+struct IconContainerRec;
+
+class CursorFiles {
+ public:
+  explicit CursorFiles(const FilesContext& context);
+
+  // The command "Open &Cursor File  (cur) ....": offers to save, asks for a file and opens it.
+  void doMnuFileOpenCursor();
+  // Opens a file into the current container and tells the user what he should know of it.
+  void doOpenCursorFile(const std::string& path, bool& ok);
+
+  // Brings the Panel up, with the hot spot of the current cursor or 0, 0, and shows the spot once.
+  void openPanel();
+  // cboCursorHotSpot(0) and (1): their items, 0 to 31. When another icon has come up since the Panel did, they are as
+  // if it had come up with that one.
+  int hotspotX() const { return spot().x; }
+  int hotspotY() const { return spot().y; }
+  void setHotspotX(int x);
+  void setHotspotY(int y);
+  // A click on the Editing Area while the Panel is open, in pixels of the icon: takes the spot and shows it, unless one
+  // is being shown.
+  void setHotspotByClick(int x, int y);
+  // cmdShowHotspot.
+  void showHotspot();
+  // "&Reveal Hotspot Of Original Cursor".
+  void revealOriginalHotspot();
+
+  // Writes the Current Icon as a cursor with the hot spot of the lists. The record stays as it is. Tells nothing.
+  void WriteCursorFile(const std::string& path, bool& ok) const;
+
+  HotspotMark& mark() { return mark_; }
+  // What the view does when the lists changed.
+  std::function<void()> onChange;
+
+ private:
+  struct Spot {
+    int x = 0;
+    int y = 0;
+  };
+
+  void leaveEmpty(const std::string& text, BoxIcon icon);
+  void remindOfAlpha();
+  // Where the lists start for an icon: at the hot spot of a cursor, otherwise at 0, 0.
+  static Spot startOf(const IconContainerRec& record);
+  Spot spot() const;
+  void setSpot(Spot spot);
+
+  FilesContext context_;
+  EditState& state_;
+  HotspotMark mark_;
+  Spot spot_;
+  std::optional<unsigned> spotOf_;  // iconSerial for which the lists were set; nothing before the first time
+};
+
+}  // namespace gp

@@ -1,0 +1,49 @@
+#include "files/cursor/CursorLoading.h"
+
+#include "files/format/IcoDirectory.h"
+
+namespace gp {
+namespace {
+
+constexpr const char* kCurLabel = "CUR file";
+
+// In a cursor file the entry tells no depth: the bitmap header's takes its place. What has no palette and is not of 24
+// bits is read as four bytes a pixel.
+IconEntry entryByHeader(std::span<const std::uint8_t> file, const IconDirectory& directory) {
+  IconEntry entry = directory.entry(0);
+  const int bits = headerBitCount(file, entry);
+  entry.colorCount = 0;
+  entry.bitCount = ColorsForBitCount(bits) == kTrueColor && bits != kBitsWithoutAlpha ? kBitsWithAlpha : bits;
+  return entry;
+}
+
+int keptBitCount(const IconImage& icon, int bits) {
+  return bits == kBitsWithAlpha && !icon.hasAlphaValues() ? kBitsWithoutAlpha : bits;
+}
+
+}  // namespace
+
+DecodedIcon loadCursorImage(std::span<const std::uint8_t> file) {
+  const IconDirectory directory = parseIconDirectory(file);
+  if (!directory.isCursor()) return {IconDefect::NotAnIcon, {}};
+  const IconEntry entry = entryByHeader(file, directory);
+  if (entry.width != kCursorSide || entry.height != kCursorSide) return {IconDefect::SizeNotOffered, {}};
+  return decodeEntry(file, entry, kCursorSide, kCursorSide);
+}
+
+IconContainerRec recordOfLoadedCursor(const CursorFacts& facts, const IconImage& icon, const std::string& path) {
+  IconContainerRec record;
+  record.used = true;
+  record.sourceLabel = kCurLabel;
+  record.dirColors = record.bihColors = facts.colors;
+  record.bitCount = record.bihBitCount = static_cast<std::int16_t>(keptBitCount(icon, facts.bits));
+  record.hasAlpha = record.bitCount == kBitsWithAlpha;
+  record.present = true;
+  record.path = path;
+  record.isCursor = true;
+  record.hotspotX = static_cast<std::int16_t>(facts.hotspotX);
+  record.hotspotY = static_cast<std::int16_t>(facts.hotspotY);
+  return record;
+}
+
+}  // namespace gp

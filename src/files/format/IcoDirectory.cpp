@@ -1,0 +1,99 @@
+#include "files/format/IcoDirectory.h"
+
+#include "document/IconContainerRec.h"
+#include "files/format/IcoLayout.h"
+#include "platform/files/ByteReader.h"
+
+#include <algorithm>
+
+namespace gp {
+namespace {
+
+constexpr int kMonoColors = 2;
+constexpr int kStandardColors = 16;
+
+IconEntry parseEntry(ByteReader& reader, std::size_t at) {
+  IconEntry entry;
+  entry.width = reader.u8At(at + ico::kEntryWidth);
+  entry.height = reader.u8At(at + ico::kEntryHeight);
+  entry.colorCount = reader.u8At(at + ico::kEntryColorCount);
+  entry.bitCount = reader.u16At(at + ico::kEntryBitCount);
+  entry.reserved = reader.u8At(at + ico::kEntryReserved);
+  entry.planes = reader.u16At(at + ico::kEntryPlanes);
+  entry.bytesInRes = reader.u32At(at + ico::kEntryBytesInRes);
+  entry.imageOffset = reader.u32At(at + ico::kEntryImageOffset);
+  return entry;
+}
+
+// How many entries the file holds bytes of, at most `count`.
+std::size_t entriesPresent(std::size_t fileSize, std::size_t count) {
+  if (fileSize <= ico::kDirSize) return 0;
+  const std::size_t room = fileSize - ico::kDirSize;
+  return std::min(count, (room + ico::kEntrySize - 1) / ico::kEntrySize);
+}
+
+int standardColorCount(int colorCount) {
+  if (colorCount == kMonoColors || colorCount == kStandardColors) return colorCount;
+  return colorCount > kMonoColors ? kStandardColors : kMonoColors;
+}
+
+// The colours when the entry gives no count.
+int colorsForBits(int bitCount) {
+  if (bitCount == 0) return ico::kMaxPaletteColors;
+  return bitCount > 8 ? kTrueColor : 1 << bitCount;
+}
+
+}  // namespace
+
+bool IconDirectory::isIcon() const { return type == ico::kTypeIcon && count >= 1; }
+bool IconDirectory::isCursor() const { return type == ico::kTypeCursor && count >= 1; }
+
+IconEntry IconDirectory::entry(int index) const {
+  return index >= 0 && static_cast<std::size_t>(index) < entries.size() ? entries[static_cast<std::size_t>(index)]
+                                                                        : IconEntry{};
+}
+
+IconDirectory parseIconDirectory(std::span<const std::uint8_t> file) {
+  ByteReader reader(file);
+  IconDirectory directory;
+  directory.reserved = reader.u16At(0);
+  directory.type = reader.u16At(ico::kDirType);
+  directory.count = reader.u16At(ico::kDirCount);
+  const std::size_t present = entriesPresent(file.size(), static_cast<std::size_t>(directory.count));
+  directory.entries.reserve(present);
+  for (std::size_t i = 0; i < present; ++i)
+    directory.entries.push_back(parseEntry(reader, ico::kDirSize + i * ico::kEntrySize));
+  return directory;
+}
+
+int headerBitCount(std::span<const std::uint8_t> file, const IconEntry& entry) {
+  return ByteReader(file).u16At(ByteReader::Position{entry.imageOffset} + ico::kHeaderBitCount);
+}
+
+bool isPngImage(std::span<const std::uint8_t> file, const IconEntry& entry) {
+  const auto start = ByteReader(file).bytesAt(entry.imageOffset, ico::kPngSignature.size());
+  return std::ranges::equal(start, ico::kPngSignature);
+}
+
+int ColorsForEntry(const IconEntry& entry, int bitCount) {
+  return entry.colorCount != 0 ? standardColorCount(entry.colorCount) : colorsForBits(bitCount);
+}
+
+int RawColorsForEntry(const IconEntry& entry, int bitCount) {
+  return entry.colorCount != 0 ? entry.colorCount : colorsForBits(bitCount);
+}
+
+int ColorsForBitCount(int bitCount) {
+  switch (bitCount) {
+    case 1:
+      return kMonoColors;
+    case 4:
+      return kStandardColors;
+    case 8:
+      return ico::kMaxPaletteColors;
+    default:
+      return kTrueColor;
+  }
+}
+
+}  // namespace gp

@@ -1,0 +1,236 @@
+#include "files/format/IconDecoder.h"
+
+#include "document/IconContainerRec.h"
+#include "files/format/IcoLayout.h"
+#include "platform/files/ByteReader.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstring>
+#include <vector>
+
+namespace gp {
+namespace {
+
+constexpr std::uint32_t kOpaque = 255;
+constexpr int kBytesPerTrueColor24 = 3;
+constexpr int kBytesPerTrueColor32 = 4;
+constexpr int kTrueColorBits24 = 24;
+constexpr int kTrueColorBits32 = 32;
+
+// Blue, green, red as they stand in files.
+std::uint32_t pixelAt(const std::uint8_t* bytes) {
+  return static_cast<std::uint32_t>(bytes[2] | bytes[1] << 8 | bytes[0] << 16);
+}
+
+// One load instead of four, so that whole rows become vector code.
+std::uint32_t littleEndian32(const std::uint8_t* bytes) {
+  std::uint32_t value;
+  std::memcpy(&value, bytes, sizeof value);
+  if constexpr (std::endian::native == std::endian::big)
+    value = (value << 24) | (value << 8 & 0xFF0000) | (value >> 8 & 0xFF00) | value >> 24;
+  return value;
+}
+
+// How the rows of an image lie in its bytes.
+struct ImageFormat {
+  int bits;                  // per pixel of the picture
+  std::size_t paletteCount;  // 0 for true colour
+  std::size_t imageStride;
+  std::size_t maskStride;
+
+  std::size_t paletteBytes() const { return paletteCount * ico::kPaletteEntrySize; }
+  std::size_t size(int height) const {
+    return paletteBytes() + static_cast<std::size_t>(height) * (imageStride + maskStride);
+  }
+};
+
+ImageFormat formatOf(const IconEntry& entry, int width) {
+  const int colors = ColorsForEntry(entry, entry.bitCount);
+  const std::size_t maskStride = ico::rowStride(width, 1);
+  if (colors < 1) {
+    const int bits = entry.bitCount == kTrueColorBits24 ? kTrueColorBits24 : kTrueColorBits32;
+    return {bits, 0, ico::trueRowStride(width, bits), maskStride};
+  }
+  const int bits = colors == 2 ? 1 : colors == 16 ? 4 : 8;
+  return {bits, static_cast<std::size_t>(colors), ico::rowStride(width, bits), maskStride};
+}
+
+// `count` bytes of the file from a position on, with zeros for what it lacks: the row readers need no bounds checks.
+class PaddedBytes {
+ public:
+  PaddedBytes(std::span<const std::uint8_t> file, std::uint64_t at, std::size_t count) {
+    const auto present = ByteReader(file).bytesAt(at, count);
+    data_ = present.data();
+    if (present.size() == count) return;
+    copy_.assign(count, 0);
+    std::ranges::copy(present, copy_.begin());
+    data_ = copy_.data();
+  }
+  const std::uint8_t* data() const { return data_; }
+
+ private:
+  std::vector<std::uint8_t> copy_;
+  const std::uint8_t* data_ = nullptr;
+};
+
+using Palette = std::array<std::uint32_t, ico::kMaxPaletteColors>;
+
+// The pixels of each half byte of a picture of two colours: rows of bits are copied four pixels at a time.
+constexpr int kPixelsPerHalf = 4;
+constexpr int kPixelsPerByte = 2 * kPixelsPerHalf;
+using MonoTable = std::array<std::uint32_t, 16 * kPixelsPerHalf>;
+
+constexpr MonoTable monoTable(std::uint32_t zero, std::uint32_t one) {
+  MonoTable table{};
+  for (std::size_t i = 0; i < table.size(); ++i)
+    table[i] = (i / kPixelsPerHalf >> (3 - i % kPixelsPerHalf) & 1) ? one : zero;
+  return table;
+}
+constexpr MonoTable kMaskTable = monoTable(storedForm(kBlack), storedForm(kWhite));
+
+void readMonoByte(unsigned byte, const std::uint32_t* table, std::uint32_t* out) {
+  std::memcpy(out, table + (byte >> 4) * kPixelsPerHalf, kPixelsPerHalf * sizeof *out);
+  std::memcpy(out + kPixelsPerHalf, table + (byte & 0xF) * kPixelsPerHalf, kPixelsPerHalf * sizeof *out);
+}
+
+void readMonoRow(const std::uint8_t* row, const std::uint32_t* table, std::uint32_t* out, int count) {
+  int x = 0;
+  for (; x + kPixelsPerByte <= count; x += kPixelsPerByte) readMonoByte(*row++, table, out + x);
+  if (x == count) return;
+  std::array<std::uint32_t, kPixelsPerByte> rest;
+  readMonoByte(*row, table, rest.data());
+  std::copy_n(rest.begin(), count - x, out + x);
+}
+
+void read16ColorRow(const std::uint8_t* row, const std::uint32_t* palette, std::uint32_t* out, int count) {
+  for (; count >= 2; count -= 2, ++row) {
+    *out++ = palette[*row >> 4];
+    *out++ = palette[*row & 0xF];
+  }
+  if (count == 1) *out = palette[*row >> 4];
+}
+
+void read256ColorRow(const std::uint8_t* row, const std::uint32_t* palette, std::uint32_t* out, int count) {
+  for (int x = 0; x < count; ++x) out[x] = palette[row[x]];
+}
+
+void read24BitRow(const std::uint8_t* row, const std::uint32_t*, std::uint32_t* out, int count) {
+  for (int x = 0; x < count; ++x) out[x] = pixelAt(row + x * kBytesPerTrueColor24);
+}
+
+void read32BitRow(const std::uint8_t* row, const std::uint32_t*, std::uint32_t* out, int count) {
+  for (int x = 0; x < count; ++x) {
+    const std::uint32_t value = littleEndian32(row + x * kBytesPerTrueColor32);
+    out[x] = (value >> 16 & 0xFF) | (value & 0xFF00) | (value & 0xFF) << 16;
+  }
+}
+
+// An alpha of 0 leaves the pixel opaque here: fully transparent pixels are told by the Mask alone.
+void readAlphaRow(const std::uint8_t* row, std::uint8_t* out, int count) {
+  for (int x = 0; x < count; ++x) {
+    const std::uint32_t alpha = littleEndian32(row + x * kBytesPerTrueColor32) >> 24;
+    out[x] = static_cast<std::uint8_t>(alpha == 0 ? kOpaque : alpha);
+  }
+}
+
+// What the row reader of a format looks its pixels up in: the file's colours, for two of them a MonoTable.
+Palette paletteFor(const std::uint8_t* bytes, const ImageFormat& format) {
+  Palette palette;
+  read32BitRow(bytes, nullptr, palette.data(), static_cast<int>(format.paletteCount));  // entries look like pixels
+  if (format.bits == 1) std::ranges::copy(monoTable(palette[0], palette[1]), palette.begin());
+  return palette;
+}
+
+using RowReader = void (*)(const std::uint8_t* row, const std::uint32_t* palette, std::uint32_t* out, int count);
+
+RowReader rowReaderFor(int bits) {
+  switch (bits) {
+    case 1:
+      return readMonoRow;
+    case 4:
+      return read16ColorRow;
+    case 8:
+      return read256ColorRow;
+    case kTrueColorBits24:
+      return read24BitRow;
+    default:
+      return read32BitRow;
+  }
+}
+
+// Rows stand bottom row first.
+Surface readRows(const std::uint8_t* rows, std::size_t stride, int width, int height, const std::uint32_t* palette,
+                 RowReader readRow) {
+  Surface surface(width, height);
+  std::uint32_t* out = surface.rowsForWriting(0, height, 0, width);
+  for (int y = 0; y < height; ++y, out += width)
+    readRow(rows + static_cast<std::size_t>(height - 1 - y) * stride, palette, out, width);
+  surface.makePersistent();
+  return surface;
+}
+
+AlphaMatrix readAlpha(const std::uint8_t* rows, const ImageFormat& format, int width, int height) {
+  if (format.paletteCount != 0) return {};
+  AlphaMatrix alpha(width, height, kOpaque);
+  if (format.bits != kTrueColorBits32) return alpha;
+  for (int y = 0; y < height; ++y)
+    readAlphaRow(rows + static_cast<std::size_t>(height - 1 - y) * format.imageStride, &alpha.at(0, y), width);
+  return alpha;
+}
+
+bool hasRowFormat(int colors) { return colors < 1 || colors == 2 || colors == 16 || colors == ico::kMaxPaletteColors; }
+
+IconDefect defectOfImage(std::span<const std::uint8_t> file, const IconEntry& entry) {
+  if (isPngImage(file, entry)) return IconDefect::PngImage;
+  return hasRowFormat(ColorsForEntry(entry, entry.bitCount)) ? IconDefect::None : IconDefect::StrangeDepth;
+}
+
+}  // namespace
+
+const char* describe(IconDefect defect) {
+  switch (defect) {
+    case IconDefect::None:
+      return "no defect";
+    case IconDefect::NotReadable:
+      return "not a file that can be read";
+    case IconDefect::NotAnIcon:
+      return "not an icon file";
+    case IconDefect::NoSuchEntry:
+      return "no image of that index";
+    case IconDefect::SizeNotOffered:
+      return "icon not of size 16x16, 24x24, 32x32 or 48x48";
+    case IconDefect::PngImage:
+      return "a PNG image, not a bitmap";
+    case IconDefect::StrangeDepth:
+      return "not of 1, 4, 8, 24 or 32 bits per pixel";
+    case IconDefect::StrangeTrueColor:
+      return "true color, but not of 24 or 32 bits per pixel";
+  }
+  return "";
+}
+
+DecodedIcon decodeEntry(std::span<const std::uint8_t> file, const IconEntry& entry, int width, int height) {
+  if (width < 1 || height < 1) return {IconDefect::SizeNotOffered, {}};
+  if (const IconDefect defect = defectOfImage(file, entry); defect != IconDefect::None) return {defect, {}};
+
+  const ImageFormat format = formatOf(entry, width);
+  const PaddedBytes image(file, std::uint64_t{entry.imageOffset} + ico::kBitmapHeaderSize, format.size(height));
+  const Palette palette = paletteFor(image.data(), format);
+  const std::uint8_t* const imageRows = image.data() + format.paletteBytes();
+  const std::uint8_t* const maskRows = imageRows + static_cast<std::size_t>(height) * format.imageStride;
+  return {IconDefect::None,
+          {readRows(imageRows, format.imageStride, width, height, palette.data(), rowReaderFor(format.bits)),
+           readRows(maskRows, format.maskStride, width, height, kMaskTable.data(), readMonoRow),
+           readAlpha(imageRows, format, width, height)}};
+}
+
+IconDefect defectOfEntry(std::span<const std::uint8_t> file, const IconEntry& entry) {
+  if (const IconDefect defect = defectOfImage(file, entry); defect != IconDefect::None) return defect;
+  const bool shown = ColorsForEntry(entry, entry.bitCount) != kTrueColor || entry.bitCount == kTrueColorBits24 ||
+                     entry.bitCount == kTrueColorBits32;
+  return shown ? IconDefect::None : IconDefect::StrangeTrueColor;
+}
+
+}  // namespace gp

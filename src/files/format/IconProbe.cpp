@@ -1,0 +1,122 @@
+#include "files/format/IconProbe.h"
+
+#include "colour/ColorCount.h"
+#include "document/IconContainerRec.h"
+#include "files/format/IconDecoder.h"
+#include "files/format/IconFileBytes.h"
+
+#include <array>
+
+namespace gp {
+namespace {
+
+constexpr int kOneEntry = 1;
+constexpr int kSeveralEntries = 2;
+constexpr int kPreferredSize = 32;
+constexpr int kPreferredBits = 8;
+
+bool isSquareIcon(const IconEntry& entry) { return entry.width == entry.height && isIconSize(entry.width); }
+
+// The checks on the first entry, without which a file does not count as an icon.
+bool isSound(const IconEntry& first) {
+  return first.width > 0 && first.height > 0 && first.bytesInRes > 0 && first.imageOffset > 0;
+}
+
+IconFacts nothingUsable(int kind) {
+  IconFacts facts;
+  facts.kind = kind;
+  return facts;
+}
+
+IconFacts probeSingle(std::span<const std::uint8_t> file, const IconDirectory& directory) {
+  const IconEntry entry = directory.entry(0);
+  if (!isIconSize(entry.width) || !isIconSize(entry.height)) return nothingUsable(kOneEntry);
+  IconFacts facts = factsOfEntry(file, directory, 0);
+  facts.usable = 1;
+  return facts;
+}
+
+// The scan over several entries. It goes on behind a first 32x32 entry even if that one has 8 bits.
+class EntryScan {
+ public:
+  EntryScan(std::span<const std::uint8_t> file, const IconDirectory& directory, bool preferEightBit)
+      : file_(file), directory_(directory), preferEightBit_(preferEightBit) {}
+
+  IconFacts run() {
+    for (int i = 0; i < static_cast<int>(directory_.entries.size()) && !stopped_; ++i) consider(i);
+    if (!met32_) return nothingUsable(kSeveralEntries);
+    IconFacts facts = factsOfEntry(file_, directory_, chosen_);
+    facts.usable = usable_;
+    return facts;
+  }
+
+ private:
+  void consider(int index) {
+    const IconEntry entry = directory_.entry(index);
+    if (!isSquareIcon(entry)) return;
+    ++usable_;
+    if (entry.width != kPreferredSize) {
+      if (!met32_) chosen_ = index;
+    } else if (!met32_) {
+      met32_ = true;
+      chosen_ = index;
+    } else if (headerBitCount(file_, entry) == kPreferredBits) {
+      chosen_ = index;
+      stopped_ = preferEightBit_;
+    }
+  }
+
+  std::span<const std::uint8_t> file_;
+  const IconDirectory& directory_;
+  const bool preferEightBit_;
+  int usable_ = 0;
+  int chosen_ = 0;
+  bool met32_ = false;
+  bool stopped_ = false;
+};
+
+bool isPaletteBitCount(int bits) { return bits == 1 || bits == 4 || bits == 8; }
+
+}  // namespace
+
+int IconFacts::bitCount() const {
+  return dirColors > 0 && !isPaletteBitCount(dirBits) ? convBPP_Upto24(dirColors) : dirBits;
+}
+
+std::string IconFacts::joined() const {
+  std::string text = std::to_string(kind);
+  for (const int number : {usable, chosen, width, height, dirColors, dirBits, headerColors, headerBits})
+    text += "/" + std::to_string(number);
+  return text;
+}
+
+IconFacts factsOfEntry(std::span<const std::uint8_t> file, const IconDirectory& directory, int index) {
+  const IconEntry entry = directory.entry(index);
+  IconFacts facts;
+  facts.kind = directory.count > 1 ? kSeveralEntries : kOneEntry;
+  facts.chosen = index;
+  facts.width = entry.width;
+  facts.height = entry.height;
+  facts.dirBits = entry.bitCount;
+  facts.dirColors = ColorsForEntry(entry, facts.dirBits);
+  facts.headerBits = headerBitCount(file, entry);
+  facts.headerColors = ColorsForEntry(entry, facts.headerBits);
+  return facts;
+}
+
+IconFacts probeIcon(std::span<const std::uint8_t> file, bool preferEightBit) {
+  const IconDirectory directory = parseIconDirectory(file);
+  if (!directory.isIcon() || !isSound(directory.entry(0))) return {};
+  return directory.count == 1 ? probeSingle(file, directory) : EntryScan(file, directory, preferEightBit).run();
+}
+
+IconFacts ProbeIconFile(const std::string& path, bool preferEightBit) {
+  const auto bytes = readIconFile(path);
+  return bytes ? probeIcon(bytes->span(), preferEightBit) : IconFacts{};
+}
+
+bool isUsableEntry(std::span<const std::uint8_t> file, const IconEntry& entry) {
+  return isSquareIcon(entry) && defectOfEntry(file, entry) == IconDefect::None;
+}
+
+}  // namespace gp

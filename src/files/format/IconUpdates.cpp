@@ -1,0 +1,76 @@
+#include "files/format/IconUpdates.h"
+
+#include "colour/ColorCount.h"
+#include "files/format/IconWriter.h"
+
+#include <utility>
+
+namespace gp {
+namespace {
+
+void setImage(IconArrays& arrays, int index, NewImage image) {
+  const IconEntry& told = image.entry;
+  IconEntry& entry = arrays.entries.at(static_cast<std::size_t>(index));
+  entry.width = told.width;
+  entry.height = told.height;
+  entry.colorCount = told.colorCount;
+  entry.bitCount = told.bitCount;
+  entry.bytesInRes = static_cast<std::uint32_t>(image.bytes.size());
+  arrays.images.at(static_cast<std::size_t>(index)) = arrays.added.emplace_back(std::move(image.bytes));
+}
+
+}  // namespace
+
+IconTraits traitsToWrite(const EditState& state) {
+  const int colors = colorsToWrite(state.picImage, state.current().dirColors);
+  const bool hasAlpha = colors == kTrueColor && isWrittenWithAlpha(state.current());
+  return {state.picImage.width(), state.picImage.height(), colors, hasAlpha ? kBitsWithAlpha : convBPP_Upto24(colors)};
+}
+
+IconTraits traitsOfEntry(const IconEntry& entry) {
+  return {entry.width, entry.height, ColorsForEntry(entry, entry.bitCount), entry.bitCount};
+}
+
+std::string colorText(const IconTraits& traits) {
+  if (traits.colors > 0) return std::to_string(traits.colors) + "-color";
+  return "True Color " + std::to_string(traits.bits) + " BPP";
+}
+
+int findSameIcon(const IconArrays& arrays, const IconTraits& traits, int except) {
+  for (int i = 0; i < arrays.count(); ++i)
+    if (i != except && traitsOfEntry(arrays.entries[static_cast<std::size_t>(i)]) == traits) return i;
+  return -1;
+}
+
+std::optional<NewImage> imageOfSingleIcon(FileBytes file) {
+  IconArrays arrays;
+  if (parseIconArrays(std::move(file), ReservedField::MustBeZero, arrays) != ArraysDefect::None) return std::nullopt;
+  if (arrays.count() != 1) return std::nullopt;
+  const ImageBytes image = arrays.images.front();
+  return NewImage{arrays.entries.front(), {image.begin(), image.end()}};
+}
+
+void replaceImage(IconArrays& arrays, int index, NewImage image) { setImage(arrays, index, std::move(image)); }
+
+void insertImage(IconArrays& arrays, int index, NewImage image) {
+  arrays.entries.emplace(arrays.entries.begin() + index)->planes = 1;
+  arrays.images.emplace(arrays.images.begin() + index);
+  setImage(arrays, index, std::move(image));
+}
+
+void removeImage(IconArrays& arrays, int index) {
+  arrays.entries.erase(arrays.entries.begin() + index);
+  arrays.images.erase(arrays.images.begin() + index);
+}
+
+void reorderImages(IconArrays& arrays, std::span<const int> order) {
+  const std::vector<IconEntry> entries = arrays.entries;
+  const std::vector<ImageBytes> images = arrays.images;
+  for (std::size_t place = 0; place < order.size(); ++place) {
+    const auto from = static_cast<std::size_t>(order[place]);
+    arrays.entries.at(place) = entries.at(from);
+    arrays.images.at(place) = images.at(from);
+  }
+}
+
+}  // namespace gp

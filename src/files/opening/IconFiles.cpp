@@ -1,0 +1,32 @@
+#include "files/opening/IconFiles.h"
+
+#include "files/FileQuestions.h"
+#include "files/format/IconFileBytes.h"
+#include "files/opening/IconLoading.h"
+#include "files/opening/IconOpening.h"
+
+namespace gp {
+
+IconFiles::IconFiles(const FilesContext& context, MultiIconCommands& multiIcon)
+    : context_(context), multiIcon_(multiIcon) {}
+
+void IconFiles::doMnuFileOpenIcon() {
+  openChosenFile(context_, kIconFilter, [this](const std::string& path, bool& ok) { doOpenIconFile(path, true, ok); });
+}
+
+void IconFiles::doOpenIconFile(const std::string& path, bool useBrowser, bool& ok) {
+  ok = IconOpening(context_, path, OpeningManner::Spoken, useBrowser ? &multiIcon_ : nullptr).run();
+}
+
+void IconFiles::doOpenIconFileQuietly(const std::string& path, bool& ok) {
+  ok = IconOpening(context_, path, OpeningManner::Quiet).run();
+}
+
+DecodedIcon IconFiles::ReadIconFileToImage(const std::string& path, int index, bool checkSize,
+                                           const std::optional<ReadSize>& size) {
+  const auto bytes = readIconFile(path);
+  if (!bytes) return {IconDefect::NotReadable, {}};
+  return loadIconImage(bytes->span(), index, checkSize, size);
+}
+
+}  // namespace gp

@@ -1,0 +1,122 @@
+#include "files/opening/IconOpening.h"
+
+#include "document/AlphaIndicator.h"
+#include "document/Containers.h"
+#include "document/Document.h"
+#include "document/EditState.h"
+#include "document/Editor.h"
+#include "document/Hourglass.h"
+#include "files/browser/MultiIconCommands.h"
+#include "files/format/IconFileBytes.h"
+#include "files/opening/IconLoading.h"
+#include "files/opening/IconMessages.h"
+
+namespace gp {
+namespace {
+
+constexpr const char* kUseBitmapMenu = "Please try to use Open Bitmap File menu instead.";
+constexpr const char* kInvalidFile =
+    "\n\nInvalid icon file or icon not a size of"
+    " 16x16, 24x24, 32x32 or 48x48.\n";
+constexpr const char* kNotOfSize = "\nIcon not of size 16x16, 24x24, 32x32 or 48x48.\n";
+constexpr const char* kFailedToLoad = "\nFailed to load this file";
+constexpr const char* kAlphaReminder =
+    "\nReminder:  The incoming icon is with Alpha Channel.  To view the icon with\n"
+    "alpha effects, or to edit the alpha values, invoke the Alpha Channel screen.\n"
+    "\n"
+    "(To remove Reminder, untick the related Option submenu)";
+constexpr const char* kHeaderReminder =
+    "\nReminder:  Header entries in the original file are discrepant.  (i) To permanently\n"
+    "correct the entries when the current image itself is OK, run Save icon function\n"
+    "of this program (until then, you see an asterisk in the Status Bar).  (ii) To view\n"
+    "the original header entries, run Enquiry - Original Header Entry (you will be able\n"
+    "to salvage the file basing on bitmap header entry instead, irrespective of the\n"
+    "actual color depth.)\n"
+    "\n"
+    "(To remove Reminder, untick the related Option submenu)";
+
+}  // namespace
+
+IconOpening::IconOpening(FilesContext& context, std::string path, OpeningManner manner, MultiIconCommands* browser)
+    : context_(context), state_(context.state), path_(std::move(path)), manner_(manner), browser_(browser) {}
+
+bool IconOpening::run() {
+  if (!probe() || !isSquare()) return false;
+  if (isBrowsed()) return browse();
+  if (!isOfferedSize() || !isConfirmed()) return false;
+  decoded_ = loadIconImage(bytes_.span(), facts_.chosen, true);
+  if (!decoded_.isRead()) return leaveEmpty(kFailedToLoad, BoxIcon::Exclamation);
+  if (!isShownDepth()) return leaveEmpty(kStrangeTrueColor, BoxIcon::Information);
+  show();
+  return true;
+}
+
+bool IconOpening::fail(const std::string& text, BoxIcon icon) {
+  if (isSpoken()) context_.boxes.tell(text, icon);
+  return false;
+}
+
+// Showing a container that is empty wipes the Surfaces, dims the tools and clears the status bar.
+bool IconOpening::leaveEmpty(const char* text, BoxIcon icon) {
+  ClearContainer(state_);
+  context_.document.iconsPanel.SwitchContainer(state_.mCurContainer);
+  return fail(path_ + text, icon);
+}
+
+bool IconOpening::probe() {
+  if (auto bytes = readIconFile(path_)) bytes_ = std::move(*bytes);
+  facts_ = probeIcon(bytes_.span(), true);
+  return facts_.canBeOpened() || fail(path_ + kInvalidFile + kUseBitmapMenu, BoxIcon::Exclamation);
+}
+
+bool IconOpening::isSquare() {
+  if (facts_.width == facts_.height) return true;
+  return fail("Width and height are different:   " + std::to_string(facts_.width) + " by " +
+                  std::to_string(facts_.height) + "\n" + kUseBitmapMenu,
+              BoxIcon::Exclamation);
+}
+
+bool IconOpening::browse() {
+  bytes_ = {};  // the browser reads the file itself
+  std::string answer;
+  browser_->MultiIconFileSubRoutine(path_, true, answer);
+  if (answer.empty()) return false;
+  remind();
+  return true;
+}
+
+bool IconOpening::isOfferedSize() {
+  return isIconSize(facts_.width) || fail(path_ + kNotOfSize + kUseBitmapMenu, BoxIcon::Exclamation);
+}
+
+bool IconOpening::isConfirmed() {
+  if (!isSpoken() || facts_.dirColors >= 0 || state_.process.gScreenBPP >= kManyColorsScreenBits) return true;
+  return ConfirmTrueColorOnLowScreen(context_.boxes);
+}
+
+bool IconOpening::isShownDepth() const {
+  const int bits = facts_.bitCount();
+  return facts_.dirColors >= 0 || bits == 24 || bits == 32;
+}
+
+void IconOpening::show() {
+  {
+    const Hourglass hourglass(state_, context_.display);
+    context_.document.arrival.arrive(decoded_.icon, recordOfLoadedIcon(facts_, decoded_.icon, path_));
+  }
+  if (!isSpoken()) return;
+  context_.editor.AddHistory(path_);
+  remind();
+}
+
+void IconOpening::remind() {
+  const IconContainerRec& record = state_.current();
+  if (state_.options.flagMessageIfAlpha && record.hasAlpha) {
+    flashAlphaIndicator(state_, context_.display, context_.pump);
+    context_.boxes.tell(kAlphaReminder, BoxIcon::Information);
+  }
+  if (state_.options.alertIfBadHeader && record.isDiscrepant())
+    context_.boxes.tell(kHeaderReminder, BoxIcon::Information);
+}
+
+}  // namespace gp

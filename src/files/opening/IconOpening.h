@@ -1,0 +1,51 @@
+// One opening of an icon file into the current container, from the probe to the reminders. It owns only what is known
+// of the file meanwhile. A file whose icon cannot be read leaves the container empty.
+#pragma once
+
+#include "files/FilesContext.h"
+#include "files/format/IconDecoder.h"
+#include "files/format/IconProbe.h"
+#include "platform/files/Files.h"
+#include "platform/ports/MessageBoxes.h"
+
+#include <string>
+
+namespace gp {
+
+// Spoken: boxes, confirmation, history and reminders. Quiet: none of them.
+enum class OpeningManner { Spoken, Quiet };
+
+class MultiIconCommands;
+
+class IconOpening {
+ public:
+  // A file with several icons is left to `browser`, unless that is null.
+  IconOpening(FilesContext& context, std::string path, OpeningManner manner, MultiIconCommands* browser = nullptr);
+  // True when an icon of the file stands in the current container and on the Editing Area.
+  bool run();
+
+ private:
+  bool probe();
+  bool isSquare();
+  bool isBrowsed() const { return browser_ != nullptr && facts_.hasSeveralEntries(); }
+  bool browse();
+  bool isOfferedSize();
+  bool isConfirmed();
+  void show();
+  bool isShownDepth() const;
+  void remind();
+  bool fail(const std::string& text, BoxIcon icon);
+  bool leaveEmpty(const char* text, BoxIcon icon);
+  bool isSpoken() const { return manner_ == OpeningManner::Spoken; }
+
+  FilesContext& context_;
+  EditState& state_;
+  const std::string path_;
+  const OpeningManner manner_;
+  MultiIconCommands* const browser_;
+  FileBytes bytes_;
+  IconFacts facts_;
+  DecodedIcon decoded_;
+};
+
+}  // namespace gp

@@ -1,0 +1,204 @@
+#include "files/saving/IconSaver.h"
+
+#include "document/Containers.h"
+#include "document/CurrentIconGuard.h"
+#include "document/Document.h"
+#include "document/EditState.h"
+#include "document/Editor.h"
+#include "document/Hourglass.h"
+#include "drawing/Drawing.h"
+#include "files/FileQuestions.h"
+#include "files/format/IconWriter.h"
+#include "files/opening/IconMessages.h"
+#include "files/saving/BitmapSaving.h"
+#include "platform/files/Files.h"
+#include "platform/text/Paths.h"
+#include "platform/text/Utf8.h"
+
+#include <algorithm>
+#include <array>
+
+namespace gp {
+namespace {
+
+constexpr const char* kIconEnding = ".ico";
+constexpr int kAniSize = 32;
+constexpr std::size_t kDiscrepancyPanel = static_cast<std::size_t>(StatusPanel::Discrepancy);
+
+constexpr const char* kBitmapQuestion = "Background color used will be the currently selected color.\nOK?\n";
+constexpr const char* kSaveQuestion = "Save current icon to file?";
+constexpr const char* kAniQuestion =
+    "Animated cursor session for 32x32 icons only\nTerminate animated cursor session?\n";
+constexpr const char* kCursorNotSaved = "Failed to save curosr";
+constexpr const char* kFileNotSaved = "Failed to save this file.";
+constexpr const char* kMultiIconReminder =
+    "Reminder:  The original icon file contains multiple icons.\n\n"
+    " If you don't wish to overwrite it, save to a different name.";
+
+std::string colorsInName(const IconContainerRec& record) {
+  return record.isTrueColor() ? std::to_string(record.bitCount) + "bpp" : std::to_string(record.dirColors);
+}
+
+}  // namespace
+
+struct IconSaver::SaveKind {
+  SaveMode mode;
+  const char* filter;
+  const char* extension;
+  void (IconSaver::*save)(const std::string& path, bool& ok);
+};
+
+const IconSaver::SaveKind& IconSaver::kindOf(SaveMode mode) {
+  static constexpr const char* kBitmapFilter = "Bitmap files (*.bmp)|*.bmp|(*.*)|*.*|";
+  static constexpr std::array<SaveKind, 4> kKinds{{
+      {SaveMode::Icon, kIconFilter, kIconExtension, &IconSaver::doSaveIconTo},
+      {SaveMode::Cursor, "cursor files (*.cur)|*.cur|", "cur", &IconSaver::saveCursorTo},
+      {SaveMode::Bitmap, kBitmapFilter, "bmp", &IconSaver::saveBitmapTo},
+      {SaveMode::Mask, kBitmapFilter, "bmp", &IconSaver::saveMaskTo},
+  }};
+  return *std::ranges::find(kKinds, mode, &SaveKind::mode);
+}
+
+IconSaver::IconSaver(const FilesContext& context, CursorFiles& cursors)
+    : context_(context), state_(context.state), cursors_(cursors) {}
+
+void IconSaver::saveAsCursor() { cursors_.openPanel(); }
+
+void IconSaver::saveAsBitmap() {
+  if (context_.boxes.ask(kBitmapQuestion)) doSaveAs(SaveMode::Bitmap);
+}
+
+// New Icon.
+
+void IconSaver::doNewIcon(int size) {
+  if (endsAniSession(size) && mayCurrentIconGo(context_)) showNewIcon(size);
+}
+
+// The frames of an animated cursor are of one size; a new icon of another ends the session. False on a refusal.
+bool IconSaver::endsAniSession(int size) {
+  if (!state_.screen.aniContainerVisible) {
+    context_.editor.closePanels();
+    return true;
+  }
+  if (size == kAniSize) return true;
+  if (!context_.boxes.ask(kAniQuestion)) return false;
+  closeSidePanels();
+  return true;
+}
+
+void IconSaver::showNewIcon(int size) {
+  context_.document.arrival.arrive(transparentIcon(size), NewRecord());
+  context_.drawing.tools.selectTool(kPaint);
+}
+
+void IconSaver::closeSidePanels() {
+  context_.editor.closePanels();
+  if (!state_.screen.aniContainerVisible) return;
+  state_.screen.aniContainerVisible = false;
+  context_.display.changed(DisplayPart::Panel);
+}
+
+// Saving.
+
+void IconSaver::AskSaveCurrent(const std::string& message, bool& proceed) {
+  mSaveFailed_ = false;
+  const std::string text = message.empty() ? kSaveQuestion : kSaveQuestion + ("\n\n" + message) + "\n";
+  const BoxAnswer answer = context_.boxes.show(text, BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Yes);
+  if (answer == BoxAnswer::Yes) {
+    context_.document.iconsPanel.CommitPendingPaint();
+    doFileSave();
+  }
+  proceed = answer == BoxAnswer::No || (answer == BoxAnswer::Yes && !mSaveFailed_);
+}
+
+void IconSaver::doFileSave() {
+  const IconContainerRec& record = state_.current();
+  const std::string path = record.path.trimmed();
+  if (record.fromMultiIconFile || !endsWithAnyCase(path, kIconEnding) || !FileExists(path))
+    return doSaveAs(SaveMode::Icon);
+  bool ok = false;
+  doSaveIconTo(path, ok);
+}
+
+void IconSaver::doSaveIconTo(const std::string& path, bool& ok) {
+  ok = writeCurrentIcon(state_, path);
+  if (!ok) {
+    mSaveFailed_ = true;
+    tellIconNotSaved(context_.boxes, path);
+    return;
+  }
+  describeSavedIcon(state_, path);
+  state_.screen.lblStatusPanel[kDiscrepancyPanel].clear();
+  context_.display.changed(DisplayPart::StatusBar);
+  context_.document.editingArea.UpdatePanelFromCurrent();
+  context_.document.editingArea.RefreshStatusBar();
+  context_.editor.AddHistory(path);
+}
+
+void IconSaver::doSaveAs(SaveMode mode) {
+  const SaveKind& kind = kindOf(mode);
+  closeSidePanels();
+  context_.document.iconsPanel.EndToolAction();
+  context_.drawing.regions.clearRegion();
+  if (mode == SaveMode::Icon) remindOfMultiIconFile();
+  const std::string path = askForName(kind);
+  if (path.empty()) {
+    mSaveFailed_ = true;
+    return;
+  }
+  lastSavedFile_ = path;
+  bool ok = false;
+  (this->*kind.save)(path, ok);
+  if (!ok)
+    mSaveFailed_ = true;
+  else if (mode == SaveMode::Icon)
+    state_.current().modified = false;
+}
+
+void IconSaver::remindOfMultiIconFile() {
+  if (state_.current().fromMultiIconFile) context_.boxes.tell(kMultiIconReminder, BoxIcon::Information);
+}
+
+std::string IconSaver::proposedName(SaveMode mode) const {
+  const IconContainerRec& record = state_.current();
+  std::string name = record.path.trimmed();
+  if (name.find('.') != std::string::npos) name = ParseFileName(name, PathPart::BareName);
+  if (mode == SaveMode::Mask) return name + "_Mask";
+  if (record.fromMultiIconFile) name += "_" + std::to_string(record.size) + "_" + colorsInName(record);
+  return name;
+}
+
+std::string IconSaver::askForName(const SaveKind& kind) {
+  return askToSave(context_, proposedName(kind.mode), kind.filter, kind.extension);
+}
+
+// The icon that is on the Editing Area does not become that cursor.
+void IconSaver::saveCursorTo(const std::string& path, bool& ok) {
+  cursors_.WriteCursorFile(path, ok);
+  if (!ok) return context_.boxes.tell(HasFileAttribute(path) ? kReadOnlyFile : kCursorNotSaved, BoxIcon::Exclamation);
+  context_.document.editingArea.UpdatePanelFromCurrent();
+  context_.document.editingArea.RefreshStatusBar();
+}
+
+// Bitmaps.
+
+void IconSaver::saveBitmapTo(const std::string& path, bool& ok) {
+  // Transparent pixels take the current colour.
+  SaveBitmap(composedForBitmap(state_, state_.mCurrentColor), path, ok);
+  context_.document.editingArea.UpdatePanelFromCurrent();
+}
+
+void IconSaver::saveMaskTo(const std::string& path, bool& ok) {
+  state_.picMask.makePersistent();
+  SaveBitmap(state_.picMask, path, ok);
+}
+
+void IconSaver::SaveBitmap(const Surface& surface, const std::string& path, bool& ok) {
+  {
+    const Hourglass hourglass(state_, context_.display);
+    ok = saveByColors(surface, path);
+  }
+  if (!ok) context_.boxes.tell(kFileNotSaved, BoxIcon::Exclamation);
+}
+
+}  // namespace gp

@@ -1,0 +1,139 @@
+#include "files/saving/MultiIconReplace.h"
+
+#include "document/Document.h"
+#include "document/EditState.h"
+#include "document/Editor.h"
+#include "document/Hourglass.h"
+#include "document/Messages.h"
+#include "files/FileQuestions.h"
+#include "files/saving/MultiIconSaving.h"
+#include "files/saving/MultiIconTexts.h"
+#include "files/saving/PanelFiles.h"
+#include "files/saving/ScratchIcon.h"
+#include "platform/ports/MessageBoxes.h"
+#include "platform/text/Paths.h"
+
+#include <utility>
+#include <vector>
+
+namespace gp {
+namespace {
+
+constexpr const char* kReplaceFilter = "Icon files (*.ico)|*.ico|(*.*)|*.*|";
+constexpr const char* kNotMade = "Failed to save current icon - preparation";
+constexpr const char* kNotLoaded = "Failed to save current icon - at loading preparation stage";
+constexpr const char* kNotReopened = "Failed to save current icon - at re-opening original file stage";
+
+std::string questionFor(const std::string& ref) {
+  return "The current icon is originated from Index Ref. " + ref +
+         " in the multi-icon file.\n"
+         "The file saved will have the current icon replacing its original one in\n"
+         "the file, i.e. Ref " +
+         ref +
+         ", while others remain unchanged.   (You can run\n"
+         "\"Enquiry - Show Icons In Multi-Icon File\" to inspect the original icon)\n"
+         "\n"
+         "Proceed?\n";
+}
+
+}  // namespace
+
+MultiIconReplace::MultiIconReplace(FilesContext& context, const std::string& scratchFile)
+    : context_(context),
+      state_(context.state),
+      scratchFile_(scratchFile),
+      original_(context.state.current().path.trimmed()),
+      index_(context.state.current().multiIconIndex) {}
+
+void MultiIconReplace::run() {
+  finishCurrentIcon(context_);
+  if (!isConfirmed() || !readOriginal() || !isAllowed()) return;
+  const std::string path = askForName();
+  if (path.empty() || !isInNoOtherContainer(path)) return;
+  auto image = makeImage();
+  if (!image || !readOriginalAgain()) return;
+  replaceImage(arrays_, index_, std::move(*image));
+  if (write(path))
+    describeSaved(path);
+  else
+    fail(notWrittenText(path, SaveInto::Replace));
+}
+
+bool MultiIconReplace::fail(const std::string& text) {
+  tellFailure(context_, text);
+  return false;
+}
+
+bool MultiIconReplace::isConfirmed() {
+  if (!FileExists(original_)) return fail(original_ + kFileGone);
+  return context_.boxes.ask(questionFor(std::to_string(index_ + 1)));
+}
+
+bool MultiIconReplace::readOriginal() {
+  return readIconArrays(original_, ReservedField::MustBeZero, arrays_) == ArraysDefect::None || fail(kReplaceNotRead);
+}
+
+bool MultiIconReplace::isAllowed() {
+  traits_ = traitsToWrite(state_);
+  const int same = findSameIcon(arrays_, traits_, index_);
+  if (same >= 0)
+    context_.boxes.tell(sameIconText(traits_, SaveInto::Replace));
+  else if (index_ < 0 || index_ >= arrays_.count())
+    context_.boxes.tell(kReplaceEntryGone);
+  else
+    return true;
+  return false;
+}
+
+// The question has promised to write to the original file, wherever the last dialog was.
+std::string MultiIconReplace::askForName() {
+  return askToSave(context_, ParseFileName(original_, PathPart::BareName), kReplaceFilter, kIconExtension,
+                   OverwriteQuestion::ByDialog, ParseFileName(original_, PathPart::DriveAndFolder));
+}
+
+// That icon knows its entry by its index, which would be another's afterwards.
+bool MultiIconReplace::isInNoOtherContainer(const std::string& path) {
+  if (isFileOf(state_.current(), path)) return true;
+  const auto container = findContainerOf(state_, path);
+  if (container) context_.boxes.tell(openedInPanelText(*container));
+  return !container;
+}
+
+std::optional<NewImage> MultiIconReplace::makeImage() {
+  std::optional<NewImage> image;
+  const ScratchDefect defect = makeNewImage(state_, scratchFile_, original_, image);
+  if (defect != ScratchDefect::None) fail(defect == ScratchDefect::NotWritten ? kNotMade : kNotLoaded);
+  return image;
+}
+
+// The dialog may have been open for long. A directory that is not the one that was checked is not written over.
+bool MultiIconReplace::readOriginalAgain() {
+  const std::vector<IconEntry> checked = std::move(arrays_.entries);
+  arrays_ = {};
+  if (readIconArrays(original_, ReservedField::MustBeZero, arrays_) != ArraysDefect::None) return fail(kNotReopened);
+  if (arrays_.entries == checked) return true;
+  context_.boxes.tell(kReplaceEntryGone);
+  return false;
+}
+
+bool MultiIconReplace::write(const std::string& path) {
+  const Hourglass hourglass(state_, context_.display);
+  const bool isOriginal = isSameFile(path, original_);
+  const FileBytes other = isOriginal ? FileBytes() : contentToPutBack(path);
+  return writeWholeFile(arrays_, path, isOriginal ? arrays_.file.span() : other.span());
+}
+
+void MultiIconReplace::describeSaved(const std::string& path) {
+  IconContainerRec& record = state_.current();
+  record.path = path;
+  record.dirColors = record.bihColors = traits_.colors;
+  record.bitCount = record.bihBitCount = static_cast<std::int16_t>(traits_.bits);
+  record.neverSaved = record.modified = false;
+  state_.screen.lblStatusPanel[static_cast<std::size_t>(StatusPanel::Discrepancy)].clear();
+  context_.display.changed(DisplayPart::StatusBar);
+  context_.document.editingArea.RefreshStatusBar();
+  context_.editor.UpdateCommands();
+  context_.editor.AddHistory(path);
+}
+
+}  // namespace gp

@@ -1,0 +1,40 @@
+#include "files/saving/ScratchIcon.h"
+
+#include "files/format/IconWriter.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace gp {
+namespace {
+
+void removeFile(const std::string& path) {
+  std::error_code ignored;
+  std::filesystem::remove(path, ignored);
+}
+
+class ScratchFile {
+ public:
+  // A former one goes first: it might be a link to a file that is to stay.
+  explicit ScratchFile(const std::string& path) : path_(path) { removeFile(path_); }
+  ~ScratchFile() { removeFile(path_); }
+  ScratchFile(const ScratchFile&) = delete;
+  ScratchFile& operator=(const ScratchFile&) = delete;
+
+ private:
+  const std::string& path_;
+};
+
+}  // namespace
+
+ScratchDefect makeNewImage(const EditState& state, const std::string& scratchFile, const std::string& target,
+                           std::optional<NewImage>& image) {
+  image.reset();
+  if (isSameFile(scratchFile, target)) return ScratchDefect::NotWritten;
+  const ScratchFile scratch(scratchFile);
+  if (!writeCurrentIcon(state, scratchFile)) return ScratchDefect::NotWritten;
+  if (auto bytes = readFile(scratchFile)) image = imageOfSingleIcon(std::move(*bytes));
+  return image ? ScratchDefect::None : ScratchDefect::NotRead;
+}
+
+}  // namespace gp

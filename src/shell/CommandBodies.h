@@ -1,0 +1,70 @@
+// How a row of the command table names its body: call<&IconSaver::doFileSave>, with fixed arguments
+// call<&IconSaver::doNewIcon, 32>, or with the index of its control callWithIndex<&Tools::setBrush>.
+#pragma once
+
+#include "effects/ConfinePanel.h"
+#include "shell/Shell.h"
+
+#include <type_traits>
+
+namespace gp::bodies {
+
+// The object whose method a command calls.
+inline Shell& ownerIn(Shell& shell, std::type_identity<Shell>) { return shell; }
+inline EditingAreaOptions& ownerIn(Shell& shell, std::type_identity<EditingAreaOptions>) {
+  return shell.document().areaOptions;
+}
+inline PaletteFile& ownerIn(Shell& shell, std::type_identity<PaletteFile>) { return shell.colour().paletteFile; }
+inline ColorSelection& ownerIn(Shell& shell, std::type_identity<ColorSelection>) { return shell.colour().selection; }
+inline Tools& ownerIn(Shell& shell, std::type_identity<Tools>) { return shell.drawing().tools; }
+inline UndoCommands& ownerIn(Shell& shell, std::type_identity<UndoCommands>) { return shell.drawing().undo; }
+inline ClipboardCommands& ownerIn(Shell& shell, std::type_identity<ClipboardCommands>) {
+  return shell.drawing().clipboardCommands;
+}
+inline ContainerCopies& ownerIn(Shell& shell, std::type_identity<ContainerCopies>) {
+  return shell.drawing().containerCopies;
+}
+inline Transforms& ownerIn(Shell& shell, std::type_identity<Transforms>) { return shell.drawing().transforms; }
+inline IconFiles& ownerIn(Shell& shell, std::type_identity<IconFiles>) { return shell.files().iconFiles; }
+inline CursorFiles& ownerIn(Shell& shell, std::type_identity<CursorFiles>) { return shell.files().cursorFiles; }
+inline IconSaver& ownerIn(Shell& shell, std::type_identity<IconSaver>) { return shell.files().iconSaver; }
+inline MultiIconCommands& ownerIn(Shell& shell, std::type_identity<MultiIconCommands>) {
+  return shell.files().multiIcon;
+}
+inline Effects& ownerIn(Shell& shell, std::type_identity<Effects>) { return shell.effects(); }
+inline Enquiry& ownerIn(Shell& shell, std::type_identity<Enquiry>) { return shell.output().enquiry; }
+
+template <class Method>
+struct OwnerOf;
+template <class Owner, class... Parameters>
+struct OwnerOf<void (Owner::*)(Parameters...)> {
+  using Type = Owner;
+};
+
+template <auto kMethod>
+auto& ownerOf(Shell& shell) {
+  return ownerIn(shell, std::type_identity<typename OwnerOf<decltype(kMethod)>::Type>());
+}
+
+// Calls the method with fixed arguments.
+template <auto kMethod, auto... kArguments>
+void call(Shell& shell, int /*index*/) {
+  (ownerOf<kMethod>(shell).*kMethod)(kArguments...);
+}
+
+// Calls the method with the index of the control.
+template <auto kMethod>
+void callWithIndex(Shell& shell, int index) {
+  (ownerOf<kMethod>(shell).*kMethod)(index);
+}
+
+inline void confineColors(Shell& shell, int index) { shell.effects().panel<ConfinePanel>().doConfineColors(index); }
+
+// Under a side panel the frame would not be seen.
+template <auto kShowFrame>
+void showColorFrame(Shell& shell, int index) {
+  shell.closePanels();
+  call<kShowFrame>(shell, index);
+}
+
+}  // namespace gp::bodies

@@ -1,0 +1,65 @@
+#include "shell/CommandNeeds.h"
+
+#include "document/Messages.h"
+#include "document/PanelNumbers.h"
+#include "platform/ports/Clipboard.h"
+#include "shell/Shell.h"
+
+namespace gp::needs {
+
+namespace {
+
+constexpr const char* kMet = nullptr;
+constexpr const char* kQuietly = "";
+constexpr int kCursorSize = 32;
+
+const IconContainerRec& record(const Shell& shell) { return shell.state().current(); }
+
+// For what an icon must have: without an icon that is said first.
+const char* iconWith(const Shell& shell, bool isMet, const char* refusal = kQuietly) {
+  if (!record(shell).present) return kNoIconYet;
+  return isMet ? kMet : refusal;
+}
+
+const char* quietly(bool isMet) { return isMet ? kMet : kQuietly; }
+
+}  // namespace
+
+const char* always(const Shell&, int) { return kMet; }
+const char* icon(const Shell& shell, int) { return iconWith(shell, true); }
+const char* iconQuietly(const Shell& shell, int) { return quietly(record(shell).present); }
+
+const char* multiIconFile(const Shell& shell, int) { return iconWith(shell, record(shell).fromMultiIconFile); }
+const char* singleIconFile(const Shell& shell, int) { return iconWith(shell, !record(shell).fromMultiIconFile); }
+const char* cursorSize(const Shell& shell, int) {
+  return iconWith(shell, record(shell).size == kCursorSize, "For cursor of 32x32 only");
+}
+const char* alpha(const Shell& shell, int) { return iconWith(shell, record(shell).hasAlpha); }
+const char* cursor(const Shell& shell, int) { return iconWith(shell, record(shell).isCursor); }
+const char* discrepancy(const Shell& shell, int) { return iconWith(shell, record(shell).isDiscrepant()); }
+const char* effect(const Shell& shell, int index) { return iconWith(shell, shell.effects().has(index)); }
+
+const char* colorPicker(const Shell& shell, int) {
+  const ScreenState& screen = shell.state().screen;
+  return iconWith(shell, screen.mActivePanel == kColorPanel && screen.colorFrame == ColorFrame::Chart256);
+}
+
+const char* region(const Shell& shell, int) { return quietly(record(shell).present && shell.state().mRegionExists); }
+const char* noRegion(const Shell& shell, int) { return quietly(!shell.state().mRegionActive); }
+const char* undoStep(const Shell& shell, int) { return iconWith(shell, shell.drawing().history.canUndo()); }
+const char* redoStep(const Shell& shell, int) { return iconWith(shell, shell.drawing().history.canRedo()); }
+
+const char* clipboardPicture(const Shell& shell, int) {
+  if (shell.state().screen.mActivePanel == kIconsListPanel) return kQuietly;
+  return shell.ports().clipboard.hasImage() ? kMet : kNoClipboardImage;
+}
+
+const char* otherContainer(const Shell& shell, int index) {
+  return iconWith(shell, index != shell.state().mCurContainer, "Cannot copy to current container itself");
+}
+const char* otherUsedContainer(const Shell& shell, int index) {
+  if (!shell.state().mIconRecs.at(static_cast<std::size_t>(index)).used) return "Cannot copy from empty container";
+  return quietly(index != shell.state().mCurContainer);
+}
+
+}  // namespace gp::needs

@@ -1,0 +1,31 @@
+// What commands need, one function for each kind of need: null when it is met, otherwise the text of the box that says
+// why not, which is empty where nothing is said. Menus and toolbar show a command whose need is not met as disabled.
+#pragma once
+
+namespace gp {
+
+class Shell;
+
+namespace needs {
+
+const char* always(const Shell& shell, int index);
+const char* icon(const Shell& shell, int index);
+const char* iconQuietly(const Shell& shell, int index);
+const char* multiIconFile(const Shell& shell, int index);
+const char* singleIconFile(const Shell& shell, int index);
+const char* cursorSize(const Shell& shell, int index);
+const char* alpha(const Shell& shell, int index);
+const char* cursor(const Shell& shell, int index);
+const char* discrepancy(const Shell& shell, int index);
+const char* effect(const Shell& shell, int index);
+const char* colorPicker(const Shell& shell, int index);
+const char* region(const Shell& shell, int index);
+const char* noRegion(const Shell& shell, int index);
+const char* undoStep(const Shell& shell, int index);
+const char* redoStep(const Shell& shell, int index);
+const char* clipboardPicture(const Shell& shell, int index);
+const char* otherContainer(const Shell& shell, int index);
+const char* otherUsedContainer(const Shell& shell, int index);
+
+}  // namespace needs
+}  // namespace gp
