@@ -6,20 +6,20 @@ namespace gp {
 
 Drawing::Drawing(const Context& context, Document& document, ColorSelection& colors, Clipboard& clipboard)
     : history(context, document.editingArea),
-      regions(context, document.editingArea, drawState_),
-      tools(context, document.iconsPanel, colors, history, regions, drawState_),
+      regions(context, document.editingArea, drawState),
+      tools(context, document.iconsPanel, colors, history, regions, drawState),
       undo(context, document.editingArea, history, regions, tools),
       shift(context, document.editingArea, history, tools),
       rotatePanel(context, document.editingArea, history, regions),
       transforms(context, document.editingArea, history, regions, tools, rotatePanel),
       clipboardCommands(context, document, history, regions, tools, clipboard),
       containerCopies(context, document, regions),
-      freehand_(context, document.editingArea, history, drawState_),
-      restore_(context, document.editingArea, drawState_),
+      freehand_(context, document.editingArea, history, drawState),
+      restore_(context, document.editingArea, drawState),
       fill_(context, document.editingArea, history),
       replace_(context, document.editingArea, history),
-      shapes_(context, document.editingArea, history, drawState_),
-      region_(context, drawState_, history, regions, tools) {
+      shapes_(context, document.editingArea, history, drawState),
+      region_(context, drawState, history, regions, tools) {
   const struct {
     Tool tool;
     DrawingTool& worker;

@@ -27,10 +27,8 @@ class Drawing {
  public:
   Drawing(const Context& context, Document& document, ColorSelection& colors, Clipboard& clipboard);
 
- private:
-  DrawState drawState_;
-
- public:
+  // What is being drawn while the mouse is down.
+  DrawState drawState;
   UndoHistory history;
   Regions regions;
   Tools tools;

@@ -26,37 +26,20 @@ class RecordingDisplay : public Display {
 class FakeEditor : public Editor {
  public:
   std::vector<std::string> calls;  // names in the order of the calls
-  int tool = 0;
-  bool pickerSelected = false;
+  Tool tool = kNoTool;
   bool askSaveProceeds = true;
-  int colorCount = 16;
+  bool openSucceeds = true;
 
   int count(const std::string& name) const { return static_cast<int>(std::count(calls.begin(), calls.end(), name)); }
 
-  void ClearContainer() override { log("ClearContainer"); }
-  void CommitPendingPaint() override { log("CommitPendingPaint"); }
-  void EndToolAction() override { log("EndToolAction"); }
-  void SwitchContainer(int container) override { log("SwitchContainer " + std::to_string(container)); }
-  void SizeEditSurfaces(int size) override { log("SizeEditSurfaces " + std::to_string(size)); }
-  void SizePanelSurfaces(int size) override { log("SizePanelSurfaces " + std::to_string(size)); }
-  void ComposeCurrentIcon() override { log("ComposeCurrentIcon"); }
-  void UpdatePanelFromCurrent() override { log("UpdatePanelFromCurrent"); }
-  void MagnifyIcon() override { log("MagnifyIcon"); }
-  void ShowCurrentIcon() override { log("ShowCurrentIcon"); }
-  void RefreshStatusBar() override { log("RefreshStatusBar"); }
-  void ClearStatusBar() override { log("ClearStatusBar"); }
   void chooseColorChart() override { log("chooseColorChart"); }
   void showChart16() override { log("showChart16"); }
-  void deselectColorPicker() override { pickerSelected = false; }
-  bool isColorPickerSelected() const override { return pickerSelected; }
   void clearAllTools() override { log("clearAllTools"); }
-  void selectTool(int index) override { log("selectTool " + std::to_string(index)); }
-  int selectedTool() const override { return tool; }
+  Tool selectedTool() const override { return tool; }
   void clearRegion() override { log("clearRegion"); }
   void redrawRegion() override { log("redrawRegion"); }
   void recordUndo() override { log("recordUndo"); }
   void clearUndoHistory() override { log("clearUndoHistory"); }
-  void doOpenIconFile(const std::string& path, bool, bool& ok) override { log("doOpenIconFile " + path), ok = true; }
   void doOpenIconFileQuietly(const std::string& path, bool& ok) override {
     log("doOpenIconFileQuietly " + path), ok = openSucceeds;
   }
@@ -66,16 +49,13 @@ class FakeEditor : public Editor {
   void setHotspotByClick(int x, int y) override {
     log("setHotspotByClick " + std::to_string(x) + " " + std::to_string(y));
   }
-  int colorBitCountOfImage() const override { return colorCount; }
   void UpdateCommands() override { log("UpdateCommands"); }
   void showPanel(int panel) override { log("showPanel " + std::to_string(panel)); }
   void closePanels() override { log("closePanels"); }
   void AddHistory(const std::string& path) override { log("AddHistory " + path); }
   void ShowRunTimeError(const std::string& name, const std::string&) override { log("ShowRunTimeError " + name); }
 
-  bool openSucceeds = true;
-
- private:
+ protected:
   void log(const std::string& call) { calls.push_back(call); }
 };
 
