@@ -20,7 +20,8 @@ class RecordingDisplay : public Display {
   void showPopUpMenu() override { ++popUpMenus; }
   void nudgeMousePointer() override { ++nudges; }
   void focusColorValue() override { ++colorValueFocuses; }
-  bool told(DisplayPart part) const { return std::find(parts.begin(), parts.end(), part) != parts.end(); }
+  int count(DisplayPart part) const { return static_cast<int>(std::count(parts.begin(), parts.end(), part)); }
+  bool told(DisplayPart part) const { return count(part) > 0; }
 };
 
 class FakeEditor : public Editor {

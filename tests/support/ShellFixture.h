@@ -14,7 +14,7 @@
 
 namespace gp::test {
 
-class FakeForm : public MainForm {
+class FakeForm : public ShellForms, public FileForms {
  public:
   FormPlace now;
   int abouts = 0, unloads = 0, maximizes = 0, multiIcons = 0, headerDiffs = 0;
@@ -51,7 +51,7 @@ class ShellFixture : public testing::Test {
   EditState state;
   Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures}, display, folder.path()};
 
-  ShellFixture() { shell.attach(&form); }
+  ShellFixture() { shell.attach(&form, &form); }
   // Load and the first Activate, as app/ does them.
   void start(const std::string& commandLine = "") {
     shell.formLoad();
@@ -65,8 +65,8 @@ class ShellFixture : public testing::Test {
     return {kLeftButton, 0, (static_cast<float>(pixelX) + 0.5F) * m, (static_cast<float>(pixelY) + 0.5F) * m};
   }
   void paint(int pixelX, int pixelY) {
-    shell.tools().press(at(pixelX, pixelY));
-    shell.tools().release(at(pixelX, pixelY));
+    shell.drawing().tools.press(at(pixelX, pixelY));
+    shell.drawing().tools.release(at(pixelX, pixelY));
   }
   std::string status(StatusPanel panel) const { return state.screen.lblStatusPanel[static_cast<std::size_t>(panel)]; }
 };
