@@ -72,13 +72,7 @@ TEST(ClearContainer, EmptiesOnlyTheSurfacesOfTheCurrentContainer) {
 }
 
 TEST(NewRecord, IsAnUntitledIconThatWasNeverChanged) {
-  EditState state;
-  IconContainerRec& record = state.current();
-  record.modified = true;
-  record.neverSaved = true;
-  record.fromMultiIconFile = true;
-  record.hotspotX = 9;
-  NewRecord(state);
+  const IconContainerRec record = NewRecord();
   EXPECT_TRUE(record.used);
   EXPECT_TRUE(record.present);
   EXPECT_EQ(record.sourceLabel.trimmed(), "New icon");

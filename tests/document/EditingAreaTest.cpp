@@ -1,29 +1,16 @@
-#include "document/EditingArea.h"
+#include "document/DocumentFixture.h"
 #include "document/PatternCells.h"
 #include "platform/gdi/Pens.h"
-#include "support/FakeEditor.h"
-#include "support/ScriptedPorts.h"
 
 #include <algorithm>
-#include <gtest/gtest.h>
 
 namespace gp {
 namespace {
 
-using test::FakeEditor;
-using test::RecordingDisplay;
-using test::ScriptedPump;
-
 constexpr int kRed = 0x0000FF;
 
-class EditingAreaTest : public testing::Test {
+class EditingAreaTest : public test::DocumentFixture {
  protected:
-  EditState state;
-  FakeEditor editor;
-  RecordingDisplay display;
-  ScriptedPump pump;
-  EditingArea area{state, editor, display, pump};
-
   // An icon with one red pixel at (0, 0) and one opaque black one at (1, 0); all others are transparent.
   void makeIcon(int size) {
     state.current().used = state.current().present = true;
@@ -40,12 +27,6 @@ class EditingAreaTest : public testing::Test {
   void room(int width, int height) {
     state.screen.dispContainerWidth = width;
     state.screen.dispContainerHeight = height;
-  }
-  int countPixels(const Surface& surface, Color color) {
-    int count = 0;
-    for (int y = 0; y < surface.height(); ++y)
-      for (int x = 0; x < surface.width(); ++x) count += surface.GetPixel(x, y) == color;
-    return count;
   }
 };
 
@@ -105,7 +86,7 @@ TEST_F(EditingAreaTest, UpdatingThePanelCopiesImageMaskAndComposite) {
 
 TEST_F(EditingAreaTest, LightLinesStandAtEveryMultipleOfTheFactorInside) {
   makeIcon(16);
-  area.SetGrid(0);
+  options.SetGrid(0);
   const Surface& grid = state.PicGrid;
   EXPECT_EQ(grid.width(), 192);
   EXPECT_EQ(grid.height(), 192);
@@ -120,13 +101,13 @@ TEST_F(EditingAreaTest, LightLinesStandAtEveryMultipleOfTheFactorInside) {
 
 TEST_F(EditingAreaTest, DarkLinesAreBlack) {
   makeIcon(16);
-  area.SetGrid(1);
+  options.SetGrid(1);
   EXPECT_EQ(state.PicGrid.GetPixel(12, 5), kBlack);
 }
 
 TEST_F(EditingAreaTest, ADottedGridSetsTheInnerIntersectionsOnly) {
   makeIcon(16);
-  area.SetGrid(2);
+  options.SetGrid(2);
   EXPECT_EQ(countPixels(state.PicGrid, 0x800000), 15 * 15);
   for (int i = 0; i < 192; ++i) {
     EXPECT_EQ(state.PicGrid.GetPixel(i, 0), kWhite);
@@ -137,7 +118,7 @@ TEST_F(EditingAreaTest, ADottedGridSetsTheInnerIntersectionsOnly) {
 
 TEST_F(EditingAreaTest, WithNoGridPicGridStaysWhiteAndNothingIsLaidOver) {
   makeIcon(16);
-  area.SetGrid(6);
+  options.SetGrid(6);
   EXPECT_EQ(countPixels(state.PicGrid, kWhite), 192 * 192);
   EXPECT_EQ(state.picDisp.GetPixel(0, 0), kRed);
   EXPECT_EQ(state.picDisp.GetPixel(12, 0), kBlack);
@@ -146,7 +127,7 @@ TEST_F(EditingAreaTest, WithNoGridPicGridStaysWhiteAndNothingIsLaidOver) {
 
 TEST_F(EditingAreaTest, APlainGridShowsTheGroundThroughATransparentPixel) {
   makeIcon(16);
-  area.SetGrid(0);
+  options.SetGrid(0);
   EXPECT_EQ(state.picDisp.GetPixel(12 * 4 + 3, 12 * 4 + 3), kGround);
   EXPECT_EQ(state.picDisp.GetPixel(12 * 4, 12 * 4 + 3), kGround & 0x606060);
 }
@@ -154,16 +135,19 @@ TEST_F(EditingAreaTest, APlainGridShowsTheGroundThroughATransparentPixel) {
 TEST_F(EditingAreaTest, APatternFillsAnAreaThatGotAnotherSizeWhileItWasBuilt) {
   makeIcon(32);
   state.gGridColor = gridColorOf(3);
-  pump.inside = [this] { area.setRoom(520, 520); };
+  pump.inside = [this] { options.setRoom(520, 520); };
   area.BuildGrid();
+  area.MagnifyIcon();
   EXPECT_EQ(state.picDisp.width(), 480);
-  EXPECT_EQ(state.picTile[0].width(), 480);
+  const Surface& cell = patternCell(0);
+  for (const int x : {383, 386, 478})
+    EXPECT_EQ(state.picDisp.GetPixel(x, 478), cell.GetPixel(x % cell.width(), 478 % cell.height())) << x;
 }
 
 TEST_F(EditingAreaTest, APatternedGridShowsThePatternThroughATransparentPixel) {
   makeIcon(16);
   for (int grid : {3, 4, 5}) {
-    area.SetGrid(grid);
+    options.SetGrid(grid);
     const Surface& cell = patternCell(grid - 3);
     const int x = 12 * 4 + 3;
     const int y = 12 * 7 + 5;
@@ -175,9 +159,9 @@ TEST_F(EditingAreaTest, APatternedGridShowsThePatternThroughATransparentPixel) {
 
 TEST_F(EditingAreaTest, TheGridIsNotBuiltWhileNoIconIsPresent) {
   makeIcon(16);
-  area.SetGrid(0);
+  options.SetGrid(0);
   state.current().present = false;
-  area.SetGrid(1);
+  options.SetGrid(1);
   EXPECT_EQ(state.PicGrid.GetPixel(12, 5), 0x606060);
   EXPECT_EQ(state.gGridColor, 0);
 }
@@ -189,7 +173,7 @@ TEST_F(EditingAreaTest, GridColoursFollowTheirEntries) {
 
 TEST_F(EditingAreaTest, TheWholeIconFillsTheEditingArea) {
   makeIcon(48);
-  area.SetGrid(6);
+  options.SetGrid(6);
   state.picImage.SetPixelV(47, 47, 0x00FF00);
   state.picMask.SetPixelV(47, 47, kBlack);
   area.ComposeCurrentIcon();
@@ -202,7 +186,7 @@ TEST_F(EditingAreaTest, TheWholeIconFillsTheEditingArea) {
 
 TEST_F(EditingAreaTest, MagnifyingDropsWhatWasDrawnOverTheEditingArea) {
   makeIcon(32);
-  area.SetGrid(6);
+  options.SetGrid(6);
   FillBox(state.picDisp, 100, 100, 120, 120, 0x00FF00);
   area.MagnifyIcon();
   EXPECT_EQ(state.picDisp.GetPixel(110, 110), kGround);
@@ -281,47 +265,56 @@ TEST_F(EditingAreaTest, ClearingTheStatusBarEmptiesAllPanels) {
   makeIcon(32);
   area.RefreshStatusBar();
   area.ClearStatusBar();
-  for (const std::string& panel : state.screen.lblStatusPanel) EXPECT_EQ(panel, "");
+  for (const std::string& text : state.screen.lblStatusPanel) EXPECT_EQ(text, "");
   EXPECT_FALSE(state.screen.imgAlphaOnStatusPanel);
 }
 
 TEST_F(EditingAreaTest, MoreRoomEnlargesTheIconAndLessShrinksItAgain) {
   makeIcon(32);
-  area.SetGrid(6);
-  area.setRoom(520, 520);
+  options.SetGrid(6);
+  options.setRoom(520, 520);
   EXPECT_EQ(state.gMagnification, 15);
   EXPECT_EQ(state.picDisp.width(), 480);
   EXPECT_EQ(state.picDisp.GetPixel(14, 14), kRed);
-  area.setRoom(519, 520);
+  options.setRoom(519, 520);
   EXPECT_EQ(state.picDisp.width(), 384);
 }
 
 TEST_F(EditingAreaTest, WithoutAnIconTheRoomIsThatOfOneOf32) {
-  area.setRoom(600, 600);
+  options.setRoom(600, 600);
   EXPECT_EQ(state.picDisp.width(), 480);
   state.options.useEnlargedEditingArea = false;
-  area.ApplyEnlargedOption();
+  options.ApplyEnlargedOption();
   EXPECT_EQ(state.picDisp.width(), 384);
 }
 
 TEST_F(EditingAreaTest, TheRoomIsIgnoredWhileTheFormLoads) {
   state.mInLoad = true;
-  area.setRoom(900, 900);
+  options.setRoom(900, 900);
   EXPECT_EQ(state.screen.dispContainerWidth, 400);
 }
 
 TEST_F(EditingAreaTest, ANewFactorEndsTheRegionTool) {
   makeIcon(32);
-  editor.tool = kRegionTool;
-  area.setRoom(520, 520);
+  editor.tool = kRegion;
+  options.setRoom(520, 520);
   EXPECT_EQ(editor.count("clearRegion"), 1);
   EXPECT_EQ(editor.count("clearAllTools"), 1);
 }
 
 TEST_F(EditingAreaTest, ANewGridCommitsAnOpenToolAction) {
   makeIcon(32);
-  area.SetGrid(1);
-  EXPECT_EQ(editor.calls.front(), "CommitPendingPaint");
+  state.current().modified = true;
+  Color gridAtTheEnd = kNoColor;
+  editor.onClearRegion = [&] { gridAtTheEnd = state.gGridColor; };
+  options.SetGrid(1);
+  EXPECT_EQ(editor.count("clearRegion"), 0) << "nothing was open";
+  state.mPendingPaint = true;
+  options.SetGrid(2);
+  EXPECT_FALSE(state.mPendingPaint);
+  EXPECT_EQ(gridAtTheEnd, gridColorOf(1)) << "the action ends before the grid changes";
+  EXPECT_EQ(state.picPanelImage[0].GetPixel(0, 0), kRed);
+  EXPECT_EQ(editor.count("recordUndo"), 1);
 }
 
 }  // namespace

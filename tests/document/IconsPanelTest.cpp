@@ -1,43 +1,11 @@
-#include "document/EditingArea.h"
-#include "document/IconsPanel.h"
-#include "support/FakeEditor.h"
-#include "support/ScriptedPorts.h"
-
-#include <gtest/gtest.h>
+#include "document/Containers.h"
+#include "document/DocumentFixture.h"
 
 namespace gp {
 namespace {
 
-using test::FakeEditor;
-using test::RecordingDisplay;
-using test::ScriptedPump;
-
-// A FakeEditor whose display operations are real, and whose quiet loader does what a test says.
-class PanelEditor : public FakeEditor {
- public:
-  EditingArea* area = nullptr;
-  std::function<bool()> quietLoader;
-
-  void ComposeCurrentIcon() override { area->ComposeCurrentIcon(); }
-  void UpdatePanelFromCurrent() override { FakeEditor::UpdatePanelFromCurrent(), area->UpdatePanelFromCurrent(); }
-  void ShowCurrentIcon() override { FakeEditor::ShowCurrentIcon(), area->ShowCurrentIcon(); }
-  void doOpenIconFileQuietly(const std::string& path, bool& ok) override {
-    FakeEditor::doOpenIconFileQuietly(path, ok);
-    ok = quietLoader();
-  }
-};
-
-class IconsPanelTest : public testing::Test {
+class IconsPanelTest : public test::DocumentFixture {
  protected:
-  IconsPanelTest() { editor.area = &area; }
-
-  EditState state;
-  PanelEditor editor;
-  RecordingDisplay display;
-  ScriptedPump pump;
-  EditingArea area{state, editor, display, pump};
-  IconsPanel panel{state, editor, area, display, pump};
-
   // Puts an opaque icon of one colour on the Editing Area and into a container.
   void loadInto(int container, int size, Color color) {
     state.mCurContainer = container;
@@ -50,7 +18,6 @@ class IconsPanelTest : public testing::Test {
     area.ComposeCurrentIcon();
     area.UpdatePanelFromCurrent();
   }
-  std::string regionReadout() const { return state.screen.lblDispXY[static_cast<std::size_t>(Readout::Region)]; }
 };
 
 TEST_F(IconsPanelTest, SwitchingShowsTheIconOfTheOtherContainer) {
@@ -101,6 +68,7 @@ TEST_F(IconsPanelTest, ARefusedSaveDuringASwitchLeavesTheFormerContainerCurrent)
 
 TEST_F(IconsPanelTest, SwitchingToAClearedContainerShowsAnEmptyEditingAreaOf32Pixels) {
   loadInto(0, 48, 0x0000FF);
+  state.screen.lblStatusPanel.fill("of the former icon");
   panel.SwitchContainer(2);
   EXPECT_EQ(state.picDisp.width(), 32 * state.gMagnification);
   EXPECT_EQ(state.gMagnification, 12);
@@ -109,7 +77,7 @@ TEST_F(IconsPanelTest, SwitchingToAClearedContainerShowsAnEmptyEditingAreaOf32Pi
   EXPECT_EQ(state.current().size, 32);
   EXPECT_FALSE(state.current().present);
   EXPECT_EQ(editor.count("showChart16"), 1);
-  EXPECT_EQ(editor.count("ClearStatusBar"), 1);
+  for (const std::string& text : state.screen.lblStatusPanel) EXPECT_EQ(text, "");
 }
 
 TEST_F(IconsPanelTest, SwitchingResetsTheUndoHistoryToABaseline) {
@@ -173,7 +141,7 @@ TEST_F(IconsPanelTest, EndingAToolActionClearsOverlayReadoutAndFlags) {
   state.mPendingPaint = state.mRegionActive = true;
   panel.EndToolAction();
   EXPECT_NE(state.picDisp.GetPixel(5, 5), 0x00FF00);
-  EXPECT_EQ(regionReadout(), "");
+  EXPECT_EQ(readout(Readout::Region), "");
   EXPECT_FALSE(state.mPendingPaint);
   EXPECT_FALSE(state.mRegionActive);
 }
@@ -183,17 +151,24 @@ TEST_F(IconsPanelTest, EndingAToolActionDoesNothingInAnEmptyContainer) {
   state.screen.lblDispXY[2] = "Region";
   panel.EndToolAction();
   EXPECT_TRUE(state.mPendingPaint);
-  EXPECT_EQ(regionReadout(), "Region");
+  EXPECT_EQ(readout(Readout::Region), "Region");
 }
 
 TEST_F(IconsPanelTest, CommittingAPendingActionClicksTheCurrentContainer) {
   loadInto(0, 32, 0x0000FF);
+  state.picImage.fill(0x123456);
+  state.current().modified = true;
+  const unsigned before = state.iconSerial;
   panel.CommitPendingPaint();
-  EXPECT_EQ(editor.count("ShowCurrentIcon"), 0);
+  EXPECT_TRUE(editor.calls.empty());
+  EXPECT_EQ(state.iconSerial, before);
   state.mPendingPaint = true;
   panel.CommitPendingPaint();
-  EXPECT_EQ(editor.count("ShowCurrentIcon"), 1);
+  EXPECT_EQ(state.iconSerial, before + 1);
   EXPECT_FALSE(state.mPendingPaint);
+  EXPECT_EQ(state.picPanelImage[0].GetPixel(0, 0), 0x123456);
+  EXPECT_EQ(state.PicIcon.GetPixel(0, 0), 0x123456);
+  EXPECT_EQ(state.picDisp.GetPixel(5, 5), 0x123456);
 }
 
 TEST_F(IconsPanelTest, OnlyAFirstNameThatEndsInIcoMayBeDropped) {
@@ -232,15 +207,19 @@ TEST_F(IconsPanelTest, AFailedDropLeavesTheFormerIconOnTheEditingAreaWithItsChan
   state.picImage.SetPixelV(9, 9, 0x00FF00);
   area.ComposeCurrentIcon();
   state.current().modified = true;
-  // A loader that fails after it has wiped the Surfaces.
+  // A loader that fails after it has shown its container empty.
   editor.quietLoader = [this] {
-    area.SizeEditSurfaces(48);
+    ClearContainer(state);
+    panel.SwitchContainer(state.mCurContainer);
+    EXPECT_EQ(state.PicIcon.GetPixel(9, 9), kGround);
     return false;
   };
   panel.PanelDrop(3, {"/a/broken.ico"});
   EXPECT_EQ(state.mCurContainer, 0);
   EXPECT_EQ(state.picImage.width(), 32);
   EXPECT_EQ(state.picImage.GetPixel(9, 9), 0x00FF00);
+  EXPECT_EQ(state.PicIcon.GetPixel(9, 9), 0x00FF00);
+  EXPECT_TRUE(state.screen.fraTools[1]);
   EXPECT_TRUE(state.current().modified);
 }
 

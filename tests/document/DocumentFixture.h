@@ -1,0 +1,64 @@
+// The room of the Current Icon, real and connected, over scripted ports; what lies to its right is written down.
+#pragma once
+
+#include "document/Document.h"
+#include "document/EditState.h"
+#include "support/FakeEditor.h"
+#include "support/ScriptedPorts.h"
+
+#include <cstdint>
+#include <functional>
+#include <gtest/gtest.h>
+#include <string>
+
+namespace gp::test {
+
+// A FakeEditor whose quiet loader does what a test says, and which lets a test look at the moment of a call.
+class DocumentEditor : public FakeEditor {
+ public:
+  std::function<bool()> quietLoader;
+  std::function<void()> onClearRegion, onChooseColorChart, onRecordUndo;
+
+  void clearRegion() override { FakeEditor::clearRegion(), runIfSet(onClearRegion); }
+  void chooseColorChart() override { FakeEditor::chooseColorChart(), runIfSet(onChooseColorChart); }
+  void recordUndo() override { FakeEditor::recordUndo(), runIfSet(onRecordUndo); }
+  void doOpenIconFileQuietly(const std::string& path, bool& ok) override {
+    FakeEditor::doOpenIconFileQuietly(path, ok);
+    if (quietLoader) ok = quietLoader();
+  }
+
+ private:
+  static void runIfSet(const std::function<void()>& action) {
+    if (action) action();
+  }
+};
+
+class DocumentFixture : public testing::Test {
+ protected:
+  EditState state;
+  DocumentEditor editor;
+  RecordingDisplay display;
+  ScriptedBoxes boxes;
+  ScriptedPump pump;
+  const Context context{state, editor, display, boxes, pump};
+  Document document{context};
+  EditingArea& area = document.editingArea;
+  IconsPanel& panel = document.iconsPanel;
+  IconArrival& arrival = document.arrival;
+  EditingAreaOptions& options = document.areaOptions;
+
+  // An icon that is opaque and of one colour.
+  static IconImage plainIcon(int size, Color color) {
+    return {Surface(size, size, color), Surface(size, size, kBlack), {}};
+  }
+  std::string readout(Readout which) const { return state.screen.lblDispXY[static_cast<std::size_t>(which)]; }
+  std::string status(StatusPanel which) const { return state.screen.lblStatusPanel[static_cast<std::size_t>(which)]; }
+  static int countPixels(const Surface& surface, Color color) {
+    int count = 0;
+    for (int y = 0; y < surface.height(); ++y)
+      for (int x = 0; x < surface.width(); ++x) count += surface.GetPixel(x, y) == color;
+    return count;
+  }
+};
+
+}  // namespace gp::test
