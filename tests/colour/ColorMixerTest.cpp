@@ -1,4 +1,4 @@
-#include "colour/MixerFixture.h"
+#include "colour/ColourFixture.h"
 
 #include <array>
 #include <utility>
@@ -8,10 +8,9 @@ namespace {
 
 using Triple = std::array<int, 3>;
 
-class ColorMixerTest : public test::MixerFixture {
+class ColorMixerTest : public test::ColourFixture {
  protected:
   Triple sliders() const { return {mixer.HsrRGB(0), mixer.HsrRGB(1), mixer.HsrRGB(2)}; }
-  Triple hovered() const { return {state.mHoverR, state.mHoverG, state.mHoverB}; }
   void setInterval(int interval) { mixer.cboIntervalColor(interval - kFirstInterval); }
 };
 
@@ -195,7 +194,7 @@ TEST_F(ColorMixerTest, CopyingTheSelectedColourMovesTheSlidersAndTellsItsChannel
   state.mCurrentColor = rgb(1, 22, 233);
   mixer.cmdAdjMix(MixChange::CopySelected);
   EXPECT_EQ(sliders(), (Triple{1, 22, 233}));
-  EXPECT_EQ(hovered(), (Triple{1, 22, 233}));
+  expectHovered("0116E9");
   EXPECT_EQ(mixer.PicRGBMix(), rgb(1, 22, 233));
   EXPECT_EQ(state.mCurrentColor, rgb(1, 22, 233));
   for (int row = 1; row <= 100; ++row) ASSERT_EQ(stripRow(row), slowRow({1, 22, 233}, row)) << row;
@@ -210,7 +209,7 @@ TEST_F(ColorMixerTest, TheMixedColourIsTakenByARelease) {
 TEST_F(ColorMixerTest, HoveringTheMixedColourTellsItInHexAndChannels) {
   mix(255, 128, 0);
   EXPECT_EQ(mixer.mixHover(), "80FFh  RGB(255, 128, 0)");
-  EXPECT_EQ(hovered(), (Triple{255, 128, 0}));
+  expectHovered("FF8000");
 }
 
 TEST_F(ColorMixerTest, ASwatchIsTakenByARelease) {
@@ -225,7 +224,7 @@ TEST_F(ColorMixerTest, APressOnTheStripTakesTheColourAndTellsItsChannels) {
   mix(255, 100, 50);
   mixer.gradientPress(0, 0);
   EXPECT_EQ(state.mCurrentColor, rgb(255, 0, 0));
-  EXPECT_EQ(hovered(), (Triple{255, 0, 0}));
+  expectHovered("FF0000");
   mixer.gradientPress(39, 199);
   EXPECT_EQ(state.mCurrentColor, rgb(0, 4, 50));
 }
@@ -235,7 +234,7 @@ TEST_F(ColorMixerTest, MovingOverTheStripSetsTheMarkerAndTellsTheColourButTakesI
   mixer.gradientMove(5, 2);
   EXPECT_EQ(mixer.markerTop(), 0);
   EXPECT_EQ(mixer.lblMix(), "RGB: 255, 4, 0");
-  EXPECT_EQ(hovered(), (Triple{255, 4, 0}));
+  expectHovered("FF0400");
   EXPECT_EQ(state.mCurrentColor, kWhite);
 }
 
@@ -243,7 +242,7 @@ TEST_F(ColorMixerTest, AReleaseOnTheStripTakesTheColourWithoutTellingItsChannels
   mix(255, 100, 50);
   mixer.gradientRelease(39, 26);
   EXPECT_EQ(state.mCurrentColor, rgb(255, 50, 0));
-  EXPECT_EQ(hovered(), (Triple{0, 0, 0}));
+  expectHovered("000000");
 }
 
 TEST_F(ColorMixerTest, OutsideTheStripNothingHappensButItsLowerBorderIsTheLastRow) {

@@ -1,23 +1,9 @@
-#include "colour/ColorSelection.h"
-#include "support/FakeEditor.h"
-#include "support/ScriptedPorts.h"
-
-#include <gtest/gtest.h>
+#include "colour/ColourFixture.h"
 
 namespace gp {
 namespace {
 
-class ColorSelectionTest : public testing::Test {
- protected:
-  EditState state;
-  test::FakeEditor editor;
-  test::RecordingDisplay display;
-  test::ScriptedBoxes boxes;
-  test::ScriptedDialogs dialogs;
-  test::ScriptedPump pump;
-  clsGPDialog dialog{dialogs};
-  ColorSelection colors{state, editor, display, boxes, pump, dialog};
-};
+class ColorSelectionTest : public test::ColourFixture {};
 
 TEST_F(ColorSelectionTest, AReleaseOnAChartSelectsItsColour) {
   colors.chartRelease(ChartKind::Chart16, 3.5, 0.5);
@@ -91,12 +77,6 @@ TEST_F(ColorSelectionTest, TheColourDialogSelectsAndItsCancelLeavesTheColour) {
   EXPECT_EQ(state.mCurrentColor, 0x00ABCD);
 }
 
-TEST_F(ColorSelectionTest, ThePickerNeedsAnIcon) {
-  boxes.expectTold("No icon in Editing Area yet", BoxIcon::None);
-  colors.imgColorPicker();
-  EXPECT_FALSE(colors.isPickerSelected());
-}
-
 TEST_F(ColorSelectionTest, ASecondClickOnThePickerTurnsItOff) {
   state.current().present = true;
   colors.imgColorPicker();
@@ -122,11 +102,10 @@ TEST_F(ColorSelectionTest, HoveringTheSmallChartNamesTheColour) {
 
 TEST_F(ColorSelectionTest, HoveringTheLargeChartTellsValuesOnlyWithTheOption) {
   EXPECT_EQ(colors.chartHover(ChartKind::Chart256, 2.5, 2.5), "");
-  EXPECT_EQ(state.mHoverR, 0);
+  expectHovered("000000");
   state.options.tooltip256ColorChart = true;
   EXPECT_EQ(colors.chartHover(ChartKind::Chart256, 2.5, 2.5), "FFh  RGB(255, 0, 0) ** ");
-  EXPECT_EQ(state.mHoverR, 255);
-  EXPECT_EQ(state.mHoverG, 0);
+  expectHovered("FF0000");
 }
 
 TEST_F(ColorSelectionTest, TheBoxTellsOfTheSelectedColourButGivesTheHtmlFigureOfTheOneLastHovered) {
@@ -138,23 +117,30 @@ TEST_F(ColorSelectionTest, TheBoxTellsOfTheSelectedColourButGivesTheHtmlFigureOf
   colors.tellCurrentColor();
 }
 
+// The colour of a pixel by its number.
+Color blackOrWhite(int i) { return i % 2 == 0 ? kBlack : kWhite; }
+Color standard(int i) { return mChartColors16[static_cast<std::size_t>(i) % mChartColors16.size()].color; }
+Color oneOther(int i) { return i == 500 ? 0x010101 : standard(i); }
+Color eachItsOwn(int i) { return 0x100000 + i; }
+
 struct ChartCase {
-  int dirColors, count;
+  int dirColors;
+  Color (*colorOf)(int pixel);
   ColorFrame expected;
 };
 
 TEST_F(ColorSelectionTest, TheChartFollowsTheIconsColours) {
-  for (const ChartCase& c : {ChartCase{16, 16, ColorFrame::Chart16},
-                             {0, 2, ColorFrame::Chart16},
-                             {256, 255, ColorFrame::Chart16},
-                             {256, 256, ColorFrame::Chart256},
-                             {16, -1, ColorFrame::Chart256},
-                             {-1, 2, ColorFrame::Chart256}}) {
+  for (const ChartCase& c : {ChartCase{16, standard, ColorFrame::Chart16},
+                             {0, blackOrWhite, ColorFrame::Chart16},
+                             {256, standard, ColorFrame::Chart16},
+                             {256, oneOther, ColorFrame::Chart256},
+                             {16, eachItsOwn, ColorFrame::Chart256},
+                             {-1, blackOrWhite, ColorFrame::Chart256}}) {
     state.screen.colorFrame = ColorFrame::DirectEntry;
     state.current().dirColors = c.dirColors;
-    editor.colorCount = c.count;
+    for (int i = 0; i < 32 * 32; ++i) state.picImage.SetPixelV(i % 32, i / 32, c.colorOf(i));
     colors.chooseColorChart();
-    EXPECT_EQ(state.screen.colorFrame, c.expected) << c.dirColors << " " << c.count;
+    EXPECT_EQ(state.screen.colorFrame, c.expected) << c.dirColors << " " << c.colorOf(1) << " " << c.colorOf(500);
   }
 }
 
