@@ -1,5 +1,5 @@
-#include "colour/ColorTables.h"
 #include "colour/ColorCount.h"
+#include "colour/ColorTables.h"
 
 #include <gtest/gtest.h>
 

@@ -13,23 +13,14 @@
 
 namespace gp::test {
 
-// A FakeEditor whose quiet loader does what a test says, and which lets a test look at the moment of a call.
+// A FakeEditor whose quiet loader does what a test says.
 class DocumentEditor : public FakeEditor {
  public:
   std::function<bool()> quietLoader;
-  std::function<void()> onClearRegion, onChooseColorChart, onRecordUndo;
 
-  void clearRegion() override { FakeEditor::clearRegion(), runIfSet(onClearRegion); }
-  void chooseColorChart() override { FakeEditor::chooseColorChart(), runIfSet(onChooseColorChart); }
-  void recordUndo() override { FakeEditor::recordUndo(), runIfSet(onRecordUndo); }
   void doOpenIconFileQuietly(const std::string& path, bool& ok) override {
     FakeEditor::doOpenIconFileQuietly(path, ok);
     if (quietLoader) ok = quietLoader();
-  }
-
- private:
-  static void runIfSet(const std::function<void()>& action) {
-    if (action) action();
   }
 };
 

@@ -306,7 +306,7 @@ TEST_F(EditingAreaTest, ANewGridCommitsAnOpenToolAction) {
   makeIcon(32);
   state.current().modified = true;
   Color gridAtTheEnd = kNoColor;
-  editor.onClearRegion = [&] { gridAtTheEnd = state.gGridColor; };
+  editor.atCall("clearRegion", [&] { gridAtTheEnd = state.gGridColor; });
   options.SetGrid(1);
   EXPECT_EQ(editor.count("clearRegion"), 0) << "nothing was open";
   state.mPendingPaint = true;

@@ -247,11 +247,11 @@ TEST_F(IconArrivalTest, ARegionOfTheFormerIconEndsBeforeTheSurfacesChange) {
   Color pixel = kNoColor;
   const unsigned before = state.iconSerial;
   unsigned serialThen = 0;
-  editor.onClearRegion = [&] {
+  editor.atCall("clearRegion", [&] {
     widths.push_back(state.picImage.width());
     pixel = state.picImage.GetPixel(0, 0);
     serialThen = state.iconSerial;
-  };
+  });
   arrival.arrive(drawnIcon(), NewRecord());
   EXPECT_EQ(widths, std::vector<int>{32});
   EXPECT_EQ(pixel, kBlue);
@@ -260,7 +260,7 @@ TEST_F(IconArrivalTest, ARegionOfTheFormerIconEndsBeforeTheSurfacesChange) {
 
 TEST_F(IconArrivalTest, TheChartIsChosenByTheNewIconBeforeTheHistoryStarts) {
   Color chosenBy = kNoColor;
-  editor.onChooseColorChart = [&] { chosenBy = state.picImage.GetPixel(0, 0); };
+  editor.atCall("chooseColorChart", [&] { chosenBy = state.picImage.GetPixel(0, 0); });
   arrival.arrive(drawnIcon(), NewRecord());
   EXPECT_EQ(chosenBy, kRed);
   const auto& calls = editor.calls;
@@ -277,10 +277,10 @@ TEST_F(IconArrivalTest, TheChartIsChosenByTheNewIconBeforeTheHistoryStarts) {
 
 TEST_F(IconArrivalTest, TheHistoryBeginsWithTheIconAsItArrived) {
   Surface image, mask;
-  editor.onRecordUndo = [&] {
+  editor.atCall("recordUndo", [&] {
     image = state.picImage;
     mask = state.picMask;
-  };
+  });
   arrival.arrive(drawnIcon(), NewRecord());
   EXPECT_TRUE(same(image, drawnIcon().image));
   EXPECT_TRUE(same(mask, drawnIcon().mask));
@@ -375,7 +375,7 @@ TEST_F(IconArrivalTest, TheSerialNumberIsNewWhenTheSurfacesChange) {
   arrival.arrive(plainIcon(32, kBlue), NewRecord());
   const unsigned before = state.iconSerial;
   unsigned seen = before;
-  editor.onChooseColorChart = [&] { seen = state.iconSerial; };
+  editor.atCall("chooseColorChart", [&] { seen = state.iconSerial; });
   arrival.arrive(drawnIcon(), NewRecord());
   EXPECT_EQ(seen, before + 1);
 }

@@ -10,7 +10,7 @@ namespace {
 enum Pattern { OneLine, Boxed, TwoTones };
 
 Rows buttonOf(int pattern, const Rows& rows) {
-  const IconPicture icon = iconOf(rows);
+  const IconImage icon = iconOf(rows);
   return rowsOf(buttonize(icon.image, icon.mask, {pattern}));
 }
 
@@ -150,7 +150,7 @@ TEST(Buttonize, LongIconsAreFramed) {
 
 TEST(Buttonize, ThePenThatTheIconWasDrawnWithIsNotTheFrames) {
   for (const Style& style : kStyles) {
-    IconPicture icon = iconOf(flatRows(16, 16, 'o'));
+    IconImage icon = iconOf(flatRows(16, 16, 'o'));
     for (Surface* surface : {&icon.image, &icon.mask}) {
       surface->penWidth = 5;
       surface->penStyle = PenStyle::Dot;
@@ -162,8 +162,8 @@ TEST(Buttonize, ThePenThatTheIconWasDrawnWithIsNotTheFrames) {
 }
 
 TEST(Buttonize, TheIconItselfStays) {
-  const IconPicture icon = iconOf(flatRows(16, 16, 'o'));
-  const IconPicture framed = buttonize(icon.image, icon.mask, {Boxed});
+  const IconImage icon = iconOf(flatRows(16, 16, 'o'));
+  const IconImage framed = buttonize(icon.image, icon.mask, {Boxed});
   EXPECT_EQ(rowsOf(icon), flatRows(16, 16, 'o'));
   EXPECT_NE(rowsOf(framed), rowsOf(icon));
 }

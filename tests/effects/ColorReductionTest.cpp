@@ -144,8 +144,8 @@ void reduceSlowly(SlowPicture& p, Method method) {
   }
 }
 
-IconPicture slowCutoff(const Surface& image, const Surface& mask, int threshold) {
-  IconPicture icon{Surface(image.width(), image.height(), kBlack), Surface(image.width(), image.height(), kWhite)};
+IconImage slowCutoff(const Surface& image, const Surface& mask, int threshold) {
+  IconImage icon{Surface(image.width(), image.height(), kBlack), Surface(image.width(), image.height(), kWhite), {}};
   for (int y = 0; y < image.height(); ++y)
     for (int x = 0; x < image.width(); ++x) {
       const Color shown = (kGround & mask.GetPixel(x, y)) ^ image.GetPixel(x, y);
@@ -172,7 +172,7 @@ TEST(ColorReduction, EqualsTheSlowModelOnEveryPicture) {
       reduceSlowly(slow, method);
       Surface expected = surfaceOf(slow);
       if (method != Method::Nearest) blackOut(expected, mask);
-      const IconPicture result = reduceColors(image, mask, {method});
+      const IconImage result = reduceColors(image, mask, {method});
       EXPECT_TRUE(arePixelsEqual(result.image, expected)) << picture.name << ' ' << static_cast<int>(method);
       EXPECT_TRUE(arePixelsEqual(result.mask, mask)) << picture.name << ' ' << static_cast<int>(method);
     }
@@ -184,8 +184,8 @@ TEST(ColorReduction, TheCutoffEqualsTheSlowModelOnEveryPicture) {
     const Surface image = surfaceOf(picture.pixels);
     const Surface mask = holedMask(image.width(), image.height());
     for (const int threshold : {0, 1, 100, 128, 200, 255, 354}) {
-      const IconPicture result = reduceColors(image, mask, {Method::SelectCutoff, threshold});
-      const IconPicture expected = slowCutoff(image, mask, threshold);
+      const IconImage result = reduceColors(image, mask, {Method::SelectCutoff, threshold});
+      const IconImage expected = slowCutoff(image, mask, threshold);
       EXPECT_TRUE(arePixelsEqual(result.image, expected.image)) << picture.name << ' ' << threshold;
       EXPECT_TRUE(arePixelsEqual(result.mask, expected.mask)) << picture.name << ' ' << threshold;
     }
@@ -218,15 +218,15 @@ TEST(ColorReduction, TheColorsThatAreLeftAreThoseOfTheMethod) {
 TEST(ColorReduction, WhatIsNotPaintedBecomesBlackAndTheMaskStays) {
   for (const Method method : kMaskKeepers) {
     if (method == Method::Nearest) continue;
-    const IconPicture icon = iconOf({"~^/.", "w^bw"});
+    const IconImage icon = iconOf({"~^/.", "w^bw"});
     EXPECT_EQ(rowsOf(reduceColors(icon.image, icon.mask, {method})), (Rows{"..-.", "w.bw"}))
         << static_cast<int>(method);
   }
 }
 
 TEST(ColorReduction, OnlyNearestLeavesPixelsThatInvert) {
-  const IconPicture icon = iconOf({"~^/."});
-  const IconPicture result = reduceColors(icon.image, icon.mask, {Method::Nearest});
+  const IconImage icon = iconOf({"~^/."});
+  const IconImage result = reduceColors(icon.image, icon.mask, {Method::Nearest});
   EXPECT_TRUE(arePixelsEqual(result.mask, icon.mask));
   EXPECT_EQ(result.image.GetPixel(0, 0), rgb(0, 128, 128));
   EXPECT_EQ(result.image.GetPixel(1, 0), kWhite);
@@ -250,19 +250,19 @@ TEST(ColorReduction, PixelsThatDoNotShowTakePart) {
 
 // The matrix of Ordered and all errors begin at the bottom left.
 TEST(ColorReduction, OrderedLeavesOneWhitePixelOfABlackBlockInItsBottomLeftCorner) {
-  const IconPicture icon = iconOf(flatRows(5, 5, 'b'));
+  const IconImage icon = iconOf(flatRows(5, 5, 'b'));
   EXPECT_EQ(rowsOf(reduceColors(icon.image, icon.mask, {Method::Ordered})),
             (Rows{"wbbbw", "bbbbb", "bbbbb", "bbbbb", "wbbbw"}));
 }
 
 TEST(ColorReduction, FewColorsStayWithOptimal) {
-  const IconPicture icon = iconOf({"opbw", "gsro", "wbpr"});
+  const IconImage icon = iconOf({"opbw", "gsro", "wbpr"});
   EXPECT_EQ(rowsOf(reduceColors(icon.image, icon.mask, {Method::Optimal})), rowsOf(icon));
 }
 
 TEST(ColorReduction, IconsOfAnySizeKeepIt) {
   for (const auto& [width, height] : kOddSizes) {
-    const IconPicture icon = iconOf(flatRows(width, height, 'w'));
+    const IconImage icon = iconOf(flatRows(width, height, 'w'));
     for (const Method method : kMaskKeepers)
       EXPECT_EQ(rowsOf(reduceColors(icon.image, icon.mask, {method})), flatRows(width, height, 'w')) << width;
     EXPECT_EQ(rowsOf(reduceColors(icon.image, icon.mask, {Method::SelectCutoff, 354})), flatRows(width, height, 'b'));
@@ -273,7 +273,7 @@ TEST(ColorReduction, IconsOfAnySizeKeepIt) {
 // Cutoff --------------------------------------------------------------------------------------------------------------
 
 Rows cutOff(const Rows& rows, int threshold) {
-  const IconPicture icon = iconOf(rows);
+  const IconImage icon = iconOf(rows);
   return rowsOf(reduceColors(icon.image, icon.mask, {Method::SelectCutoff, threshold}));
 }
 

@@ -7,13 +7,13 @@ namespace gp::test {
 namespace {
 
 Rows disabledOf(const Rows& rows) {
-  const IconPicture icon = iconOf(rows);
+  const IconImage icon = iconOf(rows);
   return rowsOf(disabledImage(icon.image, icon.mask));
 }
 
 // What one painted pixel of that colour in the middle of three by three becomes.
 Rows disabledPixel(Color color) {
-  IconPicture icon = iconOf({"...", ".o.", "..."});
+  IconImage icon = iconOf({"...", ".o.", "..."});
   icon.image.SetPixelV(1, 1, color);
   return rowsOf(disabledImage(icon.image, icon.mask));
 }

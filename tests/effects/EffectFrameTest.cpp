@@ -1,21 +1,16 @@
+#include "document/Containers.h"
 #include "document/PanelNumbers.h"
 #include "effects/EffectFrame.h"
-#include "support/FakeEditor.h"
-#include "support/ScriptedPorts.h"
+#include "support/Rooms.h"
 
 #include <gtest/gtest.h>
 
 namespace gp::test {
 namespace {
 
-class EffectFrameTest : public testing::Test {
+class EffectFrameTest : public testing::Test, protected Rooms {
  protected:
-  EditState state;
-  FakeEditor editor;
-  RecordingDisplay display;
-  ScriptedBoxes boxes;
-  ScriptedPump pump;
-  EffectFrame frame{state, editor, display, boxes, pump};
+  EffectFrame frame{context, document, drawing.history};
 };
 
 TEST_F(EffectFrameTest, AMaskOfOneColorAndOneOfTwoAreToldApart) {
@@ -42,12 +37,42 @@ TEST_F(EffectFrameTest, CountingShowsTheHourglassAndTakesItAwayAgain) {
 }
 
 TEST_F(EffectFrameTest, AResultIsShownOnceThePanelIsClosed) {
-  frame.applyTemps({Surface(32, 32, 0x112233), Surface(32, 32, kBlack)});
-  EXPECT_EQ(editor.calls, (std::vector<std::string>{"showPanel 0", "ComposeCurrentIcon", "UpdatePanelFromCurrent",
-                                                    "RefreshStatusBar", "MagnifyIcon"}));
+  document.arrival.arrive(transparentIcon(32), NewRecord());
+  editor.showPanel(13);
+  state.screen.lblStatusPanel.fill("out of date");
+  const int steps = drawing.history.undoCount();
+  bool closesFirst = false;
+  editor.atCall("showPanel 0", [&] {
+    closesFirst = state.PicIcon.GetPixel(31, 31) == kGround && state.picPanelImage[0].GetPixel(31, 31) == kBlack &&
+                  state.picDisp.GetPixel(5, 5) == kGround && !state.current().modified;
+  });
+  frame.applyTemps({Surface(32, 32, 0x112233), Surface(32, 32, kBlack), {}});
+  EXPECT_TRUE(closesFirst);
+  EXPECT_EQ(state.screen.mActivePanel, kColorPanel);
   EXPECT_TRUE(state.current().modified);
   EXPECT_EQ(state.picImage.GetPixel(31, 31), 0x112233);
   EXPECT_EQ(state.picMask.GetPixel(0, 0), kBlack);
+  EXPECT_EQ(state.PicIcon.GetPixel(31, 31), 0x112233);
+  EXPECT_EQ(state.picPanelImage[0].GetPixel(31, 31), 0x112233);
+  EXPECT_EQ(state.picPanelMask[0].GetPixel(0, 0), kBlack);
+  EXPECT_EQ(state.picPanelIcon[0].GetPixel(31, 31), 0x112233);
+  EXPECT_EQ(state.picDisp.GetPixel(5, 5), 0x112233);
+  EXPECT_EQ(state.screen.lblStatusPanel[static_cast<std::size_t>(StatusPanel::Size)], "32 x 32");
+  EXPECT_EQ(drawing.history.undoCount(), steps) << "the step is the caller's to record";
+}
+
+TEST_F(EffectFrameTest, WithoutAnIconNoEffectIsAppliedAndTheUserIsToldWhy) {
+  boxes.expectTold("No icon in Editing Area yet", BoxIcon::None);
+  EXPECT_FALSE(frame.mayApply());
+}
+
+TEST_F(EffectFrameTest, AnIconWithAlphaTakesNoEffectAndTheUserIsToldWhy) {
+  document.arrival.arrive(transparentIcon(32), NewRecord());
+  EXPECT_TRUE(frame.mayApply());
+  state.current().hasAlpha = true;
+  boxes.expectTold("Current icon is with alpha, please run Convert 32 To 24 BPP\nto convert it to 24-BPP first.",
+                   BoxIcon::None);
+  EXPECT_FALSE(frame.mayApply());
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // Small icons written as rows of characters, one for each pixel.
 #pragma once
 
-#include "effects/IconPicture.h"
+#include "document/IconImage.h"
 
 #include <iterator>
 #include <random>
@@ -35,11 +35,11 @@ inline constexpr PixelLook kPixelLooks[] = {
     {'-', kBlack, rgb(128, 128, 128)},            // the same, the image blacked out
 };
 
-inline IconPicture iconOf(const Rows& rows) {
+inline IconImage iconOf(const Rows& rows) {
   const int width = rows.empty() ? 0 : static_cast<int>(rows.front().size());
   const int height = static_cast<int>(rows.size());
   // Pixels without a letter stand out.
-  IconPicture icon{Surface(width, height, 0x123456), Surface(width, height, 0x123456)};
+  IconImage icon{Surface(width, height, 0x123456), Surface(width, height, 0x123456), {}};
   for (int y = 0; y < height; ++y)
     for (int x = 0; x < width; ++x)
       for (const PixelLook& look : kPixelLooks)
@@ -51,7 +51,7 @@ inline IconPicture iconOf(const Rows& rows) {
 }
 
 // '?' for a pixel that has no letter.
-inline Rows rowsOf(const IconPicture& icon) {
+inline Rows rowsOf(const IconImage& icon) {
   if (icon.mask.width() != icon.image.width() || icon.mask.height() != icon.image.height()) return {"sizes differ"};
   Rows rows(static_cast<std::size_t>(icon.image.height()));
   for (int y = 0; y < icon.image.height(); ++y) {

@@ -10,7 +10,7 @@ constexpr Color kMarkedShadow = rgb(255, 1, 2);  // 'r'
 constexpr ReliefKind kKinds[] = {ReliefKind::Embossed, ReliefKind::Engraved, ReliefKind::Raised, ReliefKind::Shadowed};
 
 Rows reliefOf(ReliefKind kind, const Rows& rows, Color shadow = kBlack) {
-  const IconPicture icon = iconOf(rows);
+  const IconImage icon = iconOf(rows);
   return rowsOf(relief(icon.image, icon.mask, {kind, shadow}));
 }
 Rows embossed(const Rows& rows) { return reliefOf(ReliefKind::Embossed, rows); }
@@ -46,7 +46,7 @@ TEST(Relief, AShadowLiesToTheBottomRightOnly) {
 }
 
 TEST(Relief, AShadowIsBlackUnlessTold) {
-  const IconPicture icon = iconOf(kOnePixel);
+  const IconImage icon = iconOf(kOnePixel);
   const Rows rows = rowsOf(relief(icon.image, icon.mask, {.kind = ReliefKind::Shadowed}));
   EXPECT_EQ(rows, (Rows{".....", ".....", "..o..", "...b.", "....."}));
 }
@@ -125,24 +125,24 @@ TEST(Relief, IconsOfAnySizeKeepIt) {
 }
 
 TEST(Relief, TheFourthByteOfAPixelIsNoPartOfIt) {
-  IconPicture icon = iconOf(kOnePixel);
+  IconImage icon = iconOf(kOnePixel);
   for (Surface* surface : {&icon.image, &icon.mask})
     for (int y = 0; y < surface->height(); ++y)
       for (int x = 0; x < surface->width(); ++x) surface->rowForWriting(y, x, x + 1)[x] |= 0xFF000000U;
-  const IconPicture result = relief(icon.image, icon.mask, {});
+  const IconImage result = relief(icon.image, icon.mask, {});
   EXPECT_EQ(rowsOf(result), embossed(kOnePixel));
   for (const std::uint32_t pixel : result.image.pixels()) EXPECT_EQ(pixel & 0xFF000000U, 0U);
 }
 
 // The rules once more, pixel by pixel and seen from the result: what does each place get?
-IconPicture slowRelief(const IconPicture& icon, ReliefKind kind, Color shadow) {
+IconImage slowRelief(const IconImage& icon, ReliefKind kind, Color shadow) {
   const bool hasLight = kind != ReliefKind::Shadowed;
   const Color light = kind == ReliefKind::Engraved ? rgb(128, 128, 128) : kWhite;
   const Color dark = kind == ReliefKind::Embossed   ? rgb(128, 128, 128)
                      : kind == ReliefKind::Engraved ? kWhite
                      : kind == ReliefKind::Raised   ? kBlack
                                                     : shadow;
-  IconPicture result = icon;
+  IconImage result = icon;
   const auto painted = [&icon](int x, int y) { return icon.mask.GetPixel(x, y) == kBlack; };
   for (int y = 0; y < icon.image.height(); ++y)
     for (int x = 0; x < icon.image.width(); ++x) {
@@ -158,7 +158,7 @@ IconPicture slowRelief(const IconPicture& icon, ReliefKind kind, Color shadow) {
 
 TEST(Relief, EqualsWhatEachPlaceGetsByItsNeighbours) {
   for (const Rows& rows : randomIcons(300)) {
-    const IconPicture icon = iconOf(rows);
+    const IconImage icon = iconOf(rows);
     for (const ReliefKind kind : kKinds)
       EXPECT_EQ(reliefOf(kind, rows, kMarkedShadow), rowsOf(slowRelief(icon, kind, kMarkedShadow)));
   }

@@ -5,7 +5,10 @@
 #include "document/Editor.h"
 
 #include <algorithm>
+#include <functional>
+#include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace gp::test {
@@ -31,6 +34,8 @@ class FakeEditor : public Editor {
   bool askSaveProceeds = true;
   bool openSucceeds = true;
 
+  // What a test does at each call of that name.
+  void atCall(const std::string& name, std::function<void()> action) { actions_[name] = std::move(action); }
   int count(const std::string& name) const { return static_cast<int>(std::count(calls.begin(), calls.end(), name)); }
 
   void chooseColorChart() override { log("chooseColorChart"); }
@@ -57,7 +62,13 @@ class FakeEditor : public Editor {
   void ShowRunTimeError(const std::string& name, const std::string&) override { log("ShowRunTimeError " + name); }
 
  protected:
-  void log(const std::string& call) { calls.push_back(call); }
+  void log(const std::string& call) {
+    calls.push_back(call);
+    if (const auto found = actions_.find(call); found != actions_.end()) found->second();
+  }
+
+ private:
+  std::map<std::string, std::function<void()>> actions_;
 };
 
 }  // namespace gp::test
