@@ -1,14 +1,10 @@
 // A browser over files that a test builds, with scripted ports.
 #pragma once
 
-#include "files/Decoding.h"
-#include "files/IcoBuilder.h"
+#include "files/FilesFixture.h"
 #include "files/browser/MultiIconBrowser.h"
-#include "support/FakeEditor.h"
-#include "support/ScriptedPorts.h"
 
 #include <filesystem>
-#include <gtest/gtest.h>
 #include <memory>
 
 namespace gp::test {
@@ -35,20 +31,10 @@ inline Surface onGround(const Surface& image, const Surface& mask) {
   return icon;
 }
 
-class BrowserTest : public testing::Test {
+class BrowserTest : public FilesTest {
  protected:
   using Items = std::vector<std::string>;
 
-  IconFolder folder;
-  EditState state;
-  FakeEditor editor;
-  RecordingDisplay display;
-  ScriptedBoxes boxes;
-  ScriptedPump pump;
-  ScriptedDialogs dialogs;
-  clsGPDialog dialog{dialogs};
-  FilesContext context{state, editor, display, boxes, pump, dialog};
-  MultiIconExchange& exchange = state.multiIcon;
   std::unique_ptr<MultiIconBrowser> browser;
   std::string path;
   int changes = 0, unloads = 0;
@@ -65,7 +51,7 @@ class BrowserTest : public testing::Test {
     return browse(build(iconFile(std::move(entries))), addFace);
   }
   MultiIconBrowser& show() {
-    browser = std::make_unique<MultiIconBrowser>(context);
+    browser = std::make_unique<MultiIconBrowser>(files.context());
     browser->onChange = [this] { ++changes; };
     browser->onUnload = [this] { ++unloads; };
     browser->activate();

@@ -10,17 +10,14 @@
 
 namespace gp::test {
 
-struct Decoded {
-  Surface image, mask;
-  AlphaMatrix alpha;
+struct Decoded : IconImage {
   IconDefect defect = IconDefect::None;
 };
 
 inline Decoded decode(const Bytes& file, int index = 0) {
   const IconEntry entry = parseIconDirectory(file).entry(index);
-  Decoded d{Surface(entry.width, entry.height), Surface(entry.width, entry.height), {}, {}};
-  d.defect = decodeEntry(file, entry, entry.width, entry.height, {d.image, d.mask, d.alpha});
-  return d;
+  DecodedIcon decoded = decodeEntry(file, entry, entry.width, entry.height);
+  return {std::move(decoded.icon), decoded.defect};
 }
 
 inline bool samePixels(const Surface& a, const Surface& b) {

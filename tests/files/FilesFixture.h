@@ -1,58 +1,31 @@
-// A current container with the real Editing Area, scripted ports, and the commands on icon files under test.
+// The room of files over the real rooms to its left, with scripted ports, a folder of its own, and forms in which the
+// user does what a test says.
 #pragma once
 
 #include "document/Containers.h"
-#include "document/EditingArea.h"
-#include "document/IconsPanel.h"
-#include "files/IcoBuilder.h"
-#include "files/opening/IconFiles.h"
+#include "files/Decoding.h"
 #include "files/FileForms.h"
-#include "files/saving/IconSaver.h"
-#include "files/browser/MultiIconCommands.h"
-#include "support/FakeEditor.h"
-#include "support/ScriptedPorts.h"
+#include "files/Files.h"
+#include "files/browser/MultiIconExchange.h"
+#include "support/Rooms.h"
 
 #include <functional>
 #include <gtest/gtest.h>
 
 namespace gp::test {
 
-// Writes every call down and does what the Surfaces need.
-class FilesEditor : public FakeEditor {
- public:
-  FilesEditor(EditState& state, Display& display, MessagePump& pump)
-      : state_(state), area_(state, *this, display, pump), panel_(state, *this, area_, display, pump) {}
-
-  void ClearContainer() override { FakeEditor::ClearContainer(), gp::ClearContainer(state_); }
-  // A click on the current container is only written down.
-  void SwitchContainer(int container) override {
-    FakeEditor::SwitchContainer(container);
-    if (container != state_.mCurContainer) panel_.SwitchContainer(container);
-  }
-  void SizeEditSurfaces(int size) override { FakeEditor::SizeEditSurfaces(size), area_.SizeEditSurfaces(size); }
-  void SizePanelSurfaces(int size) override { FakeEditor::SizePanelSurfaces(size), area_.SizePanelSurfaces(size); }
-  void ComposeCurrentIcon() override { FakeEditor::ComposeCurrentIcon(), area_.ComposeCurrentIcon(); }
-  void UpdatePanelFromCurrent() override { FakeEditor::UpdatePanelFromCurrent(), area_.UpdatePanelFromCurrent(); }
-  void ShowCurrentIcon() override { FakeEditor::ShowCurrentIcon(), area_.ShowCurrentIcon(); }
-
- private:
-  EditState& state_;
-  EditingArea area_;
-  IconsPanel panel_;
-};
-
-// Forms in which the user does what a test says. Without a word he closes the browser at once.
+// Without a word the user closes the browser at once.
 class FakeFileForms : public FileForms {
  public:
   std::function<void()> onMultiIcon, onHeaderDiff;
   int multiIcons = 0, headerDiffs = 0;
 
-  explicit FakeFileForms(EditState& state) : state_(state) {}
+  explicit FakeFileForms(MultiIconExchange& exchange) : exchange_(exchange) {}
   void showMultiIcon() override {
     ++multiIcons;
     if (onMultiIcon) return onMultiIcon();
-    state_.multiIcon.gMultiIconResult.clear();
-    state_.multiIcon.gLoadAndReturn = false;
+    exchange_.gMultiIconResult.clear();
+    exchange_.gLoadAndReturn = false;
   }
   void showHeaderDiff() override {
     ++headerDiffs;
@@ -60,35 +33,42 @@ class FakeFileForms : public FileForms {
   }
 
  private:
-  EditState& state_;
+  MultiIconExchange& exchange_;
 };
+
+// A picture whose colours are all in the 16-colour chart.
+inline Picture blackAndWhitePicture(int size) {
+  Picture picture = anyPicture(size, 1);
+  picture.palette = {{0, 0, 0}, {255, 255, 255}};
+  return picture;
+}
 
 class FilesTest : public testing::Test {
  protected:
   IconFolder folder;
-  EditState state;
-  RecordingDisplay display;
-  ScriptedBoxes boxes;
-  ScriptedPump pump;
-  ScriptedDialogs dialogs;
-  clsGPDialog dialog{dialogs};
-  FilesEditor editor{state, display, pump};
-  FakeFileForms forms{state};
-  FilesContext context{state, editor, display, boxes, pump, dialog};
-  MultiIconCommands multiIcon{context, forms, folder.path("gptmp.ico")};
-  IconFiles files{context, multiIcon};
-  CursorFiles cursors{context};
-  IconSaver saver{context, cursors};
+  Rooms rooms;
+  EditState& state = rooms.state;
+  RoomsEditor& editor = rooms.editor;
+  RecordingDisplay& display = rooms.display;
+  ScriptedBoxes& boxes = rooms.boxes;
+  ScriptedPump& pump = rooms.pump;
+  ScriptedDialogs& dialogs = rooms.dialogs;
+  Files files{rooms.context, rooms.document, rooms.drawing, rooms.dialog, folder.path("gptmp.ico")};
+  MultiIconExchange& exchange = files.context().multiIcon;
+  IconSaver& saver = files.iconSaver;
+  FakeFileForms forms{exchange};
+
+  FilesTest() { files.attach(&forms); }
 
   IconContainerRec& record() { return state.current(); }
   bool open(const std::string& path, bool useBrowser = true) {
     bool ok = false;
-    files.doOpenIconFile(path, useBrowser, ok);
+    files.iconFiles.doOpenIconFile(path, useBrowser, ok);
     return ok;
   }
   bool openQuietly(const std::string& path) {
     bool ok = true;
-    files.doOpenIconFileQuietly(path, ok);
+    files.iconFiles.doOpenIconFileQuietly(path, ok);
     return ok;
   }
   // Opens a built file without reminders in the way.
@@ -97,6 +77,18 @@ class FilesTest : public testing::Test {
     EXPECT_TRUE(openQuietly(path));
     editor.calls.clear();
     return path;
+  }
+  // The editor's calls but for those that only enable commands.
+  std::vector<std::string> callsBesidesEnabling() const {
+    std::vector<std::string> calls = editor.calls;
+    std::erase(calls, "UpdateCommands");
+    return calls;
+  }
+  // Whether the current container holds what is on the Editing Area.
+  bool panelIsUpToDate() const {
+    const auto container = static_cast<std::size_t>(state.mCurContainer);
+    return samePixels(state.picPanelImage.at(container), state.picImage) &&
+           samePixels(state.picPanelMask.at(container), state.picMask);
   }
 };
 

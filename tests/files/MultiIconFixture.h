@@ -1,7 +1,6 @@
 // Commands on files of several icons, with a user who does in the browser what a test lists.
 #pragma once
 
-#include "files/Decoding.h"
 #include "files/FilesFixture.h"
 
 #include <deque>
@@ -33,16 +32,11 @@ class MultiIconTest : public FilesTest {
   }
 
   void answers(const std::string& text, bool comesBack = false) {
-    state.multiIcon.gMultiIconResult = text;
-    state.multiIcon.gLoadAndReturn = comesBack;
+    exchange.gMultiIconResult = text;
+    exchange.gLoadAndReturn = comesBack;
   }
   // An entry as the browser leaves it for loading.
-  void leaves(const Bytes& file, int index) {
-    const Decoded entry = decode(file, index);
-    state.picImageTemp = entry.image;
-    state.picMaskTemp = entry.mask;
-    if (entry.alpha.width() > 1) state.gAlphaValues = entry.alpha;
-  }
+  void leaves(const Bytes& file, int index) { exchange.chosenIcon = decode(file, index); }
   void userLoads(const Bytes& file, int index, const std::string& answer, bool comesBack = false) {
     user.push_back([=, this] { leaves(file, index), answers(answer, comesBack); });
   }
@@ -67,6 +61,20 @@ class MultiIconTest : public FilesTest {
     record().modified = true;
     editor.calls.clear();
   }
+  // A region floats over the Current Icon, and a side panel is up.
+  void leaveOpen() {
+    rooms.clipboard.hold(Surface(4, 4, kWhite));
+    rooms.drawing.clipboardCommands.doPaste(true);
+    ASSERT_TRUE(state.mRegionExists && state.mPendingPaint);
+    ASSERT_FALSE(panelIsUpToDate());
+    state.screen.mActivePanel = kIconsListPanel;
+  }
+  void expectNothingOpen() {
+    EXPECT_FALSE(state.mRegionExists || state.mRegionActive || state.mPendingPaint);
+    EXPECT_EQ(state.screen.mActivePanel, kColorPanel);
+    EXPECT_EQ(state.picImage.GetPixel(3, 3), kWhite) << "the region is part of the icon";
+    EXPECT_TRUE(panelIsUpToDate());
+  }
   // Nothing of a command is left beside what the user asked for.
   bool scratchIsGone() const { return !std::filesystem::exists(scratch); }
 };
@@ -90,8 +98,7 @@ inline Picture withSavedAlpha(Picture picture) {
 
 // All white where it is opaque, and written as such.
 inline Picture whitePicture(int size) {
-  Picture picture = anyPicture(size, 1);
-  picture.palette = {{0, 0, 0}, {255, 255, 255}};
+  Picture picture = blackAndWhitePicture(size);
   picture.index = [](int, int) { return 1; };
   return picture;
 }

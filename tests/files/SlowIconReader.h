@@ -1,5 +1,5 @@
-// The obvious reader of icon images: one byte at a time from a position that moves on, one pixel at a time onto the
-// Surfaces. The program's row readers must equal it.
+// The obvious reader of icon images: one byte at a time from a position that moves on, one pixel at a time. The
+// program's row readers must equal it.
 #pragma once
 
 #include "files/format/IcoDirectory.h"
@@ -14,9 +14,10 @@ class SlowIconReader {
   SlowIconReader(std::span<const std::uint8_t> file, const IconEntry& entry, int width, int height)
       : file_(file), entry_(entry), width_(width), height_(height), at_(std::uint64_t{entry.imageOffset} + 40) {}
 
-  void read(const IconPixels& pixels) {
+  IconImage read() {
+    IconImage icon{Surface(width_, height_), Surface(width_, height_), AlphaMatrix()};
     const int colors = ColorsForEntry(entry_, entry_.bitCount);
-    if (colors < 1) pixels.alpha = AlphaMatrix(width_, height_, 255);
+    if (colors < 1) icon.alpha = AlphaMatrix(width_, height_, 255);
     for (int i = 0; i < colors; ++i) {
       const int b = next(), g = next(), r = next();
       next();
@@ -24,15 +25,16 @@ class SlowIconReader {
     }
     for (int y = height_ - 1; y >= 0; --y) {
       if (colors == 2)
-        readBits(y, pixels.image, palette_[0], palette_[1]);
+        readBits(y, icon.image, palette_[0], palette_[1]);
       else if (colors == 16)
-        readHalves(y, pixels.image);
+        readHalves(y, icon.image);
       else if (colors == 256)
-        readBytes(y, pixels.image);
+        readBytes(y, icon.image);
       else
-        readTrue(y, pixels);
+        readTrue(y, icon);
     }
-    for (int y = height_ - 1; y >= 0; --y) readBits(y, pixels.mask, kBlack, kWhite);
+    for (int y = height_ - 1; y >= 0; --y) readBits(y, icon.mask, kBlack, kWhite);
+    return icon;
   }
 
  private:
@@ -62,12 +64,12 @@ class SlowIconReader {
     for (int x = 0; x < width_; ++x) surface.SetPixelV(x, y, palette_[static_cast<std::size_t>(next())]);
     pad(width_);
   }
-  void readTrue(int y, const IconPixels& pixels) {
+  void readTrue(int y, IconImage& icon) {
     for (int x = 0; x < width_; ++x) {
       const int b = next(), g = next(), r = next();
-      pixels.image.SetPixelV(x, y, rgb(r, g, b));
+      icon.image.SetPixelV(x, y, rgb(r, g, b));
       if (entry_.bitCount == 24) continue;
-      if (const int alpha = next()) pixels.alpha.at(x, y) = static_cast<std::uint8_t>(alpha);
+      if (const int alpha = next()) icon.alpha.at(x, y) = static_cast<std::uint8_t>(alpha);
     }
     pad(width_);
   }

@@ -8,8 +8,7 @@ namespace {
 
 class EntryPreviewTest : public testing::Test {
  protected:
-  EditState state;
-  EntryPreview preview{state};
+  EntryPreview preview;
   IconArrays arrays;
 
   void hold(const Bytes& file) {
@@ -42,8 +41,8 @@ TEST_F(EntryPreviewTest, HoldsPictureAndMaskAsTheFileHasThem) {
     const Picture picture = anyPicture(48, bits);
     ASSERT_TRUE(show(picture));
     const Decoded expected = decode(build(entryOf(picture)));
-    EXPECT_TRUE(samePixels(preview.picImageX(), expected.image)) << bits;
-    EXPECT_TRUE(samePixels(preview.picMaskX(), expected.mask)) << bits;
+    EXPECT_TRUE(samePixels(preview.icon().image, expected.image)) << bits;
+    EXPECT_TRUE(samePixels(preview.icon().mask, expected.mask)) << bits;
     EXPECT_TRUE(preview.picIconInFile().hasPicture());
   }
 }
@@ -72,31 +71,35 @@ TEST_F(EntryPreviewTest, AlphaValuesStayForWhoeverLoadsTheIcon) {
   Picture p = anyPicture(24, 32);
   p.color = [](int x, int y) { return Rgb{0, 0, 0, x + y}; };
   ASSERT_TRUE(show(p, SizeRule::IconSizes, true));
-  ASSERT_TRUE(state.gAlphaValues.isOfSize(24));
-  EXPECT_EQ(state.gAlphaValues.at(3, 4), 7);
-  EXPECT_EQ(state.gAlphaValues.at(0, 0), 255);
+  ASSERT_TRUE(preview.icon().alpha.isOfSize(24));
+  EXPECT_EQ(preview.icon().alpha.at(3, 4), 7);
+  EXPECT_EQ(preview.icon().alpha.at(0, 0), 255);
 }
 
-// Alpha values of another icon must not tint this one, even when the directory tells 32 bits.
+// Alpha values of the icon before must not tint this one, even when the directory tells 32 bits.
 TEST_F(EntryPreviewTest, AnIconWithPaletteIsNeverShownWithAlpha) {
-  state.gAlphaValues = AlphaMatrix(16, 16, 0);
+  Picture tinted = anyPicture(16, 32);
+  tinted.color = [](int, int) { return Rgb{0, 0, 0, 1}; };
+  ASSERT_TRUE(show(tinted, SizeRule::IconSizes, true));
   const Picture p = anyPicture(16, 4);
   const Decoded expected = decode(build(entryOf(p)));
   hold(build(entryOf(p, 16, 32)));
   ASSERT_TRUE(preview.show(arrays, arrays.entries.front(), SizeRule::IconSizes, true));
-  EXPECT_TRUE(samePixels(preview.picImageX(), expected.image));
+  EXPECT_TRUE(samePixels(preview.icon().image, expected.image));
   EXPECT_EQ(shownAt(1, 1), (kGround & expected.mask.GetPixel(1, 1)) ^ expected.image.GetPixel(1, 1));
-  EXPECT_EQ(state.gAlphaValues, AlphaMatrix(16, 16, 0));
+  EXPECT_EQ(preview.icon().alpha, AlphaMatrix());
 }
 
 TEST_F(EntryPreviewTest, StaysAsItWasWhenAnEntryIsRefused) {
   ASSERT_TRUE(show(threeKinds()));
   const Surface before = preview.picIconInFile();
-  const AlphaMatrix alphaBefore = state.gAlphaValues;
+  const IconImage iconBefore = preview.icon();
   hold(build(IcoFile{{entryOf(anyPicture(64, 32)), entryOf(anyPicture(16, 8), 0, 3)}, 0, 1, {}}));
   for (const IconEntry& entry : arrays.entries) EXPECT_FALSE(preview.show(arrays, entry, SizeRule::IconSizes, true));
   EXPECT_TRUE(samePixels(preview.picIconInFile(), before));
-  EXPECT_EQ(state.gAlphaValues, alphaBefore);
+  EXPECT_TRUE(samePixels(preview.icon().image, iconBefore.image));
+  EXPECT_TRUE(samePixels(preview.icon().mask, iconBefore.mask));
+  EXPECT_EQ(preview.icon().alpha, iconBefore.alpha);
 }
 
 TEST_F(EntryPreviewTest, OtherSizesAreShownWhereTheyAreAskedFor) {
@@ -123,8 +126,8 @@ TEST_F(EntryPreviewTest, ClearingLeavesNothingToShow) {
   ASSERT_TRUE(show(threeKinds()));
   preview.clear();
   EXPECT_EQ(preview.picIconInFile().width(), 0);
-  EXPECT_EQ(preview.picImageX().width(), 0);
-  EXPECT_EQ(preview.picMaskX().height(), 0);
+  EXPECT_EQ(preview.icon().image.width(), 0);
+  EXPECT_EQ(preview.icon().mask.height(), 0);
 }
 
 }  // namespace

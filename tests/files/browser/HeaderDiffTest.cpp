@@ -1,4 +1,3 @@
-#include "files/Decoding.h"
 #include "files/FilesFixture.h"
 #include "files/browser/HeaderDiff.h"
 #include "support/FullDisk.h"
@@ -39,8 +38,8 @@ class HeaderDiffTest : public FilesTest {
   void open(const std::vector<Entry>& entries) { open(build(IcoFile{entries, 0, 1, {}})); }
   void show(const std::string& file) {
     path = file;
-    state.multiIcon.gMultiIconFile = path;
-    diff = std::make_unique<HeaderDiff>(FilesContext{state, editor, display, boxes, pump, dialog});
+    exchange.gMultiIconFile = path;
+    diff = std::make_unique<HeaderDiff>(files.context());
     diff->onChange = [this] { ++changes; };
     diff->activate();
   }

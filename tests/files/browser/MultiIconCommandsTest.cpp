@@ -27,20 +27,20 @@ class MultiIconCommandsTest : public MultiIconTest {
 
   std::string retrieve(bool intoEditingArea = true) {
     std::string result = "before";
-    multiIcon.MultiIconFileSubRoutine(path, intoEditingArea, result);
+    files.multiIcon.MultiIconFileSubRoutine(path, intoEditingArea, result);
     return result;
   }
 };
 
 TEST_F(MultiIconCommandsTest, TheBrowserIsToldFileAndContainer) {
   state.mCurContainer = 2;
-  state.multiIcon.gAddToFile = true;
-  state.multiIcon.gFileInPanel = true;
+  exchange.gAddToFile = true;
+  exchange.gFileInPanel = true;
   user.push_back([&] {
-    EXPECT_EQ(state.multiIcon.gMultiIconFile, path);
-    EXPECT_EQ(state.multiIcon.gMultiIconResult, "2");
-    EXPECT_FALSE(state.multiIcon.gAddToFile);
-    EXPECT_FALSE(state.multiIcon.gFileInPanel);
+    EXPECT_EQ(exchange.gMultiIconFile, path);
+    EXPECT_EQ(exchange.gMultiIconResult, "2");
+    EXPECT_FALSE(exchange.gAddToFile);
+    EXPECT_FALSE(exchange.gFileInPanel);
     answers("");
   });
   EXPECT_EQ(retrieve(), "");
@@ -51,7 +51,7 @@ TEST_F(MultiIconCommandsTest, AFileOfAnyContainerIsToldToBeInThePanelHoweverItIs
   for (const std::string& own : {path, folder.folder() + "/./m.ico", folder.path("link.ico")}) {
     state.mIconRecs[4].path = own;
     user.push_back([&] {
-      EXPECT_TRUE(state.multiIcon.gFileInPanel) << own;
+      EXPECT_TRUE(exchange.gFileInPanel) << own;
       answers("");
     });
     retrieve();
@@ -85,14 +85,10 @@ TEST_F(MultiIconCommandsTest, ALoadFillsContainerEditingAreaAndRecord) {
 TEST_F(MultiIconCommandsTest, ALoadResetsRegionAndUndoShowsAndEntersTheHistory) {
   userLoads(bytes, 0, kFirst);
   retrieve();
-  const std::vector<std::string> expected = {
-      "clearRegion",        "clearUndoHistory", "SizeEditSurfaces 32", "SizePanelSurfaces 32", "UpdatePanelFromCurrent",
-      "ComposeCurrentIcon", "ShowCurrentIcon",  "clearUndoHistory",    "recordUndo",           "AddHistory " + path};
-  std::vector<std::string> seen;
-  for (const std::string& call : editor.calls)
-    if (std::ranges::find(expected, call) != expected.end()) seen.push_back(call);
-  EXPECT_EQ(seen, expected);
+  EXPECT_EQ(callsBesidesEnabling(), (std::vector<std::string>{"clearRegion", "clearAllTools", "chooseColorChart",
+                                                              "clearUndoHistory", "recordUndo", "AddHistory " + path}));
   EXPECT_GE(editor.count("UpdateCommands"), 1);
+  EXPECT_EQ(rooms.drawing.history.undoCount(), 1);
 }
 
 TEST_F(MultiIconCommandsTest, HeaderFieldsThatLieMakeTheRecordDiscrepant) {
@@ -114,13 +110,14 @@ TEST_F(MultiIconCommandsTest, AnIconWithAlphaKeepsItsValues) {
 TEST_F(MultiIconCommandsTest, AlphaValuesOfAnotherWidthMakeItAnIconOf24Bits) {
   user.push_back([&] {
     leaves(bytes, 2);
-    state.gAlphaValues = AlphaMatrix(32, 32, 255);
+    exchange.chosenIcon.alpha = AlphaMatrix(32, 32, 255);
     answers(kThird);
   });
   retrieve();
   EXPECT_FALSE(record().hasAlpha);
   EXPECT_EQ(record().bitCount, 24);
   EXPECT_EQ(state.mAlphaRecs[0], AlphaMatrix());
+  EXPECT_EQ(state.gAlphaValues, AlphaMatrix());
 }
 
 TEST_F(MultiIconCommandsTest, ALoadIntoAnotherContainerSwitchesThereWithoutLosingAnything) {
@@ -139,8 +136,8 @@ TEST_F(MultiIconCommandsTest, ALoadIntoAnotherContainerSwitchesThereWithoutLosin
 TEST_F(MultiIconCommandsTest, LoadBringsTheBrowserBackAndTheSecondLoadMayGoElsewhere) {
   userLoads(bytes, 1, kSecond, true);
   user.push_back([&] {
-    EXPECT_EQ(state.multiIcon.gMultiIconResult, "0");
-    EXPECT_TRUE(state.multiIcon.gFileInPanel) << "the first load put it there";
+    EXPECT_EQ(exchange.gMultiIconResult, "0");
+    EXPECT_TRUE(exchange.gFileInPanel) << "the first load put it there";
     leaves(bytes, 0);
     answers("6/00/32/32/16/4/16/4");
   });
@@ -162,6 +159,7 @@ TEST_F(MultiIconCommandsTest, ClosingAtOnceChangesNothing) {
   given(entryOf(anyPicture(32, 32)));
   const IconContainerRec before = record();
   const AlphaMatrix alpha = state.gAlphaValues;
+  const unsigned serial = state.iconSerial;
   user.push_back([&] {
     leaves(bytes, 2);
     answers("");
@@ -169,6 +167,7 @@ TEST_F(MultiIconCommandsTest, ClosingAtOnceChangesNothing) {
   EXPECT_EQ(retrieve(), "");
   EXPECT_EQ(record().path, before.path);
   EXPECT_EQ(state.gAlphaValues, alpha) << "looking at entries leaves the Current Icon's alpha values";
+  EXPECT_EQ(state.iconSerial, serial);
   EXPECT_EQ(editor.calls, std::vector<std::string>{});
 }
 
@@ -232,6 +231,7 @@ TEST_F(MultiIconCommandsTest, TheFirstContainerHasBeenAskedForByTheCaller) {
 }
 
 TEST_F(MultiIconCommandsTest, OutsideTheEditingAreaOnlyTheContainerGetsTheIcon) {
+  const unsigned serial = state.iconSerial;
   userLoads(bytes, 1, kSecond);
   EXPECT_EQ(retrieve(false), kSecond);
   EXPECT_TRUE(record().used);
@@ -240,7 +240,9 @@ TEST_F(MultiIconCommandsTest, OutsideTheEditingAreaOnlyTheContainerGetsTheIcon) 
   EXPECT_TRUE(samePixels(state.picPanelMask[0], decode(bytes, 1).mask));
   EXPECT_EQ(state.picPanelIcon[0].GetPixel(0, 0), kGround ^ decode(bytes, 1).image.GetPixel(0, 0)) << "transparent";
   EXPECT_EQ(state.picPanelIcon[0].GetPixel(1, 0), decode(bytes, 1).image.GetPixel(1, 0)) << "opaque";
-  EXPECT_EQ(editor.count("ShowCurrentIcon"), 0);
+  EXPECT_EQ(state.iconSerial, serial) << "the Editing Area shows what it did";
+  EXPECT_FALSE(state.screen.fraTools[1]);
+  EXPECT_EQ(editor.count("recordUndo"), 0);
   EXPECT_EQ(editor.count("AddHistory " + path), 1);
 }
 
@@ -279,26 +281,6 @@ TEST_F(MultiIconCommandsTest, OpeningThroughTheBrowserLeavesTheFileAsItIs) {
   userLoads(bytes, 1, kSecond);
   EXPECT_TRUE(open(path));
   EXPECT_EQ(bytesOf(path), bytes);
-}
-
-TEST_F(MultiIconCommandsTest, TheSavesSayThatThereIsNoIcon) {
-  for (const bool fromMultiIconFile : {false, true}) {
-    record().fromMultiIconFile = fromMultiIconFile;
-    boxes.expectTold("No icon in Editing Area yet", BoxIcon::None);
-    multiIcon.doMnuFileSaveMultiIconReplace();
-    boxes.expectTold("No icon in Editing Area yet", BoxIcon::None);
-    multiIcon.doMnuFileSaveMultiIconAddTo();
-  }
-  EXPECT_EQ(editor.count("CommitPendingPaint"), 4);
-}
-
-TEST_F(MultiIconCommandsTest, EachSaveIsForItsOwnKindOfIcon) {
-  given(entryOf(anyPicture(16, 4)));
-  multiIcon.doMnuFileSaveMultiIconReplace();
-  record().fromMultiIconFile = true;
-  multiIcon.doMnuFileSaveMultiIconAddTo();
-  EXPECT_EQ(editor.calls, (std::vector<std::string>{"CommitPendingPaint", "CommitPendingPaint"}));
-  EXPECT_TRUE(dialogs.requests.empty());
 }
 
 }  // namespace

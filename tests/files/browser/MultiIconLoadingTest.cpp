@@ -65,11 +65,9 @@ TEST_F(BrowserTest, TheMainFormGetsPictureAndMask) {
   browse(file);
   browser->clickIcon(2);
   browser->cmdEdit();
-  EXPECT_TRUE(samePixels(state.picImageTemp, expected.image));
-  EXPECT_TRUE(samePixels(state.picMaskTemp, expected.mask));
-  EXPECT_TRUE(state.picImageTemp.hasPicture());
-  EXPECT_TRUE(state.picMaskTemp.hasPicture());
-  EXPECT_EQ(state.gAlphaValues, expected.alpha);
+  EXPECT_TRUE(samePixels(exchange.chosenIcon.image, expected.image));
+  EXPECT_TRUE(samePixels(exchange.chosenIcon.mask, expected.mask));
+  EXPECT_EQ(exchange.chosenIcon.alpha, expected.alpha);
 }
 
 // What an entry answers for its bit count when the directory tells these.

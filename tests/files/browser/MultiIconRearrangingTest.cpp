@@ -321,7 +321,7 @@ TEST_F(BrowserRearrangingTest, AnAbortedPaneLeavesTheSelectedIconsAlpha) {
   browser->cmdRepositionAbort();
   browser->cmdEdit();
   EXPECT_EQ(exchange.gMultiIconResult, "3/00/32/32/-1/32/-1/32");
-  EXPECT_EQ(state.gAlphaValues, AlphaMatrix(32, 32, 128));
+  EXPECT_EQ(exchange.chosenIcon.alpha, AlphaMatrix(32, 32, 128));
 }
 
 TEST_F(BrowserRearrangingTest, RepositioningIsRefusedForOneIconAndForAFileInAContainer) {

@@ -180,7 +180,13 @@ TEST_F(BrowserSavesTest, EachItemIsSelectedAndPreviewedWhenItIsSaved) {
   const Bytes file = build(iconFile({anyEntry(16, 4), anyEntry(32, 24), anyEntry(48, 1)}));
   browse(file);
   WatchedDisplay watched;
-  browser = std::make_unique<MultiIconBrowser>(FilesContext{state, editor, watched, boxes, pump, dialog});
+  const FilesContext context{{state, editor, watched, boxes, pump},
+                             rooms.document,
+                             rooms.drawing,
+                             rooms.dialog,
+                             exchange,
+                             files.context().forms};
+  browser = std::make_unique<MultiIconBrowser>(context);
   browser->activate();
   const Items names{"tools_16_16.ico", "tools_32_24bpp.ico", "tools_48_2.ico"};
   std::vector<int> saved;

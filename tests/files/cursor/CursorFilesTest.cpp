@@ -1,6 +1,4 @@
 #include "files/CursorBuilder.h"
-#include "files/cursor/CursorFiles.h"
-#include "files/Decoding.h"
 #include "files/FilesFixture.h"
 
 #include <filesystem>
@@ -19,29 +17,11 @@ constexpr const char* kAlphaReminder =
     "(To remove Reminder, untick the related Option submenu)";
 constexpr const char* kReadOnly =
     "File is read-only\n\nYou may save it under a different file name or reset the file attributes.";
-constexpr const char* kSizeOnly = "For cursor of 32x32 only";
 constexpr int kFlashMilliseconds = 900;
-constexpr int kSaveAsCursor = 18;
-constexpr int kPanel = 2;
-
-// Panels open and close as they do on the form.
-class PanelEditor : public FilesEditor {
- public:
-  PanelEditor(EditState& state, Display& display, MessagePump& pump)
-      : FilesEditor(state, display, pump), shown_(state) {}
-  void showPanel(int panel) override { FakeEditor::showPanel(panel), shown_.screen.mActivePanel = panel; }
-  void closePanels() override { FakeEditor::closePanels(), shown_.screen.mActivePanel = 0; }
-
- private:
-  EditState& shown_;
-};
 
 class CursorFilesTest : public FilesTest {
  protected:
-  PanelEditor screen{state, display, pump};
-  FilesContext onScreen{state, screen, display, boxes, pump, dialog};
-  CursorFiles cursor{onScreen};
-  IconSaver cursorSaver{onScreen, cursor};
+  CursorFiles& cursor = files.cursorFiles;
 
   bool openCursor(const std::string& path) {
     bool ok = true;
@@ -55,14 +35,16 @@ class CursorFilesTest : public FilesTest {
   std::string givenCursor(int hotspotX, int hotspotY) {
     const std::string path = write(cursorOf(anyPicture(32, 4), hotspotX, hotspotY));
     EXPECT_TRUE(openCursor(path));
-    screen.calls.clear();
+    editor.calls.clear();
     return path;
   }
   void expectEmptyContainer() {
     EXPECT_FALSE(record().used || record().present);
     EXPECT_EQ(record().path.trimmed(), "");
-    EXPECT_FALSE(state.picPanelImage[0].hasPicture());
-    EXPECT_EQ(screen.calls.back(), "SwitchContainer 0") << "which shows it empty";
+    EXPECT_FALSE(state.picPanelImage[0].hasPicture() || state.picImage.hasPicture() || state.picMask.hasPicture());
+    EXPECT_FALSE(state.screen.fraTools[1]) << "there is nothing to draw on";
+    EXPECT_EQ(state.screen.lblStatusPanel[0], "");
+    EXPECT_EQ(rooms.drawing.history.undoCount(), 0);
     EXPECT_FALSE(state.screen.hourglass);
   }
   std::pair<int, int> spot() const { return {cursor.hotspotX(), cursor.hotspotY()}; }
@@ -87,12 +69,12 @@ TEST_F(CursorFilesTest, ACursorOpensWithItsPixelsAndItsHotSpot) {
   EXPECT_TRUE(samePixels(state.picPanelMask[0], decode(build(entryOf(p))).mask));
 }
 
-TEST_F(CursorFilesTest, OpeningClearsSizesShowsAndBeginsUndoButEntersNoHistory) {
+TEST_F(CursorFilesTest, OpeningEndsTheRegionShowsChoosesTheChartAndBeginsUndoButEntersNoHistory) {
   EXPECT_TRUE(openCursor(write(cursorOf(anyPicture(32, 4)))));
-  EXPECT_EQ(screen.calls, (std::vector<std::string>{
-                              "clearRegion", "clearUndoHistory", "ClearContainer", "SizePanelSurfaces 32",
-                              "SizeEditSurfaces 32", "UpdatePanelFromCurrent", "ComposeCurrentIcon", "ShowCurrentIcon",
-                              "clearAllTools", "UpdateCommands", "UpdateCommands", "clearUndoHistory", "recordUndo"}));
+  EXPECT_EQ(callsBesidesEnabling(), (std::vector<std::string>{"clearRegion", "clearAllTools", "chooseColorChart",
+                                                              "clearUndoHistory", "recordUndo"}));
+  EXPECT_GE(editor.count("UpdateCommands"), 1);
+  EXPECT_EQ(rooms.drawing.history.undoCount(), 1);
 }
 
 TEST_F(CursorFilesTest, FilesThatAreNoSuchCursorsAreInvalid) {
@@ -114,7 +96,7 @@ TEST_F(CursorFilesTest, FilesThatAreNoSuchCursorsAreInvalid) {
   boxes.expectTold(folder.path("gone.cur") + kInvalid, BoxIcon::Exclamation);
   EXPECT_FALSE(openCursor(folder.path("gone.cur")));
   EXPECT_EQ(record().path.trimmed(), before) << "the icon that was there stays";
-  EXPECT_TRUE(screen.calls.empty());
+  EXPECT_TRUE(editor.calls.empty());
 }
 
 TEST_F(CursorFilesTest, APngPictureFailsToLoadAndLeavesTheContainerEmpty) {
@@ -123,7 +105,6 @@ TEST_F(CursorFilesTest, APngPictureFailsToLoadAndLeavesTheContainerEmpty) {
   png.image = Bytes{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n', 0, 0, 0, 13, 'I', 'H', 'D', 'R'};
   boxes.expectTold(kFailed, BoxIcon::Exclamation);
   EXPECT_FALSE(openCursor(write(png, "png.cur")));
-  EXPECT_FALSE(state.picImage.hasPicture() || state.picMask.hasPicture());
   expectEmptyContainer();
 }
 
@@ -172,14 +153,14 @@ TEST_F(CursorFilesTest, AlphaIsKeptAndRemindedOfWhereTheOptionIsOn) {
 }
 
 TEST_F(CursorFilesTest, TheOpenCommandAsksOpensAndChoosesTheChart) {
-  const std::string path = write(cursorOf(anyPicture(32, 4), 1, 2));
+  const std::string path = write(cursorOf(blackAndWhitePicture(32), 1, 2));
   dialogs.paths = {path};
+  state.screen.colorFrame = ColorFrame::Chart256;
   cursor.doMnuFileOpenCursor();
   ASSERT_EQ(dialogs.requests.size(), 1u);
   EXPECT_EQ(dialogs.requests[0].filters, (std::vector<FileFilter>{{"Cursor files (*.cur)", "*.cur"}}));
   EXPECT_EQ(state.process.mCommandFile, path);
-  EXPECT_EQ(screen.calls.front(), "CommitPendingPaint");
-  EXPECT_EQ(screen.calls.back(), "chooseColorChart");
+  EXPECT_EQ(state.screen.colorFrame, ColorFrame::Chart16);
 }
 
 TEST_F(CursorFilesTest, TheOpenCommandEndsOnCancelOnRefusalAndOnFailure) {
@@ -187,24 +168,24 @@ TEST_F(CursorFilesTest, TheOpenCommandEndsOnCancelOnRefusalAndOnFailure) {
   dialogs.paths = {""};
   cursor.doMnuFileOpenCursor();
   record().modified = true;
-  screen.askSaveProceeds = false;
+  editor.askSaveProceeds = false;
   cursor.doMnuFileOpenCursor();
   EXPECT_EQ(dialogs.requests.size(), 1u);
-  screen.askSaveProceeds = true;
+  editor.askSaveProceeds = true;
   const std::string bad = folder.write("bad.cur", {1});
   dialogs.paths = {bad};
   boxes.expectTold(bad + kInvalid, BoxIcon::Exclamation);
   cursor.doMnuFileOpenCursor();
   EXPECT_EQ(state.process.mCommandFile, "");
-  EXPECT_EQ(screen.count("chooseColorChart"), 0);
+  EXPECT_EQ(editor.count("chooseColorChart"), 0);
 }
 
 // The Panel.
 
 TEST_F(CursorFilesTest, ThePanelOpensWithTheHotSpotOfTheCursorAndShowsItOnce) {
   givenCursor(7, 30);
-  cursorSaver.mnuFileSub(kSaveAsCursor);
-  EXPECT_EQ(state.screen.mActivePanel, kPanel);
+  saver.saveAsCursor();
+  EXPECT_EQ(state.screen.mActivePanel, kCursorPanel);
   EXPECT_EQ(spot(), std::pair(7, 30));
   EXPECT_EQ(pump.waitedMilliseconds, kFlashMilliseconds);
 }
@@ -221,27 +202,6 @@ TEST_F(CursorFilesTest, ThePanelOpensAtZeroForIconsAndForSpotsOutside) {
     cursor.openPanel();
     EXPECT_EQ(spot(), std::pair(0, 0)) << x << "," << y;
   }
-}
-
-TEST_F(CursorFilesTest, IconsOfOtherSizesCannotReachThePanel) {
-  for (const int size : {16, 24, 48}) {
-    EXPECT_TRUE(openQuietly(folder.write("a.ico", build(entryOf(anyPicture(size, 4))))));
-    boxes.expectTold(kSizeOnly, BoxIcon::None);
-    cursorSaver.mnuFileSub(kSaveAsCursor);
-    EXPECT_EQ(screen.count("showPanel 2"), 0) << size;
-  }
-}
-
-TEST_F(CursorFilesTest, AnIconOfAnotherSizeThatCameUpUnderThePanelIsNotSaved) {
-  givenCursor(31, 31);
-  cursor.openPanel();
-  EXPECT_TRUE(openQuietly(folder.write("a.ico", build(entryOf(anyPicture(24, 4))))));
-  boxes.expectTold(kSizeOnly, BoxIcon::None);
-  cursorSaver.doSaveAs(SaveMode::Cursor);
-  screen.ClearContainer();
-  boxes.expectTold("No icon in Editing Area yet", BoxIcon::None);
-  cursorSaver.doSaveAs(SaveMode::Cursor);
-  EXPECT_TRUE(dialogs.requests.empty());
 }
 
 TEST_F(CursorFilesTest, TheListsHoldZeroTo31AndTellTheView) {
@@ -269,7 +229,7 @@ TEST_F(CursorFilesTest, AnotherCursorUnderThePanelStartsTheListsAtItsOwnHotSpotA
   EXPECT_EQ(seen, (std::vector{std::pair(12, 5)}));
   EXPECT_EQ(spot(), std::pair(12, 5));
   dialogs.paths = {folder.path("saved.cur")};
-  cursorSaver.doSaveAs(SaveMode::Cursor);
+  saver.doSaveAs(SaveMode::Cursor);
   const Bytes file = bytesOf(folder.path("saved.cur"));
   ASSERT_GT(file.size(), 22u);
   EXPECT_EQ(Bytes(file.begin() + 10, file.begin() + 14), (Bytes{12, 0, 5, 0}));
@@ -289,31 +249,49 @@ TEST_F(CursorFilesTest, AnIconUnderThePanelIsSavedWithTheHotSpotAtZero) {
   EXPECT_TRUE(openQuietly(folder.write("a.ico", build(entryOf(anyPicture(32, 4))))));
   EXPECT_EQ(spot(), std::pair(0, 0));
   dialogs.paths = {folder.path("saved.cur")};
-  cursorSaver.doSaveAs(SaveMode::Cursor);
+  saver.doSaveAs(SaveMode::Cursor);
   const Bytes file = bytesOf(folder.path("saved.cur"));
   ASSERT_GT(file.size(), 22u);
   EXPECT_EQ(Bytes(file.begin() + 10, file.begin() + 14), (Bytes{0, 0, 0, 0}));
 }
 
+// A container may hold what no file could bring in.
 TEST_F(CursorFilesTest, AHotSpotOutsideOfAnIconThatCameUpUnderThePanelCountsAsZero) {
   givenCursor(7, 30);
   cursor.openPanel();
-  state.mIconRecs[1] = record();
-  state.mCurContainer = 1;
-  EXPECT_EQ(spot(), std::pair(7, 30));
   for (const auto& [x, y] : {std::pair{32, 5}, {5, 32}, {-1, 5}, {5, -1}}) {
-    record().hotspotX = static_cast<std::int16_t>(x);
-    record().hotspotY = static_cast<std::int16_t>(y);
+    IconContainerRec outside = record();
+    outside.hotspotX = static_cast<std::int16_t>(x);
+    outside.hotspotY = static_cast<std::int16_t>(y);
+    rooms.document.arrival.arrive(transparentIcon(32), outside);
     EXPECT_EQ(spot(), std::pair(0, 0)) << x << "," << y;
   }
 }
 
-TEST_F(CursorFilesTest, AnotherEntryOfTheSameFileIsAnotherIcon) {
+TEST_F(CursorFilesTest, AnotherContainerUnderThePanelStartsTheListsAtItsOwnHotSpot) {
   givenCursor(7, 30);
-  record().isCursor = false;
+  state.mCurContainer = 1;
+  EXPECT_TRUE(openCursor(write(cursorOf(anyPicture(32, 4), 3, 4), "second.cur")));
   cursor.openPanel();
   cursor.setHotspotX(20);
-  record().multiIconIndex = 3;
+  state.mCurContainer = 0;
+  rooms.document.arrival.showCurrentContainer();
+  EXPECT_EQ(spot(), std::pair(7, 30));
+}
+
+TEST_F(CursorFilesTest, AnotherEntryOfTheSameFileIsAnotherIcon) {
+  const IcoFile file{{entryOf(anyPicture(32, 4)), entryOf(anyPicture(32, 8))}, 0, 1, {}};
+  const std::string path = folder.write("two.ico", build(file));
+  EXPECT_TRUE(openQuietly(path));
+  cursor.openPanel();
+  cursor.setHotspotX(20);
+  forms.onMultiIcon = [&] {
+    exchange.chosenIcon = decode(build(file), 0);
+    exchange.gMultiIconResult = "1/00/32/32/16/4/16/4";
+    exchange.gLoadAndReturn = false;
+  };
+  EXPECT_TRUE(open(path));
+  EXPECT_EQ(state.screen.mActivePanel, kCursorPanel);
   EXPECT_EQ(spot(), std::pair(0, 0));
 }
 
@@ -331,14 +309,14 @@ TEST_F(CursorFilesTest, TheSpotIsShownOnlyWhileThePanelIsOpen) {
   givenCursor(1, 1);
   cursor.showHotspot();
   EXPECT_EQ(pump.waitedMilliseconds, 0);
-  state.screen.mActivePanel = kPanel;
+  state.screen.mActivePanel = kCursorPanel;
   cursor.showHotspot();
   EXPECT_EQ(pump.waitedMilliseconds, kFlashMilliseconds);
 }
 
 TEST_F(CursorFilesTest, AClickTakesTheSpotAndShowsIt) {
   givenCursor(1, 1);
-  state.screen.mActivePanel = kPanel;
+  state.screen.mActivePanel = kCursorPanel;
   cursor.setHotspotByClick(20, 3);
   EXPECT_EQ(spot(), std::pair(20, 3));
   EXPECT_EQ(pump.waitedMilliseconds, kFlashMilliseconds);
@@ -375,7 +353,7 @@ TEST_F(CursorFilesTest, ProceedSavesWithTheHotSpotOfTheLists) {
   cursor.setHotspotY(29);
   const std::string path = folder.path("saved.cur");
   dialogs.paths = {path};
-  cursorSaver.doSaveAs(SaveMode::Cursor);
+  saver.doSaveAs(SaveMode::Cursor);
   ASSERT_EQ(dialogs.requests.size(), 1u);
   EXPECT_EQ(dialogs.requests[0].filters, (std::vector<FileFilter>{{"cursor files (*.cur)", "*.cur"}}));
   EXPECT_EQ(dialogs.requests[0].defaultExtension, "cur");
@@ -390,39 +368,41 @@ TEST_F(CursorFilesTest, SavingACursorLeavesTheIconWhatItWas) {
   const std::string source = folder.write("former.ico", build(entryOf(anyPicture(32, 4))));
   EXPECT_TRUE(openQuietly(source));
   record().modified = true;
+  state.picImage.fill(0x123456);
   cursor.openPanel();
-  screen.calls.clear();
+  state.screen.lblStatusPanel.fill("");
   dialogs.paths = {folder.path("saved.cur")};
-  cursorSaver.doSaveAs(SaveMode::Cursor);
+  saver.doSaveAs(SaveMode::Cursor);
   EXPECT_EQ(record().path.trimmed(), source);
   EXPECT_EQ(record().sourceLabel.trimmed(), "ICO file");
   EXPECT_FALSE(record().isCursor);
   EXPECT_TRUE(record().modified);
-  EXPECT_FALSE(state.mSaveFailed);
-  EXPECT_EQ(screen.count("UpdatePanelFromCurrent"), 1);
-  EXPECT_EQ(screen.count("RefreshStatusBar"), 1);
-  EXPECT_EQ(screen.count("AddHistory " + folder.path("saved.cur")), 0);
-  EXPECT_EQ(cursorSaver.lastSavedFile(), folder.path("saved.cur"));
+  EXPECT_FALSE(saver.mSaveFailed());
+  EXPECT_TRUE(panelIsUpToDate());
+  EXPECT_EQ(state.screen.lblStatusPanel[0], source) << "the status bar shows the icon again";
+  EXPECT_EQ(editor.count("AddHistory " + folder.path("saved.cur")), 0);
+  EXPECT_EQ(saver.lastSavedFile(), folder.path("saved.cur"));
 }
 
 TEST_F(CursorFilesTest, AReadOnlyFileIsToldSo) {
   givenCursor(1, 2);
+  state.picImage.fill(0x123456);
   const std::string path = folder.write("kept.cur", {1, 2, 3});
   fs::permissions(path, fs::perms::owner_read);
   dialogs.paths = {path};
   boxes.expectTold(kReadOnly, BoxIcon::Exclamation);
-  cursorSaver.doSaveAs(SaveMode::Cursor);
+  saver.doSaveAs(SaveMode::Cursor);
   EXPECT_EQ(bytesOf(path), (Bytes{1, 2, 3}));
-  EXPECT_TRUE(state.mSaveFailed);
-  EXPECT_EQ(screen.count("RefreshStatusBar"), 0);
+  EXPECT_TRUE(saver.mSaveFailed());
+  EXPECT_FALSE(panelIsUpToDate()) << "nothing was saved";
 }
 
 TEST_F(CursorFilesTest, AnyOtherFailureIsToldInItsOwnSpelling) {
   givenCursor(1, 2);
   dialogs.paths = {folder.path("no/such.cur")};
   boxes.expectTold("Failed to save curosr", BoxIcon::Exclamation);
-  cursorSaver.doSaveAs(SaveMode::Cursor);
-  EXPECT_TRUE(state.mSaveFailed);
+  saver.doSaveAs(SaveMode::Cursor);
+  EXPECT_TRUE(saver.mSaveFailed());
 }
 
 TEST_F(CursorFilesTest, ProceedWhileTheSpotIsShownSavesNoMark) {
@@ -430,7 +410,7 @@ TEST_F(CursorFilesTest, ProceedWhileTheSpotIsShownSavesNoMark) {
   givenCursor(3, 4);
   const std::string path = folder.path("saved.cur");
   dialogs.paths = {path};
-  pump.inside = [this] { cursorSaver.doSaveAs(SaveMode::Cursor); };
+  pump.inside = [this] { saver.doSaveAs(SaveMode::Cursor); };
   cursor.openPanel();
   bool ok = false;
   cursor.doOpenCursorFile(path, ok);
@@ -446,7 +426,7 @@ TEST_F(CursorFilesTest, ASavedCursorOpensAgainWithTheSamePixelsAndAlpha) {
     cursor.openPanel();
     const std::string path = folder.path("again.cur");
     dialogs.paths = {path};
-    cursorSaver.doSaveAs(SaveMode::Cursor);
+    saver.doSaveAs(SaveMode::Cursor);
     EXPECT_TRUE(openCursor(path));
     EXPECT_EQ(record().bitCount, bits);
     EXPECT_EQ(record().hotspotX, 9);

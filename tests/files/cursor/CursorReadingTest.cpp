@@ -1,7 +1,7 @@
 #include "document/IconContainerRec.h"
 #include "files/CursorBuilder.h"
-#include "files/cursor/CursorLoading.h"
 #include "files/Decoding.h"
+#include "files/cursor/CursorLoading.h"
 #include "support/Sha256.h"
 
 #include <filesystem>
@@ -12,21 +12,7 @@
 namespace gp::test {
 namespace {
 
-struct Loaded {
-  EditState state;
-  Surface image{32, 32}, mask{32, 32};
-  IconDefect defect = IconDefect::None;
-};
-
-void loadInto(Loaded& loaded, const Bytes& file) {
-  loaded.defect = loadCursorPixels(file, loaded.state, loaded.image, loaded.mask);
-}
-Loaded load(const Bytes& file) {
-  Loaded loaded;
-  loadInto(loaded, file);
-  return loaded;
-}
-Loaded load(const CursorFile& cursor) { return load(build(cursor)); }
+DecodedIcon load(const CursorFile& cursor) { return loadCursorImage(build(cursor)); }
 
 Color expectedColor(const Picture& p, int x, int y) {
   if (p.bits > 8) return colorOf(p.color(x, y));
@@ -34,12 +20,13 @@ Color expectedColor(const Picture& p, int x, int y) {
   return colorOf(Rgb{i, 2 * i % 256, 255 - i});
 }
 
-void expectPicture(const Loaded& loaded, const Picture& p) {
+void expectPicture(const DecodedIcon& loaded, const Picture& p) {
   ASSERT_EQ(loaded.defect, IconDefect::None);
+  ASSERT_TRUE(loaded.icon.width() == 32 && loaded.icon.height() == 32);
   for (int y = 0; y < 32; ++y) {
     for (int x = 0; x < 32; ++x) {
-      ASSERT_EQ(loaded.image.GetPixel(x, y), expectedColor(p, x, y)) << p.bits << " bits at " << x << "," << y;
-      ASSERT_EQ(loaded.mask.GetPixel(x, y), p.transparent(x, y) ? kWhite : kBlack) << x << "," << y;
+      ASSERT_EQ(loaded.icon.image.GetPixel(x, y), expectedColor(p, x, y)) << p.bits << " bits at " << x << "," << y;
+      ASSERT_EQ(loaded.icon.mask.GetPixel(x, y), p.transparent(x, y) ? kWhite : kBlack) << x << "," << y;
     }
   }
 }
@@ -64,16 +51,16 @@ TEST(CursorReading, TheHotSpotAndTheColorCountDoNotDecideHowTheBytesAreRead) {
 TEST(CursorReading, TheAlphaBytesAreKeptAndAZeroReadsAs255) {
   Picture p = anyPicture(32, 32);
   p.color = [](int x, int y) { return Rgb{x, y, 9, (x + y) % 256}; };
-  const Loaded loaded = load(cursorOf(p));
-  ASSERT_TRUE(loaded.state.gAlphaValues.isOfSize(32));
-  EXPECT_EQ(loaded.state.gAlphaValues.at(0, 0), 255);
-  EXPECT_EQ(loaded.state.gAlphaValues.at(3, 4), 7);
+  const DecodedIcon loaded = load(cursorOf(p));
+  ASSERT_TRUE(loaded.icon.alpha.isOfSize(32));
+  EXPECT_EQ(loaded.icon.alpha.at(0, 0), 255);
+  EXPECT_EQ(loaded.icon.alpha.at(3, 4), 7);
 }
 
 TEST(CursorReading, TrueColorOf24BitsIsOpaqueThroughout) {
-  const Loaded loaded = load(cursorOf(anyPicture(32, 24)));
-  ASSERT_TRUE(loaded.state.gAlphaValues.isOfSize(32));
-  EXPECT_EQ(loaded.state.gAlphaValues.at(31, 31), 255);
+  const DecodedIcon loaded = load(cursorOf(anyPicture(32, 24)));
+  ASSERT_TRUE(loaded.icon.alpha.isOfSize(32));
+  EXPECT_EQ(loaded.icon.alpha.at(31, 31), 255);
 }
 
 TEST(CursorReading, TrueColorOfOddBitCountsIsReadAsFourBytesAPixel) {
@@ -109,28 +96,25 @@ TEST(CursorReading, OtherTypesSizesAndPngPicturesAreRefused) {
 
 // What is cut away reads as zeros: the same as if the file had gone on with them.
 TEST(CursorReading, AFileCutAnywhereReadsAsIfItWentOnWithZeros) {
-  EditState state;
-  Surface image(32, 32), mask(32, 32), expectedImage(32, 32), expectedMask(32, 32);
-  Loaded got, expected;
   for (const int bits : {1, 8, 32}) {
     const Bytes whole = build(cursorOf(anyPicture(32, bits), 3, 3));
     const std::size_t longest = whole.size() + 32 * 32 * 4;
     for (std::size_t size = 0; size < whole.size(); ++size) {
       Bytes padded(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size));
-      const IconDefect defect = loadCursorPixels(padded, state, image, mask);
+      const DecodedIcon cut = loadCursorImage(padded);
       padded.resize(longest);
-      ASSERT_EQ(defect, loadCursorPixels(padded, state, expectedImage, expectedMask)) << size;
-      ASSERT_TRUE(samePixels(image, expectedImage) && samePixels(mask, expectedMask)) << size;
+      const DecodedIcon expected = loadCursorImage(padded);
+      ASSERT_EQ(cut.defect, expected.defect) << size;
+      ASSERT_TRUE(samePixels(cut.icon.image, expected.icon.image)) << size;
+      ASSERT_TRUE(samePixels(cut.icon.mask, expected.icon.mask)) << size;
+      ASSERT_EQ(cut.icon.alpha, expected.icon.alpha) << size;
     }
   }
 }
 
 TEST(CursorReading, TheRecordTellsOfTheCursor) {
-  Loaded loaded = load(cursorOf(anyPicture(32, 32), 12, 30));
-  IconContainerRec& record = loaded.state.current();
-  record.modified = record.neverSaved = record.fromMultiIconFile = true;
-  record.multiIconIndex = 4;
-  describeLoadedCursor(loaded.state, {true, -1, 32, 12, 30}, "/a/b.cur");
+  const DecodedIcon loaded = load(cursorOf(anyPicture(32, 32), 12, 30));
+  const IconContainerRec record = recordOfLoadedCursor({true, -1, 32, 12, 30}, loaded.icon, "/a/b.cur");
   EXPECT_TRUE(record.used && record.present && record.isCursor && record.hasAlpha);
   EXPECT_FALSE(record.modified || record.neverSaved || record.fromMultiIconFile);
   EXPECT_EQ(record.sourceLabel.trimmed(), "CUR file");
@@ -145,12 +129,12 @@ TEST(CursorReading, TheRecordTellsOfTheCursor) {
 }
 
 TEST(CursorReading, WithoutAlphaValuesOfTheSizeA32BitCursorCountsAs24Bits) {
-  EditState state;
-  state.gAlphaValues = AlphaMatrix(16, 16);
-  describeLoadedCursor(state, {true, -1, 32, 0, 0}, "/a/b.cur");
-  EXPECT_EQ(state.current().bitCount, 24);
-  EXPECT_EQ(state.current().bihBitCount, 24);
-  EXPECT_FALSE(state.current().hasAlpha);
+  IconImage icon = transparentIcon(32);
+  icon.alpha = AlphaMatrix(16, 16);
+  const IconContainerRec record = recordOfLoadedCursor({true, -1, 32, 0, 0}, icon, "/a/b.cur");
+  EXPECT_EQ(record.bitCount, 24);
+  EXPECT_EQ(record.bihBitCount, 24);
+  EXPECT_FALSE(record.hasAlpha);
 }
 
 // The corpus of real and made cursor files, where it stands beside the repository.
@@ -202,12 +186,12 @@ TEST(Corpus, EveryCursorIsTakenOrRefusedAndReadAsMeasured) {
     ++taken;
     EXPECT_EQ(facts.hotspotX, m.hotspotX) << m.file;
     EXPECT_EQ(facts.hotspotY, m.hotspotY) << m.file;
-    const Loaded loaded = load(file);
+    const DecodedIcon loaded = loadCursorImage(file);
     const bool isPng = m.picture == "-";
     EXPECT_EQ(loaded.defect, isPng ? IconDefect::PngImage : IconDefect::None) << m.file;
     if (isPng) continue;
-    EXPECT_EQ(hashOf(loaded.image, false), m.picture) << m.file;
-    EXPECT_EQ(hashOf(loaded.mask, true), m.mask) << m.file;
+    EXPECT_EQ(hashOf(loaded.icon.image, false), m.picture) << m.file;
+    EXPECT_EQ(hashOf(loaded.icon.mask, true), m.mask) << m.file;
   }
   std::cout << "corpus: " << taken << " of " << all.size() << " cursor files taken, their pixels as measured\n";
   EXPECT_GT(taken, 20);

@@ -1,5 +1,11 @@
+#include "document/Containers.h"
+#include "document/Document.h"
 #include "files/cursor/HotspotMark.h"
-#include "files/Watching.h"
+#include "support/FakeEditor.h"
+#include "support/ScriptedPorts.h"
+
+#include <functional>
+#include <vector>
 
 namespace gp::test {
 namespace {
@@ -7,26 +13,55 @@ namespace {
 constexpr Color kRed = 0x0000FF;
 constexpr int kX = 3, kY = 5;
 
-class HotspotMarkTest : public FilesTest {
+// Keeps PicIcon whenever it is magnified onto the Editing Area.
+class WatchingDisplay : public RecordingDisplay {
+ public:
+  explicit WatchingDisplay(const EditState& state) : state_(state) {}
+  std::vector<Surface> shown;
+
+  void changed(DisplayPart part) override {
+    if (part == DisplayPart::EditingArea) shown.push_back(state_.PicIcon);
+  }
+
+ private:
+  const EditState& state_;
+};
+
+// Lets a test look on at every wait.
+class WatchingPump : public MessagePump {
+ public:
+  std::vector<int> waits;  // milliseconds
+  std::function<void()> onWait;
+
+  void pump() override {}
+  void wait(int milliseconds) override {
+    waits.push_back(milliseconds);
+    if (onWait) onWait();
+  }
+};
+
+// An icon with one transparent pixel, which is the hot spot.
+class HotspotMarkTest : public testing::Test {
  protected:
+  EditState state;
+  FakeEditor editor;
+  WatchingDisplay watched{state};
+  ScriptedBoxes boxes;
   WatchingPump watching;
-  WatchedEditor watched{state, display, watching};
-  HotspotMark mark{state, watched, watching};
+  const Context context{state, editor, watched, boxes, watching};
+  Document document{context};
+  HotspotMark mark{context, document.editingArea};
 
   HotspotMarkTest() { make(32); }
-  void make(int size) {
-    watched.ClearContainer();
-    record().used = record().present = true;
-    record().size = static_cast<std::int16_t>(size);
-    watched.SizeEditSurfaces(size);
-    watched.SizePanelSurfaces(size);
-    state.picImage.fill(0x123456);
-    state.picMask.fill(kBlack);
-    state.picImage.SetPixelV(kX, kY, kBlack);  // transparent
-    state.picMask.SetPixelV(kX, kY, kWhite);
-    state.picImage.makePersistent();
-    state.picMask.makePersistent();
-    watched.ComposeCurrentIcon();
+  void make(int size, const std::string& path = "Untitled") {
+    IconImage icon = transparentIcon(size);
+    icon.image.fill(0x123456);
+    icon.mask.fill(kBlack);
+    icon.image.SetPixelV(kX, kY, kBlack);
+    icon.mask.SetPixelV(kX, kY, kWhite);
+    IconContainerRec record = NewRecord();
+    record.path = path;
+    document.arrival.arrive(icon, record);
     watched.shown.clear();
   }
   Color shownAt(std::size_t step) const { return watched.shown.at(step).GetPixel(kX, kY); }
@@ -126,17 +161,17 @@ TEST_F(HotspotMarkTest, AnotherIconEndsItAndIsShownWithoutAMark) {
 }
 
 TEST_F(HotspotMarkTest, AnIconOfTheSameSizeFromAnotherFileEndsItToo) {
-  watching.onWait = [&] { record().path = "/other.ico"; };
+  watching.onWait = [&] { make(32, "/other.ico"); };
   mark.FlashHotspot(kX, kY);
   EXPECT_EQ(watching.waits.size(), 1u);
   expectNoMark();
 }
 
 TEST_F(HotspotMarkTest, AnEmptyContainerEndsItAndNothingIsDrawn) {
-  watching.onWait = [&] { watched.ClearContainer(); };
+  watching.onWait = [&] { document.iconsPanel.showEmptyContainer(), watched.shown.clear(); };
   mark.FlashHotspot(kX, kY);
   EXPECT_EQ(watching.waits.size(), 1u);
-  EXPECT_EQ(watched.shown.size(), 1u);
+  EXPECT_TRUE(watched.shown.empty());
 }
 
 TEST_F(HotspotMarkTest, WhatIsPaintedOnTheSpotMeanwhileStays) {

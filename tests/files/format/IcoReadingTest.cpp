@@ -114,15 +114,12 @@ TEST(IcoReading, ColorCountsWithoutARowFormatAreRefused) {
     EXPECT_EQ(decode(build(entryOf(anyPicture(32, 8), 0, bits))).defect, IconDefect::StrangeDepth) << bits;
 }
 
-TEST(IcoReading, ARefusedImageLeavesSurfacesAndAlphaAlone) {
-  const Bytes file = build(entryOf(anyPicture(32, 8), 0, 3));
-  Surface image(32, 32, 0x123456), mask(32, 32, 0x654321);
-  AlphaMatrix alpha(3, 3, 7);
-  EXPECT_EQ(decodeEntry(file, parseIconDirectory(file).entry(0), 32, 32, {image, mask, alpha}),
-            IconDefect::StrangeDepth);
-  EXPECT_EQ(image.GetPixel(5, 5), 0x123456);
-  EXPECT_EQ(mask.GetPixel(5, 5), 0x654321);
-  EXPECT_EQ(alpha, AlphaMatrix(3, 3, 7));
+TEST(IcoReading, ARefusedImageGivesNoPixels) {
+  const Decoded refused = decode(build(entryOf(anyPicture(32, 8), 0, 3)));
+  EXPECT_EQ(refused.defect, IconDefect::StrangeDepth);
+  EXPECT_TRUE(refused.isEmpty());
+  EXPECT_EQ(refused.mask.width(), 0);
+  EXPECT_EQ(refused.alpha, AlphaMatrix());
 }
 
 TEST(IcoReading, AnEntryWithoutWidthOrHeightIsRefused) {
@@ -134,25 +131,25 @@ TEST(IcoReading, AnEntryWithoutWidthOrHeightIsRefused) {
   EXPECT_EQ(decode(build(entry)).defect, IconDefect::SizeNotOffered);
 }
 
-TEST(IcoReading, PixelsBeyondTheSurfaceAreLost) {
-  const Picture p = anyPicture(32, 8);
-  const Bytes file = build(entryOf(p));
-  Surface image(20, 10), mask(40, 40, 0x111111);
-  AlphaMatrix alpha;
-  EXPECT_EQ(decodeEntry(file, parseIconDirectory(file).entry(0), 32, 32, {image, mask, alpha}), IconDefect::None);
-  EXPECT_EQ(image.GetPixel(19, 9), expectedColor(p, 19, 9));
-  EXPECT_EQ(mask.GetPixel(31, 31), p.transparent(31, 31) ? kWhite : kBlack);
-  EXPECT_EQ(mask.GetPixel(32, 31), 0x111111);
+// The bytes hold rows of 32 pixels: read as others, they are cut into other rows.
+TEST(IcoReading, TheIconHasTheSizeThatItIsReadAtAndNotThatOfItsEntry) {
+  const Bytes file = build(entryOf(anyPicture(32, 32)));
+  const DecodedIcon decoded = decodeEntry(file, parseIconDirectory(file).entry(0), 20, 10);
+  ASSERT_TRUE(decoded.isRead());
+  for (const Surface* surface : {&decoded.icon.image, &decoded.icon.mask}) {
+    EXPECT_EQ(surface->width(), 20);
+    EXPECT_EQ(surface->height(), 10);
+  }
+  EXPECT_TRUE(decoded.icon.hasAlphaValues());
 }
 
 void expectLikeSlowReader(std::span<const std::uint8_t> file, const IconEntry& entry, int width, int height) {
-  Surface image(width, height), mask(width, height), slowImage(width, height), slowMask(width, height);
-  AlphaMatrix alpha, slowAlpha;
-  ASSERT_EQ(decodeEntry(file, entry, width, height, {image, mask, alpha}), IconDefect::None);
-  SlowIconReader(file, entry, width, height).read({slowImage, slowMask, slowAlpha});
-  ASSERT_TRUE(samePixels(image, slowImage)) << width << "x" << height << " " << entry.bitCount;
-  ASSERT_TRUE(samePixels(mask, slowMask)) << width << "x" << height << " " << entry.bitCount;
-  ASSERT_EQ(alpha, slowAlpha) << width << "x" << height << " " << entry.bitCount;
+  const DecodedIcon read = decodeEntry(file, entry, width, height);
+  ASSERT_TRUE(read.isRead());
+  const IconImage expected = SlowIconReader(file, entry, width, height).read();
+  ASSERT_TRUE(samePixels(read.icon.image, expected.image)) << width << "x" << height << " " << entry.bitCount;
+  ASSERT_TRUE(samePixels(read.icon.mask, expected.mask)) << width << "x" << height << " " << entry.bitCount;
+  ASSERT_EQ(read.icon.alpha, expected.alpha) << width << "x" << height << " " << entry.bitCount;
 }
 
 TEST(IcoReading, TheRowReadersEqualTheByteByByteReaderOnRandomBytesOfAnySizeAndLength) {

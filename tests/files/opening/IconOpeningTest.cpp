@@ -1,4 +1,3 @@
-#include "files/Decoding.h"
 #include "files/FilesFixture.h"
 
 #include <filesystem>
@@ -94,7 +93,8 @@ TEST_F(IconOpeningTest, A16BitIconIsReadAndThenRefused) {
   EXPECT_FALSE(open(path));
   EXPECT_FALSE(record().used);
   EXPECT_FALSE(record().present);
-  EXPECT_EQ(state.picImage.GetPixel(3, 4), rgb(15, 20, 7)) << "the Surfaces hold the image";
+  EXPECT_FALSE(state.picImage.hasPicture());
+  EXPECT_FALSE(state.screen.fraTools[1]) << "there is nothing to draw on";
 }
 
 TEST_F(IconOpeningTest, StrangeDepthsAndPngImagesFailToLoadAndLeaveTheContainerEmpty) {
@@ -130,17 +130,27 @@ TEST_F(IconOpeningTest, TheRecordTellsWhereTheIconCameFrom) {
   EXPECT_FALSE(state.IsIconChanged());
 }
 
-TEST_F(IconOpeningTest, OpeningClearsSizesShowsAndRecordsInThisOrder) {
+TEST_F(IconOpeningTest, OpeningEndsTheRegionShowsChoosesTheChartAndRecordsInThisOrder) {
   const std::string path = folder.write("a.ico", build(entryOf(anyPicture(48, 8))));
   EXPECT_TRUE(open(path));
-  const std::vector<std::string> expected = {"clearRegion",          "clearUndoHistory",    "ClearContainer",
-                                             "SizePanelSurfaces 48", "SizeEditSurfaces 48", "UpdatePanelFromCurrent",
-                                             "ComposeCurrentIcon",   "ShowCurrentIcon",     "clearUndoHistory",
-                                             "recordUndo",           "AddHistory " + path};
-  std::vector<std::string> seen;
-  for (const std::string& call : editor.calls)
-    if (std::ranges::find(expected, call) != expected.end()) seen.push_back(call);
-  EXPECT_EQ(seen, expected);
+  EXPECT_EQ(callsBesidesEnabling(), (std::vector<std::string>{"clearRegion", "clearAllTools", "chooseColorChart",
+                                                              "clearUndoHistory", "recordUndo", "AddHistory " + path}));
+  EXPECT_EQ(rooms.drawing.history.undoCount(), 1) << "the icon as it was opened is the baseline";
+}
+
+TEST_F(IconOpeningTest, OpeningOverAnIconWithStepsAndARegionBeginsAnew) {
+  given(entryOf(anyPicture(32, 4)));
+  rooms.clipboard.hold(Surface(4, 4, kWhite));
+  rooms.drawing.clipboardCommands.doPaste(true);
+  rooms.drawing.history.recordUndo();
+  ASSERT_TRUE(state.mRegionExists && rooms.drawing.history.canUndo());
+  const Bytes file = build(entryOf(anyPicture(48, 8)));
+  EXPECT_TRUE(open(folder.write("a.ico", file)));
+  EXPECT_FALSE(state.mRegionExists);
+  EXPECT_FALSE(rooms.drawing.history.canUndo());
+  EXPECT_EQ(rooms.drawing.tools.selectedTool(), kNoTool);
+  EXPECT_EQ(state.picDisp.width(), 48 * state.gMagnification);
+  EXPECT_TRUE(samePixels(state.picImage, decode(file).image));
 }
 
 TEST_F(IconOpeningTest, PixelsReachTheEditingAreaAndTheContainer) {
@@ -221,7 +231,8 @@ TEST_F(IconOpeningTest, TheQuietOpeningSaysNothingAndWritesNoHistory) {
   EXPECT_TRUE(openQuietly(path));
   EXPECT_EQ(editor.count("AddHistory " + path), 0);
   EXPECT_EQ(pump.waitedMilliseconds, 0);
-  EXPECT_EQ(editor.count("ShowCurrentIcon"), 1);
+  EXPECT_TRUE(record().present);
+  EXPECT_EQ(state.screen.lblStatusPanel[static_cast<std::size_t>(StatusPanel::Size)], "32 x 32");
 }
 
 TEST_F(IconOpeningTest, TheQuietOpeningFailsWithoutAWord) {
@@ -236,12 +247,16 @@ TEST_F(IconOpeningTest, TheQuietOpeningFailsWithoutAWord) {
 
 TEST_F(IconOpeningTest, ARefusedFileLeavesTheCurrentContainerAsItWas) {
   const std::string before = given(entryOf(anyPicture(16, 4)));
+  const Surface image = state.picImage;
+  const unsigned serial = state.iconSerial;
   const std::string bad = folder.write("bad.ico", {0, 0, 1, 0});
   boxes.expectTold(bad + kInvalid, BoxIcon::Exclamation);
   EXPECT_FALSE(open(bad));
   EXPECT_EQ(record().path.trimmed(), before);
   EXPECT_TRUE(record().present);
-  EXPECT_EQ(editor.count("ClearContainer"), 0);
+  EXPECT_EQ(state.iconSerial, serial);
+  EXPECT_TRUE(samePixels(state.picImage, image) && panelIsUpToDate());
+  EXPECT_EQ(editor.calls, std::vector<std::string>{});
 }
 
 TEST_F(IconOpeningTest, AFailedLoadTouchesNoOtherContainer) {
@@ -287,24 +302,28 @@ TEST_F(IconOpeningTest, APathOfMoreThan300CharactersOpensAndItsRecordKeeps255) {
 }
 
 TEST_F(IconOpeningTest, TheMenuOpensTheChosenFileAndChoosesTheChart) {
-  const std::string path = folder.write("a.ico", build(entryOf(anyPicture(16, 4))));
+  const std::string path = folder.write("a.ico", build(entryOf(blackAndWhitePicture(16))));
   state.process.mLastFolder = "/somewhere";
+  state.screen.colorFrame = ColorFrame::Chart256;
   dialogs.paths = {path};
-  files.doMnuFileOpenIcon();
+  files.iconFiles.doMnuFileOpenIcon();
   ASSERT_EQ(dialogs.requests.size(), 1u);
   EXPECT_EQ(dialogs.requests[0].filters, (std::vector<FileFilter>{{"Icon files (*.ico)", "*.ico"}}));
   EXPECT_EQ(dialogs.requests[0].folder, "/somewhere");
   EXPECT_EQ(state.process.mCommandFile, path);
-  EXPECT_EQ(editor.calls.back(), "chooseColorChart");
+  EXPECT_EQ(state.screen.colorFrame, ColorFrame::Chart16);
+  dialogs.paths = {folder.write("true.ico", build(entryOf(anyPicture(16, 24))))};
+  files.iconFiles.doMnuFileOpenIcon();
+  EXPECT_EQ(state.screen.colorFrame, ColorFrame::Chart256);
 }
 
 TEST_F(IconOpeningTest, TheMenuDoesNothingOnCancelAndKeepsTheCommandFileAfterAFailure) {
   dialogs.paths = {""};
-  files.doMnuFileOpenIcon();
+  files.iconFiles.doMnuFileOpenIcon();
   const std::string bad = folder.write("bad.ico", {1});
   dialogs.paths = {bad};
   boxes.expectTold(bad + kInvalid, BoxIcon::Exclamation);
-  files.doMnuFileOpenIcon();
+  files.iconFiles.doMnuFileOpenIcon();
   EXPECT_EQ(state.process.mCommandFile, "");
   EXPECT_EQ(editor.count("chooseColorChart"), 0);
 }
@@ -313,30 +332,24 @@ TEST_F(IconOpeningTest, TheMenuOffersToSaveFirstAndARefusalEndsIt) {
   given(entryOf(anyPicture(16, 4)));
   record().modified = true;
   editor.askSaveProceeds = false;
-  files.doMnuFileOpenIcon();
+  files.iconFiles.doMnuFileOpenIcon();
   EXPECT_EQ(editor.count("AskSaveCurrent "), 1);
   EXPECT_TRUE(dialogs.requests.empty());
 }
 
 TEST_F(IconOpeningTest, ReadIconFileToImageChecksTypeIndexAndSize) {
   const std::string path = folder.write("a.ico", build(entryOf(anyPicture(24, 4))));
-  Surface image(24, 24), mask(24, 24);
-  const auto reads = [&](int index, bool fromSurface, bool check) {
-    bool ok = false;
-    files.ReadIconFileToImage(path, index, image, mask, fromSurface, check, false, ok);
-    return ok;
+  const auto reads = [&](int index, bool checkSize, std::optional<ReadSize> size = {}) {
+    return IconFiles::ReadIconFileToImage(path, index, checkSize, size).isRead();
   };
-  EXPECT_TRUE(reads(0, true, true));
-  EXPECT_TRUE(reads(0, false, true));
-  EXPECT_FALSE(reads(1, true, true));
-  EXPECT_FALSE(reads(-1, true, true));
-  image.resize(20, 20);
-  EXPECT_FALSE(reads(0, true, true));
-  EXPECT_TRUE(reads(0, true, false));
-  EXPECT_TRUE(reads(0, false, true));
-  bool ok = true;
-  files.ReadIconFileToImage(folder.path("missing"), 0, image, mask, false, true, false, ok);
-  EXPECT_FALSE(ok);
+  EXPECT_TRUE(reads(0, true));
+  EXPECT_TRUE(reads(0, true, ReadSize{24, 24}));
+  EXPECT_FALSE(reads(1, true));
+  EXPECT_FALSE(reads(-1, true));
+  EXPECT_FALSE(reads(0, true, ReadSize{20, 20}));
+  EXPECT_TRUE(reads(0, false, ReadSize{20, 20}));
+  EXPECT_EQ(IconFiles::ReadIconFileToImage(path, 0, false, ReadSize{20, 20}).icon.width(), 20);
+  EXPECT_EQ(IconFiles::ReadIconFileToImage(folder.path("missing"), 0, true).defect, IconDefect::NotReadable);
 }
 
 }  // namespace

@@ -1,4 +1,3 @@
-#include "files/Decoding.h"
 #include "files/FilesFixture.h"
 #include "platform/files/Files.h"
 
@@ -9,7 +8,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kNoIcon = "No icon in Editing Area yet";
 constexpr const char* kReadOnly =
     "File is read-only\n\nYou may save it under a different file name or reset the file attributes.";
 constexpr const char* kBitmapQuestion = "Background color used will be the currently selected color.\nOK?\n";
@@ -101,6 +99,7 @@ TEST_F(IconSaverTest, ASavedIconIsUnchangedAndFreeOfItsOrigin) {
   record().sourceLabel = "Screen capture";
   record().bihBitCount = 8;
   state.screen.lblStatusPanel[1] = "*";
+  state.picImage.fill(0x123456);
   const std::string path = folder.path("new.ico");
   EXPECT_TRUE(save(path));
   EXPECT_EQ(record().path.trimmed(), path);
@@ -109,8 +108,9 @@ TEST_F(IconSaverTest, ASavedIconIsUnchangedAndFreeOfItsOrigin) {
   EXPECT_FALSE(record().fromMultiIconFile || record().isCursor || record().neverSaved || record().modified);
   EXPECT_EQ(record().multiIconIndex + record().hotspotX + record().hotspotY, 0);
   EXPECT_EQ(state.screen.lblStatusPanel[1], "");
-  EXPECT_EQ(editor.calls,
-            (std::vector<std::string>{"UpdatePanelFromCurrent", "RefreshStatusBar", "AddHistory " + path}));
+  EXPECT_TRUE(panelIsUpToDate());
+  EXPECT_EQ(state.screen.lblStatusPanel[0], path);
+  EXPECT_EQ(callsBesidesEnabling(), std::vector<std::string>{"AddHistory " + path});
 }
 
 TEST_F(IconSaverTest, AReadOnlyFileIsToldSoAndTheIconStaysModified) {
@@ -121,7 +121,7 @@ TEST_F(IconSaverTest, AReadOnlyFileIsToldSoAndTheIconStaysModified) {
   boxes.expectTold(kReadOnly, BoxIcon::Exclamation);
   EXPECT_FALSE(save(path));
   EXPECT_TRUE(record().modified);
-  EXPECT_TRUE(state.mSaveFailed);
+  EXPECT_TRUE(saver.mSaveFailed());
   EXPECT_EQ(bytesOf(path), before);
 }
 
@@ -131,7 +131,7 @@ TEST_F(IconSaverTest, AnyOtherFailureIsToldAndTheIconStaysModified) {
   boxes.expectTold("Failed to save this icon", BoxIcon::Exclamation);
   EXPECT_FALSE(save(folder.path("no/such/folder.ico")));
   EXPECT_TRUE(record().modified);
-  EXPECT_TRUE(state.mSaveFailed);
+  EXPECT_TRUE(saver.mSaveFailed());
   EXPECT_EQ(record().path.trimmed(), before);
 }
 
@@ -159,12 +159,16 @@ TEST_F(IconSaverTest, SaveAsksForANameInEveryOtherCase) {
       BoxIcon::Information);
   saver.doFileSave();
   EXPECT_EQ(dialogs.requests.size(), 3u);
-  EXPECT_TRUE(state.mSaveFailed);
+  EXPECT_TRUE(saver.mSaveFailed());
 }
 
 TEST_F(IconSaverTest, SaveAsOffersANameAndSaves) {
   given(entryOf(anyPicture(32, 4)), "smile.ico");
   record().modified = true;
+  rooms.clipboard.hold(Surface(4, 4, kWhite));
+  rooms.drawing.clipboardCommands.doPaste(true);
+  ASSERT_TRUE(state.mRegionExists && state.mPendingPaint);
+  state.screen.mActivePanel = kIconsListPanel;
   const std::string path = folder.path("grin.ico");
   dialogs.paths = {path};
   saver.doSaveAs(SaveMode::Icon);
@@ -175,9 +179,9 @@ TEST_F(IconSaverTest, SaveAsOffersANameAndSaves) {
   EXPECT_EQ(record().path.trimmed(), path);
   EXPECT_FALSE(record().modified);
   EXPECT_EQ(saver.lastSavedFile(), path);
-  EXPECT_EQ(editor.count("closePanels"), 1);
-  EXPECT_EQ(editor.count("clearRegion"), 1);
-  EXPECT_TRUE(fs::exists(path));
+  EXPECT_EQ(state.screen.mActivePanel, kColorPanel);
+  EXPECT_FALSE(state.mRegionExists || state.mPendingPaint);
+  EXPECT_EQ(decode(bytesOf(path)).image.GetPixel(3, 3), kWhite) << "what was pasted is saved";
 }
 
 TEST_F(IconSaverTest, AFailedSaveAsKeepsTheIconModified) {
@@ -187,7 +191,7 @@ TEST_F(IconSaverTest, AFailedSaveAsKeepsTheIconModified) {
   boxes.expectTold("Failed to save this icon", BoxIcon::Exclamation);
   saver.doSaveAs(SaveMode::Icon);
   EXPECT_TRUE(record().modified);
-  EXPECT_TRUE(state.mSaveFailed);
+  EXPECT_TRUE(saver.mSaveFailed());
 }
 
 TEST_F(IconSaverTest, ProposedNamesTellSizeAndColorsOfAMultiIconFile) {
@@ -204,20 +208,6 @@ TEST_F(IconSaverTest, ProposedNamesTellSizeAndColorsOfAMultiIconFile) {
   EXPECT_EQ(offered("/a/b/icon.ico", SaveMode::Mask), "icon_Mask");
 }
 
-TEST_F(IconSaverTest, CommandsWithoutAnIconSayThatThereIsNone) {
-  for (const int index : {12, 13, 18, 19, 20}) {
-    boxes.expectTold(kNoIcon, BoxIcon::None);
-    saver.mnuFileSub(index);
-  }
-  EXPECT_EQ(editor.count("CommitPendingPaint"), 5);
-}
-
-TEST_F(IconSaverTest, ACursorIsOf32x32Only) {
-  given(entryOf(anyPicture(16, 4)));
-  boxes.expectTold("For cursor of 32x32 only", BoxIcon::None);
-  saver.mnuFileSub(18);
-}
-
 TEST_F(IconSaverTest, SaveAsBitmapPutsTheCurrentColorBehindAndKeepsSilver) {
   given(entryOf(anyPicture(16, 4)));
   state.picImage.fill(kBlack);
@@ -226,11 +216,11 @@ TEST_F(IconSaverTest, SaveAsBitmapPutsTheCurrentColorBehindAndKeepsSilver) {
   state.picMask.SetPixelV(3, 2, kBlack);
   state.picImage.SetPixelV(4, 2, rgb(1, 2, 3));
   state.picMask.SetPixelV(4, 2, kBlack);
-  editor.ComposeCurrentIcon();
+  rooms.document.editingArea.ComposeCurrentIcon();
   state.mCurrentColor = rgb(0, 200, 0);
   boxes.expectAsked(kBitmapQuestion, BoxAnswer::Yes);
   dialogs.paths = {folder.path("a.bmp")};
-  saver.mnuFileSub(19);
+  saver.saveAsBitmap();
   EXPECT_EQ(dialogs.requests[0].defaultExtension, "bmp");
   EXPECT_EQ(dialogs.requests[0].filters,
             (std::vector<FileFilter>{{"Bitmap files (*.bmp)", "*.bmp"}, {"(*.*)", "*.*"}}));
@@ -280,14 +270,14 @@ TEST_F(IconSaverTest, SaveAsBitmapOfAnIconWithAlphaBlendsOverTheGround) {
   state.mCurrentColor = rgb(9, 9, 9);
   boxes.expectAsked(kBitmapQuestion, BoxAnswer::Yes);
   dialogs.paths = {folder.path("a.bmp")};
-  saver.mnuFileSub(19);
+  saver.saveAsBitmap();
   EXPECT_EQ(bitmapPixel(folder.path("a.bmp"), 5, 5), rgb(96, 223, 146));
 }
 
 TEST_F(IconSaverTest, SaveAsBitmapEndsOnNo) {
   given(entryOf(anyPicture(16, 4)));
   boxes.expectAsked(kBitmapQuestion, BoxAnswer::No);
-  saver.mnuFileSub(19);
+  saver.saveAsBitmap();
   EXPECT_TRUE(dialogs.requests.empty());
 }
 
@@ -295,7 +285,7 @@ TEST_F(IconSaverTest, SaveMaskWritesTheMask) {
   const Picture p = anyPicture(16, 4);
   given(entryOf(p), "smile.ico");
   dialogs.paths = {folder.path("m.bmp")};
-  saver.mnuFileSub(20);
+  saver.doSaveAs(SaveMode::Mask);
   EXPECT_EQ(dialogs.requests[0].fileName, "smile_Mask");
   EXPECT_EQ(bitmapPixel(folder.path("m.bmp"), 0, 0), kWhite);
   EXPECT_EQ(bitmapPixel(folder.path("m.bmp"), 1, 0), kBlack);
@@ -320,43 +310,45 @@ TEST_F(IconSaverTest, ABitmapThatCannotBeWrittenIsTold) {
   given(entryOf(anyPicture(16, 4)));
   dialogs.paths = {folder.path("no/such.bmp")};
   boxes.expectTold("Failed to save this file.", BoxIcon::Exclamation);
-  saver.mnuFileSub(20);
-  EXPECT_TRUE(state.mSaveFailed);
+  saver.doSaveAs(SaveMode::Mask);
+  EXPECT_TRUE(saver.mSaveFailed());
   EXPECT_FALSE(state.screen.hourglass);
 }
 
-struct NewIconCase {
-  int index, size;
-};
-
-TEST_F(IconSaverTest, ANewIconIsTransparentThroughoutAndOfTheSizeOfItsEntry) {
-  for (const NewIconCase& c : {NewIconCase{2, 32}, {3, 16}, {4, 48}, {5, 24}}) {
+TEST_F(IconSaverTest, ANewIconIsTransparentThroughoutAndOfTheSizeAskedFor) {
+  for (const int size : {32, 16, 48, 24}) {
     record().modified = false;
-    saver.mnuFileSub(c.index);
-    EXPECT_EQ(record().size, c.size);
-    EXPECT_TRUE(samePixels(state.picImage, Surface(c.size, c.size, kBlack)));
-    EXPECT_TRUE(samePixels(state.picMask, Surface(c.size, c.size, kWhite)));
-    EXPECT_TRUE(samePixels(state.PicIcon, Surface(c.size, c.size, kGround)));
-    EXPECT_TRUE(samePixels(state.picPanelMask[0], state.picMask));
+    state.screen.colorFrame = ColorFrame::Chart256;
+    const unsigned before = state.iconSerial;
+    saver.doNewIcon(size);
+    EXPECT_EQ(record().size, size);
+    EXPECT_TRUE(samePixels(state.picImage, Surface(size, size, kBlack)));
+    EXPECT_TRUE(samePixels(state.picMask, Surface(size, size, kWhite)));
+    EXPECT_TRUE(samePixels(state.PicIcon, Surface(size, size, kGround)));
+    EXPECT_TRUE(panelIsUpToDate());
     EXPECT_EQ(record().sourceLabel.trimmed(), "New icon");
     EXPECT_EQ(record().path.trimmed(), "Untitled");
     EXPECT_TRUE(record().used && record().present);
     EXPECT_EQ(record().dirColors, 0);
     EXPECT_EQ(record().bitCount, 0);
-    EXPECT_EQ(editor.calls.back(), "selectTool 4");
+    EXPECT_NE(state.iconSerial, before);
+    EXPECT_EQ(state.screen.colorFrame, ColorFrame::Chart16);
+    EXPECT_EQ(rooms.drawing.history.undoCount(), 1);
+    EXPECT_EQ(rooms.drawing.tools.selectedTool(), kPaint);
   }
-  EXPECT_EQ(editor.count("showChart16"), 4);
   EXPECT_EQ(editor.count("recordUndo"), 4);
 }
 
-TEST_F(IconSaverTest, ANewIconOffersToSaveFirstAndCancelKeepsTheOldOne) {
+TEST_F(IconSaverTest, ANewIconOffersToSaveFirstAndARefusalKeepsTheOldOne) {
   const std::string path = given(entryOf(anyPicture(16, 4)));
   record().modified = true;
-  boxes.expect("Save current icon to file?", BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Cancel);
-  saver.doNewIcon(2);
+  editor.askSaveProceeds = false;
+  saver.doNewIcon(32);
   EXPECT_EQ(record().path.trimmed(), path);
-  boxes.expect("Save current icon to file?", BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::No);
-  saver.doNewIcon(2);
+  EXPECT_EQ(record().size, 16);
+  editor.askSaveProceeds = true;
+  saver.doNewIcon(32);
+  EXPECT_EQ(editor.count("AskSaveCurrent "), 2);
   EXPECT_EQ(record().path.trimmed(), "Untitled");
   EXPECT_FALSE(record().modified);
 }
@@ -366,12 +358,12 @@ TEST_F(IconSaverTest, ANewIconOfAnotherSizeAsksBeforeItEndsAnAnimatedCursorSessi
       "Animated cursor session for 32x32 icons only\nTerminate animated cursor session?\n";
   state.screen.aniContainerVisible = true;
   boxes.expectAsked(kQuestion, BoxAnswer::No);
-  saver.doNewIcon(3);
+  saver.doNewIcon(16);
   EXPECT_FALSE(record().used);
-  saver.doNewIcon(2);
+  saver.doNewIcon(32);
   EXPECT_TRUE(state.screen.aniContainerVisible) << "32x32 fits the session";
   boxes.expectAsked(kQuestion, BoxAnswer::Yes);
-  saver.doNewIcon(4);
+  saver.doNewIcon(48);
   EXPECT_EQ(record().size, 48);
   EXPECT_FALSE(state.screen.aniContainerVisible);
 }
@@ -383,7 +375,10 @@ TEST_F(IconSaverTest, TheSaveQuestionCarriesItsMessage) {
 
 TEST_F(IconSaverTest, TheSaveQuestionProceedsAfterNoAndAfterASave) {
   const std::string path = given(entryOf(anyPicture(16, 4)));
-  record().modified = state.mSaveFailed = true;
+  record().modified = true;
+  dialogs.paths = {""};
+  saver.doSaveAs(SaveMode::Icon);
+  ASSERT_TRUE(saver.mSaveFailed()) << "by a save before";
   boxes.expect("Save current icon to file?", BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::No);
   EXPECT_TRUE(proceeds());
   EXPECT_TRUE(record().modified);
