@@ -1,24 +1,9 @@
-// A small icon on a real Editing Area with a real history, and pictures of it as rows of characters, for tests of tools
-// that draw. The mouse is handed to the tool under test the way the handlers of picDisp do.
+// A small icon on the Editing Area, and pictures of it as rows of characters, for tests of tools that draw.
 #pragma once
 
-#include "document/Containers.h"
-#include "document/EditingArea.h"
-#include "document/IconsPanel.h"
-#include "drawing/DrawState.h"
-#include "drawing/DrawingTool.h"
-#include "drawing/ToolTable.h"
-#include "drawing/UndoHistory.h"
-#include "support/FakeEditor.h"
-#include "support/ScriptedPorts.h"
-
-#include <gtest/gtest.h>
-#include <string>
-#include <vector>
+#include "drawing/DrawingRooms.h"
 
 namespace gp::test {
-
-using Rows = std::vector<std::string>;
 
 // The look of one pixel: '.' transparent, one of the letters opaque, '^' inverting.
 struct PixelLetter {
@@ -33,78 +18,21 @@ inline constexpr PixelLetter kPixelLetters[] = {{'.', kBlack, kWhite}, {'g', kGr
                                                 {'b', kBlack, kBlack}, {'y', kYellow, kBlack}, {'s', kGround, kBlack},
                                                 {'w', kWhite, kBlack}, {'^', kWhite, kWhite}};
 
-// A FakeEditor whose Editing Area, history and containers are real.
-class DrawingEditor : public FakeEditor {
- public:
-  EditState* state = nullptr;
-  EditingArea* area = nullptr;
-  UndoHistory* history = nullptr;
-  IconsPanel* panel = nullptr;
-
-  void ComposeCurrentIcon() override { FakeEditor::ComposeCurrentIcon(), area->ComposeCurrentIcon(); }
-  void MagnifyIcon() override { FakeEditor::MagnifyIcon(), area->MagnifyIcon(); }
-  void ShowCurrentIcon() override { FakeEditor::ShowCurrentIcon(), area->ShowCurrentIcon(); }
-  void UpdatePanelFromCurrent() override { FakeEditor::UpdatePanelFromCurrent(), area->UpdatePanelFromCurrent(); }
-  void SwitchContainer(int container) override {
-    FakeEditor::SwitchContainer(container), panel->SwitchContainer(container);
-  }
-  void ClearContainer() override { FakeEditor::ClearContainer(), gp::ClearContainer(*state); }
-  void clearAllTools() override { FakeEditor::clearAllTools(), tool = kNoTool; }
-  void clearRegion() override { FakeEditor::clearRegion(), state->mRegionExists = false; }
-  void recordUndo() override { FakeEditor::recordUndo(), history->recordUndo(); }
-  void clearUndoHistory() override { FakeEditor::clearUndoHistory(), history->clearUndoHistory(); }
-  void showPanel(int number) override {
-    FakeEditor::showPanel(number), state->screen.mActivePanel = number;
-    clearAllTools();
-  }
-};
-
-class DrawingFixture : public testing::Test {
+class DrawingFixture : public DrawingRooms {
  protected:
-  EditState state;
-  DrawingEditor editor;
-  RecordingDisplay display;
-  ScriptedPump pump;
-  EditingArea area{state, editor, display, pump};
-  UndoHistory history{state, editor, pump};
-  IconsPanel panel{state, editor, area, display, pump};
-  DrawState drawState;
-  DrawingTool* toolUnderTest = nullptr;
-
   DrawingFixture() {
-    editor.state = &state;
-    editor.area = &area;
-    editor.history = &history;
-    editor.panel = &panel;
     state.gGridColor = kNoGrid;
     state.mCurrentColor = kGreen;
   }
 
   // Puts an icon into a container: its top left corner is given, the rest is transparent.
   void putIcon(int container, int size, const Rows& rows = {}) {
-    state.mCurContainer = container;
-    state.current().used = state.current().present = true;
-    state.current().size = static_cast<std::int16_t>(size);
-    area.SizeEditSurfaces(size);
-    area.SizePanelSurfaces(size);
-    state.picImage.fill(kBlack);
-    state.picMask.fill(kWhite);
+    IconImage icon = transparentIcon(size);
     for (int y = 0; y < static_cast<int>(rows.size()); ++y)
-      for (int x = 0; x < static_cast<int>(rows[y].size()); ++x) putPixel(x, y, rows[y][x]);
-    area.ComposeCurrentIcon();
-    area.UpdatePanelFromCurrent();
-    area.ShowCurrentIcon();
-    history.clearUndoHistory();
-    history.recordUndo();
-    editor.calls.clear();
+      for (int x = 0; x < static_cast<int>(rows[y].size()); ++x) put(icon.image, icon.mask, x, y, rows[y][x]);
+    arrive(container, icon);
   }
-  void putPixel(int x, int y, char letter) {
-    for (const PixelLetter& look : kPixelLetters)
-      if (look.letter == letter) {
-        state.picImage.SetPixelV(x, y, look.image);
-        state.picMask.SetPixelV(x, y, look.mask);
-      }
-  }
+  void putPixel(int x, int y, char letter) { put(state.picImage, state.picMask, x, y, letter); }
   char letterAt(int x, int y) const {
     for (const PixelLetter& look : kPixelLetters)
       if (state.picImage.GetPixel(x, y) == look.image && state.picMask.GetPixel(x, y) == look.mask) return look.letter;
@@ -122,23 +50,31 @@ class DrawingFixture : public testing::Test {
   }
   void expectPicture(const Rows& rows) const { EXPECT_EQ(picture(rows.size(), rows.front().size()), rows); }
 
-  ToolMouse mouseAt(int x, int y, int modifiers = 0) const {
-    const auto m = static_cast<float>(state.gMagnification);
-    return {x, y, (static_cast<float>(x) + 0.5F) * m, (static_cast<float>(y) + 0.5F) * m, modifiers};
+  // The mouse, in icon pixels.
+  void press(int x, int y, int modifiers = 0) { tools.press(at(x, y, kLeftButton, modifiers)); }
+  void move(int x, int y, int modifiers = 0) { tools.move(at(x, y, 0, modifiers)); }
+  void release(int x, int y, int modifiers = 0) { tools.release(at(x, y, kLeftButton, modifiers)); }
+  void click(int x, int y, int modifiers = 0) {
+    press(x, y, modifiers);
+    release(x, y, modifiers);
   }
-  bool isToolActive() const { return state.current().present && editor.tool != kNoTool; }
-  void press(int x, int y, int modifiers = 0) {
-    if (isToolActive()) toolUnderTest->press(mouseAt(x, y, modifiers));
+  void drag(int x1, int y1, int x2, int y2, int modifiers = 0) {
+    press(x1, y1, modifiers);
+    move(x2, y2, modifiers);
+    release(x2, y2, modifiers);
   }
-  void move(int x, int y, int modifiers = 0) {
-    if (isToolActive()) toolUnderTest->move(mouseAt(x, y, modifiers));
+  // A region around the pixels, both corners included; whichever tool was selected, Region is now.
+  void markRegion(int x1, int y1, int x2, int y2) {
+    const auto corner = [m = static_cast<float>(state.gMagnification)](int x, int y) {
+      return MouseInput{kLeftButton, 0, static_cast<float>(x) * m, static_cast<float>(y) * m};
+    };
+    if (tools.selectedTool() != kRegion) tools.selectTool(kRegion);
+    tools.press(corner(x1, y1));
+    tools.move(corner(x2 + 1, y2 + 1));
+    tools.release(corner(x2 + 1, y2 + 1));
+    ASSERT_TRUE(state.mRegionExists);
   }
-  void release(int x, int y, int modifiers = 0) {
-    drawState.mPainting = false;
-    if (!isToolActive()) return;
-    state.current().modified = true;
-    toolUnderTest->release(mouseAt(x, y, modifiers));
-  }
+
   // What every step must leave behind: the history's last entry is what is on the icon, and PicIcon shows it.
   void expectAgreement() {
     if (!state.current().present) return;
@@ -147,14 +83,23 @@ class DrawingFixture : public testing::Test {
     const Surface mask = state.picMask;
     const Surface shown = state.PicIcon;
     area.ComposeCurrentIcon();
-    EXPECT_TRUE(std::ranges::equal(shown.pixels(), state.PicIcon.pixels())) << "PicIcon is out of date";
+    EXPECT_TRUE(same(shown, state.PicIcon)) << "PicIcon is out of date";
     // A step on top and back again brings up the entry that was the last one.
     history.recordUndo();
     ASSERT_TRUE(history.canUndo());
     state.picImage.fill(kRed);
     history.restoreUndo(UndoMode::OneStep);
-    EXPECT_TRUE(std::ranges::equal(image.pixels(), state.picImage.pixels())) << "the history has another image";
-    EXPECT_TRUE(std::ranges::equal(mask.pixels(), state.picMask.pixels())) << "the history has another Mask";
+    EXPECT_TRUE(same(image, state.picImage)) << "the history has another image";
+    EXPECT_TRUE(same(mask, state.picMask)) << "the history has another Mask";
+  }
+
+ private:
+  static void put(Surface& image, Surface& mask, int x, int y, char letter) {
+    for (const PixelLetter& look : kPixelLetters)
+      if (look.letter == letter) {
+        image.SetPixelV(x, y, look.image);
+        mask.SetPixelV(x, y, look.mask);
+      }
   }
 };
 

@@ -1,6 +1,6 @@
 #include "drawing/DrawingFixture.h"
-#include "drawing/FillTools.h"
-#include "drawing/Tools.h"
+
+#include <functional>
 
 namespace gp {
 namespace {
@@ -9,28 +9,26 @@ using test::kRed;
 using test::kYellow;
 using test::Rows;
 
-class FillToolTest : public test::DrawingFixture {
+class FillingTest : public test::DrawingFixture {
  protected:
-  FillTool fill{state, editor};
+  explicit FillingTest(Tool tool) : tool_(tool) {}
+  void put(const Rows& rows, int size = 16) {
+    putIcon(0, size, rows);
+    tools.selectTool(tool_);
+  }
 
-  FillToolTest() {
-    toolUnderTest = &fill;
-    editor.tool = kFill;
-  }
-  void put(const Rows& rows) {
-    putIcon(0, 16, rows);
-    editor.tool = kFill;
-  }
-  void click(int x, int y, int modifiers = 0) {
-    press(x, y, modifiers);
-    release(x, y, modifiers);
-  }
+ private:
+  const Tool tool_;
 };
 
-class ReplaceToolTest : public FillToolTest {
+class FillToolTest : public FillingTest {
  protected:
-  ReplaceTool replace{state, editor};
-  ReplaceToolTest() { toolUnderTest = &replace; }
+  FillToolTest() : FillingTest(kFill) {}
+};
+
+class ReplaceToolTest : public FillingTest {
+ protected:
+  ReplaceToolTest() : FillingTest(kReplace) {}
 };
 
 const Rows kRing = {
@@ -88,7 +86,7 @@ TEST_F(FillToolTest, AnOpaqueAreaFilledWithItsOwnColourStaysAsItIs) {
   state.mCurrentColor = kRed;
   click(0, 0);
   expectPicture({"rr^", "rb."});
-  EXPECT_EQ(editor.count("recordUndo"), 1);
+  EXPECT_EQ(history.undoCount(), 2);
 }
 
 TEST_F(FillToolTest, FromOpaqueSilverItSpreadsOverTheGroundAndChangesOnlyTheOpaquePixels) {
@@ -152,7 +150,7 @@ TEST_F(FillToolTest, FillingAnAlreadyTransparentAreaTransparentChangesNothing) {
   put(kRing);
   click(1, 1, kShiftKey);
   expectPicture(kRing);
-  EXPECT_EQ(editor.count("recordUndo"), 1);
+  EXPECT_EQ(history.undoCount(), 2);
 }
 
 TEST_F(FillToolTest, FillingTransparentFromOpaqueSilverLeavesWhatIsTransparent) {
@@ -174,27 +172,23 @@ TEST_F(FillToolTest, AClickOutsideTheIconFindsNoArea) {
   for (int modifiers : {0, kShiftKey}) {
     click(16, 0, modifiers);
     click(0, 16, modifiers);
-    click(-1, -1, modifiers);
+    click(-2, -2, modifiers);
     click(5000, 5000, modifiers);
   }
   expectPicture(kRing);
   expectAgreement();
 }
 
-TEST_F(FillToolTest, WorkSurfacesAreEmptyAfterwardsAndFillColoursAsTheyWere) {
+TEST_F(FillToolTest, FillColoursAreAsTheyWereAfterwards) {
   put(kRing);
   state.picImage.fillColor = 1;
   state.picMask.fillColor = 2;
-  state.picTemp.fillColor = 3;
-  state.picAuto.fillColor = 4;
+  state.PicIcon.fillColor = 3;
   click(1, 1);
   click(2, 2, kShiftKey);
   EXPECT_EQ(state.picImage.fillColor, 1);
   EXPECT_EQ(state.picMask.fillColor, 2);
-  EXPECT_EQ(state.picTemp.fillColor, 3);
-  EXPECT_EQ(state.picAuto.fillColor, 4);
-  EXPECT_FALSE(state.picTemp.hasPicture());
-  EXPECT_FALSE(state.picAuto.hasPicture());
+  EXPECT_EQ(state.PicIcon.fillColor, 3);
 }
 
 TEST_F(FillToolTest, PressAndMovePaintNothingAndTheReleaseIsOneStep) {
@@ -203,24 +197,27 @@ TEST_F(FillToolTest, PressAndMovePaintNothingAndTheReleaseIsOneStep) {
   move(2, 2);
   expectPicture(kRing);
   release(1, 1);
-  EXPECT_EQ(editor.count("recordUndo"), 1);
-  history.doUndo();
+  EXPECT_EQ(history.undoCount(), 2);
+  undo.doUndo();
   expectPicture(kRing);
 }
 
 TEST_F(FillToolTest, AWholeIconOf48IsFilled) {
-  putIcon(0, 48);
-  editor.tool = kFill;
+  put({}, 48);
   click(47, 47);
   EXPECT_EQ(picture(48, 48), Rows(48, std::string(48, 'g')));
 }
 
 TEST_F(FillToolTest, WhatArrivesInThePumpOfAStepLeavesIconAndHistoryInAgreement) {
   const std::vector<std::function<void()>> events = {
-      [this] { press(2, 2), release(2, 2); }, [this] { release(2, 2, kShiftKey); },
-      [this] { history.doUndo(); },           [this] { history.doUndoAll(); },
-      [this] { panel.SwitchContainer(1); },   [this] { panel.SwitchContainer(0); },
-      [this] { panel.showEmptyContainer(); }, [this] { editor.clearAllTools(); },
+      [this] { press(2, 2), release(2, 2); },
+      [this] { release(2, 2, kShiftKey); },
+      [this] { undo.doUndo(); },
+      [this] { undo.doUndoAll(); },
+      [this] { panel.SwitchContainer(1); },
+      [this] { panel.SwitchContainer(0); },
+      [this] { panel.showEmptyContainer(); },
+      [this] { tools.clearAllTools(); },
   };
   for (const auto& event : events) {
     putIcon(1, 32, {"yy"});
@@ -285,14 +282,14 @@ TEST_F(ReplaceToolTest, AClickOutsideTheIconFindsNoMatch) {
   put(kRing);
   for (int modifiers : {0, kShiftKey}) {
     click(16, 16, modifiers);
-    click(-1, 3, modifiers);
+    click(-2, 3, modifiers);
   }
   expectPicture(kRing);
 }
 
 TEST_F(ReplaceToolTest, WhatArrivesInThePumpOfAStepLeavesIconAndHistoryInAgreement) {
   const std::vector<std::function<void()>> events = {
-      [this] { press(2, 2), release(2, 2); }, [this] { history.doUndo(); },
+      [this] { press(2, 2), release(2, 2); }, [this] { undo.doUndo(); },
       [this] { panel.SwitchContainer(1); },   [this] { panel.SwitchContainer(0); },
       [this] { panel.showEmptyContainer(); },
   };

@@ -1,18 +1,14 @@
 #include "drawing/DrawingFixture.h"
-#include "drawing/Freehand.h"
 
 namespace gp {
 namespace {
 
 class FreehandTest : public test::DrawingFixture {
  protected:
-  FreehandTool freehand{state, editor, area, pump, drawState};
-
   FreehandTest() {
     putIcon(1, 16, {"rr"});
     putIcon(0, 16, {"...", "..."});
-    editor.tool = kPaint;
-    toolUnderTest = &freehand;
+    tools.selectTool(kPaint);
   }
 };
 
@@ -27,7 +23,7 @@ TEST_F(FreehandTest, AStrokeIsOneStep) {
 
 TEST_F(FreehandTest, AClickOnAnotherContainerInThePumpOfAReleaseLeavesThatIconNothingToUndo) {
   press(1, 1);
-  pump.inside = [this] { editor.SwitchContainer(1); };
+  pump.inside = [this] { panel.SwitchContainer(1); };
   release(1, 1);
   EXPECT_EQ(state.mCurContainer, 1);
   EXPECT_EQ(history.undoCount(), 1);
@@ -37,7 +33,7 @@ TEST_F(FreehandTest, AClickOnAnotherContainerInThePumpOfAReleaseLeavesThatIconNo
 
 TEST_F(FreehandTest, AnUndoInThePumpOfAReleaseTakesTheStrokeBackAndCanBeRedone) {
   press(1, 1);
-  pump.inside = [this] { history.doUndo(); };
+  pump.inside = [this] { undo.doUndo(); };
   release(1, 1);
   expectPicture({"...", "..."});
   EXPECT_TRUE(history.canRedo());

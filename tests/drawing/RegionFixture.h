@@ -1,169 +1,48 @@
-// An icon, its Editing Area and everything that works on regions, over ports that follow a script. The mouse handlers
-// take their common steps as the tool box does.
+// An icon with Region selected, and pictures of icon and region as rows of characters, for tests of all that works on
+// regions.
 #pragma once
 
-#include "document/Containers.h"
-#include "document/EditingArea.h"
-#include "document/IconsPanel.h"
-#include "drawing/ClipboardCommands.h"
-#include "drawing/ContainerCopies.h"
-#include "drawing/RegionTool.h"
-#include "drawing/Regions.h"
-#include "drawing/RotatePanel.h"
-#include "drawing/ShiftTool.h"
-#include "drawing/ToolTable.h"
-#include "drawing/Tools.h"
-#include "drawing/Transforms.h"
-#include "drawing/UndoHistory.h"
-#include "support/FakeClipboard.h"
-#include "support/FakeEditor.h"
-#include "support/ScriptedPorts.h"
-
-#include <algorithm>
-#include <gtest/gtest.h>
-#include <optional>
-#include <string>
-#include <vector>
+#include "drawing/DrawingRooms.h"
 
 namespace gp::test {
-
-using Rows = std::vector<std::string>;
-
-// Editor whose display, containers, regions and history are the program's own.
-class RegionEditor : public FakeEditor {
- public:
-  EditState* state = nullptr;
-  EditingArea* area = nullptr;
-  IconsPanel* panel = nullptr;
-  Regions* regions = nullptr;
-  UndoHistory* undo = nullptr;
-  ShiftTool* shift = nullptr;
-
-  void ClearContainer() override { gp::ClearContainer(*state); }
-  void CommitPendingPaint() override { panel->CommitPendingPaint(); }
-  void EndToolAction() override { panel->EndToolAction(); }
-  void SwitchContainer(int container) override { panel->SwitchContainer(container); }
-  void SizeEditSurfaces(int size) override { area->SizeEditSurfaces(size); }
-  void SizePanelSurfaces(int size) override { area->SizePanelSurfaces(size); }
-  void ComposeCurrentIcon() override { area->ComposeCurrentIcon(); }
-  void UpdatePanelFromCurrent() override { area->UpdatePanelFromCurrent(); }
-  void ShowCurrentIcon() override { area->ShowCurrentIcon(); }
-  void RefreshStatusBar() override { area->RefreshStatusBar(); }
-  void MagnifyIcon() override {
-    FakeEditor::MagnifyIcon();
-    area->MagnifyIcon();
-    if (state->mRegionActive) regions->redrawRegion();
-  }
-  void clearAllTools() override {
-    tool = kNoTool;
-    state->screen.lblDispXY[2].clear();
-  }
-  void selectTool(int index) override {
-    CommitPendingPaint();
-    const bool wasSelected = tool == index;
-    clearAllTools();
-    tool = wasSelected ? kNoTool : index;
-    clearRegion();
-    if (tool == kShift) shift->turnOn();
-  }
-  void clearRegion() override { regions->clearRegion(); }
-  void recordUndo() override {
-    FakeEditor::recordUndo();
-    undo->recordUndo();
-  }
-  void clearUndoHistory() override {
-    FakeEditor::clearUndoHistory();
-    undo->clearUndoHistory();
-  }
-  void showPanel(int index) override {
-    FakeEditor::showPanel(index);
-    state->screen.mActivePanel = index;
-    clearAllTools();
-  }
-  void closePanels() override {
-    FakeEditor::closePanels();
-    if (state->screen.mActivePanel != 0) showPanel(0);
-  }
-};
 
 inline constexpr Color kColorA = 0x0000F0;
 inline constexpr Color kColorB = 0x00F000;
 inline constexpr Color kColorC = 0xF00000;
 inline constexpr Color kInverting = 0x123456;
+// What a region writes over, wherever it is.
+inline constexpr Color kOverwritten = 0x010203;
 
-class RegionFixture : public testing::Test {
+class RegionFixture : public DrawingRooms {
  protected:
-  EditState state;
-  RegionEditor editor;
-  RecordingDisplay display;
-  ScriptedBoxes boxes;
-  ScriptedPump pump;
-  FakeClipboard clipboard;
-  DrawState draw;
-  EditingArea area{state, editor, display, pump};
-  IconsPanel panel{state, editor, area, display, pump};
-  UndoHistory undo{state, editor, pump};
-  Regions regions{state, draw, editor, display};
-  RegionTool tool{state, draw, editor, regions, pump};
-  ShiftTool shift{state, editor, boxes};
-  RotatePanel rotatePanel{state, editor, display, regions};
-  Transforms transforms{state, editor, display, boxes, regions, rotatePanel};
-  ClipboardCommands commands{state, editor, display, boxes, clipboard, regions};
-  ContainerCopies copies{state, editor, display, boxes, regions};
+  RotatePanel& rotatePanel = drawing.rotatePanel;
+  ShiftTool& shift = drawing.shift;
+  Transforms& transforms = drawing.transforms;
+  ClipboardCommands& commands = drawing.clipboardCommands;
+  ContainerCopies& copies = drawing.containerCopies;
 
-  RegionFixture() {
-    editor.state = &state;
-    editor.area = &area;
-    editor.panel = &panel;
-    editor.regions = &regions;
-    editor.undo = &undo;
-    editor.shift = &shift;
-    state.options.updateOnlyEditingArea = false;
-  }
+  RegionFixture() { state.options.updateOnlyEditingArea = false; }
 
   // An icon on the Editing Area and in the current container, a baseline of Undo, Region selected. '.' is transparent,
   // 'k' opaque black, '!' inverts what is behind it; what the rows leave out is transparent.
   void makeIcon(int size, const Rows& rows = {}) {
-    regions.clearRegion();
-    state.current().used = true;
-    state.current().size = static_cast<std::int16_t>(size);
-    area.SizeEditSurfaces(size);
-    area.SizePanelSurfaces(size);
-    setPixels(rows);
-    area.UpdatePanelFromCurrent();
-    area.ComposeCurrentIcon();
-    area.ShowCurrentIcon();
-    undo.clearUndoHistory();
-    undo.recordUndo();
-    editor.tool = kRegion;
+    IconImage icon = transparentIcon(size);
+    put(icon.image, icon.mask, rows);
+    arrive(state.mCurContainer, icon);
+    tools.selectTool(kRegion);
   }
   void setPixels(const Rows& rows) {
     state.picImage.fill(kBlack);
     state.picMask.fill(kWhite);
-    for (std::size_t y = 0; y < rows.size(); ++y)
-      for (std::size_t x = 0; x < rows[y].size(); ++x) setPixel(static_cast<int>(x), static_cast<int>(y), rows[y][x]);
+    put(state.picImage, state.picMask, rows);
   }
   // A step of another tool.
   void paintPixel(int x, int y, char letter) {
     setPixel(x, y, letter);
-    area.ComposeCurrentIcon();
-    area.MagnifyIcon();
-    undo.recordUndo();
+    area.showChangedIcon();
+    history.recordUndo();
   }
-  // The Editing Area draws a region on everything that it builds anew.
-  void setGrid(int index) {
-    area.SetGrid(index);
-    regions.redrawRegion();
-  }
-  void setRoom(int side) {
-    area.setRoom(side, side);
-    regions.redrawRegion();
-  }
-  void setPixel(int x, int y, char letter) {
-    if (letter == '.') return;
-    state.picImage.SetPixelV(x, y, colorOf(letter));
-    state.picMask.SetPixelV(x, y, letter == '!' ? kWhite : kBlack);
-  }
+  void setPixel(int x, int y, char letter) { put(state.picImage, state.picMask, x, y, letter); }
   static Color colorOf(char letter) {
     switch (letter) {
       case 'a':
@@ -201,7 +80,7 @@ class RegionFixture : public testing::Test {
     return rows;
   }
   Rows icon() const { return trimmed(rowsOf(state.picImage, state.picMask)); }
-  Rows content() const { return rowsOf(state.picImageRegion, state.picMaskRegion); }
+  Rows content() const { return rowsOf(regions.content().image, regions.content().mask); }
 
   static Surface picture(const Rows& rows) {
     Surface surface(static_cast<int>(rows.front().size()), static_cast<int>(rows.size()));
@@ -212,28 +91,12 @@ class RegionFixture : public testing::Test {
   }
 
   // The mouse, in Editing Area pixels.
-  ToolMouse mouse(int x, int y, int modifiers = 0) const {
-    const int m = state.gMagnification;
-    return {x / m, y / m, static_cast<float>(x), static_cast<float>(y), modifiers};
+  static MouseInput mouse(int x, int y, int button, int modifiers = 0) {
+    return {button, modifiers, static_cast<float>(x), static_cast<float>(y)};
   }
-  bool isInside(int x, int y) const {
-    return x >= 0 && y >= 0 && x < state.picDisp.width() && y < state.picDisp.height();
-  }
-  void press(int x, int y) {
-    if (editor.tool == kRegion && state.current().present) tool.press(mouse(x, y));
-  }
-  void move(int x, int y, int modifiers = 0) {
-    pump.pump();
-    if (editor.tool == kRegion && state.current().present && isInside(x, y)) tool.move(mouse(x, y, modifiers));
-  }
-  void release(int x, int y) {
-    draw.mPainting = draw.mErasing = draw.mRestoring = draw.mRegionDown = false;
-    if (!state.current().present) return;
-    if (editor.tool != kRegion) return regions.finishDrag();
-    state.current().modified = true;
-    tool.release(mouse(x, y));
-    editor.UpdateCommands();
-  }
+  void press(int x, int y) { tools.press(mouse(x, y, kLeftButton)); }
+  void move(int x, int y, int modifiers = 0) { tools.move(mouse(x, y, 0, modifiers)); }
+  void release(int x, int y) { tools.release(mouse(x, y, kLeftButton)); }
   // The same in whole cells: the mouse stands on their corners.
   int cells(int count) const { return count * state.gMagnification; }
   int lastOn(int cell) const { return std::min(cells(cell), state.picDisp.width() - 1); }
@@ -253,7 +116,12 @@ class RegionFixture : public testing::Test {
     move(x + cells(byX), y + cells(byY));
     release(x + cells(byX), y + cells(byY));
   }
-  std::string label() const { return state.screen.lblDispXY[2]; }
+  // The icon without the region. The region floats afterwards.
+  Rows beneath() {
+    const IconImage icon = iconBeneath();
+    return trimmed(rowsOf(icon.image, icon.mask));
+  }
+  std::string label() const { return readout(Readout::Region); }
   Rows boxInPixels() const {
     auto text = [](double a, double b) {
       return std::to_string(static_cast<int>(a)) + "," + std::to_string(static_cast<int>(b));
@@ -261,10 +129,7 @@ class RegionFixture : public testing::Test {
     return {text(draw.draw.x1, draw.draw.y1), text(draw.draw.x2, draw.draw.y2)};
   }
 
-  static bool same(const Surface& a, const Surface& b) {
-    return a.width() == b.width() && a.height() == b.height() && std::ranges::equal(a.pixels(), b.pixels());
-  }
-  // Icon, Mask, composite, region and history tell the same.
+  // Icon, Mask, composite, region and history tell the same. A region may have ended afterwards.
   void expectAgreement() {
     EXPECT_EQ(state.mRegionActive, state.mRegionExists);
     EXPECT_EQ(state.mPendingPaint, regions.isFloating());
@@ -275,6 +140,18 @@ class RegionFixture : public testing::Test {
     else
       expectNoRegion();
     if (state.current().present) expectHistoryFits();
+  }
+
+ private:
+  static void put(Surface& image, Surface& mask, int x, int y, char letter) {
+    if (letter == '.') return;
+    image.SetPixelV(x, y, colorOf(letter));
+    mask.SetPixelV(x, y, letter == '!' ? kWhite : kBlack);
+  }
+  static void put(Surface& image, Surface& mask, const Rows& rows) {
+    for (std::size_t y = 0; y < rows.size(); ++y)
+      for (std::size_t x = 0; x < rows[y].size(); ++x)
+        put(image, mask, static_cast<int>(x), static_cast<int>(y), rows[y][x]);
   }
   void expectCompositeFits() {
     if (!state.current().present) return;
@@ -293,21 +170,36 @@ class RegionFixture : public testing::Test {
   }
   void expectRegionFits() {
     EXPECT_FALSE(regions.drag().mEdgeDrag);
-    EXPECT_EQ(state.picImageRegion.width(), draw.draw.x2 - draw.draw.x1 + 1);
-    EXPECT_EQ(state.picImageRegion.height(), draw.draw.y2 - draw.draw.y1 + 1);
+    EXPECT_EQ(regions.content().width(), draw.draw.x2 - draw.draw.x1 + 1);
+    EXPECT_EQ(regions.content().height(), draw.draw.y2 - draw.draw.y1 + 1);
     EXPECT_EQ(draw.region.x1, draw.draw.x1 * state.gMagnification);
     EXPECT_EQ(draw.region.y1, draw.draw.y1 * state.gMagnification);
-    Surface image = state.picImageSnap;
-    Surface mask = state.picMaskSnap;
-    for (int y = 0; y < state.picImageRegion.height(); ++y)
-      for (int x = 0; x < state.picImageRegion.width(); ++x) {
-        if (state.picMaskRegion.GetPixel(x, y) != kBlack) continue;
+    const Rows shown = icon();
+    IconImage merged = iconBeneath();
+    for (int y = 0; y < regions.content().height(); ++y)
+      for (int x = 0; x < regions.content().width(); ++x) {
+        if (regions.content().mask.GetPixel(x, y) != kBlack) continue;
         const int atX = static_cast<int>(draw.draw.x1) + x;
         const int atY = static_cast<int>(draw.draw.y1) + y;
-        image.SetPixelV(atX, atY, state.picImageRegion.GetPixel(x, y));
-        mask.SetPixelV(atX, atY, kBlack);
+        merged.image.SetPixelV(atX, atY, regions.content().image.GetPixel(x, y));
+        merged.mask.SetPixelV(atX, atY, kBlack);
       }
-    EXPECT_EQ(icon(), trimmed(rowsOf(image, mask)));
+    EXPECT_EQ(shown, trimmed(rowsOf(merged.image, merged.mask)));
+  }
+  // What the icon is without the region's content: what is written when an empty content takes its place.
+  IconImage iconBeneath() {
+    const IconImage lifted = regions.content();
+    const bool modified = state.current().modified;
+    state.picImage.fill(kOverwritten);
+    state.picMask.fill(kBlack);
+    regions.replaceContent(transparent(lifted.width(), lifted.height()));
+    const IconImage beneath{state.picImage, state.picMask, {}};
+    regions.replaceContent(lifted);
+    state.current().modified = modified;
+    return beneath;
+  }
+  static IconImage transparent(int width, int height) {
+    return {Surface(width, height, kBlack), Surface(width, height, kWhite), {}};
   }
   void expectNoRegion() {
     EXPECT_EQ(draw.region.x1, 0);
@@ -317,10 +209,10 @@ class RegionFixture : public testing::Test {
   }
   // A step recorded now can be taken back and done again.
   void expectHistoryFits() {
-    EXPECT_GE(undo.undoCount(), 1);
-    if (editor.tool == kShift) return;  // it has a history of its own
+    EXPECT_GE(history.undoCount(), 1);
+    if (tools.selectedTool() == kShift) return;  // it has a history of its own
     const Rows now = icon();
-    undo.recordUndo();
+    history.recordUndo();
     undo.doUndo();
     undo.doRedo();
     EXPECT_EQ(icon(), now);

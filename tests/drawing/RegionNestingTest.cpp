@@ -27,7 +27,7 @@ class NestingFixture : public test::RegionFixture {
   void clearAllContainers() {
     for (int container = kContainerCount - 1; container >= 0; --container) {
       state.mCurContainer = container;
-      editor.ClearContainer();
+      ClearContainer(state);
       panel.SwitchContainer(container);
     }
   }
@@ -97,11 +97,10 @@ class NestingFixture : public test::RegionFixture {
     rotatePanel.setSlider(33);
     at(1, action);
     rotatePanel.doRotateProceed();
-    if (editor.tool == kNoTool) editor.tool = kRegion;
   }
   void shiftOn() {
     at(1, action);
-    editor.selectTool(kShift);
+    tools.selectTool(kShift);
   }
   void pasteIntoEmpty() {
     panel.SwitchContainer(3);
@@ -121,33 +120,31 @@ class NestingFixture : public test::RegionFixture {
   void undoNow() { undo.doUndo(); }
   void undoAllNow() { undo.doUndoAll(); }
   void redoNow() { undo.doRedo(); }
-  void cutNow() { commands.doCutRegion(false); }
+  void cutNow() {
+    if (state.mRegionExists) commands.doCutRegion(false);
+  }
   void copyNow() {
     if (state.current().used) commands.doCopyRegion();
   }
   void pasteNow() { commands.doPaste(true); }
-  void flipNow() { turnBy(1); }
-  void turnNow() { turnBy(3); }
-  void turnBy(int index) {
+  void flipNow() { turnBy(&Transforms::RotateFlipVertical); }
+  void turnNow() { turnBy(&Transforms::RotateRight); }
+  void turnBy(void (Transforms::*command)()) {
     if (!state.current().present) return;
-    if (editor.tool == kShift)
+    if (tools.selectedTool() == kShift)
       boxes.expectAsked("Terminate Shift operation and accept the current image?\n", BoxAnswer::Yes);
-    transforms.mnuRotateSubmenu(index);
+    (transforms.*command)();
   }
   void otherContainer() { panel.SwitchContainer(1); }
   void sameContainer() { panel.SwitchContainer(state.mCurContainer); }
-  void otherTool() { editor.selectTool(kPaint); }
-  void clearTools() {
-    if (state.current().present && state.mRegionExists) editor.recordUndo();
-    editor.clearAllTools();
-    editor.clearRegion();
-  }
+  void otherTool() { tools.selectTool(kPaint); }
+  void clearTools() { tools.imgClearAllTools(); }
   void clearContainer() {
     if (!state.current().used) return;
     boxes.expectAsked("Clear current icon from container.  Proceed?\n", BoxAnswer::Yes);
     copies.doClearContainer();
   }
-  void otherGrid() { setGrid(4); }
+  void otherGrid() { options.SetGrid(4); }
   void anotherPanel() { editor.showPanel(5); }
 
   std::function<void()> action;
@@ -219,8 +216,8 @@ TEST_P(RegionNesting, AnEventInTheMidstLeavesIconMaskHistoryAndRegionInAgreement
     EXPECT_FALSE(draw.mRegionDown);
     expectAgreement();
     state.screen.mActivePanel = 0;
-    editor.clearAllTools();
-    editor.clearRegion();
+    tools.clearAllTools();
+    regions.clearRegion();
   }
 }
 

@@ -42,8 +42,8 @@ TEST_F(RegionsTest, ABoxIsDrawnFromCornerToCornerAndItsContentLifted) {
   EXPECT_EQ(boxInPixels(), (Rows{"1,1", "2,2"}));
   EXPECT_EQ(content(), (Rows{"bb", "b."}));
   EXPECT_EQ(label(), "Region: Start [2, 2]   W=2 H=2");
-  EXPECT_EQ(trimmed(rowsOf(state.picImageSnap, state.picMaskSnap)), (Rows{"aaaa", "a..a", "a..a", "aaaa"}));
   EXPECT_EQ(icon(), kDrawing) << "lifting alone changes nothing";
+  EXPECT_EQ(beneath(), (Rows{"aaaa", "a..a", "a..a", "aaaa"}));
   expectAgreement();
 }
 
@@ -191,11 +191,11 @@ TEST_P(Dragging, APressOutsideMergesTheRegionAndRecordsAStep) {
   makeIcon(16, Rows(4, "aaaa"));
   mark(0, 0, 3, 3);
   moveRegion(4, 0);
-  const int steps = undo.undoCount();
+  const int steps = history.undoCount();
   press(cells(12), cells(12));
   EXPECT_FALSE(state.mRegionExists);
-  EXPECT_EQ(editor.tool, kRegion);
-  EXPECT_EQ(undo.undoCount(), steps + 1);
+  EXPECT_EQ(tools.selectedTool(), kRegion);
+  EXPECT_EQ(history.undoCount(), steps + 1);
   release(cells(12), cells(12));
   EXPECT_EQ(icon(), Rows(4, "....aaaa"));
   undo.doUndo();
@@ -206,11 +206,10 @@ TEST_P(Dragging, APressOutsideMergesTheRegionAndRecordsAStep) {
 }
 
 TEST_P(Dragging, BothSettingsShowTheSameWhileTheMouseIsDown) {
-  const Rows drawing = {"a..a.b", "....b.", "..ka..", "a..a.c"};
+  const Rows drawn = {"a..a.b", "....b.", "..ka..", "a..a.c"};
   for (int grid = 0; grid < kGridCount; ++grid) {
-    makeIcon(16, drawing);
-    area.SetGrid(grid);
-    editor.tool = kRegion;
+    makeIcon(16, drawn);
+    options.SetGrid(grid);
     mark(0, 0, 3, 3);
     press(inside(0), inside(0));
     for (int step = 1; step <= 5; ++step) move(inside(0) + cells(step), inside(0) + cells(step / 2));
@@ -226,10 +225,10 @@ TEST_F(RegionsTest, WithTheOptionOnTheIconWaitsForTheMouseToComeUp) {
   state.options.updateOnlyEditingArea = true;
   mark(0, 0, 3, 3);
   press(inside(0), inside(0));
-  const int magnified = editor.count("MagnifyIcon");
+  const int rebuilt = display.count(DisplayPart::EditingArea);
   move(inside(0) + cells(4), inside(0));
   EXPECT_EQ(icon(), Rows(4, "aaaa"));
-  EXPECT_EQ(editor.count("MagnifyIcon"), magnified);
+  EXPECT_EQ(display.count(DisplayPart::EditingArea), rebuilt);
   EXPECT_EQ(state.picDisp.GetPixel(cells(6) + 5, 5), test::kColorA);
   EXPECT_EQ(state.picDisp.GetPixel(cells(1) + 5, 5), kGround);
   release(inside(0) + cells(4), inside(0));
@@ -242,7 +241,7 @@ TEST_F(RegionsTest, AGridChosenDuringADragIsTheGridTheDragGoesOnOver) {
   mark(0, 0, 3, 3);
   press(inside(0), inside(0));
   move(inside(0) + cells(2), inside(0));
-  setGrid(3);
+  options.SetGrid(3);
   move(inside(0) + cells(4), inside(0));
   const Surface shown = state.picDisp;
   release(inside(0) + cells(4), inside(0));
@@ -254,13 +253,20 @@ TEST_F(RegionsTest, AGridChosenDuringADragIsTheGridTheDragGoesOnOver) {
 TEST_F(RegionsTest, ANewMagnificationTakesTheBoxWithIt) {
   makeIcon(16, Rows(4, "aaaa"));
   mark(0, 0, 3, 3);
-  editor.tool = kNoTool;
-  setRoom(600);
+  tools.clearAllTools();
+  options.setRoom(600, 600);
   EXPECT_EQ(state.gMagnification, 15);
   EXPECT_EQ(draw.region.x2, 60);
   EXPECT_EQ(boxInPixels(), (Rows{"0,0", "3,3"}));
-  editor.tool = kRegion;
-  moveRegion(4, 0);
+  // Selecting Region would end the region.
+  RegionTool tool(context, drawing.drawState, history, regions, tools);
+  const auto mouse = [this](int column) {
+    return ToolMouse{kRegion, column, 2, static_cast<float>(cells(column)), static_cast<float>(cells(2))};
+  };
+  tool.press(mouse(2));
+  tool.move(mouse(6));
+  drawing.drawState.mRegionDown = false;
+  tool.release(mouse(6));
   EXPECT_EQ(icon(), Rows(4, "....aaaa"));
   expectAgreement();
 }
@@ -351,7 +357,7 @@ TEST_F(RegionsTest, AnotherToolKeepsTheMergeAndEndsTheRegion) {
   makeIcon(16, Rows(4, "aaaa"));
   mark(0, 0, 3, 3);
   moveRegion(4, 0);
-  editor.selectTool(kPaint);
+  tools.selectTool(kPaint);
   EXPECT_EQ(icon(), Rows(4, "....aaaa"));
   expectAgreement();
 }
@@ -375,7 +381,7 @@ TEST_F(RegionsTest, CommittingAFloatingRegionMergesItIntoTheContainerAndStartsAF
   panel.CommitPendingPaint();
   EXPECT_EQ(icon(), (Rows{"ba", "aa"}));
   EXPECT_EQ(trimmed(rowsOf(state.picPanelImage[0], state.picPanelMask[0])), (Rows{"ba", "aa"}));
-  EXPECT_EQ(undo.undoCount(), 1);
+  EXPECT_EQ(history.undoCount(), 1);
   EXPECT_FALSE(state.mRegionExists);
   expectAgreement();
 }

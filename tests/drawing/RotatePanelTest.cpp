@@ -22,7 +22,7 @@ TEST_F(RotatePanelTest, AWholeTurnClosesThePanelChangesNothingAndRecordsNothing)
     makeIcon(16, {"ab"});
     rotateBy(angle);
     EXPECT_EQ(icon(), Rows{"ab"});
-    EXPECT_EQ(undo.undoCount(), 1);
+    EXPECT_EQ(history.undoCount(), 1);
     EXPECT_EQ(state.screen.mActivePanel, 0);
     EXPECT_FALSE(state.current().modified);
   }
@@ -30,14 +30,14 @@ TEST_F(RotatePanelTest, AWholeTurnClosesThePanelChangesNothingAndRecordsNothing)
 
 TEST_F(RotatePanelTest, ARotationBySmallAnglesDoesNotMoveThePicture) {
   for (const int size : {16, 24, 32, 48}) {
-    Rows drawing(static_cast<std::size_t>(size / 2 + 2));
-    drawing[static_cast<std::size_t>(size / 2)] = std::string(static_cast<std::size_t>(size / 2), '.') + "ab";
-    drawing[static_cast<std::size_t>(size / 2 + 1)] = std::string(static_cast<std::size_t>(size / 2), '.') + "kc";
-    makeIcon(size, drawing);
+    Rows drawn(static_cast<std::size_t>(size / 2 + 2));
+    drawn[static_cast<std::size_t>(size / 2)] = std::string(static_cast<std::size_t>(size / 2), '.') + "ab";
+    drawn[static_cast<std::size_t>(size / 2 + 1)] = std::string(static_cast<std::size_t>(size / 2), '.') + "kc";
+    makeIcon(size, drawn);
     rotateBy("1");
-    EXPECT_EQ(icon(), drawing) << size;
+    EXPECT_EQ(icon(), drawn) << size;
     rotateBy("-1");
-    EXPECT_EQ(icon(), drawing) << size;
+    EXPECT_EQ(icon(), drawn) << size;
   }
 }
 
@@ -56,16 +56,16 @@ TEST_F(RotatePanelTest, ARotationBy45DegreesOf32LosesTheCornersAndWhatIsVacatedI
   EXPECT_EQ(rows[0][0], '.');
   EXPECT_EQ(rows[31][31], '.');
   EXPECT_TRUE(state.current().modified);
-  EXPECT_EQ(undo.undoCount(), 2);
+  EXPECT_EQ(history.undoCount(), 2);
   EXPECT_EQ(state.screen.mActivePanel, 0);
   expectAgreement();
 }
 
 TEST_F(RotatePanelTest, AnOpaqueBlackPixelKeepsBlackAndItsMask) {
-  Rows drawing(12);
-  drawing[4] = "........k";
-  drawing[8] = "......aaaaa";
-  makeIcon(16, drawing);
+  Rows drawn(12);
+  drawn[4] = "........k";
+  drawn[8] = "......aaaaa";
+  makeIcon(16, drawn);
   rotateBy("90");
   Rows expected(11);
   expected[6] = expected[7] = expected[9] = expected[10] = "........a";
@@ -170,7 +170,7 @@ TEST_F(RotatePanelTest, ASecondProceedFromInsideTheFirstFindsThePanelClosed) {
 TEST_F(RotatePanelTest, WithoutAnIconProceedOnlyCloses) {
   rotateBy("45");
   EXPECT_EQ(state.screen.mActivePanel, 0);
-  EXPECT_EQ(undo.undoCount(), 0);
+  EXPECT_EQ(history.undoCount(), 0);
 }
 
 }  // namespace

@@ -9,7 +9,7 @@ class ShiftTest : public test::RegionFixture {
  protected:
   void turnOn(const Rows& rows) {
     makeIcon(16, rows);
-    editor.selectTool(kShift);
+    tools.selectTool(kShift);
   }
   void shiftTimes(ShiftCell cell, int times) {
     for (int i = 0; i < times; ++i) shift.shift(cell);
@@ -34,9 +34,9 @@ TEST(ShiftPad, OutsideThePadThereIsNoCell) {
 TEST_F(ShiftTest, TurningItOnStartsAHistoryOfTwoLikeEntries) {
   makeIcon(16, {"ab"});
   paintPixel(2, 0, 'c');
-  undo.recordUndo();
-  editor.selectTool(kShift);
-  EXPECT_EQ(undo.undoCount(), 2);
+  history.recordUndo();
+  tools.selectTool(kShift);
+  EXPECT_EQ(history.undoCount(), 2);
   EXPECT_EQ(shift.mShiftX(), 0);
   EXPECT_EQ(shift.mShiftY(), 0);
   expectAgreement();
@@ -55,17 +55,17 @@ TEST_F(ShiftTest, EachCellMovesThePictureItsWay) {
     turnOn({"", ".a"});
     shift.shift(c.cell);
     EXPECT_EQ(icon(), c.rows) << static_cast<int>(c.cell);
-    editor.clearAllTools();
+    tools.clearAllTools();
   }
 }
 
 TEST_F(ShiftTest, UpOneAndDownOneRestoreThePictureAlsoWhenARowWasPushedOff) {
-  const Rows drawing = {"abkc", "ba", ".c"};
-  turnOn(drawing);
+  const Rows drawn = {"abkc", "ba", ".c"};
+  turnOn(drawn);
   shift.shift(ShiftCell::Top);
   EXPECT_EQ(icon(), (Rows{"ba", ".c"}));
   shift.shift(ShiftCell::Bottom);
-  EXPECT_EQ(icon(), drawing);
+  EXPECT_EQ(icon(), drawn);
   EXPECT_TRUE(state.current().modified);
   expectAgreement();
 }
@@ -89,10 +89,10 @@ TEST_F(ShiftTest, APictureThatCrossedTheIconComesInFromTheOtherSide) {
 TEST_F(ShiftTest, NoNudgeIsRecordedAndUndoTakesBackTheWhole) {
   turnOn({"ab"});
   shiftTimes(ShiftCell::Bottom, 3);
-  EXPECT_EQ(undo.undoCount(), 2);
+  EXPECT_EQ(history.undoCount(), 2);
   undo.doUndo();
   EXPECT_EQ(icon(), Rows{"ab"});
-  EXPECT_EQ(editor.tool, kNoTool);
+  EXPECT_EQ(tools.selectedTool(), kNoTool);
   expectAgreement();
 }
 
@@ -117,15 +117,11 @@ TEST_F(ShiftTest, ThePadShowsThePressedCellUntilTheRelease) {
 }
 
 TEST_F(ShiftTest, ThePadTellsWhatIsMissing) {
-  boxes.expectTold("No icon in Editing Area yet", BoxIcon::None);
-  editor.tool = kShift;
-  shift.padPress(ShiftCell::Top);
-  shift.padRelease(ShiftCell::Top);
-  EXPECT_EQ(editor.tool, kNoTool);
-  EXPECT_EQ(shift.shownPicture(), 0);
   makeIcon(16, {"a"});
   boxes.expectTold("Please select Shift first (middle square)", BoxIcon::None);
+  shift.padPress(ShiftCell::Bottom);
   shift.padRelease(ShiftCell::Bottom);
+  EXPECT_EQ(shift.shownPicture(), 0);
   EXPECT_EQ(icon(), Rows{"a"});
 }
 
@@ -138,10 +134,10 @@ TEST_F(ShiftTest, AnIconOfAnotherSizeIsNotShiftedByTheKeptPicture) {
 
 TEST_F(ShiftTest, WhatEndsShiftWhileItIsTurnedOnLeavesOneBaseline) {
   makeIcon(16, {"ab"});
-  pump.inside = [this] { editor.selectTool(kPaint); };
-  editor.selectTool(kShift);
-  EXPECT_EQ(editor.tool, kPaint);
-  EXPECT_EQ(undo.undoCount(), 1);
+  pump.inside = [this] { tools.selectTool(kPaint); };
+  tools.selectTool(kShift);
+  EXPECT_EQ(tools.selectedTool(), kPaint);
+  EXPECT_EQ(history.undoCount(), 1);
   expectAgreement();
 }
 

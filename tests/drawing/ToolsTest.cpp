@@ -1,115 +1,56 @@
 #include "document/PanelNumbers.h"
-#include "drawing/Freehand.h"
-#include "drawing/Tools.h"
-#include "support/FakeEditor.h"
-#include "support/ScriptedPorts.h"
-
-#include <gtest/gtest.h>
+#include "drawing/DrawingFixture.h"
+#include "drawing/ToolTable.h"
 
 namespace gp {
 namespace {
 
-constexpr Color kGreen = 0x00FF00;
+using test::kGreen;
 
-// A FakeEditor whose display operations are real and whose picker and tools are those under test.
-class ToolEditor : public test::FakeEditor {
- public:
-  EditingArea* area = nullptr;
-  Tools* tools = nullptr;
-  ColorSelection* colors = nullptr;
-
-  void ComposeCurrentIcon() override { FakeEditor::ComposeCurrentIcon(), area->ComposeCurrentIcon(); }
-  void MagnifyIcon() override { FakeEditor::MagnifyIcon(), area->MagnifyIcon(); }
-  void clearAllTools() override { tools->clearAllTools(); }
-  void deselectColorPicker() override { colors->deselectPicker(); }
-  int selectedTool() const override { return tools->selectedTool(); }
-};
-
-class ToolsTest : public testing::Test {
+class ToolsTest : public test::DrawingFixture {
  protected:
-  EditState state;
-  ToolEditor editor;
-  test::RecordingDisplay display;
-  test::ScriptedBoxes boxes;
-  test::ScriptedDialogs dialogs;
-  test::ScriptedPump pump;
-  clsGPDialog dialog{dialogs};
-  EditingArea area{state, editor, display, pump};
-  ColorSelection colors{state, editor, display, boxes, pump, dialog};
-  DrawState drawState;
-  FreehandTool freehand{state, editor, area, pump, drawState};
-  RestoreTool restore{state, editor, drawState};
-  Tools tools{state, editor, display, colors, boxes, pump, drawState};
-
-  ToolsTest() {
-    tools.attach(kPaint, freehand);
-    tools.attach(kErase, freehand);
-    tools.attach(kRestore, restore);
-    editor.area = &area;
-    editor.tools = &tools;
-    editor.colors = &colors;
-    state.gGridColor = kNoGrid;
-    state.mCurrentColor = kGreen;
-  }
   // A transparent icon on the Editing Area and in container 0.
-  void makeIcon(int size) {
-    state.current().used = true;
-    state.current().size = static_cast<std::int16_t>(size);
-    area.SizeEditSurfaces(size);
-    area.SizePanelSurfaces(size);
-    state.picImage.fill(kBlack);
-    state.picMask.fill(kWhite);
-    area.ComposeCurrentIcon();
-    area.UpdatePanelFromCurrent();
-    area.ShowCurrentIcon();
-  }
-  MouseInput at(int pixelX, int pixelY, int button = kLeftButton) const {
-    const auto m = static_cast<float>(state.gMagnification);
-    return {button, 0, (static_cast<float>(pixelX) + 0.5F) * m, (static_cast<float>(pixelY) + 0.5F) * m};
-  }
-  void stroke(int pixelX, int pixelY) {
-    tools.press(at(pixelX, pixelY));
-    tools.release(at(pixelX, pixelY));
-  }
-  std::string readout(Readout which) const { return state.screen.lblDispXY[static_cast<std::size_t>(which)]; }
+  void makeIcon(int size) { putIcon(0, size); }
   int paintedPixels() const {
     int count = 0;
     for (int y = 0; y < state.picMask.height(); ++y)
       for (int x = 0; x < state.picMask.width(); ++x) count += state.picMask.GetPixel(x, y) == kBlack;
     return count;
   }
+  // The steps since the icon came.
+  int steps() const { return history.undoCount() - 1; }
 };
 
 TEST_F(ToolsTest, PaintPutsTheCurrentColourOnTheImageAndBlackOnTheMask) {
   makeIcon(32);
   tools.selectTool(kPaint);
-  stroke(3, 4);
+  click(3, 4);
   EXPECT_EQ(state.picImage.GetPixel(3, 4), kGreen);
   EXPECT_EQ(state.picMask.GetPixel(3, 4), kBlack);
   EXPECT_EQ(state.PicIcon.GetPixel(3, 4), kGreen);
   EXPECT_EQ(state.picDisp.GetPixel(3 * 12 + 6, 4 * 12 + 6), kGreen);
   EXPECT_EQ(paintedPixels(), 1);
   EXPECT_TRUE(state.current().modified);
-  EXPECT_EQ(editor.count("recordUndo"), 1);
+  EXPECT_EQ(steps(), 1);
 }
 
 TEST_F(ToolsTest, EraseMakesPixelsBlackOnTheImageAndWhiteOnTheMask) {
   makeIcon(32);
   tools.selectTool(kPaint);
-  stroke(3, 4);
+  click(3, 4);
   tools.selectTool(kErase);
-  stroke(3, 4);
+  click(3, 4);
   EXPECT_EQ(state.picImage.GetPixel(3, 4), kBlack);
   EXPECT_EQ(state.picMask.GetPixel(3, 4), kWhite);
   EXPECT_EQ(state.PicIcon.GetPixel(3, 4), kGround);
-  EXPECT_EQ(editor.count("recordUndo"), 2);
+  EXPECT_EQ(steps(), 2);
 }
 
 TEST_F(ToolsTest, ABrushHangsDownAndToTheRight) {
   makeIcon(32);
   tools.selectTool(kPaint);
   tools.setBrush(2);
-  stroke(10, 20);
+  click(10, 20);
   EXPECT_EQ(paintedPixels(), 9);
   EXPECT_EQ(state.picImage.GetPixel(10, 20), kGreen);
   EXPECT_EQ(state.picImage.GetPixel(12, 22), kGreen);
@@ -131,7 +72,7 @@ TEST_F(ToolsTest, ABrushOfSixAtTheBottomRightPixelPaintsOnePixelAndItsSquareRuns
 
 TEST_F(ToolsTest, TheSquareOfColumnZeroStartsAtZeroAndThatOfColumnOneBehindTheGridLine) {
   makeIcon(16);
-  area.SetGrid(1);
+  options.SetGrid(1);
   tools.selectTool(kPaint);
   tools.press(at(5, 5));
   tools.move(at(0, 5, 0));
@@ -156,7 +97,7 @@ TEST_F(ToolsTest, AMoveStampsWhereThePointerIsAndLeavesGaps) {
 TEST_F(ToolsTest, AMoveOfEraseShowsTheGroundOnTheEditingArea) {
   makeIcon(32);
   tools.selectTool(kPaint);
-  stroke(2, 2);
+  click(2, 2);
   tools.selectTool(kErase);
   tools.press(at(9, 9));
   tools.move(at(2, 2, 0));
@@ -179,10 +120,14 @@ TEST_F(ToolsTest, AStrokeMoveRebuildsTheSmallIconAndNotTheWholeEditingArea) {
   makeIcon(48);
   tools.selectTool(kPaint);
   tools.press(at(5, 5));
-  const int magnified = editor.count("MagnifyIcon");
+  const int rebuilt = display.count(DisplayPart::EditingArea);
+  const int repaints = display.repaints;
+  state.picDisp.SetPixelV(300, 300, kGreen);
+  state.picDisp.makePersistent();
   tools.move(at(6, 5, 0));
-  EXPECT_EQ(editor.count("MagnifyIcon"), magnified);
-  EXPECT_EQ(display.repaints, 1);
+  EXPECT_EQ(display.count(DisplayPart::EditingArea), rebuilt);
+  EXPECT_EQ(display.repaints, repaints + 1);
+  EXPECT_EQ(state.picDisp.GetPixel(300, 300), kGreen) << "what is elsewhere stays as it is";
   EXPECT_EQ(state.PicIcon.GetPixel(6, 5), kGreen);
 }
 
@@ -190,7 +135,7 @@ TEST_F(ToolsTest, RestoreTakesOnePixelFromTheContainerWhateverTheBrush) {
   makeIcon(32);
   tools.selectTool(kPaint);
   tools.setBrush(3);
-  stroke(4, 4);
+  click(4, 4);
   tools.selectTool(kRestore);
   tools.press(at(5, 5));
   EXPECT_EQ(paintedPixels(), 15);
@@ -207,7 +152,7 @@ TEST_F(ToolsTest, RestoreMarksTheIconAtReleaseAndRecordsNoStep) {
   EXPECT_FALSE(state.current().modified);
   tools.release(at(5, 5));
   EXPECT_TRUE(state.current().modified);
-  EXPECT_EQ(editor.count("recordUndo"), 0);
+  EXPECT_EQ(steps(), 0);
 }
 
 TEST_F(ToolsTest, ARightPressOpensThePopUpMenuAndPaintsNothing) {
@@ -269,16 +214,16 @@ TEST_F(ToolsTest, TheColourReadoutIsEmptyDuringAStrokeAndWhileHidden) {
 TEST_F(ToolsTest, ThePickerTakesTheColourMarksNothingAndRecordsNoStep) {
   makeIcon(32);
   tools.selectTool(kPaint);
-  stroke(3, 3);
+  click(3, 3);
   state.current().modified = false;
   state.mCurrentColor = kBlack;
   colors.imgColorPicker();
-  stroke(3, 3);
+  click(3, 3);
   EXPECT_EQ(state.mCurrentColor, kGreen);
-  stroke(4, 4);
+  click(4, 4);
   EXPECT_EQ(state.mCurrentColor, kGround) << "the transparent ground reads as silver";
   EXPECT_FALSE(state.current().modified);
-  EXPECT_EQ(editor.count("recordUndo"), 1);
+  EXPECT_EQ(steps(), 1);
   tools.release({kLeftButton, 0, 5000, 5000});
   EXPECT_EQ(state.mCurrentColor, kGround) << "outside the icon there is no colour to take";
 }
@@ -311,7 +256,7 @@ TEST_F(ToolsTest, ASecondClickOnAToolTurnsItOffSoThatAPressDoesNothing) {
   EXPECT_TRUE(tools.isToolActive());
   tools.selectTool(kPaint);
   EXPECT_EQ(tools.selectedTool(), kNoTool);
-  stroke(1, 1);
+  click(1, 1);
   EXPECT_EQ(paintedPixels(), 0);
 }
 
@@ -320,13 +265,16 @@ TEST_F(ToolsTest, AtMostOneToolIsSelected) {
   tools.selectTool(kPaint);
   tools.selectTool(kErase);
   EXPECT_EQ(tools.selectedTool(), kErase);
-  EXPECT_EQ(editor.count("clearRegion"), 2);
 }
 
-TEST_F(ToolsTest, SelectingAToolWithoutIconTellsSoAndLeavesNoneSelected) {
-  boxes.expectTold("No icon in Editing Area yet", BoxIcon::None);
-  tools.selectTool(kPaint);
-  EXPECT_EQ(tools.selectedTool(), kNoTool);
+TEST_F(ToolsTest, SelectingAToolEndsARegion) {
+  makeIcon(32);
+  for (const Tool tool : {kPaint, kErase, kRegion}) {
+    markRegion(4, 4, 9, 9);
+    tools.selectTool(tool);
+    EXPECT_FALSE(state.mRegionExists) << tool;
+    EXPECT_EQ(readout(Readout::Region), "") << tool;
+  }
 }
 
 TEST_F(ToolsTest, SelectingAToolPutsThePickerAwayAndBringsTheColourPanelBack) {
@@ -341,7 +289,7 @@ TEST_F(ToolsTest, SelectingAToolPutsThePickerAwayAndBringsTheColourPanelBack) {
 TEST_F(ToolsTest, SelectingThePickerPutsTheToolAway) {
   makeIcon(32);
   tools.selectTool(kPaint);
-  tools.mnuTools(2);
+  tools.pickColorFromMenu();
   EXPECT_EQ(tools.selectedTool(), kNoTool);
   EXPECT_TRUE(colors.isPickerSelected());
   EXPECT_EQ(display.nudges, 1);
@@ -349,39 +297,45 @@ TEST_F(ToolsTest, SelectingThePickerPutsTheToolAway) {
 
 TEST_F(ToolsTest, TheMenuSelectsAToolAndNudgesThePointer) {
   makeIcon(32);
-  tools.mnuTools(kErase);
+  tools.selectFromMenu(kErase);
   EXPECT_EQ(tools.selectedTool(), kErase);
   EXPECT_EQ(display.nudges, 1);
-  tools.mnuTools(0);
+  tools.clearFromMenu();
   EXPECT_EQ(tools.selectedTool(), kNoTool);
 }
 
 TEST_F(ToolsTest, AToolThatNobodyWorksCannotBeSelected) {
   makeIcon(32);
-  tools.selectTool(kFill);
-  EXPECT_EQ(tools.selectedTool(), kNoTool);
+  DrawState drawState;
+  Tools bare(context, panel, colors, history, regions, drawState);
+  EXPECT_FALSE(bare.isAvailable(kFill));
+  bare.selectTool(kFill);
+  EXPECT_EQ(bare.selectedTool(), kNoTool);
+  bare.attach(kFill, drawing.shift);
+  EXPECT_TRUE(bare.isAvailable(kFill));
 }
 
 TEST_F(ToolsTest, ClearingToolsWithARegionRecordsAStepFirst) {
   makeIcon(32);
   tools.selectTool(kPaint);
   tools.imgClearAllTools();
-  EXPECT_EQ(editor.count("recordUndo"), 0);
-  state.mRegionExists = true;
-  state.screen.lblDispXY[2] = "Region";
+  EXPECT_EQ(steps(), 0);
+  markRegion(4, 4, 9, 9);
+  EXPECT_NE(readout(Readout::Region), "");
+  bool regionThen = false;
+  pump.inside = [&] { regionThen = state.mRegionExists; };
   tools.imgClearAllTools();
-  EXPECT_EQ(editor.count("recordUndo"), 1);
+  EXPECT_TRUE(regionThen) << "the step is recorded before the region ends";
+  EXPECT_EQ(steps(), 1);
   EXPECT_EQ(readout(Readout::Region), "");
 }
 
 TEST_F(ToolsTest, ClearingToolsFromTheMenuEndsARegionToo) {
   makeIcon(32);
-  tools.selectTool(kPaint);
-  state.mRegionExists = true;
-  editor.calls.clear();
-  tools.mnuTools(0);
-  EXPECT_EQ(editor.count("clearRegion"), 1);
-  EXPECT_EQ(editor.count("recordUndo"), 1);
+  markRegion(4, 4, 9, 9);
+  tools.clearFromMenu();
+  EXPECT_FALSE(state.mRegionExists);
+  EXPECT_EQ(steps(), 1);
   EXPECT_EQ(tools.selectedTool(), kNoTool);
 }
 
@@ -389,10 +343,10 @@ TEST_F(ToolsTest, ClearingToolsInTheMidstOfAStrokeRecordsItOnce) {
   makeIcon(32);
   tools.selectTool(kPaint);
   tools.press(at(1, 1));
-  tools.mnuTools(0);
+  tools.clearFromMenu();
   tools.release(at(1, 1));
-  EXPECT_EQ(editor.count("recordUndo"), 1);
-  EXPECT_FALSE(drawState.isStroke());
+  EXPECT_EQ(steps(), 1);
+  EXPECT_FALSE(draw.isStroke());
 }
 
 TEST_F(ToolsTest, ThePointerIsThePictureOfTheToolOrThePickerOrThePlatformsOwn) {
@@ -421,9 +375,9 @@ TEST_F(ToolsTest, AnotherToolSelectedInsideAStrokeFinishesItAsAStepOfItsOwn) {
   makeIcon(32);
   tools.selectTool(kPaint);
   tools.press(at(1, 1));
-  pump.inside = [this] { tools.mnuTools(kErase); };
+  pump.inside = [this] { tools.selectFromMenu(kErase); };
   tools.move(at(9, 9, 0));
-  EXPECT_EQ(editor.count("recordUndo"), 1);
+  EXPECT_EQ(steps(), 1);
   EXPECT_EQ(paintedPixels(), 1);
   EXPECT_EQ(tools.selectedTool(), kErase);
   tools.move(at(1, 1, 0));

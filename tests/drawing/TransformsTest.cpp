@@ -25,7 +25,7 @@ TEST_F(TransformsTest, AnIconIsFlippedHorizontally) {
   expected[1] = "...............k";
   expected[15] = "k..............b";
   EXPECT_EQ(icon(), expected);
-  EXPECT_EQ(undo.undoCount(), 2);
+  EXPECT_EQ(history.undoCount(), 2);
   EXPECT_TRUE(state.current().modified);
   transforms.RotateFlipHoriz();
   EXPECT_EQ(icon(), trimmed(fullIcon()));
@@ -61,7 +61,7 @@ TEST_F(TransformsTest, AnIconIsTurnedLeftAndRight) {
   expected[1] = "...............b";
   expected[15] = "k..............c";
   EXPECT_EQ(icon(), expected);
-  EXPECT_EQ(undo.undoCount(), 4);
+  EXPECT_EQ(history.undoCount(), 4);
   expectAgreement();
 }
 
@@ -79,7 +79,7 @@ TEST_F(TransformsTest, OnlyTheRegionIsFlippedAndItFloats) {
     transforms.RotateFlipHoriz();
     EXPECT_EQ(icon(), (Rows{"cba", "..a", "cccc"}));
     EXPECT_TRUE(regions.isFloating());
-    EXPECT_EQ(undo.undoCount(), 1) << "the step is recorded when the region is merged";
+    EXPECT_EQ(history.undoCount(), 1) << "the step is recorded when the region is merged";
     transforms.RotateFlipVertical();
     EXPECT_EQ(icon(), (Rows{"..a", "cba", "cccc"}));
     expectAgreement();
@@ -127,38 +127,65 @@ TEST_F(TransformsTest, FlippingInTheMiddleOfADragTakesTheRegionWhereItIs) {
   }
 }
 
-TEST_F(TransformsTest, TheMenuRunsEachRoutineByItsIndex) {
-  const Rows flipped[] = {{"ba"}, {"ba"}, {"a", "b"}, {"b", "a"}};
-  const Rows drawn[] = {{"ab"}, {"ba"}, {"ba"}, {"ba"}};
-  for (int index = 0; index < 4; ++index) {
-    makeIcon(16, drawn[index]);
+TEST_F(TransformsTest, EachCommandWorksOnARegionOfOneRow) {
+  struct Case {
+    void (Transforms::*command)();
+    Rows drawn, turned;
+  };
+  for (const Case& c : {Case{&Transforms::RotateFlipHoriz, {"ab"}, {"ba"}},
+                        {&Transforms::RotateFlipVertical, {"ba"}, {"ba"}},
+                        {&Transforms::RotateLeft, {"ba"}, {"a", "b"}},
+                        {&Transforms::RotateRight, {"ba"}, {"b", "a"}}}) {
+    makeIcon(16, c.drawn);
     mark(0, 0, 1, 0);
-    transforms.mnuRotateSubmenu(index);
-    EXPECT_EQ(icon(), flipped[index]) << index;
+    (transforms.*c.command)();
+    EXPECT_EQ(icon(), c.turned);
   }
-  transforms.mnuRotateSubmenu(4);
+  transforms.rotateAtAnyAngle();
   EXPECT_EQ(state.screen.mActivePanel, kRotatePanel);
 }
 
-TEST_F(TransformsTest, TheMenuTellsWhenThereIsNoIcon) {
-  boxes.expectTold("No icon in Editing Area yet", BoxIcon::None);
-  transforms.mnuRotateSubmenu(0);
+TEST_F(TransformsTest, AFlipKeepsTheBoxOfTheRegion) {
+  makeIcon(16, {"", ".abc", ".cba"});
+  mark(1, 1, 3, 2);
+  for (void (Transforms::*command)() : {&Transforms::RotateFlipHoriz, &Transforms::RotateFlipVertical}) {
+    (transforms.*command)();
+    EXPECT_EQ(boxInPixels(), (Rows{"1,1", "3,2"}));
+    EXPECT_EQ(label(), "Region: Start [2, 2]   W=3 H=2");
+  }
+  EXPECT_EQ(icon(), (Rows{"", ".abc", ".cba"}));
+  expectAgreement();
 }
 
 TEST_F(TransformsTest, AShiftIsEndedOnlyAfterAsking) {
   constexpr const char* kQuestion = "Terminate Shift operation and accept the current image?\n";
   makeIcon(16, {"ab"});
-  editor.selectTool(kShift);
+  tools.selectTool(kShift);
   shift.shift(ShiftCell::Right);
   boxes.expectAsked(kQuestion, BoxAnswer::No);
-  transforms.mnuRotateSubmenu(1);
+  transforms.RotateFlipVertical();
   EXPECT_EQ(icon(), Rows{".ab"});
-  EXPECT_EQ(editor.tool, kShift);
+  EXPECT_EQ(tools.selectedTool(), kShift);
   boxes.expectAsked(kQuestion, BoxAnswer::Yes);
-  transforms.mnuRotateSubmenu(0);
+  transforms.RotateFlipHoriz();
   EXPECT_EQ(icon(), Rows{".............ba"});
-  EXPECT_EQ(editor.tool, kNoTool);
+  EXPECT_EQ(tools.selectedTool(), kNoTool);
   expectAgreement();
+}
+
+TEST_F(TransformsTest, EveryCommandAsksToEndAShiftAndDoesNothingWhenTheUserKeepsIt) {
+  makeIcon(16, {"ab"});
+  tools.selectTool(kShift);
+  shift.shift(ShiftCell::Right);
+  for (void (Transforms::*command)() :
+       {&Transforms::RotateFlipHoriz, &Transforms::RotateFlipVertical, &Transforms::RotateLeft,
+        &Transforms::RotateRight, &Transforms::rotateAtAnyAngle}) {
+    boxes.expectAsked("Terminate Shift operation and accept the current image?\n", BoxAnswer::No);
+    (transforms.*command)();
+    EXPECT_EQ(icon(), Rows{".ab"});
+    EXPECT_EQ(tools.selectedTool(), kShift);
+    EXPECT_EQ(state.screen.mActivePanel, kColorPanel);
+  }
 }
 
 TEST_F(TransformsTest, AFlipBringsTheColourPanelForward) {
