@@ -1,7 +1,8 @@
-#include "output/Enquiry.h"
-#include "support/FakeEditor.h"
-#include "support/ScriptedPorts.h"
-#include "support/TempFolder.h"
+#include "document/Containers.h"
+#include "files/Files.h"
+#include "files/IcoBuilder.h"
+#include "output/Output.h"
+#include "support/Rooms.h"
 
 #include <gtest/gtest.h>
 
@@ -11,105 +12,100 @@ namespace {
 // Writes down what is shown, with the file that it is shown for.
 class RecordingForms : public FileForms {
  public:
-  explicit RecordingForms(EditState& state) : state_(state) {}
+  explicit RecordingForms(MultiIconExchange& exchange) : exchange_(exchange) {}
   std::vector<std::string> shown;
 
-  void showMultiIcon() override { shown.push_back("browser " + state_.multiIcon.gMultiIconFile); }
-  void showHeaderDiff() override { shown.push_back("headers " + state_.multiIcon.gMultiIconFile); }
+  // The user closes the browser at once.
+  void showMultiIcon() override {
+    shown.push_back("browser " + exchange_.gMultiIconFile);
+    exchange_.gMultiIconResult.clear();
+    exchange_.gLoadAndReturn = false;
+  }
+  void showHeaderDiff() override { shown.push_back("headers " + exchange_.gMultiIconFile); }
 
  private:
-  EditState& state_;
+  MultiIconExchange& exchange_;
 };
 
-class EnquiryTest : public testing::Test {
+class EnquiryTest : public testing::Test, protected Rooms {
  protected:
-  TempFolder folder;
-  EditState state;
-  FakeEditor editor;
-  RecordingDisplay display;
-  ScriptedBoxes boxes;
-  ScriptedPump pump;
-  ScriptedDialogs dialogs;
-  clsGPDialog dialog{dialogs};
-  RecordingForms forms{state};
-  CursorFiles cursors{FilesContext{state, editor, display, boxes, pump, dialog}};
-  Enquiry enquiry{state, editor, boxes, pump, forms, cursors};
+  IconFolder folder;
+  Files files{context, document, drawing, dialog, folder.path("gptmp.ico")};
+  Output output{context, files};
+  Enquiry& enquiry = output.enquiry;
+  RecordingForms forms{files.context().multiIcon};
 
+  EnquiryTest() { files.attach(&forms); }
   IconContainerRec& record() { return state.current(); }
   void makeIcon(const std::string& path) {
-    record().used = record().present = true;
+    document.arrival.arrive(transparentIcon(32), NewRecord());
     record().path = path;
+    editor.calls.clear();
+    pump.pumps = 0;
+  }
+  std::string writeManyIcons(const std::string& name) {
+    return folder.write(name, build(IcoFile{{anyEntry(16, 4), anyEntry(32, 8)}, 0, 1, {}}));
   }
 };
 
-TEST_F(EnquiryTest, WithoutAnIconEveryEntrySaysSo) {
-  for (const int index : {5, 9, 11}) {
-    boxes.expectTold("No icon in Editing Area yet", BoxIcon::None);
-    enquiry.mnuEnquiryCurrent(index);
-  }
-  EXPECT_TRUE(forms.shown.empty());
-  EXPECT_EQ(pump.pumps, 0);
-}
-
 TEST_F(EnquiryTest, TheHeadersOfADiscrepantFileAreShown) {
-  makeIcon(folder.write("odd.ico"));
-  record().dirColors = 16;
-  record().bihColors = 256;
-  enquiry.mnuEnquiryCurrent(5);
+  makeIcon(writeManyIcons("odd.ico"));
+  enquiry.showOriginalHeaders();
   EXPECT_EQ(forms.shown, std::vector<std::string>{"headers " + folder.file("odd.ico")});
   EXPECT_EQ(pump.pumps, 1);
 }
 
-TEST_F(EnquiryTest, HeadersThatAgreeAreNotShown) {
-  makeIcon(folder.write("even.ico"));
-  enquiry.mnuEnquiryCurrent(5);
-  EXPECT_TRUE(forms.shown.empty());
-}
-
 TEST_F(EnquiryTest, AFileThatIsGoneIsTold) {
   makeIcon(folder.file("gone.ico"));
-  record().bitCount = 4;
-  record().bihBitCount = 8;
   record().fromMultiIconFile = true;
-  for (const int index : {5, 9}) {
+  for (void (Enquiry::*entry)() : {&Enquiry::showOriginalHeaders, &Enquiry::showIconsInFile}) {
     boxes.expectTold(folder.file("gone.ico") + "\nfile can no longer be found!", BoxIcon::Exclamation);
-    enquiry.mnuEnquiryCurrent(index);
+    (enquiry.*entry)();
   }
   EXPECT_TRUE(forms.shown.empty());
-  EXPECT_EQ(editor.count("doOpenIconFile " + folder.file("gone.ico")), 0);
 }
 
 TEST_F(EnquiryTest, TheIconsOfAMultiIconFileAreShownByOpeningIt) {
-  makeIcon(folder.write("many.ico"));
+  makeIcon(writeManyIcons("many.ico"));
   record().fromMultiIconFile = true;
-  enquiry.mnuEnquiryCurrent(9);
-  EXPECT_EQ(editor.calls,
-            (std::vector<std::string>{"CommitPendingPaint", "doOpenIconFile " + folder.file("many.ico")}));
-}
-
-TEST_F(EnquiryTest, AnIconOfASingleIconFileHasNoOthersToShow) {
-  makeIcon(folder.write("one.ico"));
-  enquiry.mnuEnquiryCurrent(9);
-  EXPECT_TRUE(editor.calls.empty());
+  const unsigned icon = state.iconSerial;
+  enquiry.showIconsInFile();
+  EXPECT_EQ(forms.shown, std::vector<std::string>{"browser " + folder.file("many.ico")});
+  EXPECT_EQ(editor.count("AskSaveCurrent "), 0);
+  EXPECT_EQ(state.iconSerial, icon) << "the user chose none of them";
 }
 
 TEST_F(EnquiryTest, AChangedIconIsAskedAboutAndARefusalShowsNothing) {
-  makeIcon(folder.write("many.ico"));
+  makeIcon(writeManyIcons("many.ico"));
   record().fromMultiIconFile = true;
   record().modified = true;
   editor.askSaveProceeds = false;
-  enquiry.mnuEnquiryCurrent(9);
-  EXPECT_EQ(editor.calls, (std::vector<std::string>{"CommitPendingPaint", "AskSaveCurrent "}));
+  enquiry.showIconsInFile();
+  EXPECT_EQ(editor.calls, std::vector<std::string>{"AskSaveCurrent "});
+  EXPECT_TRUE(forms.shown.empty());
+  editor.askSaveProceeds = true;
+  enquiry.showIconsInFile();
+  EXPECT_EQ(editor.count("AskSaveCurrent "), 2);
+  EXPECT_EQ(forms.shown.size(), 1U);
 }
 
-TEST_F(EnquiryTest, TheHotSpotOfTheOriginalCursorBlinksForCursorsOnly) {
+TEST_F(EnquiryTest, AfterASaveTheFileThatTheIconCameFromIsShown) {
+  makeIcon(writeManyIcons("many.ico"));
+  record().fromMultiIconFile = true;
+  record().modified = true;
+  editor.atCall("AskSaveCurrent ", [this] { record().path = folder.file("saved.ico"); });
+  enquiry.showIconsInFile();
+  EXPECT_EQ(forms.shown, std::vector<std::string>{"browser " + folder.file("many.ico")});
+}
+
+TEST_F(EnquiryTest, TheHotSpotOfTheOriginalCursorBlinks) {
   makeIcon(folder.file("arrow.cur"));
-  enquiry.mnuEnquiryCurrent(11);
-  EXPECT_EQ(pump.waitedMilliseconds, 0);
+  enquiry.revealHotspot();
+  EXPECT_EQ(pump.waitedMilliseconds, 0) << "it came from no cursor";
   record().isCursor = true;
   record().hotspotX = 3;
   record().hotspotY = 4;
-  enquiry.mnuEnquiryCurrent(11);
+  enquiry.revealHotspot();
   EXPECT_EQ(pump.waitedMilliseconds, 900);
 }
 
