@@ -43,9 +43,16 @@ std::string Shell::settingsPath() const { return folder_ + "/" + kSettingsFileNa
 void Shell::run(const Command& command) {
   if (!command.run) return;
   guarded(std::string(command.control) + "_Click", [&] {
-    if (command.commits == Commits::Yes) document_.iconsPanel.CommitPendingPaint();
-    if (mayRun(command)) command.run(*this, command.index);
+    if (prepare(command)) command.run(*this, command.index);
   });
+}
+
+bool Shell::prepare(const Command& command) {
+  if (!mayRun(command)) return false;
+  if (command.commits == Commits::No) return true;
+  document_.iconsPanel.CommitPendingPaint();
+  // Committing may have saved the icon to a file of its own.
+  return mayRun(command);
 }
 
 bool Shell::mayRun(const Command& command) { return isMet(command.unmet(*this, command.index)); }

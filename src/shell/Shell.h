@@ -64,8 +64,8 @@ class Shell final : public Editor {
   const Ports& ports() const { return ports_; }
   const std::string& folder() const { return folder_; }
 
-  // Runs a command, whether it comes from a menu, a key, the toolbar or the pop-up menu: commits what is open where the
-  // command says so, asks what it needs and tells the user why not, then calls its body. Errors end in a box. Nothing
+  // Runs a command, whether it comes from a menu, a key, the toolbar or the pop-up menu: asks what it needs and tells
+  // the user why not, commits what is open where the command says so, then calls its body. Errors end in a box. Nothing
   // for a row without a body.
   void run(const Command& command);
   // True when what a command needs is there; otherwise the user is told why not.
@@ -125,6 +125,8 @@ class Shell final : public Editor {
   void ShowRunTimeError(const std::string& name, const std::string& description) override;
 
  private:
+  // False, and nothing but a box has come of it, when the command cannot run.
+  bool prepare(const Command& command);
   bool isMet(const char* refusal);
   std::string settingsPath() const;
   void placeForm();
