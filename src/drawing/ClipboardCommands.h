@@ -21,8 +21,8 @@ class ClipboardCommands {
   ClipboardCommands(const Context& context, Document& document, UndoHistory& history, Regions& regions, Tools& tools,
                     Clipboard& clipboard);
 
-  // mnuEditSub(4) with copyFirst, and (5): blanks the region, or takes a floating one away from what lies beneath.
-  // Silently nothing without a region.
+  // mnuEditSub(4) with copyFirst, and (5): blanks the region, or takes a floating one away from what lies beneath. The
+  // user is told of a region without sides.
   void doCutRegion(bool copyFirst);
   // mnuEditSub(6): the region, or the whole icon, with silver where it is transparent.
   void doCopyRegion();

@@ -18,8 +18,6 @@
 
 namespace gp {
 
-namespace {}  // namespace
-
 int snapToCell(double position, SnapMode mode, int magnification) {
   const int pos = Fix(position);
   const int cell = divide(pos, magnification);
