@@ -60,87 +60,6 @@ TEST_F(CommandTable, WithoutAHandlerAnEntryIsDisabledUnlessItIsAMenuWithLiveEntr
   }
 }
 
-// What is enabled in which state. A column is a state; "x" is enabled.
-struct EnablingCase {
-  const char* control;
-  int index;
-  bool empty, single, multi, small;
-};
-
-TEST_F(CommandTable, EntriesFollowTheRecord) {
-  const EnablingCase cases[] = {
-      {"mnuFileSub", 2, true, true, true, true},          {"mnuFileSub", 7, true, true, true, true},
-      {"mnuFileSub", 12, false, true, true, true},        {"mnuFileSub", 13, false, true, true, true},
-      {"mnuFileSub", 19, false, true, true, true},        {"mnuFileSub", 20, false, true, true, true},
-      {"mnuTools", 0, false, true, true, true},           {"mnuTools", 4, false, true, true, true},
-      {"mnuTools", 8, false, true, true, true},           {"mnuTools", 6, false, true, true, true},
-      {"mnuBrushSize", 0, true, true, true, true},        {"mnuPaletteSub", 1, true, true, true, true},
-      {"mnuOptionsSub", 16, true, true, true, true},      {"mnuHelpSub", 0, true, true, true, true},
-      {"mnuPopUpSub", 0, true, true, true, true},         {"mnuPopUpSub", 3, false, false, true, true},
-      {"mnuFileSub", 9, true, true, true, true},          {"mnuFileSub", 15, false, false, true, true},
-      {"mnuFileSub", 16, false, true, false, false},      {"mnuFileSub", 18, false, true, true, false},
-      {"mnuPopUpSub", 7, false, false, false, false},     {"mnuEnquiryCurrent", 5, false, false, false, false},
-      {"mnuEnquiryCurrent", 9, false, false, true, true}, {"mnuEnquiryCurrent", 11, false, false, false, false},
-  };
-  start();
-  auto check = [&](const char* name, bool EnablingCase::*column) {
-    for (const EnablingCase& c : cases)
-      EXPECT_EQ(enabled(c.control, c.index), c.*column) << name << c.control << c.index;
-  };
-  check("empty ", &EnablingCase::empty);
-  click("mnuFileSub", 2);
-  check("single ", &EnablingCase::single);
-  state.current().fromMultiIconFile = true;
-  check("multi ", &EnablingCase::multi);
-  state.current().size = 16;
-  check("small ", &EnablingCase::small);
-}
-
-// The rules that stand in rows whose subsystems are not part of the program yet.
-TEST_F(CommandTable, TheRulesOfTheFileMenuAndThePopUpMenuFollowTheRecord) {
-  start();
-  auto rule = [&](const char* control, int index) {
-    const Command* row = findCommand(control, index);
-    return row->enabled(shell, row->index);
-  };
-  EXPECT_FALSE(rule("mnuFileSub", 15));
-  EXPECT_FALSE(rule("mnuFileSub", 16));
-  click("mnuFileSub", 2);
-  EXPECT_FALSE(rule("mnuFileSub", 15));
-  EXPECT_TRUE(rule("mnuFileSub", 16));
-  EXPECT_TRUE(rule("mnuFileSub", 18));
-  state.current().fromMultiIconFile = true;
-  EXPECT_TRUE(rule("mnuFileSub", 15));
-  EXPECT_FALSE(rule("mnuFileSub", 16));
-  EXPECT_TRUE(rule("mnuPopUpSub", 3));
-  EXPECT_FALSE(rule("mnuPopUpSub", 5));
-  EXPECT_FALSE(rule("mnuPopUpSub", 7));
-  state.current().hasAlpha = state.current().isCursor = true;
-  EXPECT_TRUE(rule("mnuPopUpSub", 5));
-  EXPECT_TRUE(rule("mnuPopUpSub", 7));
-  state.current().size = 16;
-  EXPECT_FALSE(rule("mnuFileSub", 18)) << "a cursor is 32x32";
-}
-
-TEST_F(CommandTable, ThePickerIsEnabledOnlyWithTheLargeChart) {
-  start();
-  click("mnuFileSub", 2);
-  EXPECT_FALSE(enabled("mnuTools", 2));
-  click("mnuPaletteSub", 1);
-  EXPECT_TRUE(enabled("mnuTools", 2));
-  state.screen.mActivePanel = 4;
-  EXPECT_FALSE(enabled("mnuTools", 2));
-}
-
-TEST_F(CommandTable, UpdateOnlyEditingAreaIsDisabledWhileARegionIsActive) {
-  start();
-  EXPECT_TRUE(enabled("mnuOptionsSub", 9));
-  state.mRegionActive = true;
-  EXPECT_FALSE(enabled("mnuOptionsSub", 9));
-  click("mnuOptionsSub", 9);
-  EXPECT_TRUE(state.options.updateOnlyEditingArea) << "a key does not flip it either";
-}
-
 TEST_F(CommandTable, TicksFollowTheirStates) {
   start();
   click("mnuFileSub", 2);
@@ -172,19 +91,11 @@ TEST_F(CommandTable, EachOptionFlipsItsOwnTickOnly) {
   }
 }
 
-TEST_F(CommandTable, SavingWithoutAnIconTellsSo) {
-  start();
-  for (int index : {12, 13, 19, 20}) {
-    boxes.expectTold("No icon in Editing Area yet", BoxIcon::None);
-    click("mnuFileSub", index);
-  }
-}
-
 TEST_F(CommandTable, AHandlerThatThrowsEndsInABoxWithItsName) {
   start();
-  const Command broken{"mnuBroken", 1,       "",
-                       "",          "",      "",
-                       nullptr,     nullptr, [](Shell&, int) { throw std::runtime_error("Subscript out of range"); }};
+  const auto always = [](const Shell&, int) -> const char* { return nullptr; };
+  const auto fail = [](Shell&, int) { throw std::runtime_error("Subscript out of range"); };
+  const Command broken{"mnuBroken", 1, "", "", "", "", always, Commits::No, nullptr, fail};
   boxes.expectTold("mnuBroken_Click\n5     Subscript out of range", BoxIcon::Exclamation);
   shell.run(broken);
 }
@@ -201,9 +112,9 @@ TEST_F(CommandTable, ARegionThatAToolbarCommandLeavesStandingIsSeenAgain) {
   start();
   click("mnuFileSub", 2);
   click("mnuTools", 14);
-  shell.tools().press({kLeftButton, 0, 13, 13});
-  shell.tools().move({0, 0, 61, 61});
-  shell.tools().release({kLeftButton, 0, 61, 61});
+  shell.drawing().tools.press({kLeftButton, 0, 13, 13});
+  shell.drawing().tools.move({0, 0, 61, 61});
+  shell.drawing().tools.release({kLeftButton, 0, 61, 61});
   const Surface before = state.picDisp;
   shell.runToolbar(toolbarTable()[11]);
   EXPECT_TRUE(state.mRegionExists);

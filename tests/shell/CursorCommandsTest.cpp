@@ -37,11 +37,11 @@ class CursorCommandsTest : public ShellFixture {
     click("mnuFileSub", kSaveAsCursor);
     pump.waitedMilliseconds = 0;
   }
-  CursorFiles& cursors() { return shell.cursorFiles(); }
+  CursorFiles& cursors() { return shell.files().cursorFiles; }
   std::pair<int, int> spot() { return {cursors().hotspotX(), cursors().hotspotY()}; }
   void clickAt(int x, int y) {
-    shell.tools().press(at(x, y));
-    shell.tools().release(at(x, y));
+    shell.drawing().tools.press(at(x, y));
+    shell.drawing().tools.release(at(x, y));
   }
   // Lets the user act as soon as a hot spot blinks.
   void duringBlink(std::function<void()> action) {
@@ -109,7 +109,7 @@ TEST_F(CursorCommandsTest, TheOpenCommandOffersToSaveAndOpensInPlaceOfTheIcon) {
 
 TEST_F(CursorCommandsTest, ACursorThatCannotBeShownLeavesAnEmptyContainerAndTheOthersAlone) {
   startWithCursor(1, 2);
-  shell.iconsPanel().SwitchContainer(2);
+  shell.document().iconsPanel.SwitchContainer(2);
   click("mnuFileSub", 2);
   CursorFile odd = cursorOf(anyPicture(32, 32));
   odd.picture.headerBits = 16;
@@ -128,7 +128,7 @@ TEST_F(CursorCommandsTest, ACursorThatCannotBeShownLeavesAnEmptyContainerAndTheO
 
 TEST_F(CursorCommandsTest, SaveAsCursorOpensThePanelAndShowsTheSpotOnce) {
   startWithCursor(7, 30);
-  shell.tools().selectTool(kPaint);
+  shell.drawing().tools.selectTool(kPaint);
   click("mnuFileSub", kSaveAsCursor);
   EXPECT_EQ(state.screen.mActivePanel, kCursorPanel);
   EXPECT_EQ(spot(), std::pair(7, 30));
@@ -141,14 +141,14 @@ TEST_F(CursorCommandsTest, IconsOfOtherSizesCannotReachThePanel) {
   start();
   EXPECT_FALSE(enabled("mnuFileSub", kSaveAsCursor)) << "nothing to save";
   for (const int newIcon : {3, 4, 5}) {
-    shell.iconsPanel().SwitchContainer(newIcon);
+    shell.document().iconsPanel.SwitchContainer(newIcon);
     click("mnuFileSub", newIcon);
     EXPECT_FALSE(enabled("mnuFileSub", kSaveAsCursor)) << state.current().size;
     boxes.expectTold("For cursor of 32x32 only", BoxIcon::None);
     click("mnuFileSub", kSaveAsCursor);
     EXPECT_EQ(state.screen.mActivePanel, kColorPanel);
   }
-  shell.iconsPanel().SwitchContainer(2);
+  shell.document().iconsPanel.SwitchContainer(2);
   click("mnuFileSub", 2);
   EXPECT_TRUE(enabled("mnuFileSub", kSaveAsCursor));
 }
@@ -231,7 +231,7 @@ TEST_F(CursorCommandsTest, AnIconUnderThePanelStartsTheListsAtZeroAndAClickCount
 
 TEST_F(CursorCommandsTest, ACursorCopiedFromAnotherContainerUnderThePanelBringsItsHotSpot) {
   startWithCursor(3, 4);
-  shell.iconsPanel().SwitchContainer(1);
+  shell.document().iconsPanel.SwitchContainer(1);
   dialogs.paths = {writeCursor(9, 8, 4, "other.cur")};
   click("mnuFileSub", kOpenCursor);
   click("mnuFileSub", kSaveAsCursor);
@@ -276,27 +276,27 @@ TEST_F(CursorCommandsTest, ARefusalToCloseTheProgramLetsItBlinkOn) {
 
 TEST_F(CursorCommandsTest, ASwitchToAnotherContainerLeavesNoMarkAnywhere) {
   startWithCursor(3, 4);
-  shell.iconsPanel().SwitchContainer(1);
+  shell.document().iconsPanel.SwitchContainer(1);
   click("mnuFileSub", 2);
   state.current().neverSaved = false;
   const Pixels second = pixels();
-  shell.iconsPanel().SwitchContainer(0);
+  shell.document().iconsPanel.SwitchContainer(0);
   click("mnuFileSub", kSaveAsCursor);
   const Pixels first = pixels();
   pump.waitedMilliseconds = 0;
-  duringBlink([this] { shell.iconsPanel().SwitchContainer(1); });
+  duringBlink([this] { shell.document().iconsPanel.SwitchContainer(1); });
   clickAt(20, 3);
   EXPECT_EQ(pump.waitedMilliseconds, kPhaseMilliseconds);
   EXPECT_EQ(state.mCurContainer, 1);
   EXPECT_EQ(state.screen.mActivePanel, kColorPanel);
   expectPixels(second);
-  shell.iconsPanel().SwitchContainer(0);
+  shell.document().iconsPanel.SwitchContainer(0);
   expectPixels(first);
 }
 
 TEST_F(CursorCommandsTest, ASwitchToAnEmptyContainerLeavesItEmpty) {
   startWithPanel();
-  duringBlink([this] { shell.iconsPanel().SwitchContainer(5); });
+  duringBlink([this] { shell.document().iconsPanel.SwitchContainer(5); });
   clickAt(20, 3);
   EXPECT_FALSE(state.current().present);
   EXPECT_EQ(state.picDisp.width(), 32 * state.gMagnification);
@@ -309,7 +309,7 @@ TEST_F(CursorCommandsTest, AnotherIconInTheSameContainerCarriesNoMark) {
   const Bytes bytes = build(entryOf(anyPicture(32, 8)));
   const std::string other = folder.write("other.ico", std::string(bytes.begin(), bytes.end()));
   bool ok = false;
-  shell.doOpenIconFile(other, false, ok);
+  shell.files().iconFiles.doOpenIconFile(other, false, ok);
   const Pixels expected = pixels();
   dialogs.paths = {folder.file("given.cur"), other};
   click("mnuFileSub", kOpenCursor);
@@ -338,8 +338,8 @@ TEST_F(CursorCommandsTest, ASmallerNewIconDuringABlinkCarriesNoMark) {
 TEST_F(CursorCommandsTest, WhatIsPaintedDuringABlinkStaysAndCanBeUndone) {
   startWithCursor(3, 4);
   const Color before = state.picImage.GetPixel(3, 4);
-  shell.tools().selectTool(kPaint);
-  shell.colors().setCurrentColor(0x00FF00);
+  shell.drawing().tools.selectTool(kPaint);
+  shell.colour().selection.setCurrentColor(0x00FF00);
   duringBlink([this] { paint(3, 4); });
   click("mnuEnquiryCurrent", kReveal);
   EXPECT_EQ(pump.waitedMilliseconds, kBlinkMilliseconds);
@@ -352,8 +352,8 @@ TEST_F(CursorCommandsTest, WhatIsPaintedDuringABlinkStaysAndCanBeUndone) {
 TEST_F(CursorCommandsTest, AnUndoDuringABlinkHolds) {
   startWithCursor(3, 4);
   const Surface before = state.picImage;
-  shell.tools().selectTool(kPaint);
-  shell.colors().setCurrentColor(0x00FF00);
+  shell.drawing().tools.selectTool(kPaint);
+  shell.colour().selection.setCurrentColor(0x00FF00);
   paint(3, 4);
   duringBlink([this] { click("mnuEditSub", 1); });
   click("mnuEnquiryCurrent", kReveal);
@@ -399,7 +399,7 @@ TEST_F(CursorCommandsTest, TheOriginalHotSpotIsRevealedFromBothMenusForCursorsOn
   click("mnuEnquiryCurrent", kReveal);
   click("mnuPopUpSub", kRevealPopUp);
   EXPECT_EQ(pump.waitedMilliseconds, 2 * kBlinkMilliseconds);
-  shell.iconsPanel().SwitchContainer(1);
+  shell.document().iconsPanel.SwitchContainer(1);
   click("mnuFileSub", 2);
   EXPECT_FALSE(enabled("mnuEnquiryCurrent", kReveal) || enabled("mnuPopUpSub", kRevealPopUp));
 }
@@ -409,14 +409,14 @@ TEST_F(CursorCommandsTest, TheOriginalHotSpotIsRevealedFromBothMenusForCursorsOn
 TEST_F(CursorCommandsTest, ProceedSavesWithTheValuesOfTheListsAndTheIconStaysWhatItWas) {
   const Bytes icon = build(entryOf(anyPicture(32, 4)));
   start(folder.write("former.ico", std::string(icon.begin(), icon.end())));
-  shell.tools().selectTool(kPaint);
+  shell.drawing().tools.selectTool(kPaint);
   paint(1, 1);
   click("mnuFileSub", kSaveAsCursor);
   EXPECT_EQ(spot(), std::pair(0, 0));
   clickAt(20, 31);
   cursors().setHotspotX(30);
   dialogs.paths = {folder.file("saved.cur")};
-  shell.iconSaver().doSaveAs(SaveMode::Cursor);
+  shell.files().iconSaver.doSaveAs(SaveMode::Cursor);
   const std::string file = folder.read("saved.cur");
   ASSERT_GT(file.size(), 22U);
   EXPECT_EQ(file[2], 2);
@@ -433,7 +433,7 @@ TEST_F(CursorCommandsTest, ProceedDuringABlinkEndsItAndSavesNoMark) {
   startWithPanel();
   const Surface image = state.picImage, mask = state.picMask;
   dialogs.paths = {folder.file("saved.cur")};
-  duringBlink([this] { shell.iconSaver().doSaveAs(SaveMode::Cursor); });
+  duringBlink([this] { shell.files().iconSaver.doSaveAs(SaveMode::Cursor); });
   clickAt(20, 3);
   EXPECT_EQ(pump.waitedMilliseconds, kPhaseMilliseconds);
   bool ok = false;

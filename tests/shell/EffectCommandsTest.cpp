@@ -66,7 +66,7 @@ TEST_F(EffectCommandsTest, EffectsThatTheProgramDoesNotHaveYetAreDisabled) {
   startWithNew();
   for (const int index : {0, 2, 4, 6, 7, 8, 9, 16, 17, 18, 20, 23, 24}) {
     EXPECT_FALSE(enabled("mnuEffectsSub", index)) << index;
-    shell.effects().mnuEffectsSub(index);
+    shell.effects().open(index);
     EXPECT_EQ(panel(), kColorPanel);
   }
 }
@@ -94,7 +94,7 @@ TEST_F(EffectCommandsTest, ProceedMakesTheIconWhatTheSampleShows) {
         &shell.effects().panel<ButtonizePanel>(), &shell.effects().panel<ShadesPanel>(),
         &shell.effects().panel<DisabledImagePanel>(), &shell.effects().panel<ConfinePanel>()};
     const auto up = std::ranges::find_if(panels, [&](const EffectPanel* p) { return p->number() == panel(); });
-    const IconPicture shown = (*up)->picture();
+    const IconImage shown = (*up)->picture();
     const Surface look = (*up)->sample();
     shell.cmdProceed();
     EXPECT_TRUE(samePixels(state.picImage, shown.image)) << opener.index;
@@ -154,7 +154,7 @@ TEST_F(EffectCommandsTest, AnIconThatIsDroppedClosesThePanel) {
   startWithNew();
   set(3, 3, kRed);
   click("mnuEffectsSub", kButtonize);
-  shell.iconsPanel().PanelDrop(1, {folder.write("dropped.ico", plainIconFile(16, 3))});
+  shell.document().iconsPanel.PanelDrop(1, {folder.write("dropped.ico", plainIconFile(16, 3))});
   EXPECT_EQ(panel(), kColorPanel);
   const Surface image = state.picImage;
   shell.cmdProceed();
@@ -207,7 +207,7 @@ TEST_F(EffectCommandsTest, ARegionEndsWhereItIsWhenAPanelComesUp) {
   startWithNew();
   set(3, 3, kRed);
   shell.recordUndo();
-  shell.tools().selectTool(kRegion);
+  shell.drawing().tools.selectTool(kRegion);
   drag(2, 2, 6, 6);
   ASSERT_TRUE(state.mRegionExists);
   drag(3, 3, 13, 13);
@@ -227,7 +227,7 @@ TEST_F(EffectCommandsTest, ARegionEndsWhereItIsWhenAPanelComesUp) {
 TEST_F(EffectCommandsTest, WhatStoodInARegionTakesTheEffect) {
   startWithNew();
   set(3, 3, kRed);
-  shell.tools().selectTool(kRegion);
+  shell.drawing().tools.selectTool(kRegion);
   drag(2, 2, 6, 6);
   click("mnuEffectsSub", kEmbossed);
   shell.cmdProceed();
@@ -267,19 +267,19 @@ TEST_F(EffectCommandsTest, CommandsThatChangeTheIconOrShowAChartCloseThePanel) {
 
 TEST_F(EffectCommandsTest, ThePanelPutsTheToolAwayAndAToolPutsThePanelAway) {
   startWithNew();
-  shell.tools().selectTool(kPaint);
+  shell.drawing().tools.selectTool(kPaint);
   click("mnuEffectsSub", kEmbossed);
   EXPECT_EQ(shell.selectedTool(), kNoTool);
   paint(4, 4);
   EXPECT_EQ(at(4, 4), kNoColor);
-  shell.tools().selectTool(kPaint);
+  shell.drawing().tools.selectTool(kPaint);
   EXPECT_EQ(panel(), kColorPanel);
 }
 
 TEST_F(EffectCommandsTest, AnotherContainerClosesThePanel) {
   startWithNew();
   click("mnuEffectsSub", kEmbossed);
-  shell.SwitchContainer(3);
+  shell.document().iconsPanel.SwitchContainer(3);
   EXPECT_EQ(panel(), kColorPanel);
 }
 

@@ -1,6 +1,7 @@
 // An icon in the whole program for the Panels of the effects to work on.
 #pragma once
 
+#include "colour/ColorCount.h"
 #include "document/PanelNumbers.h"
 #include "effects/ButtonizePanel.h"
 #include "effects/ConfinePanel.h"
@@ -30,8 +31,8 @@ class EffectFixture : public ShellFixture {
   void set(int x, int y, Color color) {
     state.picImage.SetPixelV(x, y, color);
     state.picMask.SetPixelV(x, y, kBlack);
-    shell.ComposeCurrentIcon();
-    shell.UpdatePanelFromCurrent();
+    shell.document().editingArea.ComposeCurrentIcon();
+    shell.document().editingArea.UpdatePanelFromCurrent();
   }
   // More colours than a table of 256 takes: no run says that there are few.
   void paintManyColors() {
@@ -42,15 +43,21 @@ class EffectFixture : public ShellFixture {
     state.current().modified = false;
   }
   void drag(int fromX, int fromY, int toX, int toY) {
-    shell.tools().press(ShellFixture::at(fromX, fromY));
-    shell.tools().move(ShellFixture::at(toX, toY));
-    shell.tools().release(ShellFixture::at(toX, toY));
+    shell.drawing().tools.press(ShellFixture::at(fromX, fromY));
+    shell.drawing().tools.move(ShellFixture::at(toX, toY));
+    shell.drawing().tools.release(ShellFixture::at(toX, toY));
   }
   // What stands at a pixel: its colour, kNoColor where the icon is transparent.
   Color at(int x, int y) const {
     return state.picMask.GetPixel(x, y) == kBlack ? state.picImage.GetPixel(x, y) : kNoColor;
   }
   int panel() const { return state.screen.mActivePanel; }
+  // How many colours the icon counts as.
+  int imageColors() const {
+    int count = 0;
+    GetColorBitCount_Image(state.picImage, count);
+    return count;
+  }
 };
 
 }  // namespace gp::test

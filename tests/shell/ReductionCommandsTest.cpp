@@ -89,7 +89,7 @@ TEST_F(ReductionCommandsTest, ReducingATrueColorIconLeavesItsRecordAndTheSecondV
   click("mnuEffectsSub3", 1);
   shell.cmdProceed();
   EXPECT_EQ(record.dirColors, kTrueColor);
-  EXPECT_EQ(shell.colorBitCountOfImage(), 16);
+  EXPECT_EQ(imageColors(), 16);
   boxes.expectAsked(
       "The header entry of current icon is 24-BPP True Color,  but the actual  image is of 16-color.    Proceed to "
       "change header entry?",
@@ -221,7 +221,7 @@ TEST_F(ReductionCommandsTest, ReducingFeedsNoStepToUndo) {
   shell.cmdProceed();
   EXPECT_FALSE(enabled("mnuEditSub", kUndo));
   EXPECT_EQ(shell.drawing().history.undoCount(), 1);
-  EXPECT_EQ(shell.colorBitCountOfImage(), 2);
+  EXPECT_EQ(imageColors(), 2);
   EXPECT_EQ(status(StatusPanel::Path), state.current().path.trimmed());
 }
 
@@ -277,7 +277,7 @@ TEST_F(ReductionCommandsTest, AClickOnTheListFromInsideThePumpOfAPreviewWins) {
   pump.inside = [this] { confine().pickMethod(2); };
   confine().pickMethod(1);
   EXPECT_EQ(confine().cboConfineColors(1), 2);
-  const IconPicture vga = reduceColors(state.picImage, state.picMask, {ReductionMethod::StandardVga});
+  const IconImage vga = reduceColors(state.picImage, state.picMask, {ReductionMethod::StandardVga});
   EXPECT_TRUE(samePixels(confine().picture().image, vga.image));
 }
 
@@ -314,11 +314,13 @@ TEST_F(ReductionCommandsTest, ProceedAndADropDuringAPreviewLeaveAWholeIcon) {
   pump.inside = [this] { shell.cmdProceed(); };
   confine().pickMethod(2);
   EXPECT_EQ(panel(), kColorPanel);
-  EXPECT_EQ(shell.colorBitCountOfImage(), 2);
+  EXPECT_EQ(imageColors(), 2);
 
   paintManyColors();
   click("mnuEffectsSub3", 2);
-  pump.inside = [this] { shell.iconsPanel().PanelDrop(2, {folder.write("dropped.ico", plainIconFile(48, 3))}); };
+  pump.inside = [this] {
+    shell.document().iconsPanel.PanelDrop(2, {folder.write("dropped.ico", plainIconFile(48, 3))});
+  };
   confine().pickThreshold(5);
   EXPECT_EQ(panel(), kColorPanel);
   EXPECT_EQ(state.picImage.width(), 48);

@@ -161,7 +161,7 @@ TEST_F(ShellTest, AChangedIconIsOfferedForSavingBeforeAFileOfTheHistory) {
   start();
   dialogs.paths = {folder.write("a.ico", plainIconFile(32, 1))};
   click("mnuFileSub", 7);
-  shell.tools().selectTool(kErase);
+  shell.drawing().tools.selectTool(kErase);
   paint(2, 2);
   boxes.expect("Save current icon to file?", BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Cancel);
   click("mnuFileHistory", 1);
@@ -172,7 +172,7 @@ TEST_F(ShellTest, AChangedIconIsOfferedForSavingBeforeAFileOfTheHistory) {
 TEST_F(ShellTest, APaintedIconIsSavedAndOpensAgainWithTheSamePixels) {
   start();
   click("mnuFileSub", 5);
-  shell.colors().setCurrentColor(0x0000FF);
+  shell.colour().selection.setCurrentColor(0x0000FF);
   paint(0, 0);
   paint(23, 23);
   dialogs.paths = {folder.file("new.ico")};
@@ -181,7 +181,7 @@ TEST_F(ShellTest, APaintedIconIsSavedAndOpensAgainWithTheSamePixels) {
   EXPECT_EQ(status(StatusPanel::Path), folder.file("new.ico"));
   const Surface image = state.picImage;
   const Surface mask = state.picMask;
-  shell.iconsPanel().SwitchContainer(1);
+  shell.document().iconsPanel.SwitchContainer(1);
   dialogs.paths = {folder.file("new.ico")};
   click("mnuFileSub", 7);
   EXPECT_TRUE(std::ranges::equal(state.picImage.pixels(), image.pixels()));
@@ -194,7 +194,7 @@ TEST_F(ShellTest, ABadFileLeavesTheOtherContainersUntouched) {
   dialogs.paths = {folder.write("a.ico", plainIconFile(32, 1))};
   click("mnuFileSub", 7);
   const Surface before = state.picPanelImage[0];
-  shell.iconsPanel().SwitchContainer(1);
+  shell.document().iconsPanel.SwitchContainer(1);
   bool ok = true;
   shell.doOpenIconFileQuietly(folder.write("bad.ico", "not an icon at all"), ok);
   EXPECT_FALSE(ok);
@@ -210,13 +210,13 @@ std::string unreadableIconFile(int size) {
 
 TEST_F(ShellTest, AFileThatFailsToLoadLeavesAnEmptyEditingAreaWithoutTools) {
   start(folder.write("good.ico", plainIconFile(48, 1)));
-  shell.tools().selectTool(kPaint);
+  shell.drawing().tools.selectTool(kPaint);
   paint(2, 2);
   display.parts.clear();
   const std::string bad = folder.write("bad.ico", unreadableIconFile(48));
   boxes.expectTold(bad + "\nFailed to load this file", BoxIcon::Exclamation);
   bool ok = true;
-  shell.doOpenIconFile(bad, true, ok);
+  shell.files().iconFiles.doOpenIconFile(bad, true, ok);
   EXPECT_FALSE(ok);
   EXPECT_EQ(state.current().size, 32);
   EXPECT_FALSE(state.current().used);
@@ -233,7 +233,7 @@ TEST_F(ShellTest, AFailedDropOnAnotherContainerLeavesANewIconOnTheEditingArea) {
   start();
   click("mnuFileSub", 2);
   const Surface before = state.picDisp;
-  shell.iconsPanel().PanelDrop(3, {folder.write("bad.ico", unreadableIconFile(32))});
+  shell.document().iconsPanel.PanelDrop(3, {folder.write("bad.ico", unreadableIconFile(32))});
   EXPECT_EQ(state.mCurContainer, 0);
   EXPECT_EQ(status(StatusPanel::Path), "Untitled");
   EXPECT_TRUE(state.screen.fraTools[1]);
@@ -244,11 +244,11 @@ TEST_F(ShellTest, AFailedDropOnAnotherContainerLeavesANewIconOnTheEditingArea) {
 TEST_F(ShellTest, AnIconDroppedOnAnotherContainerShowsThere) {
   start();
   click("mnuFileSub", 2);
-  shell.iconsPanel().PanelDrop(3, {folder.write("d.ico", plainIconFile(48, 5))});
+  shell.document().iconsPanel.PanelDrop(3, {folder.write("d.ico", plainIconFile(48, 5))});
   EXPECT_EQ(state.mCurContainer, 3);
   EXPECT_EQ(state.picDisp.width(), 384);
   EXPECT_EQ(state.current().size, 48);
-  shell.iconsPanel().SwitchContainer(0);
+  shell.document().iconsPanel.SwitchContainer(0);
   EXPECT_EQ(state.current().path.trimmed(), "Untitled");
 }
 
@@ -326,7 +326,7 @@ TEST_F(ShellTest, AStrokeIsTakenBackAndBroughtBack) {
   start();
   click("mnuFileSub", 2);
   EXPECT_FALSE(enabled("mnuEditSub", 1)) << "a new icon has nothing to undo";
-  shell.colors().setCurrentColor(0x0000FF);
+  shell.colour().selection.setCurrentColor(0x0000FF);
   paint(3, 3);
   EXPECT_TRUE(enabled("mnuEditSub", 1));
   EXPECT_FALSE(enabled("mnuEditSub", 2));
@@ -354,8 +354,8 @@ TEST_F(ShellTest, SwitchingContainersStartsTheHistoryAfresh) {
   start();
   click("mnuFileSub", 2);
   paint(3, 3);
-  shell.iconsPanel().SwitchContainer(1);
-  shell.iconsPanel().SwitchContainer(0);
+  shell.document().iconsPanel.SwitchContainer(1);
+  shell.document().iconsPanel.SwitchContainer(0);
   EXPECT_FALSE(enabled("mnuEditSub", 1));
   EXPECT_EQ(state.picMask.GetPixel(3, 3), kBlack) << "the stroke is kept";
 }
@@ -363,7 +363,7 @@ TEST_F(ShellTest, SwitchingContainersStartsTheHistoryAfresh) {
 TEST_F(ShellTest, UndoDuringAShiftTakesBackTheWholeOfIt) {
   start();
   click("mnuFileSub", 2);
-  shell.colors().setCurrentColor(0x0000FF);
+  shell.colour().selection.setCurrentColor(0x0000FF);
   paint(3, 3);
   click("mnuTools", 15);
   ASSERT_EQ(shell.selectedTool(), kShift);
@@ -378,22 +378,22 @@ TEST_F(ShellTest, UndoDuringAShiftTakesBackTheWholeOfIt) {
 TEST_F(ShellTest, ARegionIsMarkedMovedAndMergedByTheMouse) {
   start();
   click("mnuFileSub", 2);
-  shell.colors().setCurrentColor(0x0000FF);
+  shell.colour().selection.setCurrentColor(0x0000FF);
   paint(2, 2);
   click("mnuTools", 14);
   const auto m = static_cast<float>(state.gMagnification);
   auto mouse = [m](float x, float y, int button = 0) { return MouseInput{button, 0, x * m + 1, y * m + 1}; };
-  shell.tools().press(mouse(1, 1, kLeftButton));
-  shell.tools().move(mouse(4, 4));
-  shell.tools().release(mouse(4, 4, kLeftButton));
+  shell.drawing().tools.press(mouse(1, 1, kLeftButton));
+  shell.drawing().tools.move(mouse(4, 4));
+  shell.drawing().tools.release(mouse(4, 4, kLeftButton));
   ASSERT_TRUE(state.mRegionExists);
   EXPECT_EQ(state.screen.lblDispXY[2], "Region: Start [2, 2]   W=3 H=3");
-  shell.tools().press(mouse(2, 2, kLeftButton));
-  shell.tools().move(mouse(12, 2));
-  shell.tools().release(mouse(12, 2, kLeftButton));
+  shell.drawing().tools.press(mouse(2, 2, kLeftButton));
+  shell.drawing().tools.move(mouse(12, 2));
+  shell.drawing().tools.release(mouse(12, 2, kLeftButton));
   EXPECT_EQ(state.PicIcon.GetPixel(12, 2), 0x0000FF);
   EXPECT_EQ(state.PicIcon.GetPixel(2, 2), kGround);
-  shell.tools().press(mouse(25, 25, kLeftButton));
+  shell.drawing().tools.press(mouse(25, 25, kLeftButton));
   EXPECT_FALSE(state.mRegionExists);
   EXPECT_EQ(state.picMask.GetPixel(12, 2), kBlack);
 }
@@ -401,12 +401,12 @@ TEST_F(ShellTest, ARegionIsMarkedMovedAndMergedByTheMouse) {
 TEST_F(ShellTest, ACopiedIconPastesIntoAnEmptyContainer) {
   start();
   click("mnuFileSub", 5);
-  shell.colors().setCurrentColor(0x0000FF);
+  shell.colour().selection.setCurrentColor(0x0000FF);
   paint(2, 2);
   EXPECT_FALSE(enabled("mnuEditSub", 7));
   click("mnuEditSub", 6);
   EXPECT_TRUE(enabled("mnuEditSub", 7));
-  shell.iconsPanel().SwitchContainer(1);
+  shell.document().iconsPanel.SwitchContainer(1);
   click("mnuEditSub", 7);
   EXPECT_EQ(state.current().size, 24);
   EXPECT_EQ(state.PicIcon.GetPixel(2, 2), 0x0000FF);
@@ -427,9 +427,9 @@ TEST_F(ShellTest, EscClosesTheSidePanelAndThenEndsTheRegion) {
   shell.escapeKey();
   EXPECT_EQ(state.screen.mActivePanel, 0);
   click("mnuTools", 14);
-  shell.tools().press({kLeftButton, 0, 1, 1});
-  shell.tools().move({0, 0, 40, 40});
-  shell.tools().release({kLeftButton, 0, 40, 40});
+  shell.drawing().tools.press({kLeftButton, 0, 1, 1});
+  shell.drawing().tools.move({0, 0, 40, 40});
+  shell.drawing().tools.release({kLeftButton, 0, 40, 40});
   ASSERT_TRUE(state.mRegionExists);
   shell.escapeKey();
   EXPECT_FALSE(state.mRegionExists);

@@ -1,0 +1,219 @@
+// Every command in every state: what is enabled, what is said where a command cannot run, and that menu, toolbar and
+// pop-up menu are one road.
+#include "shell/CommandStates.h"
+#include "shell/ShellSnapshot.h"
+#include "support/FakeEditor.h"
+#include "support/FakeMachine.h"
+#include "support/ScriptedPorts.h"
+
+#include <gtest/gtest.h>
+
+namespace gp::test {
+namespace {
+
+using Log = std::vector<std::string>;
+
+// A user who answers every question with No or Cancel.
+class LoggedBoxes : public MessageBoxes {
+ public:
+  explicit LoggedBoxes(Log& log) : log_(log) {}
+  BoxAnswer show(const std::string& text, BoxButtons buttons, BoxIcon icon, BoxAnswer) override {
+    log_.push_back(std::to_string(static_cast<int>(icon)) + " " + text);
+    if (buttons == BoxButtons::Ok) return BoxAnswer::Ok;
+    return buttons == BoxButtons::YesNo ? BoxAnswer::No : BoxAnswer::Cancel;
+  }
+
+ private:
+  Log& log_;
+};
+
+class CancelledDialogs : public FileDialogs {
+ public:
+  explicit CancelledDialogs(Log& log) : log_(log) {}
+  bool openFile(const FileDialogRequest& request, std::string&, int&) override { return cancel("open", request); }
+  bool saveFile(const FileDialogRequest& request, std::string&, int&) override { return cancel("save", request); }
+  bool chooseColor(Color&) override { return log_.push_back("colour dialog"), false; }
+  bool choosePrinter(PrinterRequest&) override { return false; }
+  std::string chooseFolder(const std::string&, const std::string&) override { return {}; }
+
+ private:
+  bool cancel(const char* kind, const FileDialogRequest& request) {
+    log_.push_back(std::string(kind) + " dialog for " + request.fileName);
+    return false;
+  }
+  Log& log_;
+};
+
+class LoggedForms : public ShellForms, public FileForms {
+ public:
+  explicit LoggedForms(Log& log) : log_(log) {}
+  FormPlace place() const override { return {}; }
+  void setPlace(const FormPlace&) override {}
+  void maximize() override {}
+  void showAbout() override { log_.push_back("about"); }
+  void unload() override { log_.push_back("unload"); }
+  void showMultiIcon() override { log_.push_back("browser"); }
+  void showHeaderDiff() override { log_.push_back("headers"); }
+
+ private:
+  Log& log_;
+};
+
+// The program in one of the states.
+class World {
+ public:
+  explicit World(const CommandState& state) : name_(state.name) {
+    shell.attach(&forms_, &forms_);
+    shell.formLoad();
+    shell.formActivate("");
+    StateMaker maker{shell, clipboard_, folder_};
+    state.make(maker);
+    log.clear();
+  }
+  Snapshot snapshot() { return SnapshotMaker(shell, clipboard_, folder_).make(); }
+  const std::string& name() const { return name_; }
+
+  Log log;  // boxes, dialogs and forms, in order
+
+ private:
+  const std::string name_;
+  KeptDirectory directory_;
+  TempFolder folder_;
+  LoggedBoxes boxes_{log};
+  CancelledDialogs dialogs_{log};
+  ScriptedPump pump_;
+  FakeSystem system_;
+  FakeProcesses processes_;
+  FakeClipboard clipboard_;
+  ScriptedPictures pictures_;
+  RecordingDisplay display_;
+  LoggedForms forms_{log};
+  EditState state_;
+
+ public:
+  Shell shell{state_, Ports{boxes_, dialogs_, pump_, system_, processes_, clipboard_, pictures_}, display_,
+              folder_.path()};
+};
+
+std::string nameOf(const Command& row) { return objectNameOf(row.control, row.index); }
+
+// What is logged when a command cannot run.
+Log logOf(const char* refusal) {
+  const Log nothing;
+  return *refusal ? Log{std::to_string(static_cast<int>(BoxIcon::None)) + " " + refusal} : nothing;
+}
+
+TEST(CommandWalk, TheNeedsOfEveryCommandAreToldOnce) {
+  std::multiset<std::string> told, there;
+  for (const CommandNeed& need : commandNeeds())
+    for (const int index : need.indices) told.insert(objectNameOf(need.control, index));
+  for (const Command& row : commandTable())
+    if (row.run) there.insert(nameOf(row));
+  EXPECT_EQ(told, there);
+}
+
+TEST(CommandWalk, EachStateIsWhatItsFactsTell) {
+  for (const CommandState& state : commandStates()) {
+    World world(state);
+    const EditState& now = world.shell.state();
+    const Facts& facts = state.facts;
+    EXPECT_EQ(now.current().present, facts.icon) << state.name;
+    EXPECT_EQ(now.current().fromMultiIconFile, facts.multiIconFile) << state.name;
+    EXPECT_EQ(now.current().hasAlpha, facts.alpha) << state.name;
+    EXPECT_EQ(now.current().isCursor, facts.cursor) << state.name;
+    EXPECT_EQ(now.mRegionExists, facts.region) << state.name;
+    EXPECT_EQ(now.mCurContainer, facts.current) << state.name;
+    for (int i = 0; i < kContainerCount; ++i)
+      EXPECT_EQ(now.mIconRecs.at(static_cast<std::size_t>(i)).used, facts.used.contains(i)) << state.name << i;
+  }
+}
+
+TEST(CommandWalk, ACommandIsEnabledWhereItsNeedsAreMet) {
+  for (const CommandState& state : commandStates()) {
+    World world(state);
+    for (const Command& row : commandTable())
+      if (row.run) {
+        EXPECT_EQ(isEnabled(row, world.shell), refusalOf(row, state.facts) == nullptr)
+            << nameOf(row) << " with " << state.name;
+      }
+  }
+}
+
+TEST(CommandWalk, ASubMenuIsEnabledWithAnyOfItsCommandsAndAnythingElseWithoutABodyIsNot) {
+  for (const CommandState& state : commandStates()) {
+    World world(state);
+    const auto isLive = [&](const Command& row) { return row.run && !refusalOf(row, state.facts); };
+    for (const Command& row : commandTable()) {
+      if (row.run) continue;
+      const bool hasLive = std::ranges::any_of(
+          commandTable(), [&](const Command& entry) { return nameOf(row) == entry.parent && isLive(entry); });
+      EXPECT_EQ(isEnabled(row, world.shell), hasLive) << nameOf(row) << " with " << state.name;
+    }
+  }
+}
+
+TEST(CommandWalk, WhereItsNeedsAreNotMetACommandSaysWhyAndChangesNothing) {
+  for (const CommandState& state : commandStates()) {
+    World world(state);
+    const Snapshot before = world.snapshot();
+    for (const Command& row : commandTable()) {
+      const char* refusal = row.run ? refusalOf(row, state.facts) : nullptr;
+      if (!refusal) continue;
+      world.log.clear();
+      world.shell.run(row);
+      EXPECT_EQ(world.log, logOf(refusal)) << nameOf(row) << " with " << state.name;
+      ASSERT_EQ(differences(before, world.snapshot()), Log{}) << nameOf(row) << " with " << state.name;
+    }
+  }
+}
+
+TEST(CommandWalk, WhatHasNoBodyDoesNothing) {
+  for (const CommandState& state : commandStates()) {
+    World world(state);
+    const Snapshot before = world.snapshot();
+    for (const Command& row : commandTable())
+      if (!row.run) world.shell.run(row);
+    EXPECT_EQ(world.log, Log{}) << state.name;
+    EXPECT_EQ(differences(before, world.snapshot()), Log{}) << state.name;
+  }
+}
+
+// What comes of a command by one road, in a program of its own.
+struct Outcome {
+  Log log;
+  Snapshot snapshot;
+};
+template <class Road>
+Outcome outcomeOf(const CommandState& state, Road road) {
+  World world(state);
+  road(world.shell);
+  return {world.log, world.snapshot()};
+}
+void expectSame(const Outcome& menu, const Outcome& other, const std::string& what) {
+  EXPECT_EQ(menu.log, other.log) << what;
+  EXPECT_EQ(differences(menu.snapshot, other.snapshot), Log{}) << what;
+}
+
+TEST(CommandWalk, AToolbarButtonIsItsCommand) {
+  for (const CommandState& state : commandStates())
+    for (const ToolbarButton& button : toolbarTable()) {
+      const Command& row = *findCommand(button.control, button.commandIndex);
+      if (!row.run) continue;
+      expectSame(outcomeOf(state, [&](Shell& shell) { shell.run(row); }),
+                 outcomeOf(state, [&](Shell& shell) { shell.runToolbar(button); }),
+                 nameOf(row) + " with " + state.name);
+    }
+}
+
+TEST(CommandWalk, AnEntryOfThePopUpMenuIsItsCommand) {
+  for (const CommandState& state : commandStates())
+    for (const PopUpEntry& entry : kPopUpEntries) {
+      const Command& popUp = *findCommand("mnuPopUpSub", entry.index);
+      const Command& row = *findCommand(entry.control, entry.commandIndex);
+      expectSame(outcomeOf(state, [&](Shell& shell) { shell.run(row); }),
+                 outcomeOf(state, [&](Shell& shell) { shell.run(popUp); }), nameOf(popUp) + " with " + state.name);
+    }
+}
+
+}  // namespace
+}  // namespace gp::test
