@@ -18,7 +18,7 @@ Drawing::Drawing(const Context& context, Document& document, ColorSelection& col
       restore_(context, document.editingArea, drawState),
       fill_(context, document.editingArea, history),
       replace_(context, document.editingArea, history),
-      shapes_(context, document.editingArea, history, drawState),
+      shapes_(context, document.editingArea, history, tools, drawState),
       region_(context, drawState, history, regions, tools) {
   const struct {
     Tool tool;

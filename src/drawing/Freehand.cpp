@@ -27,18 +27,20 @@ Square squareOf(const DrawRect& rect) {
 FreehandTool::FreehandTool(const Context& context, EditingArea& editingArea, UndoHistory& history, DrawState& drawState)
     : context_(context), state_(context.state), editingArea_(editingArea), history_(history), drawState_(drawState) {}
 
+bool& FreehandTool::stroke(Tool tool) { return tool == kErase ? drawState_.mErasing : drawState_.mPainting; }
+
 void FreehandTool::press(const ToolMouse& mouse) {
   state_.current().modified = true;
-  (mouse.tool == kErase ? drawState_.mErasing : drawState_.mPainting) = true;
+  stroke(mouse.tool) = true;
   stamp(mouse);
   editingArea_.showChangedIcon();
 }
 
 // Stamps where the pointer is; nothing is interpolated, so a fast drag leaves gaps.
 void FreehandTool::move(const ToolMouse& mouse) {
-  if (!drawState_.mPainting && !drawState_.mErasing) return;
+  if (!stroke(mouse.tool)) return;
   context_.pump.pump();
-  if (!drawState_.mPainting && !drawState_.mErasing) return;
+  if (!stroke(mouse.tool)) return;
   stamp(mouse);
   editingArea_.ComposeCurrentIcon();
   showStamp(mouse.tool);

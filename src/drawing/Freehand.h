@@ -23,6 +23,8 @@ class FreehandTool : public DrawingTool {
   void cancel() override;
 
  private:
+  // True while a stroke of that tool is under way.
+  bool& stroke(Tool tool);
   void stamp(const ToolMouse& mouse);
   void showStamp(Tool tool);
 

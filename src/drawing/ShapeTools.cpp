@@ -125,11 +125,17 @@ void drawOn(Surface& surface, const ShapeRow& row, int penWidth, const DrawRect&
 
 }  // namespace
 
-ShapeTool::ShapeTool(const Context& context, EditingArea& editingArea, UndoHistory& history, DrawState& drawState)
-    : context_(context), state_(context.state), editingArea_(editingArea), history_(history), drawState_(drawState) {}
+ShapeTool::ShapeTool(const Context& context, EditingArea& editingArea, UndoHistory& history, const Tools& tools,
+                     DrawState& drawState)
+    : context_(context),
+      state_(context.state),
+      editingArea_(editingArea),
+      history_(history),
+      tools_(tools),
+      drawState_(drawState) {}
 
 ShapeTool::Ground ShapeTool::ground() const {
-  return {state_.iconSerial, state_.screen.mActivePanel, state_.mRegionExists};
+  return {state_.iconSerial, state_.screen.mActivePanel, state_.mRegionExists, tools_.selectedTool() == kShift};
 }
 
 bool ShapeTool::isStillOn(const Ground& ground) const { return state_.current().present && ground == this->ground(); }

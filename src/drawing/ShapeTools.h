@@ -2,7 +2,7 @@
 // else; the release draws the shape on picImage and picMask. One object serves all five: the drag is theirs together,
 // and the tool that is selected says what it draws.
 //
-// A drag belongs to the icon it began on. When that has gone, or a panel or region has come up that works on it, the
+// A drag belongs to the icon it began on. When that has gone, or a panel, a region or Shift works on it meanwhile, the
 // shape is dropped whole.
 #pragma once
 
@@ -13,12 +13,14 @@
 namespace gp {
 
 class EditingArea;
+class Tools;
 class UndoHistory;
 struct DrawState;
 
 class ShapeTool : public DrawingTool {
  public:
-  ShapeTool(const Context& context, EditingArea& editingArea, UndoHistory& history, DrawState& drawState);
+  ShapeTool(const Context& context, EditingArea& editingArea, UndoHistory& history, const Tools& tools,
+            DrawState& drawState);
 
   void press(const ToolMouse& mouse) override;
   void move(const ToolMouse& mouse) override;
@@ -33,6 +35,7 @@ class ShapeTool : public DrawingTool {
     unsigned icon;  // iconSerial
     int panel;
     bool hasRegion;
+    bool isShifting;
     bool operator==(const Ground&) const = default;
   };
 
@@ -47,6 +50,7 @@ class ShapeTool : public DrawingTool {
   EditState& state_;
   EditingArea& editingArea_;
   UndoHistory& history_;
+  const Tools& tools_;
   DrawState& drawState_;
 
   bool dragged_ = false;  // a press began what the next release draws

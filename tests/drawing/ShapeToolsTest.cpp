@@ -52,7 +52,7 @@ class ShapeToolTest : public test::DrawingFixture {
   }
   // Corners that the mouse does not reach: the tool itself is told of them.
   void dragBeyondTheIcon(Tool tool, const DrawRect& rect) {
-    ShapeTool shape(context, area, history, drawing.drawState);
+    ShapeTool shape(context, area, history, tools, drawing.drawState);
     const auto mouse = [=, m = state.gMagnification](double x, double y) {
       return ToolMouse{tool, static_cast<int>(x), static_cast<int>(y), static_cast<float>((x + 0.5) * m),
                        static_cast<float>((y + 0.5) * m)};
@@ -440,6 +440,23 @@ TEST_F(OvalPumpTest, ARegionThatWasMadeKeepsItsIcon) {
   EXPECT_TRUE(state.mRegionExists);
   expectPicture({"."});
   expectAgreement();
+}
+
+TEST_F(OvalPumpTest, ShiftThatWasTurnedOnHasKeptTheIconAsItStays) {
+  dragWith([this] { tools.selectTool(kShift); });
+  expectPicture({"."});
+  EXPECT_EQ(history.undoCount(), 2) << "Shift has made its baseline";
+  drawing.shift.shift(ShiftCell::Right);
+  expectPicture({"."});
+}
+
+TEST_F(OvalPumpTest, APanelThatTookTheIconOverHasABaselineBeforeTheShape) {
+  dragWith([this] { panel.updateFromCurrent(); });
+  expectPicture(kCircle);
+  EXPECT_EQ(history.undoCount(), 2);
+  expectAgreement();
+  undo.doUndo();
+  expectPicture({"."});
 }
 
 TEST_F(OvalPumpTest, PensAreAtRestWhileEventsRun) {

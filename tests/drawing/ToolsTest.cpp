@@ -384,6 +384,30 @@ TEST_F(ToolsTest, AnotherToolSelectedInsideAStrokeFinishesItAsAStepOfItsOwn) {
   EXPECT_EQ(paintedPixels(), 1) << "the new tool has not been pressed";
 }
 
+TEST_F(ToolsTest, AToolPressedInsideAMoveOfTheFormerOneIsNotFollowedByItsStamp) {
+  makeIcon(32);
+  tools.selectTool(kPaint);
+  click(9, 9);
+  for (const Tool former : {kPaint, kErase}) {
+    const Tool other = former == kPaint ? kErase : kPaint;
+    const int there = former == kPaint ? 8 : 9;
+    const Color before = state.picMask.GetPixel(there, there);
+    if (tools.selectedTool() != former) tools.selectTool(former);
+    tools.press(at(1, 1));
+    // The handler of picDisp pumps first, then the tool.
+    pump.inside = [&] {
+      pump.inside = [&] {
+        tools.selectTool(other);
+        tools.press(at(5, 5));
+      };
+    };
+    tools.move(at(there, there, 0));
+    EXPECT_EQ(state.picMask.GetPixel(there, there), before) << former;
+    EXPECT_EQ(state.picMask.GetPixel(5, 5), other == kPaint ? kBlack : kWhite) << former;
+    tools.release(at(5, 5));
+  }
+}
+
 TEST_F(ToolsTest, AContainerEmptiedInsideAMoveIsLeftAlone) {
   makeIcon(32);
   tools.selectTool(kPaint);
