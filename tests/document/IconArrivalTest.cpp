@@ -186,6 +186,18 @@ TEST_F(IconArrivalTest, ToolsStatusBarAndCommandsFollow) {
   EXPECT_TRUE(display.told(DisplayPart::StatusBar));
 }
 
+TEST_F(IconArrivalTest, ViewsThatFollowTheCurrentIconAreToldOnceItIsTheNewOne) {
+  arrival.arrive(plainIcon(16, kBlue), NewRecord());
+  const unsigned before = state.iconSerial;
+  bool isNew = false;
+  display.onChanged = [&](DisplayPart part) {
+    if (part != DisplayPart::IconsPanel) return;
+    isNew = state.iconSerial == before + 1 && state.PicIcon.GetPixel(0, 0) == kRed;
+  };
+  arrival.arrive(drawnIcon(), NewRecord());
+  EXPECT_TRUE(isNew);
+}
+
 TEST_F(IconArrivalTest, AnIconWithAlphaKeepsAValueForEachPixel) {
   IconImage icon = alphaIcon(24, 200);
   icon.alpha.at(23, 5) = 7;

@@ -97,6 +97,19 @@ TEST_F(ContainerCopiesTest, TheCurrentContainerTakesAnIconWithANewBaseline) {
   expectAgreement();
 }
 
+TEST_F(ContainerCopiesTest, ARegionEndsWithTheIconThatAnotherReplaces) {
+  makeIcon(24, {"ab", "ba"});
+  panel.SwitchContainer(1);
+  makeIcon(16, Rows(4, "cccc"));
+  mark(0, 0, 3, 3);
+  moveRegion(4, 4);
+  boxes.expectAsked(kFromOne, BoxAnswer::Yes);
+  copies.mnuEditSubCopyFromContainer(0);
+  EXPECT_FALSE(state.mRegionExists);
+  EXPECT_EQ(icon(), (Rows{"ab", "ba"}));
+  expectAgreement();
+}
+
 TEST_F(ContainerCopiesTest, ASourceThatMayNotBeCopiedIsToldWhy) {
   makeIcon(16, {"a"});
   state.mIconRecs[4].used = state.mIconRecs[4].fromMultiIconFile = true;

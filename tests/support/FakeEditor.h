@@ -17,8 +17,12 @@ class RecordingDisplay : public Display {
  public:
   std::vector<DisplayPart> parts;
   int repaints = 0, popUpMenus = 0, nudges = 0, colorValueFocuses = 0;
+  std::function<void(DisplayPart part)> onChanged;
 
-  void changed(DisplayPart part) override { parts.push_back(part); }
+  void changed(DisplayPart part) override {
+    parts.push_back(part);
+    if (onChanged) onChanged(part);
+  }
   void repaintEditingArea(int, int, int, int) override { ++repaints; }
   void showPopUpMenu() override { ++popUpMenus; }
   void nudgeMousePointer() override { ++nudges; }
