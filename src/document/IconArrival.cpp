@@ -1,6 +1,7 @@
 #include "document/IconArrival.h"
 
 #include "document/Containers.h"
+#include "document/Display.h"
 #include "document/EditState.h"
 #include "document/EditingArea.h"
 #include "document/Editor.h"
@@ -32,6 +33,8 @@ void IconArrival::showCurrentContainer() {
   BitbltPic(state_.picPanelMask.at(container), state_.picMask);
   state_.gAlphaValues = state_.mAlphaRecs.at(container);
   editingArea_.ComposeCurrentIcon();
+  // Views that follow the Current Icon were last told before it was another.
+  context_.display.changed(DisplayPart::IconsPanel);
   editingArea_.ShowCurrentIcon();
   editor.chooseColorChart();
   editor.clearUndoHistory();
