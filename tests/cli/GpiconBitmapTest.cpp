@@ -60,7 +60,7 @@ TEST_F(GpiconBitmap, TheStandardColorsTakeFourBits) {
   p.index = [](int x, int y) { return (x + y) % 6; };
   const WrittenPicture written = bitmapOf(p);
   expectHeaders(out, {118 + 16 * 8, 118 + 16 * 8 - 14, 118, 16, 4, 0});
-  expectColors(written, [&](int x, int y) { return picturesOf(p).image.GetPixel(x, y); });
+  expectColors(written, [&](int x, int y) { return iconOf(p).image.GetPixel(x, y); });
 }
 
 TEST_F(GpiconBitmap, OtherColorsTakeEightBitsAndAPaletteOfTheirOwn) {

@@ -9,14 +9,14 @@ namespace {
 
 struct EffectCase {
   std::vector<std::string> words;  // behind OUT
-  std::function<IconPicture(const IconPicture&)> make;
+  std::function<IconImage(const IconImage&)> make;
 };
 
 EffectCase reliefCase(std::vector<std::string> words, ReliefSettings settings) {
-  return {std::move(words), [settings](const IconPicture& p) { return relief(p.image, p.mask, settings); }};
+  return {std::move(words), [settings](const IconImage& p) { return relief(p.image, p.mask, settings); }};
 }
 EffectCase buttonCase(std::vector<std::string> words, int pattern) {
-  return {std::move(words), [pattern](const IconPicture& p) { return buttonize(p.image, p.mask, {pattern}); }};
+  return {std::move(words), [pattern](const IconImage& p) { return buttonize(p.image, p.mask, {pattern}); }};
 }
 
 // No two of them make the same.
@@ -29,7 +29,7 @@ std::vector<EffectCase> effects() {
           buttonCase({"buttonize"}, 0),
           buttonCase({"buttonize", "--style", "1"}, 1),
           buttonCase({"buttonize", "--style", "2"}, 2),
-          {{"disabled"}, [](const IconPicture& p) { return disabledImage(p.image, p.mask); }}};
+          {{"disabled"}, [](const IconImage& p) { return disabledImage(p.image, p.mask); }}};
 }
 
 // A disc in dark colours, black behind what is transparent.
@@ -67,7 +67,7 @@ TEST_F(GpiconEffect, EachEffectMakesWhatTheEditorMakes) {
     for (const EffectCase& effect : effects()) {
       SCOPED_TRACE(testing::PrintToString(effect.words) + std::to_string(size));
       const WrittenPicture written = made(p, effect.words);
-      expectPixels(written, effect.make(picturesOf(p)));
+      expectPixels(written, effect.make(iconOf(p)));
       EXPECT_EQ(written.bits, 24);
       results.insert(textOf("out"));
     }
@@ -79,7 +79,7 @@ TEST_F(GpiconEffect, PaletteIconsAreSavedInTheDepthThatTheirColorsNeed) {
   const Picture p = disc(32, 4);
   for (const EffectCase& effect : effects()) {
     SCOPED_TRACE(testing::PrintToString(effect.words));
-    expectPixels(made(p, effect.words), effect.make(picturesOf(p)));
+    expectPixels(made(p, effect.words), effect.make(iconOf(p)));
   }
   EXPECT_EQ(made(p, {"shadowed"}).bits, 4);
   EXPECT_EQ(made(p, {"shadowed", "--color", "FF8001"}).bits, 8);
@@ -143,13 +143,13 @@ TEST_F(GpiconEffect, ReliefOfAnEmptyIconIsEmpty) {
 TEST_F(GpiconEffect, TheIndexTellsTheImage) {
   const std::string path = folder.write("three.ico", fileOf({anyEntry(16, 4), entryOf(disc(48, 24)), anyEntry(32, 8)}));
   expectDone({"effect", path, "1", out, "raised"});
-  const IconPicture before = picturesOf(disc(48, 24));
+  const IconImage before = iconOf(disc(48, 24));
   expectPixels(writtenIcon(out), relief(before.image, before.mask, {ReliefKind::Raised}));
 }
 
 TEST_F(GpiconEffect, TheInputMayBeTheOutput) {
   const std::string input = write(disc(32, 24));
-  const IconPicture before = picturesOf(disc(32, 24));
+  const IconImage before = iconOf(disc(32, 24));
   expectDone({"effect", input, "0", input, "engraved"});
   expectPixels(writtenIcon(input), relief(before.image, before.mask, {ReliefKind::Engraved}));
 }

@@ -46,7 +46,7 @@ class GpiconReduce : public GpiconOneImage {
 TEST_F(GpiconReduce, EachMethodMakesWhatTheEditorMakes) {
   const Picture p = colorful(48);
   const std::string input = write(entryOf(p));
-  const IconPicture before = picturesOf(p);
+  const IconImage before = iconOf(p);
   std::set<std::string> results;
   for (const MethodCase& m : kMethods) {
     SCOPED_TRACE(m.name);
@@ -119,7 +119,7 @@ TEST_F(GpiconReduce, AFullPaletteIsReducedTo256ColorsAndKeepsItsDepth) {
   p.index = [](int x, int y) { return (32 * y + x) % 256; };
   p.transparent = [](int, int) { return false; };
   const std::string input = write(entryOf(p));
-  const IconPicture before = picturesOf(p);
+  const IconImage before = iconOf(p);
   const WrittenPicture written = reduced(input, "256", "system");
   EXPECT_EQ(written.bits, 8);
   expectPixels(written, reduceColors(before.image, before.mask, {ReductionMethod::System}));
@@ -134,7 +134,7 @@ TEST_F(GpiconReduce, TheIndexTellsTheImage) {
 TEST_F(GpiconReduce, TheInputMayBeTheOutput) {
   const Picture p = colorful(32);
   const std::string input = write(entryOf(p));
-  const IconPicture before = picturesOf(p);
+  const IconImage before = iconOf(p);
   expectDone({"reduce", input, "0", input, "--to", "16", "--method", "nearest"});
   expectPixels(writtenIcon(input), reduceColors(before.image, before.mask, {ReductionMethod::Nearest}));
 }

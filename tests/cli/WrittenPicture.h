@@ -2,7 +2,7 @@
 #pragma once
 
 #include "cli/GpiconFixture.h"
-#include "effects/IconPicture.h"
+#include "document/IconImage.h"
 
 #include <gtest/gtest.h>
 #include <set>
@@ -94,19 +94,19 @@ inline WrittenPicture writtenBitmap(const std::string& path) {
   return p;
 }
 
-// A built picture as the two Surfaces that the editor has of it.
-inline IconPicture picturesOf(const Picture& p) {
-  IconPicture pictures{Surface(p.width, p.height), Surface(p.width, p.height)};
+// A built picture as the editor has it.
+inline IconImage iconOf(const Picture& p) {
+  IconImage icon{Surface(p.width, p.height), Surface(p.width, p.height), AlphaMatrix()};
   for (int y = 0; y < p.height; ++y)
     for (int x = 0; x < p.width; ++x) {
       const Rgb c = p.bits <= 8 ? p.palette.at(static_cast<std::size_t>(p.index(x, y))) : p.color(x, y);
-      pictures.image.SetPixelV(x, y, rgb(c.r, c.g, c.b));
-      pictures.mask.SetPixelV(x, y, p.transparent(x, y) ? kWhite : kBlack);
+      icon.image.SetPixelV(x, y, rgb(c.r, c.g, c.b));
+      icon.mask.SetPixelV(x, y, p.transparent(x, y) ? kWhite : kBlack);
     }
-  return pictures;
+  return icon;
 }
 
-inline void expectPixels(const WrittenPicture& written, const IconPicture& expected) {
+inline void expectPixels(const WrittenPicture& written, const IconImage& expected) {
   ASSERT_EQ(written.width, expected.image.width());
   ASSERT_EQ(written.height, expected.image.height());
   for (int y = 0; y < written.height; ++y)

@@ -1,6 +1,8 @@
-#include "colour/PaletteFile.h"
+#include "colour/Colour.h"
 #include "colour/ui/ColorMixerView.h"
+#include "document/EditState.h"
 #include "document/ui/SurfacePainting.h"
+#include "platform/dialogs/clsGPDialog.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/QtPictureLoader.h"
 #include "platform/qt/widgets/TextCell.h"
@@ -46,13 +48,12 @@ class ColorMixerViewTest : public testing::Test {
   test::ScriptedDialogs dialogs;
   test::ScriptedPump pump;
   clsGPDialog dialog{dialogs};
-  ColorSelection colors{state, editor, display, boxes, pump, dialog};
-  ColorMixer mixer{state, display, pump, colors};
   QtPictureLoader loader;
-  PaletteFile files{state, editor, boxes, dialog, loader, mixer, folder.path()};
+  Colour colour{Context{state, editor, display, boxes, pump}, dialog, loader, folder.path()};
+  ColorMixer& mixer = colour.mixer;
   const std::filesystem::path before = std::filesystem::current_path();
   QWidget window;
-  ColorMixerView* view = new ColorMixerView(&window, mixer, files);
+  ColorMixerView* view = new ColorMixerView(&window, mixer, colour.paletteFile);
 
   void SetUp() override {
     display.view = view;
@@ -207,7 +208,9 @@ TEST_F(ColorMixerViewTest, HoveringTheMixedColourTellsIt) {
   mix(255, 128, 0);
   QTest::mouseMove(find("PicRGBMix"), QPoint(10, 10));
   EXPECT_EQ(find("PicRGBMix")->toolTip(), "80FFh  RGB(255, 128, 0)");
-  EXPECT_EQ(state.mHoverG, 128);
+  boxes.expectTold("Currently selected color:      \n\n16777215 / hFFFFFF\n\nRGB(255, 255, 255) \n\nHTML #FF8000",
+                   BoxIcon::Information);
+  colour.selection.tellCurrentColor();
 }
 
 TEST_F(ColorMixerViewTest, TheStripIsTakenByPressAndByRelease) {

@@ -37,7 +37,7 @@ class CursorPanelViewTest : public test::FormFixture {
   }
   QComboBox* list(int index) { return find<QComboBox>(QString("cboCursorHotSpot(%1)").arg(index)); }
   std::pair<int, int> lists() { return {list(0)->currentIndex(), list(1)->currentIndex()}; }
-  std::pair<int, int> spot() { return {shell.cursorFiles().hotspotX(), shell.cursorFiles().hotspotY()}; }
+  std::pair<int, int> spot() { return {shell.files().cursorFiles.hotspotX(), shell.files().cursorFiles.hotspotY()}; }
   // What is told of a list: its own name is what it holds.
   static QString labelOf(QWidget* control) {
     const auto related = QAccessible::queryAccessibleInterface(control)->relations(QAccessible::Label);
@@ -257,7 +257,7 @@ TEST_F(CursorPanelViewTest, CtrlHRevealsTheOriginalSpotWhateverTheListsHold) {
   pump.waitedMilliseconds = 0;
   QRgb seen = 0;
   std::function<void()> look = [&] {
-    if (!shell.cursorFiles().mark().isFlashing())
+    if (!shell.files().cursorFiles.mark().isFlashing())
       pump.inside = look;
     else
       seen = shownAt(7, 30);

@@ -29,8 +29,8 @@ class EditingAreaViewTest : public test::FormFixture {
 TEST_F(EditingAreaViewTest, ShowsEveryPixelOfTheEditingAreaAsItIs) {
   startWithIcon(32);
   state.picImage.SetPixelV(3, 4, rgb(10, 200, 30));
-  shell.ComposeCurrentIcon();
-  shell.MagnifyIcon();
+  shell.document().editingArea.ComposeCurrentIcon();
+  shell.document().editingArea.MagnifyIcon();
   expectViewShowsPicDisp();
 }
 

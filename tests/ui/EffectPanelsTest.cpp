@@ -34,9 +34,9 @@ class EffectPanelsTest : public test::FormFixture {
       for (int x = 0; x < size; ++x)
         if ((x - middle) * (x - middle) + (y - middle) * (y - middle) < middle * middle * 3 / 5)
           set(x, y, rgb(255 - x * 255 / size, y * 255 / size, (x * y * 3) % 256));
-    shell.ComposeCurrentIcon();
-    shell.UpdatePanelFromCurrent();
-    shell.MagnifyIcon();
+    shell.document().editingArea.ComposeCurrentIcon();
+    shell.document().editingArea.UpdatePanelFromCurrent();
+    shell.document().editingArea.MagnifyIcon();
   }
   void set(int x, int y, Color color) {
     state.picImage.SetPixelV(x, y, color);
@@ -218,7 +218,7 @@ TEST_F(EffectPanelsTest, EachRunShowsItsOwnListOfMethods) {
     for (int i = 0; i < texts.size(); ++i) {
       EXPECT_EQ(confineList(run)->itemText(i), texts[i]);
       pick(confineList(run), i);
-      const IconPicture& picture = shell.effects().panel<ConfinePanel>().picture();
+      const IconImage& picture = shell.effects().panel<ConfinePanel>().picture();
       EXPECT_EQ(sampleAt(find("picConfineColors(0)"), 24, 20, 48, 96), toRgb(picture.image.GetPixel(24, 20)))
           << run << i;
       EXPECT_EQ(sampleAt(find("picConfineColors(1)"), 24, 20, 48, 96), toRgb(picture.mask.GetPixel(24, 20)))
@@ -295,7 +295,7 @@ TEST_F(EffectPanelsTest, TheEditingAreaHasTheKeysAfterADropFromAnotherProgramToo
   other.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
   ASSERT_FALSE(form->isAncestorOf(QApplication::focusWidget()));
-  shell.iconsPanel().PanelDrop(2, {folder.write("dropped.ico", test::plainIconFile(16, 3))});
+  shell.document().iconsPanel.PanelDrop(2, {folder.write("dropped.ico", test::plainIconFile(16, 3))});
   EXPECT_TRUE(isUp(kColorPanel));
   EXPECT_EQ(form->focusWidget(), find("picDisp"));
 }

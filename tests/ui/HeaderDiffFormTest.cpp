@@ -1,12 +1,12 @@
 // frmGPHeaderDiff, worked by mouse and keyboard.
+#include "files/Files.h"
 #include "files/ui/EntryView.h"
 #include "files/ui/frmGPHeaderDiff.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/TabbedList.h"
 #include "platform/qt/widgets/TextCell.h"
 #include "platform/text/Paths.h"
-#include "support/FakeEditor.h"
-#include "support/ScriptedPorts.h"
+#include "support/Rooms.h"
 #include "support/ShellFixture.h"
 #include "support/TempFolder.h"
 #include "ui/IconFiles.h"
@@ -41,8 +41,8 @@ const std::vector<Told> kLying{{16, 16, 4, imageOf(16)},    {24, 0, 24, imageOf(
 class HeaderDiffForm : public testing::Test {
  protected:
   std::unique_ptr<frmGPHeaderDiff> make(const std::string& path) {
-    state.multiIcon.gMultiIconFile = path;
-    auto made = std::make_unique<frmGPHeaderDiff>(FilesContext{state, editor, display, boxes, pump, dialog}, nullptr);
+    files.context().multiIcon.gMultiIconFile = path;
+    auto made = std::make_unique<frmGPHeaderDiff>(files.context(), nullptr);
     made->show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(made.get()));
     QTest::qWait(1);
@@ -68,13 +68,11 @@ class HeaderDiffForm : public testing::Test {
   TabbedList* list() { return find<TabbedList>("lisIcons"); }
 
   test::TempFolder folder;
-  EditState state;
-  test::RecordingDisplay display;
-  test::ScriptedBoxes boxes;
-  test::ScriptedPump pump;
-  test::ScriptedDialogs dialogs;
-  clsGPDialog dialog{dialogs};
-  test::FakeEditor editor;
+  test::Rooms rooms;
+  EditState& state = rooms.state;
+  test::ScriptedBoxes& boxes = rooms.boxes;
+  test::ScriptedDialogs& dialogs = rooms.dialogs;
+  Files files{rooms.context, rooms.document, rooms.drawing, rooms.dialog, folder.file("gptmp.ico")};
   std::unique_ptr<frmGPHeaderDiff> form;
 };
 

@@ -81,7 +81,7 @@ TEST_F(MultiIconForm, ARefusedRemoveChangesNothing) {
 }
 
 TEST_F(MultiIconForm, AFileInTheIconsPanelIsNotChanged) {
-  state.multiIcon.gFileInPanel = true;
+  exchange.gFileInPanel = true;
   open();
   boxes.expectTold(
       "As currently there is at least an icon from this file loaded in Icons Panel, \nhence no deletion is allowed.",
@@ -250,7 +250,7 @@ TEST_F(MultiIconForm, NothingInTheSequenceIsDestructive) {
   doubleClickItem(sequence(), 3);
   EXPECT_TRUE(isShown("picContainer(2)"));
   EXPECT_EQ(folder.read("icons.ico"), test::iconFileOf(kStandard));
-  EXPECT_EQ(state.multiIcon.gMultiIconResult, "");
+  EXPECT_EQ(exchange.gMultiIconResult, "");
 }
 
 TEST_F(MultiIconForm, AbortAndEscapeLeaveThePaneOnly) {
@@ -324,7 +324,7 @@ TEST_F(MultiIconForm, SaveAppendsAtTheEnd) {
   boxes.expectAsked("Append to position ref 6.   \n\nConfirm?\n", BoxAnswer::Yes);
   key(Qt::Key_Return);
   EXPECT_FALSE(form->isVisible());
-  EXPECT_EQ(state.multiIcon.gMultiIconResult, "1/6");
+  EXPECT_EQ(exchange.gMultiIconResult, "1/6");
 }
 
 TEST_F(MultiIconForm, SaveAsInsertsAtThePositionThatIsChosen) {
@@ -335,7 +335,7 @@ TEST_F(MultiIconForm, SaveAsInsertsAtThePositionThatIsChosen) {
   key(Qt::Key_Home);
   boxes.expectAsked("Insert to position ref 1.   \n\nConfirm?\n", BoxAnswer::Yes);
   access(Qt::Key_A);
-  EXPECT_EQ(state.multiIcon.gMultiIconResult, "2/1");
+  EXPECT_EQ(exchange.gMultiIconResult, "2/1");
 }
 
 TEST_F(MultiIconForm, AnUnconfirmedAddStays) {
@@ -346,7 +346,7 @@ TEST_F(MultiIconForm, AnUnconfirmedAddStays) {
   boxes.expectAsked("Append to position ref 6.   \n\nConfirm?\n", BoxAnswer::No);
   click("cmdSaveAdd(0)");
   EXPECT_TRUE(form->isVisible());
-  EXPECT_EQ(state.multiIcon.gMultiIconResult, "");
+  EXPECT_EQ(exchange.gMultiIconResult, "");
 }
 
 TEST_F(MultiIconForm, ADoubleClickOnTheAddFaceOnlySelects) {
@@ -370,7 +370,7 @@ TEST_F(MultiIconForm, CloseEndsTheAddFaceWithoutAnAnswer) {
   openToAdd();
   click("cmdClose(1)");
   EXPECT_FALSE(form->isVisible());
-  EXPECT_EQ(state.multiIcon.gMultiIconResult, "");
+  EXPECT_EQ(exchange.gMultiIconResult, "");
 }
 
 }  // namespace

@@ -1,6 +1,9 @@
 // frmGPMultiIcon over scripted ports and real files of several icons, on Qt's offscreen platform.
 #pragma once
 
+#include "colour/Colour.h"
+#include "drawing/Drawing.h"
+#include "files/Files.h"
 #include "files/ui/frmGPMultiIcon.h"
 #include "platform/gdi/SurfaceOps.h"
 #include "platform/qt/DialogOwner.h"
@@ -9,6 +12,7 @@
 #include "platform/qt/widgets/TabbedList.h"
 #include "platform/qt/widgets/TextCell.h"
 #include "platform/text/Paths.h"
+#include "support/FakeClipboard.h"
 #include "support/FakeEditor.h"
 #include "support/ScriptedPorts.h"
 #include "support/ShellFixture.h"
@@ -68,10 +72,10 @@ class MultiIconFormFixture : public testing::Test {
 
   void make(const std::string& path, Face face = Face::Edit) {
     file = path;
-    state.multiIcon.gMultiIconFile = path;
-    state.multiIcon.gAddToFile = face == Face::Add;
-    if (face == Face::Edit && state.multiIcon.gMultiIconResult.empty()) state.multiIcon.gMultiIconResult = "0";
-    form = std::make_unique<frmGPMultiIcon>(FilesContext{state, editor, display, boxes, pump, dialog}, nullptr);
+    exchange.gMultiIconFile = path;
+    exchange.gAddToFile = face == Face::Add;
+    if (face == Face::Edit && exchange.gMultiIconResult.empty()) exchange.gMultiIconResult = "0";
+    form = std::make_unique<frmGPMultiIcon>(files.context(), nullptr);
   }
   void openFile(const std::string& path, Face face = Face::Edit) {
     make(path, face);
@@ -83,9 +87,9 @@ class MultiIconFormFixture : public testing::Test {
     openFile(folder.write("icons.ico", iconFileOf(entries)), face);
   }
   void openToAdd(const std::vector<Told>& entries = kStandard) {
-    MakePicSize(state.multiIcon.PicCurrIcon, 32, 32);
-    state.multiIcon.PicCurrIcon.fill(0x3060D0);
-    state.multiIcon.lblCurrIcon = "16-color  Size: 32x32";
+    MakePicSize(exchange.PicCurrIcon, 32, 32);
+    exchange.PicCurrIcon.fill(0x3060D0);
+    exchange.lblCurrIcon = "16-color  Size: 32x32";
     open(entries, Face::Add);
   }
 
@@ -96,7 +100,7 @@ class MultiIconFormFixture : public testing::Test {
     return found;
   }
   bool isShown(const char* name) { return find(name)->isVisible(); }
-  TabbedList* icons() { return find<TabbedList>(state.multiIcon.gAddToFile ? "lisIcons(1)" : "lisIcons(0)"); }
+  TabbedList* icons() { return find<TabbedList>(exchange.gAddToFile ? "lisIcons(1)" : "lisIcons(0)"); }
   TabbedList* others() { return find<TabbedList>("lisOtherIcons"); }
   TabbedList* sequence() { return find<TabbedList>("lisReposition"); }
 
@@ -170,6 +174,14 @@ class MultiIconFormFixture : public testing::Test {
   ScriptedDialogs dialogs;
   clsGPDialog dialog{dialogs};
   FakeEditor editor;
+  FakeClipboard clipboard;
+  ScriptedPictures pictures;
+  const Context context{state, editor, display, boxes, pump};
+  Document document{context};
+  Colour colour{context, dialog, pictures, folder.path()};
+  Drawing drawing{context, document, colour.selection, clipboard};
+  Files files{context, document, drawing, dialog, folder.file("gptmp.ico")};
+  MultiIconExchange& exchange = files.context().multiIcon;
   std::string file;
   std::unique_ptr<frmGPMultiIcon> form;
 };

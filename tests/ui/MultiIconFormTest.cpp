@@ -36,7 +36,7 @@ TEST_F(MultiIconForm, ComesUpWithTheDefaultEntryPreviewedAndTheFocusInItsList) {
   EXPECT_TRUE(isShown("picContainer(0)"));
   EXPECT_FALSE(isShown("picContainer(2)"));
   EXPECT_FALSE(isShown("lblFileToEdit(2)"));
-  EXPECT_EQ(state.multiIcon.gMultiIconResult, "");
+  EXPECT_EQ(exchange.gMultiIconResult, "");
 }
 
 TEST_F(MultiIconForm, AFileThatCannotBeReadShowsNothing) {
@@ -134,27 +134,27 @@ TEST_F(MultiIconForm, EnterInTheListLoadsAndExits) {
   key(Qt::Key_Home);
   key(Qt::Key_Return);
   EXPECT_FALSE(form->isVisible());
-  EXPECT_EQ(state.multiIcon.gMultiIconResult, "1/00/16/16/16/4/16/4");
-  EXPECT_FALSE(state.multiIcon.gLoadAndReturn);
+  EXPECT_EQ(exchange.gMultiIconResult, "1/00/16/16/16/4/16/4");
+  EXPECT_FALSE(exchange.gLoadAndReturn);
 }
 
 TEST_F(MultiIconForm, ADoubleClickLoadsAndExits) {
   open();
   doubleClickItem(icons(), 4);
   EXPECT_FALSE(form->isVisible());
-  EXPECT_EQ(state.multiIcon.gMultiIconResult, "1/04/48/48/16/4/16/4");
+  EXPECT_EQ(exchange.gMultiIconResult, "1/04/48/48/16/4/16/4");
 }
 
 TEST_F(MultiIconForm, LoadAsksToComeBack) {
   open();
   click("cmdLoad");
   EXPECT_FALSE(form->isVisible());
-  EXPECT_EQ(state.multiIcon.gMultiIconResult, "1/02/32/32/16/4/16/4");
-  EXPECT_TRUE(state.multiIcon.gLoadAndReturn);
+  EXPECT_EQ(exchange.gMultiIconResult, "1/02/32/32/16/4/16/4");
+  EXPECT_TRUE(exchange.gLoadAndReturn);
 }
 
 TEST_F(MultiIconForm, LoadsIntoTheContainerThatIsChosen) {
-  state.multiIcon.gMultiIconResult = "3";
+  exchange.gMultiIconResult = "3";
   open();
   auto* containers = find<QComboBox>("cboContainerRef");
   QStringList items;
@@ -166,11 +166,11 @@ TEST_F(MultiIconForm, LoadsIntoTheContainerThatIsChosen) {
   EXPECT_EQ(form->focusWidget(), containers);
   key(Qt::Key_Down);
   access(Qt::Key_E);
-  EXPECT_EQ(state.multiIcon.gMultiIconResult, "5/02/32/32/16/4/16/4");
+  EXPECT_EQ(exchange.gMultiIconResult, "5/02/32/32/16/4/16/4");
 }
 
 TEST_F(MultiIconForm, WithoutACurrentContainerThereIsNoneToChoose) {
-  state.multiIcon.gMultiIconResult = "";
+  exchange.gMultiIconResult = "";
   open(kStandard, Face::EditWithoutContainer);
   EXPECT_FALSE(isShown("cboContainerRef"));
   EXPECT_FALSE(isShown("lblFileToEdit(3)"));
@@ -196,7 +196,7 @@ TEST_F(MultiIconForm, EscapeExitAndTheFrameCloseIt) {
     open();
     close();
     EXPECT_FALSE(form->isVisible());
-    EXPECT_EQ(state.multiIcon.gMultiIconResult, "");
+    EXPECT_EQ(exchange.gMultiIconResult, "");
   }
   EXPECT_EQ(folder.read("icons.ico"), test::iconFileOf(kStandard));
 }
@@ -209,7 +209,7 @@ TEST_F(MultiIconForm, ItRunsUntilItIsAnswered) {
   });
   form->run();
   EXPECT_FALSE(form->isVisible());
-  EXPECT_EQ(state.multiIcon.gMultiIconResult, "1/02/32/32/16/4/16/4");
+  EXPECT_EQ(exchange.gMultiIconResult, "1/02/32/32/16/4/16/4");
 }
 
 TEST_F(MultiIconForm, EnterOnAButtonPressesThatButton) {
@@ -217,7 +217,7 @@ TEST_F(MultiIconForm, EnterOnAButtonPressesThatButton) {
   find("cmdClose(0)")->setFocus();
   key(Qt::Key_Return);
   EXPECT_FALSE(form->isVisible());
-  EXPECT_EQ(state.multiIcon.gMultiIconResult, "");
+  EXPECT_EQ(exchange.gMultiIconResult, "");
 }
 
 // Buttons.

@@ -1,8 +1,8 @@
-#include "drawing/Tools.h"
+#include "document/Containers.h"
+#include "drawing/ToolTable.h"
 #include "drawing/ui/ShiftPad.h"
 #include "platform/qt/widgets/PictureButton.h"
-#include "support/FakeEditor.h"
-#include "support/ScriptedPorts.h"
+#include "support/ShellFixture.h"
 #include "ui/Screens.h"
 
 #include <QAccessible>
@@ -12,35 +12,16 @@
 namespace gp {
 namespace {
 
-// Editor whose tools are the program's own.
-class PadEditor : public test::FakeEditor {
- public:
-  Tools* tools = nullptr;
-
-  int selectedTool() const override { return tools->selectedTool(); }
-  void clearAllTools() override { tools->clearAllTools(); }
-};
-
-class ShiftPadTest : public testing::Test {
+// The pad, connected as the form connects it.
+class ShiftPadTest : public test::ShellFixture {
  protected:
   static constexpr int kSize = 16;
-  EditState state;
-  PadEditor editor;
-  test::RecordingDisplay display;
-  test::ScriptedBoxes boxes;
-  test::ScriptedDialogs dialogs;
-  test::ScriptedPump pump;
-  clsGPDialog dialog{dialogs};
-  ColorSelection colors{state, editor, display, boxes, pump, dialog};
-  DrawState drawState;
-  Tools tools{state, editor, display, colors, boxes, pump, drawState};
-  ShiftTool shift{state, editor, boxes};
+  Tools& tools = shell.drawing().tools;
+  ShiftTool& shift = shell.drawing().shift;
   QWidget window;
   ShiftPad* pad = nullptr;
 
   void SetUp() override {
-    editor.tools = &tools;
-    tools.attach(kShift, shift);
     pad = makePad(window);
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -48,21 +29,21 @@ class ShiftPadTest : public testing::Test {
   ShiftPad* makePad(QWidget& parent) {
     auto* made = new ShiftPad(&parent, state, tools, shift);
     QObject::connect(made, &ShiftPad::toolChosen, made, [this, made](int tool) {
-      tools.selectTool(tool);
+      shell.chooseTool(toolRow(tool).index);
+      made->refresh();
+    });
+    QObject::connect(made, &ShiftPad::directionReleased, made, [this, made](ShiftCell cell) {
+      shell.shiftTowards(cell);
       made->refresh();
     });
     return made;
   }
   // A green pixel at (4, 4) on transparent ground.
   void makeIcon() {
-    state.current().used = state.current().present = true;
-    state.current().size = kSize;
-    state.screen.fraTools = {true, true};
-    for (Surface* surface : {&state.picImage, &state.picMask}) surface->resize(kSize, kSize);
-    state.picImage.fill(kBlack);
-    state.picMask.fill(kWhite);
-    state.picImage.SetPixelV(4, 4, 0x00F000);
-    state.picMask.SetPixelV(4, 4, kBlack);
+    IconImage icon = transparentIcon(kSize);
+    icon.image.SetPixelV(4, 4, 0x00F000);
+    icon.mask.SetPixelV(4, 4, kBlack);
+    shell.document().arrival.arrive(icon, NewRecord());
     pad->refresh();
   }
   QPoint pictureAt() const {
@@ -254,14 +235,14 @@ TEST_F(ShiftPadTest, IsPhotographed) {
   makeIcon();
   tools.selectTool(kShift);
   test::saveInBothThemes("shift-pad", [this] {
-    auto form = std::make_unique<QWidget>();
-    ShiftPad* shown = makePad(*form);
+    auto holder = std::make_unique<QWidget>();
+    ShiftPad* shown = makePad(*holder);
     shift.padPress(ShiftCell::TopRight);
     shown->refresh();
     shift.padPress(ShiftCell::Rest);
     shown->move(4, 4);
-    form->resize(68, 68);
-    return form;
+    holder->resize(68, 68);
+    return holder;
   });
   EXPECT_TRUE(QFile::exists(GP_BINARY_DIR "/screens/shift-pad-dark.png"));
 }

@@ -31,7 +31,7 @@ TEST_F(ToolBoxTest, ASelectedToolIsSunkenAndASecondClickTurnsItOff) {
   EXPECT_TRUE(tool(kErase)->isChecked());
   click(tool(kErase));
   EXPECT_FALSE(tool(kErase)->isChecked());
-  EXPECT_EQ(shell.tools().selectedTool(), kNoTool);
+  EXPECT_EQ(shell.drawing().tools.selectedTool(), kNoTool);
 }
 
 TEST_F(ToolBoxTest, WithoutAnIconTheToolsLookDimmedAndAClickTellsWhy) {
@@ -77,7 +77,7 @@ TEST_F(ToolBoxTest, ArrowsMoveOverTheTwoColumns) {
   key(Qt::Key_Down);
   EXPECT_EQ(QApplication::focusWidget(), tool(kFill));
   key(Qt::Key_Space);
-  EXPECT_EQ(shell.tools().selectedTool(), kFill);
+  EXPECT_EQ(shell.drawing().tools.selectedTool(), kFill);
 }
 
 }  // namespace
