@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <ostream>
 #include <set>
 #include <string>
 #include <vector>
@@ -67,7 +68,10 @@ struct StateMaker {
     newIcon32();
     drag(3, 3, 3, 3);
   }
-  void holdPicture() { clipboard.hold(Surface(8, 8, kWhite)); }
+  void holdPicture() {
+    clipboard.hold(Surface(8, 8, kWhite));
+    shell.UpdateCommands();  // as the desktop's clipboard asks for
+  }
 };
 
 struct CommandState {
@@ -75,6 +79,9 @@ struct CommandState {
   void (*make)(StateMaker& maker);
   Facts facts;
 };
+
+// For the names of tests.
+inline void PrintTo(const CommandState& state, std::ostream* out) { *out << state.name; }
 
 inline const std::vector<CommandState>& commandStates() {
   static const std::vector<CommandState> states{

@@ -1,63 +1,17 @@
 // Every command in every state: what is enabled, what is said where a command cannot run, and that menu, toolbar and
 // pop-up menu are one road.
 #include "shell/CommandStates.h"
+#include "shell/LoggedPorts.h"
 #include "shell/ShellSnapshot.h"
 #include "support/FakeEditor.h"
 #include "support/FakeMachine.h"
 #include "support/ScriptedPorts.h"
 
 #include <gtest/gtest.h>
+#include <set>
 
 namespace gp::test {
 namespace {
-
-using Log = std::vector<std::string>;
-
-// A user who answers every question with No or Cancel.
-class LoggedBoxes : public MessageBoxes {
- public:
-  explicit LoggedBoxes(Log& log) : log_(log) {}
-  BoxAnswer show(const std::string& text, BoxButtons buttons, BoxIcon icon, BoxAnswer) override {
-    log_.push_back(std::to_string(static_cast<int>(icon)) + " " + text);
-    if (buttons == BoxButtons::Ok) return BoxAnswer::Ok;
-    return buttons == BoxButtons::YesNo ? BoxAnswer::No : BoxAnswer::Cancel;
-  }
-
- private:
-  Log& log_;
-};
-
-class CancelledDialogs : public FileDialogs {
- public:
-  explicit CancelledDialogs(Log& log) : log_(log) {}
-  bool openFile(const FileDialogRequest& request, std::string&, int&) override { return cancel("open", request); }
-  bool saveFile(const FileDialogRequest& request, std::string&, int&) override { return cancel("save", request); }
-  bool chooseColor(Color&) override { return log_.push_back("colour dialog"), false; }
-  bool choosePrinter(PrinterRequest&) override { return false; }
-  std::string chooseFolder(const std::string&, const std::string&) override { return {}; }
-
- private:
-  bool cancel(const char* kind, const FileDialogRequest& request) {
-    log_.push_back(std::string(kind) + " dialog for " + request.fileName);
-    return false;
-  }
-  Log& log_;
-};
-
-class LoggedForms : public ShellForms, public FileForms {
- public:
-  explicit LoggedForms(Log& log) : log_(log) {}
-  FormPlace place() const override { return {}; }
-  void setPlace(const FormPlace&) override {}
-  void maximize() override {}
-  void showAbout() override { log_.push_back("about"); }
-  void unload() override { log_.push_back("unload"); }
-  void showMultiIcon() override { log_.push_back("browser"); }
-  void showHeaderDiff() override { log_.push_back("headers"); }
-
- private:
-  Log& log_;
-};
 
 // The program in one of the states.
 class World {
@@ -96,12 +50,6 @@ class World {
 };
 
 std::string nameOf(const Command& row) { return objectNameOf(row.control, row.index); }
-
-// What is logged when a command cannot run.
-Log logOf(const char* refusal) {
-  const Log nothing;
-  return *refusal ? Log{std::to_string(static_cast<int>(BoxIcon::None)) + " " + refusal} : nothing;
-}
 
 TEST(CommandWalk, TheNeedsOfEveryCommandAreToldOnce) {
   std::multiset<std::string> told, there;
