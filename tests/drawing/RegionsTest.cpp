@@ -353,6 +353,29 @@ TEST_F(RegionsTest, AnIconOfAnotherSizeIsNotWrittenByARegionOfTheLastOne) {
   EXPECT_EQ(icon(), Rows{"b"});
 }
 
+TEST_F(RegionsTest, AnotherIconOfItsSizeIsNotWrittenByARegionOfTheLastOne) {
+  makeIcon(16, Rows(4, "aaaa"));
+  mark(0, 0, 3, 3);
+  ++state.iconSerial;
+  setPixels({"b"});
+  regions.renderRegion();
+  EXPECT_EQ(icon(), Rows{"b"});
+}
+
+TEST_F(RegionsTest, AnotherToolCommitsAFloatingRegion) {
+  makeIcon(16, {"ab", "aa"});
+  mark(0, 0, 1, 1);
+  transforms.RotateFlipHoriz();
+  ASSERT_TRUE(state.mPendingPaint);
+  EXPECT_EQ(trimmed(rowsOf(state.picPanelImage[0], state.picPanelMask[0])), (Rows{"ab", "aa"}));
+  tools.selectTool(kPaint);
+  EXPECT_EQ(trimmed(rowsOf(state.picPanelImage[0], state.picPanelMask[0])), (Rows{"ba", "aa"}));
+  EXPECT_FALSE(state.mRegionExists);
+  EXPECT_EQ(tools.selectedTool(), kPaint);
+  EXPECT_EQ(history.undoCount(), 1);
+  expectAgreement();
+}
+
 TEST_F(RegionsTest, AnotherToolKeepsTheMergeAndEndsTheRegion) {
   makeIcon(16, Rows(4, "aaaa"));
   mark(0, 0, 3, 3);

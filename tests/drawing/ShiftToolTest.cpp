@@ -132,6 +132,13 @@ TEST_F(ShiftTest, AnIconOfAnotherSizeIsNotShiftedByTheKeptPicture) {
   EXPECT_EQ(icon(), Rows{"b"});
 }
 
+TEST_F(ShiftTest, AnotherIconOfItsSizeIsNotShiftedByTheKeptPicture) {
+  turnOn({"a"});
+  makeIcon(16, {"b"});
+  shift.shift(ShiftCell::Right);
+  EXPECT_EQ(icon(), Rows{"b"});
+}
+
 TEST_F(ShiftTest, WhatEndsShiftWhileItIsTurnedOnLeavesOneBaseline) {
   makeIcon(16, {"ab"});
   pump.inside = [this] { tools.selectTool(kPaint); };

@@ -113,6 +113,20 @@ TEST_F(TransformsTest, ATurnedRegionIsDraggedInItsNewShape) {
   }
 }
 
+TEST_F(TransformsTest, ATurnedRegionMayLeaveTheEditingAreaByItsNewShape) {
+  for (const bool option : {false, true}) {
+    state.options.updateOnlyEditingArea = option;
+    makeIcon(32, Rows(4, "aaaaaaaaaa"));
+    mark(0, 0, 9, 3);
+    transforms.RotateRight();
+    press(cells(2), cells(9));
+    for (int step = 8; step >= 0; --step) move(cells(2), cells(step));
+    EXPECT_EQ(draw.region.y1, -84) << "the box is now 120 high";
+    release(cells(2), cells(0));
+    EXPECT_EQ(icon(), Rows(3, "aaaa"));
+  }
+}
+
 TEST_F(TransformsTest, FlippingInTheMiddleOfADragTakesTheRegionWhereItIs) {
   for (const bool option : {false, true}) {
     state.options.updateOnlyEditingArea = option;
