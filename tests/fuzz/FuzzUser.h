@@ -2,9 +2,19 @@
 // under test reach him.
 #pragma once
 
+#include "../support/FakeClipboard.h"
 #include "../support/FakeEditor.h"
 #include "FuzzInput.h"
+#include "colour/ColorSelection.h"
+#include "document/Document.h"
+#include "document/EditState.h"
+#include "drawing/Drawing.h"
 #include "files/FilesContext.h"
+#include "files/browser/MultiIconExchange.h"
+#include "platform/dialogs/clsGPDialog.h"
+#include "platform/ports/FileDialogs.h"
+#include "platform/ports/MessageBoxes.h"
+#include "platform/ports/MessagePump.h"
 
 namespace gp::fuzz {
 
@@ -53,27 +63,30 @@ class NoPump : public MessagePump {
   void wait(int) override {}
 };
 
-// The state of the whole program takes longer to build than a run takes. Only what the forms on icon files use of it is
-// made new.
-inline EditState& freshState() {
+// The state of the whole program takes longer to build than a run takes, and the forms on icon files only read it.
+inline EditState& sharedState() {
   static EditState state;
-  state.multiIcon.gMultiIconResult.clear();
-  state.multiIcon.gLoadAndReturn = state.multiIcon.gFileInPanel = state.multiIcon.gAddToFile = false;
-  state.gAlphaValues = {};
   return state;
 }
 
 struct User {
   User(Choices& choices, const ScratchFolder& folder) : boxes(choices), dialogs(choices, folder) {}
 
-  EditState& state = freshState();
+  EditState& state = sharedState();
   test::FakeEditor editor;
   test::RecordingDisplay display;
   NoPump pump;
   UserBoxes boxes;
   UserDialogs dialogs;
   clsGPDialog dialog{dialogs};
-  FilesContext context{state, editor, display, boxes, pump, dialog};
+  test::FakeClipboard clipboard;
+  const Context rooms{state, editor, display, boxes, pump};
+  Document document{rooms};
+  ColorSelection colors{rooms, dialog};
+  Drawing drawing{rooms, document, colors, clipboard};
+  MultiIconExchange exchange;
+  FileForms* forms = nullptr;
+  const FilesContext context{rooms, document, drawing, dialog, exchange, forms};
 };
 
 }  // namespace gp::fuzz

@@ -10,15 +10,15 @@ using gp::fuzz::require;
 constexpr int kSide = 32;
 
 void load(std::span<const std::uint8_t> file, const gp::CursorFacts& facts) {
-  static gp::EditState state;
-  gp::Surface image(kSide, kSide), mask(kSide, kSide);
-  if (gp::loadCursorPixels(file, state, image, mask) != gp::IconDefect::None) return;
-  require(image.width() == kSide && image.height() == kSide);
-  require(mask.width() == kSide && mask.height() == kSide);
+  const gp::DecodedIcon decoded = gp::loadCursorImage(file);
+  const gp::IconImage& icon = decoded.icon;
+  if (!decoded.isRead()) return require(icon.isEmpty());
+  require(icon.width() == kSide && icon.height() == kSide);
+  require(icon.mask.width() == kSide && icon.mask.height() == kSide);
   if (!facts.valid) return;
-  gp::describeLoadedCursor(state, facts, "/a/b.cur");
-  const gp::IconContainerRec& record = state.current();
+  const gp::IconContainerRec record = gp::recordOfLoadedCursor(facts, icon, "/a/b.cur");
   require(record.isCursor && record.hotspotX == facts.hotspotX && record.hotspotY == facts.hotspotY);
+  require(record.hasAlpha == (record.bitCount == gp::kBitsWithAlpha));
 }
 
 }  // namespace

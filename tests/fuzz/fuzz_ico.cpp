@@ -1,4 +1,5 @@
 // Icon files: directory, probe, and every entry decoded by its own size and as 32x32.
+#include "FuzzInput.h"
 #include "files/format/IconDecoder.h"
 #include "files/format/IconProbe.h"
 
@@ -6,13 +7,18 @@
 
 namespace {
 
+using gp::fuzz::require;
+
 // A file may tell more entries than it is worth decoding.
 constexpr int kMostEntries = 6;
 
 void decodeAs(std::span<const std::uint8_t> file, const gp::IconEntry& entry, int width, int height) {
-  gp::Surface image(width, height), mask(width, height);
-  gp::AlphaMatrix alpha;
-  (void)gp::decodeEntry(file, entry, width, height, {image, mask, alpha});
+  const gp::DecodedIcon decoded = gp::decodeEntry(file, entry, width, height);
+  const gp::IconImage& icon = decoded.icon;
+  if (!decoded.isRead()) return require(icon.isEmpty());
+  require(icon.width() == width && icon.height() == height);
+  require(icon.mask.width() == width && icon.mask.height() == height);
+  require(icon.hasAlphaValues() || icon.alpha == gp::AlphaMatrix());
 }
 
 }  // namespace

@@ -1,8 +1,8 @@
 // frmGPMultiIcon's rules over a file on disk: every entry clicked, then buttons pressed as the input says. The file
 // changes only after a Yes, and it stays one that can be read.
 #include "FuzzUser.h"
-#include "files/format/IconArrays.h"
 #include "files/browser/MultiIconBrowser.h"
+#include "files/format/IconArrays.h"
 
 #include <algorithm>
 
@@ -83,9 +83,9 @@ std::size_t sumOfImages(const gp::IconArrays& arrays) {
 }
 
 void browse(const std::string& path, User& user, Choices& choices) {
-  user.state.multiIcon.gMultiIconFile = path;
-  user.state.multiIcon.gMultiIconResult = "0";
-  user.state.multiIcon.gAddToFile = choices.next() % 4 == 3;
+  user.exchange.gMultiIconFile = path;
+  user.exchange.gMultiIconResult = "0";
+  user.exchange.gAddToFile = choices.next() % 4 == 3;
   Browser browser(user.context);
   bool open = true;
   browser.onUnload = [&open] { open = false; };

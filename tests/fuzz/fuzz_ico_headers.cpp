@@ -52,7 +52,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string path = folder.holding("looked-at.ico", before);
   Choices choices(before, kMostChoices);
   User user(choices, folder);
-  user.state.multiIcon.gMultiIconFile = path;
+  user.exchange.gMultiIconFile = path;
   gp::HeaderDiff form(user.context);
   form.activate();
   clickEvery(form);

@@ -2,10 +2,10 @@
 // rest stays as it was, and the file written at the end reads back as what was meant. What was meant is kept beside it
 // in the plainest way.
 #include "FuzzInput.h"
+#include "files/browser/MultiIconListing.h"
 #include "files/format/IconArrays.h"
 #include "files/format/IconSalvage.h"
 #include "files/format/IconUpdates.h"
-#include "files/browser/MultiIconListing.h"
 
 #include <algorithm>
 #include <numeric>
