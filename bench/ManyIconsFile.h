@@ -2,8 +2,8 @@
 // where there is no program around it.
 #pragma once
 
-#include "DrawingBench.h"
-#include "files/FilesContext.h"
+#include "BenchRooms.h"
+#include "files/Files.h"
 #include "files/IcoBuilder.h"
 
 #include <string>
@@ -30,43 +30,23 @@ inline test::Bytes manyIcons(Icons icons) {
   return build(file);
 }
 
-// Nobody is asked or told anything while a file is opened.
-class SilentBoxes : public MessageBoxes {
- public:
-  BoxAnswer show(const std::string&, BoxButtons, BoxIcon, BoxAnswer suggested) override { return suggested; }
-};
-
-class NoDialogs : public FileDialogs {
- public:
-  bool openFile(const FileDialogRequest&, std::string&, int&) override { return false; }
-  bool saveFile(const FileDialogRequest&, std::string&, int&) override { return false; }
-  bool chooseColor(Color&) override { return false; }
-  bool choosePrinter(PrinterRequest&) override { return false; }
-  std::string chooseFolder(const std::string&, const std::string&) override { return {}; }
-};
-
 class ManyIconsFile {
  public:
   explicit ManyIconsFile(Icons icons) : path_(folder_.write("many.ico", manyIcons(icons))) {}
 
   // The context of a browser of the file.
-  FilesContext& context() {
-    state_.multiIcon.gMultiIconFile = path_;
-    state_.multiIcon.gMultiIconResult = "0";
-    return context_;
+  const FilesContext& context() {
+    MultiIconExchange& exchange = files_.context().multiIcon;
+    exchange.gMultiIconFile = path_;
+    exchange.gMultiIconResult = "0";
+    return files_.context();
   }
 
  private:
   test::IconFolder folder_;
   std::string path_;
-  EditState state_;
-  test::FakeEditor editor_;
-  NoDisplay display_;
-  NoPump pump_;
-  SilentBoxes boxes_;
-  NoDialogs dialogs_;
-  clsGPDialog dialog_{dialogs_};
-  FilesContext context_{state_, editor_, display_, boxes_, pump_, dialog_};
+  BenchRooms rooms_;
+  Files files_{rooms_.context, rooms_.document, rooms_.drawing, rooms_.dialog, folder_.file("gptmp.ico")};
 };
 
 }  // namespace gp::bench

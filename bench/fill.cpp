@@ -1,35 +1,37 @@
 // What a click with Fill or Replace costs over a whole icon of 48 pixels, its step of Undo and the redraw of the
 // Editing Area included.
-#include "DrawingBench.h"
+#include "BenchRooms.h"
 #include "drawing/FillTools.h"
+
+#include <benchmark/benchmark.h>
 
 namespace {
 
-constexpr gp::ToolMouse kMiddle{gp::bench::kIconSize / 2, gp::bench::kIconSize / 2, 0, 0, 0};
+constexpr gp::ToolMouse kMiddle{.pixelX = gp::bench::kIconSize / 2, .pixelY = gp::bench::kIconSize / 2};
 
 // Two colours by turns, so that each click changes every pixel.
 template <typename Tool>
 void clickWholeIcon(benchmark::State& state) {
-  gp::bench::Drawing drawing;
-  Tool tool(drawing.state, drawing.editor);
+  gp::bench::IconScene scene;
+  Tool tool(scene.context, scene.document.editingArea, scene.drawing.history);
   for (auto _ : state) {
-    drawing.state.mCurrentColor ^= gp::kWhite;
+    scene.state.mCurrentColor ^= gp::kWhite;
     tool.release(kMiddle);
-    benchmark::DoNotOptimize(drawing.state.picDisp.GetPixel(0, 0));
+    benchmark::DoNotOptimize(scene.state.picDisp.GetPixel(0, 0));
   }
 }
 BENCHMARK(clickWholeIcon<gp::FillTool>)->Name("fillWholeIcon")->Unit(benchmark::kMicrosecond);
 BENCHMARK(clickWholeIcon<gp::ReplaceTool>)->Name("replaceWholeIcon")->Unit(benchmark::kMicrosecond);
 
 void fillWholeIconTransparent(benchmark::State& state) {
-  gp::bench::Drawing drawing;
-  gp::FillTool tool(drawing.state, drawing.editor);
+  gp::bench::IconScene scene;
+  gp::FillTool tool(scene.context, scene.document.editingArea, scene.drawing.history);
   gp::ToolMouse mouse = kMiddle;
   // By turns painted and made transparent: half of the clicks are plain fills.
   for (auto _ : state) {
     mouse.modifiers ^= 1;
     tool.release(mouse);
-    benchmark::DoNotOptimize(drawing.state.picDisp.GetPixel(0, 0));
+    benchmark::DoNotOptimize(scene.state.picDisp.GetPixel(0, 0));
   }
 }
 BENCHMARK(fillWholeIconTransparent)->Unit(benchmark::kMicrosecond);

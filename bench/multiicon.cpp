@@ -3,6 +3,8 @@
 #include "ManyIconsFile.h"
 #include "files/browser/MultiIconBrowser.h"
 
+#include <benchmark/benchmark.h>
+
 namespace {
 
 using namespace gp;

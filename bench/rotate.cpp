@@ -1,7 +1,5 @@
 // What turning an icon costs: the arithmetic alone, and Proceed with all that it shows.
-#include "../tests/support/FakeEditor.h"
-#include "document/EditingArea.h"
-#include "drawing/RotatePanel.h"
+#include "BenchRooms.h"
 #include "drawing/RotateSurface.h"
 
 #include <benchmark/benchmark.h>
@@ -10,22 +8,8 @@ namespace {
 
 using namespace gp;
 
-constexpr int kSize = 48;
+constexpr int kSize = bench::kIconSize;
 constexpr double kAngle = 33;
-
-class NoPump : public MessagePump {
- public:
-  void pump() override {}
-  void wait(int) override {}
-};
-
-class BenchEditor : public test::FakeEditor {
- public:
-  EditingArea* area = nullptr;
-  void ComposeCurrentIcon() override { area->ComposeCurrentIcon(); }
-  void MagnifyIcon() override { area->MagnifyIcon(); }
-  void UpdateCommands() override { calls.clear(); }
-};
 
 void rotateOneSurface(benchmark::State& state) {
   Surface source(kSize, kSize, 0x123456);
@@ -38,26 +22,13 @@ void rotateOneSurface(benchmark::State& state) {
 BENCHMARK(rotateOneSurface)->ArgName("antialias")->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 void rotateIcon(benchmark::State& state) {
-  EditState editState;
-  BenchEditor editor;
-  test::RecordingDisplay display;
-  NoPump pump;
-  EditingArea area(editState, editor, display, pump);
-  editor.area = &area;
-  DrawState draw;
-  Regions regions(editState, draw, editor, display);
-  RotatePanel panel(editState, editor, display, regions);
-  editState.current().used = editState.current().present = true;
-  editState.current().size = kSize;
-  area.SizeEditSurfaces(kSize);
-  area.ComposeCurrentIcon();
-  area.SetGrid(0);
+  bench::IconScene scene;
+  RotatePanel& panel = scene.drawing.rotatePanel;
   panel.setAngleText("33");
   for (auto _ : state) {
     state.PauseTiming();
-    editState.picImage.fill(0x123456);
-    editState.picMask.fill(kBlack);
-    display.parts.clear();
+    scene.state.picImage.fill(0x123456);
+    scene.state.picMask.fill(kBlack);
     state.ResumeTiming();
     panel.doRotateProceed();
   }

@@ -1,39 +1,40 @@
 // What a step of Undo costs on an icon of 48 pixels: recording it with a full history, and going back and forth.
-#include "DrawingBench.h"
+#include "BenchRooms.h"
+
+#include <benchmark/benchmark.h>
 
 namespace {
 
 void recordUndo(benchmark::State& state) {
-  gp::bench::Drawing drawing;
-  for (int i = 0; i < gp::kMaxUndoSteps; ++i) drawing.history.recordUndo();
+  gp::bench::IconScene scene;
+  for (int i = 0; i < gp::kMaxUndoSteps; ++i) scene.drawing.history.recordUndo();
   for (auto _ : state) {
-    drawing.state.picImage.SetPixelV(1, 1, gp::kWhite);
-    drawing.history.recordUndo();
-    benchmark::DoNotOptimize(drawing.history.undoCount());
+    scene.state.picImage.SetPixelV(1, 1, gp::kWhite);
+    scene.drawing.history.recordUndo();
+    benchmark::DoNotOptimize(scene.drawing.history.undoCount());
   }
 }
 BENCHMARK(recordUndo)->Unit(benchmark::kMicrosecond);
 
 // The stacks grow from nothing.
 void recordUndoOnAFreshIcon(benchmark::State& state) {
-  gp::bench::Drawing drawing;
+  gp::bench::IconScene scene;
   for (auto _ : state) {
-    drawing.history.clearUndoHistory();
-    drawing.history.recordUndo();
-    benchmark::DoNotOptimize(drawing.history.undoCount());
+    scene.drawing.history.clearUndoHistory();
+    scene.drawing.history.recordUndo();
+    benchmark::DoNotOptimize(scene.drawing.history.undoCount());
   }
 }
 BENCHMARK(recordUndoOnAFreshIcon)->Unit(benchmark::kMicrosecond);
 
 void undoAndRedo(benchmark::State& state) {
-  gp::bench::Drawing drawing;
-  drawing.state.picMask.fill(gp::kBlack);
-  drawing.history.recordUndo();
+  gp::bench::IconScene scene;
+  scene.state.picMask.fill(gp::kBlack);
+  scene.drawing.history.recordUndo();
   for (auto _ : state) {
-    drawing.history.doUndo();
-    drawing.history.doRedo();
-    benchmark::DoNotOptimize(drawing.state.picDisp.GetPixel(0, 0));
-    drawing.editor.calls.clear();
+    scene.drawing.undo.doUndo();
+    scene.drawing.undo.doRedo();
+    benchmark::DoNotOptimize(scene.state.picDisp.GetPixel(0, 0));
   }
 }
 BENCHMARK(undoAndRedo)->Unit(benchmark::kMicrosecond);

@@ -75,17 +75,13 @@ std::int64_t entryCount() {
   return count;
 }
 
-// One directory, and one pair of Surfaces that is sized anew for each icon, as the editor's are.
+// One directory for the file.
 void decodeEntries(const Sample& sample) {
-  static gp::Surface image, mask;
-  static gp::AlphaMatrix alpha;
   const gp::IconDirectory directory = gp::parseIconDirectory(sample.span());
   for (const int index : sample.entries) {
     const gp::IconEntry entry = directory.entry(index);
-    image.resize(entry.width, entry.height);
-    mask.resize(entry.width, entry.height);
-    benchmark::DoNotOptimize(gp::decodeEntry(sample.span(), entry, entry.width, entry.height, {image, mask, alpha}));
-    benchmark::DoNotOptimize(image.pixels().data());
+    const gp::DecodedIcon decoded = gp::decodeEntry(sample.span(), entry, entry.width, entry.height);
+    benchmark::DoNotOptimize(decoded.icon.image.pixels().data());
   }
 }
 

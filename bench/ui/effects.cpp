@@ -1,7 +1,7 @@
 // From a changed setting of an effect to the painted sample, on a painted 48x48 icon, in panels that are on the screen.
 #include "effects/Effects.h"
 
-#include "../ManyIconsFile.h"
+#include "../BenchRooms.h"
 #include "effects/ButtonizePanel.h"
 #include "effects/ConfinePanel.h"
 #include "effects/DisabledImagePanel.h"
@@ -13,6 +13,8 @@
 
 #include <QApplication>
 #include <QEvent>
+
+#include <benchmark/benchmark.h>
 
 namespace {
 
@@ -31,35 +33,23 @@ class PaintWatcher : public QObject {
   }
 };
 
-class PanelEditor : public bench::DrawingEditor {
- public:
-  EditState* state = nullptr;
-  void showPanel(int panel) override { state->screen.mActivePanel = panel; }
-  int colorBitCountOfImage() const override { return kTrueColor; }
-};
-
 // A disc of many colours, and the panels of its effects.
 class Panels {
  public:
   Panels() {
-    editor_.state = &drawing_.state;
     constexpr int kMiddle = bench::kIconSize / 2, kRadius = 20;
     for (int y = 0; y < bench::kIconSize; ++y)
       for (int x = 0; x < bench::kIconSize; ++x)
         if ((x - kMiddle) * (x - kMiddle) + (y - kMiddle) * (y - kMiddle) < kRadius * kRadius) {
-          drawing_.state.picImage.SetPixelV(x, y, rgb(x * 5, y * 5, x * y % 256));
-          drawing_.state.picMask.SetPixelV(x, y, kBlack);
+          scene_.state.picImage.SetPixelV(x, y, rgb(x * 5, y * 5, x * y % 256));
+          scene_.state.picMask.SetPixelV(x, y, kBlack);
         }
   }
   Effects& effects() { return effects_; }
 
  private:
-  bench::Drawing drawing_;
-  PanelEditor editor_;
-  bench::NoDisplay display_;
-  bench::NoPump pump_;
-  bench::SilentBoxes boxes_;
-  Effects effects_{drawing_.state, editor_, display_, boxes_, pump_};
+  bench::IconScene scene_;
+  Effects effects_{scene_.context, scene_.document, scene_.drawing.history};
 };
 
 // `change` makes the turn's setting.

@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QEvent>
 
+#include <benchmark/benchmark.h>
+
 namespace {
 
 using namespace gp;

@@ -18,8 +18,8 @@
 
 namespace {
 
-constexpr int kNewIcon48 = 4;  // index of mnuFileSub
-constexpr int kStroke = 40;    // pixels of the icon that the stroke goes over and comes back
+constexpr int kIconSize = 48;
+constexpr int kStroke = 40;  // pixels of the icon that the stroke goes over and comes back
 
 // The program without its start-up checks, with a new icon of 48 pixels and the grid on.
 class Program {
@@ -29,7 +29,7 @@ class Program {
     form_.show();
     settle();
     shell_.formActivate("");
-    shell_.iconSaver().doNewIcon(kNewIcon48);
+    shell_.files().iconSaver.doNewIcon(kIconSize);
     settle();
     send(QEvent::MouseButtonPress, 0);
   }

@@ -1,0 +1,119 @@
+// The rooms up to drawing, connected as the program connects them, without screen and user: what drawing tools, panels
+// and forms work on while they are measured.
+#pragma once
+
+#include "colour/ColorSelection.h"
+#include "document/Containers.h"
+#include "document/Display.h"
+#include "document/Document.h"
+#include "document/EditState.h"
+#include "document/Editor.h"
+#include "drawing/Drawing.h"
+#include "platform/dialogs/clsGPDialog.h"
+#include "platform/ports/Clipboard.h"
+#include "platform/ports/FileDialogs.h"
+#include "platform/ports/MessageBoxes.h"
+#include "platform/ports/MessagePump.h"
+
+#include <string>
+
+namespace gp::bench {
+
+class NoDisplay : public Display {
+ public:
+  void changed(DisplayPart) override {}
+  void repaintEditingArea(int, int, int, int) override {}
+  void showPopUpMenu() override {}
+  void nudgeMousePointer() override {}
+  void focusColorValue() override {}
+};
+
+class NoPump : public MessagePump {
+ public:
+  void pump() override {}
+  void wait(int) override {}
+};
+
+// Nobody is asked or told anything.
+class SilentBoxes : public MessageBoxes {
+ public:
+  BoxAnswer show(const std::string&, BoxButtons, BoxIcon, BoxAnswer suggested) override { return suggested; }
+};
+
+class NoDialogs : public FileDialogs {
+ public:
+  bool openFile(const FileDialogRequest&, std::string&, int&) override { return false; }
+  bool saveFile(const FileDialogRequest&, std::string&, int&) override { return false; }
+  bool chooseColor(Color&) override { return false; }
+  bool choosePrinter(PrinterRequest&) override { return false; }
+  std::string chooseFolder(const std::string&, const std::string&) override { return {}; }
+};
+
+class NoClipboard : public Clipboard {
+ public:
+  bool hasImage() override { return false; }
+  bool getImage(ClipboardImage&, int) override { return false; }
+  bool setImage(const Surface&) override { return false; }
+  void clear() override {}
+};
+
+// Calls for colour and drawing reach the rooms; the rest is left out.
+class RoomsEditor : public Editor {
+ public:
+  EditState* state = nullptr;
+  ColorSelection* colors = nullptr;
+  Drawing* drawing = nullptr;
+
+  void chooseColorChart() override { colors->chooseColorChart(); }
+  void showChart16() override { colors->imgGet16ColorChart(); }
+  void clearAllTools() override { drawing->tools.clearAllTools(); }
+  Tool selectedTool() const override { return drawing->tools.selectedTool(); }
+  void clearRegion() override { drawing->regions.clearRegion(); }
+  void redrawRegion() override { drawing->regions.redrawRegion(); }
+  void recordUndo() override { drawing->history.recordUndo(); }
+  void clearUndoHistory() override { drawing->history.clearUndoHistory(); }
+  void doOpenIconFileQuietly(const std::string&, bool&) override {}
+  void AskSaveCurrent(const std::string&, bool&) override {}
+  void setHotspotByClick(int, int) override {}
+  void UpdateCommands() override {}
+  void showPanel(int panel) override { state->screen.mActivePanel = panel; }
+  void closePanels() override { state->screen.mActivePanel = 0; }
+  void AddHistory(const std::string&) override {}
+  void ShowRunTimeError(const std::string&, const std::string&) override {}
+};
+
+struct BenchRooms {
+  EditState state;
+  RoomsEditor editor;
+  NoDisplay display;
+  NoPump pump;
+  SilentBoxes boxes;
+  NoDialogs dialogs;
+  NoClipboard clipboard;
+  clsGPDialog dialog{dialogs};
+  const Context context{state, editor, display, boxes, pump};
+  Document document{context};
+  ColorSelection colors{context, dialog};
+  Drawing drawing{context, document, colors, clipboard};
+
+  BenchRooms() {
+    editor.state = &state;
+    editor.colors = &colors;
+    editor.drawing = &drawing;
+  }
+  BenchRooms(const BenchRooms&) = delete;
+  BenchRooms& operator=(const BenchRooms&) = delete;
+};
+
+inline constexpr int kIconSize = 48;
+inline constexpr int kRoom = 600;  // pixels that picDisp finds on a large screen
+
+// A transparent icon of 48 pixels on an Editing Area with lines as grid, and its history.
+struct IconScene : BenchRooms {
+  IconScene() {
+    state.screen.dispContainerWidth = state.screen.dispContainerHeight = kRoom;
+    document.arrival.arrive(transparentIcon(kIconSize), NewRecord());
+  }
+};
+
+}  // namespace gp::bench
