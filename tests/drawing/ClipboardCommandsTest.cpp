@@ -1,5 +1,7 @@
 #include "drawing/RegionFixture.h"
 
+#include <functional>
+
 namespace gp {
 namespace {
 
@@ -244,6 +246,46 @@ TEST_F(ClipboardTest, APictureWithdrawnOrWithoutExtentLosesNeitherIconNorHistory
   EXPECT_EQ(history.undoCount(), 2);
   EXPECT_EQ(icon(), Rows{"ab"});
   expectAgreement();
+}
+
+TEST_F(ClipboardTest, APictureMeantForOneIconDoesNotGoIntoAnotherThatComesUpMeanwhile) {
+  makeIcon(16, {"b"});
+  panel.SwitchContainer(1);
+  makeIcon(16, {"c"});
+  clipboard.hold(picture({"aa"}));
+  pump.inside = [this] { panel.SwitchContainer(0); };
+  commands.doPaste(false);
+  EXPECT_EQ(state.mCurContainer, 0);
+  EXPECT_EQ(icon(), Rows{"b"});
+  EXPECT_FALSE(state.mRegionExists);
+  expectAgreement();
+  panel.SwitchContainer(1);
+  EXPECT_EQ(icon(), Rows{"c"});
+}
+
+TEST_F(ClipboardTest, APictureForANewIconThatWasLeftAtOnceDoesNotGoIntoAnother) {
+  clipboard.held = claimed(16, 16);
+  // Recording the step before, and both pumps of the arrival.
+  for (const int waits : {0, 1, 2}) {
+    state.mCurContainer = 0;
+    makeIcon(16, {"b"});
+    state.mCurContainer = 1;
+    ClearContainer(state);
+    panel.SwitchContainer(1);
+    int left = waits;
+    std::function<void()> leave = [&] {
+      if (left-- > 0)
+        pump.inside = leave;
+      else
+        panel.SwitchContainer(0);
+    };
+    pump.inside = leave;
+    commands.doPaste(false);
+    EXPECT_EQ(state.mCurContainer, 0) << waits;
+    EXPECT_EQ(icon(), Rows{"b"}) << waits;
+    EXPECT_FALSE(state.mRegionExists) << waits;
+    expectAgreement();
+  }
 }
 
 TEST_F(ClipboardTest, APastedPictureMovesOverWhatIsThereAndPutsItBack) {
