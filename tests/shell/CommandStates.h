@@ -83,85 +83,80 @@ struct CommandState {
 // For the names of tests.
 inline void PrintTo(const CommandState& state, std::ostream* out) { *out << state.name; }
 
-inline const std::vector<CommandState>& commandStates() {
-  static const std::vector<CommandState> states{
-      {"no icon", [](StateMaker&) {}, {}},
-      {"a new icon of 32x32", [](StateMaker& m) { m.newIcon32(); }, {.icon = true, .size32 = true, .used = {0}}},
-      {"a new icon of 16x16", [](StateMaker& m) { m.click("mnuFileSub", 3); }, {.icon = true, .used = {0}}},
-      {"an entry of a multi-icon file",
-       [](StateMaker& m) {
-         m.open(build(IcoFile{{anyEntry(32, 4), anyEntry(16, 4)}, 0, 1, {}}));
-       },
-       {.icon = true, .size32 = true, .multiIconFile = true, .largeChart = true, .used = {0}}},
-      {"a cursor",
-       [](StateMaker& m) { m.openCursor(build(cursorOf(anyPicture(32, 4), 3, 4))); },
-       {.icon = true, .size32 = true, .cursor = true, .largeChart = true, .used = {0}}},
-      {"an icon with alpha",
-       [](StateMaker& m) { m.open(build(anyEntry(32, 32))); },
-       {.icon = true, .size32 = true, .alpha = true, .largeChart = true, .used = {0}}},
-      {"an icon with discrepant headers",
-       [](StateMaker& m) { m.open(build(entryOf(anyPicture(32, 24), 0, 0))); },
-       {.icon = true, .size32 = true, .discrepant = true, .largeChart = true, .used = {0}}},
-      {"a region",
-       [](StateMaker& m) {
-         m.newIcon32();
-         m.click("mnuTools", kRegion);
-         m.drag(2, 2, 9, 9);
-       },
-       {.icon = true, .size32 = true, .region = true, .used = {0}}},
-      {"a floating region with pending paint",
-       [](StateMaker& m) {
-         m.newIcon32();
-         m.holdPicture();
-         m.click("mnuEditSub", 7);
-       },
-       {.icon = true, .size32 = true, .region = true, .clipboardPicture = true, .used = {0}}},
-      {"a step to undo",
-       [](StateMaker& m) { m.paint(); },
-       {.icon = true, .size32 = true, .undoStep = true, .used = {0}}},
-      {"a step to redo",
-       [](StateMaker& m) {
-         m.paint();
-         m.click("mnuEditSub", 1);
-       },
-       {.icon = true, .size32 = true, .redoStep = true, .used = {0}}},
-      {"a picture in the clipboard, and no icon", [](StateMaker& m) { m.holdPicture(); }, {.clipboardPicture = true}},
-      {"a side panel before the 256-colour chart",
-       [](StateMaker& m) {
-         m.newIcon32();
-         m.click("mnuPaletteSub", 1);
-         m.click("mnuRotateSubmenu", 4);
-       },
-       {.icon = true, .size32 = true, .used = {0}}},
-      {"the 256-colour chart",
-       [](StateMaker& m) {
-         m.newIcon32();
-         m.click("mnuPaletteSub", 1);
-       },
-       {.icon = true, .size32 = true, .largeChart = true, .used = {0}}},
-      {"the Icons List with a picture in the clipboard",
-       [](StateMaker& m) {
-         m.newIcon32();
-         m.holdPicture();
-         m.shell.showPanel(kIconsListPanel);
-       },
-       {.icon = true, .size32 = true, .clipboardPicture = true, .iconsList = true, .used = {0}}},
-      {"two icons, the second of them current",
-       [](StateMaker& m) {
-         m.newIcon32();
-         m.shell.document().iconsPanel.SwitchContainer(1);
-         m.newIcon32();
-       },
-       {.icon = true, .size32 = true, .current = 1, .used = {0, 1}}},
-      {"an empty container beside an icon",
-       [](StateMaker& m) {
-         m.newIcon32();
-         m.shell.document().iconsPanel.SwitchContainer(1);
-       },
-       {.current = 1, .used = {0}}},
-  };
-  return states;
-}
+inline const std::vector<CommandState> kCommandStates{
+    {"no icon", [](StateMaker&) {}, {}},
+    {"a new icon of 32x32", [](StateMaker& m) { m.newIcon32(); }, {.icon = true, .size32 = true, .used = {0}}},
+    {"a new icon of 16x16", [](StateMaker& m) { m.click("mnuFileSub", 3); }, {.icon = true, .used = {0}}},
+    {"an entry of a multi-icon file",
+     [](StateMaker& m) {
+       m.open(build(IcoFile{{anyEntry(32, 4), anyEntry(16, 4)}, 0, 1, {}}));
+     },
+     {.icon = true, .size32 = true, .multiIconFile = true, .largeChart = true, .used = {0}}},
+    {"a cursor",
+     [](StateMaker& m) { m.openCursor(build(cursorOf(anyPicture(32, 4), 3, 4))); },
+     {.icon = true, .size32 = true, .cursor = true, .largeChart = true, .used = {0}}},
+    {"an icon with alpha",
+     [](StateMaker& m) { m.open(build(anyEntry(32, 32))); },
+     {.icon = true, .size32 = true, .alpha = true, .largeChart = true, .used = {0}}},
+    {"an icon with discrepant headers",
+     [](StateMaker& m) { m.open(build(entryOf(anyPicture(32, 24), 0, 0))); },
+     {.icon = true, .size32 = true, .discrepant = true, .largeChart = true, .used = {0}}},
+    {"a region",
+     [](StateMaker& m) {
+       m.newIcon32();
+       m.click("mnuTools", kRegion);
+       m.drag(2, 2, 9, 9);
+     },
+     {.icon = true, .size32 = true, .region = true, .used = {0}}},
+    {"a floating region with pending paint",
+     [](StateMaker& m) {
+       m.newIcon32();
+       m.holdPicture();
+       m.click("mnuEditSub", 7);
+     },
+     {.icon = true, .size32 = true, .region = true, .clipboardPicture = true, .used = {0}}},
+    {"a step to undo", [](StateMaker& m) { m.paint(); }, {.icon = true, .size32 = true, .undoStep = true, .used = {0}}},
+    {"a step to redo",
+     [](StateMaker& m) {
+       m.paint();
+       m.click("mnuEditSub", 1);
+     },
+     {.icon = true, .size32 = true, .redoStep = true, .used = {0}}},
+    {"a picture in the clipboard, and no icon", [](StateMaker& m) { m.holdPicture(); }, {.clipboardPicture = true}},
+    {"a side panel before the 256-colour chart",
+     [](StateMaker& m) {
+       m.newIcon32();
+       m.click("mnuPaletteSub", 1);
+       m.click("mnuRotateSubmenu", 4);
+     },
+     {.icon = true, .size32 = true, .used = {0}}},
+    {"the 256-colour chart",
+     [](StateMaker& m) {
+       m.newIcon32();
+       m.click("mnuPaletteSub", 1);
+     },
+     {.icon = true, .size32 = true, .largeChart = true, .used = {0}}},
+    {"the Icons List with a picture in the clipboard",
+     [](StateMaker& m) {
+       m.newIcon32();
+       m.holdPicture();
+       m.shell.showPanel(kIconsListPanel);
+     },
+     {.icon = true, .size32 = true, .clipboardPicture = true, .iconsList = true, .used = {0}}},
+    {"two icons, the second of them current",
+     [](StateMaker& m) {
+       m.newIcon32();
+       m.shell.document().iconsPanel.SwitchContainer(1);
+       m.newIcon32();
+     },
+     {.icon = true, .size32 = true, .current = 1, .used = {0, 1}}},
+    {"an empty container beside an icon",
+     [](StateMaker& m) {
+       m.newIcon32();
+       m.shell.document().iconsPanel.SwitchContainer(1);
+     },
+     {.current = 1, .used = {0}}},
+};
 
 // One thing that a command needs, and what is said where it is missing: an empty text is nothing.
 struct Need {
@@ -177,57 +172,54 @@ struct CommandNeed {
   std::vector<Need> needs;
 };
 
-inline const std::vector<CommandNeed>& commandNeeds() {
-  static const std::vector<CommandNeed> all{
-      {"mnuFileSubCustomSize", {kNoIndex}, {}},
-      {"mnuFileSub", {2, 3, 4, 5, 7, 9}, {}},
-      {"mnuFileSub", {12, 13, 19, 20}, {kNeedsIcon}},
-      {"mnuFileSub", {15}, {kNeedsIcon, {[](const Facts& f, int) { return f.multiIconFile; }, ""}}},
-      {"mnuFileSub", {16}, {kNeedsIcon, {[](const Facts& f, int) { return !f.multiIconFile; }, ""}}},
-      {"mnuFileSub", {18}, {kNeedsIcon, {[](const Facts& f, int) { return f.size32; }, "For cursor of 32x32 only"}}},
-      {"mnuFileHistory", {1, 2, 3, 4, 5, 6}, {}},
-      {"mnuFileExit", {kNoIndex}, {}},
-      {"mnuPopUpSub", {0}, {}},
-      {"mnuPopUpSub", {3}, {kNeedsIcon, {[](const Facts& f, int) { return f.multiIconFile; }, ""}}},
-      {"mnuPopUpSub", {7}, {kNeedsIcon, {[](const Facts& f, int) { return f.cursor; }, ""}}},
-      {"mnuTools", {0}, {{[](const Facts& f, int) { return f.icon; }, ""}}},
-      {"mnuTools", {2}, {kNeedsIcon, {[](const Facts& f, int) { return f.largeChart; }, ""}}},
-      {"mnuTools", {4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15}, {kNeedsIcon}},
-      {"mnuEditSub", {0, 1}, {kNeedsIcon, {[](const Facts& f, int) { return f.undoStep; }, ""}}},
-      {"mnuEditSub", {2}, {kNeedsIcon, {[](const Facts& f, int) { return f.redoStep; }, ""}}},
-      {"mnuEditSub", {4, 5}, {{[](const Facts& f, int) { return f.region; }, ""}}},
-      {"mnuEditSub", {6, 13}, {kNeedsIcon}},
-      {"mnuEditSub",
-       {7, 8},
-       {{[](const Facts& f, int) { return !f.iconsList; }, ""},
-        {[](const Facts& f, int) { return f.clipboardPicture; }, "No image in clipboard yet"}}},
-      {"mnuEditSub", {9}, {}},
-      {"mnuEditSubCopyToContainer",
-       {0, 1, 2, 3, 4, 5},
-       {kNeedsIcon,
-        {[](const Facts& f, int index) { return index != f.current; }, "Cannot copy to current container itself"}}},
-      {"mnuEditSubCopyFromContainer",
-       {0, 1, 2, 3, 4, 5},
-       {{[](const Facts& f, int index) { return f.used.contains(index); }, "Cannot copy from empty container"},
-        {[](const Facts& f, int index) { return index != f.current; }, ""}}},
-      {"mnuRotateSubmenu", {0, 1, 2, 3, 4}, {kNeedsIcon}},
-      {"mnuEffectsSub", {3, 11, 12, 13, 14, 21}, {kNeedsIcon}},
-      // Effects that the program does not have yet.
-      {"mnuEffectsSub", {0, 2, 4, 6, 7, 8, 9, 16, 17, 18, 20, 23, 24}, {{[](const Facts&, int) { return false; }, ""}}},
-      {"mnuEffectsSub3", {0, 1, 2}, {kNeedsIcon}},
-      {"mnuBrushSize", {0, 1, 2, 3, 4, 5}, {}},
-      {"mnuPaletteSub", {0, 1, 2, 4, 5}, {}},
-      {"mnuEnquiryCurrent", {5}, {kNeedsIcon, {[](const Facts& f, int) { return f.discrepant; }, ""}}},
-      {"mnuEnquiryCurrent", {9}, {kNeedsIcon, {[](const Facts& f, int) { return f.multiIconFile; }, ""}}},
-      {"mnuEnquiryCurrent", {11}, {kNeedsIcon, {[](const Facts& f, int) { return f.cursor; }, ""}}},
-      {"mnuOptionsSubGrid", {0, 1, 2, 3, 4, 5, 6}, {}},
-      {"mnuOptionsStartScreenSub", {0, 1, 2}, {}},
-      {"mnuOptionsSub", {3, 5, 7, 11, 12, 13, 14, 16}, {}},
-      {"mnuOptionsSub", {9}, {{[](const Facts& f, int) { return !f.region; }, ""}}},
-      {"mnuHelpSub", {0, 1}, {}},
-  };
-  return all;
-}
+inline const std::vector<CommandNeed> kCommandNeeds{
+    {"mnuFileSubCustomSize", {kNoIndex}, {}},
+    {"mnuFileSub", {2, 3, 4, 5, 7, 9}, {}},
+    {"mnuFileSub", {12, 13, 19, 20}, {kNeedsIcon}},
+    {"mnuFileSub", {15}, {kNeedsIcon, {[](const Facts& f, int) { return f.multiIconFile; }, ""}}},
+    {"mnuFileSub", {16}, {kNeedsIcon, {[](const Facts& f, int) { return !f.multiIconFile; }, ""}}},
+    {"mnuFileSub", {18}, {kNeedsIcon, {[](const Facts& f, int) { return f.size32; }, "For cursor of 32x32 only"}}},
+    {"mnuFileHistory", {1, 2, 3, 4, 5, 6}, {}},
+    {"mnuFileExit", {kNoIndex}, {}},
+    {"mnuPopUpSub", {0}, {}},
+    {"mnuPopUpSub", {3}, {kNeedsIcon, {[](const Facts& f, int) { return f.multiIconFile; }, ""}}},
+    {"mnuPopUpSub", {7}, {kNeedsIcon, {[](const Facts& f, int) { return f.cursor; }, ""}}},
+    {"mnuTools", {0}, {{[](const Facts& f, int) { return f.icon; }, ""}}},
+    {"mnuTools", {2}, {kNeedsIcon, {[](const Facts& f, int) { return f.largeChart; }, ""}}},
+    {"mnuTools", {4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15}, {kNeedsIcon}},
+    {"mnuEditSub", {0, 1}, {kNeedsIcon, {[](const Facts& f, int) { return f.undoStep; }, ""}}},
+    {"mnuEditSub", {2}, {kNeedsIcon, {[](const Facts& f, int) { return f.redoStep; }, ""}}},
+    {"mnuEditSub", {4, 5}, {{[](const Facts& f, int) { return f.region; }, ""}}},
+    {"mnuEditSub", {6, 13}, {kNeedsIcon}},
+    {"mnuEditSub",
+     {7, 8},
+     {{[](const Facts& f, int) { return !f.iconsList; }, ""},
+      {[](const Facts& f, int) { return f.clipboardPicture; }, "No image in clipboard yet"}}},
+    {"mnuEditSub", {9}, {}},
+    {"mnuEditSubCopyToContainer",
+     {0, 1, 2, 3, 4, 5},
+     {kNeedsIcon,
+      {[](const Facts& f, int index) { return index != f.current; }, "Cannot copy to current container itself"}}},
+    {"mnuEditSubCopyFromContainer",
+     {0, 1, 2, 3, 4, 5},
+     {{[](const Facts& f, int index) { return f.used.contains(index); }, "Cannot copy from empty container"},
+      {[](const Facts& f, int index) { return index != f.current; }, ""}}},
+    {"mnuRotateSubmenu", {0, 1, 2, 3, 4}, {kNeedsIcon}},
+    {"mnuEffectsSub", {3, 11, 12, 13, 14, 21}, {kNeedsIcon}},
+    // Effects that the program does not have yet.
+    {"mnuEffectsSub", {0, 2, 4, 6, 7, 8, 9, 16, 17, 18, 20, 23, 24}, {{[](const Facts&, int) { return false; }, ""}}},
+    {"mnuEffectsSub3", {0, 1, 2}, {kNeedsIcon}},
+    {"mnuBrushSize", {0, 1, 2, 3, 4, 5}, {}},
+    {"mnuPaletteSub", {0, 1, 2, 4, 5}, {}},
+    {"mnuEnquiryCurrent", {5}, {kNeedsIcon, {[](const Facts& f, int) { return f.discrepant; }, ""}}},
+    {"mnuEnquiryCurrent", {9}, {kNeedsIcon, {[](const Facts& f, int) { return f.multiIconFile; }, ""}}},
+    {"mnuEnquiryCurrent", {11}, {kNeedsIcon, {[](const Facts& f, int) { return f.cursor; }, ""}}},
+    {"mnuOptionsSubGrid", {0, 1, 2, 3, 4, 5, 6}, {}},
+    {"mnuOptionsStartScreenSub", {0, 1, 2}, {}},
+    {"mnuOptionsSub", {3, 5, 7, 11, 12, 13, 14, 16}, {}},
+    {"mnuOptionsSub", {9}, {{[](const Facts& f, int) { return !f.region; }, ""}}},
+    {"mnuHelpSub", {0, 1}, {}},
+};
 
 // The entries of the pop-up menu that run, and the commands of the menu bar that they are.
 struct PopUpEntry {
@@ -239,10 +231,10 @@ inline constexpr std::array<PopUpEntry, 3> kPopUpEntries{
     {{0, "mnuFileSub", 7}, {3, "mnuEnquiryCurrent", 9}, {7, "mnuEnquiryCurrent", 11}}};
 
 inline const CommandNeed* findNeed(const Command& row) {
-  const auto found = std::ranges::find_if(commandNeeds(), [&row](const CommandNeed& need) {
+  const auto found = std::ranges::find_if(kCommandNeeds, [&row](const CommandNeed& need) {
     return need.control == row.control && std::ranges::find(need.indices, row.index) != need.indices.end();
   });
-  return found == commandNeeds().end() ? nullptr : &*found;
+  return found == kCommandNeeds.end() ? nullptr : &*found;
 }
 
 // Why a command cannot run; null when it can. It must have its needs told above.

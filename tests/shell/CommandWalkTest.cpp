@@ -53,7 +53,7 @@ std::string nameOf(const Command& row) { return objectNameOf(row.control, row.in
 
 TEST(CommandWalk, TheNeedsOfEveryCommandAreToldOnce) {
   std::multiset<std::string> told, there;
-  for (const CommandNeed& need : commandNeeds())
+  for (const CommandNeed& need : kCommandNeeds)
     for (const int index : need.indices) told.insert(objectNameOf(need.control, index));
   for (const Command& row : commandTable())
     if (row.run) there.insert(nameOf(row));
@@ -61,7 +61,7 @@ TEST(CommandWalk, TheNeedsOfEveryCommandAreToldOnce) {
 }
 
 TEST(CommandWalk, EachStateIsWhatItsFactsTell) {
-  for (const CommandState& state : commandStates()) {
+  for (const CommandState& state : kCommandStates) {
     World world(state);
     const EditState& now = world.shell.state();
     const Facts& facts = state.facts;
@@ -77,7 +77,7 @@ TEST(CommandWalk, EachStateIsWhatItsFactsTell) {
 }
 
 TEST(CommandWalk, ACommandIsEnabledWhereItsNeedsAreMet) {
-  for (const CommandState& state : commandStates()) {
+  for (const CommandState& state : kCommandStates) {
     World world(state);
     for (const Command& row : commandTable())
       if (row.run) {
@@ -88,7 +88,7 @@ TEST(CommandWalk, ACommandIsEnabledWhereItsNeedsAreMet) {
 }
 
 TEST(CommandWalk, ASubMenuIsEnabledWithAnyOfItsCommandsAndAnythingElseWithoutABodyIsNot) {
-  for (const CommandState& state : commandStates()) {
+  for (const CommandState& state : kCommandStates) {
     World world(state);
     const auto isLive = [&](const Command& row) { return row.run && !refusalOf(row, state.facts); };
     for (const Command& row : commandTable()) {
@@ -101,7 +101,7 @@ TEST(CommandWalk, ASubMenuIsEnabledWithAnyOfItsCommandsAndAnythingElseWithoutABo
 }
 
 TEST(CommandWalk, WhereItsNeedsAreNotMetACommandSaysWhyAndChangesNothing) {
-  for (const CommandState& state : commandStates()) {
+  for (const CommandState& state : kCommandStates) {
     World world(state);
     const Snapshot before = world.snapshot();
     for (const Command& row : commandTable()) {
@@ -116,7 +116,7 @@ TEST(CommandWalk, WhereItsNeedsAreNotMetACommandSaysWhyAndChangesNothing) {
 }
 
 TEST(CommandWalk, WhatHasNoBodyDoesNothing) {
-  for (const CommandState& state : commandStates()) {
+  for (const CommandState& state : kCommandStates) {
     World world(state);
     const Snapshot before = world.snapshot();
     for (const Command& row : commandTable())
@@ -143,7 +143,7 @@ void expectSame(const Outcome& menu, const Outcome& other, const std::string& wh
 }
 
 TEST(CommandWalk, AToolbarButtonIsItsCommand) {
-  for (const CommandState& state : commandStates())
+  for (const CommandState& state : kCommandStates)
     for (const ToolbarButton& button : toolbarTable()) {
       const Command& row = *findCommand(button.control, button.commandIndex);
       if (!row.run) continue;
@@ -154,7 +154,7 @@ TEST(CommandWalk, AToolbarButtonIsItsCommand) {
 }
 
 TEST(CommandWalk, AnEntryOfThePopUpMenuIsItsCommand) {
-  for (const CommandState& state : commandStates())
+  for (const CommandState& state : kCommandStates)
     for (const PopUpEntry& entry : kPopUpEntries) {
       const Command& popUp = *findCommand("mnuPopUpSub", entry.index);
       const Command& row = *findCommand(entry.control, entry.commandIndex);

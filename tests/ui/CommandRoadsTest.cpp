@@ -120,7 +120,7 @@ std::string stateNameOf(const testing::TestParamInfo<CommandState>& info) {
     if (std::isalnum(static_cast<unsigned char>(*at))) name += *at;
   return name;
 }
-INSTANTIATE_TEST_SUITE_P(With, CommandRoads, testing::ValuesIn(commandStates()), stateNameOf);
+INSTANTIATE_TEST_SUITE_P(With, CommandRoads, testing::ValuesIn(kCommandStates), stateNameOf);
 
 // What comes of a command by one road, in a program of its own.
 struct Outcome {
@@ -140,7 +140,7 @@ class OneCommand : public testing::TestWithParam<const Command*> {
  protected:
   const Command& row = *GetParam();
   const CommandState& state = *std::ranges::find_if(
-      commandStates(), [this](const CommandState& candidate) { return canRun(row, candidate.facts); });
+      kCommandStates, [this](const CommandState& candidate) { return canRun(row, candidate.facts); });
   const Outcome menu = outcomeOf(state, [this](FormWorld& world) { world.action(row)->trigger(); });
 
   void expectSame(const Outcome& other, const std::string& road) {
@@ -167,7 +167,7 @@ TEST_P(OneCommand, IsReachedByItsEntryKeyAndButtonAlike) {
 std::vector<const Command*> commandsOfManyRoads() {
   std::vector<const Command*> rows;
   for (const Command& row : commandTable()) {
-    if (std::ranges::none_of(commandStates(), [&](const CommandState& s) { return canRun(row, s.facts); })) continue;
+    if (std::ranges::none_of(kCommandStates, [&](const CommandState& s) { return canRun(row, s.facts); })) continue;
     const bool hasButton = std::ranges::any_of(toolbarTable(), [&](const ToolbarButton& button) {
       return findCommand(button.control, button.commandIndex) == &row;
     });
