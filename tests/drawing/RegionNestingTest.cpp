@@ -133,7 +133,7 @@ class NestingFixture : public test::RegionFixture {
     if (!state.current().present) return;
     if (tools.selectedTool() == kShift)
       boxes.expectAsked("Terminate Shift operation and accept the current image?\n", BoxAnswer::Yes);
-    (transforms.*command)();
+    std::invoke(command, transforms);
   }
   void otherContainer() { panel.SwitchContainer(1); }
   void sameContainer() { panel.SwitchContainer(state.mCurContainer); }

@@ -1,5 +1,7 @@
 #include "drawing/RegionFixture.h"
 
+#include <functional>
+
 namespace gp {
 namespace {
 
@@ -152,7 +154,7 @@ TEST_F(TransformsTest, EachCommandWorksOnARegionOfOneRow) {
                         {&Transforms::RotateRight, {"ba"}, {"b", "a"}}}) {
     makeIcon(16, c.drawn);
     mark(0, 0, 1, 0);
-    (transforms.*c.command)();
+    std::invoke(c.command, transforms);
     EXPECT_EQ(icon(), c.turned);
   }
   transforms.rotateAtAnyAngle();
@@ -163,7 +165,7 @@ TEST_F(TransformsTest, AFlipKeepsTheBoxOfTheRegion) {
   makeIcon(16, {"", ".abc", ".cba"});
   mark(1, 1, 3, 2);
   for (void (Transforms::*command)() : {&Transforms::RotateFlipHoriz, &Transforms::RotateFlipVertical}) {
-    (transforms.*command)();
+    std::invoke(command, transforms);
     EXPECT_EQ(boxInPixels(), (Rows{"1,1", "3,2"}));
     EXPECT_EQ(label(), "Region: Start [2, 2]   W=3 H=2");
   }
@@ -195,7 +197,7 @@ TEST_F(TransformsTest, EveryCommandAsksToEndAShiftAndDoesNothingWhenTheUserKeeps
        {&Transforms::RotateFlipHoriz, &Transforms::RotateFlipVertical, &Transforms::RotateLeft,
         &Transforms::RotateRight, &Transforms::rotateAtAnyAngle}) {
     boxes.expectAsked("Terminate Shift operation and accept the current image?\n", BoxAnswer::No);
-    (transforms.*command)();
+    std::invoke(command, transforms);
     EXPECT_EQ(icon(), Rows{".ab"});
     EXPECT_EQ(tools.selectedTool(), kShift);
     EXPECT_EQ(state.screen.mActivePanel, kColorPanel);

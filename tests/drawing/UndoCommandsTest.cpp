@@ -1,5 +1,7 @@
 #include "drawing/DrawingFixture.h"
 
+#include <functional>
+
 namespace gp {
 namespace {
 
@@ -152,7 +154,7 @@ TEST_F(UndoCommandsTest, EachCommandBringsTheColourPanelForwardOnlyWhereItIsHidd
   int shown = 0;
   for (void (UndoCommands::*command)() : {&UndoCommands::doRedo, &UndoCommands::doUndo, &UndoCommands::doUndoAll}) {
     state.screen.mActivePanel = 5;
-    (undo.*command)();
+    std::invoke(command, undo);
     EXPECT_EQ(editor.count("showPanel 0"), ++shown);
     EXPECT_EQ(state.screen.mActivePanel, 0);
   }

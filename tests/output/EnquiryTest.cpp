@@ -4,6 +4,7 @@
 #include "output/Output.h"
 #include "support/Rooms.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace gp::test {
@@ -60,7 +61,7 @@ TEST_F(EnquiryTest, AFileThatIsGoneIsTold) {
   record().fromMultiIconFile = true;
   for (void (Enquiry::*entry)() : {&Enquiry::showOriginalHeaders, &Enquiry::showIconsInFile}) {
     boxes.expectTold(folder.file("gone.ico") + "\nfile can no longer be found!", BoxIcon::Exclamation);
-    (enquiry.*entry)();
+    std::invoke(entry, enquiry);
   }
   EXPECT_TRUE(forms.shown.empty());
 }
