@@ -1,11 +1,12 @@
 #!/usr/bin/python3
 """Runs every test_* function of every test_*.py here against the built program, each on a desktop of its own.
 
-    tests/e2e/run_all.py [--build DIR] [PART-OF-NAME...]
+    tests/e2e/run_all.py [--build DIR] [--jobs N] [PART-OF-NAME...]
 
-Prints PASS, FAIL or SKIP and the seconds per test; the last line counts them.
+Several run side by side: each has its own X server, window manager, buses, home and folder. Prints PASS, FAIL or SKIP and the seconds per test; the last line counts them.
 """
 import argparse
+import concurrent.futures
 import glob
 import os
 import re
@@ -17,18 +18,21 @@ import time
 HERE = os.path.dirname(os.path.realpath(__file__))
 SECONDS_PER_TEST = 900  # on a busy machine
 SKIPPED = 77
-FUNCTION = re.compile(r'^def (test_\w+)\(', re.M)
+JOBS_PER_PROCESSOR = 3  # most of a test's time the program waits for its user, and the test for the program
+FUNCTION = re.compile(r'^def (test_\w+)\(.*?(?=^\S|\Z)', re.M | re.S)
 
 
 def discover(parts):
-    """(file, function) of each test whose name holds one of `parts`."""
+    """(file, function) of each test whose name holds one of `parts`, long ones first."""
+    found = []
     for path in sorted(glob.glob(os.path.join(HERE, 'test_*.py'))):
         with open(path, encoding='utf-8') as file:
-            functions = FUNCTION.findall(file.read())
-        for function in functions:
+            functions = [(match[1], len(match[0])) for match in FUNCTION.finditer(file.read())]
+        for function, length in functions:
             name = f'{os.path.basename(path)}:{function}'
             if not parts or any(part in name for part in parts):
-                yield path, function
+                found.append((length, path, function))
+    return [(path, function) for _, path, function in sorted(found, key=lambda test: -test[0])]
 
 
 def run(executable, pictures, path, function):
@@ -50,22 +54,27 @@ def run(executable, pictures, path, function):
             pass
 
 
+def timed(executable, pictures, test):
+    start = time.monotonic()
+    status, output = run(executable, pictures, *test)
+    return test[1], {0: 'PASS', SKIPPED: 'SKIP'}.get(status, 'FAIL'), time.monotonic() - start, output
+
+
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument('--build', default=os.path.join(HERE, '..', '..', 'build'))
+    parser.add_argument('--jobs', type=int, default=JOBS_PER_PROCESSOR * (os.cpu_count() or 1))
     parser.add_argument('parts', nargs='*')
     options = parser.parse_args()
     executable = os.path.abspath(os.path.join(options.build, 'glimmerpane'))
     pictures = os.path.join(os.path.abspath(options.build), 'e2e')
-    tests = list(discover(options.parts))
+    tests = discover(options.parts)
     counts = {'PASS': 0, 'FAIL': 0, 'SKIP': 0}
-    # One after another: each has a desktop to itself, and a person does not work on a machine that is busy elsewhere.
-    for test in tests:
-        start = time.monotonic()
-        status, output = run(executable, pictures, *test)
-        word = {0: 'PASS', SKIPPED: 'SKIP'}.get(status, 'FAIL')
-        counts[word] += 1
-        print(word, test[1], f'({time.monotonic() - start:.0f} s)', '' if word == 'PASS' else '\n' + output, flush=True)
+    with concurrent.futures.ThreadPoolExecutor(options.jobs) as pool:
+        for done in concurrent.futures.as_completed([pool.submit(timed, executable, pictures, test) for test in tests]):
+            name, word, seconds, output = done.result()
+            counts[word] += 1
+            print(word, name, f'({seconds:.0f} s)', '' if word == 'PASS' else '\n' + output, flush=True)
     print(f'{counts["PASS"]} passed, {counts["FAIL"]} failed, {counts["SKIP"]} skipped')
     return 1 if counts['FAIL'] or not tests else 0
 

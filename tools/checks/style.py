@@ -1,22 +1,35 @@
-"""The layout of the sources is what clang-format makes of them."""
+"""The layout of the sources is what clang-format makes of them. What was found good is remembered."""
 import re
 import subprocess
 
-from tree import inParallel
+from tree import Cache, inParallel, processors
 
 TOOL = 'clang-format-14'
 PLACES = ('src', 'tests', 'bench')
 COMPLAINT = re.compile(r'^(.*?):(\d+):\d+: error:', re.M)
 
 
-def formatProblem(tree, name):
-    """The first line that is laid out otherwise, or an empty text."""
-    done = subprocess.run([TOOL, '--dry-run', '-Werror', '--ferror-limit=1', tree.path(name)], capture_output=True, text=True)
-    if done.returncode == 0:
-        return ''
-    match = COMPLAINT.search(done.stderr)
-    return f'{name}:{match.group(2)}: run {TOOL} -i' if match else f'{name}: {done.stderr.strip()[:120]}'
+def problems(tree, names):
+    """{file: its first line that is laid out otherwise}; a tool that fails without naming one stands for all files."""
+    done = subprocess.run([TOOL, '--dry-run', '-Werror', *map(tree.path, names)], capture_output=True, text=True)
+    found = {}
+    for path, line in COMPLAINT.findall(done.stderr):
+        found.setdefault(path.replace(tree.root + '/', ''), f'{line}: run {TOOL} -i')
+    if done.returncode and not found:
+        found = {name: done.stderr.strip()[:120] for name in names}
+    return found
 
 
 def check(tree):
-    return [problem for problem in inParallel(lambda name: formatProblem(tree, name), tree.sources(*PLACES)) if problem]
+    cache = Cache(tree, 'format')
+    settings = tree.text('.clang-format') if tree.has('.clang-format') else ''
+    marks = {name: tree.mark([name], settings, TOOL) for name in tree.sources(*PLACES)}
+    changed = [name for name in marks if not cache.has(marks[name])]
+    pieces = [changed[first::processors()] for first in range(processors())]
+    wrong = {}
+    for found in inParallel(lambda names: problems(tree, names), [piece for piece in pieces if piece]):
+        wrong.update(found)
+    for name in changed:
+        if name not in wrong:
+            cache.add(marks[name])
+    return [f'{name}:{problem}' for name, problem in sorted(wrong.items())]

@@ -4,9 +4,11 @@ import hashlib
 import json
 import os
 import re
+import shlex
 import subprocess
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]')
+KEPT_FLAGS = ('-I', '-D', '-f')
 SKIPPED_FOLDERS = ('.git', '.cache', '__pycache__')
 
 
@@ -16,6 +18,7 @@ class Tree:
         self.build = os.path.abspath(build) if build else os.path.join(self.root, 'build')
         self._closures = {}
         self._includes = {}
+        self._commands = None
 
     def path(self, relative):
         return os.path.join(self.root, relative)
@@ -59,15 +62,21 @@ class Tree:
             self._includes[relative] = [(number, m.group(1), m.group(2)) for number, m in matches if m]
         return self._includes[relative]
 
+    def header(self, relative, target):
+        """The project's header that `relative` names `target`; None without one."""
+        places = ('src/' + target, 'tests/' + target, os.path.normpath(os.path.join(os.path.dirname(relative), target)))
+        return next((place for place in places if self.has(place)), None)
+
     def closure(self, relative):
         """The file and every project header it reaches through quoted includes."""
         if relative in self._closures:
             return self._closures[relative]
         seen, waiting = {relative}, [relative]
         while waiting:
-            for _, kind, target in self.includes(waiting.pop()):
-                header = 'src/' + target
-                if kind == '"' and header not in seen and self.has(header):
+            name = waiting.pop()
+            for _, kind, target in self.includes(name):
+                header = self.header(name, target) if kind == '"' else None
+                if header and header not in seen:
                     seen.add(header)
                     waiting.append(header)
         self._closures[relative] = sorted(seen)
@@ -75,19 +84,41 @@ class Tree:
 
     def fingerprint(self, relative, *more):
         """Changes when the file, a header that it reaches, or one of `more` changes."""
+        return self.mark(self.closure(relative), *more)
+
+    def mark(self, names, *more):
+        """Changes when one of these files or of `more` changes."""
         digest = hashlib.sha256('\0'.join(more).encode())
-        for name in self.closure(relative):
+        for name in names:
             digest.update(name.encode() + b'\0' + self.text(name).encode())
         return digest.hexdigest()
 
     def commands(self):
         """Compiler arguments per source, from the build's compile_commands.json; empty before the first build."""
+        if self._commands is None:
+            self._commands = self.readCommands()
+        return self._commands
+
+    def readCommands(self):
         path = os.path.join(self.build, 'compile_commands.json')
         if not os.path.isfile(path):
             return {}
         with open(path, encoding='utf-8') as file:
             entries = json.load(file)
-        return {os.path.relpath(entry['file'], self.root): entry['command'].split() for entry in entries}
+        return {os.path.relpath(entry['file'], self.root): shlex.split(entry['command']) for entry in entries}
+
+    def compilerFlags(self, relative):
+        """Where the build finds headers for a source and what it defines; None when the build does not compile it."""
+        command = self.commands().get(relative)
+        if command is None:
+            return None
+        kept = []
+        for flag, following in zip(command, command[1:] + ['']):
+            if flag == '-isystem':
+                kept += [flag, following]
+            elif flag.startswith(KEPT_FLAGS):
+                kept.append(flag)
+        return kept
 
 
 def isUi(relative):
@@ -110,7 +141,11 @@ class Cache:
         open(os.path.join(self.folder, fingerprint), 'w').close()
 
 
+def processors():
+    return os.cpu_count() or 1
+
+
 def inParallel(function, items):
     """function over items on all processors, results in order."""
-    with concurrent.futures.ThreadPoolExecutor(os.cpu_count() or 1) as pool:
+    with concurrent.futures.ThreadPoolExecutor(processors()) as pool:
         return list(pool.map(function, items))
