@@ -3,7 +3,7 @@
 // colour count alone.
 #pragma once
 
-#include "cli/ImageFile.h"
+#include "files/format/IconFile.h"
 
 #include <functional>
 #include <string>
@@ -25,6 +25,6 @@ struct Discrepancy {
 using DiscrepancySink = std::function<void(const Discrepancy&)>;
 // In the order of the entries. The bytes must be those of the whole file. Of entries that share bytes or are alike,
 // each is told once.
-void findDiscrepancies(const ImageFile& file, const DiscrepancySink& tell);
+void findDiscrepancies(const IconFile& file, const DiscrepancySink& tell);
 
 }  // namespace gp::cli

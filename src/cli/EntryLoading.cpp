@@ -9,8 +9,8 @@
 namespace gp::cli {
 namespace {
 
-IconDefect loadChosenEntry(const ImageFile& file, const std::string& path, EditState& state) {
-  const IconFacts facts = probeIcon(file.bytes.span(), true);
+IconDefect loadChosenEntry(const IconFile& file, const std::string& path, EditState& state) {
+  const IconFacts facts = probeIcon(file, true);
   if (facts.kind == 0) return IconDefect::NotAnIcon;
   return facts.canBeOpened() ? loadEntry(file, facts.chosen, path, state) : IconDefect::SizeNotOffered;
 }
@@ -26,12 +26,12 @@ FileBytes savedForm(const EditState& state) {
 
 }  // namespace
 
-IconDefect loadEntry(const ImageFile& file, int index, const std::string& path, EditState& state) {
+IconDefect loadEntry(const IconFile& file, int index, const std::string& path, EditState& state) {
   if (index >= file.directory.count) return IconDefect::NoSuchEntry;
-  const IconEntry entry = file.directory.entry(index);
-  if (const IconDefect defect = defectOfEntry(file.bytes.span(), entry); defect != IconDefect::None) return defect;
-  const IconFacts facts = factsOfEntry(file.bytes.span(), file.directory, index);
-  DecodedIcon decoded = loadIconImage(file.bytes.span(), index, true);
+  const IconEntry entry = file.entry(index);
+  if (const IconDefect defect = defectOfEntry(file, entry); defect != IconDefect::None) return defect;
+  const IconFacts facts = factsOfEntry(file, index);
+  DecodedIcon decoded = loadIconImage(file, index, true);
   if (!decoded.isRead()) return decoded.defect;
   SetRecord(state, state.mCurContainer, decoded.icon, recordOfLoadedIcon(facts, decoded.icon, path));
   state.picImage = std::move(decoded.icon.image);

@@ -12,7 +12,7 @@
 namespace gp::cli {
 
 // Loads an entry into the Current Icon.
-[[nodiscard]] IconDefect loadEntry(const ImageFile& file, int index, const std::string& path, EditState& state);
+[[nodiscard]] IconDefect loadEntry(const IconFile& file, int index, const std::string& path, EditState& state);
 
 // An icon that is to go into a file of several.
 struct NewIcon {

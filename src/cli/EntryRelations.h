@@ -2,18 +2,18 @@
 // claims.
 #pragma once
 
-#include "cli/ImageFile.h"
+#include "files/format/IconFile.h"
 
 #include <vector>
 
 namespace gp::cli {
 
 // How many entries the file holds in full.
-int wholeEntries(const ImageFile& file);
+int wholeEntries(const IconFile& file);
 // For each of the first `count` entries another one with which it shares bytes, or -1. Of two such entries the one that
 // begins later, or else comes later, is told; an entry may be told to share with one that shares with others.
-std::vector<int> entriesSharedWith(const ImageFile& file, int count);
+std::vector<int> entriesSharedWith(const IconFile& file, int count);
 // For each the first entry before it of the same size and colours, or -1.
-std::vector<int> entriesLike(const ImageFile& file, int count);
+std::vector<int> entriesLike(const IconFile& file, int count);
 
 }  // namespace gp::cli

@@ -64,8 +64,8 @@ std::uint64_t ImageHeader::bytesNeeded(std::uint32_t paletteEntries) const {
   return ico::kBitmapHeaderSize + std::uint64_t{paletteEntries} * ico::kPaletteEntrySize + row * (sizeOf(rows) / 2);
 }
 
-std::optional<ImageHeader> readImageHeader(std::span<const std::uint8_t> file, const IconEntry& entry) {
-  ByteReader reader(file);
+std::optional<ImageHeader> readImageHeader(const IconFile& file, const IconEntry& entry) {
+  ByteReader reader(file.span());
   const ByteReader::Position at = entry.imageOffset;
   const bool isPng = isPngImage(file, entry);
   if (!reader.contains(at, isPng ? kPngSizeEnd : ico::kBitmapHeaderSize)) return std::nullopt;

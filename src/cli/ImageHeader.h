@@ -2,11 +2,10 @@
 // kept as they stand there; nothing is refused.
 #pragma once
 
-#include "files/format/IcoDirectory.h"
+#include "files/format/IconFile.h"
 
 #include <cstdint>
 #include <optional>
-#include <span>
 
 namespace gp::cli {
 
@@ -30,6 +29,6 @@ struct ImageHeader {
 };
 
 // Nothing when the file ends before the header does.
-std::optional<ImageHeader> readImageHeader(std::span<const std::uint8_t> file, const IconEntry& entry);
+std::optional<ImageHeader> readImageHeader(const IconFile& file, const IconEntry& entry);
 
 }  // namespace gp::cli

@@ -52,8 +52,7 @@ unsigned highestIndexInRow(std::span<const std::uint8_t> row, int width, int bit
 
 }  // namespace
 
-std::optional<PixelDepth> measureDepth(std::span<const std::uint8_t> file, const IconEntry& entry,
-                                       const ImageHeader& header) {
+std::optional<PixelDepth> measureDepth(const IconFile& file, const IconEntry& entry, const ImageHeader& header) {
   const bool isFull = paletteWritten(entry, header) == header.paletteForBits();
   if (!isReadable(header) || !hasKnownDepth(header) || !isFull) return std::nullopt;
   IconEntry told = entry;
@@ -70,14 +69,13 @@ std::optional<PixelDepth> measureDepth(std::span<const std::uint8_t> file, const
   return depth;
 }
 
-std::optional<unsigned> highestIndex(std::span<const std::uint8_t> file, const IconEntry& entry,
-                                     const ImageHeader& header) {
+std::optional<unsigned> highestIndex(const IconFile& file, const IconEntry& entry, const ImageHeader& header) {
   const std::uint32_t palette = header.paletteTold();
   if (!isReadable(header) || palette == header.paletteForBits()) return std::nullopt;
   const int width = static_cast<int>(header.width);
   const std::size_t stride = dib::rowStride(width, header.bits);
-  ByteReader reader(file, entry.imageOffset + ico::kBitmapHeaderSize +
-                              std::uint64_t{paletteWritten(entry, header)} * ico::kPaletteEntrySize);
+  ByteReader reader(file.span(), entry.imageOffset + ico::kBitmapHeaderSize +
+                                     std::uint64_t{paletteWritten(entry, header)} * ico::kPaletteEntrySize);
   unsigned highest = 0;
   for (std::int64_t y = 0; y < header.rows / 2; ++y, reader.skip(stride))
     highest = std::max(highest, highestIndexInRow(reader.bytesAt(reader.position(), stride), width, header.bits));

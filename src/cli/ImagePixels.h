@@ -6,7 +6,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <span>
 
 namespace gp::cli {
 
@@ -16,11 +15,9 @@ struct PixelDepth {
   int bits = 0;
 };
 // Nothing for an image that the editor could not read, or that is larger than an entry can tell.
-std::optional<PixelDepth> measureDepth(std::span<const std::uint8_t> file, const IconEntry& entry,
-                                       const ImageHeader& header);
+std::optional<PixelDepth> measureDepth(const IconFile& file, const IconEntry& entry, const ImageHeader& header);
 
 // The highest palette index in the picture. Nothing for images without a palette or with a full one, and as above.
-std::optional<unsigned> highestIndex(std::span<const std::uint8_t> file, const IconEntry& entry,
-                                     const ImageHeader& header);
+std::optional<unsigned> highestIndex(const IconFile& file, const IconEntry& entry, const ImageHeader& header);
 
 }  // namespace gp::cli

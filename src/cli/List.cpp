@@ -20,19 +20,19 @@ struct ImageRow {
 };
 
 // In a cursor's directory the places of planes and bits hold the hot spot: depth is known from the bitmap header alone.
-IconFacts factsOfImage(const ImageFile& file, int index) {
-  const IconEntry entry = file.directory.entry(index);
-  IconFacts facts = factsOfEntry(file.bytes.span(), file.directory, index);
+IconFacts factsOfImage(const IconFile& file, int index) {
+  const IconEntry entry = file.entry(index);
+  IconFacts facts = factsOfEntry(file, index);
   if (file.isCursor()) facts.headerColors = ColorsForBitCount(facts.headerBits);
-  if (isPngImage(file.bytes.span(), entry)) facts.headerColors = facts.headerBits = 0;  // there is no bitmap header
+  if (isPngImage(file, entry)) facts.headerColors = facts.headerBits = 0;  // there is no bitmap header
   if (!file.isCursor()) return facts;
   facts.dirColors = facts.headerColors;
   facts.dirBits = facts.headerBits;
   return facts;
 }
 
-ImageRow rowOf(const ImageFile& file, int index) {
-  const IconEntry entry = file.directory.entry(index);
+ImageRow rowOf(const IconFile& file, int index) {
+  const IconEntry entry = file.entry(index);
   const IconFacts facts = factsOfImage(file, index);
   return {index,
           sideOf(entry.width),
@@ -43,7 +43,7 @@ ImageRow rowOf(const ImageFile& file, int index) {
           facts.headerBits,
           entry.bytesInRes,
           entry.imageOffset,
-          isPngImage(file.bytes.span(), entry) ? "png" : "bmp",
+          isPngImage(file, entry) ? "png" : "bmp",
           isUsableImage(file, index),
           file.isCursor(),
           entry.hotspotX(),
@@ -73,7 +73,7 @@ int listAsText(const Arguments& files) {
   for (const std::string& path : files) {
     const auto file = openImageFile(path);
     if (!file) status = kRefused;
-    for (int i = 0; file && i < file->imageCount(); ++i) printText(path, rowOf(*file, i));
+    for (int i = 0; file && i < file->directory.presentCount(); ++i) printText(path, rowOf(*file, i));
   }
   return status;
 }
@@ -89,7 +89,7 @@ int listAsJson(const Arguments& files) {
     }
     std::printf("%s\n{\"file\":%s,\"kind\":\"%s\",\"images\":[", separator, jsonText(path).c_str(),
                 file->isCursor() ? "cur" : "ico");
-    for (int i = 0; i < file->imageCount(); ++i) {
+    for (int i = 0; i < file->directory.presentCount(); ++i) {
       std::fputs(i == 0 ? "\n" : ",\n", stdout);
       printJson(rowOf(*file, i));
     }

@@ -42,10 +42,10 @@ struct Place {
 };
 
 bool readForAdding(const std::string& path, IconArrays& arrays) {
-  auto bytes = readFile(path);
-  if (!bytes) return refuse(path, addNotReadText(path, ArraysDefect::NotReadable));
-  if (probeIcon(bytes->span(), true).kind == 0) return refuse(path, kAddToNoIcon);
-  const ArraysDefect defect = parseIconArrays(std::move(*bytes), ReservedField::MustBeZero, arrays);
+  auto file = readWholeIconFile(path);
+  if (!file) return refuse(path, addNotReadText(path, ArraysDefect::NotReadable));
+  if (probeIcon(*file, true).kind == 0) return refuse(path, kAddToNoIcon);
+  const ArraysDefect defect = takeIconArrays(std::move(*file), ReservedField::MustBeZero, arrays);
   return defect == ArraysDefect::None || refuse(path, addNotReadText(path, defect));
 }
 

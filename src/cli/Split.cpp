@@ -28,19 +28,19 @@ void keepOffInputs(const FolderArguments& told, OutputNames& names) {
   }
 }
 
-bool isAllThere(const IconArrays& arrays, int index, const IconEntry& entry) {
-  const ByteReader reader(arrays.file.span());
+bool isAllThere(const IconFile& file, int index, const IconEntry& entry) {
+  const ByteReader reader(file.span());
   const std::size_t at = ico::kDirSize + static_cast<std::size_t>(index) * ico::kEntrySize;
   return reader.contains(at, ico::kEntrySize) && reader.contains(entry.imageOffset, entry.bytesInRes);
 }
 
 // Takes those images that are all there, unlike the updates, which refuse a file that lacks any.
-IconArrays takeWholeImages(FileBytes bytes, const IconDirectory& directory) {
+IconArrays takeWholeImages(IconFile file) {
   IconArrays arrays;
-  arrays.file = std::move(bytes);
-  for (int i = 0; i < static_cast<int>(directory.entries.size()); ++i) {
-    const IconEntry entry = directory.entry(i);
-    if (!isAllThere(arrays, i, entry)) continue;
+  arrays.file = std::move(file);
+  for (int i = 0; i < arrays.file.directory.presentCount(); ++i) {
+    const IconEntry entry = arrays.file.entry(i);
+    if (!isAllThere(arrays.file, i, entry)) continue;
     arrays.entries.push_back(entry);
     arrays.images.push_back(ByteReader(arrays.file.span()).bytesAt(entry.imageOffset, entry.bytesInRes));
   }
@@ -76,15 +76,15 @@ bool refuse(const std::string& path, const std::string& reason) {
 }
 
 bool splitFile(const std::string& path, const std::string& folder, OutputNames& names) {
-  auto bytes = readFile(path);
-  if (!bytes) return refuse(path, describe(IconDefect::NotReadable));
-  const IconDirectory directory = parseIconDirectory(bytes->span());
-  if (!directory.isIcon() || directory.entries.empty()) return refuse(path, describe(IconDefect::NotAnIcon));
-  const IconArrays arrays = takeWholeImages(std::move(*bytes), directory);
+  auto file = readWholeIconFile(path);
+  if (!file) return refuse(path, describe(IconDefect::NotReadable));
+  if (!file->isIcon() || file->directory.presentCount() == 0) return refuse(path, describe(IconDefect::NotAnIcon));
+  const IconArrays arrays = takeWholeImages(std::move(*file));
   if (!isOfSensibleSize(arrays)) return refuse(path, "its images share bytes, and come to more than 256 MB");
   if (!saveEntries(arrays, path, folder, names)) return false;
-  const int lacking = directory.count - arrays.count();
-  return lacking == 0 || refuse(path, std::to_string(lacking) + " of its " + std::to_string(directory.count) +
+  const int count = arrays.file.directory.count;
+  const int lacking = count - arrays.count();
+  return lacking == 0 || refuse(path, std::to_string(lacking) + " of its " + std::to_string(count) +
                                           " images reach behind the end of the file");
 }
 

@@ -176,10 +176,10 @@ void update(gp::IconArrays& arrays, Choices& choices) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::span input(data, size);
-  (void)gp::imageOfSingleIcon(gp::FileBytes({input.begin(), input.end()}));
+  (void)gp::imageOfSingleIcon(gp::FileBytes(input));
   gp::IconArrays arrays;
-  if (gp::parseIconArrays(gp::FileBytes({input.begin(), input.end()}), gp::ReservedField::Any, arrays) !=
-      gp::ArraysDefect::None) {
+  gp::IconFile file = gp::parseIconFile(gp::FileBytes(input));
+  if (gp::takeIconArrays(std::move(file), gp::ReservedField::Any, arrays) != gp::ArraysDefect::None) {
     require(arrays.count() == 0 && arrays.images.empty());
     return 0;
   }

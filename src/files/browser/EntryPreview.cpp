@@ -26,7 +26,7 @@ Surface composedWithAlpha(const IconImage& icon) {
 
 bool EntryPreview::show(const IconArrays& arrays, const IconEntry& entry, SizeRule rule, bool showAlpha) {
   if (!isReadSize(entry, rule)) return false;
-  DecodedIcon decoded = decodeEntry(arrays.file.span(), entry, entry.width, entry.height);
+  DecodedIcon decoded = decodeEntry(arrays.file, entry, entry.width, entry.height);
   if (!decoded.isRead()) return false;
   icon_ = std::move(decoded.icon);
   const bool hasAlpha = ColorsForEntry(entry, entry.bitCount) == kTrueColor;

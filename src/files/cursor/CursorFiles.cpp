@@ -10,7 +10,7 @@
 #include "document/PanelNumbers.h"
 #include "files/FileQuestions.h"
 #include "files/cursor/CursorLoading.h"
-#include "files/format/IconFileBytes.h"
+#include "files/format/IconFile.h"
 #include "files/format/IconWriter.h"
 #include "files/opening/IconMessages.h"
 
@@ -41,10 +41,10 @@ void CursorFiles::doMnuFileOpenCursor() {
 
 void CursorFiles::doOpenCursorFile(const std::string& path, bool& ok) {
   ok = false;
-  const auto bytes = readIconFile(path);
-  const CursorFacts facts = bytes ? probeCursor(bytes->span()) : CursorFacts{};
+  const auto file = readIconFile(path);
+  const CursorFacts facts = file ? probeCursor(*file) : CursorFacts{};
   if (!facts.valid) return context_.boxes.tell(path + kInvalidFile, BoxIcon::Exclamation);
-  const DecodedIcon decoded = loadCursorImage(bytes->span());
+  const DecodedIcon decoded = loadCursorImage(*file);
   if (!decoded.isRead()) return leaveEmpty(kFailedToLoad, BoxIcon::Exclamation);
   if (!isShownDepth(facts)) return leaveEmpty(path + kStrangeTrueColor, BoxIcon::Information);
   {

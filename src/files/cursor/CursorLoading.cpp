@@ -1,7 +1,5 @@
 #include "files/cursor/CursorLoading.h"
 
-#include "files/format/IcoDirectory.h"
-
 namespace gp {
 namespace {
 
@@ -9,8 +7,8 @@ constexpr const char* kCurLabel = "CUR file";
 
 // In a cursor file the entry tells no depth: the bitmap header's takes its place. What has no palette and is not of 24
 // bits is read as four bytes a pixel.
-IconEntry entryByHeader(std::span<const std::uint8_t> file, const IconDirectory& directory) {
-  IconEntry entry = directory.entry(0);
+IconEntry entryByHeader(const IconFile& file) {
+  IconEntry entry = file.entry(0);
   const int bits = headerBitCount(file, entry);
   entry.colorCount = 0;
   entry.bitCount = ColorsForBitCount(bits) == kTrueColor && bits != kBitsWithoutAlpha ? kBitsWithAlpha : bits;
@@ -23,10 +21,9 @@ int keptBitCount(const IconImage& icon, int bits) {
 
 }  // namespace
 
-DecodedIcon loadCursorImage(std::span<const std::uint8_t> file) {
-  const IconDirectory directory = parseIconDirectory(file);
-  if (!directory.isCursor()) return {IconDefect::NotAnIcon, {}};
-  const IconEntry entry = entryByHeader(file, directory);
+DecodedIcon loadCursorImage(const IconFile& file) {
+  if (!file.isCursor()) return {IconDefect::NotAnIcon, {}};
+  const IconEntry entry = entryByHeader(file);
   if (entry.width != kCursorSide || entry.height != kCursorSide) return {IconDefect::SizeNotOffered, {}};
   return decodeEntry(file, entry, kCursorSide, kCursorSide);
 }

@@ -5,14 +5,12 @@
 #include "files/cursor/CursorProbe.h"
 #include "files/format/IconDecoder.h"
 
-#include <cstdint>
-#include <span>
 #include <string>
 
 namespace gp {
 
 // Decodes the first picture of a cursor file. The bitmap header decides how the bytes are read.
-[[nodiscard]] DecodedIcon loadCursorImage(std::span<const std::uint8_t> file);
+[[nodiscard]] DecodedIcon loadCursorImage(const IconFile& file);
 // The record of a cursor that was decoded.
 IconContainerRec recordOfLoadedCursor(const CursorFacts& facts, const IconImage& icon, const std::string& path);
 

@@ -1,8 +1,6 @@
 #include "files/cursor/CursorProbe.h"
 
-#include "files/format/IcoDirectory.h"
 #include "files/format/IcoLayout.h"
-#include "files/format/IconFileBytes.h"
 
 namespace gp {
 namespace {
@@ -18,17 +16,16 @@ std::string CursorFacts::joined() const {
   return valid ? "1/" + std::to_string(colors) + "/" + std::to_string(bits) : "0/0/0";
 }
 
-CursorFacts probeCursor(std::span<const std::uint8_t> file) {
-  const IconDirectory directory = parseIconDirectory(file);
-  const IconEntry entry = directory.entry(0);
-  if (!directory.isCursor() || !isEditable(entry)) return {};
+CursorFacts probeCursor(const IconFile& file) {
+  const IconEntry entry = file.entry(0);
+  if (!file.isCursor() || !isEditable(entry)) return {};
   const int bits = headerBitCount(file, entry);
   return {true, ColorsForBitCount(bits), bits, entry.hotspotX(), entry.hotspotY()};
 }
 
 CursorFacts ProbeCursorFile(const std::string& path) {
-  const auto bytes = readIconFile(path);
-  return bytes ? probeCursor(bytes->span()) : CursorFacts{};
+  const auto file = readIconFile(path);
+  return file ? probeCursor(*file) : CursorFacts{};
 }
 
 }  // namespace gp

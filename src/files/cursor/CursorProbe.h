@@ -2,8 +2,8 @@
 // inside. Refuses nothing; a file that is no such cursor is an answer too.
 #pragma once
 
-#include <cstdint>
-#include <span>
+#include "files/format/IconFile.h"
+
 #include <string>
 
 namespace gp {
@@ -21,7 +21,7 @@ struct CursorFacts {
   std::string joined() const;
 };
 
-CursorFacts probeCursor(std::span<const std::uint8_t> file);
+CursorFacts probeCursor(const IconFile& file);
 // The same for a file; one that cannot be read counts as no cursor.
 CursorFacts ProbeCursorFile(const std::string& path);
 

@@ -66,15 +66,6 @@ IconDirectory parseIconDirectory(std::span<const std::uint8_t> file) {
   return directory;
 }
 
-int headerBitCount(std::span<const std::uint8_t> file, const IconEntry& entry) {
-  return ByteReader(file).u16At(ByteReader::Position{entry.imageOffset} + ico::kHeaderBitCount);
-}
-
-bool isPngImage(std::span<const std::uint8_t> file, const IconEntry& entry) {
-  const auto start = ByteReader(file).bytesAt(entry.imageOffset, ico::kPngSignature.size());
-  return std::ranges::equal(start, ico::kPngSignature);
-}
-
 int ColorsForEntry(const IconEntry& entry, int bitCount) {
   return entry.colorCount != 0 ? standardColorCount(entry.colorCount) : colorsForBits(bitCount);
 }

@@ -36,15 +36,13 @@ struct IconDirectory {
   // True for an icon or cursor file with at least one entry told.
   bool isIcon() const;
   bool isCursor() const;
+  // How many entries the file holds, at least in part; `count` may state more.
+  int presentCount() const { return static_cast<int>(entries.size()); }
   // The entry, all zeros beyond what the file holds.
   IconEntry entry(int index) const;
 };
 
 IconDirectory parseIconDirectory(std::span<const std::uint8_t> file);
-// biBitCount of the bitmap header of an entry's image; 0 where the file does not reach.
-int headerBitCount(std::span<const std::uint8_t> file, const IconEntry& entry);
-// True when the entry's image is a PNG picture.
-bool isPngImage(std::span<const std::uint8_t> file, const IconEntry& entry);
 
 // The number of colours an entry has, given a bit count (its own or the bitmap header's): -1 for true colour. A colour
 // count in the entry comes first and counts as 2 or 16, whatever it is.

@@ -3,8 +3,7 @@
 // that does not hold all that its directory promises is refused.
 #pragma once
 
-#include "files/format/IcoDirectory.h"
-#include "platform/files/Files.h"
+#include "files/format/IconFile.h"
 
 #include <cstdint>
 #include <deque>
@@ -17,7 +16,7 @@ namespace gp {
 using ImageBytes = std::span<const std::uint8_t>;
 
 struct IconArrays {
-  FileBytes file;
+  IconFile file;  // as it was read
   int reserved = 0;
   int type = 0;
   std::vector<IconEntry> entries;
@@ -29,13 +28,17 @@ struct IconArrays {
 };
 
 enum class ReservedField { Any, MustBeZero };
-// NoIcons: not an icon file, without entries, or shorter than it says.
-enum class ArraysDefect { None, NotReadable, NoIcons };
+enum class ArraysDefect {
+  None,
+  NotReadable,
+  NoIcons,  // not an icon file, or without entries
+  CutShort  // the file ends before its directory, or before an image that the directory states
+};
 
 // Reads a file of the icon type. On a defect the arrays are empty.
 [[nodiscard]] ArraysDefect readIconArrays(const std::string& path, ReservedField rule, IconArrays& arrays);
-// The same for bytes that are there already.
-[[nodiscard]] ArraysDefect parseIconArrays(FileBytes bytes, ReservedField rule, IconArrays& arrays);
+// The same for a file that has been read whole.
+[[nodiscard]] ArraysDefect takeIconArrays(IconFile file, ReservedField rule, IconArrays& arrays);
 
 // Lays the images one behind the other after the directory, in its order, and sets each entry's offset so. In a file
 // that is laid out like this, offsets that need not change stay.

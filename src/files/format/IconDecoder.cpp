@@ -182,7 +182,7 @@ AlphaMatrix readAlpha(const std::uint8_t* rows, const ImageFormat& format, int w
 
 bool hasRowFormat(int colors) { return colors < 1 || colors == 2 || colors == 16 || colors == ico::kMaxPaletteColors; }
 
-IconDefect defectOfImage(std::span<const std::uint8_t> file, const IconEntry& entry) {
+IconDefect defectOfImage(const IconFile& file, const IconEntry& entry) {
   if (isPngImage(file, entry)) return IconDefect::PngImage;
   return hasRowFormat(ColorsForEntry(entry, entry.bitCount)) ? IconDefect::None : IconDefect::StrangeDepth;
 }
@@ -211,12 +211,12 @@ const char* describe(IconDefect defect) {
   return "";
 }
 
-DecodedIcon decodeEntry(std::span<const std::uint8_t> file, const IconEntry& entry, int width, int height) {
+DecodedIcon decodeEntry(const IconFile& file, const IconEntry& entry, int width, int height) {
   if (width < 1 || height < 1) return {IconDefect::SizeNotOffered, {}};
   if (const IconDefect defect = defectOfImage(file, entry); defect != IconDefect::None) return {defect, {}};
 
   const ImageFormat format = formatOf(entry, width);
-  const PaddedBytes image(file, std::uint64_t{entry.imageOffset} + ico::kBitmapHeaderSize, format.size(height));
+  const PaddedBytes image(file.span(), std::uint64_t{entry.imageOffset} + ico::kBitmapHeaderSize, format.size(height));
   const Palette palette = paletteFor(image.data(), format);
   const std::uint8_t* const imageRows = image.data() + format.paletteBytes();
   const std::uint8_t* const maskRows = imageRows + static_cast<std::size_t>(height) * format.imageStride;
@@ -226,7 +226,7 @@ DecodedIcon decodeEntry(std::span<const std::uint8_t> file, const IconEntry& ent
            readAlpha(imageRows, format, width, height)}};
 }
 
-IconDefect defectOfEntry(std::span<const std::uint8_t> file, const IconEntry& entry) {
+IconDefect defectOfEntry(const IconFile& file, const IconEntry& entry) {
   if (const IconDefect defect = defectOfImage(file, entry); defect != IconDefect::None) return defect;
   const bool shown = ColorsForEntry(entry, entry.bitCount) != kTrueColor || entry.bitCount == kTrueColorBits24 ||
                      entry.bitCount == kTrueColorBits32;

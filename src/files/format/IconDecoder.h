@@ -4,10 +4,7 @@
 #pragma once
 
 #include "document/IconImage.h"
-#include "files/format/IcoDirectory.h"
-
-#include <cstdint>
-#include <span>
+#include "files/format/IconFile.h"
 
 namespace gp {
 
@@ -33,11 +30,11 @@ struct DecodedIcon {
   bool isRead() const { return defect == IconDefect::None; }
 };
 
-// Reads an image as one of width x height pixels. True colour of any bit count but 24 is taken as four bytes a pixel.
-// The alpha matrix has width x height values for true colour, 255 where the image has none, and is 1 x 1 otherwise.
-[[nodiscard]] DecodedIcon decodeEntry(std::span<const std::uint8_t> file, const IconEntry& entry, int width,
-                                      int height);
+// Reads an image of the file as `entry` describes it, which may differ from the file's directory, as one of width x
+// height pixels. True colour of any bit count but 24 is taken as four bytes a pixel. The alpha matrix has width x
+// height values for true colour, 255 where the image has none, and is 1 x 1 otherwise.
+[[nodiscard]] DecodedIcon decodeEntry(const IconFile& file, const IconEntry& entry, int width, int height);
 // Why the editor does not show the entry, apart from its size.
-IconDefect defectOfEntry(std::span<const std::uint8_t> file, const IconEntry& entry);
+IconDefect defectOfEntry(const IconFile& file, const IconEntry& entry);
 
 }  // namespace gp

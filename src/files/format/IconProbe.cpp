@@ -3,7 +3,6 @@
 #include "colour/ColorCount.h"
 #include "document/IconContainerRec.h"
 #include "files/format/IconDecoder.h"
-#include "files/format/IconFileBytes.h"
 
 #include <array>
 
@@ -28,10 +27,10 @@ IconFacts nothingUsable(int kind) {
   return facts;
 }
 
-IconFacts probeSingle(std::span<const std::uint8_t> file, const IconDirectory& directory) {
-  const IconEntry entry = directory.entry(0);
+IconFacts probeSingle(const IconFile& file) {
+  const IconEntry entry = file.entry(0);
   if (!isIconSize(entry.width) || !isIconSize(entry.height)) return nothingUsable(kOneEntry);
-  IconFacts facts = factsOfEntry(file, directory, 0);
+  IconFacts facts = factsOfEntry(file, 0);
   facts.usable = 1;
   return facts;
 }
@@ -39,20 +38,19 @@ IconFacts probeSingle(std::span<const std::uint8_t> file, const IconDirectory& d
 // The scan over several entries. It goes on behind a first 32x32 entry even if that one has 8 bits.
 class EntryScan {
  public:
-  EntryScan(std::span<const std::uint8_t> file, const IconDirectory& directory, bool preferEightBit)
-      : file_(file), directory_(directory), preferEightBit_(preferEightBit) {}
+  EntryScan(const IconFile& file, bool preferEightBit) : file_(file), preferEightBit_(preferEightBit) {}
 
   IconFacts run() {
-    for (int i = 0; i < static_cast<int>(directory_.entries.size()) && !stopped_; ++i) consider(i);
+    for (int i = 0; i < file_.directory.presentCount() && !stopped_; ++i) consider(i);
     if (!met32_) return nothingUsable(kSeveralEntries);
-    IconFacts facts = factsOfEntry(file_, directory_, chosen_);
+    IconFacts facts = factsOfEntry(file_, chosen_);
     facts.usable = usable_;
     return facts;
   }
 
  private:
   void consider(int index) {
-    const IconEntry entry = directory_.entry(index);
+    const IconEntry entry = file_.entry(index);
     if (!isSquareIcon(entry)) return;
     ++usable_;
     if (entry.width != kPreferredSize) {
@@ -66,8 +64,7 @@ class EntryScan {
     }
   }
 
-  std::span<const std::uint8_t> file_;
-  const IconDirectory& directory_;
+  const IconFile& file_;
   const bool preferEightBit_;
   int usable_ = 0;
   int chosen_ = 0;
@@ -90,10 +87,10 @@ std::string IconFacts::joined() const {
   return text;
 }
 
-IconFacts factsOfEntry(std::span<const std::uint8_t> file, const IconDirectory& directory, int index) {
-  const IconEntry entry = directory.entry(index);
+IconFacts factsOfEntry(const IconFile& file, int index) {
+  const IconEntry entry = file.entry(index);
   IconFacts facts;
-  facts.kind = directory.count > 1 ? kSeveralEntries : kOneEntry;
+  facts.kind = file.directory.count > 1 ? kSeveralEntries : kOneEntry;
   facts.chosen = index;
   facts.width = entry.width;
   facts.height = entry.height;
@@ -104,18 +101,17 @@ IconFacts factsOfEntry(std::span<const std::uint8_t> file, const IconDirectory& 
   return facts;
 }
 
-IconFacts probeIcon(std::span<const std::uint8_t> file, bool preferEightBit) {
-  const IconDirectory directory = parseIconDirectory(file);
-  if (!directory.isIcon() || !isSound(directory.entry(0))) return {};
-  return directory.count == 1 ? probeSingle(file, directory) : EntryScan(file, directory, preferEightBit).run();
+IconFacts probeIcon(const IconFile& file, bool preferEightBit) {
+  if (!file.isIcon() || !isSound(file.entry(0))) return {};
+  return file.directory.count == 1 ? probeSingle(file) : EntryScan(file, preferEightBit).run();
 }
 
 IconFacts ProbeIconFile(const std::string& path, bool preferEightBit) {
-  const auto bytes = readIconFile(path);
-  return bytes ? probeIcon(bytes->span(), preferEightBit) : IconFacts{};
+  const auto file = readIconFile(path);
+  return file ? probeIcon(*file, preferEightBit) : IconFacts{};
 }
 
-bool isUsableEntry(std::span<const std::uint8_t> file, const IconEntry& entry) {
+bool isUsableEntry(const IconFile& file, const IconEntry& entry) {
   return isSquareIcon(entry) && defectOfEntry(file, entry) == IconDefect::None;
 }
 

@@ -2,10 +2,8 @@
 // and the bitmap headers only; refuses nothing, a file that is no icon is an answer too.
 #pragma once
 
-#include "files/format/IcoDirectory.h"
+#include "files/format/IconFile.h"
 
-#include <cstdint>
-#include <span>
 #include <string>
 
 namespace gp {
@@ -30,13 +28,13 @@ struct IconFacts {
 };
 
 // The numbers of one entry, whatever it is.
-IconFacts factsOfEntry(std::span<const std::uint8_t> file, const IconDirectory& directory, int index);
+IconFacts factsOfEntry(const IconFile& file, int index);
 // Chooses among several entries: the first of 32x32, or a later one of 8 bits, at which `preferEightBit` ends the scan.
-IconFacts probeIcon(std::span<const std::uint8_t> file, bool preferEightBit);
+IconFacts probeIcon(const IconFile& file, bool preferEightBit);
 // The same for a file; one that cannot be read counts as no icon file.
 IconFacts ProbeIconFile(const std::string& path, bool preferEightBit);
 
 // True when the editor can show the entry: square, of an icon size, a bitmap, and of a depth that the reader knows.
-bool isUsableEntry(std::span<const std::uint8_t> file, const IconEntry& entry);
+bool isUsableEntry(const IconFile& file, const IconEntry& entry);
 
 }  // namespace gp

@@ -1,6 +1,7 @@
 #include "files/format/IconSalvage.h"
 
 #include "files/format/IcoLayout.h"
+#include "files/format/IconFile.h"
 #include "platform/files/ByteReader.h"
 #include "platform/text/Numbers.h"
 
@@ -23,14 +24,9 @@ int halfOf(std::int32_t height) {
   return roundToInteger(static_cast<int>(isWhole ? rows : rows & kLowByte) / 2.0);
 }
 
-bool isPngPicture(ImageBytes image) {
-  return image.size() >= ico::kPngSignature.size() &&
-         std::ranges::equal(image.first(ico::kPngSignature.size()), ico::kPngSignature);
-}
-
 }  // namespace
 
-bool hasBitmapHeader(ImageBytes image) { return image.size() > dib::kHeaderBitCount && !isPngPicture(image); }
+bool hasBitmapHeader(ImageBytes image) { return image.size() > dib::kHeaderBitCount && !isPngImage(image); }
 
 HeaderFacts headerFactsOf(ImageBytes image) {
   if (!hasBitmapHeader(image)) return {};

@@ -44,7 +44,8 @@ int findSameIcon(const IconArrays& arrays, const IconTraits& traits, int except)
 
 std::optional<NewImage> imageOfSingleIcon(FileBytes file) {
   IconArrays arrays;
-  if (parseIconArrays(std::move(file), ReservedField::MustBeZero, arrays) != ArraysDefect::None) return std::nullopt;
+  if (takeIconArrays(parseIconFile(std::move(file)), ReservedField::MustBeZero, arrays) != ArraysDefect::None)
+    return std::nullopt;
   if (arrays.count() != 1) return std::nullopt;
   const ImageBytes image = arrays.images.front();
   return NewImage{arrays.entries.front(), {image.begin(), image.end()}};

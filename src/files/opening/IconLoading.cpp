@@ -13,12 +13,10 @@ int keptBitCount(const IconFacts& facts, const IconImage& icon) {
 
 }  // namespace
 
-DecodedIcon loadIconImage(std::span<const std::uint8_t> file, int index, bool checkSize,
-                          const std::optional<ReadSize>& size) {
-  const IconDirectory directory = parseIconDirectory(file);
-  if (!directory.isIcon()) return {IconDefect::NotAnIcon, {}};
-  if (index < 0 || index >= directory.count) return {IconDefect::NoSuchEntry, {}};
-  const IconEntry entry = directory.entry(index);
+DecodedIcon loadIconImage(const IconFile& file, int index, bool checkSize, const std::optional<ReadSize>& size) {
+  if (!file.isIcon()) return {IconDefect::NotAnIcon, {}};
+  if (index < 0 || index >= file.directory.count) return {IconDefect::NoSuchEntry, {}};
+  const IconEntry entry = file.entry(index);
   const ReadSize wanted = size.value_or(ReadSize{entry.width, entry.height});
   if (checkSize && !isIconSize(wanted.width, wanted.height)) return {IconDefect::SizeNotOffered, {}};
   return decodeEntry(file, entry, wanted.width, wanted.height);

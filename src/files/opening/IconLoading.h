@@ -7,7 +7,6 @@
 #include "files/format/IconProbe.h"
 
 #include <optional>
-#include <span>
 #include <string>
 
 namespace gp {
@@ -19,7 +18,7 @@ struct ReadSize {
 };
 
 // Decodes entry `index` at `size`, or at the entry's own size. With `checkSize` only icon sizes pass.
-[[nodiscard]] DecodedIcon loadIconImage(std::span<const std::uint8_t> file, int index, bool checkSize,
+[[nodiscard]] DecodedIcon loadIconImage(const IconFile& file, int index, bool checkSize,
                                         const std::optional<ReadSize>& size = std::nullopt);
 // The record of an icon that was decoded, from what the file states of it.
 IconContainerRec recordOfLoadedIcon(const IconFacts& facts, const IconImage& icon, const std::string& path);

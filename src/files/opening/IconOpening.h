@@ -5,7 +5,6 @@
 #include "files/FilesContext.h"
 #include "files/format/IconDecoder.h"
 #include "files/format/IconProbe.h"
-#include "platform/files/Files.h"
 #include "platform/ports/MessageBoxes.h"
 
 #include <string>
@@ -43,7 +42,7 @@ class IconOpening {
   const std::string path_;
   const OpeningManner manner_;
   MultiIconCommands* const browser_;
-  FileBytes bytes_;
+  IconFile file_;
   IconFacts facts_;
   DecodedIcon decoded_;
 };

@@ -1,4 +1,5 @@
 #include "files/IcoBuilder.h"
+#include "files/IconFileOf.h"
 #include "files/browser/MultiIconListing.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +9,7 @@ namespace {
 
 std::vector<ListedEntry> listOf(std::vector<Entry> entries) {
   IconArrays arrays;
-  EXPECT_EQ(parseIconArrays(FileBytes(build(IcoFile{std::move(entries), 0, 1, {}})), ReservedField::Any, arrays),
+  EXPECT_EQ(takeIconArrays(iconFileOf(build(IcoFile{std::move(entries), 0, 1, {}})), ReservedField::Any, arrays),
             ArraysDefect::None);
   return listEntries(arrays);
 }

@@ -1,4 +1,5 @@
 #include "files/IcoBuilder.h"
+#include "files/IconFileOf.h"
 #include "files/format/IconUpdates.h"
 
 #include <algorithm>
@@ -31,7 +32,7 @@ class IconUpdatesTest : public testing::Test {
   EditState state;
 
   void read(const Bytes& bytes) {
-    ASSERT_EQ(parseIconArrays(FileBytes(bytes), ReservedField::MustBeZero, arrays), ArraysDefect::None);
+    ASSERT_EQ(takeIconArrays(iconFileOf(bytes), ReservedField::MustBeZero, arrays), ArraysDefect::None);
   }
   Bytes written() {
     EXPECT_TRUE(writeWholeFile(arrays, folder.path("out.ico"), {}));
