@@ -3,10 +3,10 @@
 #pragma once
 
 #include "cli/Console.h"
-#include "document/EditState.h"
-#include "document/IconImage.h"
+#include "cli/EntryLoading.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 
 namespace gp::cli {
@@ -23,16 +23,14 @@ struct ImageArguments {
 int takeImageArguments(const std::string& command, const std::string& needed, const Arguments& arguments,
                        std::size_t more, ImageArguments& told);
 
-// Makes the image the Current Icon, as the editor does when it opens a file. False after a complaint.
-[[nodiscard]] bool loadImage(const ImageArguments& told, EditState& state);
+// Loads the image as the editor does when it opens a file. Empty after a complaint.
+std::optional<LoadedIcon> loadImage(const ImageArguments& told);
 // The same for an effect, which takes no icon with alpha.
-[[nodiscard]] bool loadImageForEffect(const ImageArguments& told, EditState& state);
+std::optional<LoadedIcon> loadImageForEffect(const ImageArguments& told);
 
 // Gives kDone for an output that has been written, otherwise kRefused after a complaint.
 int answerToWriting(bool isWritten, const std::string& output);
-// Writes the Current Icon as the editor saves it. Gives the exit status.
-int writeIcon(const EditState& state, const std::string& output);
-// The same with the pictures that an effect has made of it.
-int writeIcon(EditState& state, IconImage made, const std::string& output);
+// Writes an icon as the editor saves one of that record. Returns the exit status.
+int writeIcon(const IconImage& icon, const IconContainerRec& record, const std::string& output);
 
 }  // namespace gp::cli

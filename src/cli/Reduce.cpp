@@ -43,18 +43,18 @@ const Method* findMethod(const ReduceOptions& options) {
 }
 
 // Such an icon is refused, after a complaint.
-bool hasFewColors(const EditState& state, int most, const std::string& path) {
+bool hasFewColors(const IconImage& icon, int most, const std::string& path) {
   int colors = 0;
-  GetColorBitCount_Image(state.picImage, colors);
+  GetColorBitCount_Image(icon.image, colors);
   const bool isFew = colors > 0 && colors <= most;
   if (isFew) complain(path, fewColorsText(colors));
   return isFew;
 }
 
 int reduceTo(const Method& method, const ReductionSettings& settings, const ImageArguments& told) {
-  EditState state;
-  if (!loadImageForEffect(told, state) || hasFewColors(state, method.colors, told.input)) return kRefused;
-  return writeIcon(state, reduceColors(state.picImage, state.picMask, settings), told.output);
+  const auto loaded = loadImageForEffect(told);
+  if (!loaded || hasFewColors(loaded->icon, method.colors, told.input)) return kRefused;
+  return writeIcon(reduceColors(loaded->icon.image, loaded->icon.mask, settings), loaded->record, told.output);
 }
 
 }  // namespace

@@ -11,8 +11,8 @@
 #include "files/FileQuestions.h"
 #include "files/cursor/CursorLoading.h"
 #include "files/format/IconFile.h"
-#include "files/format/IconWriter.h"
 #include "files/opening/IconMessages.h"
+#include "files/saving/CurrentIcon.h"
 
 namespace gp {
 namespace {

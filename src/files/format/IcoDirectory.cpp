@@ -1,6 +1,5 @@
 #include "files/format/IcoDirectory.h"
 
-#include "document/IconContainerRec.h"
 #include "files/format/IcoLayout.h"
 #include "platform/files/ByteReader.h"
 
@@ -8,9 +7,6 @@
 
 namespace gp {
 namespace {
-
-constexpr int kMonoColors = 2;
-constexpr int kStandardColors = 16;
 
 IconEntry parseEntry(ByteReader& reader, std::size_t at) {
   IconEntry entry;
@@ -33,14 +29,13 @@ std::size_t entriesPresent(std::size_t fileSize, std::size_t count) {
 }
 
 int standardColorCount(int colorCount) {
-  if (colorCount == kMonoColors || colorCount == kStandardColors) return colorCount;
-  return colorCount > kMonoColors ? kStandardColors : kMonoColors;
+  return colorCount > kMonoDepth.colors ? kStandardDepth.colors : kMonoDepth.colors;
 }
 
 // The colours when the entry gives no count.
 int colorsForBits(int bitCount) {
-  if (bitCount == 0) return ico::kMaxPaletteColors;
-  return bitCount > 8 ? kTrueColor : 1 << bitCount;
+  if (bitCount == 0) return kPaletteDepth.colors;
+  return bitCount > kPaletteDepth.bits ? kTrueColor : 1 << bitCount;
 }
 
 }  // namespace
@@ -72,19 +67,6 @@ int ColorsForEntry(const IconEntry& entry, int bitCount) {
 
 int RawColorsForEntry(const IconEntry& entry, int bitCount) {
   return entry.colorCount != 0 ? entry.colorCount : colorsForBits(bitCount);
-}
-
-int ColorsForBitCount(int bitCount) {
-  switch (bitCount) {
-    case 1:
-      return kMonoColors;
-    case 4:
-      return kStandardColors;
-    case 8:
-      return ico::kMaxPaletteColors;
-    default:
-      return kTrueColor;
-  }
 }
 
 }  // namespace gp

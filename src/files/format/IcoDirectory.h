@@ -3,6 +3,8 @@
 // the bytes go. Values are kept as the file tells them; whether they make sense is the callers' question.
 #pragma once
 
+#include "document/ColorDepth.h"
+
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -49,7 +51,5 @@ IconDirectory parseIconDirectory(std::span<const std::uint8_t> file);
 int ColorsForEntry(const IconEntry& entry, int bitCount);
 // The same with the entry's colour count as it stands.
 int RawColorsForEntry(const IconEntry& entry, int bitCount);
-// 2, 16, 256 for 1, 4, 8 bits and -1 for others.
-int ColorsForBitCount(int bitCount);
 
 }  // namespace gp

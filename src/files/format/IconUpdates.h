@@ -2,7 +2,9 @@
 // arrays only; images stay opaque bytes. Nothing is asked or told here. Indices count from 0 and must be valid.
 #pragma once
 
-#include "document/EditState.h"
+#include "document/ColorDepth.h"
+#include "document/IconContainerRec.h"
+#include "document/IconImage.h"
 #include "files/format/IconArrays.h"
 
 #include <optional>
@@ -16,18 +18,16 @@ namespace gp {
 struct IconTraits {
   int width = 0;
   int height = 0;
-  int colors = 0;  // 2, 16, 256, -1 for true colour
-  int bits = 0;
+  ColorDepth depth;
   bool operator==(const IconTraits&) const = default;
 };
 
-// Of the Current Icon, as it will be written: a picture that lost colours counts by those it has left, one that has
-// more than a palette holds counts as true colour.
-IconTraits traitsToWrite(const EditState& state);
+// Of an icon as it will be written, see depthToWrite.
+IconTraits traitsToWrite(const IconImage& icon, const IconContainerRec& record);
 // Of an entry, by the directory.
 IconTraits traitsOfEntry(const IconEntry& entry);
 // "16-color", or "True Color 32 BPP".
-std::string colorText(const IconTraits& traits);
+std::string colorText(ColorDepth depth);
 // The first entry of these traits, passing over index `except` (-1 for none); -1 when there is none.
 int findSameIcon(const IconArrays& arrays, const IconTraits& traits, int except);
 

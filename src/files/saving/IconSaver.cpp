@@ -8,9 +8,9 @@
 #include "document/Hourglass.h"
 #include "drawing/Drawing.h"
 #include "files/FileQuestions.h"
-#include "files/format/IconWriter.h"
 #include "files/opening/IconMessages.h"
 #include "files/saving/BitmapSaving.h"
+#include "files/saving/CurrentIcon.h"
 #include "platform/files/Files.h"
 #include "platform/text/Paths.h"
 #include "platform/text/Utf8.h"
@@ -184,7 +184,7 @@ void IconSaver::saveCursorTo(const std::string& path, bool& ok) {
 
 void IconSaver::saveBitmapTo(const std::string& path, bool& ok) {
   // Transparent pixels take the current colour.
-  SaveBitmap(composedForBitmap(state_, state_.mCurrentColor), path, ok);
+  SaveBitmap(composedForBitmap(currentIcon(state_), state_.current(), state_.mCurrentColor), path, ok);
   context_.document.editingArea.UpdatePanelFromCurrent();
 }
 

@@ -6,6 +6,8 @@
 #include "document/Hourglass.h"
 #include "document/Messages.h"
 #include "files/FileQuestions.h"
+#include "files/format/IconWriter.h"
+#include "files/saving/CurrentIcon.h"
 #include "files/saving/MultiIconSaving.h"
 #include "files/saving/MultiIconTexts.h"
 #include "files/saving/PanelFiles.h"
@@ -74,7 +76,7 @@ bool MultiIconReplace::readOriginal() {
 }
 
 bool MultiIconReplace::isAllowed() {
-  traits_ = traitsToWrite(state_);
+  traits_ = traitsToWrite(currentIcon(state_), state_.current());
   const int same = findSameIcon(arrays_, traits_, index_);
   if (same >= 0)
     context_.boxes.tell(sameIconText(traits_, SaveInto::Replace));
@@ -101,7 +103,9 @@ bool MultiIconReplace::isInNoOtherContainer(const std::string& path) {
 
 std::optional<NewImage> MultiIconReplace::makeImage() {
   std::optional<NewImage> image;
-  const ScratchDefect defect = makeNewImage(state_, scratchFile_, original_, image);
+  const IconImage icon = currentIcon(state_);
+  const ColorDepth depth = depthToWrite(icon, state_.current());
+  const ScratchDefect defect = makeNewImage(icon, depth, scratchFile_, original_, image);
   if (defect != ScratchDefect::None) fail(defect == ScratchDefect::NotWritten ? kNotMade : kNotLoaded);
   return image;
 }
@@ -126,8 +130,8 @@ bool MultiIconReplace::write(const std::string& path) {
 void MultiIconReplace::describeSaved(const std::string& path) {
   IconContainerRec& record = state_.current();
   record.path = path;
-  record.dirColors = record.bihColors = traits_.colors;
-  record.bitCount = record.bihBitCount = static_cast<std::int16_t>(traits_.bits);
+  record.setDepth(traits_.depth);
+  record.setHeaderDepth(traits_.depth);
   record.neverSaved = record.modified = false;
   state_.screen.lblStatusPanel[static_cast<std::size_t>(StatusPanel::Discrepancy)].clear();
   context_.display.changed(DisplayPart::StatusBar);
