@@ -45,7 +45,7 @@ void findOtherSize(const Inspection& image, const DiscrepancySink& tell) {
 }
 
 // The pixels' word in a quarrel about the depth. Shared bytes are not read again and again.
-std::optional<PixelDepth> depthOfPixels(const Inspection& image) {
+std::optional<ColorDepth> depthOfPixels(const Inspection& image) {
   if (image.sharesBytes) return std::nullopt;
   return measureDepth(image.file, image.entry, *image.header);
 }

@@ -1,22 +1,20 @@
 #include "cli/EntryRelations.h"
 
 #include "files/format/IcoLayout.h"
-#include "files/format/IconProbe.h"
+#include "files/format/IconUpdates.h"
 
 #include <algorithm>
 #include <map>
 #include <numeric>
-#include <tuple>
 
 namespace gp::cli {
 namespace {
 
-using Traits = std::tuple<int, int, int, int>;  // width, height, colours, bits
-
-Traits traitsOf(const IconFile& file, int index) {
-  const IconFacts facts = factsOfEntry(file, index);
-  if (file.isCursor()) return {facts.width, facts.height, ColorsForBitCount(facts.headerBits), facts.headerBits};
-  return {facts.width, facts.height, facts.dirColors, facts.bitCount()};
+IconTraits traitsOf(const IconFile& file, int index) {
+  const IconEntry entry = file.entry(index);
+  const bool isCursor = file.isCursor();
+  const ColorDepth depth = isCursor ? depthOfBits(headerBitCount(file, entry)) : corrected(depthOfEntry(entry));
+  return {entry.width, entry.height, depth};
 }
 
 std::uint64_t endOf(const IconEntry& entry) { return std::uint64_t{entry.imageOffset} + entry.bytesInRes; }
@@ -53,7 +51,7 @@ std::vector<int> entriesSharedWith(const IconFile& file, int count) {
 
 std::vector<int> entriesLike(const IconFile& file, int count) {
   std::vector<int> alike(static_cast<std::size_t>(count), -1);
-  std::map<Traits, int> first;
+  std::map<IconTraits, int> first;
   for (int i = 0; i < count; ++i) {
     const auto [known, isNew] = first.try_emplace(traitsOf(file, i), i);
     if (!isNew) alike[static_cast<std::size_t>(i)] = known->second;

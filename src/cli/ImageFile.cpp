@@ -1,7 +1,6 @@
 #include "cli/ImageFile.h"
 
 #include "cli/Console.h"
-#include "document/IconContainerRec.h"
 #include "files/cursor/CursorLoading.h"
 #include "files/format/IconProbe.h"
 
@@ -20,13 +19,13 @@ std::optional<IconFile> openFile(const std::string& path, bool withCursors) {
 
 bool isUsableCursor(const IconFile& file) {
   const CursorFacts facts = probeCursor(file);
-  return facts.valid && (facts.colors != kTrueColor || facts.bits == kBitsWithoutAlpha || facts.bits == kBitsWithAlpha);
+  return facts.valid && facts.depth.isShown();
 }
 
 std::optional<DecodedImage> decodeCursor(const IconFile& file, const IconEntry& entry) {
   DecodedIcon decoded = loadCursorImage(file);
   if (!decoded.isRead()) return std::nullopt;
-  return DecodedImage{std::move(decoded.icon), headerBitCount(file, entry) == kBitsWithAlpha};
+  return DecodedImage{std::move(decoded.icon), depthOfBits(headerBitCount(file, entry)).hasAlpha()};
 }
 
 }  // namespace
@@ -47,8 +46,7 @@ std::optional<DecodedImage> decodeImage(const IconFile& file, int index) {
   if (file.isCursor()) return decodeCursor(file, entry);
   DecodedIcon decoded = decodeEntry(file, entry, entry.width, entry.height);
   if (!decoded.isRead()) return std::nullopt;
-  const int bits = factsOfEntry(file, index).bitCount();
-  return DecodedImage{std::move(decoded.icon), bits == kBitsWithAlpha};
+  return DecodedImage{std::move(decoded.icon), corrected(depthOfEntry(entry)).hasAlpha()};
 }
 
 }  // namespace gp::cli

@@ -1,7 +1,6 @@
 #include "cli/ImagePixels.h"
 
 #include "colour/ColorCount.h"
-#include "document/IconContainerRec.h"
 #include "files/format/IcoLayout.h"
 #include "files/format/IconDecoder.h"
 #include "platform/files/ByteReader.h"
@@ -19,11 +18,6 @@ bool isReadable(const ImageHeader& header) {
   const std::int64_t height = header.rows / 2;
   return !header.isPng && header.isPlain() && header.width >= 1 && header.width <= kLargestSide && height >= 1 &&
          height <= kLargestSide;
-}
-
-bool hasKnownDepth(const ImageHeader& header) {
-  return ColorsForBitCount(header.bits) != kTrueColor || header.bits == kBitsWithoutAlpha ||
-         header.bits == kBitsWithAlpha;
 }
 
 // A shorter palette moves the rows, but some writers tell one and yet write a full one. The size tells.
@@ -52,21 +46,19 @@ unsigned highestIndexInRow(std::span<const std::uint8_t> row, int width, int bit
 
 }  // namespace
 
-std::optional<PixelDepth> measureDepth(const IconFile& file, const IconEntry& entry, const ImageHeader& header) {
+std::optional<ColorDepth> measureDepth(const IconFile& file, const IconEntry& entry, const ImageHeader& header) {
   const bool isFull = paletteWritten(entry, header) == header.paletteForBits();
-  if (!isReadable(header) || !hasKnownDepth(header) || !isFull) return std::nullopt;
+  if (!isReadable(header) || !depthOfBits(header.bits).isShown() || !isFull) return std::nullopt;
   IconEntry told = entry;
   told.colorCount = 0;
   told.bitCount = header.bits;
   const int width = static_cast<int>(header.width), height = static_cast<int>(header.rows / 2);
   const DecodedIcon decoded = decodeEntry(file, told, width, height);
   if (!decoded.isRead()) return std::nullopt;
-  PixelDepth depth;
-  GetColorBitCount_Image(decoded.icon.image, depth.colors);
-  if (decoded.icon.hasAlphaValues() && hasAlpha(decoded.icon.alpha)) depth.colors = kTrueColor;
-  depth.bits = convBPP_Upto24(depth.colors);
-  if (depth.colors == kTrueColor && header.bits == kBitsWithAlpha) depth.bits = kBitsWithAlpha;
-  return depth;
+  int colors = 0;
+  GetColorBitCount_Image(decoded.icon.image, colors);
+  if (decoded.icon.hasAlphaValues() && hasAlpha(decoded.icon.alpha)) colors = kTrueColor;
+  return depthOfColors(colors, header.bits == kBitsWithAlpha);
 }
 
 std::optional<unsigned> highestIndex(const IconFile& file, const IconEntry& entry, const ImageHeader& header) {

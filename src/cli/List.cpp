@@ -1,7 +1,6 @@
 #include "cli/ImageFile.h"
 #include "cli/Json.h"
 #include "cli/Subcommands.h"
-#include "files/format/IconProbe.h"
 
 #include <cstdio>
 
@@ -11,7 +10,7 @@ namespace {
 // One image as it is listed.
 struct ImageRow {
   int index, width, height;
-  int colors, bits, headerColors, headerBits;
+  ColorDepth directory, header;
   unsigned bytes, offset;
   const char* encoding;
   bool usable;
@@ -19,28 +18,21 @@ struct ImageRow {
   int hotspotX, hotspotY;
 };
 
-// In a cursor's directory the places of planes and bits hold the hot spot: depth is known from the bitmap header alone.
-IconFacts factsOfImage(const IconFile& file, int index) {
-  const IconEntry entry = file.entry(index);
-  IconFacts facts = factsOfEntry(file, index);
-  if (file.isCursor()) facts.headerColors = ColorsForBitCount(facts.headerBits);
-  if (isPngImage(file, entry)) facts.headerColors = facts.headerBits = 0;  // there is no bitmap header
-  if (!file.isCursor()) return facts;
-  facts.dirColors = facts.headerColors;
-  facts.dirBits = facts.headerBits;
-  return facts;
+// Zeros for a PNG picture, which has no bitmap header. A cursor's entry states no colours.
+ColorDepth headerDepth(const IconFile& file, const IconEntry& entry) {
+  if (isPngImage(file, entry)) return {};
+  const int bits = headerBitCount(file, entry);
+  return file.isCursor() ? depthOfBits(bits) : depthOfEntry(entry, bits);
 }
 
 ImageRow rowOf(const IconFile& file, int index) {
   const IconEntry entry = file.entry(index);
-  const IconFacts facts = factsOfImage(file, index);
+  const ColorDepth header = headerDepth(file, entry);
   return {index,
           sideOf(entry.width),
           sideOf(entry.height),
-          facts.dirColors,
-          facts.dirBits,
-          facts.headerColors,
-          facts.headerBits,
+          file.isCursor() ? header : depthOfEntry(entry),
+          header,
           entry.bytesInRes,
           entry.imageOffset,
           isPngImage(file, entry) ? "png" : "bmp",
@@ -52,8 +44,8 @@ ImageRow rowOf(const IconFile& file, int index) {
 
 void printText(const std::string& path, const ImageRow& row) {
   std::printf("%s\t%d\t%dx%d\t%d\t%d\t%d\t%d\t%u\t%u\t%s\t%s", path.c_str(), row.index, row.width, row.height,
-              row.colors, row.bits, row.headerColors, row.headerBits, row.bytes, row.offset, row.encoding,
-              row.usable ? "usable" : "unusable");
+              row.directory.colors, row.directory.bits, row.header.colors, row.header.bits, row.bytes, row.offset,
+              row.encoding, row.usable ? "usable" : "unusable");
   if (row.hasHotspot) std::printf("\t%d\t%d", row.hotspotX, row.hotspotY);
   std::putchar('\n');
 }
@@ -62,8 +54,8 @@ void printJson(const ImageRow& row) {
   std::printf(
       "{\"index\":%d,\"width\":%d,\"height\":%d,\"colors\":%d,\"bits\":%d,\"headerColors\":%d,\"headerBits\":%d,"
       "\"bytes\":%u,\"offset\":%u,\"encoding\":\"%s\",\"usable\":%s",
-      row.index, row.width, row.height, row.colors, row.bits, row.headerColors, row.headerBits, row.bytes, row.offset,
-      row.encoding, row.usable ? "true" : "false");
+      row.index, row.width, row.height, row.directory.colors, row.directory.bits, row.header.colors, row.header.bits,
+      row.bytes, row.offset, row.encoding, row.usable ? "true" : "false");
   if (row.hasHotspot) std::printf(",\"hotspotX\":%d,\"hotspotY\":%d", row.hotspotX, row.hotspotY);
   std::putchar('}');
 }

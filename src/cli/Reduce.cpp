@@ -16,14 +16,14 @@ struct Method {
   ReductionMethod method;
 };
 
-constexpr std::array<Method, 8> kMethods{{{256, "optimal", ReductionMethod::Optimal},
-                                          {256, "system", ReductionMethod::System},
-                                          {16, "optimized", ReductionMethod::Optimized},
-                                          {16, "nearest", ReductionMethod::Nearest},
-                                          {16, "vga", ReductionMethod::StandardVga},
-                                          {2, "cutoff", ReductionMethod::SelectCutoff},
-                                          {2, "weighted", ReductionMethod::Weighted},
-                                          {2, "ordered", ReductionMethod::Ordered}}};
+constexpr std::array<Method, 8> kMethods{{{kPaletteDepth.colors, "optimal", ReductionMethod::Optimal},
+                                          {kPaletteDepth.colors, "system", ReductionMethod::System},
+                                          {kStandardDepth.colors, "optimized", ReductionMethod::Optimized},
+                                          {kStandardDepth.colors, "nearest", ReductionMethod::Nearest},
+                                          {kStandardDepth.colors, "vga", ReductionMethod::StandardVga},
+                                          {kMonoDepth.colors, "cutoff", ReductionMethod::SelectCutoff},
+                                          {kMonoDepth.colors, "weighted", ReductionMethod::Weighted},
+                                          {kMonoDepth.colors, "ordered", ReductionMethod::Ordered}}};
 
 struct ReduceOptions {
   std::string to, method, threshold;  // each empty when it is not there

@@ -1,7 +1,7 @@
 #include "cli/ImageFile.h"
 #include "cli/OutputFolder.h"
 #include "cli/Subcommands.h"
-#include "files/browser/MultiIconListing.h"
+#include "files/format/DepthTexts.h"
 #include "files/format/IcoLayout.h"
 #include "files/format/SingleEntryFile.h"
 #include "platform/files/ByteReader.h"
@@ -54,8 +54,7 @@ bool isOfSensibleSize(const IconArrays& arrays) {
 }
 
 std::string nameOf(const std::string& stem, const IconEntry& entry) {
-  return stem + "_" + std::to_string(sideOf(entry.height)) + "_" +
-         colorsInFileName(ColorsForEntry(entry, entry.bitCount), entry.bitCount);
+  return stem + "_" + std::to_string(sideOf(entry.height)) + "_" + colorsInFileName(depthOfEntry(entry));
 }
 
 bool saveEntries(const IconArrays& arrays, const std::string& path, const std::string& folder, OutputNames& names) {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <compare>
 
 namespace gp {
 
@@ -17,12 +18,13 @@ struct ColorDepth {
   int colors = 0;  // 2, 16, 256 or kTrueColor; what a file states may be another number
   int bits = 0;    // per pixel: 1, 4, 8, 24 or 32; likewise
 
-  bool operator==(const ColorDepth&) const = default;
+  auto operator<=>(const ColorDepth&) const = default;
   constexpr bool isTrueColor() const { return colors == kTrueColor; }
   constexpr bool hasPalette() const { return colors > 0; }
   constexpr bool hasAlpha() const { return isTrueColor() && bits == kBitsWithAlpha; }
   // True when the editor shows icons of this depth: all with a palette, and true colour of 24 or 32 bits.
   constexpr bool isShown() const { return hasPalette() || bits == kBitsWithoutAlpha || bits == kBitsWithAlpha; }
+  constexpr ColorDepth withoutAlpha() const { return {colors, hasAlpha() ? kBitsWithoutAlpha : bits}; }
 };
 
 inline constexpr ColorDepth kMonoDepth{2, 1};
@@ -42,6 +44,9 @@ constexpr int convBPP_Upto24(int colors) {
   return found == kPaletteDepths.end() ? kBitsWithoutAlpha : found->bits;
 }
 
+// True for 2, 16 and 256, the sizes of palettes that there are row formats for.
+constexpr bool isPaletteSize(int colors) { return convBPP_Upto24(colors) != kBitsWithoutAlpha; }
+
 // The depth of a colour count. An alpha channel makes a difference to true colour only.
 constexpr ColorDepth depthOfColors(int colors, bool withAlpha = false) {
   return {colors, colors == kTrueColor && withAlpha ? kBitsWithAlpha : convBPP_Upto24(colors)};
@@ -49,5 +54,12 @@ constexpr ColorDepth depthOfColors(int colors, bool withAlpha = false) {
 
 // The depth of a bit count, as a bitmap header states it.
 constexpr ColorDepth depthOfBits(int bitCount) { return {ColorsForBitCount(bitCount), bitCount}; }
+
+// The depth that an icon counts as whose file states `depth`: bits that do not go with a palette follow from the
+// colours. Old icons state no bits.
+constexpr ColorDepth corrected(ColorDepth depth) {
+  const bool fits = !depth.hasPalette() || ColorsForBitCount(depth.bits) != kTrueColor;
+  return fits ? depth : depthOfColors(depth.colors);
+}
 
 }  // namespace gp

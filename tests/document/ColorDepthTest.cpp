@@ -29,6 +29,24 @@ TEST(ColorDepth, PalettesAndTrueColorOf24Or32BitsAreShown) {
   for (const int bits : {0, 8, 16, 25, 64}) EXPECT_FALSE((ColorDepth{-1, bits}).isShown()) << bits;
 }
 
+TEST(ColorDepth, OnlyTrueColorOf32BitsLosesBitsWithItsAlpha) {
+  EXPECT_EQ((ColorDepth{-1, 32}).withoutAlpha(), (ColorDepth{-1, 24}));
+  for (const ColorDepth depth : {ColorDepth{-1, 24}, ColorDepth{-1, 16}, ColorDepth{256, 8}})
+    EXPECT_EQ(depth.withoutAlpha(), depth);
+}
+
+TEST(ColorDepth, BitsThatDoNotGoWithAPaletteAreCorrected) {
+  EXPECT_EQ(corrected({16, 0}), (ColorDepth{16, 4}));
+  EXPECT_EQ(corrected({256, 24}), (ColorDepth{256, 8}));
+  EXPECT_EQ(corrected({256, 4}), (ColorDepth{256, 4})) << "bits of another palette stay";
+  for (const int bits : {0, 8, 16, 32}) EXPECT_EQ(corrected({-1, bits}), (ColorDepth{-1, bits}));
+}
+
+TEST(ColorDepth, PalettesHave2Or16Or256Colors) {
+  for (const int colors : {2, 16, 256}) EXPECT_TRUE(isPaletteSize(colors)) << colors;
+  for (const int colors : {-1, 0, 1, 4, 8, 255, 257}) EXPECT_FALSE(isPaletteSize(colors)) << colors;
+}
+
 TEST(ColorDepth, ARecordTakesAndGivesBothDepths) {
   IconContainerRec record;
   record.setDepth({-1, 32});

@@ -3,6 +3,7 @@
 // in the plainest way.
 #include "FuzzInput.h"
 #include "files/browser/MultiIconListing.h"
+#include "files/format/DepthTexts.h"
 #include "files/format/IconArrays.h"
 #include "files/format/IconSalvage.h"
 #include "files/format/IconUpdates.h"
@@ -151,7 +152,7 @@ void requireFound(const gp::IconArrays& arrays) {
   const gp::IconTraits last = gp::traitsOfEntry(arrays.entries.back());
   const int found = gp::findSameIcon(arrays, last, -1);
   require(found >= 0 && gp::traitsOfEntry(arrays.entries[static_cast<std::size_t>(found)]) == last);
-  require(gp::findSameIcon(arrays, last, found) != found && !gp::colorText(last).empty());
+  require(gp::findSameIcon(arrays, last, found) != found && !gp::colorText(last.depth).empty());
 }
 
 std::size_t sizeOf(const gp::IconArrays& arrays) {

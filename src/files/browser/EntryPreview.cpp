@@ -29,7 +29,7 @@ bool EntryPreview::show(const IconArrays& arrays, const IconEntry& entry, SizeRu
   DecodedIcon decoded = decodeEntry(arrays.file, entry, entry.width, entry.height);
   if (!decoded.isRead()) return false;
   icon_ = std::move(decoded.icon);
-  const bool hasAlpha = ColorsForEntry(entry, entry.bitCount) == kTrueColor;
+  const bool hasAlpha = depthOfEntry(entry).isTrueColor();
   picIcon_ = hasAlpha && showAlpha ? composedWithAlpha(icon_) : composedIcon(icon_.image, icon_.mask);
   picIcon_.makePersistent();
   return true;

@@ -51,10 +51,8 @@ std::optional<LoadAnswer> parseLoadAnswer(const std::string& answer) {
   load.facts.chosen = fields[1];
   load.facts.width = fields[2];
   load.facts.height = fields[3];
-  load.facts.dirColors = fields[4];
-  load.facts.dirBits = fields[5];
-  load.facts.headerColors = fields[6];
-  load.facts.headerBits = fields[7];
+  load.facts.directory = {fields[4], fields[5]};
+  load.facts.header = {fields[6], fields[7]};
   return load;
 }
 

@@ -3,6 +3,7 @@
 #include "document/Hourglass.h"
 #include "files/FileQuestions.h"
 #include "files/browser/MultiIconBrowser.h"
+#include "files/format/DepthTexts.h"
 #include "files/format/SingleEntryFile.h"
 #include "files/opening/IconMessages.h"
 #include "platform/dialogs/clsGPDialog.h"
@@ -25,8 +26,7 @@ std::string joined(const std::string& folder, const std::string& name) {
 std::string MultiIconBrowser::singleFileName(const std::string& stem, int item) const {
   const ItemReading reading = readItem(iconText(item));
   const ListedEntry& entry = listed(reading);
-  return stem + "_" + std::to_string(reading.height) + "_" + colorsInFileName(entry.dirColors, entry.dirBits) + "." +
-         kIconExtension;
+  return stem + "_" + std::to_string(reading.height) + "_" + colorsInFileName(entry.directory) + "." + kIconExtension;
 }
 
 bool MultiIconBrowser::saveItem(int item, const std::string& path) {

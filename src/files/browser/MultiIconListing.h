@@ -14,10 +14,8 @@ namespace gp {
 struct ListedEntry {
   int width = 0;  // the directory's bytes
   int height = 0;
-  int dirColors = 0;  // mDirColors, -1 for true colour
-  int dirBits = 0;    // mDirBits
-  int bihColors = 0;  // mBihColors
-  int bihBits = 0;    // mBihBits: the low byte of biBitCount, 0 where the image is too short
+  ColorDepth directory = {};  // mDirColors and mDirBits
+  ColorDepth header = {};     // mBihColors and mBihBits: the low byte of biBitCount, 0 where the image is too short
 
   // Square, and of 16, 24, 32 or 48 pixels.
   bool isStandard() const;
@@ -37,9 +35,6 @@ struct ItemReading {
   int height = 0;
 };
 ItemReading readItem(const std::string& text);
-
-// "16", or "24bpp" for true colour of 24 bits: the colour part of a file name.
-std::string colorsInFileName(int colors, int bits);
 
 // The item that is selected at first: the first 32x32 entry, displaced by a later one of 8 bits. 0 when there is none.
 class DefaultSelection {

@@ -26,7 +26,6 @@ constexpr const char* kAlphaReminder =
     "\n";
 
 bool isInside(int coordinate) { return coordinate >= 0 && coordinate < kCursorSide; }
-bool isShownDepth(const CursorFacts& facts) { return facts.colors > 0 || facts.bits == 24 || facts.bits == 32; }
 
 }  // namespace
 
@@ -46,7 +45,7 @@ void CursorFiles::doOpenCursorFile(const std::string& path, bool& ok) {
   if (!facts.valid) return context_.boxes.tell(path + kInvalidFile, BoxIcon::Exclamation);
   const DecodedIcon decoded = loadCursorImage(*file);
   if (!decoded.isRead()) return leaveEmpty(kFailedToLoad, BoxIcon::Exclamation);
-  if (!isShownDepth(facts)) return leaveEmpty(path + kStrangeTrueColor, BoxIcon::Information);
+  if (!facts.depth.isShown()) return leaveEmpty(path + kStrangeTrueColor, BoxIcon::Information);
   {
     const Hourglass hourglass(state_, context_.display);
     context_.document.arrival.arrive(decoded.icon, recordOfLoadedCursor(facts, decoded.icon, path));

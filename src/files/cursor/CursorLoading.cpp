@@ -11,12 +11,8 @@ IconEntry entryByHeader(const IconFile& file) {
   IconEntry entry = file.entry(0);
   const int bits = headerBitCount(file, entry);
   entry.colorCount = 0;
-  entry.bitCount = ColorsForBitCount(bits) == kTrueColor && bits != kBitsWithoutAlpha ? kBitsWithAlpha : bits;
+  entry.bitCount = depthOfBits(bits).hasPalette() || bits == kBitsWithoutAlpha ? bits : kBitsWithAlpha;
   return entry;
-}
-
-int keptBitCount(const IconImage& icon, int bits) {
-  return bits == kBitsWithAlpha && !icon.hasAlphaValues() ? kBitsWithoutAlpha : bits;
 }
 
 }  // namespace
@@ -32,9 +28,9 @@ IconContainerRec recordOfLoadedCursor(const CursorFacts& facts, const IconImage&
   IconContainerRec record;
   record.used = true;
   record.sourceLabel = kCurLabel;
-  record.dirColors = record.bihColors = facts.colors;
-  record.bitCount = record.bihBitCount = static_cast<std::int16_t>(keptBitCount(icon, facts.bits));
-  record.hasAlpha = record.bitCount == kBitsWithAlpha;
+  record.setDepth(icon.hasAlphaValues() ? facts.depth : facts.depth.withoutAlpha());
+  record.setHeaderDepth(record.depth());
+  record.hasAlpha = record.depth().hasAlpha();
   record.present = true;
   record.path = path;
   record.isCursor = true;

@@ -13,14 +13,13 @@ bool isEditable(const IconEntry& entry) {
 }  // namespace
 
 std::string CursorFacts::joined() const {
-  return valid ? "1/" + std::to_string(colors) + "/" + std::to_string(bits) : "0/0/0";
+  return valid ? "1/" + std::to_string(depth.colors) + "/" + std::to_string(depth.bits) : "0/0/0";
 }
 
 CursorFacts probeCursor(const IconFile& file) {
   const IconEntry entry = file.entry(0);
   if (!file.isCursor() || !isEditable(entry)) return {};
-  const int bits = headerBitCount(file, entry);
-  return {true, ColorsForBitCount(bits), bits, entry.hotspotX(), entry.hotspotY()};
+  return {true, depthOfBits(headerBitCount(file, entry)), entry.hotspotX(), entry.hotspotY()};
 }
 
 CursorFacts ProbeCursorFile(const std::string& path) {

@@ -12,8 +12,7 @@ inline constexpr int kCursorSide = 32;  // pixels; a hot spot lies in 0 to 31
 
 struct CursorFacts {
   bool valid = false;
-  int colors = 0;  // by the bitmap header alone, -1 for true colour
-  int bits = 0;    // biBitCount
+  ColorDepth depth;  // by the bitmap header alone
   int hotspotX = 0;
   int hotspotY = 0;
 

@@ -69,4 +69,8 @@ int RawColorsForEntry(const IconEntry& entry, int bitCount) {
   return entry.colorCount != 0 ? entry.colorCount : colorsForBits(bitCount);
 }
 
+ColorDepth depthOfEntry(const IconEntry& entry) { return depthOfEntry(entry, entry.bitCount); }
+
+ColorDepth depthOfEntry(const IconEntry& entry, int bitCount) { return {ColorsForEntry(entry, bitCount), bitCount}; }
+
 }  // namespace gp

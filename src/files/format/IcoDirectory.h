@@ -51,5 +51,8 @@ IconDirectory parseIconDirectory(std::span<const std::uint8_t> file);
 int ColorsForEntry(const IconEntry& entry, int bitCount);
 // The same with the entry's colour count as it stands.
 int RawColorsForEntry(const IconEntry& entry, int bitCount);
+// The depth that an entry has by its own bit count, and by another one.
+ColorDepth depthOfEntry(const IconEntry& entry);
+ColorDepth depthOfEntry(const IconEntry& entry, int bitCount);
 
 }  // namespace gp

@@ -2,6 +2,7 @@
 // one ICONDIR, its entries, and the images wherever the entries say. All numbers are little-endian.
 #pragma once
 
+#include "document/ColorDepth.h"
 #include "platform/files/BitmapLayout.h"
 
 #include <algorithm>
@@ -40,7 +41,7 @@ inline constexpr std::size_t kBitmapHeaderSize = dib::kHeaderSize;
 using dib::kHeaderBitCount;
 
 inline constexpr std::size_t kPaletteEntrySize = 4;
-inline constexpr int kMaxPaletteColors = 256;
+inline constexpr int kMaxPaletteColors = kPaletteDepth.colors;
 inline constexpr int kMaxEntrySide = 255;
 
 // A PNG picture in the place of a bitmap begins with these bytes.
@@ -59,6 +60,6 @@ constexpr std::size_t trueRowStride(int width, int bits) {
 // No image that a directory entry can describe reaches further behind its offset than this.
 inline constexpr std::size_t kLargestImage =
     kBitmapHeaderSize + kMaxPaletteColors * kPaletteEntrySize +
-    kMaxEntrySide * (trueRowStride(kMaxEntrySide, 32) + rowStride(kMaxEntrySide, 1));
+    kMaxEntrySide * (trueRowStride(kMaxEntrySide, kBitsWithAlpha) + rowStride(kMaxEntrySide, 1));
 
 }  // namespace gp::ico

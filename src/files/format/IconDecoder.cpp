@@ -1,6 +1,5 @@
 #include "files/format/IconDecoder.h"
 
-#include "document/IconContainerRec.h"
 #include "files/format/IcoLayout.h"
 #include "platform/files/ByteReader.h"
 
@@ -16,8 +15,6 @@ namespace {
 constexpr std::uint32_t kOpaque = 255;
 constexpr int kBytesPerTrueColor24 = 3;
 constexpr int kBytesPerTrueColor32 = 4;
-constexpr int kTrueColorBits24 = 24;
-constexpr int kTrueColorBits32 = 32;
 
 // Blue, green, red as they stand in files.
 std::uint32_t pixelAt(const std::uint8_t* bytes) {
@@ -47,14 +44,14 @@ struct ImageFormat {
 };
 
 ImageFormat formatOf(const IconEntry& entry, int width) {
-  const int colors = ColorsForEntry(entry, entry.bitCount);
+  const ColorDepth depth = depthOfEntry(entry);
   const std::size_t maskStride = ico::rowStride(width, 1);
-  if (colors < 1) {
-    const int bits = entry.bitCount == kTrueColorBits24 ? kTrueColorBits24 : kTrueColorBits32;
+  if (depth.isTrueColor()) {
+    const int bits = entry.bitCount == kBitsWithoutAlpha ? kBitsWithoutAlpha : kBitsWithAlpha;
     return {bits, 0, ico::trueRowStride(width, bits), maskStride};
   }
-  const int bits = colors == 2 ? 1 : colors == 16 ? 4 : 8;
-  return {bits, static_cast<std::size_t>(colors), ico::rowStride(width, bits), maskStride};
+  const int bits = convBPP_Upto24(depth.colors);
+  return {bits, static_cast<std::size_t>(depth.colors), ico::rowStride(width, bits), maskStride};
 }
 
 // `count` bytes of the file from a position on, with zeros for what it lacks: the row readers need no bounds checks.
@@ -139,7 +136,7 @@ void readAlphaRow(const std::uint8_t* row, std::uint8_t* out, int count) {
 Palette paletteFor(const std::uint8_t* bytes, const ImageFormat& format) {
   Palette palette;
   read32BitRow(bytes, nullptr, palette.data(), static_cast<int>(format.paletteCount));  // entries look like pixels
-  if (format.bits == 1) std::ranges::copy(monoTable(palette[0], palette[1]), palette.begin());
+  if (format.bits == kMonoDepth.bits) std::ranges::copy(monoTable(palette[0], palette[1]), palette.begin());
   return palette;
 }
 
@@ -147,13 +144,13 @@ using RowReader = void (*)(const std::uint8_t* row, const std::uint32_t* palette
 
 RowReader rowReaderFor(int bits) {
   switch (bits) {
-    case 1:
+    case kMonoDepth.bits:
       return readMonoRow;
-    case 4:
+    case kStandardDepth.bits:
       return read16ColorRow;
-    case 8:
+    case kPaletteDepth.bits:
       return read256ColorRow;
-    case kTrueColorBits24:
+    case kBitsWithoutAlpha:
       return read24BitRow;
     default:
       return read32BitRow;
@@ -174,17 +171,17 @@ Surface readRows(const std::uint8_t* rows, std::size_t stride, int width, int he
 AlphaMatrix readAlpha(const std::uint8_t* rows, const ImageFormat& format, int width, int height) {
   if (format.paletteCount != 0) return {};
   AlphaMatrix alpha(width, height, kOpaque);
-  if (format.bits != kTrueColorBits32) return alpha;
+  if (format.bits != kBitsWithAlpha) return alpha;
   for (int y = 0; y < height; ++y)
     readAlphaRow(rows + static_cast<std::size_t>(height - 1 - y) * format.imageStride, &alpha.at(0, y), width);
   return alpha;
 }
 
-bool hasRowFormat(int colors) { return colors < 1 || colors == 2 || colors == 16 || colors == ico::kMaxPaletteColors; }
+bool hasRowFormat(ColorDepth depth) { return depth.isTrueColor() || isPaletteSize(depth.colors); }
 
 IconDefect defectOfImage(const IconFile& file, const IconEntry& entry) {
   if (isPngImage(file, entry)) return IconDefect::PngImage;
-  return hasRowFormat(ColorsForEntry(entry, entry.bitCount)) ? IconDefect::None : IconDefect::StrangeDepth;
+  return hasRowFormat(depthOfEntry(entry)) ? IconDefect::None : IconDefect::StrangeDepth;
 }
 
 }  // namespace
@@ -228,9 +225,7 @@ DecodedIcon decodeEntry(const IconFile& file, const IconEntry& entry, int width,
 
 IconDefect defectOfEntry(const IconFile& file, const IconEntry& entry) {
   if (const IconDefect defect = defectOfImage(file, entry); defect != IconDefect::None) return defect;
-  const bool shown = ColorsForEntry(entry, entry.bitCount) != kTrueColor || entry.bitCount == kTrueColorBits24 ||
-                     entry.bitCount == kTrueColorBits32;
-  return shown ? IconDefect::None : IconDefect::StrangeTrueColor;
+  return depthOfEntry(entry).isShown() ? IconDefect::None : IconDefect::StrangeTrueColor;
 }
 
 }  // namespace gp

@@ -1,10 +1,7 @@
 #include "files/format/IconProbe.h"
 
-#include "colour/ColorCount.h"
-#include "document/IconContainerRec.h"
+#include "document/IconSizes.h"
 #include "files/format/IconDecoder.h"
-
-#include <array>
 
 namespace gp {
 namespace {
@@ -12,7 +9,6 @@ namespace {
 constexpr int kOneEntry = 1;
 constexpr int kSeveralEntries = 2;
 constexpr int kPreferredSize = 32;
-constexpr int kPreferredBits = 8;
 
 bool isSquareIcon(const IconEntry& entry) { return entry.width == entry.height && isIconSize(entry.width); }
 
@@ -58,7 +54,7 @@ class EntryScan {
     } else if (!met32_) {
       met32_ = true;
       chosen_ = index;
-    } else if (headerBitCount(file_, entry) == kPreferredBits) {
+    } else if (headerBitCount(file_, entry) == kPaletteDepth.bits) {
       chosen_ = index;
       stopped_ = preferEightBit_;
     }
@@ -72,17 +68,11 @@ class EntryScan {
   bool stopped_ = false;
 };
 
-bool isPaletteBitCount(int bits) { return bits == 1 || bits == 4 || bits == 8; }
-
 }  // namespace
-
-int IconFacts::bitCount() const {
-  return dirColors > 0 && !isPaletteBitCount(dirBits) ? convBPP_Upto24(dirColors) : dirBits;
-}
 
 std::string IconFacts::joined() const {
   std::string text = std::to_string(kind);
-  for (const int number : {usable, chosen, width, height, dirColors, dirBits, headerColors, headerBits})
+  for (const int number : {usable, chosen, width, height, directory.colors, directory.bits, header.colors, header.bits})
     text += "/" + std::to_string(number);
   return text;
 }
@@ -94,10 +84,8 @@ IconFacts factsOfEntry(const IconFile& file, int index) {
   facts.chosen = index;
   facts.width = entry.width;
   facts.height = entry.height;
-  facts.dirBits = entry.bitCount;
-  facts.dirColors = ColorsForEntry(entry, facts.dirBits);
-  facts.headerBits = headerBitCount(file, entry);
-  facts.headerColors = ColorsForEntry(entry, facts.headerBits);
+  facts.directory = depthOfEntry(entry);
+  facts.header = depthOfEntry(entry, headerBitCount(file, entry));
   return facts;
 }
 

@@ -14,15 +14,13 @@ struct IconFacts {
   int chosen = 0;  // chosen entry, from 0
   int width = 0;
   int height = 0;
-  int dirColors = 0;     // by the directory's bit count, -1 for true colour
-  int dirBits = 0;       // the directory's bit count
-  int headerColors = 0;  // by the bitmap header's bit count
-  int headerBits = 0;    // the bitmap header's bit count
+  ColorDepth directory;  // by the directory's bit count
+  ColorDepth header;     // by the bitmap header's bit count
 
   bool canBeOpened() const { return kind != 0 && usable != 0; }
   bool hasSeveralEntries() const { return kind == 2; }
-  // The bit count the icon counts as: where the directory's is strange, the number of colours decides.
-  int bitCount() const;
+  // The depth that the icon counts as.
+  ColorDepth depth() const { return corrected(directory); }
   // The nine numbers joined by "/".
   std::string joined() const;
 };

@@ -24,14 +24,7 @@ IconTraits traitsToWrite(const IconImage& icon, const IconContainerRec& record) 
   return {icon.width(), icon.height(), depthToWrite(icon, record)};
 }
 
-IconTraits traitsOfEntry(const IconEntry& entry) {
-  return {entry.width, entry.height, {ColorsForEntry(entry, entry.bitCount), entry.bitCount}};
-}
-
-std::string colorText(ColorDepth depth) {
-  if (depth.hasPalette()) return std::to_string(depth.colors) + "-color";
-  return "True Color " + std::to_string(depth.bits) + " BPP";
-}
+IconTraits traitsOfEntry(const IconEntry& entry) { return {entry.width, entry.height, depthOfEntry(entry)}; }
 
 int findSameIcon(const IconArrays& arrays, const IconTraits& traits, int except) {
   for (int i = 0; i < arrays.count(); ++i)

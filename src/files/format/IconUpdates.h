@@ -7,6 +7,7 @@
 #include "document/IconImage.h"
 #include "files/format/IconArrays.h"
 
+#include <compare>
 #include <optional>
 #include <span>
 #include <string>
@@ -19,15 +20,13 @@ struct IconTraits {
   int width = 0;
   int height = 0;
   ColorDepth depth;
-  bool operator==(const IconTraits&) const = default;
+  auto operator<=>(const IconTraits&) const = default;
 };
 
 // Of an icon as it will be written, see depthToWrite.
 IconTraits traitsToWrite(const IconImage& icon, const IconContainerRec& record);
 // Of an entry, by the directory.
 IconTraits traitsOfEntry(const IconEntry& entry);
-// "16-color", or "True Color 32 BPP".
-std::string colorText(ColorDepth depth);
 // The first entry of these traits, passing over index `except` (-1 for none); -1 when there is none.
 int findSameIcon(const IconArrays& arrays, const IconTraits& traits, int except);
 

@@ -12,7 +12,7 @@ namespace {
 constexpr const char* kIcoLabel = "ICO file";
 
 // Entries of the palette, 0 for true colour.
-int paletteEntries(int colors) { return convBPP_Upto24(colors) == kBitsWithoutAlpha ? 0 : colors; }
+int paletteEntries(int colors) { return isPaletteSize(colors) ? colors : 0; }
 
 // Where icon and cursor files differ: in their type, in two words of the entry, and in the bits that the image's byte
 // count is computed for.

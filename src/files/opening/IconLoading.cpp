@@ -5,12 +5,6 @@ namespace {
 
 constexpr const char* kIcoLabel = "ICO file";
 
-// The bit count, where 32 is kept only with alpha values of the icon's width.
-int keptBitCount(const IconFacts& facts, const IconImage& icon) {
-  const int bits = facts.bitCount();
-  return bits == kBitsWithAlpha && icon.alpha.width() != facts.width ? kBitsWithoutAlpha : bits;
-}
-
 }  // namespace
 
 DecodedIcon loadIconImage(const IconFile& file, int index, bool checkSize, const std::optional<ReadSize>& size) {
@@ -26,11 +20,9 @@ IconContainerRec recordOfLoadedIcon(const IconFacts& facts, const IconImage& ico
   IconContainerRec record;
   record.used = true;
   record.sourceLabel = kIcoLabel;
-  record.dirColors = facts.dirColors;
-  record.bitCount = static_cast<std::int16_t>(keptBitCount(facts, icon));
-  record.hasAlpha = record.bitCount == kBitsWithAlpha;
-  record.bihColors = facts.headerColors;
-  record.bihBitCount = static_cast<std::int16_t>(facts.headerBits);
+  record.setDepth(icon.hasAlphaValues() ? facts.depth() : facts.depth().withoutAlpha());
+  record.setHeaderDepth(facts.header);
+  record.hasAlpha = record.depth().hasAlpha();
   record.present = true;
   record.path = path;
   record.fromMultiIconFile = facts.hasSeveralEntries();

@@ -45,7 +45,7 @@ bool IconOpening::run() {
   if (!isOfferedSize() || !isConfirmed()) return false;
   decoded_ = loadIconImage(file_, facts_.chosen, true);
   if (!decoded_.isRead()) return leaveEmpty(kFailedToLoad, BoxIcon::Exclamation);
-  if (!isShownDepth()) return leaveEmpty(kStrangeTrueColor, BoxIcon::Information);
+  if (!facts_.depth().isShown()) return leaveEmpty(kStrangeTrueColor, BoxIcon::Information);
   show();
   return true;
 }
@@ -89,13 +89,8 @@ bool IconOpening::isOfferedSize() {
 }
 
 bool IconOpening::isConfirmed() {
-  if (!isSpoken() || facts_.dirColors >= 0 || state_.process.gScreenBPP >= kManyColorsScreenBits) return true;
+  if (!isSpoken() || !facts_.directory.isTrueColor() || state_.process.gScreenBPP >= kManyColorsScreenBits) return true;
   return ConfirmTrueColorOnLowScreen(context_.boxes);
-}
-
-bool IconOpening::isShownDepth() const {
-  const int bits = facts_.bitCount();
-  return facts_.dirColors >= 0 || bits == 24 || bits == 32;
 }
 
 void IconOpening::show() {

@@ -31,7 +31,6 @@ class IconOpening {
   bool isOfferedSize();
   bool isConfirmed();
   void show();
-  bool isShownDepth() const;
   void remind();
   bool fail(const std::string& text, BoxIcon icon);
   bool leaveEmpty(const char* text, BoxIcon icon);

@@ -8,6 +8,7 @@
 #include "document/Hourglass.h"
 #include "drawing/Drawing.h"
 #include "files/FileQuestions.h"
+#include "files/format/DepthTexts.h"
 #include "files/opening/IconMessages.h"
 #include "files/saving/BitmapSaving.h"
 #include "files/saving/CurrentIcon.h"
@@ -34,10 +35,6 @@ constexpr const char* kFileNotSaved = "Failed to save this file.";
 constexpr const char* kMultiIconReminder =
     "Reminder:  The original icon file contains multiple icons.\n\n"
     " If you don't wish to overwrite it, save to a different name.";
-
-std::string colorsInName(const IconContainerRec& record) {
-  return record.isTrueColor() ? std::to_string(record.bitCount) + "bpp" : std::to_string(record.dirColors);
-}
 
 }  // namespace
 
@@ -164,7 +161,7 @@ std::string IconSaver::proposedName(SaveMode mode) const {
   std::string name = record.path.trimmed();
   if (name.find('.') != std::string::npos) name = ParseFileName(name, PathPart::BareName);
   if (mode == SaveMode::Mask) return name + "_Mask";
-  if (record.fromMultiIconFile) name += "_" + std::to_string(record.size) + "_" + colorsInName(record);
+  if (record.fromMultiIconFile) name += "_" + std::to_string(record.size) + "_" + colorsInFileName(record.depth());
   return name;
 }
 

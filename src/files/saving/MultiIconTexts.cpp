@@ -1,5 +1,6 @@
 #include "files/saving/MultiIconTexts.h"
 
+#include "files/format/DepthTexts.h"
 #include "platform/files/Files.h"
 
 #include <array>

@@ -31,18 +31,18 @@ TEST(IconProbe, OldIconsWithoutBitCountGetTheirColorsFromTheColorCount) {
 
 TEST(IconProbe, BitCountFollowsFromColorsWhereItIsStrange) {
   IconFacts facts;
-  facts.dirColors = 16;
-  EXPECT_EQ(facts.bitCount(), 4);
-  facts.dirColors = 2;
-  facts.dirBits = 24;
-  EXPECT_EQ(facts.bitCount(), 1);
-  facts.dirColors = 256;
-  EXPECT_EQ(facts.bitCount(), 8);
-  facts.dirBits = 4;
-  EXPECT_EQ(facts.bitCount(), 4);
-  facts.dirColors = -1;
-  facts.dirBits = 16;
-  EXPECT_EQ(facts.bitCount(), 16);
+  facts.directory.colors = 16;
+  EXPECT_EQ(facts.depth().bits, 4);
+  facts.directory.colors = 2;
+  facts.directory.bits = 24;
+  EXPECT_EQ(facts.depth().bits, 1);
+  facts.directory.colors = 256;
+  EXPECT_EQ(facts.depth().bits, 8);
+  facts.directory.bits = 4;
+  EXPECT_EQ(facts.depth().bits, 4);
+  facts.directory.colors = -1;
+  facts.directory.bits = 16;
+  EXPECT_EQ(facts.depth().bits, 16);
 }
 
 TEST(IconProbe, WidthAndHeightOfASingleEntryMayDiffer) {

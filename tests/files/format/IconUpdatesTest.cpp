@@ -138,13 +138,6 @@ TEST_F(IconUpdatesTest, TwoIconsAreTheSameWhenSizeColorsAndBitsAllAgree) {
   EXPECT_EQ(findSameIcon(arrays, {48, 48, {16, 4}}, -1), -1) << "an entry without bit count is never the same";
 }
 
-TEST_F(IconUpdatesTest, TextsTellColorsOrBits) {
-  EXPECT_EQ(colorText({2, 1}), "2-color");
-  EXPECT_EQ(colorText({256, 8}), "256-color");
-  EXPECT_EQ(colorText({-1, 24}), "True Color 24 BPP");
-  EXPECT_EQ(colorText({-1, 32}), "True Color 32 BPP");
-}
-
 TEST_F(IconUpdatesTest, APaintedDownIconCountsAsWhatItHasBecome) {
   record.dirColors = 256;
   record.bitCount = 8;
