@@ -7,7 +7,7 @@
 namespace gp::cli {
 namespace {
 
-// Unlike the readers of images this takes the whole file: its end is one of the things looked at.
+// Reads the whole file, unlike openImageFile: its size is one of the things that are checked.
 std::optional<IconFile> openWholeFile(const std::string& path) {
   auto file = readWholeIconFile(path);
   if (file && (file->isIcon() || file->isCursor())) return file;

@@ -14,12 +14,12 @@
 namespace gp::cli {
 namespace {
 
-// One entry with all that is known of it.
+// One entry and what is known about it.
 struct Inspection {
   const IconFile& file;
   int index;
   IconEntry entry;
-  std::optional<ImageHeader> header;  // nothing where the file ends before it
+  std::optional<ImageHeader> header;  // empty when the file ends before it
   bool sharesBytes;
 
   std::size_t fileSize() const { return file.span().size(); }
@@ -44,19 +44,19 @@ void findOtherSize(const Inspection& image, const DiscrepancySink& tell) {
     tell({image.index, "height", text(height), halfText(image.header->heightInHalves())});
 }
 
-// The pixels' word in a quarrel about the depth. Shared bytes are not read again and again.
+// The depth that the pixels need. Not measured for shared bytes, which could otherwise be read many times.
 std::optional<ColorDepth> depthOfPixels(const Inspection& image) {
   if (image.sharesBytes) return std::nullopt;
   return measureDepth(image.file, image.entry, *image.header);
 }
 
-// A count that the editor does not know may still be the truth.
+// A colour count that the editor does not support may still be correct.
 bool colorsFit(const IconEntry& entry, int headerColors) {
   return ColorsForEntry(entry, entry.bitCount) == headerColors ||
          RawColorsForEntry(entry, entry.bitCount) == headerColors;
 }
 
-// Without a bit count an entry tells its depth by the colours.
+// An entry without a bit count states its depth by the colour count.
 bool bitsFit(const IconEntry& entry, int headerBits, bool fittingColors) {
   return entry.bitCount == 0 ? fittingColors : entry.bitCount == headerBits;
 }

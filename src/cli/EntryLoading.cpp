@@ -11,7 +11,7 @@
 namespace gp::cli {
 namespace {
 
-// The entry that the editor would open, or why it would open none.
+// The entry that the editor would open, or the reason why it opens none.
 struct ChosenEntry {
   IconDefect defect = IconDefect::None;
   int index = 0;

@@ -1,4 +1,4 @@
-// Icon and cursor files as the subcommands open them. The content tells what a file is, not its name.
+// Opens icon and cursor files for the subcommands. The content decides what a file is, not its name.
 #pragma once
 
 #include "files/format/IconDecoder.h"
@@ -9,11 +9,11 @@
 
 namespace gp::cli {
 
-// Opens an icon or cursor file, or with openIconFile an icon file only. Empty after a complaint.
+// Opens an icon or cursor file; openIconFile accepts icon files only. Empty after an error message.
 std::optional<IconFile> openImageFile(const std::string& path);
 std::optional<IconFile> openIconFile(const std::string& path);
 
-// A side in pixels: a byte of 0 stands for 256.
+// A side in pixels from its byte in a directory: 0 means 256.
 int sideOf(int told);
 
 // True when the editor can show the image.
@@ -24,7 +24,7 @@ struct DecodedImage {
   IconImage icon;
   bool hasAlpha = false;
 };
-// Nothing for an image that is not usable.
+// Empty for an image that is not usable.
 std::optional<DecodedImage> decodeImage(const IconFile& file, int index);
 
 }  // namespace gp::cli

@@ -10,7 +10,7 @@
 namespace gp::cli {
 namespace {
 
-constexpr std::int64_t kLargestSide = 256;  // a byte of 0
+constexpr std::int64_t kLargestSide = 256;  // stored as 0
 constexpr int kBitsPerByte = 8;
 constexpr std::uint8_t kOpaque = 255;
 
@@ -20,7 +20,8 @@ bool isReadable(const ImageHeader& header) {
          height <= kLargestSide;
 }
 
-// A shorter palette moves the rows, but some writers tell one and yet write a full one. The size tells.
+// A short palette moves the rows, but some writers state a short palette and write a full one. The size of the image
+// shows which.
 std::uint32_t paletteWritten(const IconEntry& entry, const ImageHeader& header) {
   const std::uint32_t full = header.paletteForBits();
   return entry.bytesInRes == header.bytesNeeded(full) ? full : header.paletteTold();

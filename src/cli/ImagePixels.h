@@ -1,5 +1,4 @@
-// What the pixels of an image really hold, read as its bitmap header tells. The directory's word counts for nothing
-// here.
+// Measures the pixels of an image, which are read as its bitmap header states. The directory is ignored.
 #pragma once
 
 #include "cli/ImageHeader.h"
@@ -13,7 +12,7 @@ namespace gp::cli {
 // can state.
 std::optional<ColorDepth> measureDepth(const IconFile& file, const IconEntry& entry, const ImageHeader& header);
 
-// The highest palette index in the picture. Nothing for images without a palette or with a full one, and as above.
+// The highest palette index in the picture. Empty for images without a palette or with a full one, and as above.
 std::optional<unsigned> highestIndex(const IconFile& file, const IconEntry& entry, const ImageHeader& header);
 
 }  // namespace gp::cli

@@ -7,7 +7,7 @@
 namespace gp::cli {
 namespace {
 
-// One image as it is listed.
+// One image in the list.
 struct ImageRow {
   int index, width, height;
   ColorDepth directory, header;
@@ -18,7 +18,7 @@ struct ImageRow {
   int hotspotX, hotspotY;
 };
 
-// Zeros for a PNG picture, which has no bitmap header. A cursor's entry states no colours.
+// The depth by the bitmap header. Zeros for a PNG picture, which has none. A cursor's entry states no colours.
 ColorDepth headerDepth(const IconFile& file, const IconEntry& entry) {
   if (isPngImage(file, entry)) return {};
   const int bits = headerBitCount(file, entry);

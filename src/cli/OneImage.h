@@ -1,5 +1,5 @@
-// What the subcommands share that make one file of one image: taking their arguments apart, loading the image and
-// writing the icon that has become of it. A refusal touches no file.
+// Code of the subcommands that write one file from one image: parsing their arguments, loading the image and writing
+// the resulting icon. When they refuse an image, no file is written.
 #pragma once
 
 #include "cli/Console.h"
@@ -11,26 +11,26 @@
 
 namespace gp::cli {
 
-// "IN.ico INDEX OUT", and what stands behind that.
+// The arguments "IN.ico INDEX OUT" and those that follow.
 struct ImageArguments {
   std::string input;
   int index = 0;
   std::string output;
   Arguments more;
 };
-// Takes them out of arguments that no option of the command is in any more. `needed` is how they are told in a
-// complaint, `more` how many stand behind OUT. Gives kDone, or kBadUsage after a complaint.
+// Parses arguments from which the options of the command have been removed. `needed` describes the arguments in an
+// error message, `more` is the number of those after OUT. Returns kDone, or kBadUsage after an error message.
 int takeImageArguments(const std::string& command, const std::string& needed, const Arguments& arguments,
                        std::size_t more, ImageArguments& told);
 
-// Loads the image as the editor does when it opens a file. Empty after a complaint.
+// Loads the image as the editor does when it opens a file. Empty after an error message.
 std::optional<LoadedIcon> loadImage(const ImageArguments& told);
-// The same for an effect, which takes no icon with alpha.
+// The same for an effect, which refuses icons with alpha.
 std::optional<LoadedIcon> loadImageForEffect(const ImageArguments& told);
 
-// Gives kDone for an output that has been written, otherwise kRefused after a complaint.
+// Returns kDone if the output has been written, otherwise kRefused after an error message.
 int answerToWriting(bool isWritten, const std::string& output);
-// Writes an icon as the editor saves one of that record. Returns the exit status.
+// Writes an icon as the editor saves one with that record. Returns the exit status.
 int writeIcon(const IconImage& icon, const IconContainerRec& record, const std::string& output);
 
 }  // namespace gp::cli

@@ -11,7 +11,7 @@ namespace gp::cli {
 namespace {
 
 struct Method {
-  int colors;  // that it reduces to
+  int colors;  // the number that it reduces to
   std::string_view name;
   ReductionMethod method;
 };
@@ -26,7 +26,7 @@ constexpr std::array<Method, 8> kMethods{{{kPaletteDepth.colors, "optimal", Redu
                                           {kMonoDepth.colors, "ordered", ReductionMethod::Ordered}}};
 
 struct ReduceOptions {
-  std::string to, method, threshold;  // each empty when it is not there
+  std::string to, method, threshold;  // empty if not given
 };
 
 bool takeOptions(Arguments& arguments, ReduceOptions& options) {
@@ -34,7 +34,7 @@ bool takeOptions(Arguments& arguments, ReduceOptions& options) {
          takeOption(arguments, "--threshold", options.threshold);
 }
 
-// Null for a method that there is not, or not to so many colours.
+// Null if there is no such method for that number of colours.
 const Method* findMethod(const ReduceOptions& options) {
   const auto found = std::ranges::find_if(kMethods, [&](const Method& row) {
     return std::to_string(row.colors) == options.to && row.name == options.method;
@@ -42,7 +42,7 @@ const Method* findMethod(const ReduceOptions& options) {
   return found == kMethods.end() ? nullptr : &*found;
 }
 
-// Such an icon is refused, after a complaint.
+// True, after an error message, for an icon that has no more colours than `most`.
 bool hasFewColors(const IconImage& icon, int most, const std::string& path) {
   int colors = 0;
   GetColorBitCount_Image(icon.image, colors);

@@ -13,10 +13,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Entries may share bytes, and a small file could so ask for more than a disk holds. No honest one asks for this.
+// Entries may share bytes, so that a small file could expand to more than a disk holds. No real file is this large.
 constexpr std::uint64_t kMostBytes = std::uint64_t{256} << 20;
 
-// An input may stand in the folder that is written to: its name is not free.
+// An input file in the output folder must not be overwritten: its name is reserved.
 void keepOffInputs(const FolderArguments& told, OutputNames& names) {
   std::map<fs::path, bool> isOutput;
   for (const std::string& path : told.files) {
@@ -34,7 +34,7 @@ bool isAllThere(const IconFile& file, int index, const IconEntry& entry) {
   return reader.contains(at, ico::kEntrySize) && reader.contains(entry.imageOffset, entry.bytesInRes);
 }
 
-// Takes those images that are all there, unlike the updates, which refuse a file that lacks any.
+// Keeps the images that the file contains completely; updates refuse a file that lacks any.
 IconArrays takeWholeImages(IconFile file) {
   IconArrays arrays;
   arrays.file = std::move(file);

@@ -8,7 +8,7 @@ namespace {
 constexpr std::uint8_t kTransparent = 255;
 constexpr std::uint8_t kOpaque = 0;
 
-// Bytes of a portable pixmap or graymap: a line of text and the samples.
+// A portable pixmap or graymap: a header line and the samples.
 class Netpbm {
  public:
   Netpbm(const char* magic, int width, int height, std::size_t bytesPerPixel) {

@@ -15,7 +15,7 @@ const char* describeUnread(ArraysDefect defect) {
   return describe(defect == ArraysDefect::NotReadable ? IconDefect::NotReadable : IconDefect::NotAnIcon);
 }
 
-// Also when nothing is there.
+// True also if there is no file.
 bool isOrdinary(const std::string& path) {
   std::error_code error;
   const auto status = std::filesystem::status(path, error);

@@ -15,7 +15,7 @@ bool isReadSize(const IconEntry& entry, SizeRule rule) {
   return isIconSize(entry.width, entry.height);
 }
 
-// paintAlphaPreview: what the Mask lets through is the plain ground, and nothing is inverted.
+// paintAlphaPreview: transparent pixels show the plain background, and no pixel is inverted.
 Surface composedWithAlpha(const IconImage& icon) {
   Surface composed(icon.width(), icon.height(), kGround);
   composeAlpha(icon.mask, icon.image, icon.alpha, composed);

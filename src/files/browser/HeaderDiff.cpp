@@ -37,7 +37,7 @@ std::string itemText(std::size_t index, const ListedEntry& shown) {
          std::to_string(shown.width) + " x " + std::to_string(shown.height);
 }
 
-// The entry that an item text tells of.
+// The index of the entry that an item text describes.
 std::size_t indexIn(const std::string& item) {
   return static_cast<std::size_t>(Int(Val(item.substr(0, item.find('\t'))))) - 1;
 }
@@ -49,8 +49,8 @@ std::string bitsLabel(ColorDepth depth) {
 
 int sideOf(int byte) { return byte == 0 ? kLargestSide : byte; }
 
-// Whether any pixel of a 32-bit image has an alpha byte. The decoder's alpha values do not tell: there an image without
-// alpha is as opaque as one whose alpha is full.
+// True when a pixel of a 32-bit image has an alpha byte. The decoder's alpha values do not show this: an image without
+// alpha is opaque there, as one with full alpha is.
 bool hasAlphaBytes(ImageBytes image, const HeaderFacts& facts) {
   if (facts.bits != kBitsWithAlpha || image.size() <= ico::kBitmapHeaderSize) return false;
   const ImageBytes rows = image.subspan(ico::kBitmapHeaderSize);
@@ -94,7 +94,7 @@ void HeaderDiff::readMultiIconFile() {
   selected_ = -1;
   table_ = {};
   preview_.clear();
-  // A defect leaves the arrays empty, and that is all that it means here.
+  // On a defect the arrays are empty, and so is the list.
   static_cast<void>(readIconArrays(file_, ReservedField::Any, arrays_));
   entries_ = listEntries(arrays_);
   headers_.clear();
@@ -107,7 +107,7 @@ void HeaderDiff::listIcons() {
   for (std::size_t i = 0; i < entries_.size(); ++i) icons_.push_back(itemText(i, shownEntry(i)));
 }
 
-// Without a bitmap header there is but the directory.
+// An image without a bitmap header is described by its directory entry.
 bool HeaderDiff::goesByHeader(std::size_t index) const {
   return base_ == HeaderBase::Bitmap && hasBitmapHeader(arrays_.images[index]);
 }
@@ -146,7 +146,7 @@ void HeaderDiff::select(int item) {
   table_ = tableOf(index);
 }
 
-// By the bitmap header its bit count alone tells the colours: the directory's count may be the lie.
+// With the base of the bitmap header, only its bit count states the colours: the directory's count may be wrong.
 bool HeaderDiff::readImageAtIndex(std::size_t index) {
   const Hourglass hourglass(context_.state, context_.display);
   IconEntry entry = arrays_.entries[index];

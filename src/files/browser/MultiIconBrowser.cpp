@@ -14,7 +14,7 @@
 namespace gp {
 namespace {
 
-constexpr int kTooManyEntries = 100;  // from here on a Ref does not fit into the two characters it is read from
+constexpr int kTooManyEntries = 100;  // from here on a Ref needs more than the two characters that are read
 constexpr std::size_t kFewestToChooseFrom = 2;
 
 constexpr const char* kEditCaption = "Edit Icon In Multi-Icon File";
@@ -79,7 +79,7 @@ bool MultiIconBrowser::readMultiIconFile() {
   return readIconArrays(file(), ReservedField::Any, arrays_) == ArraysDefect::None;
 }
 
-// Answers the item that is selected at first.
+// Returns the item that is selected first.
 int MultiIconBrowser::fillIconLists() {
   DefaultSelection first;
   entries_ = listEntries(arrays_);
@@ -105,7 +105,7 @@ void MultiIconBrowser::openFile() {
 
 // Selecting.
 
-// The item's text is the only record of what is selected: where its Ref reads as another entry's, that one is shown.
+// The selection is stored as the item's text only: where its Ref reads as that of another entry, that entry is shown.
 bool MultiIconBrowser::preview(const std::string& item, EntryPreview& preview) {
   const Hourglass hourglass(context_.state, context_.display);
   const ItemReading reading = readItem(item);
@@ -115,7 +115,7 @@ bool MultiIconBrowser::preview(const std::string& item, EntryPreview& preview) {
   return preview.show(arrays_, entry, sizesShownIn(preview), listed(reading).directory.bits >= kBitsWithAlpha);
 }
 
-// The pane moves entries of all sizes, so it shows them too.
+// The pane lists entries of all sizes and shows them all.
 SizeRule MultiIconBrowser::sizesShownIn(const EntryPreview& preview) const {
   return &preview == &repositionPreview_ ? SizeRule::Any : SizeRule::IconSizes;
 }
@@ -126,7 +126,7 @@ bool MultiIconBrowser::previewOrTell(const std::string& item, EntryPreview& prev
   return false;
 }
 
-// Selects in a list that is new; -1 and what cannot be shown leave nothing selected.
+// Selects an item of a new list. -1 and entries that cannot be shown leave no selection.
 void MultiIconBrowser::selectAnew(int item) {
   selected_ = -1;
   preview_.clear();

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kPreferredSize = 32;
 
-// How an item text is read again: its parts stand at fixed distances from both ends.
+// Positions in an item text, whose parts are at fixed distances from both ends.
 constexpr std::size_t kSideWidth = 3;
 constexpr std::size_t kSizeWidth = 9;
 constexpr std::size_t kRefField = 6;

@@ -55,7 +55,7 @@ void CursorFiles::doOpenCursorFile(const std::string& path, bool& ok) {
   remindOfAlpha();
 }
 
-// Showing a container that is empty wipes the Surfaces, dims the tools and clears the status bar.
+// Switching to an empty container clears the Surfaces and the status bar and disables the tools.
 void CursorFiles::leaveEmpty(const std::string& text, BoxIcon icon) {
   ClearContainer(state_);
   context_.document.iconsPanel.SwitchContainer(state_.mCurContainer);

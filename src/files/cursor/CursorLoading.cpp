@@ -5,8 +5,8 @@ namespace {
 
 constexpr const char* kCurLabel = "CUR file";
 
-// In a cursor file the entry tells no depth: the bitmap header's takes its place. What has no palette and is not of 24
-// bits is read as four bytes a pixel.
+// The entry of a cursor file states no depth; that of the bitmap header is used instead. Images without a palette that
+// are not of 24 bits are read as four bytes per pixel.
 IconEntry entryByHeader(const IconFile& file) {
   IconEntry entry = file.entry(0);
   const int bits = headerBitCount(file, entry);

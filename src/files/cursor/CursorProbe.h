@@ -1,5 +1,5 @@
-// What a cursor file holds, as far as the editor takes cursors: one picture of 32x32 at offset 22 with a hot spot
-// inside. Refuses nothing; a file that is no such cursor is an answer too.
+// Describes a cursor file. The editor supports one image of 32x32 at offset 22 with a hot spot inside. Accepts any
+// file; one that is not such a cursor is not valid.
 #pragma once
 
 #include "files/format/IconFile.h"
@@ -16,12 +16,12 @@ struct CursorFacts {
   int hotspotX = 0;
   int hotspotY = 0;
 
-  // "1/", colours, "/", bits; "0/0/0" for what is no cursor.
+  // "1/", colours, "/", bits; "0/0/0" if not valid.
   std::string joined() const;
 };
 
 CursorFacts probeCursor(const IconFile& file);
-// The same for a file; one that cannot be read counts as no cursor.
+// The same for a file on disk. One that cannot be read is not valid.
 CursorFacts ProbeCursorFile(const std::string& path);
 
 }  // namespace gp

@@ -1,4 +1,4 @@
-// A depth in words.
+// Texts that describe a depth.
 #pragma once
 
 #include "document/ColorDepth.h"

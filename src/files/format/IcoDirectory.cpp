@@ -21,7 +21,7 @@ IconEntry parseEntry(ByteReader& reader, std::size_t at) {
   return entry;
 }
 
-// How many entries the file holds bytes of, at most `count`.
+// The number of entries of which the file holds at least one byte; at most `count`.
 std::size_t entriesPresent(std::size_t fileSize, std::size_t count) {
   if (fileSize <= ico::kDirSize) return 0;
   const std::size_t room = fileSize - ico::kDirSize;
@@ -32,7 +32,7 @@ int standardColorCount(int colorCount) {
   return colorCount > kMonoDepth.colors ? kStandardDepth.colors : kMonoDepth.colors;
 }
 
-// The colours when the entry gives no count.
+// The number of colours of an entry without a colour count.
 int colorsForBits(int bitCount) {
   if (bitCount == 0) return kPaletteDepth.colors;
   return bitCount > kPaletteDepth.bits ? kTrueColor : 1 << bitCount;

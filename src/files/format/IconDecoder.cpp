@@ -16,12 +16,12 @@ constexpr std::uint32_t kOpaque = 255;
 constexpr int kBytesPerTrueColor24 = 3;
 constexpr int kBytesPerTrueColor32 = 4;
 
-// Blue, green, red as they stand in files.
+// A pixel stored as blue, green, red.
 std::uint32_t pixelAt(const std::uint8_t* bytes) {
   return static_cast<std::uint32_t>(bytes[2] | bytes[1] << 8 | bytes[0] << 16);
 }
 
-// One load instead of four, so that whole rows become vector code.
+// One load instead of four lets the compiler vectorize the row loops.
 std::uint32_t littleEndian32(const std::uint8_t* bytes) {
   std::uint32_t value;
   std::memcpy(&value, bytes, sizeof value);
@@ -30,7 +30,7 @@ std::uint32_t littleEndian32(const std::uint8_t* bytes) {
   return value;
 }
 
-// How the rows of an image lie in its bytes.
+// The layout of the rows in the bytes of an image.
 struct ImageFormat {
   int bits;                  // per pixel of the picture
   std::size_t paletteCount;  // 0 for true colour
@@ -54,7 +54,8 @@ ImageFormat formatOf(const IconEntry& entry, int width) {
   return {bits, static_cast<std::size_t>(depth.colors), ico::rowStride(width, bits), maskStride};
 }
 
-// `count` bytes of the file from a position on, with zeros for what it lacks: the row readers need no bounds checks.
+// `count` bytes of the file from a position on, with zeros beyond its end, so that the row readers need no bounds
+// checks.
 class PaddedBytes {
  public:
   PaddedBytes(std::span<const std::uint8_t> file, std::uint64_t at, std::size_t count) {
@@ -74,7 +75,7 @@ class PaddedBytes {
 
 using Palette = std::array<std::uint32_t, ico::kMaxPaletteColors>;
 
-// The pixels of each half byte of a picture of two colours: rows of bits are copied four pixels at a time.
+// The four pixels of each half byte of a picture of two colours, so that rows are copied four pixels at a time.
 constexpr int kPixelsPerHalf = 4;
 constexpr int kPixelsPerByte = 2 * kPixelsPerHalf;
 using MonoTable = std::array<std::uint32_t, 16 * kPixelsPerHalf>;
@@ -124,7 +125,7 @@ void read32BitRow(const std::uint8_t* row, const std::uint32_t*, std::uint32_t* 
   }
 }
 
-// An alpha of 0 leaves the pixel opaque here: fully transparent pixels are told by the Mask alone.
+// An alpha of 0 leaves the pixel opaque here, because the Mask alone marks fully transparent pixels.
 void readAlphaRow(const std::uint8_t* row, std::uint8_t* out, int count) {
   for (int x = 0; x < count; ++x) {
     const std::uint32_t alpha = littleEndian32(row + x * kBytesPerTrueColor32) >> 24;
@@ -132,10 +133,11 @@ void readAlphaRow(const std::uint8_t* row, std::uint8_t* out, int count) {
   }
 }
 
-// What the row reader of a format looks its pixels up in: the file's colours, for two of them a MonoTable.
+// The lookup table for the row reader of a format: the file's colours, or a MonoTable for two colours.
 Palette paletteFor(const std::uint8_t* bytes, const ImageFormat& format) {
   Palette palette;
-  read32BitRow(bytes, nullptr, palette.data(), static_cast<int>(format.paletteCount));  // entries look like pixels
+  // Palette entries have the layout of pixels.
+  read32BitRow(bytes, nullptr, palette.data(), static_cast<int>(format.paletteCount));
   if (format.bits == kMonoDepth.bits) std::ranges::copy(monoTable(palette[0], palette[1]), palette.begin());
   return palette;
 }
@@ -157,7 +159,7 @@ RowReader rowReaderFor(int bits) {
   }
 }
 
-// Rows stand bottom row first.
+// The bottom row is stored first.
 Surface readRows(const std::uint8_t* rows, std::size_t stride, int width, int height, const std::uint32_t* palette,
                  RowReader readRow) {
   Surface surface(width, height);

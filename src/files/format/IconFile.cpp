@@ -10,14 +10,14 @@
 namespace gp {
 namespace {
 
-// Most icon files fit in this and are read at once. A directory may be longer.
+// Most icon files are no larger and are read at once. A directory may be longer.
 constexpr std::size_t kFirstPart = 256 * 1024;
 
-// Far above what the images of any real file take; of one that lies, no more than this is read.
+// Far above the size of the images of any real file. Of a file with wrong offsets, no more than this is read.
 constexpr std::uint64_t kMostRead = std::uint64_t{64} << 20;
 
-// Where the bytes are that a reader can want, as far as kMostRead allows: the directory, and each image once, however
-// many entries share it.
+// The parts of the file that a reader can use, up to kMostRead: the directory, and each image once, even if several
+// entries share it.
 std::vector<FileRange> wantedRanges(const IconDirectory& directory) {
   std::vector<std::uint64_t> offsets;
   for (const IconEntry& entry : directory.entries) offsets.push_back(entry.imageOffset);

@@ -1,5 +1,5 @@
-// An icon or cursor file in memory: its bytes and its directory, parsed once and handed on to every reader. A file of
-// any other kind is an IconFile too; its directory tells so.
+// An icon or cursor file in memory: its bytes and its directory, which is parsed once and passed on to every reader. A
+// file of any other kind can be an IconFile too; see isIcon and isCursor.
 #pragma once
 
 #include "files/format/IcoDirectory.h"
@@ -23,17 +23,17 @@ struct IconFile {
 };
 
 IconFile parseIconFile(FileBytes bytes);
-// Reads a file as far as its directory and images can reach, which for a huge file is not all of it. Bytes between them
-// are zero. Empty when it is no regular file or cannot be read.
+// Reads the parts of a file that its directory and images can occupy, which for a huge file is not all of it; bytes
+// between these parts are zero. Empty when the file is not regular or cannot be read.
 std::optional<IconFile> readIconFile(const std::string& path);
-// Reads all bytes of a file, for callers that rewrite it or compare its size. Empty as above.
+// Reads all bytes of a file, for callers that rewrite it or check its size. Empty as above.
 std::optional<IconFile> readWholeIconFile(const std::string& path);
 
-// biBitCount of the bitmap header of an entry's image; 0 where the file does not reach.
+// biBitCount of the bitmap header of an entry's image; 0 when the file ends before it.
 int headerBitCount(const IconFile& file, const IconEntry& entry);
 // True when the entry's image is a PNG picture.
 bool isPngImage(const IconFile& file, const IconEntry& entry);
-// The same for the bytes of an image.
+// The same for the bytes of one image.
 bool isPngImage(std::span<const std::uint8_t> image);
 
 }  // namespace gp

@@ -12,7 +12,7 @@ constexpr int kPreferredSize = 32;
 
 bool isSquareIcon(const IconEntry& entry) { return entry.width == entry.height && isIconSize(entry.width); }
 
-// The checks on the first entry, without which a file does not count as an icon.
+// Checks on the first entry. A file that fails them does not count as an icon.
 bool isSound(const IconEntry& first) {
   return first.width > 0 && first.height > 0 && first.bytesInRes > 0 && first.imageOffset > 0;
 }
@@ -31,7 +31,7 @@ IconFacts probeSingle(const IconFile& file) {
   return facts;
 }
 
-// The scan over several entries. It goes on behind a first 32x32 entry even if that one has 8 bits.
+// Scans a file with several entries. A first 32x32 entry does not end the scan, even if it has 8 bits.
 class EntryScan {
  public:
   EntryScan(const IconFile& file, bool preferEightBit) : file_(file), preferEightBit_(preferEightBit) {}

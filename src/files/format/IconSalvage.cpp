@@ -12,12 +12,12 @@ namespace gp {
 namespace {
 
 constexpr int kLargestSide = 128;
-// A height is told in one byte, which images of 128 pixels and more would overflow with their Mask.
+// A height is stored in one byte, which images of 128 pixels and more overflow, because it includes the Mask.
 constexpr int kLeastWholeHeight = 256;
 constexpr int kMostWholeHeight = 2 * ico::kMaxEntrySide;
 constexpr std::int64_t kLowByte = 0xFF;
 
-// A height below zero means that the top row comes first, and counts the same rows.
+// A negative height means that the top row comes first; the number of rows is the same.
 int halfOf(std::int32_t height) {
   const std::int64_t rows = std::abs(std::int64_t{height});
   const bool isWhole = rows >= kLeastWholeHeight && rows <= kMostWholeHeight;

@@ -11,11 +11,11 @@ namespace {
 
 constexpr const char* kIcoLabel = "ICO file";
 
-// Entries of the palette, 0 for true colour.
+// The number of palette entries, 0 for true colour.
 int paletteEntries(int colors) { return isPaletteSize(colors) ? colors : 0; }
 
-// Where icon and cursor files differ: in their type, in two words of the entry, and in the bits that the image's byte
-// count is computed for.
+// The differences between icon and cursor files: the type, two words of the entry, and the bits that the image's byte
+// count is computed with.
 struct FileKind {
   int type;
   int planes;    // or the hot spot's x
@@ -102,7 +102,7 @@ std::vector<std::uint8_t> composeSingleIcon(const IconImage& icon, ColorDepth de
   return composeFile(icon, depth, {ico::kTypeIcon, 1, depth.bits, depth.bits});
 }
 
-// The byte count is that of 24 bits whether there is alpha or not.
+// The byte count is computed for 24 bits even with an alpha channel. Intended.
 std::vector<std::uint8_t> composeCursor(const IconImage& icon, ColorDepth depth, int hotspotX, int hotspotY) {
   return composeFile(icon, depth, {ico::kTypeCursor, hotspotX, hotspotY, kBitsWithoutAlpha});
 }

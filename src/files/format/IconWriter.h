@@ -1,5 +1,5 @@
-// Composes the bytes of a file with one icon or cursor, and writes it. The depth is the caller's; depthToWrite gives
-// the one that loses no colour.
+// Composes and writes files with one icon or cursor. The caller states the depth; depthToWrite returns the one that
+// loses no colour.
 #pragma once
 
 #include "document/ColorDepth.h"
@@ -12,28 +12,30 @@
 
 namespace gp {
 
-// dwBytesInRes of one image in bytes: header, palette and both kinds of rows. `colors` is 2, 16, 256, or anything else
-// for true colour, of which only a `bitCount` of 32 has four bytes a pixel.
+// dwBytesInRes of one image in bytes: header, palette and both kinds of rows. `colors` is 2, 16 or 256; any other value
+// means true colour, which takes four bytes per pixel for a `bitCount` of 32 and three otherwise.
 std::uint32_t IconByteSize(int colors, int bitCount, int width, int height);
 
-// The depth that an icon is written with. It follows from the colours of the image, unless the record states true
-// colour, which stays true colour. An image that needs more than a palette holds is written in true colour. A true
-// colour icon keeps its alpha channel if the record states one.
+// The depth for writing an icon. It follows from the colours of the image, except that an icon whose record states true
+// colour stays true colour. An image with too many colours for a palette is written in true colour. A true colour icon
+// keeps the alpha channel that its record states.
 ColorDepth depthToWrite(const IconImage& icon, const IconContainerRec& record);
 
-// The whole file. With a depth that has alpha the icon must have alpha values; with others they play no part.
+// The bytes of the file. The colours of the icon must fit the depth. For a depth with alpha the icon must have alpha
+// values; other depths ignore them.
 std::vector<std::uint8_t> composeSingleIcon(const IconImage& icon, ColorDepth depth);
-// The same as a cursor file with its hot spot.
+// The same for a cursor file with its hot spot.
 std::vector<std::uint8_t> composeCursor(const IconImage& icon, ColorDepth depth, int hotspotX, int hotspotY);
 
-// Writes an icon file in place of an existing one, as replaceFile does. False when it cannot be written, or when the
-// depth has alpha and the icon has no value for each pixel.
+// Replaces the file at `path` by one with this icon. `ok` becomes false when it cannot be written, see replaceFile, or
+// when the depth has alpha and the icon lacks alpha values.
 void WriteSingleIconFile(const IconImage& icon, ColorDepth depth, const std::string& path, bool& ok);
 // The same for a cursor file.
 void WriteCursorFile(const IconImage& icon, ColorDepth depth, int hotspotX, int hotspotY, const std::string& path,
                      bool& ok);
 
-// The record of an icon once it has been saved with a depth to a path: nothing is left to save.
+// The record of an icon after it was saved to `path` with the depth `written`: not modified, and without ties to a
+// former file.
 IconContainerRec recordOfSavedIcon(IconContainerRec record, ColorDepth written, const std::string& path);
 
 }  // namespace gp

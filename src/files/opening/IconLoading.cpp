@@ -26,7 +26,7 @@ IconContainerRec recordOfLoadedIcon(const IconFacts& facts, const IconImage& ico
   record.present = true;
   record.path = path;
   record.fromMultiIconFile = facts.hasSeveralEntries();
-  // The entry that a later save replaces must be the one that was opened.
+  // A later save must replace the entry that was opened.
   record.multiIconIndex = static_cast<std::int16_t>(facts.chosen);
   return record;
 }

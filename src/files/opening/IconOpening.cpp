@@ -55,7 +55,7 @@ bool IconOpening::fail(const std::string& text, BoxIcon icon) {
   return false;
 }
 
-// Showing a container that is empty wipes the Surfaces, dims the tools and clears the status bar.
+// Switching to an empty container clears the Surfaces and the status bar and disables the tools.
 bool IconOpening::leaveEmpty(const char* text, BoxIcon icon) {
   ClearContainer(state_);
   context_.document.iconsPanel.SwitchContainer(state_.mCurContainer);
@@ -76,7 +76,7 @@ bool IconOpening::isSquare() {
 }
 
 bool IconOpening::browse() {
-  file_ = {};  // the browser reads the file itself
+  file_ = {};  // the browser reads the file again
   std::string answer;
   browser_->MultiIconFileSubRoutine(path_, true, answer);
   if (answer.empty()) return false;

@@ -71,7 +71,8 @@ void IconSaver::doNewIcon(int size) {
   if (endsAniSession(size) && mayCurrentIconGo(context_)) showNewIcon(size);
 }
 
-// The frames of an animated cursor are of one size; a new icon of another ends the session. False on a refusal.
+// All frames of an animated cursor have one size; a new icon of another size ends the session. False if the user
+// refuses.
 bool IconSaver::endsAniSession(int size) {
   if (!state_.screen.aniContainerVisible) {
     context_.editor.closePanels();
@@ -169,7 +170,7 @@ std::string IconSaver::askForName(const SaveKind& kind) {
   return askToSave(context_, proposedName(kind.mode), kind.filter, kind.extension);
 }
 
-// The icon that is on the Editing Area does not become that cursor.
+// Saving as a cursor does not change the Current Icon's record.
 void IconSaver::saveCursorTo(const std::string& path, bool& ok) {
   cursors_.WriteCursorFile(path, ok);
   if (!ok) return context_.boxes.tell(HasFileAttribute(path) ? kReadOnlyFile : kCursorNotSaved, BoxIcon::Exclamation);
@@ -180,7 +181,7 @@ void IconSaver::saveCursorTo(const std::string& path, bool& ok) {
 // Bitmaps.
 
 void IconSaver::saveBitmapTo(const std::string& path, bool& ok) {
-  // Transparent pixels take the current colour.
+  // Transparent pixels get the current colour.
   SaveBitmap(composedForBitmap(currentIcon(state_), state_.current(), state_.mCurrentColor), path, ok);
   context_.document.editingArea.UpdatePanelFromCurrent();
 }

@@ -35,7 +35,7 @@ std::string depthText(ColorDepth depth) {
   return depth.hasAlpha() ? "32 BPP   True-color" : "24 BPP   True-color";
 }
 
-// What a file that was just read as one of icons has become.
+// For a file that has changed since it was read as an icon file.
 std::string targetNotReadText(const std::string& target, ArraysDefect defect) {
   return (defect == ArraysDefect::NotReadable ? "Failed to open " : "No icon file in ") + target;
 }
@@ -109,7 +109,7 @@ void MultiIconAdd::showCurrentIcon() {
   exchange.lblCurrIcon = depthText(traits_.depth) + "  Size: " + width + "x" + width;
 }
 
-// The other file begins as a copy of the one that was picked.
+// The other file starts as a copy of the chosen one.
 std::string MultiIconAdd::askForOtherFile(const std::string& path) {
   std::string chosen;
   do {

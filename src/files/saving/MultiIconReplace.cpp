@@ -87,13 +87,13 @@ bool MultiIconReplace::isAllowed() {
   return false;
 }
 
-// The question has promised to write to the original file, wherever the last dialog was.
+// The question promised to write to the original file, so the dialog starts in its folder.
 std::string MultiIconReplace::askForName() {
   return askToSave(context_, ParseFileName(original_, PathPart::BareName), kReplaceFilter, kIconExtension,
                    OverwriteQuestion::ByDialog, ParseFileName(original_, PathPart::DriveAndFolder));
 }
 
-// That icon knows its entry by its index, which would be another's afterwards.
+// An icon in another container refers to its entry by index, which would then be that of another entry.
 bool MultiIconReplace::isInNoOtherContainer(const std::string& path) {
   if (isFileOf(state_.current(), path)) return true;
   const auto container = findContainerOf(state_, path);
@@ -110,7 +110,8 @@ std::optional<NewImage> MultiIconReplace::makeImage() {
   return image;
 }
 
-// The dialog may have been open for long. A directory that is not the one that was checked is not written over.
+// The file may have changed while the dialog was open. It is not overwritten if its directory differs from the one that
+// was checked.
 bool MultiIconReplace::readOriginalAgain() {
   const std::vector<IconEntry> checked = std::move(arrays_.entries);
   arrays_ = {};

@@ -15,7 +15,7 @@ void removeFile(const std::string& path) {
 
 class ScratchFile {
  public:
-  // A former one goes first: it might be a link to a file that is to stay.
+  // A former scratch file is removed first: it might be a link to a file that has to be kept.
   explicit ScratchFile(const std::string& path) : path_(path) { removeFile(path_); }
   ~ScratchFile() { removeFile(path_); }
   ScratchFile(const ScratchFile&) = delete;
