@@ -22,11 +22,13 @@ namespace {
 struct Sample {
   QByteArray bytes;
   std::vector<int> entries;  // those that both readers decode at the size of the directory
-
-  std::span<const std::uint8_t> span() const {
-    return {reinterpret_cast<const std::uint8_t*>(bytes.constData()), static_cast<std::size_t>(bytes.size())};
-  }
+  gp::IconFile file;         // the same bytes
 };
+
+gp::IconFile fileOf(const QByteArray& bytes) {
+  const auto* const data = reinterpret_cast<const std::uint8_t*>(bytes.constData());
+  return gp::parseIconFile(gp::FileBytes(std::span(data, static_cast<std::size_t>(bytes.size()))));
+}
 
 std::string corpusFolder() {
   const char* told = std::getenv("GLIMMERPANE_CORPUS");
@@ -47,12 +49,12 @@ QImage qtImage(const QByteArray& bytes, int index) {
 }
 
 Sample sampleOf(const std::filesystem::path& path) {
-  Sample sample{bytesOf(path), {}};
-  const gp::IconDirectory directory = gp::parseIconDirectory(sample.span());
-  if (!directory.isIcon()) return sample;
-  for (int i = 0; i < static_cast<int>(directory.entries.size()); ++i) {
-    const gp::IconEntry entry = directory.entry(i);
-    if (gp::isUsableEntry(sample.span(), entry) && qtImage(sample.bytes, i).width() == entry.width)
+  Sample sample{bytesOf(path), {}, {}};
+  sample.file = fileOf(sample.bytes);
+  if (!sample.file.isIcon()) return sample;
+  for (int i = 0; i < sample.file.directory.presentCount(); ++i) {
+    const gp::IconEntry entry = sample.file.entry(i);
+    if (gp::isUsableEntry(sample.file, entry) && qtImage(sample.bytes, i).width() == entry.width)
       sample.entries.push_back(i);
   }
   return sample;
@@ -75,12 +77,12 @@ std::int64_t entryCount() {
   return count;
 }
 
-// One directory for the file.
+// Parses the directory once for each file, as the program does.
 void decodeEntries(const Sample& sample) {
-  const gp::IconDirectory directory = gp::parseIconDirectory(sample.span());
+  benchmark::DoNotOptimize(gp::parseIconDirectory(sample.file.span()).entries.data());
   for (const int index : sample.entries) {
-    const gp::IconEntry entry = directory.entry(index);
-    const gp::DecodedIcon decoded = gp::decodeEntry(sample.span(), entry, entry.width, entry.height);
+    const gp::IconEntry entry = sample.file.entry(index);
+    const gp::DecodedIcon decoded = gp::decodeEntry(sample.file, entry, entry.width, entry.height);
     benchmark::DoNotOptimize(decoded.icon.image.pixels().data());
   }
 }

@@ -13,9 +13,10 @@ int runBmp(const Arguments& arguments) {
     return badUsage("bmp: --background takes six hexadecimal digits");
   if (const int status = takeImageArguments("bmp", "IN.ico INDEX OUT.bmp", rest, 0, told); status != kDone)
     return status;
-  EditState state;
-  if (!loadImage(told, state)) return kRefused;
-  return answerToWriting(saveByColors(composedForBitmap(state, background), told.output), told.output);
+  const auto loaded = loadImage(told);
+  if (!loaded) return kRefused;
+  const Surface look = composedForBitmap(loaded->icon, loaded->record, background);
+  return answerToWriting(saveByColors(look, told.output), told.output);
 }
 
 }  // namespace gp::cli

@@ -1,4 +1,5 @@
 #include "cli/Discrepancies.h"
+#include "cli/ImageFile.h"
 #include "cli/Subcommands.h"
 
 #include <cstdio>
@@ -6,17 +7,11 @@
 namespace gp::cli {
 namespace {
 
-// Unlike the readers of images this takes the whole file: its end is one of the things looked at.
-std::optional<ImageFile> openWholeFile(const std::string& path) {
-  auto bytes = readFile(path);
-  if (!bytes) {
-    complain(path, describe(IconDefect::NotReadable));
-    return std::nullopt;
-  }
-  ImageFile file{std::move(*bytes), {}};
-  file.directory = parseIconDirectory(file.bytes.span());
-  if (file.directory.isIcon() || file.directory.isCursor()) return file;
-  complain(path, describe(IconDefect::NotAnIcon));
+// Reads the whole file, unlike openImageFile: its size is one of the things that are checked.
+std::optional<IconFile> openWholeFile(const std::string& path) {
+  auto file = readWholeIconFile(path);
+  if (file && (file->isIcon() || file->isCursor())) return file;
+  complain(path, describe(file ? IconDefect::NotAnIcon : IconDefect::NotReadable));
   return std::nullopt;
 }
 

@@ -77,7 +77,7 @@ bool parseColor(std::string_view text, Color& color) {
   const char* const end = text.data() + text.size();
   const auto [stop, error] = std::from_chars(text.data(), end, number, kHexadecimal);
   if (text.size() != kColorDigits || error != std::errc() || stop != end) return false;
-  // The digits have red above, a colour has it below.
+  // The digits have red in the highest byte, a Color in the lowest.
   const auto turned = static_cast<Color>(number);
   color = rgb(blueOf(turned), greenOf(turned), redOf(turned));
   return true;

@@ -1,5 +1,5 @@
-// What every subcommand of gpicon shares: the exit statuses, the line for a bad file, and taking options out of the
-// arguments. Results go to stdout, complaints to stderr.
+// Code that all subcommands of gpicon share: the exit statuses, error messages, and parsing of options. Results go to
+// stdout, errors to stderr.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -14,25 +14,25 @@ enum ExitStatus { kDone = 0, kRefused = 1, kBadUsage = 2 };
 
 using Arguments = std::vector<std::string>;
 
-// "gpicon: FILE: REASON" on stderr. Line breaks of a message box become single blanks.
+// Prints "gpicon: FILE: REASON" on stderr. Line breaks of a message box become single blanks.
 void complain(const std::string& file, const std::string& reason);
-// "gpicon: TEXT" and where help is, on stderr; gives kBadUsage.
+// Prints "gpicon: TEXT" and a hint to the help on stderr; returns kBadUsage.
 int badUsage(const std::string& text);
 
-// Takes the options out of the arguments: what begins with "-" up to "--", which goes too.
+// Separates options from files. An option begins with "-"; "--" ends the options and is dropped.
 struct Split {
   Arguments options;
   Arguments files;
 };
 Split splitOptions(const Arguments& arguments);
 
-// Takes "NAME VALUE" out of the arguments, if it stands before "--". False when it lacks its value or stands there
-// twice; without it the value stays empty.
+// Removes "NAME VALUE" from the arguments before "--". False when the value is missing or the option occurs twice;
+// without the option, `value` is not changed.
 bool takeOption(Arguments& arguments, std::string_view name, std::string& value);
 
-// False for anything but a number of 0 or more.
+// False for anything but a number from 0 up.
 bool parseNumber(std::string_view text, int& number);
-// False for anything but six hexadecimal digits, red first, in any case.
+// False for anything but six hexadecimal digits in any case, red first.
 bool parseColor(std::string_view text, Color& color);
 
 }  // namespace gp::cli

@@ -1,10 +1,11 @@
 #include "cli/Discrepancies.h"
 
 #include "cli/EntryRelations.h"
+#include "cli/ImageFile.h"
 #include "cli/ImageHeader.h"
 #include "cli/ImagePixels.h"
 #include "files/format/IcoLayout.h"
-#include "files/format/IconProbe.h"
+#include "platform/files/ByteReader.h"
 #include "platform/files/WholePicture.h"
 
 #include <array>
@@ -13,15 +14,15 @@
 namespace gp::cli {
 namespace {
 
-// One entry with all that is known of it.
+// One entry and what is known about it.
 struct Inspection {
-  const ImageFile& file;
+  const IconFile& file;
   int index;
   IconEntry entry;
-  std::optional<ImageHeader> header;  // nothing where the file ends before it
+  std::optional<ImageHeader> header;  // empty when the file ends before it
   bool sharesBytes;
 
-  std::span<const std::uint8_t> bytes() const { return file.bytes.span(); }
+  std::size_t fileSize() const { return file.span().size(); }
   bool isBitmap() const { return header && !header->isPng; }
 };
 
@@ -43,19 +44,19 @@ void findOtherSize(const Inspection& image, const DiscrepancySink& tell) {
     tell({image.index, "height", text(height), halfText(image.header->heightInHalves())});
 }
 
-// The pixels' word in a quarrel about the depth. Shared bytes are not read again and again.
-std::optional<PixelDepth> depthOfPixels(const Inspection& image) {
+// The depth that the pixels need. Not measured for shared bytes, which could otherwise be read many times.
+std::optional<ColorDepth> depthOfPixels(const Inspection& image) {
   if (image.sharesBytes) return std::nullopt;
-  return measureDepth(image.bytes(), image.entry, *image.header);
+  return measureDepth(image.file, image.entry, *image.header);
 }
 
-// A count that the editor does not know may still be the truth.
+// A colour count that the editor does not support may still be correct.
 bool colorsFit(const IconEntry& entry, int headerColors) {
   return ColorsForEntry(entry, entry.bitCount) == headerColors ||
          RawColorsForEntry(entry, entry.bitCount) == headerColors;
 }
 
-// Without a bit count an entry tells its depth by the colours.
+// An entry without a bit count states its depth by the colour count.
 bool bitsFit(const IconEntry& entry, int headerBits, bool fittingColors) {
   return entry.bitCount == 0 ? fittingColors : entry.bitCount == headerBits;
 }
@@ -80,13 +81,10 @@ void findOtherDepth(const Inspection& image, const DiscrepancySink& tell) {
 
 void findMissingBytes(const Inspection& image, const DiscrepancySink& tell) {
   const std::uint32_t told = image.entry.bytesInRes;
-  const auto size = image.bytes().size();
   if (told < ico::kBitmapHeaderSize || !image.header) {
     if (told < ico::kBitmapHeaderSize) tell({image.index, "bytes", text(told), text(ico::kBitmapHeaderSize)});
   } else if (image.header->isPng) {
-    const auto picture = image.bytes()
-                             .subspan(image.entry.imageOffset)
-                             .first(std::min<std::size_t>(told, size - image.entry.imageOffset));
+    const auto picture = ByteReader(image.file.span()).bytesAt(image.entry.imageOffset, told);
     if (!isWholePng(picture)) tell({image.index, "bytes", text(told), kNothingTold, "incomplete"});
   } else if (const auto needed = image.header->bytesNeeded(image.header->paletteTold()); told < needed) {
     tell({image.index, "bytes", text(told), text(needed)});
@@ -99,12 +97,12 @@ void findWrongPlace(const Inspection& image, const DiscrepancySink& tell) {
       ico::kDirSize + static_cast<std::size_t>(image.file.directory.count) * ico::kEntrySize;
   if (image.entry.imageOffset < directoryEnd)
     tell({image.index, "offset", text(image.entry.imageOffset), kNothingTold, text(directoryEnd)});
-  if (end > image.bytes().size()) tell({image.index, "end", text(end), kNothingTold, text(image.bytes().size())});
+  if (end > image.fileSize()) tell({image.index, "end", text(end), kNothingTold, text(image.fileSize())});
 }
 
 void findStrayIndex(const Inspection& image, const DiscrepancySink& tell) {
   if (!image.isBitmap() || image.sharesBytes) return;
-  const auto highest = highestIndex(image.bytes(), image.entry, *image.header);
+  const auto highest = highestIndex(image.file, image.entry, *image.header);
   if (highest && *highest >= image.header->colorsUsed)
     tell({image.index, "pixels", kNothingTold, text(image.header->colorsUsed), text(*highest)});
 }
@@ -127,15 +125,15 @@ void tellRelation(int index, const char* what, int other, const DiscrepancySink&
 
 }  // namespace
 
-void findDiscrepancies(const ImageFile& file, const DiscrepancySink& tell) {
+void findDiscrepancies(const IconFile& file, const DiscrepancySink& tell) {
   const int count = wholeEntries(file);
   if (count < file.directory.count) tell({-1, "count", text(file.directory.count), kNothingTold, text(count)});
   const std::vector<int> sharing = entriesSharedWith(file, count);
   const std::vector<int> alike = entriesLike(file, count);
   for (int i = 0; i < count; ++i) {
-    const IconEntry entry = file.directory.entry(i);
+    const IconEntry entry = file.entry(i);
     const auto at = static_cast<std::size_t>(i);
-    const Inspection image{file, i, entry, readImageHeader(file.bytes.span(), entry), sharing[at] >= 0};
+    const Inspection image{file, i, entry, readImageHeader(file, entry), sharing[at] >= 0};
     for (const auto rule : kRules) rule(image, tell);
     tellRelation(i, "shared", sharing[at], tell);
     tellRelation(i, "same", alike[at], tell);

@@ -1,9 +1,9 @@
-// The places in which the directory of a file, the headers of its images and the pixels contradict each other. A
-// healthy icon with fewer colours than its depth allows is none, and neither is an old one that tells its depth by the
-// colour count alone.
+// Finds contradictions between the directory of a file, the headers of its images and the pixels. A valid icon with
+// fewer colours than its depth allows is not reported, nor is an old icon whose entry states its depth by the colour
+// count only.
 #pragma once
 
-#include "cli/ImageFile.h"
+#include "files/format/IconFile.h"
 
 #include <functional>
 #include <string>
@@ -15,16 +15,16 @@ inline constexpr const char* kNothingTold = "-";
 struct Discrepancy {
   int index = -1;  // of the entry, -1 for the file as a whole
   const char* what = "";
-  // What each of the three tells.
+  // The value that each of the three states.
   std::string directory = kNothingTold;
   std::string header = kNothingTold;
   std::string pixels = kNothingTold;
 };
 
-// Takes them one by one: a file can hold more than there is memory for.
+// Receives them one by one: a file can have more than fit into memory.
 using DiscrepancySink = std::function<void(const Discrepancy&)>;
-// In the order of the entries. The bytes must be those of the whole file. Of entries that share bytes or are alike,
-// each is told once.
-void findDiscrepancies(const ImageFile& file, const DiscrepancySink& tell);
+// Reports discrepancies in the order of the entries. `file` must be read completely. Entries that share bytes or are
+// alike are each reported once.
+void findDiscrepancies(const IconFile& file, const DiscrepancySink& tell);
 
 }  // namespace gp::cli

@@ -55,9 +55,9 @@ int parseSettings(const Effect& effect, const std::string& color, const std::str
 }
 
 int makeEffect(const Effect& effect, const EffectSettings& settings, const ImageArguments& told) {
-  EditState state;
-  if (!loadImageForEffect(told, state)) return kRefused;
-  return writeIcon(state, effect.make(state.picImage, state.picMask, settings), told.output);
+  const auto loaded = loadImageForEffect(told);
+  if (!loaded) return kRefused;
+  return writeIcon(effect.make(loaded->icon.image, loaded->icon.mask, settings), loaded->record, told.output);
 }
 
 }  // namespace

@@ -1,55 +1,57 @@
 #include "cli/EntryLoading.h"
 
 #include "cli/Console.h"
-#include "document/Containers.h"
+#include "cli/ImageFile.h"
 #include "files/format/IconProbe.h"
 #include "files/format/IconWriter.h"
 #include "files/opening/IconLoading.h"
 
+#include <utility>
+
 namespace gp::cli {
 namespace {
 
-IconDefect loadChosenEntry(const ImageFile& file, const std::string& path, EditState& state) {
-  const IconFacts facts = probeIcon(file.bytes.span(), true);
-  if (facts.kind == 0) return IconDefect::NotAnIcon;
-  return facts.canBeOpened() ? loadEntry(file, facts.chosen, path, state) : IconDefect::SizeNotOffered;
+// The entry that the editor would open, or the reason why it opens none.
+struct ChosenEntry {
+  IconDefect defect = IconDefect::None;
+  int index = 0;
+};
+
+ChosenEntry chooseEntry(const IconFile& file) {
+  const IconFacts facts = probeIcon(file, true);
+  if (facts.kind == 0) return {IconDefect::NotAnIcon, 0};
+  if (!facts.canBeOpened()) return {IconDefect::SizeNotOffered, 0};
+  return {IconDefect::None, facts.chosen};
 }
 
-// The Current Icon as the editor would save it.
-FileBytes savedForm(const EditState& state) {
-  const IconContainerRec& record = state.current();
-  const AlphaMatrix& alpha = state.mAlphaRecs.at(static_cast<std::size_t>(state.mCurContainer));
-  const int colors = colorsToWrite(state.picImage, record.dirColors);
-  return FileBytes(
-      composeSingleIcon(state.picImage, state.picMask, colors, isWrittenWithAlpha(record) ? &alpha : nullptr));
+std::optional<LoadedIcon> loadChosenEntry(const IconFile& file, const std::string& path) {
+  auto [defect, index] = chooseEntry(file);
+  std::optional<LoadedIcon> loaded;
+  if (defect == IconDefect::None) loaded = loadEntry(file, index, path, defect);
+  if (!loaded) complain(path, describe(defect));
+  return loaded;
 }
 
 }  // namespace
 
-IconDefect loadEntry(const ImageFile& file, int index, const std::string& path, EditState& state) {
-  if (index >= file.directory.count) return IconDefect::NoSuchEntry;
-  const IconEntry entry = file.directory.entry(index);
-  if (const IconDefect defect = defectOfEntry(file.bytes.span(), entry); defect != IconDefect::None) return defect;
-  const IconFacts facts = factsOfEntry(file.bytes.span(), file.directory, index);
-  DecodedIcon decoded = loadIconImage(file.bytes.span(), index, true);
-  if (!decoded.isRead()) return decoded.defect;
-  SetRecord(state, state.mCurContainer, decoded.icon, recordOfLoadedIcon(facts, decoded.icon, path));
-  state.picImage = std::move(decoded.icon.image);
-  state.picMask = std::move(decoded.icon.mask);
-  return IconDefect::None;
+std::optional<LoadedIcon> loadEntry(const IconFile& file, int index, const std::string& path, IconDefect& defect) {
+  defect = index < file.directory.count ? defectOfEntry(file, file.entry(index)) : IconDefect::NoSuchEntry;
+  if (defect != IconDefect::None) return std::nullopt;
+  DecodedIcon decoded = loadIconImage(file, index, true);
+  defect = decoded.defect;
+  if (!decoded.isRead()) return std::nullopt;
+  const IconContainerRec record = recordOfLoadedIcon(factsOfEntry(file, index), decoded.icon, path);
+  return LoadedIcon{std::move(decoded.icon), record};
 }
 
 std::optional<NewIcon> loadNewIcon(const std::string& path) {
   const auto file = openIconFile(path);
-  if (!file) return std::nullopt;
-  EditState state;
-  if (const IconDefect defect = loadChosenEntry(*file, path, state); defect != IconDefect::None) {
-    complain(path, describe(defect));
-    return std::nullopt;
-  }
-  auto image = imageOfSingleIcon(savedForm(state));
+  const auto loaded = file ? loadChosenEntry(*file, path) : std::nullopt;
+  if (!loaded) return std::nullopt;
+  const IconTraits traits = traitsToWrite(loaded->icon, loaded->record);
+  auto image = imageOfSingleIcon(FileBytes(composeSingleIcon(loaded->icon, traits.depth)));
   if (!image) return std::nullopt;
-  return NewIcon{traitsToWrite(state), std::move(*image)};
+  return NewIcon{traits, std::move(*image)};
 }
 
 }  // namespace gp::cli

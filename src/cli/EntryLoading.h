@@ -1,9 +1,9 @@
-// Loading one icon as the editor loads it when it opens a file, and turning it into the image that the editor would
-// save.
+// Loads one icon as the editor does when it opens a file, and composes the image that the editor would save.
 #pragma once
 
-#include "cli/ImageFile.h"
-#include "document/EditState.h"
+#include "document/IconContainerRec.h"
+#include "document/IconImage.h"
+#include "files/format/IconDecoder.h"
 #include "files/format/IconUpdates.h"
 
 #include <optional>
@@ -11,16 +11,22 @@
 
 namespace gp::cli {
 
-// Loads an entry into the Current Icon.
-[[nodiscard]] IconDefect loadEntry(const ImageFile& file, int index, const std::string& path, EditState& state);
+// An icon with the record that the editor would store for it.
+struct LoadedIcon {
+  IconImage icon;
+  IconContainerRec record;
+};
+// Loads an entry of an icon file. Empty for one that the editor does not open; `defect` then states the reason. `path`
+// is stored in the record.
+std::optional<LoadedIcon> loadEntry(const IconFile& file, int index, const std::string& path, IconDefect& defect);
 
-// An icon that is to go into a file of several.
+// An icon to put into a file with several icons.
 struct NewIcon {
   IconTraits traits;
   NewImage image;
 };
-// Of a file with several entries the one that the editor opens without asking. Nothing for what the editor does not
-// open, which has then been complained about.
+// Loads a file's icon; of several, the one that the editor opens without asking. Empty, after an error message, for a
+// file that the editor does not open.
 std::optional<NewIcon> loadNewIcon(const std::string& path);
 
 }  // namespace gp::cli

@@ -1,47 +1,45 @@
 #include "cli/EntryRelations.h"
 
 #include "files/format/IcoLayout.h"
-#include "files/format/IconProbe.h"
+#include "files/format/IconUpdates.h"
 
 #include <algorithm>
 #include <map>
 #include <numeric>
-#include <tuple>
 
 namespace gp::cli {
 namespace {
 
-using Traits = std::tuple<int, int, int, int>;  // width, height, colours, bits
-
-Traits traitsOf(const ImageFile& file, int index) {
-  const IconFacts facts = factsOfEntry(file.bytes.span(), file.directory, index);
-  if (file.isCursor()) return {facts.width, facts.height, ColorsForBitCount(facts.headerBits), facts.headerBits};
-  return {facts.width, facts.height, facts.dirColors, facts.bitCount()};
+IconTraits traitsOf(const IconFile& file, int index) {
+  const IconEntry entry = file.entry(index);
+  const bool isCursor = file.isCursor();
+  const ColorDepth depth = isCursor ? depthOfBits(headerBitCount(file, entry)) : corrected(depthOfEntry(entry));
+  return {entry.width, entry.height, depth};
 }
 
 std::uint64_t endOf(const IconEntry& entry) { return std::uint64_t{entry.imageOffset} + entry.bytesInRes; }
 
-std::vector<int> byOffset(const ImageFile& file, int count) {
+std::vector<int> byOffset(const IconFile& file, int count) {
   std::vector<int> order(static_cast<std::size_t>(count));
   std::iota(order.begin(), order.end(), 0);
-  std::ranges::stable_sort(order, {}, [&](int index) { return file.directory.entry(index).imageOffset; });
+  std::ranges::stable_sort(order, {}, [&](int index) { return file.entry(index).imageOffset; });
   return order;
 }
 
 }  // namespace
 
-int wholeEntries(const ImageFile& file) {
-  const std::size_t size = file.bytes.span().size();
+int wholeEntries(const IconFile& file) {
+  const std::size_t size = file.span().size();
   const std::size_t room = size < ico::kDirSize ? 0 : (size - ico::kDirSize) / ico::kEntrySize;
   return static_cast<int>(std::min(room, file.directory.entries.size()));
 }
 
-std::vector<int> entriesSharedWith(const ImageFile& file, int count) {
+std::vector<int> entriesSharedWith(const IconFile& file, int count) {
   std::vector<int> shared(static_cast<std::size_t>(count), -1);
   int furthest = -1;
   std::uint64_t reached = 0;
   for (const int index : byOffset(file, count)) {
-    const IconEntry entry = file.directory.entry(index);
+    const IconEntry entry = file.entry(index);
     if (entry.bytesInRes == 0) continue;
     if (entry.imageOffset < reached) shared[static_cast<std::size_t>(index)] = furthest;
     if (endOf(entry) <= reached) continue;
@@ -51,9 +49,9 @@ std::vector<int> entriesSharedWith(const ImageFile& file, int count) {
   return shared;
 }
 
-std::vector<int> entriesLike(const ImageFile& file, int count) {
+std::vector<int> entriesLike(const IconFile& file, int count) {
   std::vector<int> alike(static_cast<std::size_t>(count), -1);
-  std::map<Traits, int> first;
+  std::map<IconTraits, int> first;
   for (int i = 0; i < count; ++i) {
     const auto [known, isNew] = first.try_emplace(traitsOf(file, i), i);
     if (!isNew) alike[static_cast<std::size_t>(i)] = known->second;

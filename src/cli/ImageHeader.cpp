@@ -9,7 +9,7 @@
 namespace gp::cli {
 namespace {
 
-// From the start of a PNG picture, in big-endian order.
+// Offsets in a PNG picture, whose numbers are big-endian.
 constexpr std::size_t kPngWidth = 16;
 constexpr std::size_t kPngHeight = 20;
 constexpr std::size_t kPngSizeEnd = 24;
@@ -40,7 +40,7 @@ ImageHeader readBitmapHeader(ByteReader& reader, ByteReader::Position at) {
   return header;
 }
 
-// The sizes may be lies, up to what 64 bits hold.
+// The sizes may be wrong, so the computation uses 64 bits.
 std::uint64_t strideOf(std::uint64_t width, int bits) {
   const std::uint64_t bytes = (width * static_cast<std::uint64_t>(bits) + kBitsPerByte - 1) / kBitsPerByte;
   return (bytes + dib::kRowAlignment - 1) / dib::kRowAlignment * dib::kRowAlignment;
@@ -64,8 +64,8 @@ std::uint64_t ImageHeader::bytesNeeded(std::uint32_t paletteEntries) const {
   return ico::kBitmapHeaderSize + std::uint64_t{paletteEntries} * ico::kPaletteEntrySize + row * (sizeOf(rows) / 2);
 }
 
-std::optional<ImageHeader> readImageHeader(std::span<const std::uint8_t> file, const IconEntry& entry) {
-  ByteReader reader(file);
+std::optional<ImageHeader> readImageHeader(const IconFile& file, const IconEntry& entry) {
+  ByteReader reader(file.span());
   const ByteReader::Position at = entry.imageOffset;
   const bool isPng = isPngImage(file, entry);
   if (!reader.contains(at, isPng ? kPngSizeEnd : ico::kBitmapHeaderSize)) return std::nullopt;

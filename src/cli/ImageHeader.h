@@ -1,35 +1,34 @@
-// What the image of an entry tells of itself: the fields of its bitmap header, or the size in a PNG picture. Values are
-// kept as they stand there; nothing is refused.
+// Reads the fields of an image's bitmap header, or the size of a PNG picture. Values are returned as stored; none is
+// refused.
 #pragma once
 
-#include "files/format/IcoDirectory.h"
+#include "files/format/IconFile.h"
 
 #include <cstdint>
 #include <optional>
-#include <span>
 
 namespace gp::cli {
 
 struct ImageHeader {
   bool isPng = false;
   std::int64_t width = 0;
-  std::int64_t rows = 0;  // of a bitmap's picture and Mask together; of a PNG picture its height
-  int bits = 0;           // a PNG picture tells none of these
+  std::int64_t rows = 0;  // of a bitmap including the Mask; of a PNG picture its height
+  int bits = 0;           // this and the following are not known of a PNG picture
   std::uint32_t compression = 0;
   std::uint32_t colorsUsed = 0;
 
   bool isPlain() const { return compression == 0; }
-  // The rows that picture and Mask have each, in halves of a row.
+  // The height of the picture, in halves of a row.
   std::int64_t heightInHalves() const { return isPng ? 2 * rows : rows; }
-  // Entries that the palette has for all that the pixels can say; 0 without a palette.
+  // The size of a full palette for the bit count; 0 without a palette.
   std::uint32_t paletteForBits() const;
-  // The entries that are there, as the header tells.
+  // The size of the palette as the header states it.
   std::uint32_t paletteTold() const;
-  // Bytes that the image needs with such a palette; those of the header alone when no more is known.
+  // The number of bytes of the image with such a palette; that of the header alone if the format is unknown.
   std::uint64_t bytesNeeded(std::uint32_t paletteEntries) const;
 };
 
-// Nothing when the file ends before the header does.
-std::optional<ImageHeader> readImageHeader(std::span<const std::uint8_t> file, const IconEntry& entry);
+// Empty when the file ends before the header does.
+std::optional<ImageHeader> readImageHeader(const IconFile& file, const IconEntry& entry);
 
 }  // namespace gp::cli

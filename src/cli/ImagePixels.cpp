@@ -1,7 +1,6 @@
 #include "cli/ImagePixels.h"
 
 #include "colour/ColorCount.h"
-#include "document/IconContainerRec.h"
 #include "files/format/IcoLayout.h"
 #include "files/format/IconDecoder.h"
 #include "platform/files/ByteReader.h"
@@ -11,7 +10,7 @@
 namespace gp::cli {
 namespace {
 
-constexpr std::int64_t kLargestSide = 256;  // a byte of 0
+constexpr std::int64_t kLargestSide = 256;  // stored as 0
 constexpr int kBitsPerByte = 8;
 constexpr std::uint8_t kOpaque = 255;
 
@@ -21,12 +20,8 @@ bool isReadable(const ImageHeader& header) {
          height <= kLargestSide;
 }
 
-bool hasKnownDepth(const ImageHeader& header) {
-  return ColorsForBitCount(header.bits) != kTrueColor || header.bits == kBitsWithoutAlpha ||
-         header.bits == kBitsWithAlpha;
-}
-
-// A shorter palette moves the rows, but some writers tell one and yet write a full one. The size tells.
+// A short palette moves the rows, but some writers state a short palette and write a full one. The size of the image
+// shows which.
 std::uint32_t paletteWritten(const IconEntry& entry, const ImageHeader& header) {
   const std::uint32_t full = header.paletteForBits();
   return entry.bytesInRes == header.bytesNeeded(full) ? full : header.paletteTold();
@@ -52,32 +47,28 @@ unsigned highestIndexInRow(std::span<const std::uint8_t> row, int width, int bit
 
 }  // namespace
 
-std::optional<PixelDepth> measureDepth(std::span<const std::uint8_t> file, const IconEntry& entry,
-                                       const ImageHeader& header) {
+std::optional<ColorDepth> measureDepth(const IconFile& file, const IconEntry& entry, const ImageHeader& header) {
   const bool isFull = paletteWritten(entry, header) == header.paletteForBits();
-  if (!isReadable(header) || !hasKnownDepth(header) || !isFull) return std::nullopt;
+  if (!isReadable(header) || !depthOfBits(header.bits).isShown() || !isFull) return std::nullopt;
   IconEntry told = entry;
   told.colorCount = 0;
   told.bitCount = header.bits;
   const int width = static_cast<int>(header.width), height = static_cast<int>(header.rows / 2);
   const DecodedIcon decoded = decodeEntry(file, told, width, height);
   if (!decoded.isRead()) return std::nullopt;
-  PixelDepth depth;
-  GetColorBitCount_Image(decoded.icon.image, depth.colors);
-  if (decoded.icon.hasAlphaValues() && hasAlpha(decoded.icon.alpha)) depth.colors = kTrueColor;
-  depth.bits = convBPP_Upto24(depth.colors);
-  if (depth.colors == kTrueColor && header.bits == kBitsWithAlpha) depth.bits = kBitsWithAlpha;
-  return depth;
+  int colors = 0;
+  GetColorBitCount_Image(decoded.icon.image, colors);
+  if (decoded.icon.hasAlphaValues() && hasAlpha(decoded.icon.alpha)) colors = kTrueColor;
+  return depthOfColors(colors, header.bits == kBitsWithAlpha);
 }
 
-std::optional<unsigned> highestIndex(std::span<const std::uint8_t> file, const IconEntry& entry,
-                                     const ImageHeader& header) {
+std::optional<unsigned> highestIndex(const IconFile& file, const IconEntry& entry, const ImageHeader& header) {
   const std::uint32_t palette = header.paletteTold();
   if (!isReadable(header) || palette == header.paletteForBits()) return std::nullopt;
   const int width = static_cast<int>(header.width);
   const std::size_t stride = dib::rowStride(width, header.bits);
-  ByteReader reader(file, entry.imageOffset + ico::kBitmapHeaderSize +
-                              std::uint64_t{paletteWritten(entry, header)} * ico::kPaletteEntrySize);
+  ByteReader reader(file.span(), entry.imageOffset + ico::kBitmapHeaderSize +
+                                     std::uint64_t{paletteWritten(entry, header)} * ico::kPaletteEntrySize);
   unsigned highest = 0;
   for (std::int64_t y = 0; y < header.rows / 2; ++y, reader.skip(stride))
     highest = std::max(highest, highestIndexInRow(reader.bytesAt(reader.position(), stride), width, header.bits));

@@ -24,7 +24,7 @@ unsigned char byteAt(std::string_view text, std::size_t at) {
 
 bool isContinuation(unsigned char byte) { return (byte & 0xC0) == 0x80; }
 
-// The second byte's range keeps overlong forms, surrogates and values above U+10FFFF out.
+// The range of the second byte excludes overlong forms, surrogates and values above U+10FFFF.
 struct LeadRange {
   unsigned char first, last;
   unsigned char secondMin, secondMax;
@@ -39,7 +39,7 @@ constexpr std::array<LeadRange, 8> kLeads{{{0xC2, 0xDF, 0x80, 0xBF, 2},
                                            {0xF1, 0xF3, 0x80, 0xBF, 4},
                                            {0xF4, 0xF4, 0x80, 0x8F, 4}}};
 
-// Bytes of the character that begins here; 0 for no valid one.
+// The number of bytes of the character that starts here; 0 for an invalid one.
 std::size_t characterLength(std::string_view text, std::size_t at) {
   const unsigned char lead = byteAt(text, at), second = byteAt(text, at + 1);
   for (const LeadRange& range : kLeads) {

@@ -1,4 +1,4 @@
-// Just enough JSON for writing.
+// Writes JSON.
 #pragma once
 
 #include <string>
@@ -6,8 +6,8 @@
 
 namespace gp::cli {
 
-// A text in quotes. Bytes that are no valid UTF-8 become lone surrogates "\udc80" to "\udcff", so that no two file
-// names look alike and a reader can get the bytes back.
+// A text in quotes. Bytes that are not valid UTF-8 become lone surrogates "\udc80" to "\udcff", so that different file
+// names stay different and a reader can restore the bytes.
 std::string jsonText(std::string_view text);
 
 }  // namespace gp::cli

@@ -1,17 +1,16 @@
 #include "cli/ImageFile.h"
 #include "cli/Json.h"
 #include "cli/Subcommands.h"
-#include "files/format/IconProbe.h"
 
 #include <cstdio>
 
 namespace gp::cli {
 namespace {
 
-// One image as it is listed.
+// One image in the list.
 struct ImageRow {
   int index, width, height;
-  int colors, bits, headerColors, headerBits;
+  ColorDepth directory, header;
   unsigned bytes, offset;
   const char* encoding;
   bool usable;
@@ -19,31 +18,24 @@ struct ImageRow {
   int hotspotX, hotspotY;
 };
 
-// In a cursor's directory the places of planes and bits hold the hot spot: depth is known from the bitmap header alone.
-IconFacts factsOfImage(const ImageFile& file, int index) {
-  const IconEntry entry = file.directory.entry(index);
-  IconFacts facts = factsOfEntry(file.bytes.span(), file.directory, index);
-  if (file.isCursor()) facts.headerColors = ColorsForBitCount(facts.headerBits);
-  if (isPngImage(file.bytes.span(), entry)) facts.headerColors = facts.headerBits = 0;  // there is no bitmap header
-  if (!file.isCursor()) return facts;
-  facts.dirColors = facts.headerColors;
-  facts.dirBits = facts.headerBits;
-  return facts;
+// The depth by the bitmap header. Zeros for a PNG picture, which has none. A cursor's entry states no colours.
+ColorDepth headerDepth(const IconFile& file, const IconEntry& entry) {
+  if (isPngImage(file, entry)) return {};
+  const int bits = headerBitCount(file, entry);
+  return file.isCursor() ? depthOfBits(bits) : depthOfEntry(entry, bits);
 }
 
-ImageRow rowOf(const ImageFile& file, int index) {
-  const IconEntry entry = file.directory.entry(index);
-  const IconFacts facts = factsOfImage(file, index);
+ImageRow rowOf(const IconFile& file, int index) {
+  const IconEntry entry = file.entry(index);
+  const ColorDepth header = headerDepth(file, entry);
   return {index,
           sideOf(entry.width),
           sideOf(entry.height),
-          facts.dirColors,
-          facts.dirBits,
-          facts.headerColors,
-          facts.headerBits,
+          file.isCursor() ? header : depthOfEntry(entry),
+          header,
           entry.bytesInRes,
           entry.imageOffset,
-          isPngImage(file.bytes.span(), entry) ? "png" : "bmp",
+          isPngImage(file, entry) ? "png" : "bmp",
           isUsableImage(file, index),
           file.isCursor(),
           entry.hotspotX(),
@@ -52,8 +44,8 @@ ImageRow rowOf(const ImageFile& file, int index) {
 
 void printText(const std::string& path, const ImageRow& row) {
   std::printf("%s\t%d\t%dx%d\t%d\t%d\t%d\t%d\t%u\t%u\t%s\t%s", path.c_str(), row.index, row.width, row.height,
-              row.colors, row.bits, row.headerColors, row.headerBits, row.bytes, row.offset, row.encoding,
-              row.usable ? "usable" : "unusable");
+              row.directory.colors, row.directory.bits, row.header.colors, row.header.bits, row.bytes, row.offset,
+              row.encoding, row.usable ? "usable" : "unusable");
   if (row.hasHotspot) std::printf("\t%d\t%d", row.hotspotX, row.hotspotY);
   std::putchar('\n');
 }
@@ -62,8 +54,8 @@ void printJson(const ImageRow& row) {
   std::printf(
       "{\"index\":%d,\"width\":%d,\"height\":%d,\"colors\":%d,\"bits\":%d,\"headerColors\":%d,\"headerBits\":%d,"
       "\"bytes\":%u,\"offset\":%u,\"encoding\":\"%s\",\"usable\":%s",
-      row.index, row.width, row.height, row.colors, row.bits, row.headerColors, row.headerBits, row.bytes, row.offset,
-      row.encoding, row.usable ? "true" : "false");
+      row.index, row.width, row.height, row.directory.colors, row.directory.bits, row.header.colors, row.header.bits,
+      row.bytes, row.offset, row.encoding, row.usable ? "true" : "false");
   if (row.hasHotspot) std::printf(",\"hotspotX\":%d,\"hotspotY\":%d", row.hotspotX, row.hotspotY);
   std::putchar('}');
 }
@@ -73,7 +65,7 @@ int listAsText(const Arguments& files) {
   for (const std::string& path : files) {
     const auto file = openImageFile(path);
     if (!file) status = kRefused;
-    for (int i = 0; file && i < file->imageCount(); ++i) printText(path, rowOf(*file, i));
+    for (int i = 0; file && i < file->directory.presentCount(); ++i) printText(path, rowOf(*file, i));
   }
   return status;
 }
@@ -89,7 +81,7 @@ int listAsJson(const Arguments& files) {
     }
     std::printf("%s\n{\"file\":%s,\"kind\":\"%s\",\"images\":[", separator, jsonText(path).c_str(),
                 file->isCursor() ? "cur" : "ico");
-    for (int i = 0; i < file->imageCount(); ++i) {
+    for (int i = 0; i < file->directory.presentCount(); ++i) {
       std::fputs(i == 0 ? "\n" : ",\n", stdout);
       printJson(rowOf(*file, i));
     }

@@ -1,10 +1,8 @@
 #include "cli/OneImage.h"
 
-#include "cli/EntryLoading.h"
+#include "cli/ImageFile.h"
 #include "effects/EffectTexts.h"
 #include "files/format/IconWriter.h"
-
-#include <utility>
 
 namespace gp::cli {
 namespace {
@@ -25,18 +23,20 @@ int takeImageArguments(const std::string& command, const std::string& needed, co
   return kDone;
 }
 
-bool loadImage(const ImageArguments& told, EditState& state) {
+std::optional<LoadedIcon> loadImage(const ImageArguments& told) {
   const auto file = openIconFile(told.input);
-  if (!file) return false;
-  const IconDefect defect = loadEntry(*file, told.index, told.input, state);
-  if (defect != IconDefect::None) complain(told.input, describe(defect));
-  return defect == IconDefect::None;
+  if (!file) return std::nullopt;
+  IconDefect defect = IconDefect::None;
+  auto loaded = loadEntry(*file, told.index, told.input, defect);
+  if (!loaded) complain(told.input, describe(defect));
+  return loaded;
 }
 
-bool loadImageForEffect(const ImageArguments& told, EditState& state) {
-  if (!loadImage(told, state)) return false;
-  if (state.current().hasAlpha) complain(told.input, kIconIsWithAlpha);
-  return !state.current().hasAlpha;
+std::optional<LoadedIcon> loadImageForEffect(const ImageArguments& told) {
+  auto loaded = loadImage(told);
+  if (!loaded || !loaded->record.hasAlpha) return loaded;
+  complain(told.input, kIconIsWithAlpha);
+  return std::nullopt;
 }
 
 int answerToWriting(bool isWritten, const std::string& output) {
@@ -45,14 +45,10 @@ int answerToWriting(bool isWritten, const std::string& output) {
   return kRefused;
 }
 
-int writeIcon(const EditState& state, const std::string& output) {
-  return answerToWriting(writeCurrentIcon(state, output), output);
-}
-
-int writeIcon(EditState& state, IconImage made, const std::string& output) {
-  state.picImage = std::move(made.image);
-  state.picMask = std::move(made.mask);
-  return writeIcon(state, output);
+int writeIcon(const IconImage& icon, const IconContainerRec& record, const std::string& output) {
+  bool ok = false;
+  WriteSingleIconFile(icon, depthToWrite(icon, record), output, ok);
+  return answerToWriting(ok, output);
 }
 
 }  // namespace gp::cli

@@ -1,38 +1,36 @@
-// What the subcommands share that make one file of one image: taking their arguments apart, loading the image and
-// writing the icon that has become of it. A refusal touches no file.
+// Code of the subcommands that write one file from one image: parsing their arguments, loading the image and writing
+// the resulting icon. When they refuse an image, no file is written.
 #pragma once
 
 #include "cli/Console.h"
-#include "document/EditState.h"
-#include "document/IconImage.h"
+#include "cli/EntryLoading.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 
 namespace gp::cli {
 
-// "IN.ico INDEX OUT", and what stands behind that.
+// The arguments "IN.ico INDEX OUT" and those that follow.
 struct ImageArguments {
   std::string input;
   int index = 0;
   std::string output;
   Arguments more;
 };
-// Takes them out of arguments that no option of the command is in any more. `needed` is how they are told in a
-// complaint, `more` how many stand behind OUT. Gives kDone, or kBadUsage after a complaint.
+// Parses arguments from which the options of the command have been removed. `needed` describes the arguments in an
+// error message, `more` is the number of those after OUT. Returns kDone, or kBadUsage after an error message.
 int takeImageArguments(const std::string& command, const std::string& needed, const Arguments& arguments,
                        std::size_t more, ImageArguments& told);
 
-// Makes the image the Current Icon, as the editor does when it opens a file. False after a complaint.
-[[nodiscard]] bool loadImage(const ImageArguments& told, EditState& state);
-// The same for an effect, which takes no icon with alpha.
-[[nodiscard]] bool loadImageForEffect(const ImageArguments& told, EditState& state);
+// Loads the image as the editor does when it opens a file. Empty after an error message.
+std::optional<LoadedIcon> loadImage(const ImageArguments& told);
+// The same for an effect, which refuses icons with alpha.
+std::optional<LoadedIcon> loadImageForEffect(const ImageArguments& told);
 
-// Gives kDone for an output that has been written, otherwise kRefused after a complaint.
+// Returns kDone if the output has been written, otherwise kRefused after an error message.
 int answerToWriting(bool isWritten, const std::string& output);
-// Writes the Current Icon as the editor saves it. Gives the exit status.
-int writeIcon(const EditState& state, const std::string& output);
-// The same with the pictures that an effect has made of it.
-int writeIcon(EditState& state, IconImage made, const std::string& output);
+// Writes an icon as the editor saves one with that record. Returns the exit status.
+int writeIcon(const IconImage& icon, const IconContainerRec& record, const std::string& output);
 
 }  // namespace gp::cli

@@ -1,4 +1,4 @@
-// Where the subcommands put the files that they make of others: a folder, and names in it of which no two are alike.
+// The folder that subcommands write their files to, with a different name for each.
 #pragma once
 
 #include "cli/Console.h"
@@ -9,27 +9,28 @@
 
 namespace gp::cli {
 
-// Gives each file a name of its own: NAME, NAME-2, NAME-3 ... Extensions are not its business.
+// Makes names unique: NAME, NAME-2, NAME-3 ... Extensions are added by the caller.
 class OutputNames {
  public:
   std::string nameFor(const std::string& bare);
-  // Nothing gets this name.
+  // Reserves a name, so that no file gets it.
   void keepOff(const std::string& name) { taken_.insert(name); }
 
  private:
   std::set<std::string> taken_;
-  std::map<std::string, int> last_;  // the number that a bare name got last
+  std::map<std::string, int> last_;  // the last number given to a bare name
 };
 
-// A path's name without folder and extension.
+// The file name in a path, without extension.
 std::string stemOf(const std::string& path);
 
-// What "FILE... -d DIR" told.
+// The parsed arguments "FILE... -d DIR".
 struct FolderArguments {
   Arguments files;
   std::string folder;
 };
-// Takes them apart and makes the folder if it is not there. Otherwise gives the exit status, after a complaint.
+// Parses the arguments and creates the folder if necessary. Returns kDone, or another exit status after an error
+// message.
 int takeFolderArguments(const std::string& command, Arguments arguments, FolderArguments& told);
 
 }  // namespace gp::cli

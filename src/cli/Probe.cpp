@@ -2,7 +2,6 @@
 #include "files/cursor/CursorProbe.h"
 #include "files/format/IcoLayout.h"
 #include "files/format/IconDecoder.h"
-#include "files/format/IconFileBytes.h"
 #include "files/format/IconProbe.h"
 
 #include <cstdio>
@@ -10,18 +9,17 @@
 namespace gp::cli {
 namespace {
 
-std::string numbersOf(std::span<const std::uint8_t> file) {
-  const bool isCursor = parseIconDirectory(file).type == ico::kTypeCursor;
-  return isCursor ? probeCursor(file).joined() : probeIcon(file, true).joined();
+std::string numbersOf(const IconFile& file) {
+  return file.directory.type == ico::kTypeCursor ? probeCursor(file).joined() : probeIcon(file, true).joined();
 }
 
 bool probeFile(const std::string& path) {
-  const auto bytes = readIconFile(path);
-  if (!bytes) {
+  const auto file = readIconFile(path);
+  if (!file) {
     complain(path, describe(IconDefect::NotReadable));
     return false;
   }
-  std::printf("%s\t%s\n", path.c_str(), numbersOf(bytes->span()).c_str());
+  std::printf("%s\t%s\n", path.c_str(), numbersOf(*file).c_str());
   return true;
 }
 

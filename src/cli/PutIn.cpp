@@ -1,4 +1,4 @@
-// The subcommands that put an icon into files of several: in the place of one that is there, or beside those.
+// The subcommands that put an icon into files with several icons: replacing one, or adding to them.
 #include "cli/EntryLoading.h"
 #include "cli/Subcommands.h"
 #include "cli/Updating.h"
@@ -17,7 +17,7 @@ bool refuse(const std::string& file, const std::string& reason) {
   return false;
 }
 
-// False, after a complaint, when the file holds an icon of this size and colours at another index.
+// False, after an error message, when the file has another icon of this size and colours, other than at `except`.
 bool isNew(const IconArrays& arrays, const NewIcon& icon, int except, const std::string& path, SaveInto save) {
   const int same = findSameIcon(arrays, icon.traits, except);
   if (same < 0) return true;
@@ -35,17 +35,17 @@ bool replaceIn(const std::string& path, int index, NewIcon icon, const std::stri
   return writeUpdate(arrays, path, output, notWrittenText(targetOf(path, output), SaveInto::Replace));
 }
 
-// `ref` counts from 1; 0 stands for behind the last icon.
+// `ref` counts from 1.
 struct Place {
   int ref = 0;
   bool isGiven = false;
 };
 
 bool readForAdding(const std::string& path, IconArrays& arrays) {
-  auto bytes = readFile(path);
-  if (!bytes) return refuse(path, addNotReadText(path, ArraysDefect::NotReadable));
-  if (probeIcon(bytes->span(), true).kind == 0) return refuse(path, kAddToNoIcon);
-  const ArraysDefect defect = parseIconArrays(std::move(*bytes), ReservedField::MustBeZero, arrays);
+  auto file = readWholeIconFile(path);
+  if (!file) return refuse(path, addNotReadText(path, ArraysDefect::NotReadable));
+  if (probeIcon(*file, true).kind == 0) return refuse(path, kAddToNoIcon);
+  const ArraysDefect defect = takeIconArrays(std::move(*file), ReservedField::MustBeZero, arrays);
   return defect == ArraysDefect::None || refuse(path, addNotReadText(path, defect));
 }
 

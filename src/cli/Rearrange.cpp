@@ -1,4 +1,4 @@
-// The subcommands that change what a file of several icons tells of them, and leave the images as they are.
+// The subcommands that change the directory of a file with several icons and keep the images.
 #include "cli/Subcommands.h"
 #include "cli/Updating.h"
 #include "files/format/IconDecoder.h"
@@ -21,7 +21,7 @@ int refuse(const std::string& file, const std::string& reason) {
   return kRefused;
 }
 
-// Of a failure the usual reason is told, if it is that.
+// Adds the reason to the error message if the file is read-only.
 int writeOrRefuse(IconArrays& arrays, const std::string& path, const std::string& output, const std::string& text) {
   const bool isReadOnly = HasFileAttribute(targetOf(path, output));
   return writeUpdate(arrays, path, output, isReadOnly ? text + "\n" + kReadOnly : text) ? kDone : kRefused;
@@ -36,7 +36,7 @@ int removeFrom(const std::string& path, int index, const std::string& output) {
   return writeOrRefuse(arrays, path, output, kRemoveNotWritten);
 }
 
-// Takes "3,1,2" as the indices 2, 0, 1. False for anything but numbers.
+// Parses "3,1,2" as the indices 2, 0, 1. False for anything but numbers.
 bool parseOrder(std::string_view text, std::vector<int>& order) {
   for (;;) {
     const std::size_t comma = text.find(',');

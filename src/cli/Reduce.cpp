@@ -11,22 +11,22 @@ namespace gp::cli {
 namespace {
 
 struct Method {
-  int colors;  // that it reduces to
+  int colors;  // the number that it reduces to
   std::string_view name;
   ReductionMethod method;
 };
 
-constexpr std::array<Method, 8> kMethods{{{256, "optimal", ReductionMethod::Optimal},
-                                          {256, "system", ReductionMethod::System},
-                                          {16, "optimized", ReductionMethod::Optimized},
-                                          {16, "nearest", ReductionMethod::Nearest},
-                                          {16, "vga", ReductionMethod::StandardVga},
-                                          {2, "cutoff", ReductionMethod::SelectCutoff},
-                                          {2, "weighted", ReductionMethod::Weighted},
-                                          {2, "ordered", ReductionMethod::Ordered}}};
+constexpr std::array<Method, 8> kMethods{{{kPaletteDepth.colors, "optimal", ReductionMethod::Optimal},
+                                          {kPaletteDepth.colors, "system", ReductionMethod::System},
+                                          {kStandardDepth.colors, "optimized", ReductionMethod::Optimized},
+                                          {kStandardDepth.colors, "nearest", ReductionMethod::Nearest},
+                                          {kStandardDepth.colors, "vga", ReductionMethod::StandardVga},
+                                          {kMonoDepth.colors, "cutoff", ReductionMethod::SelectCutoff},
+                                          {kMonoDepth.colors, "weighted", ReductionMethod::Weighted},
+                                          {kMonoDepth.colors, "ordered", ReductionMethod::Ordered}}};
 
 struct ReduceOptions {
-  std::string to, method, threshold;  // each empty when it is not there
+  std::string to, method, threshold;  // empty if not given
 };
 
 bool takeOptions(Arguments& arguments, ReduceOptions& options) {
@@ -34,7 +34,7 @@ bool takeOptions(Arguments& arguments, ReduceOptions& options) {
          takeOption(arguments, "--threshold", options.threshold);
 }
 
-// Null for a method that there is not, or not to so many colours.
+// Null if there is no such method for that number of colours.
 const Method* findMethod(const ReduceOptions& options) {
   const auto found = std::ranges::find_if(kMethods, [&](const Method& row) {
     return std::to_string(row.colors) == options.to && row.name == options.method;
@@ -42,19 +42,19 @@ const Method* findMethod(const ReduceOptions& options) {
   return found == kMethods.end() ? nullptr : &*found;
 }
 
-// Such an icon is refused, after a complaint.
-bool hasFewColors(const EditState& state, int most, const std::string& path) {
+// True, after an error message, for an icon that has no more colours than `most`.
+bool hasFewColors(const IconImage& icon, int most, const std::string& path) {
   int colors = 0;
-  GetColorBitCount_Image(state.picImage, colors);
+  GetColorBitCount_Image(icon.image, colors);
   const bool isFew = colors > 0 && colors <= most;
   if (isFew) complain(path, fewColorsText(colors));
   return isFew;
 }
 
 int reduceTo(const Method& method, const ReductionSettings& settings, const ImageArguments& told) {
-  EditState state;
-  if (!loadImageForEffect(told, state) || hasFewColors(state, method.colors, told.input)) return kRefused;
-  return writeIcon(state, reduceColors(state.picImage, state.picMask, settings), told.output);
+  const auto loaded = loadImageForEffect(told);
+  if (!loaded || hasFewColors(loaded->icon, method.colors, told.input)) return kRefused;
+  return writeIcon(reduceColors(loaded->icon.image, loaded->icon.mask, settings), loaded->record, told.output);
 }
 
 }  // namespace

@@ -7,8 +7,8 @@ int runResave(const Arguments& arguments) {
   ImageArguments told;
   if (const int status = takeImageArguments("resave", "IN.ico INDEX OUT.ico", arguments, 0, told); status != kDone)
     return status;
-  EditState state;
-  return loadImage(told, state) ? writeIcon(state, told.output) : kRefused;
+  const auto loaded = loadImage(told);
+  return loaded ? writeIcon(loaded->icon, loaded->record, told.output) : kRefused;
 }
 
 }  // namespace gp::cli

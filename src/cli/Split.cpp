@@ -1,7 +1,7 @@
 #include "cli/ImageFile.h"
 #include "cli/OutputFolder.h"
 #include "cli/Subcommands.h"
-#include "files/browser/MultiIconListing.h"
+#include "files/format/DepthTexts.h"
 #include "files/format/IcoLayout.h"
 #include "files/format/SingleEntryFile.h"
 #include "platform/files/ByteReader.h"
@@ -13,10 +13,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Entries may share bytes, and a small file could so ask for more than a disk holds. No honest one asks for this.
+// Entries may share bytes, so that a small file could expand to more than a disk holds. No real file is this large.
 constexpr std::uint64_t kMostBytes = std::uint64_t{256} << 20;
 
-// An input may stand in the folder that is written to: its name is not free.
+// An input file in the output folder must not be overwritten: its name is reserved.
 void keepOffInputs(const FolderArguments& told, OutputNames& names) {
   std::map<fs::path, bool> isOutput;
   for (const std::string& path : told.files) {
@@ -28,19 +28,19 @@ void keepOffInputs(const FolderArguments& told, OutputNames& names) {
   }
 }
 
-bool isAllThere(const IconArrays& arrays, int index, const IconEntry& entry) {
-  const ByteReader reader(arrays.file.span());
+bool isAllThere(const IconFile& file, int index, const IconEntry& entry) {
+  const ByteReader reader(file.span());
   const std::size_t at = ico::kDirSize + static_cast<std::size_t>(index) * ico::kEntrySize;
   return reader.contains(at, ico::kEntrySize) && reader.contains(entry.imageOffset, entry.bytesInRes);
 }
 
-// Takes those images that are all there, unlike the updates, which refuse a file that lacks any.
-IconArrays takeWholeImages(FileBytes bytes, const IconDirectory& directory) {
+// Keeps the images that the file contains completely; updates refuse a file that lacks any.
+IconArrays takeWholeImages(IconFile file) {
   IconArrays arrays;
-  arrays.file = std::move(bytes);
-  for (int i = 0; i < static_cast<int>(directory.entries.size()); ++i) {
-    const IconEntry entry = directory.entry(i);
-    if (!isAllThere(arrays, i, entry)) continue;
+  arrays.file = std::move(file);
+  for (int i = 0; i < arrays.file.directory.presentCount(); ++i) {
+    const IconEntry entry = arrays.file.entry(i);
+    if (!isAllThere(arrays.file, i, entry)) continue;
     arrays.entries.push_back(entry);
     arrays.images.push_back(ByteReader(arrays.file.span()).bytesAt(entry.imageOffset, entry.bytesInRes));
   }
@@ -54,8 +54,7 @@ bool isOfSensibleSize(const IconArrays& arrays) {
 }
 
 std::string nameOf(const std::string& stem, const IconEntry& entry) {
-  return stem + "_" + std::to_string(sideOf(entry.height)) + "_" +
-         colorsInFileName(ColorsForEntry(entry, entry.bitCount), entry.bitCount);
+  return stem + "_" + std::to_string(sideOf(entry.height)) + "_" + colorsInFileName(depthOfEntry(entry));
 }
 
 bool saveEntries(const IconArrays& arrays, const std::string& path, const std::string& folder, OutputNames& names) {
@@ -76,15 +75,15 @@ bool refuse(const std::string& path, const std::string& reason) {
 }
 
 bool splitFile(const std::string& path, const std::string& folder, OutputNames& names) {
-  auto bytes = readFile(path);
-  if (!bytes) return refuse(path, describe(IconDefect::NotReadable));
-  const IconDirectory directory = parseIconDirectory(bytes->span());
-  if (!directory.isIcon() || directory.entries.empty()) return refuse(path, describe(IconDefect::NotAnIcon));
-  const IconArrays arrays = takeWholeImages(std::move(*bytes), directory);
+  auto file = readWholeIconFile(path);
+  if (!file) return refuse(path, describe(IconDefect::NotReadable));
+  if (!file->isIcon() || file->directory.presentCount() == 0) return refuse(path, describe(IconDefect::NotAnIcon));
+  const IconArrays arrays = takeWholeImages(std::move(*file));
   if (!isOfSensibleSize(arrays)) return refuse(path, "its images share bytes, and come to more than 256 MB");
   if (!saveEntries(arrays, path, folder, names)) return false;
-  const int lacking = directory.count - arrays.count();
-  return lacking == 0 || refuse(path, std::to_string(lacking) + " of its " + std::to_string(directory.count) +
+  const int count = arrays.file.directory.count;
+  const int lacking = count - arrays.count();
+  return lacking == 0 || refuse(path, std::to_string(lacking) + " of its " + std::to_string(count) +
                                           " images reach behind the end of the file");
 }
 

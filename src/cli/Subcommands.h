@@ -1,5 +1,5 @@
-// The subcommands of gpicon. Each takes its arguments and gives the exit status; a bad file costs one line on stderr
-// and status 1, and the others are still done.
+// The subcommands of gpicon. Each parses its arguments and returns the exit status. For a bad file it prints one line
+// on stderr, continues with the other files and returns 1.
 #pragma once
 
 #include "cli/Console.h"

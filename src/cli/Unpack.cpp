@@ -8,7 +8,7 @@ namespace {
 constexpr std::uint8_t kTransparent = 255;
 constexpr std::uint8_t kOpaque = 0;
 
-// Bytes of a portable pixmap or graymap: a line of text and the samples.
+// A portable pixmap or graymap: a header line and the samples.
 class Netpbm {
  public:
   Netpbm(const char* magic, int width, int height, std::size_t bytesPerPixel) {
@@ -50,7 +50,7 @@ Netpbm alphaFile(const AlphaMatrix& alpha) {
 }
 
 // Decodes one image as the editor does and writes its files. False when one cannot be written.
-bool unpackImage(const ImageFile& file, int index, const std::string& prefix) {
+bool unpackImage(const IconFile& file, int index, const std::string& prefix) {
   const auto decoded = decodeImage(file, index);
   if (!decoded) return false;
   const std::string start = prefix + "_" + std::to_string(index);
@@ -63,7 +63,7 @@ bool unpackFile(const std::string& path, const std::string& prefix) {
   const auto file = openImageFile(path);
   if (!file) return false;
   int unpacked = 0;
-  for (int i = 0; i < file->imageCount(); ++i) {
+  for (int i = 0; i < file->directory.presentCount(); ++i) {
     if (!isUsableImage(*file, i)) continue;
     ++unpacked;
     if (unpackImage(*file, i, prefix)) continue;

@@ -10,14 +10,12 @@ namespace {
 constexpr const char* kNotOrdinary = "not an ordinary file, and not written over";
 constexpr const char* kShorterThanTold = "shorter than its directory says";
 
-const char* describeUnread(const std::string& path, ArraysDefect defect) {
-  if (defect == ArraysDefect::NotReadable) return describe(IconDefect::NotReadable);
-  const auto bytes = readFile(path);
-  const bool isIcon = bytes && parseIconDirectory(bytes->span()).isIcon();
-  return isIcon ? kShorterThanTold : describe(IconDefect::NotAnIcon);
+const char* describeUnread(ArraysDefect defect) {
+  if (defect == ArraysDefect::CutShort) return kShorterThanTold;
+  return describe(defect == ArraysDefect::NotReadable ? IconDefect::NotReadable : IconDefect::NotAnIcon);
 }
 
-// Also when nothing is there.
+// True also if there is no file.
 bool isOrdinary(const std::string& path) {
   std::error_code error;
   const auto status = std::filesystem::status(path, error);
@@ -48,7 +46,7 @@ std::optional<UpdateArguments> parseUpdate(const std::string& command, Arguments
 bool readForUpdate(const std::string& path, IconArrays& arrays) {
   const ArraysDefect defect = readIconArrays(path, ReservedField::Any, arrays);
   if (defect == ArraysDefect::None) return true;
-  complain(path, describeUnread(path, defect));
+  complain(path, describeUnread(defect));
   return false;
 }
 

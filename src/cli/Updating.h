@@ -1,5 +1,5 @@
-// What the subcommands that change a file of several icons share: their arguments, reading the file, and writing it
-// once. Nothing is written on a refusal.
+// Code of the subcommands that change a file with several icons: parsing their arguments, reading the file, and writing
+// it once. When they refuse, nothing is written.
 #pragma once
 
 #include "cli/Console.h"
@@ -10,24 +10,24 @@
 
 namespace gp::cli {
 
-// What such a subcommand was told.
+// The arguments of such a subcommand.
 struct UpdateArguments {
-  Arguments files;       // and what else stands there by its place
-  std::string output;    // -o, empty without
-  std::string position;  // --at, likewise
+  Arguments files;       // and other positional arguments
+  std::string output;    // value of -o, or empty
+  std::string position;  // value of --at, or empty
 };
 enum class PositionOption { None, At };
-// Nothing on an option that is unknown, twice there or without its value, which has been complained about.
+// Empty, after an error message, for an unknown option, one that occurs twice and one without its value.
 std::optional<UpdateArguments> parseUpdate(const std::string& command, Arguments arguments, PositionOption position);
 
-// Reads a file as the browser does. False, after a complaint, when it cannot be read, is no icon file, or is shorter
-// than its directory says.
+// Reads a file as the browser does. False, after an error message, when it cannot be read, is not an icon file, or is
+// shorter than its directory states.
 [[nodiscard]] bool readForUpdate(const std::string& path, IconArrays& arrays);
 
-// The file that an update writes: `output`, or if that is empty the file that it comes from.
+// The file that an update writes: `output`, or the input file if that is empty.
 const std::string& targetOf(const std::string& path, const std::string& output);
-// Writes the arrays, which come from `path`, there. What cannot be written whole leaves there what was there before;
-// then it complains with the text given and gives false.
+// Writes the arrays, which were read from `path`, to that file. If this fails, the former content is kept, `failure` is
+// printed and the result is false.
 [[nodiscard]] bool writeUpdate(IconArrays& arrays, const std::string& path, const std::string& output,
                                const std::string& failure);
 

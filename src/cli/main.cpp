@@ -1,4 +1,4 @@
-// gpicon: what Glimmerpane's core knows of icon files, on the command line.
+// gpicon: inspects and changes icon files on the command line, with Glimmerpane's core.
 #include "cli/Subcommands.h"
 
 #include <algorithm>
@@ -147,7 +147,7 @@ int run(const Arguments& arguments) {
 
 int main(int argc, char** argv) {
   const int status = gp::cli::run(gp::cli::Arguments(argv + std::min(argc, 1), argv + argc));
-  // Output that went nowhere, such as onto a full disk, is no success.
+  // Output that could not be written, for example to a full disk, is a failure.
   if (std::fflush(stdout) == 0) return status;
   gp::cli::complain("stdout", "cannot be written");
   return gp::cli::kRefused;

@@ -1,7 +1,6 @@
 #include "colour/ColorCount.h"
 
 #include "colour/ColorTables.h"
-#include "document/IconContainerRec.h"
 
 #include <algorithm>
 #include <array>
@@ -64,19 +63,6 @@ void GetColorBitCount_Image(const Surface& surface, int& count) {
     count = 16;
   else
     count = fitsColorTable(surface) ? kTableSize : kTrueColor;
-}
-
-int convBPP_Upto24(int colors) {
-  switch (colors) {
-    case 2:
-      return 1;
-    case 16:
-      return 4;
-    case 256:
-      return 8;
-    default:
-      return 24;
-  }
 }
 
 }  // namespace gp

@@ -1,6 +1,7 @@
-// How many colours a picture counts as, which decides the depth it is saved with.
+// How many colours a picture counts as, which decides the depth that it is saved with.
 #pragma once
 
+#include "document/ColorDepth.h"
 #include "platform/gdi/Surface.h"
 
 namespace gp {
@@ -8,7 +9,5 @@ namespace gp {
 // 2 when all pixels are black or white, 16 when all are among the sixteen standard colours, 256 when a table of 256
 // takes them, otherwise -1.
 void GetColorBitCount_Image(const Surface& surface, int& count);
-// The bits per pixel of such a count: 1, 4, 8, and 24 for anything else.
-int convBPP_Upto24(int colors);
 
 }  // namespace gp

@@ -8,10 +8,6 @@ AlphaMatrix& currentAlphaRec(EditState& state) {
   return state.mAlphaRecs.at(static_cast<std::size_t>(state.mCurContainer));
 }
 
-bool countsAsAlphaIcon(const IconContainerRec& record) {
-  return record.used && record.isTrueColor() && record.bitCount == kBitsWithAlpha && record.hasAlpha;
-}
-
 }  // namespace
 
 void ClearContainer(EditState& state) {
@@ -52,7 +48,7 @@ void SetRecord(EditState& state, int container, const IconImage& icon, const Ico
   target.size = static_cast<std::int16_t>(icon.width());
 
   AlphaMatrix& alpha = state.mAlphaRecs.at(static_cast<std::size_t>(container));
-  const bool keepsAlpha = countsAsAlphaIcon(target) && icon.alpha.isOfSize(target.size);
+  const bool keepsAlpha = target.isAlphaIcon() && icon.alpha.isOfSize(target.size);
   alpha = keepsAlpha ? icon.alpha : AlphaMatrix();
   if (keepsAlpha || !target.hasAlpha) return;
   target.hasAlpha = false;
@@ -64,14 +60,14 @@ bool PrepareAlphaRec(EditState& state) {
   const IconContainerRec& record = state.current();
   AlphaMatrix& alpha = currentAlphaRec(state);
   alpha = AlphaMatrix();
-  if (!countsAsAlphaIcon(record) || !state.gAlphaValues.isOfSize(record.size)) return false;
+  if (!record.isAlphaIcon() || !state.gAlphaValues.isOfSize(record.size)) return false;
   alpha = AlphaMatrix(record.size, record.size);
   return true;
 }
 
 bool AlphaRecIsReady(const EditState& state) {
   const AlphaMatrix& alpha = state.mAlphaRecs.at(static_cast<std::size_t>(state.mCurContainer));
-  return countsAsAlphaIcon(state.current()) && alpha.isOfSize(state.current().size);
+  return state.current().isAlphaIcon() && alpha.isOfSize(state.current().size);
 }
 
 bool StoreAlphaToRec(EditState& state) {

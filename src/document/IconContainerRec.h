@@ -2,6 +2,7 @@
 // runs; a record is empty (not used), held by a loader (used, not present) or loaded (both).
 #pragma once
 
+#include "document/ColorDepth.h"
 #include "document/IconSizes.h"
 #include "platform/text/FixedText.h"
 
@@ -10,11 +11,6 @@
 namespace gp {
 
 inline constexpr int kContainerCount = 6;
-// dirColors and bihColors of a true colour icon.
-inline constexpr int kTrueColor = -1;
-// bitCount of a true colour icon.
-inline constexpr int kBitsWithAlpha = 32;
-inline constexpr int kBitsWithoutAlpha = 24;
 
 struct IconContainerRec {
   std::int16_t seq = 0;
@@ -36,9 +32,15 @@ struct IconContainerRec {
   bool neverSaved = false;
   bool modified = false;
 
-  // True when the directory of the original file and its bitmap header tell different things.
-  bool isDiscrepant() const { return dirColors != bihColors || bitCount != bihBitCount; }
-  bool isTrueColor() const { return dirColors == kTrueColor; }
+  // By the directory of the original file, and by its bitmap header.
+  ColorDepth depth() const { return {dirColors, bitCount}; }
+  ColorDepth headerDepth() const { return {bihColors, bihBitCount}; }
+  void setDepth(ColorDepth depth);
+  void setHeaderDepth(ColorDepth depth);
+  bool isDiscrepant() const { return depth() != headerDepth(); }
+  bool isTrueColor() const { return depth().isTrueColor(); }
+  // True for an icon with an alpha channel.
+  bool isAlphaIcon() const { return used && hasAlpha && depth().hasAlpha(); }
   // fromMultiIconFile up to and including modified become zero.
   void clearOrigin();
 };

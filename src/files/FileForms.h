@@ -1,5 +1,5 @@
-// The modal forms that commands on icon files show. The main form implements it; each call returns when
-// the form is closed.
+// The modal forms that commands on icon files show. The main form implements this interface; each call returns when the
+// form is closed.
 #pragma once
 
 namespace gp {
@@ -7,7 +7,7 @@ namespace gp {
 class FileForms {
  public:
   virtual ~FileForms() = default;
-  // frmGPMultiIcon, on the face that gAddToFile tells.
+  // frmGPMultiIcon, with the face that gAddToFile selects.
   virtual void showMultiIcon() = 0;
   // frmGPHeaderDiff.
   virtual void showHeaderDiff() = 0;

@@ -1,5 +1,5 @@
-// The file dialogs of the commands on icon files: they begin in the folder of the last one unless told another, and
-// remember theirs.
+// The file dialogs of the commands on icon files. They start in the folder of the last dialog unless the caller states
+// one, and store the folder that was used.
 #pragma once
 
 #include "files/FilesContext.h"
@@ -9,16 +9,16 @@
 
 namespace gp {
 
-// Who asks whether an existing file may be overwritten.
+// States who asks whether an existing file may be overwritten.
 enum class OverwriteQuestion { ByDialog, ByCaller };
 
-// The chosen path, empty for a cancel. An empty folder stands for that of the last dialog.
+// Return the chosen path, empty after Cancel. An empty folder means that of the last dialog.
 std::string askToOpen(FilesContext& context, const char* filter);
 std::string askToSave(FilesContext& context, const std::string& proposedName, const char* filter, const char* extension,
                       OverwriteQuestion question = OverwriteQuestion::ByDialog, const std::string& folder = {});
 
-// The body of an open command: offers to save what is on the Editing Area, asks for a file, opens it, and remembers
-// what was opened.
+// The body of an open command: offers to save the Current Icon, asks for a file, opens it, and stores its path in
+// mCommandFile.
 using OpenFile = std::function<void(const std::string& path, bool& ok)>;
 void openChosenFile(FilesContext& context, const char* filter, const OpenFile& open);
 

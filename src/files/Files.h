@@ -1,5 +1,4 @@
-// The face of the room: makes the commands on icon and cursor files and hands them to the rooms to the right. It
-// decides nothing.
+// The face of the room: creates the commands on icon and cursor files and gives access to them.
 #pragma once
 
 #include "files/FileForms.h"
@@ -22,9 +21,9 @@ class Files {
   Files(const Files&) = delete;
   Files& operator=(const Files&) = delete;
 
-  // The forms to show; null when the main form goes. Without them commands that need one do nothing.
+  // Sets the forms to show; null when the main form is destroyed. Without forms, commands that need one do nothing.
   void attach(FileForms* forms) { forms_ = forms; }
-  // Shows the headers of a file beside its pixels.
+  // Shows the form that compares the headers of a file with its pixels.
   void showHeaderDiff(const std::string& path);
   const FilesContext& context() const { return context_; }
 

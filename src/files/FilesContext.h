@@ -1,4 +1,4 @@
-// What the commands on icon files work with.
+// The objects that the commands on icon files use.
 #pragma once
 
 #include "document/Context.h"
@@ -15,8 +15,8 @@ struct FilesContext : Context {
   Document& document;
   Drawing& drawing;
   clsGPDialog& dialog;
-  MultiIconExchange& multiIcon;  // between the commands and the browser of multi-icon files
-  FileForms*& forms;             // null until there is a main form to show forms over
+  MultiIconExchange& multiIcon;  // values exchanged with the browser of multi-icon files
+  FileForms*& forms;             // null without a main form
 };
 
 }  // namespace gp

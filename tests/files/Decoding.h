@@ -2,7 +2,7 @@
 #pragma once
 
 #include "files/IcoBuilder.h"
-#include "files/format/IcoDirectory.h"
+#include "files/IconFileOf.h"
 #include "files/format/IconDecoder.h"
 
 #include <algorithm>
@@ -15,8 +15,9 @@ struct Decoded : IconImage {
 };
 
 inline Decoded decode(const Bytes& file, int index = 0) {
-  const IconEntry entry = parseIconDirectory(file).entry(index);
-  DecodedIcon decoded = decodeEntry(file, entry, entry.width, entry.height);
+  const IconFile held = iconFileOf(file);
+  const IconEntry entry = held.entry(index);
+  DecodedIcon decoded = decodeEntry(held, entry, entry.width, entry.height);
   return {std::move(decoded.icon), decoded.defect};
 }
 

@@ -9,7 +9,7 @@ using gp::fuzz::require;
 
 constexpr int kSide = 32;
 
-void load(std::span<const std::uint8_t> file, const gp::CursorFacts& facts) {
+void load(const gp::IconFile& file, const gp::CursorFacts& facts) {
   const gp::DecodedIcon decoded = gp::loadCursorImage(file);
   const gp::IconImage& icon = decoded.icon;
   if (!decoded.isRead()) return require(icon.isEmpty());
@@ -24,7 +24,7 @@ void load(std::span<const std::uint8_t> file, const gp::CursorFacts& facts) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::span file(data, size);
+  const gp::IconFile file = gp::parseIconFile(gp::FileBytes(std::span(data, size)));
   const gp::CursorFacts facts = gp::probeCursor(file);
   require(facts.valid || facts.joined() == "0/0/0");
   if (facts.valid)

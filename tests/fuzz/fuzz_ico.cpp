@@ -12,7 +12,7 @@ using gp::fuzz::require;
 // A file may tell more entries than it is worth decoding.
 constexpr int kMostEntries = 6;
 
-void decodeAs(std::span<const std::uint8_t> file, const gp::IconEntry& entry, int width, int height) {
+void decodeAs(const gp::IconFile& file, const gp::IconEntry& entry, int width, int height) {
   const gp::DecodedIcon decoded = gp::decodeEntry(file, entry, width, height);
   const gp::IconImage& icon = decoded.icon;
   if (!decoded.isRead()) return require(icon.isEmpty());
@@ -24,12 +24,11 @@ void decodeAs(std::span<const std::uint8_t> file, const gp::IconEntry& entry, in
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::span file(data, size);
+  const gp::IconFile file = gp::parseIconFile(gp::FileBytes(std::span(data, size)));
   (void)gp::probeIcon(file, true).joined();
   (void)gp::probeIcon(file, false);
-  const gp::IconDirectory directory = gp::parseIconDirectory(file);
-  for (int i = 0; i < kMostEntries && i < static_cast<int>(directory.entries.size()); ++i) {
-    const gp::IconEntry entry = directory.entry(i);
+  for (int i = 0; i < kMostEntries && i < file.directory.presentCount(); ++i) {
+    const gp::IconEntry entry = file.entry(i);
     (void)gp::isUsableEntry(file, entry);
     decodeAs(file, entry, entry.width, entry.height);
     decodeAs(file, entry, 32, 32);

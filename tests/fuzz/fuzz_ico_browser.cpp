@@ -105,8 +105,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::filesystem::create_directory(folder.path("split"));
   const Bytes before(data, data + size);
   gp::IconArrays arrays;
-  const bool isIconFile =
-      gp::parseIconArrays(gp::FileBytes(before), gp::ReservedField::Any, arrays) == gp::ArraysDefect::None;
+  const bool isIconFile = gp::takeIconArrays(gp::parseIconFile(gp::FileBytes(before)), gp::ReservedField::Any,
+                                             arrays) == gp::ArraysDefect::None;
   if (sumOfImages(arrays) > kLargestSum) return 0;
 
   const std::string path = folder.holding("browsed.ico", before);

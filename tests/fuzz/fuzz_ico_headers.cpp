@@ -44,7 +44,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static const gp::fuzz::ScratchFolder folder;
   const Bytes before(data, data + size);
   gp::IconArrays arrays;
-  (void)gp::parseIconArrays(gp::FileBytes(before), gp::ReservedField::Any, arrays);
+  (void)gp::takeIconArrays(gp::parseIconFile(gp::FileBytes(before)), gp::ReservedField::Any, arrays);
   std::size_t sum = 0;
   for (const gp::ImageBytes image : arrays.images) sum += image.size();
   if (sum > kLargestSum) return 0;

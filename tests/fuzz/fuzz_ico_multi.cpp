@@ -3,6 +3,7 @@
 // in the plainest way.
 #include "FuzzInput.h"
 #include "files/browser/MultiIconListing.h"
+#include "files/format/DepthTexts.h"
 #include "files/format/IconArrays.h"
 #include "files/format/IconSalvage.h"
 #include "files/format/IconUpdates.h"
@@ -151,7 +152,7 @@ void requireFound(const gp::IconArrays& arrays) {
   const gp::IconTraits last = gp::traitsOfEntry(arrays.entries.back());
   const int found = gp::findSameIcon(arrays, last, -1);
   require(found >= 0 && gp::traitsOfEntry(arrays.entries[static_cast<std::size_t>(found)]) == last);
-  require(gp::findSameIcon(arrays, last, found) != found && !gp::colorText(last).empty());
+  require(gp::findSameIcon(arrays, last, found) != found && !gp::colorText(last.depth).empty());
 }
 
 std::size_t sizeOf(const gp::IconArrays& arrays) {
@@ -176,10 +177,10 @@ void update(gp::IconArrays& arrays, Choices& choices) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::span input(data, size);
-  (void)gp::imageOfSingleIcon(gp::FileBytes({input.begin(), input.end()}));
+  (void)gp::imageOfSingleIcon(gp::FileBytes(input));
   gp::IconArrays arrays;
-  if (gp::parseIconArrays(gp::FileBytes({input.begin(), input.end()}), gp::ReservedField::Any, arrays) !=
-      gp::ArraysDefect::None) {
+  gp::IconFile file = gp::parseIconFile(gp::FileBytes(input));
+  if (gp::takeIconArrays(std::move(file), gp::ReservedField::Any, arrays) != gp::ArraysDefect::None) {
     require(arrays.count() == 0 && arrays.images.empty());
     return 0;
   }

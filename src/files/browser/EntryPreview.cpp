@@ -15,7 +15,7 @@ bool isReadSize(const IconEntry& entry, SizeRule rule) {
   return isIconSize(entry.width, entry.height);
 }
 
-// paintAlphaPreview: what the Mask lets through is the plain ground, and nothing is inverted.
+// paintAlphaPreview: transparent pixels show the plain background, and no pixel is inverted.
 Surface composedWithAlpha(const IconImage& icon) {
   Surface composed(icon.width(), icon.height(), kGround);
   composeAlpha(icon.mask, icon.image, icon.alpha, composed);
@@ -26,10 +26,10 @@ Surface composedWithAlpha(const IconImage& icon) {
 
 bool EntryPreview::show(const IconArrays& arrays, const IconEntry& entry, SizeRule rule, bool showAlpha) {
   if (!isReadSize(entry, rule)) return false;
-  DecodedIcon decoded = decodeEntry(arrays.file.span(), entry, entry.width, entry.height);
+  DecodedIcon decoded = decodeEntry(arrays.file, entry, entry.width, entry.height);
   if (!decoded.isRead()) return false;
   icon_ = std::move(decoded.icon);
-  const bool hasAlpha = ColorsForEntry(entry, entry.bitCount) == kTrueColor;
+  const bool hasAlpha = depthOfEntry(entry).isTrueColor();
   picIcon_ = hasAlpha && showAlpha ? composedWithAlpha(icon_) : composedIcon(icon_.image, icon_.mask);
   picIcon_.makePersistent();
   return true;

@@ -1,5 +1,5 @@
-// The preview of one entry of a file: its picture and Mask as they were read, and how the icon looks on the program's
-// ground. It owns three Surfaces and refuses what the reader refuses; then it stays as it was.
+// Previews one entry of a file: decodes it and composes it over the program's background. When the decoder refuses an
+// entry, the former preview is kept.
 #pragma once
 
 #include "document/IconImage.h"
@@ -8,17 +8,17 @@
 
 namespace gp {
 
-// Which sizes are read: those of icons, or any.
+// The sizes that are read: icon sizes, or any.
 enum class SizeRule { IconSizes, Any };
 
 class EntryPreview {
  public:
-  // Reads the image of `entry`, which need not tell what the file's directory tells, in the entry's own size. With
-  // showAlpha the icon is shown with its alpha values.
+  // Decodes the image of `entry` in the entry's own size. The entry may differ from the one in the file's directory.
+  // With showAlpha the alpha values are applied.
   [[nodiscard]] bool show(const IconArrays& arrays, const IconEntry& entry, SizeRule rule, bool showAlpha);
   void clear();
 
-  // The entry as it was read: picImageX, picMaskX and its alpha values.
+  // The decoded entry: picImageX, picMaskX and its alpha values.
   const IconImage& icon() const { return icon_; }
   const Surface& picIconInFile() const { return picIcon_; }
 

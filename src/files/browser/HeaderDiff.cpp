@@ -3,7 +3,6 @@
 #include "colour/ColorCount.h"
 #include "document/EditState.h"
 #include "document/Hourglass.h"
-#include "document/IconContainerRec.h"
 #include "files/FileQuestions.h"
 #include "files/browser/MultiIconExchange.h"
 #include "files/format/IcoLayout.h"
@@ -26,36 +25,34 @@ constexpr const char* kNameEnding = "_X.ico";
 constexpr const char* kTrue = "True";
 constexpr const char* kDoubtful = "   (?)";
 constexpr int kPreferredSize = 32;
-constexpr int kAlphaBits = 32;
 constexpr std::size_t kPixelBytes = 4;
 constexpr std::size_t kAlphaByte = 3;
 constexpr int kLargestSide = 256;
 
-std::string itemText(std::size_t index, int bits, int colors, int width, int height) {
-  const std::string color = colors > 0 ? std::to_string(colors) : kTrue;
-  return std::to_string(index + 1) + "\t" + std::to_string(bits) + "-BPP\t" + color + "-Color\t" +
-         std::to_string(width) + " x " + std::to_string(height);
+std::string colorLabel(int colors) { return colors > 0 ? std::to_string(colors) : kTrue; }
+
+std::string itemText(std::size_t index, const ListedEntry& shown) {
+  const auto [colors, bits] = shown.directory;
+  return std::to_string(index + 1) + "\t" + std::to_string(bits) + "-BPP\t" + colorLabel(colors) + "-Color\t" +
+         std::to_string(shown.width) + " x " + std::to_string(shown.height);
 }
 
-// The entry that an item text tells of.
+// The index of the entry that an item text describes.
 std::size_t indexIn(const std::string& item) {
   return static_cast<std::size_t>(Int(Val(item.substr(0, item.find('\t'))))) - 1;
 }
 
-std::string colorLabel(int colors) { return colors > 0 ? std::to_string(colors) : kTrue; }
-
-std::string bitsLabel(int bits, int colors) {
-  const int fitting = convBPP_Upto24(colors);
-  const bool isDoubtful = colors > 0 && ColorsForBitCount(fitting) == colors && bits != fitting;
-  return std::to_string(bits) + (isDoubtful ? kDoubtful : "");
+std::string bitsLabel(ColorDepth depth) {
+  const bool isDoubtful = isPaletteSize(depth.colors) && depth != depthOfColors(depth.colors);
+  return std::to_string(depth.bits) + (isDoubtful ? kDoubtful : "");
 }
 
 int sideOf(int byte) { return byte == 0 ? kLargestSide : byte; }
 
-// Whether any pixel of a 32-bit image has an alpha byte. The decoder's alpha values do not tell: there an image without
-// alpha is as opaque as one whose alpha is full.
+// True when a pixel of a 32-bit image has an alpha byte. The decoder's alpha values do not show this: an image without
+// alpha is opaque there, as one with full alpha is.
 bool hasAlphaBytes(ImageBytes image, const HeaderFacts& facts) {
-  if (facts.bits != kAlphaBits || image.size() <= ico::kBitmapHeaderSize) return false;
+  if (facts.bits != kBitsWithAlpha || image.size() <= ico::kBitmapHeaderSize) return false;
   const ImageBytes rows = image.subspan(ico::kBitmapHeaderSize);
   const std::size_t told = static_cast<std::size_t>(sideOf(facts.width)) * sideOf(facts.height);
   const std::size_t pixels = std::min(told, rows.size() / kPixelBytes);
@@ -97,7 +94,7 @@ void HeaderDiff::readMultiIconFile() {
   selected_ = -1;
   table_ = {};
   preview_.clear();
-  // A defect leaves the arrays empty, and that is all that it means here.
+  // On a defect the arrays are empty, and so is the list.
   static_cast<void>(readIconArrays(file_, ReservedField::Any, arrays_));
   entries_ = listEntries(arrays_);
   headers_.clear();
@@ -107,13 +104,10 @@ void HeaderDiff::readMultiIconFile() {
 
 void HeaderDiff::listIcons() {
   icons_.clear();
-  for (std::size_t i = 0; i < entries_.size(); ++i) {
-    const ListedEntry shown = shownEntry(i);
-    icons_.push_back(itemText(i, shown.dirBits, shown.dirColors, shown.width, shown.height));
-  }
+  for (std::size_t i = 0; i < entries_.size(); ++i) icons_.push_back(itemText(i, shownEntry(i)));
 }
 
-// Without a bitmap header there is but the directory.
+// An image without a bitmap header is described by its directory entry.
 bool HeaderDiff::goesByHeader(std::size_t index) const {
   return base_ == HeaderBase::Bitmap && hasBitmapHeader(arrays_.images[index]);
 }
@@ -123,8 +117,7 @@ ListedEntry HeaderDiff::shownEntry(std::size_t index) const {
   if (!goesByHeader(index)) return shown;
   shown.width = headers_[index].width;
   shown.height = headers_[index].height;
-  shown.dirBits = shown.bihBits;
-  shown.dirColors = shown.bihColors;
+  shown.directory = shown.header;
   return shown;
 }
 
@@ -133,7 +126,7 @@ int HeaderDiff::defaultItem() const {
   for (std::size_t i = 0; i < entries_.size(); ++i) {
     const ListedEntry shown = shownEntry(i);
     if (shown.width == kPreferredSize && shown.height == kPreferredSize)
-      selection.consider(static_cast<int>(i), shown.width, shown.dirBits);
+      selection.consider(static_cast<int>(i), shown.width, shown.directory.bits);
   }
   return selection.item();
 }
@@ -153,7 +146,7 @@ void HeaderDiff::select(int item) {
   table_ = tableOf(index);
 }
 
-// By the bitmap header its bit count alone tells the colours: the directory's count may be the lie.
+// With the base of the bitmap header, only its bit count states the colours: the directory's count may be wrong.
 bool HeaderDiff::readImageAtIndex(std::size_t index) {
   const Hourglass hourglass(context_.state, context_.display);
   IconEntry entry = arrays_.entries[index];
@@ -170,17 +163,16 @@ EnquiryTable HeaderDiff::tableOf(std::size_t index) const {
   const ListedEntry& entry = entries_[index];
   const int headerBits = headers_[index].bits;
   EnquiryTable table;
-  table.lblIDEColor = colorLabel(entry.dirColors);
-  table.lblIDEBPP = bitsLabel(entry.dirBits, entry.dirColors);
-  table.lblBIHColor = colorLabel(entry.bihColors);
+  table.lblIDEColor = colorLabel(entry.directory.colors);
+  table.lblIDEBPP = bitsLabel(entry.directory);
+  table.lblBIHColor = colorLabel(entry.header.colors);
   table.lblBIHBPP = std::to_string(headerBits);
 
   int actual = 0;
   GetColorBitCount_Image(preview_.icon().image, actual);
   if (hasAlphaBytes(arrays_.images[index], headers_[index])) actual = kTrueColor;
   table.lblActualColor = colorLabel(actual);
-  const bool isDeep = actual == kTrueColor && headerBits == kAlphaBits;
-  table.lblActualBPP = std::to_string(isDeep ? kAlphaBits : convBPP_Upto24(actual));
+  table.lblActualBPP = std::to_string(depthOfColors(actual, headerBits == kBitsWithAlpha).bits);
   return table;
 }
 

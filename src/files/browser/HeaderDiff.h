@@ -1,7 +1,6 @@
-// The rules of frmGPHeaderDiff, which sets side by side what an icon file's directory, its bitmap headers and its
-// pixels tell, and writes a copy whose directory follows the bitmap headers. It works on MultiIconExchange's file,
-// which it holds in memory. It refuses images that the reader refuses, PNG pictures among them, and writes nothing that
-// was not asked for.
+// The rules of frmGPHeaderDiff, which compares what an icon file's directory, its bitmap headers and its pixels state,
+// and writes a copy whose directory follows the bitmap headers. It works on MultiIconExchange's file, which it holds in
+// memory. Images that the decoder refuses, such as PNG pictures, are not shown.
 #pragma once
 
 #include "files/FilesContext.h"
@@ -19,7 +18,7 @@ namespace gp {
 // optBase(0) and optBase(1).
 enum class HeaderBase { Icon = 0, Bitmap = 1 };
 
-// fraEnquiry: the texts of its labels, empty while nothing is selected.
+// The texts of the labels of fraEnquiry; empty without a selection.
 struct EnquiryTable {
   std::string lblIDEColor, lblIDEBPP;
   std::string lblBIHColor, lblBIHBPP;
@@ -29,10 +28,10 @@ struct EnquiryTable {
 
 class HeaderDiff {
  public:
-  // What the context refers to must outlive it.
+  // The objects that the context refers to must outlive it.
   explicit HeaderDiff(const FilesContext& context);
 
-  // The first Activate: reads and lists the file and shows an entry, or tells that there is nothing.
+  // Called on the first Activate: reads and lists the file and shows an entry, or reports that there is none.
   void activate();
 
   const std::string& file() const { return file_; }  // in full
@@ -43,13 +42,13 @@ class HeaderDiff {
   const Surface& picIconInFile() const { return preview_.picIconInFile(); }
   bool canSalvage() const { return selected_ >= 0; }
 
-  // Shows an entry. One that cannot be shown is told of, and the one before stays.
+  // Shows an entry. One that cannot be shown is reported, and the former one stays selected.
   void clickIcon(int item);
-  // Lists the file, read again, by its directory or by its bitmap headers.
+  // Reads the file again and lists it by its directory or by its bitmap headers.
   void setBase(HeaderBase base);
   void cmdSalvage();
 
-  // What the form does when something that it shows has changed.
+  // Called when the state shown by the form has changed.
   std::function<void()> onChange;
 
  private:
@@ -59,7 +58,7 @@ class HeaderDiff {
   void listIcons();
   int defaultItem() const;
   bool goesByHeader(std::size_t index) const;
-  // What the list tells of an entry: in the place of what the directory tells stands what the base tells.
+  // An entry as the list shows it: the depth and size that the base states take the place of the directory's.
   ListedEntry shownEntry(std::size_t index) const;
   void select(int item);
   bool readImageAtIndex(std::size_t index);

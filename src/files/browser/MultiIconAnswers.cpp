@@ -17,7 +17,7 @@ constexpr int kSaveAs = 2;
 constexpr std::size_t kLoadFields = 8;
 constexpr std::size_t kAddFields = 2;
 
-// No field needs more than the records have room for.
+// The fields fit into the 16 bits of a record's fields.
 std::optional<std::int16_t> parseNumber(std::string_view text) {
   std::int16_t number = 0;
   const char* const end = text.data() + text.size();
@@ -25,7 +25,7 @@ std::optional<std::int16_t> parseNumber(std::string_view text) {
   return error == std::errc() && rest == end ? std::optional(number) : std::nullopt;
 }
 
-// Exactly `count` numbers, or none.
+// Returns exactly `count` numbers, or none.
 std::vector<int> parseNumbers(std::string_view text, std::size_t count) {
   std::vector<int> numbers;
   while (numbers.size() < count) {
@@ -51,10 +51,8 @@ std::optional<LoadAnswer> parseLoadAnswer(const std::string& answer) {
   load.facts.chosen = fields[1];
   load.facts.width = fields[2];
   load.facts.height = fields[3];
-  load.facts.dirColors = fields[4];
-  load.facts.dirBits = fields[5];
-  load.facts.headerColors = fields[6];
-  load.facts.headerBits = fields[7];
+  load.facts.directory = {fields[4], fields[5]};
+  load.facts.header = {fields[6], fields[7]};
   return load;
 }
 

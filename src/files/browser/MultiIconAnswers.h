@@ -1,5 +1,5 @@
-// The answers of frmGPMultiIcon: numbers joined by "/". What is malformed is no answer at all, so that nothing that the
-// user did not choose can be loaded or overwritten.
+// Parses the answers of frmGPMultiIcon: numbers joined by "/". A malformed answer is ignored, so that nothing is loaded
+// or overwritten that the user did not choose.
 #pragma once
 
 #include "files/format/IconProbe.h"
@@ -9,15 +9,15 @@
 
 namespace gp {
 
-// An entry to load, and where to.
+// An entry to load, and its target.
 struct LoadAnswer {
   int container = 0;  // from 0, always one of the six
-  // Of the entry; its bit count is the one that the browser corrected.
+  // The numbers of the entry, with the bit count that the browser has corrected.
   IconFacts facts;
 };
 std::optional<LoadAnswer> parseLoadAnswer(const std::string& answer);
 
-// Where to add the icon, and whether in another file.
+// The place for the new icon, and whether to write another file.
 struct AddAnswer {
   bool saveAs = false;
   int index = 0;  // of the new entry, from 0

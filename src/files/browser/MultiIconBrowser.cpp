@@ -3,7 +3,6 @@
 #include "document/EditState.h"
 #include "document/Hourglass.h"
 #include "files/browser/MultiIconExchange.h"
-#include "files/format/IconProbe.h"
 #include "files/opening/IconMessages.h"
 #include "platform/ports/MessageBoxes.h"
 #include "platform/scope/FlagFor.h"
@@ -15,9 +14,8 @@
 namespace gp {
 namespace {
 
-constexpr int kTooManyEntries = 100;  // from here on a Ref does not fit into the two characters it is read from
+constexpr int kTooManyEntries = 100;  // from here on a Ref needs more than the two characters that are read
 constexpr std::size_t kFewestToChooseFrom = 2;
-constexpr int kPaletteBits = 8;  // the most that go with a palette
 
 constexpr const char* kEditCaption = "Edit Icon In Multi-Icon File";
 constexpr const char* kAddCaption = "Add Icon To Existing Icon File";
@@ -31,16 +29,9 @@ int containerIn(const std::string& text) {
   return item >= 0 && item < kContainerCount ? item : -1;
 }
 
-bool isPaletteBitCount(int bits) { return bits == 0 || bits == 1 || bits == 4 || bits == kPaletteBits; }
-bool isTrueColorBitCount(int bits) { return bits == 24 || bits == kBitsWithAlpha; }
-
-// The bit count that a load answers: one that does not fit the colours follows from them.
-int bitsToLoad(const ListedEntry& entry) {
-  IconFacts facts;
-  facts.dirColors = entry.dirColors;
-  facts.dirBits = entry.dirBits;
-  return facts.bitCount();
-}
+// Old icons state 0 bits.
+bool isPaletteBitCount(int bits) { return bits == 0 || depthOfBits(bits).hasPalette(); }
+bool isTrueColorBitCount(int bits) { return bits == kBitsWithoutAlpha || bits == kBitsWithAlpha; }
 
 std::string twoDigits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
 
@@ -88,7 +79,7 @@ bool MultiIconBrowser::readMultiIconFile() {
   return readIconArrays(file(), ReservedField::Any, arrays_) == ArraysDefect::None;
 }
 
-// Answers the item that is selected at first.
+// Returns the item that is selected first.
 int MultiIconBrowser::fillIconLists() {
   DefaultSelection first;
   entries_ = listEntries(arrays_);
@@ -97,7 +88,7 @@ int MultiIconBrowser::fillIconLists() {
   int ref = 0;
   for (const ListedEntry& entry : entries_) {
     ++ref;
-    if (entry.isStandard()) first.consider(static_cast<int>(icons_.size()), entry.width, entry.dirBits);
+    if (entry.isStandard()) first.consider(static_cast<int>(icons_.size()), entry.width, entry.directory.bits);
     (entry.isStandard() ? icons_ : otherIcons_).push_back(itemText(ref, entry, entry.isStandard()));
   }
   lacksBits_ = std::ranges::any_of(entries_, &ListedEntry::lacksBits);
@@ -114,17 +105,17 @@ void MultiIconBrowser::openFile() {
 
 // Selecting.
 
-// The item's text is the only record of what is selected: where its Ref reads as another entry's, that one is shown.
+// The selection is stored as the item's text only: where its Ref reads as that of another entry, that entry is shown.
 bool MultiIconBrowser::preview(const std::string& item, EntryPreview& preview) {
   const Hourglass hourglass(context_.state, context_.display);
   const ItemReading reading = readItem(item);
   IconEntry entry = arrays_.entries.at(static_cast<std::size_t>(reading.index));
   entry.width = reading.width;
   entry.height = reading.height;
-  return preview.show(arrays_, entry, sizesShownIn(preview), listed(reading).dirBits >= kBitsWithAlpha);
+  return preview.show(arrays_, entry, sizesShownIn(preview), listed(reading).directory.bits >= kBitsWithAlpha);
 }
 
-// The pane moves entries of all sizes, so it shows them too.
+// The pane lists entries of all sizes and shows them all.
 SizeRule MultiIconBrowser::sizesShownIn(const EntryPreview& preview) const {
   return &preview == &repositionPreview_ ? SizeRule::Any : SizeRule::IconSizes;
 }
@@ -135,7 +126,7 @@ bool MultiIconBrowser::previewOrTell(const std::string& item, EntryPreview& prev
   return false;
 }
 
-// Selects in a list that is new; -1 and what cannot be shown leave nothing selected.
+// Selects an item of a new list. -1 and entries that cannot be shown leave no selection.
 void MultiIconBrowser::selectAnew(int item) {
   selected_ = -1;
   preview_.clear();
@@ -182,9 +173,9 @@ void MultiIconBrowser::loadSelectedIcon() {
 }
 
 bool MultiIconBrowser::isLoadable(const ListedEntry& entry) {
-  const int bits = entry.dirBits;
+  const int bits = entry.directory.bits;
   if (!isPaletteBitCount(bits) && !isTrueColorBitCount(bits)) {
-    context_.boxes.tell(bits < kPaletteBits ? kStrangePaletteBits : kStrangeTrueColorBits);
+    context_.boxes.tell(bits < kPaletteDepth.bits ? kStrangePaletteBits : kStrangeTrueColorBits);
     return false;
   }
   if (!isTrueColorBitCount(bits) || context_.state.process.gScreenBPP >= kManyColorsScreenBits) return true;
@@ -195,8 +186,9 @@ std::string MultiIconBrowser::loadAnswer() const {
   const ItemReading reading = readItem(iconText(selected_));
   const ListedEntry& entry = listed(reading);
   std::string answer = std::to_string(container_ + 1) + "/" + twoDigits(reading.index);
+  const ColorDepth depth = corrected(entry.directory);
   for (const int field :
-       {reading.width, reading.height, entry.dirColors, bitsToLoad(entry), entry.bihColors, entry.bihBits})
+       {reading.width, reading.height, depth.colors, depth.bits, entry.header.colors, entry.header.bits})
     answer += "/" + std::to_string(field);
   return answer;
 }

@@ -1,6 +1,6 @@
-// The rules of frmGPMultiIcon: what it lists, previews and enables, and what its buttons do. The form shows what is
-// here and forwards what is pressed. One browser serves one showing of the form; it works on MultiIconExchange,
-// holds the whole file in memory, and writes nothing that was not asked for.
+// The rules of frmGPMultiIcon: what it lists, previews and enables, and what its buttons do. The form shows this state
+// and forwards input. One browser serves one showing of the form. It works on MultiIconExchange, holds the whole file
+// in memory, and writes only what the user asked for.
 #pragma once
 
 #include "files/FilesContext.h"
@@ -29,8 +29,8 @@ class MultiIconBrowser {
   // The context must outlive the browser.
   explicit MultiIconBrowser(const FilesContext& context);
 
-  // The first Activate: takes the exchange's values, reads the file, lists it and previews what is selected. When the
-  // file cannot be read the form unloads at once, without a word.
+  // Called on the first Activate: takes the values of the exchange, reads and lists the file and previews the selected
+  // entry. When the file cannot be read, the form unloads at once without a message.
   void activate();
 
   // What the form shows.
@@ -47,9 +47,9 @@ class MultiIconBrowser {
   const Surface& picIconInFile() const { return preview_.picIconInFile(); }
   const RepositionPane& reposition() const { return reposition_; }
   const Surface& picReposition() const { return repositionPreview_.picIconInFile(); }
-  // cboContainerRef holds 1 to 6; its item, -1 when the selector is hidden.
+  // The item of cboContainerRef, which contains 1 to 6; -1 when the selector is hidden.
   int containerItem() const { return container_; }
-  // cboAddToPosition: the count of its items and the one that is selected.
+  // The number of items of cboAddToPosition, and the selected one.
   int addPositionCount() const;
   int addPosition() const { return addPosition_; }
   bool canLoad() const;         // cmdEdit, cmdLoad
@@ -57,7 +57,7 @@ class MultiIconBrowser {
   bool canRearrange() const;    // cmdRemove, cmdReposition
   bool canAdd() const;          // cmdSaveAdd
 
-  // What is pressed on it. Items are those of the lists, from 0.
+  // Input to the form. Items are those of the lists, counted from 0.
   void clickIcon(int item);
   void clickRepositionIcon(int item);
   void setOtherSizesShown(bool shown);  // imgShowOtherSizes, imgHideOtherSizes
@@ -76,7 +76,7 @@ class MultiIconBrowser {
   void cmdRepositionProceed();
   void cmdSaveAdd(int button);
 
-  // What the form does when something that it shows has changed, and when it is to close.
+  // Called when the state shown by the form has changed, and when the form has to close.
   std::function<void()> onChange;
   std::function<void()> onUnload;
 
@@ -117,7 +117,7 @@ class MultiIconBrowser {
   std::vector<std::string> icons_;
   std::vector<std::string> otherIcons_;
   int selected_ = -1;
-  bool mBusy_ = false;  // the browser itself changes what is selected
+  bool mBusy_ = false;  // the browser itself is changing the selection
   bool lacksBits_ = false;
   bool otherSizesShown_ = false;
   bool repositioning_ = false;

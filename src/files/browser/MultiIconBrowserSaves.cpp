@@ -1,8 +1,9 @@
-// The browser's saves of single entries.
+// Commands of the browser that save single entries.
 #include "document/EditState.h"
 #include "document/Hourglass.h"
 #include "files/FileQuestions.h"
 #include "files/browser/MultiIconBrowser.h"
+#include "files/format/DepthTexts.h"
 #include "files/format/SingleEntryFile.h"
 #include "files/opening/IconMessages.h"
 #include "platform/dialogs/clsGPDialog.h"
@@ -21,12 +22,11 @@ std::string joined(const std::string& folder, const std::string& name) {
 
 }  // namespace
 
-// "tools_32_16.ico", where `stem` is "tools".
+// For example "tools_32_16.ico" if `stem` is "tools".
 std::string MultiIconBrowser::singleFileName(const std::string& stem, int item) const {
   const ItemReading reading = readItem(iconText(item));
   const ListedEntry& entry = listed(reading);
-  return stem + "_" + std::to_string(reading.height) + "_" + colorsInFileName(entry.dirColors, entry.dirBits) + "." +
-         kIconExtension;
+  return stem + "_" + std::to_string(reading.height) + "_" + colorsInFileName(entry.directory) + "." + kIconExtension;
 }
 
 bool MultiIconBrowser::saveItem(int item, const std::string& path) {
@@ -41,7 +41,7 @@ void MultiIconBrowser::cmdSaveSingle() {
   if (path.empty()) return;
   const bool isOwnFile = isSameFile(path, file());
   if (!saveItem(selected_, path)) tellIconNotSaved(context_.boxes, path);
-  // What is listed must be what a later command rewrites.
+  // The list must match the file that a later command rewrites.
   if (isOwnFile || path == file()) openFile();
 }
 
@@ -55,9 +55,8 @@ void MultiIconBrowser::cmdSplitSave() {
   if (context_.boxes.ask(question)) splitInto(stem);
 }
 
-// An image that cannot be shown is saved like the others, so nothing is told of it; nor is a file that cannot be
-// written. The views go through their whole lists each time they are told of a change, and nothing of it is seen before
-// the end: they are told then.
+// Images that cannot be shown are saved too. Failures are not reported. The views rebuild their lists on each
+// notification, so there is one notification at the end.
 void MultiIconBrowser::splitInto(const std::string& stem) {
   const Hourglass hourglass(context_.state, context_.display);
   const int before = selected_;

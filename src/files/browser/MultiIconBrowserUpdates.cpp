@@ -1,4 +1,4 @@
-// The browser's changes of its own file: an entry taken out, and all of them put into another sequence.
+// Commands of the browser that change its own file: removing an entry, and reordering all of them.
 #include "document/EditState.h"
 #include "document/Hourglass.h"
 #include "files/browser/MultiIconBrowser.h"
@@ -50,7 +50,7 @@ bool MultiIconBrowser::removeEntry(int index) {
   return writeWholeFile(arrays_, file(), arrays_.file.span());
 }
 
-// Lists what the file holds now, and selects at the same place or at the last one.
+// Lists the file again, and selects the item at the same place, or the last one.
 void MultiIconBrowser::relistAt(int item) {
   if (!readMultiIconFile()) return unload();
   fillIconLists();
@@ -66,7 +66,7 @@ void MultiIconBrowser::cmdReposition() {
   reposition_.open(std::move(items));
   repositioning_ = true;
   otherSizesShown_ = false;
-  // Nobody picked the first one: when it cannot be shown it is selected all the same.
+  // The user did not choose the first item, so it stays selected even if it cannot be shown.
   if (!preview(reposition_.lisReposition().front(), repositionPreview_)) repositionPreview_.clear();
   changed();
 }

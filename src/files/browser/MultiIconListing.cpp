@@ -1,6 +1,6 @@
 #include "files/browser/MultiIconListing.h"
 
-#include "document/IconContainerRec.h"
+#include "document/IconSizes.h"
 #include "files/format/IcoLayout.h"
 #include "platform/text/Numbers.h"
 #include "platform/text/Utf8.h"
@@ -12,9 +12,8 @@ namespace gp {
 namespace {
 
 constexpr int kPreferredSize = 32;
-constexpr int kPreferredBits = 8;
 
-// How an item text is read again: its parts stand at fixed distances from both ends.
+// Positions in an item text, whose parts are at fixed distances from both ends.
 constexpr std::size_t kSideWidth = 3;
 constexpr std::size_t kSizeWidth = 9;
 constexpr std::size_t kRefField = 6;
@@ -26,10 +25,8 @@ ListedEntry listedEntry(const IconEntry& entry, ImageBytes image) {
   ListedEntry listed;
   listed.width = entry.width;
   listed.height = entry.height;
-  listed.dirBits = entry.bitCount;
-  listed.dirColors = ColorsForEntry(entry, entry.bitCount);
-  listed.bihBits = lowHeaderBits(image);
-  listed.bihColors = ColorsForEntry(entry, listed.bihBits);
+  listed.directory = depthOfEntry(entry);
+  listed.header = depthOfEntry(entry, lowHeaderBits(image));
   return listed;
 }
 
@@ -47,7 +44,7 @@ int numberIn(std::string_view text) { return Int(Val(trim(text))); }
 }  // namespace
 
 bool ListedEntry::isStandard() const { return width == height && isIconSize(width); }
-bool ListedEntry::lacksBits() const { return dirColors > 0 && dirBits == 0; }
+bool ListedEntry::lacksBits() const { return directory.hasPalette() && directory.bits == 0; }
 
 std::vector<ListedEntry> listEntries(const IconArrays& arrays) {
   std::vector<ListedEntry> listed;
@@ -58,8 +55,9 @@ std::vector<ListedEntry> listEntries(const IconArrays& arrays) {
 }
 
 std::string itemText(int ref, const ListedEntry& entry, bool padded) {
-  const std::string bits = std::to_string(entry.dirBits) + " BPP" + (entry.lacksBits() ? "*" : "");
-  const std::string colors = entry.dirColors > 0 ? std::to_string(entry.dirColors) + "-Color" : "True-Color";
+  const auto [colorCount, bitCount] = entry.directory;
+  const std::string bits = std::to_string(bitCount) + " BPP" + (entry.lacksBits() ? "*" : "");
+  const std::string colors = entry.directory.isTrueColor() ? "True-Color" : std::to_string(colorCount) + "-Color";
   return "Ref " + std::to_string(ref) + "  \t" + bits + "\t" + colors + "\t  " + sideText(entry.width, padded) + " x " +
          sideText(entry.height, padded);
 }
@@ -73,12 +71,8 @@ ItemReading readItem(const std::string& text) {
   return reading;
 }
 
-std::string colorsInFileName(int colors, int bits) {
-  return colors > 0 ? std::to_string(colors) : std::to_string(bits) + "bpp";
-}
-
 void DefaultSelection::consider(int item, int width, int bits) {
-  if (width == kPreferredSize && (!item_ || bits == kPreferredBits)) item_ = item;
+  if (width == kPreferredSize && (!item_ || bits == kPaletteDepth.bits)) item_ = item;
 }
 
 }  // namespace gp

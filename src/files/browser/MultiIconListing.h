@@ -1,5 +1,5 @@
-// How the entries of a file are listed: each as one line of text with tabs, from which a click is read again. A Ref is
-// an entry's place in the file, counted from 1.
+// Lists the entries of a file: each as one line of text with tabs, which is parsed again on a click. A Ref is the place
+// of an entry in the file, counted from 1.
 #pragma once
 
 #include "files/format/IconArrays.h"
@@ -10,18 +10,16 @@
 
 namespace gp {
 
-// One entry by its directory entry and by the bitmap header of its image.
+// One entry as its directory entry and the bitmap header of its image describe it.
 struct ListedEntry {
   int width = 0;  // the directory's bytes
   int height = 0;
-  int dirColors = 0;  // mDirColors, -1 for true colour
-  int dirBits = 0;    // mDirBits
-  int bihColors = 0;  // mBihColors
-  int bihBits = 0;    // mBihBits: the low byte of biBitCount, 0 where the image is too short
+  ColorDepth directory = {};  // mDirColors and mDirBits
+  ColorDepth header = {};     // mBihColors and mBihBits: the low byte of biBitCount, 0 where the image is too short
 
   // Square, and of 16, 24, 32 or 48 pixels.
   bool isStandard() const;
-  // Told by its colours alone: its bit text gets an asterisk.
+  // True when only the colour count states the depth. The text of the bits then gets an asterisk.
   bool lacksBits() const;
 };
 
@@ -30,7 +28,7 @@ std::vector<ListedEntry> listEntries(const IconArrays& arrays);
 // "Ref 3  \t32 BPP\tTrue-Color\t   32 x  32"; with padding width and height are three characters each.
 std::string itemText(int ref, const ListedEntry& entry, bool padded);
 
-// What a padded item text tells of itself. Refs are read from two characters only: 100 reads as 10.
+// The values parsed from a padded item text. A Ref is read from two characters only, so that 100 reads as 10.
 struct ItemReading {
   int index = -1;  // Ref - 1
   int width = 0;
@@ -38,10 +36,7 @@ struct ItemReading {
 };
 ItemReading readItem(const std::string& text);
 
-// "16", or "24bpp" for true colour of 24 bits: the colour part of a file name.
-std::string colorsInFileName(int colors, int bits);
-
-// The item that is selected at first: the first 32x32 entry, displaced by a later one of 8 bits. 0 when there is none.
+// Finds the item that is selected first: the first 32x32 entry, or the last later one of 8 bits. 0 when there is none.
 class DefaultSelection {
  public:
   void consider(int item, int width, int bits);

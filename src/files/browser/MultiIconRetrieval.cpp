@@ -55,8 +55,8 @@ void MultiIconRetrieval::showBrowser() {
   if (context_.forms) context_.forms->showMultiIcon();
 }
 
-// False when the user wants to keep what is in one of the two containers. The
-// caller has dealt with the first container's icon.
+// False when the user keeps the icon of one of the two containers. The caller has dealt with the icon of the first
+// container.
 bool MultiIconRetrieval::goTo(int container) {
   if (container != state_.mCurContainer) context_.document.iconsPanel.SwitchContainer(container);
   if (container != state_.mCurContainer) return false;

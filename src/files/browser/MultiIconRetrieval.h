@@ -1,5 +1,5 @@
-// One showing of the browser by the main form, over and over until the user has loaded what he wanted. A container is
-// left or overwritten only with the user's consent.
+// Shows the browser for the main form, repeatedly until the user has finished loading. A container is replaced only
+// with the user's consent.
 #pragma once
 
 #include "files/FilesContext.h"
@@ -11,9 +11,10 @@ namespace gp {
 
 class MultiIconRetrieval {
  public:
-  // With `intoEditingArea` the loaded icons become the Current Icon, otherwise they go to their containers only.
+  // With `intoEditingArea` the loaded icons become the Current Icon; otherwise they are only stored in their
+  // containers.
   MultiIconRetrieval(FilesContext& context, std::string file, bool intoEditingArea);
-  // The answer of the last load, empty if there was none.
+  // Returns the answer of the last load, empty if there was none.
   std::string run();
 
  private:

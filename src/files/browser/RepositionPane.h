@@ -1,5 +1,5 @@
-// The pane of the browser that puts the entries of a file into another sequence: a list of item texts that are moved up
-// and down. It changes its own list only; writing is the browser's.
+// The pane of the browser that reorders the entries of a file: a list of item texts that the user moves up and down.
+// Writing is done by the browser.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@ namespace gp {
 
 class RepositionPane {
  public:
-  // Takes the padded item texts of all entries in file order; the first is selected.
+  // Sets the padded item texts of all entries in file order, and selects the first.
   void open(std::vector<std::string> items);
 
   const std::vector<std::string>& lisReposition() const { return items_; }
@@ -17,11 +17,11 @@ class RepositionPane {
   void select(int item) { selected_ = item; }
   bool canShiftUp() const;
   bool canShiftDown() const;
-  // Moves the selected item one place; at the end of the list nothing happens.
+  // Moves the selected item by one place. Does nothing at the end of the list.
   void shiftUp();
   void shiftDown();
 
-  // The file's index of the entry at each place, as the item texts tell.
+  // The index in the file of the entry at each place, parsed from the item texts.
   std::vector<int> order() const;
   bool isUnchanged() const;
 

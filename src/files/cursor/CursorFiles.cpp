@@ -10,9 +10,9 @@
 #include "document/PanelNumbers.h"
 #include "files/FileQuestions.h"
 #include "files/cursor/CursorLoading.h"
-#include "files/format/IconFileBytes.h"
-#include "files/format/IconWriter.h"
+#include "files/format/IconFile.h"
 #include "files/opening/IconMessages.h"
+#include "files/saving/CurrentIcon.h"
 
 namespace gp {
 namespace {
@@ -26,7 +26,6 @@ constexpr const char* kAlphaReminder =
     "\n";
 
 bool isInside(int coordinate) { return coordinate >= 0 && coordinate < kCursorSide; }
-bool isShownDepth(const CursorFacts& facts) { return facts.colors > 0 || facts.bits == 24 || facts.bits == 32; }
 
 }  // namespace
 
@@ -41,12 +40,12 @@ void CursorFiles::doMnuFileOpenCursor() {
 
 void CursorFiles::doOpenCursorFile(const std::string& path, bool& ok) {
   ok = false;
-  const auto bytes = readIconFile(path);
-  const CursorFacts facts = bytes ? probeCursor(bytes->span()) : CursorFacts{};
+  const auto file = readIconFile(path);
+  const CursorFacts facts = file ? probeCursor(*file) : CursorFacts{};
   if (!facts.valid) return context_.boxes.tell(path + kInvalidFile, BoxIcon::Exclamation);
-  const DecodedIcon decoded = loadCursorImage(bytes->span());
+  const DecodedIcon decoded = loadCursorImage(*file);
   if (!decoded.isRead()) return leaveEmpty(kFailedToLoad, BoxIcon::Exclamation);
-  if (!isShownDepth(facts)) return leaveEmpty(path + kStrangeTrueColor, BoxIcon::Information);
+  if (!facts.depth.isShown()) return leaveEmpty(path + kStrangeTrueColor, BoxIcon::Information);
   {
     const Hourglass hourglass(state_, context_.display);
     context_.document.arrival.arrive(decoded.icon, recordOfLoadedCursor(facts, decoded.icon, path));
@@ -56,7 +55,7 @@ void CursorFiles::doOpenCursorFile(const std::string& path, bool& ok) {
   remindOfAlpha();
 }
 
-// Showing a container that is empty wipes the Surfaces, dims the tools and clears the status bar.
+// Switching to an empty container clears the Surfaces and the status bar and disables the tools.
 void CursorFiles::leaveEmpty(const std::string& text, BoxIcon icon) {
   ClearContainer(state_);
   context_.document.iconsPanel.SwitchContainer(state_.mCurContainer);

@@ -20,30 +20,31 @@ class CursorFiles {
 
   // The command "Open &Cursor File  (cur) ....": offers to save, asks for a file and opens it.
   void doMnuFileOpenCursor();
-  // Opens a file into the current container and tells the user what he should know of it.
+  // Opens a file into the current container. Reports failures and reminds of an alpha channel.
   void doOpenCursorFile(const std::string& path, bool& ok);
 
-  // Brings the Panel up, with the hot spot of the current cursor or 0, 0, and shows the spot once.
+  // Opens the Panel with the hot spot of the current cursor, or 0, 0, and shows the spot once.
   void openPanel();
-  // cboCursorHotSpot(0) and (1): their items, 0 to 31. When another icon has come up since the Panel did, they are as
-  // if it had come up with that one.
+  // The items of cboCursorHotSpot(0) and (1), 0 to 31. When another icon has arrived since the Panel was opened, they
+  // are the same as if it were opened with that icon.
   int hotspotX() const { return spot().x; }
   int hotspotY() const { return spot().y; }
   void setHotspotX(int x);
   void setHotspotY(int y);
-  // A click on the Editing Area while the Panel is open, in pixels of the icon: takes the spot and shows it, unless one
-  // is being shown.
+  // Handles a click on the Editing Area while the Panel is open, in pixels of the icon: sets the spot and shows it.
+  // Ignored while a spot is being shown.
   void setHotspotByClick(int x, int y);
   // cmdShowHotspot.
   void showHotspot();
   // "&Reveal Hotspot Of Original Cursor".
   void revealOriginalHotspot();
 
-  // Writes the Current Icon as a cursor with the hot spot of the lists. The record stays as it is. Tells nothing.
+  // Writes the Current Icon as a cursor with the hot spot of the lists. Does not change the record and shows no
+  // message.
   void WriteCursorFile(const std::string& path, bool& ok) const;
 
   HotspotMark& mark() { return mark_; }
-  // What the view does when the lists changed.
+  // Called when the lists have changed.
   std::function<void()> onChange;
 
  private:
@@ -54,7 +55,7 @@ class CursorFiles {
 
   void leaveEmpty(const std::string& text, BoxIcon icon);
   void remindOfAlpha();
-  // Where the lists start for an icon: at the hot spot of a cursor, otherwise at 0, 0.
+  // The initial items of the lists for an icon: the hot spot of a cursor, otherwise 0, 0.
   static Spot startOf(const IconContainerRec& record);
   Spot spot() const;
   void setSpot(Spot spot);
@@ -63,7 +64,7 @@ class CursorFiles {
   EditState& state_;
   HotspotMark mark_;
   Spot spot_;
-  std::optional<unsigned> spotOf_;  // iconSerial for which the lists were set; nothing before the first time
+  std::optional<unsigned> spotOf_;  // iconSerial when the lists were set; empty before the first time
 };
 
 }  // namespace gp

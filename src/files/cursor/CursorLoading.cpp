@@ -1,32 +1,25 @@
 #include "files/cursor/CursorLoading.h"
 
-#include "files/format/IcoDirectory.h"
-
 namespace gp {
 namespace {
 
 constexpr const char* kCurLabel = "CUR file";
 
-// In a cursor file the entry tells no depth: the bitmap header's takes its place. What has no palette and is not of 24
-// bits is read as four bytes a pixel.
-IconEntry entryByHeader(std::span<const std::uint8_t> file, const IconDirectory& directory) {
-  IconEntry entry = directory.entry(0);
+// The entry of a cursor file states no depth; that of the bitmap header is used instead. Images without a palette that
+// are not of 24 bits are read as four bytes per pixel.
+IconEntry entryByHeader(const IconFile& file) {
+  IconEntry entry = file.entry(0);
   const int bits = headerBitCount(file, entry);
   entry.colorCount = 0;
-  entry.bitCount = ColorsForBitCount(bits) == kTrueColor && bits != kBitsWithoutAlpha ? kBitsWithAlpha : bits;
+  entry.bitCount = depthOfBits(bits).hasPalette() || bits == kBitsWithoutAlpha ? bits : kBitsWithAlpha;
   return entry;
-}
-
-int keptBitCount(const IconImage& icon, int bits) {
-  return bits == kBitsWithAlpha && !icon.hasAlphaValues() ? kBitsWithoutAlpha : bits;
 }
 
 }  // namespace
 
-DecodedIcon loadCursorImage(std::span<const std::uint8_t> file) {
-  const IconDirectory directory = parseIconDirectory(file);
-  if (!directory.isCursor()) return {IconDefect::NotAnIcon, {}};
-  const IconEntry entry = entryByHeader(file, directory);
+DecodedIcon loadCursorImage(const IconFile& file) {
+  if (!file.isCursor()) return {IconDefect::NotAnIcon, {}};
+  const IconEntry entry = entryByHeader(file);
   if (entry.width != kCursorSide || entry.height != kCursorSide) return {IconDefect::SizeNotOffered, {}};
   return decodeEntry(file, entry, kCursorSide, kCursorSide);
 }
@@ -35,9 +28,9 @@ IconContainerRec recordOfLoadedCursor(const CursorFacts& facts, const IconImage&
   IconContainerRec record;
   record.used = true;
   record.sourceLabel = kCurLabel;
-  record.dirColors = record.bihColors = facts.colors;
-  record.bitCount = record.bihBitCount = static_cast<std::int16_t>(keptBitCount(icon, facts.bits));
-  record.hasAlpha = record.bitCount == kBitsWithAlpha;
+  record.setDepth(icon.hasAlphaValues() ? facts.depth : facts.depth.withoutAlpha());
+  record.setHeaderDepth(record.depth());
+  record.hasAlpha = record.depth().hasAlpha();
   record.present = true;
   record.path = path;
   record.isCursor = true;

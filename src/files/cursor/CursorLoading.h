@@ -1,19 +1,17 @@
-// The steps of loading a cursor that need no screen. The command and the command line tool share them.
+// The steps of loading a cursor that need no screen. The command and gpicon share them.
 #pragma once
 
 #include "document/IconContainerRec.h"
 #include "files/cursor/CursorProbe.h"
 #include "files/format/IconDecoder.h"
 
-#include <cstdint>
-#include <span>
 #include <string>
 
 namespace gp {
 
-// Decodes the first picture of a cursor file. The bitmap header decides how the bytes are read.
-[[nodiscard]] DecodedIcon loadCursorImage(std::span<const std::uint8_t> file);
-// The record of a cursor that was decoded.
+// Decodes the first image of a cursor file. The bitmap header decides how the bytes are read.
+[[nodiscard]] DecodedIcon loadCursorImage(const IconFile& file);
+// The record of a decoded cursor.
 IconContainerRec recordOfLoadedCursor(const CursorFacts& facts, const IconImage& icon, const std::string& path);
 
 }  // namespace gp

@@ -1,8 +1,6 @@
 #include "files/cursor/CursorProbe.h"
 
-#include "files/format/IcoDirectory.h"
 #include "files/format/IcoLayout.h"
-#include "files/format/IconFileBytes.h"
 
 namespace gp {
 namespace {
@@ -15,20 +13,18 @@ bool isEditable(const IconEntry& entry) {
 }  // namespace
 
 std::string CursorFacts::joined() const {
-  return valid ? "1/" + std::to_string(colors) + "/" + std::to_string(bits) : "0/0/0";
+  return valid ? "1/" + std::to_string(depth.colors) + "/" + std::to_string(depth.bits) : "0/0/0";
 }
 
-CursorFacts probeCursor(std::span<const std::uint8_t> file) {
-  const IconDirectory directory = parseIconDirectory(file);
-  const IconEntry entry = directory.entry(0);
-  if (!directory.isCursor() || !isEditable(entry)) return {};
-  const int bits = headerBitCount(file, entry);
-  return {true, ColorsForBitCount(bits), bits, entry.hotspotX(), entry.hotspotY()};
+CursorFacts probeCursor(const IconFile& file) {
+  const IconEntry entry = file.entry(0);
+  if (!file.isCursor() || !isEditable(entry)) return {};
+  return {true, depthOfBits(headerBitCount(file, entry)), entry.hotspotX(), entry.hotspotY()};
 }
 
 CursorFacts ProbeCursorFile(const std::string& path) {
-  const auto bytes = readIconFile(path);
-  return bytes ? probeCursor(bytes->span()) : CursorFacts{};
+  const auto file = readIconFile(path);
+  return file ? probeCursor(*file) : CursorFacts{};
 }
 
 }  // namespace gp

@@ -1,9 +1,9 @@
-// What a cursor file holds, as far as the editor takes cursors: one picture of 32x32 at offset 22 with a hot spot
-// inside. Refuses nothing; a file that is no such cursor is an answer too.
+// Describes a cursor file. The editor supports one image of 32x32 at offset 22 with a hot spot inside. Accepts any
+// file; one that is not such a cursor is not valid.
 #pragma once
 
-#include <cstdint>
-#include <span>
+#include "files/format/IconFile.h"
+
 #include <string>
 
 namespace gp {
@@ -12,17 +12,16 @@ inline constexpr int kCursorSide = 32;  // pixels; a hot spot lies in 0 to 31
 
 struct CursorFacts {
   bool valid = false;
-  int colors = 0;  // by the bitmap header alone, -1 for true colour
-  int bits = 0;    // biBitCount
+  ColorDepth depth;  // by the bitmap header alone
   int hotspotX = 0;
   int hotspotY = 0;
 
-  // "1/", colours, "/", bits; "0/0/0" for what is no cursor.
+  // "1/", colours, "/", bits; "0/0/0" if not valid.
   std::string joined() const;
 };
 
-CursorFacts probeCursor(std::span<const std::uint8_t> file);
-// The same for a file; one that cannot be read counts as no cursor.
+CursorFacts probeCursor(const IconFile& file);
+// The same for a file on disk. One that cannot be read is not valid.
 CursorFacts ProbeCursorFile(const std::string& path);
 
 }  // namespace gp

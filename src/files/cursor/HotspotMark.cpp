@@ -29,7 +29,7 @@ void HotspotMark::FlashHotspot(int x, int y) {
   if (state_.current().present) editingArea_.showChangedIcon();
 }
 
-// The icon is true again before anybody else comes to see it: PicIcon and what clearing would bring back, too.
+// Restores the icon before any other code can read it, including PicIcon, from which the Editing Area is restored.
 void HotspotMark::showMark(int x, int y, Color color) {
   const Color image = state_.picImage.GetPixel(x, y);
   const Color mask = state_.picMask.GetPixel(x, y);

@@ -1,6 +1,6 @@
-// The mark that shows a cursor's hot spot: its pixel blinks red and white on the Editing Area. The icon's own pixels
-// hold the mark only while it is drawn, never while messages are pumped, so that nothing a user does meanwhile can see
-// or save it. One mark blinks at a time; another is ignored.
+// Marks a cursor's hot spot: its pixel blinks red and white on the Editing Area. The icon contains the mark only while
+// it is drawn, never while messages are pumped, so that no command can read or save it. Only one mark blinks at a time;
+// further calls are ignored.
 #pragma once
 
 #include "document/Context.h"
@@ -14,10 +14,10 @@ class HotspotMark {
  public:
   HotspotMark(const Context& context, EditingArea& editingArea);
 
-  // Blinks three times, 900 ms in all. It ends early when another icon comes up, and after cancel().
+  // Blinks three times, for 900 ms in total. Ends early when another icon arrives, and after cancel().
   void FlashHotspot(int x, int y);
   bool isFlashing() const { return mHotspotFlashing_; }
-  // The program closes, or what is shown is gone.
+  // Ends the blinking, because the program closes or the icon is no longer shown.
   void cancel() { cancelled_ = true; }
 
  private:

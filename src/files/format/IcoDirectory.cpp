@@ -1,6 +1,5 @@
 #include "files/format/IcoDirectory.h"
 
-#include "document/IconContainerRec.h"
 #include "files/format/IcoLayout.h"
 #include "platform/files/ByteReader.h"
 
@@ -8,9 +7,6 @@
 
 namespace gp {
 namespace {
-
-constexpr int kMonoColors = 2;
-constexpr int kStandardColors = 16;
 
 IconEntry parseEntry(ByteReader& reader, std::size_t at) {
   IconEntry entry;
@@ -25,7 +21,7 @@ IconEntry parseEntry(ByteReader& reader, std::size_t at) {
   return entry;
 }
 
-// How many entries the file holds bytes of, at most `count`.
+// The number of entries of which the file holds at least one byte; at most `count`.
 std::size_t entriesPresent(std::size_t fileSize, std::size_t count) {
   if (fileSize <= ico::kDirSize) return 0;
   const std::size_t room = fileSize - ico::kDirSize;
@@ -33,14 +29,13 @@ std::size_t entriesPresent(std::size_t fileSize, std::size_t count) {
 }
 
 int standardColorCount(int colorCount) {
-  if (colorCount == kMonoColors || colorCount == kStandardColors) return colorCount;
-  return colorCount > kMonoColors ? kStandardColors : kMonoColors;
+  return colorCount > kMonoDepth.colors ? kStandardDepth.colors : kMonoDepth.colors;
 }
 
-// The colours when the entry gives no count.
+// The number of colours of an entry without a colour count.
 int colorsForBits(int bitCount) {
-  if (bitCount == 0) return ico::kMaxPaletteColors;
-  return bitCount > 8 ? kTrueColor : 1 << bitCount;
+  if (bitCount == 0) return kPaletteDepth.colors;
+  return bitCount > kPaletteDepth.bits ? kTrueColor : 1 << bitCount;
 }
 
 }  // namespace
@@ -66,15 +61,6 @@ IconDirectory parseIconDirectory(std::span<const std::uint8_t> file) {
   return directory;
 }
 
-int headerBitCount(std::span<const std::uint8_t> file, const IconEntry& entry) {
-  return ByteReader(file).u16At(ByteReader::Position{entry.imageOffset} + ico::kHeaderBitCount);
-}
-
-bool isPngImage(std::span<const std::uint8_t> file, const IconEntry& entry) {
-  const auto start = ByteReader(file).bytesAt(entry.imageOffset, ico::kPngSignature.size());
-  return std::ranges::equal(start, ico::kPngSignature);
-}
-
 int ColorsForEntry(const IconEntry& entry, int bitCount) {
   return entry.colorCount != 0 ? standardColorCount(entry.colorCount) : colorsForBits(bitCount);
 }
@@ -83,17 +69,8 @@ int RawColorsForEntry(const IconEntry& entry, int bitCount) {
   return entry.colorCount != 0 ? entry.colorCount : colorsForBits(bitCount);
 }
 
-int ColorsForBitCount(int bitCount) {
-  switch (bitCount) {
-    case 1:
-      return kMonoColors;
-    case 4:
-      return kStandardColors;
-    case 8:
-      return ico::kMaxPaletteColors;
-    default:
-      return kTrueColor;
-  }
-}
+ColorDepth depthOfEntry(const IconEntry& entry) { return depthOfEntry(entry, entry.bitCount); }
+
+ColorDepth depthOfEntry(const IconEntry& entry, int bitCount) { return {ColorsForEntry(entry, bitCount), bitCount}; }
 
 }  // namespace gp

@@ -1,7 +1,8 @@
-// The directory of an icon file, taken out of its bytes, and the rules by which its entries tell colours. It owns
-// nothing of the file. Entries that the file is too short to hold are not there: a count is believed only as far as
-// the bytes go. Values are kept as the file tells them; whether they make sense is the callers' question.
+// Parses the directory of an icon file and interprets the colour counts of its entries. Contains only entries that the
+// file is long enough to hold, whatever its count states. Values are kept as stored; callers validate them.
 #pragma once
+
+#include "document/ColorDepth.h"
 
 #include <cstdint>
 #include <span>
@@ -13,7 +14,7 @@ namespace gp {
 struct IconEntry {
   int width = 0;
   int height = 0;
-  int colorCount = 0;  // 0: none given
+  int colorCount = 0;  // 0: not stated
   int bitCount = 0;    // 0 in old icons
   std::uint32_t bytesInRes = 0;
   std::uint32_t imageOffset = 0;
@@ -22,7 +23,7 @@ struct IconEntry {
 
   bool operator==(const IconEntry&) const = default;
 
-  // What planes and bit count mean in a cursor file.
+  // The meaning of planes and bit count in a cursor file.
   int hotspotX() const { return planes; }
   int hotspotY() const { return bitCount; }
 };
@@ -30,28 +31,27 @@ struct IconEntry {
 struct IconDirectory {
   int reserved = 0;
   int type = 0;
-  int count = 0;                   // as the file tells it, 0 to 65535
-  std::vector<IconEntry> entries;  // those that the file holds, the last one perhaps in part, rest zero
+  int count = 0;                   // as the file states it, 0 to 65535
+  std::vector<IconEntry> entries;  // those that the file holds; missing bytes of the last one are zero
 
-  // True for an icon or cursor file with at least one entry told.
+  // True for an icon or cursor file that states at least one entry.
   bool isIcon() const;
   bool isCursor() const;
-  // The entry, all zeros beyond what the file holds.
+  // The number of entries that the file holds, at least in part; `count` may be larger.
+  int presentCount() const { return static_cast<int>(entries.size()); }
+  // The entry at `index`; all zeros beyond what the file holds.
   IconEntry entry(int index) const;
 };
 
 IconDirectory parseIconDirectory(std::span<const std::uint8_t> file);
-// biBitCount of the bitmap header of an entry's image; 0 where the file does not reach.
-int headerBitCount(std::span<const std::uint8_t> file, const IconEntry& entry);
-// True when the entry's image is a PNG picture.
-bool isPngImage(std::span<const std::uint8_t> file, const IconEntry& entry);
 
-// The number of colours an entry has, given a bit count (its own or the bitmap header's): -1 for true colour. A colour
-// count in the entry comes first and counts as 2 or 16, whatever it is.
+// The number of colours of an entry for a bit count (its own or the bitmap header's); -1 for true colour. A colour
+// count in the entry has priority and is rounded to 2 or 16.
 int ColorsForEntry(const IconEntry& entry, int bitCount);
-// The same with the entry's colour count as it stands.
+// The same with the entry's colour count as stored.
 int RawColorsForEntry(const IconEntry& entry, int bitCount);
-// 2, 16, 256 for 1, 4, 8 bits and -1 for others.
-int ColorsForBitCount(int bitCount);
+// The depth of an entry by its own bit count, or by another one.
+ColorDepth depthOfEntry(const IconEntry& entry);
+ColorDepth depthOfEntry(const IconEntry& entry, int bitCount);
 
 }  // namespace gp

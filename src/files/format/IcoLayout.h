@@ -1,7 +1,8 @@
-// The layout of icon files: every offset, size and stride stands here, once, for readers and writers alike. A file is
-// one ICONDIR, its entries, and the images wherever the entries say. All numbers are little-endian.
+// The layout of icon files: every offset, size and stride, for readers and writers. A file is one ICONDIR, its entries,
+// and the images at the offsets that the entries state. All numbers are little-endian.
 #pragma once
 
+#include "document/ColorDepth.h"
 #include "platform/files/BitmapLayout.h"
 
 #include <algorithm>
@@ -18,7 +19,7 @@ inline constexpr std::size_t kDirCount = 4;
 inline constexpr int kTypeIcon = 1;
 inline constexpr int kTypeCursor = 2;
 
-// ICONDIRENTRY, from the start of the entry. In a cursor file planes and bit count are the hot spot's x and y.
+// ICONDIRENTRY, from the start of the entry. In a cursor file, planes and bit count are the hot spot's x and y.
 inline constexpr std::size_t kEntrySize = 16;
 inline constexpr std::size_t kEntryWidth = 0;
 inline constexpr std::size_t kEntryHeight = 1;
@@ -29,36 +30,36 @@ inline constexpr std::size_t kEntryBitCount = 6;
 inline constexpr std::size_t kEntryBytesInRes = 8;
 inline constexpr std::size_t kEntryImageOffset = 12;
 
-// Where the image of a file with one entry stands.
+// The offset of the image in a file with one entry.
 inline constexpr std::uint32_t kSingleImageOffset = kDirSize + kEntrySize;
 
 inline constexpr std::size_t kMaxEntries = 0xFFFF;
 inline constexpr std::size_t kMaxDirectorySize = kDirSize + kMaxEntries * kEntrySize;
 
-// BITMAPINFOHEADER, from the start of the image. Whatever its first field says, the palette follows after 40 bytes.
+// BITMAPINFOHEADER, from the start of the image. The palette follows after 40 bytes, whatever the first field states.
 inline constexpr std::size_t kBitmapHeaderSize = dib::kHeaderSize;
 using dib::kHeaderBitCount;
 
 inline constexpr std::size_t kPaletteEntrySize = 4;
-inline constexpr int kMaxPaletteColors = 256;
+inline constexpr int kMaxPaletteColors = kPaletteDepth.colors;
 inline constexpr int kMaxEntrySide = 255;
 
-// A PNG picture in the place of a bitmap begins with these bytes.
+// The first bytes of a PNG picture, which may take the place of a bitmap.
 inline constexpr std::array<std::uint8_t, 8> kPngSignature{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
 
 using dib::aligned;
 using dib::rowBytes;
 using dib::rowStride;
 
-// A row of true colour as the reader takes it: padded by as many bytes as the width in pixels lacks to a multiple of
-// 4. That equals rowStride for all icon sizes, and is kept for others.
+// The stride of a true colour row for the reader. The padding is what the width in pixels lacks to a multiple of 4. It
+// equals rowStride for all icon sizes.
 constexpr std::size_t trueRowStride(int width, int bits) {
   return rowBytes(width, bits) + (aligned(static_cast<std::size_t>(width)) - static_cast<std::size_t>(width));
 }
 
-// No image that a directory entry can describe reaches further behind its offset than this.
+// The largest distance from an image's offset that any entry can make a reader go.
 inline constexpr std::size_t kLargestImage =
     kBitmapHeaderSize + kMaxPaletteColors * kPaletteEntrySize +
-    kMaxEntrySide * (trueRowStride(kMaxEntrySide, 32) + rowStride(kMaxEntrySide, 1));
+    kMaxEntrySide * (trueRowStride(kMaxEntrySide, kBitsWithAlpha) + rowStride(kMaxEntrySide, 1));
 
 }  // namespace gp::ico

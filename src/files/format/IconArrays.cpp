@@ -4,21 +4,33 @@
 #include "platform/files/ByteReader.h"
 #include "platform/files/ByteWriter.h"
 
+#include <utility>
+
 namespace gp {
 namespace {
 
-bool isHeld(const IconDirectory& directory, std::size_t fileSize) {
-  const auto count = static_cast<std::size_t>(directory.count);
-  return directory.isIcon() && fileSize >= ico::kDirSize + count * ico::kEntrySize;
+bool holdsDirectory(const IconFile& file) {
+  return file.span().size() >= ico::kDirSize + static_cast<std::size_t>(file.directory.count) * ico::kEntrySize;
 }
 
-bool takeImages(const IconDirectory& directory, IconArrays& arrays) {
+bool takeImages(IconArrays& arrays) {
   ByteReader reader(arrays.file.span());
-  for (const IconEntry& entry : directory.entries) {
+  for (const IconEntry& entry : arrays.entries) {
     if (!reader.contains(entry.imageOffset, entry.bytesInRes)) return false;
     arrays.images.push_back(reader.bytesAt(entry.imageOffset, entry.bytesInRes));
   }
   return true;
+}
+
+ArraysDefect takeFile(IconFile file, ReservedField rule, IconArrays& arrays) {
+  const bool reservedFits = rule == ReservedField::Any || file.directory.reserved == 0;
+  if (!reservedFits || !file.isIcon()) return ArraysDefect::NoIcons;
+  if (!holdsDirectory(file)) return ArraysDefect::CutShort;
+  arrays.file = std::move(file);
+  arrays.reserved = arrays.file.directory.reserved;
+  arrays.type = arrays.file.directory.type;
+  arrays.entries = arrays.file.directory.entries;
+  return takeImages(arrays) ? ArraysDefect::None : ArraysDefect::CutShort;
 }
 
 std::size_t directorySize(const IconArrays& arrays) { return ico::kDirSize + arrays.entries.size() * ico::kEntrySize; }
@@ -45,24 +57,16 @@ std::vector<std::uint8_t> directoryBytes(const IconArrays& arrays) {
 
 }  // namespace
 
-ArraysDefect parseIconArrays(FileBytes bytes, ReservedField rule, IconArrays& arrays) {
+ArraysDefect takeIconArrays(IconFile file, ReservedField rule, IconArrays& arrays) {
   arrays = {};
-  arrays.file = std::move(bytes);
-  const IconDirectory directory = parseIconDirectory(arrays.file.span());
-  const bool reservedFits = rule == ReservedField::Any || directory.reserved == 0;
-  if (!reservedFits || !isHeld(directory, arrays.file.span().size()) || !takeImages(directory, arrays)) {
-    arrays = {};
-    return ArraysDefect::NoIcons;
-  }
-  arrays.reserved = directory.reserved;
-  arrays.type = directory.type;
-  arrays.entries = directory.entries;
-  return ArraysDefect::None;
+  const ArraysDefect defect = takeFile(std::move(file), rule, arrays);
+  if (defect != ArraysDefect::None) arrays = {};
+  return defect;
 }
 
 ArraysDefect readIconArrays(const std::string& path, ReservedField rule, IconArrays& arrays) {
-  auto bytes = readFile(path);
-  if (bytes) return parseIconArrays(std::move(*bytes), rule, arrays);
+  auto file = readWholeIconFile(path);
+  if (file) return takeIconArrays(std::move(*file), rule, arrays);
   arrays = {};
   return ArraysDefect::NotReadable;
 }

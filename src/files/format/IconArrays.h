@@ -1,10 +1,9 @@
-// A file of icons as its updates see it: the directory, and each image as opaque bytes. It owns the bytes of the file;
-// the images are views into them, so that even entries which share bytes cost no more memory than the file has. A file
-// that does not hold all that its directory promises is refused.
+// An icon file for updates: the directory, and each image as uninterpreted bytes. It owns the bytes of the file; the
+// images are views of them, so that entries that share bytes take no additional memory. A file that does not contain
+// all that its directory states is refused.
 #pragma once
 
-#include "files/format/IcoDirectory.h"
-#include "platform/files/Files.h"
+#include "files/format/IconFile.h"
 
 #include <cstdint>
 #include <deque>
@@ -17,31 +16,35 @@ namespace gp {
 using ImageBytes = std::span<const std::uint8_t>;
 
 struct IconArrays {
-  FileBytes file;
+  IconFile file;  // as it was read
   int reserved = 0;
   int type = 0;
   std::vector<IconEntry> entries;
   std::vector<ImageBytes> images;  // one for each entry, of its bytesInRes bytes
-  // Images that are not from the file. Their places never change.
+  // Images that are not from the file. A deque keeps their addresses valid.
   std::deque<std::vector<std::uint8_t>> added;
 
   int count() const { return static_cast<int>(entries.size()); }
 };
 
 enum class ReservedField { Any, MustBeZero };
-// NoIcons: not an icon file, without entries, or shorter than it says.
-enum class ArraysDefect { None, NotReadable, NoIcons };
+enum class ArraysDefect {
+  None,
+  NotReadable,
+  NoIcons,  // not an icon file, or without entries
+  CutShort  // the file ends before its directory, or before an image that the directory states
+};
 
 // Reads a file of the icon type. On a defect the arrays are empty.
 [[nodiscard]] ArraysDefect readIconArrays(const std::string& path, ReservedField rule, IconArrays& arrays);
-// The same for bytes that are there already.
-[[nodiscard]] ArraysDefect parseIconArrays(FileBytes bytes, ReservedField rule, IconArrays& arrays);
+// The same for a file that has been read completely.
+[[nodiscard]] ArraysDefect takeIconArrays(IconFile file, ReservedField rule, IconArrays& arrays);
 
-// Lays the images one behind the other after the directory, in its order, and sets each entry's offset so. In a file
-// that is laid out like this, offsets that need not change stay.
+// Places the images one after another behind the directory, in its order, and sets the offsets of the entries. Offsets
+// of a file with this layout do not change.
 void layOutImages(IconArrays& arrays);
-// Writes header, entries and images, laid out as above, over a file; `former` is what stands there now, empty if that
-// is not known or worth nothing. What did not work is as in rewriteFile.
+// Writes header, entries and images over a file, laid out as above. `former` is the current content of the file, or
+// empty if it is unknown or need not be restored. Returns what rewriteFile returns.
 [[nodiscard]] WriteOutcome writeWholeFile(IconArrays& arrays, const std::string& path,
                                           std::span<const std::uint8_t> former);
 

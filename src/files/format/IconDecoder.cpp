@@ -1,6 +1,5 @@
 #include "files/format/IconDecoder.h"
 
-#include "document/IconContainerRec.h"
 #include "files/format/IcoLayout.h"
 #include "platform/files/ByteReader.h"
 
@@ -16,15 +15,13 @@ namespace {
 constexpr std::uint32_t kOpaque = 255;
 constexpr int kBytesPerTrueColor24 = 3;
 constexpr int kBytesPerTrueColor32 = 4;
-constexpr int kTrueColorBits24 = 24;
-constexpr int kTrueColorBits32 = 32;
 
-// Blue, green, red as they stand in files.
+// A pixel stored as blue, green, red.
 std::uint32_t pixelAt(const std::uint8_t* bytes) {
   return static_cast<std::uint32_t>(bytes[2] | bytes[1] << 8 | bytes[0] << 16);
 }
 
-// One load instead of four, so that whole rows become vector code.
+// One load instead of four lets the compiler vectorize the row loops.
 std::uint32_t littleEndian32(const std::uint8_t* bytes) {
   std::uint32_t value;
   std::memcpy(&value, bytes, sizeof value);
@@ -33,7 +30,7 @@ std::uint32_t littleEndian32(const std::uint8_t* bytes) {
   return value;
 }
 
-// How the rows of an image lie in its bytes.
+// The layout of the rows in the bytes of an image.
 struct ImageFormat {
   int bits;                  // per pixel of the picture
   std::size_t paletteCount;  // 0 for true colour
@@ -47,17 +44,18 @@ struct ImageFormat {
 };
 
 ImageFormat formatOf(const IconEntry& entry, int width) {
-  const int colors = ColorsForEntry(entry, entry.bitCount);
+  const ColorDepth depth = depthOfEntry(entry);
   const std::size_t maskStride = ico::rowStride(width, 1);
-  if (colors < 1) {
-    const int bits = entry.bitCount == kTrueColorBits24 ? kTrueColorBits24 : kTrueColorBits32;
+  if (depth.isTrueColor()) {
+    const int bits = entry.bitCount == kBitsWithoutAlpha ? kBitsWithoutAlpha : kBitsWithAlpha;
     return {bits, 0, ico::trueRowStride(width, bits), maskStride};
   }
-  const int bits = colors == 2 ? 1 : colors == 16 ? 4 : 8;
-  return {bits, static_cast<std::size_t>(colors), ico::rowStride(width, bits), maskStride};
+  const int bits = convBPP_Upto24(depth.colors);
+  return {bits, static_cast<std::size_t>(depth.colors), ico::rowStride(width, bits), maskStride};
 }
 
-// `count` bytes of the file from a position on, with zeros for what it lacks: the row readers need no bounds checks.
+// `count` bytes of the file from a position on, with zeros beyond its end, so that the row readers need no bounds
+// checks.
 class PaddedBytes {
  public:
   PaddedBytes(std::span<const std::uint8_t> file, std::uint64_t at, std::size_t count) {
@@ -77,7 +75,7 @@ class PaddedBytes {
 
 using Palette = std::array<std::uint32_t, ico::kMaxPaletteColors>;
 
-// The pixels of each half byte of a picture of two colours: rows of bits are copied four pixels at a time.
+// The four pixels of each half byte of a picture of two colours, so that rows are copied four pixels at a time.
 constexpr int kPixelsPerHalf = 4;
 constexpr int kPixelsPerByte = 2 * kPixelsPerHalf;
 using MonoTable = std::array<std::uint32_t, 16 * kPixelsPerHalf>;
@@ -127,7 +125,7 @@ void read32BitRow(const std::uint8_t* row, const std::uint32_t*, std::uint32_t* 
   }
 }
 
-// An alpha of 0 leaves the pixel opaque here: fully transparent pixels are told by the Mask alone.
+// An alpha of 0 leaves the pixel opaque here, because the Mask alone marks fully transparent pixels.
 void readAlphaRow(const std::uint8_t* row, std::uint8_t* out, int count) {
   for (int x = 0; x < count; ++x) {
     const std::uint32_t alpha = littleEndian32(row + x * kBytesPerTrueColor32) >> 24;
@@ -135,11 +133,12 @@ void readAlphaRow(const std::uint8_t* row, std::uint8_t* out, int count) {
   }
 }
 
-// What the row reader of a format looks its pixels up in: the file's colours, for two of them a MonoTable.
+// The lookup table for the row reader of a format: the file's colours, or a MonoTable for two colours.
 Palette paletteFor(const std::uint8_t* bytes, const ImageFormat& format) {
   Palette palette;
-  read32BitRow(bytes, nullptr, palette.data(), static_cast<int>(format.paletteCount));  // entries look like pixels
-  if (format.bits == 1) std::ranges::copy(monoTable(palette[0], palette[1]), palette.begin());
+  // Palette entries have the layout of pixels.
+  read32BitRow(bytes, nullptr, palette.data(), static_cast<int>(format.paletteCount));
+  if (format.bits == kMonoDepth.bits) std::ranges::copy(monoTable(palette[0], palette[1]), palette.begin());
   return palette;
 }
 
@@ -147,20 +146,20 @@ using RowReader = void (*)(const std::uint8_t* row, const std::uint32_t* palette
 
 RowReader rowReaderFor(int bits) {
   switch (bits) {
-    case 1:
+    case kMonoDepth.bits:
       return readMonoRow;
-    case 4:
+    case kStandardDepth.bits:
       return read16ColorRow;
-    case 8:
+    case kPaletteDepth.bits:
       return read256ColorRow;
-    case kTrueColorBits24:
+    case kBitsWithoutAlpha:
       return read24BitRow;
     default:
       return read32BitRow;
   }
 }
 
-// Rows stand bottom row first.
+// The bottom row is stored first.
 Surface readRows(const std::uint8_t* rows, std::size_t stride, int width, int height, const std::uint32_t* palette,
                  RowReader readRow) {
   Surface surface(width, height);
@@ -174,17 +173,17 @@ Surface readRows(const std::uint8_t* rows, std::size_t stride, int width, int he
 AlphaMatrix readAlpha(const std::uint8_t* rows, const ImageFormat& format, int width, int height) {
   if (format.paletteCount != 0) return {};
   AlphaMatrix alpha(width, height, kOpaque);
-  if (format.bits != kTrueColorBits32) return alpha;
+  if (format.bits != kBitsWithAlpha) return alpha;
   for (int y = 0; y < height; ++y)
     readAlphaRow(rows + static_cast<std::size_t>(height - 1 - y) * format.imageStride, &alpha.at(0, y), width);
   return alpha;
 }
 
-bool hasRowFormat(int colors) { return colors < 1 || colors == 2 || colors == 16 || colors == ico::kMaxPaletteColors; }
+bool hasRowFormat(ColorDepth depth) { return depth.isTrueColor() || isPaletteSize(depth.colors); }
 
-IconDefect defectOfImage(std::span<const std::uint8_t> file, const IconEntry& entry) {
+IconDefect defectOfImage(const IconFile& file, const IconEntry& entry) {
   if (isPngImage(file, entry)) return IconDefect::PngImage;
-  return hasRowFormat(ColorsForEntry(entry, entry.bitCount)) ? IconDefect::None : IconDefect::StrangeDepth;
+  return hasRowFormat(depthOfEntry(entry)) ? IconDefect::None : IconDefect::StrangeDepth;
 }
 
 }  // namespace
@@ -211,12 +210,12 @@ const char* describe(IconDefect defect) {
   return "";
 }
 
-DecodedIcon decodeEntry(std::span<const std::uint8_t> file, const IconEntry& entry, int width, int height) {
+DecodedIcon decodeEntry(const IconFile& file, const IconEntry& entry, int width, int height) {
   if (width < 1 || height < 1) return {IconDefect::SizeNotOffered, {}};
   if (const IconDefect defect = defectOfImage(file, entry); defect != IconDefect::None) return {defect, {}};
 
   const ImageFormat format = formatOf(entry, width);
-  const PaddedBytes image(file, std::uint64_t{entry.imageOffset} + ico::kBitmapHeaderSize, format.size(height));
+  const PaddedBytes image(file.span(), std::uint64_t{entry.imageOffset} + ico::kBitmapHeaderSize, format.size(height));
   const Palette palette = paletteFor(image.data(), format);
   const std::uint8_t* const imageRows = image.data() + format.paletteBytes();
   const std::uint8_t* const maskRows = imageRows + static_cast<std::size_t>(height) * format.imageStride;
@@ -226,11 +225,9 @@ DecodedIcon decodeEntry(std::span<const std::uint8_t> file, const IconEntry& ent
            readAlpha(imageRows, format, width, height)}};
 }
 
-IconDefect defectOfEntry(std::span<const std::uint8_t> file, const IconEntry& entry) {
+IconDefect defectOfEntry(const IconFile& file, const IconEntry& entry) {
   if (const IconDefect defect = defectOfImage(file, entry); defect != IconDefect::None) return defect;
-  const bool shown = ColorsForEntry(entry, entry.bitCount) != kTrueColor || entry.bitCount == kTrueColorBits24 ||
-                     entry.bitCount == kTrueColorBits32;
-  return shown ? IconDefect::None : IconDefect::StrangeTrueColor;
+  return depthOfEntry(entry).isShown() ? IconDefect::None : IconDefect::StrangeTrueColor;
 }
 
 }  // namespace gp

@@ -1,11 +1,7 @@
 #include "files/format/IconProbe.h"
 
-#include "colour/ColorCount.h"
-#include "document/IconContainerRec.h"
+#include "document/IconSizes.h"
 #include "files/format/IconDecoder.h"
-#include "files/format/IconFileBytes.h"
-
-#include <array>
 
 namespace gp {
 namespace {
@@ -13,11 +9,10 @@ namespace {
 constexpr int kOneEntry = 1;
 constexpr int kSeveralEntries = 2;
 constexpr int kPreferredSize = 32;
-constexpr int kPreferredBits = 8;
 
 bool isSquareIcon(const IconEntry& entry) { return entry.width == entry.height && isIconSize(entry.width); }
 
-// The checks on the first entry, without which a file does not count as an icon.
+// Checks on the first entry. A file that fails them does not count as an icon.
 bool isSound(const IconEntry& first) {
   return first.width > 0 && first.height > 0 && first.bytesInRes > 0 && first.imageOffset > 0;
 }
@@ -28,31 +23,30 @@ IconFacts nothingUsable(int kind) {
   return facts;
 }
 
-IconFacts probeSingle(std::span<const std::uint8_t> file, const IconDirectory& directory) {
-  const IconEntry entry = directory.entry(0);
+IconFacts probeSingle(const IconFile& file) {
+  const IconEntry entry = file.entry(0);
   if (!isIconSize(entry.width) || !isIconSize(entry.height)) return nothingUsable(kOneEntry);
-  IconFacts facts = factsOfEntry(file, directory, 0);
+  IconFacts facts = factsOfEntry(file, 0);
   facts.usable = 1;
   return facts;
 }
 
-// The scan over several entries. It goes on behind a first 32x32 entry even if that one has 8 bits.
+// Scans a file with several entries. A first 32x32 entry does not end the scan, even if it has 8 bits.
 class EntryScan {
  public:
-  EntryScan(std::span<const std::uint8_t> file, const IconDirectory& directory, bool preferEightBit)
-      : file_(file), directory_(directory), preferEightBit_(preferEightBit) {}
+  EntryScan(const IconFile& file, bool preferEightBit) : file_(file), preferEightBit_(preferEightBit) {}
 
   IconFacts run() {
-    for (int i = 0; i < static_cast<int>(directory_.entries.size()) && !stopped_; ++i) consider(i);
+    for (int i = 0; i < file_.directory.presentCount() && !stopped_; ++i) consider(i);
     if (!met32_) return nothingUsable(kSeveralEntries);
-    IconFacts facts = factsOfEntry(file_, directory_, chosen_);
+    IconFacts facts = factsOfEntry(file_, chosen_);
     facts.usable = usable_;
     return facts;
   }
 
  private:
   void consider(int index) {
-    const IconEntry entry = directory_.entry(index);
+    const IconEntry entry = file_.entry(index);
     if (!isSquareIcon(entry)) return;
     ++usable_;
     if (entry.width != kPreferredSize) {
@@ -60,14 +54,13 @@ class EntryScan {
     } else if (!met32_) {
       met32_ = true;
       chosen_ = index;
-    } else if (headerBitCount(file_, entry) == kPreferredBits) {
+    } else if (headerBitCount(file_, entry) == kPaletteDepth.bits) {
       chosen_ = index;
       stopped_ = preferEightBit_;
     }
   }
 
-  std::span<const std::uint8_t> file_;
-  const IconDirectory& directory_;
+  const IconFile& file_;
   const bool preferEightBit_;
   int usable_ = 0;
   int chosen_ = 0;
@@ -75,47 +68,38 @@ class EntryScan {
   bool stopped_ = false;
 };
 
-bool isPaletteBitCount(int bits) { return bits == 1 || bits == 4 || bits == 8; }
-
 }  // namespace
-
-int IconFacts::bitCount() const {
-  return dirColors > 0 && !isPaletteBitCount(dirBits) ? convBPP_Upto24(dirColors) : dirBits;
-}
 
 std::string IconFacts::joined() const {
   std::string text = std::to_string(kind);
-  for (const int number : {usable, chosen, width, height, dirColors, dirBits, headerColors, headerBits})
+  for (const int number : {usable, chosen, width, height, directory.colors, directory.bits, header.colors, header.bits})
     text += "/" + std::to_string(number);
   return text;
 }
 
-IconFacts factsOfEntry(std::span<const std::uint8_t> file, const IconDirectory& directory, int index) {
-  const IconEntry entry = directory.entry(index);
+IconFacts factsOfEntry(const IconFile& file, int index) {
+  const IconEntry entry = file.entry(index);
   IconFacts facts;
-  facts.kind = directory.count > 1 ? kSeveralEntries : kOneEntry;
+  facts.kind = file.directory.count > 1 ? kSeveralEntries : kOneEntry;
   facts.chosen = index;
   facts.width = entry.width;
   facts.height = entry.height;
-  facts.dirBits = entry.bitCount;
-  facts.dirColors = ColorsForEntry(entry, facts.dirBits);
-  facts.headerBits = headerBitCount(file, entry);
-  facts.headerColors = ColorsForEntry(entry, facts.headerBits);
+  facts.directory = depthOfEntry(entry);
+  facts.header = depthOfEntry(entry, headerBitCount(file, entry));
   return facts;
 }
 
-IconFacts probeIcon(std::span<const std::uint8_t> file, bool preferEightBit) {
-  const IconDirectory directory = parseIconDirectory(file);
-  if (!directory.isIcon() || !isSound(directory.entry(0))) return {};
-  return directory.count == 1 ? probeSingle(file, directory) : EntryScan(file, directory, preferEightBit).run();
+IconFacts probeIcon(const IconFile& file, bool preferEightBit) {
+  if (!file.isIcon() || !isSound(file.entry(0))) return {};
+  return file.directory.count == 1 ? probeSingle(file) : EntryScan(file, preferEightBit).run();
 }
 
 IconFacts ProbeIconFile(const std::string& path, bool preferEightBit) {
-  const auto bytes = readIconFile(path);
-  return bytes ? probeIcon(bytes->span(), preferEightBit) : IconFacts{};
+  const auto file = readIconFile(path);
+  return file ? probeIcon(*file, preferEightBit) : IconFacts{};
 }
 
-bool isUsableEntry(std::span<const std::uint8_t> file, const IconEntry& entry) {
+bool isUsableEntry(const IconFile& file, const IconEntry& entry) {
   return isSquareIcon(entry) && defectOfEntry(file, entry) == IconDefect::None;
 }
 

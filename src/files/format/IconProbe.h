@@ -1,42 +1,39 @@
-// What a file holds, in nine numbers: the answer that decides whether and how it can be opened. Looks at the directory
-// and the bitmap headers only; refuses nothing, a file that is no icon is an answer too.
+// Describes an icon file by nine numbers, which decide whether and how it can be opened. Reads only the directory and
+// the bitmap headers. Accepts any file; one that is not an icon has kind 0.
 #pragma once
 
-#include "files/format/IcoDirectory.h"
+#include "files/format/IconFile.h"
 
-#include <cstdint>
-#include <span>
 #include <string>
 
 namespace gp {
 
 struct IconFacts {
   int kind = 0;    // 0 no icon file, 1 one entry, 2 several
-  int usable = 0;  // usable entries, as far as the scan went
-  int chosen = 0;  // chosen entry, from 0
+  int usable = 0;  // usable entries up to the end of the scan
+  int chosen = 0;  // index of the chosen entry
   int width = 0;
   int height = 0;
-  int dirColors = 0;     // by the directory's bit count, -1 for true colour
-  int dirBits = 0;       // the directory's bit count
-  int headerColors = 0;  // by the bitmap header's bit count
-  int headerBits = 0;    // the bitmap header's bit count
+  ColorDepth directory;  // by the directory's bit count
+  ColorDepth header;     // by the bitmap header's bit count
 
   bool canBeOpened() const { return kind != 0 && usable != 0; }
   bool hasSeveralEntries() const { return kind == 2; }
-  // The bit count the icon counts as: where the directory's is strange, the number of colours decides.
-  int bitCount() const;
+  // The depth that the icon is treated as.
+  ColorDepth depth() const { return corrected(directory); }
   // The nine numbers joined by "/".
   std::string joined() const;
 };
 
-// The numbers of one entry, whatever it is.
-IconFacts factsOfEntry(std::span<const std::uint8_t> file, const IconDirectory& directory, int index);
-// Chooses among several entries: the first of 32x32, or a later one of 8 bits, at which `preferEightBit` ends the scan.
-IconFacts probeIcon(std::span<const std::uint8_t> file, bool preferEightBit);
-// The same for a file; one that cannot be read counts as no icon file.
+// The numbers of one entry, usable or not.
+IconFacts factsOfEntry(const IconFile& file, int index);
+// Of several entries, chooses the first one of 32x32, or a later one of 8 bits; with `preferEightBit` that one ends the
+// scan.
+IconFacts probeIcon(const IconFile& file, bool preferEightBit);
+// The same for a file on disk. One that cannot be read counts as not an icon file.
 IconFacts ProbeIconFile(const std::string& path, bool preferEightBit);
 
-// True when the editor can show the entry: square, of an icon size, a bitmap, and of a depth that the reader knows.
-bool isUsableEntry(std::span<const std::uint8_t> file, const IconEntry& entry);
+// True when the editor can show the entry: a square bitmap of an icon size and of a supported depth.
+bool isUsableEntry(const IconFile& file, const IconEntry& entry);
 
 }  // namespace gp

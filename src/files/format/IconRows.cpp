@@ -33,7 +33,7 @@ void writeBgr(std::uint32_t pixel, ByteWriter& out) {
   out.bytes(std::span(entry).first(3));
 }
 
-// Eight pixels or what is left of the row; pixels that are not there count as white.
+// Eight pixels, or the rest of the row; missing pixels count as white.
 std::uint8_t maskByte(std::span<const std::uint32_t> pixels) {
   unsigned bits = 0;
   for (std::size_t i = 0; i < kBitsPerByte; ++i)
@@ -47,7 +47,7 @@ void writeMaskRow(std::span<const std::uint32_t> row, ByteWriter& out) {
   padRow(bytes, out);
 }
 
-// Finds places in mPal16; remembers the last one, which colours without a place take.
+// Finds indices in mPal16. Colours that are not in it get the previous index.
 class Index16 {
  public:
   unsigned of(std::uint32_t pixel) {

@@ -1,5 +1,5 @@
-// The palettes and rows of icon images as they are written: bottom row first, left to right. Icon, cursor and
-// multi-icon files share them. Each writer appends to a ByteWriter and refuses nothing.
+// Writes palettes and rows of icon images: bottom row first, left to right. Icon, cursor and multi-icon files share
+// them. Each function appends to a ByteWriter and accepts any pixels.
 #pragma once
 
 #include "document/AlphaMatrix.h"
@@ -18,34 +18,35 @@ using PaletteEntry = std::array<std::uint8_t, 4>;  // blue, green, red, 0
 extern const std::array<PaletteEntry, 2> mPalMono;
 extern const std::array<PaletteEntry, 16> mPal16;
 
-// The colours of a picture in the order in which they take their places, behind black and white.
+// The colours of a picture in the order of their palette indices, which begins with black and white.
 class Pal256 {
  public:
   Pal256();
-  // False when there is no place left.
+  // False when the palette is full.
   bool add(std::uint32_t color);
-  // The place of a colour; 0 for one that is not listed.
+  // The index of a colour; 0 for one that is not in the palette.
   std::uint8_t indexOf(std::uint32_t color) const;
-  // All 256 entries; those behind the colours are zero.
+  // Writes 256 entries; unused ones are zero.
   void write(ByteWriter& out) const;
 
  private:
   std::vector<std::uint32_t> colors_;
 };
 
-// The palette of a picture, scanned row by row from the top left. Nothing when it has too many colours for one.
+// The palette of a picture, which is scanned row by row from the top left. Empty when it has too many colours.
 std::optional<Pal256> BuildPal256(const Surface& surface);
 
 void writePalette(std::span<const PaletteEntry> palette, ByteWriter& out);
 
-// One bit a pixel: 1 for white, 0 for any other colour. Unfinished bytes end with 1 bits, rows with zero bytes.
+// One bit per pixel: 1 for white, 0 for any other colour. Incomplete bytes are filled with 1 bits, rows with zero
+// bytes.
 void WriteMaskRows(const Surface& surface, ByteWriter& out);
-// Half a byte a pixel, its place in mPal16. A colour that is not there repeats the index before it.
+// Half a byte per pixel, the index in mPal16. A colour that is not in it repeats the previous index.
 void WriteRows16(const Surface& surface, ByteWriter& out);
-// One byte a pixel.
+// One byte per pixel.
 void WriteRows256(const Surface& surface, const Pal256& palette, ByteWriter& out);
-// Blue, green, red; with alpha a fourth byte, 0 where the Mask is not black. Rows are not padded. The alpha matrix must
-// have the Surface's size.
+// Blue, green, red; with alpha a fourth byte, which is 0 where the Mask is not black. Rows are not padded. The alpha
+// matrix must have the Surface's size.
 void WriteRowsTrue(const Surface& surface, const Surface& maskSurface, const AlphaMatrix* alpha, ByteWriter& out);
 
 }  // namespace gp

@@ -1,6 +1,7 @@
 #include "files/format/IconSalvage.h"
 
 #include "files/format/IcoLayout.h"
+#include "files/format/IconFile.h"
 #include "platform/files/ByteReader.h"
 #include "platform/text/Numbers.h"
 
@@ -11,26 +12,21 @@ namespace gp {
 namespace {
 
 constexpr int kLargestSide = 128;
-// A height is told in one byte, which images of 128 pixels and more would overflow with their Mask.
+// A height is stored in one byte, which images of 128 pixels and more overflow, because it includes the Mask.
 constexpr int kLeastWholeHeight = 256;
 constexpr int kMostWholeHeight = 2 * ico::kMaxEntrySide;
 constexpr std::int64_t kLowByte = 0xFF;
 
-// A height below zero means that the top row comes first, and counts the same rows.
+// A negative height means that the top row comes first; the number of rows is the same.
 int halfOf(std::int32_t height) {
   const std::int64_t rows = std::abs(std::int64_t{height});
   const bool isWhole = rows >= kLeastWholeHeight && rows <= kMostWholeHeight;
   return roundToInteger(static_cast<int>(isWhole ? rows : rows & kLowByte) / 2.0);
 }
 
-bool isPngPicture(ImageBytes image) {
-  return image.size() >= ico::kPngSignature.size() &&
-         std::ranges::equal(image.first(ico::kPngSignature.size()), ico::kPngSignature);
-}
-
 }  // namespace
 
-bool hasBitmapHeader(ImageBytes image) { return image.size() > dib::kHeaderBitCount && !isPngPicture(image); }
+bool hasBitmapHeader(ImageBytes image) { return image.size() > dib::kHeaderBitCount && !isPngImage(image); }
 
 HeaderFacts headerFactsOf(ImageBytes image) {
   if (!hasBitmapHeader(image)) return {};

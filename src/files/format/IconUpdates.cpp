@@ -1,6 +1,5 @@
 #include "files/format/IconUpdates.h"
 
-#include "colour/ColorCount.h"
 #include "files/format/IconWriter.h"
 
 #include <utility>
@@ -21,20 +20,11 @@ void setImage(IconArrays& arrays, int index, NewImage image) {
 
 }  // namespace
 
-IconTraits traitsToWrite(const EditState& state) {
-  const int colors = colorsToWrite(state.picImage, state.current().dirColors);
-  const bool hasAlpha = colors == kTrueColor && isWrittenWithAlpha(state.current());
-  return {state.picImage.width(), state.picImage.height(), colors, hasAlpha ? kBitsWithAlpha : convBPP_Upto24(colors)};
+IconTraits traitsToWrite(const IconImage& icon, const IconContainerRec& record) {
+  return {icon.width(), icon.height(), depthToWrite(icon, record)};
 }
 
-IconTraits traitsOfEntry(const IconEntry& entry) {
-  return {entry.width, entry.height, ColorsForEntry(entry, entry.bitCount), entry.bitCount};
-}
-
-std::string colorText(const IconTraits& traits) {
-  if (traits.colors > 0) return std::to_string(traits.colors) + "-color";
-  return "True Color " + std::to_string(traits.bits) + " BPP";
-}
+IconTraits traitsOfEntry(const IconEntry& entry) { return {entry.width, entry.height, depthOfEntry(entry)}; }
 
 int findSameIcon(const IconArrays& arrays, const IconTraits& traits, int except) {
   for (int i = 0; i < arrays.count(); ++i)
@@ -44,7 +34,8 @@ int findSameIcon(const IconArrays& arrays, const IconTraits& traits, int except)
 
 std::optional<NewImage> imageOfSingleIcon(FileBytes file) {
   IconArrays arrays;
-  if (parseIconArrays(std::move(file), ReservedField::MustBeZero, arrays) != ArraysDefect::None) return std::nullopt;
+  if (takeIconArrays(parseIconFile(std::move(file)), ReservedField::MustBeZero, arrays) != ArraysDefect::None)
+    return std::nullopt;
   if (arrays.count() != 1) return std::nullopt;
   const ImageBytes image = arrays.images.front();
   return NewImage{arrays.entries.front(), {image.begin(), image.end()}};

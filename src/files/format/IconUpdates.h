@@ -1,10 +1,13 @@
-// The surgery on a file of icons: one image replaced, put in, taken out, or all put in another order. It changes the
-// arrays only; images stay opaque bytes. Nothing is asked or told here. Indices count from 0 and must be valid.
+// Changes a file of icons: replaces, inserts or removes one image, or reorders all. Works on the arrays in memory and
+// does not interpret the images. Indices count from 0 and must be valid.
 #pragma once
 
-#include "document/EditState.h"
+#include "document/ColorDepth.h"
+#include "document/IconContainerRec.h"
+#include "document/IconImage.h"
 #include "files/format/IconArrays.h"
 
+#include <compare>
 #include <optional>
 #include <span>
 #include <string>
@@ -12,39 +15,35 @@
 
 namespace gp {
 
-// What two icons of one file must not have in common.
+// Properties that no two icons of one file may share.
 struct IconTraits {
   int width = 0;
   int height = 0;
-  int colors = 0;  // 2, 16, 256, -1 for true colour
-  int bits = 0;
-  bool operator==(const IconTraits&) const = default;
+  ColorDepth depth;
+  auto operator<=>(const IconTraits&) const = default;
 };
 
-// Of the Current Icon, as it will be written: a picture that lost colours counts by those it has left, one that has
-// more than a palette holds counts as true colour.
-IconTraits traitsToWrite(const EditState& state);
-// Of an entry, by the directory.
+// The traits of an icon as depthToWrite writes it.
+IconTraits traitsToWrite(const IconImage& icon, const IconContainerRec& record);
+// The traits of an entry as the directory states them.
 IconTraits traitsOfEntry(const IconEntry& entry);
-// "16-color", or "True Color 32 BPP".
-std::string colorText(const IconTraits& traits);
-// The first entry of these traits, passing over index `except` (-1 for none); -1 when there is none.
+// The index of the first entry with these traits other than `except` (-1 for none); -1 when there is none.
 int findSameIcon(const IconArrays& arrays, const IconTraits& traits, int except);
 
-// An image to go in: its bytes, and an entry that tells the truth about them.
+// An image to insert: its bytes, and an entry that describes them correctly.
 struct NewImage {
   IconEntry entry;
   std::vector<std::uint8_t> bytes;
 };
-// The only image of a single-icon file; nothing when it is none.
+// The image of a file with a single icon; empty for any other file.
 std::optional<NewImage> imageOfSingleIcon(FileBytes file);
 
-// The entry takes size, colours, bits and byte count of the new image, and keeps what else it told.
+// Size, colours, bits and byte count of the entry become those of the new image; its other fields are not changed.
 void replaceImage(IconArrays& arrays, int index, NewImage image);
-// The new image gets the index; 0 to count().
+// The new image gets the index, which is 0 to count().
 void insertImage(IconArrays& arrays, int index, NewImage image);
 void removeImage(IconArrays& arrays, int index);
-// `order` holds every index once: where the image at each new place stood before.
+// `order` contains every index once: the former place of the image at each new place.
 void reorderImages(IconArrays& arrays, std::span<const int> order);
 
 }  // namespace gp

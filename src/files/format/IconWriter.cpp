@@ -1,7 +1,6 @@
 #include "files/format/IconWriter.h"
 
 #include "colour/ColorCount.h"
-#include "document/IconContainerRec.h"
 #include "files/format/IcoLayout.h"
 #include "files/format/IconRows.h"
 #include "platform/files/ByteWriter.h"
@@ -10,19 +9,13 @@
 namespace gp {
 namespace {
 
-constexpr int kMono = 2;
-constexpr int kStandard = 16;
-constexpr int kPalette = 256;
 constexpr const char* kIcoLabel = "ICO file";
 
-int paletteColors(int colors) { return colors == kMono || colors == kStandard || colors == kPalette ? colors : 0; }
+// The number of palette entries, 0 for true colour.
+int paletteEntries(int colors) { return isPaletteSize(colors) ? colors : 0; }
 
-int bitsFor(int colors, bool withAlpha) {
-  return paletteColors(colors) == 0 && withAlpha ? kBitsWithAlpha : convBPP_Upto24(colors);
-}
-
-// What icon and cursor files tell in different ways: their type, two words of the entry, and the bits that the image's
-// byte count is worked out for.
+// The differences between icon and cursor files: the type, two words of the entry, and the bits that the image's byte
+// count is computed with.
 struct FileKind {
   int type;
   int planes;    // or the hot spot's x
@@ -36,14 +29,14 @@ void writeDirectory(int type, ByteWriter& out) {
   out.u16(1);
 }
 
-void writeEntry(const Surface& image, int colors, const FileKind& kind, ByteWriter& out) {
-  out.u8(static_cast<std::uint8_t>(image.width()));
-  out.u8(static_cast<std::uint8_t>(image.height()));
-  out.u8(static_cast<std::uint8_t>(colors == kMono || colors == kStandard ? colors : 0));
+void writeEntry(const IconImage& icon, int colors, const FileKind& kind, ByteWriter& out) {
+  out.u8(static_cast<std::uint8_t>(icon.width()));
+  out.u8(static_cast<std::uint8_t>(icon.height()));
+  out.u8(static_cast<std::uint8_t>(colors == kMonoDepth.colors || colors == kStandardDepth.colors ? colors : 0));
   out.u8(0);
   out.u16(static_cast<std::uint16_t>(kind.planes));
   out.u16(static_cast<std::uint16_t>(kind.bitCount));
-  out.u32(IconByteSize(colors, kind.sizeBits, image.width(), image.height()));
+  out.u32(IconByteSize(colors, kind.sizeBits, icon.width(), icon.height()));
   out.u32(ico::kSingleImageOffset);
 }
 
@@ -57,107 +50,79 @@ void writeBitmapHeader(int width, int height, int bits, ByteWriter& out) {
   out.zeros(start + ico::kBitmapHeaderSize - out.size());
 }
 
-void writePicture(const Surface& image, const Surface& mask, int colors, const AlphaMatrix* alpha, ByteWriter& out) {
-  if (colors == kMono) {
+void writePicture(const IconImage& icon, ColorDepth depth, ByteWriter& out) {
+  if (depth.colors == kMonoDepth.colors) {
     writePalette(mPalMono, out);
-    WriteMaskRows(image, out);
-  } else if (colors == kStandard) {
+    WriteMaskRows(icon.image, out);
+  } else if (depth.colors == kStandardDepth.colors) {
     writePalette(mPal16, out);
-    WriteRows16(image, out);
-  } else if (const auto palette = colors == kPalette ? BuildPal256(image) : std::nullopt) {
+    WriteRows16(icon.image, out);
+  } else if (const auto palette = depth.colors == kPaletteDepth.colors ? BuildPal256(icon.image) : std::nullopt) {
     palette->write(out);
-    WriteRows256(image, *palette, out);
+    WriteRows256(icon.image, *palette, out);
   } else {
-    WriteRowsTrue(image, mask, alpha, out);
+    WriteRowsTrue(icon.image, icon.mask, depth.hasAlpha() ? &icon.alpha : nullptr, out);
   }
 }
 
-std::vector<std::uint8_t> composeFile(const Surface& image, const Surface& mask, int colors, const AlphaMatrix* alpha,
-                                      const FileKind& kind) {
-  const int bits = bitsFor(colors, alpha != nullptr);
-  ByteWriter out(ico::kSingleImageOffset + IconByteSize(colors, bits, image.width(), image.height()));
+std::vector<std::uint8_t> composeFile(const IconImage& icon, ColorDepth depth, const FileKind& kind) {
+  ByteWriter out(ico::kSingleImageOffset + IconByteSize(depth.colors, depth.bits, icon.width(), icon.height()));
   writeDirectory(kind.type, out);
-  writeEntry(image, colors, kind, out);
-  writeBitmapHeader(image.width(), image.height(), bits, out);
-  writePicture(image, mask, colors, alpha, out);
-  WriteMaskRows(mask, out);
+  writeEntry(icon, depth.colors, kind, out);
+  writeBitmapHeader(icon.width(), icon.height(), depth.bits, out);
+  writePicture(icon, depth, out);
+  WriteMaskRows(icon.mask, out);
   return out.take();
 }
 
-bool hasSizeOf(const AlphaMatrix& alpha, const Surface& image) {
-  return alpha.width() == image.width() && alpha.height() == image.height();
-}
+bool hasAlphaToWrite(const IconImage& icon, ColorDepth depth) { return !depth.hasAlpha() || icon.hasAlphaValues(); }
 
-const AlphaMatrix& currentAlpha(const EditState& state) {
-  return state.mAlphaRecs.at(static_cast<std::size_t>(state.mCurContainer));
+int colorsToWrite(const Surface& image, const IconContainerRec& record) {
+  if (record.isTrueColor()) return kTrueColor;
+  int colors = 0;
+  GetColorBitCount_Image(image, colors);
+  return colors == kPaletteDepth.colors && !BuildPal256(image) ? kTrueColor : colors;
 }
 
 }  // namespace
 
 std::uint32_t IconByteSize(int colors, int bitCount, int width, int height) {
-  const int palette = paletteColors(colors);
-  const int bits = palette ? convBPP_Upto24(colors) : bitCount == kBitsWithAlpha ? kBitsWithAlpha : 24;
+  const int palette = paletteEntries(colors);
+  const int bits = palette == 0 && bitCount == kBitsWithAlpha ? kBitsWithAlpha : convBPP_Upto24(colors);
   const std::size_t header = ico::kBitmapHeaderSize + static_cast<std::size_t>(palette) * ico::kPaletteEntrySize;
   const std::size_t rows = ico::rowStride(width, bits) + ico::rowStride(width, 1);
   return static_cast<std::uint32_t>(header + rows * static_cast<std::size_t>(height));
 }
 
-int colorsToWrite(const Surface& image, int dirColors) {
-  if (dirColors == kTrueColor) return kTrueColor;
-  int colors = 0;
-  GetColorBitCount_Image(image, colors);
-  return colors == kPalette && !BuildPal256(image) ? kTrueColor : colors;
+ColorDepth depthToWrite(const IconImage& icon, const IconContainerRec& record) {
+  return depthOfColors(colorsToWrite(icon.image, record), record.hasAlpha && record.bitCount == kBitsWithAlpha);
 }
 
-std::vector<std::uint8_t> composeSingleIcon(const Surface& image, const Surface& mask, int colors,
-                                            const AlphaMatrix* alpha) {
-  const int bits = bitsFor(colors, alpha != nullptr);
-  return composeFile(image, mask, colors, alpha, {ico::kTypeIcon, 1, bits, bits});
+std::vector<std::uint8_t> composeSingleIcon(const IconImage& icon, ColorDepth depth) {
+  return composeFile(icon, depth, {ico::kTypeIcon, 1, depth.bits, depth.bits});
 }
 
-// The byte count is that of 24 bits whether there is alpha or not.
-std::vector<std::uint8_t> composeCursor(const Surface& image, const Surface& mask, int colors, const AlphaMatrix* alpha,
-                                        int hotspotX, int hotspotY) {
-  return composeFile(image, mask, colors, alpha, {ico::kTypeCursor, hotspotX, hotspotY, 0});
+// The byte count is computed for 24 bits even with an alpha channel. Intended.
+std::vector<std::uint8_t> composeCursor(const IconImage& icon, ColorDepth depth, int hotspotX, int hotspotY) {
+  return composeFile(icon, depth, {ico::kTypeCursor, hotspotX, hotspotY, kBitsWithoutAlpha});
 }
 
-void WriteSingleIconFile(const EditState& state, const Surface& imageSurface, const Surface& maskSurface,
-                         const std::string& path, bool withAlpha, bool& ok) {
-  const AlphaMatrix& alpha = currentAlpha(state);
-  ok = false;
-  if (withAlpha && !hasSizeOf(alpha, imageSurface)) return;
-  const int colors = colorsToWrite(imageSurface, state.current().dirColors);
-  ok = replaceFile(path, composeSingleIcon(imageSurface, maskSurface, colors, withAlpha ? &alpha : nullptr));
+void WriteSingleIconFile(const IconImage& icon, ColorDepth depth, const std::string& path, bool& ok) {
+  ok = hasAlphaToWrite(icon, depth) && replaceFile(path, composeSingleIcon(icon, depth));
 }
 
-bool isWrittenWithAlpha(const IconContainerRec& record) { return record.bitCount == kBitsWithAlpha && record.hasAlpha; }
-
-bool writeCurrentIcon(const EditState& state, const std::string& path) {
-  bool ok = false;
-  WriteSingleIconFile(state, state.picImage, state.picMask, path, isWrittenWithAlpha(state.current()), ok);
-  return ok;
+void WriteCursorFile(const IconImage& icon, ColorDepth depth, int hotspotX, int hotspotY, const std::string& path,
+                     bool& ok) {
+  ok = hasAlphaToWrite(icon, depth) && replaceFile(path, composeCursor(icon, depth, hotspotX, hotspotY));
 }
 
-bool writeCurrentCursor(const EditState& state, int hotspotX, int hotspotY, const std::string& path) {
-  const AlphaMatrix& alpha = currentAlpha(state);
-  const int colors = colorsToWrite(state.picImage, state.current().dirColors);
-  const bool withAlpha = state.current().hasAlpha && colors == kTrueColor;
-  if (withAlpha && !hasSizeOf(alpha, state.picImage)) return false;
-  return replaceFile(
-      path, composeCursor(state.picImage, state.picMask, colors, withAlpha ? &alpha : nullptr, hotspotX, hotspotY));
-}
-
-void describeSavedIcon(EditState& state, const std::string& path) {
-  IconContainerRec& record = state.current();
-  if (!record.isTrueColor()) {
-    record.dirColors = colorsToWrite(state.picImage, record.dirColors);
-    record.bitCount = static_cast<std::int16_t>(convBPP_Upto24(record.dirColors));
-  }
+IconContainerRec recordOfSavedIcon(IconContainerRec record, ColorDepth written, const std::string& path) {
+  if (!record.isTrueColor()) record.setDepth(written);
+  record.setHeaderDepth(record.depth());
   record.path = path;
   record.sourceLabel = kIcoLabel;
-  record.bihColors = record.dirColors;
-  record.bihBitCount = record.bitCount;
   record.clearOrigin();
+  return record;
 }
 
 }  // namespace gp

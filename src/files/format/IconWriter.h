@@ -1,9 +1,10 @@
-// Composes the bytes of a file with one icon or cursor and writes them once. The depth follows from the colours that
-// are on the picture, unless the icon is a true colour one, which stays true colour. No colour is lost: a picture that
-// needs more than a palette holds is written in true colour.
+// Composes and writes files with one icon or cursor. The caller states the depth; depthToWrite returns the one that
+// loses no colour.
 #pragma once
 
-#include "document/EditState.h"
+#include "document/ColorDepth.h"
+#include "document/IconContainerRec.h"
+#include "document/IconImage.h"
 
 #include <cstdint>
 #include <string>
@@ -11,34 +12,30 @@
 
 namespace gp {
 
-// dwBytesInRes of one image in bytes: header, palette and both kinds of rows. `colors` is 2, 16, 256, or anything else
-// for true colour, of which only a `bitCount` of 32 has four bytes a pixel.
+// dwBytesInRes of one image in bytes: header, palette and both kinds of rows. `colors` is 2, 16 or 256; any other value
+// means true colour, which takes four bytes per pixel for a `bitCount` of 32 and three otherwise.
 std::uint32_t IconByteSize(int colors, int bitCount, int width, int height);
 
-// The colours that a picture is written with: 2, 16, 256 or -1. `dirColors` is that of the record.
-int colorsToWrite(const Surface& image, int dirColors);
+// The depth for writing an icon. It follows from the colours of the image, except that an icon whose record states true
+// colour stays true colour. An image with too many colours for a palette is written in true colour. A true colour icon
+// keeps the alpha channel that its record states.
+ColorDepth depthToWrite(const IconImage& icon, const IconContainerRec& record);
 
-// The whole file. `colors` is from colorsToWrite; `alpha` is null, or of the Surfaces' size and then used for true
-// colour only.
-std::vector<std::uint8_t> composeSingleIcon(const Surface& image, const Surface& mask, int colors,
-                                            const AlphaMatrix* alpha);
+// The bytes of the file. The colours of the icon must fit the depth. For a depth with alpha the icon must have alpha
+// values; other depths ignore them.
+std::vector<std::uint8_t> composeSingleIcon(const IconImage& icon, ColorDepth depth);
+// The same for a cursor file with its hot spot.
+std::vector<std::uint8_t> composeCursor(const IconImage& icon, ColorDepth depth, int hotspotX, int hotspotY);
 
-// The same as a cursor file with its hot spot.
-std::vector<std::uint8_t> composeCursor(const Surface& image, const Surface& mask, int colors, const AlphaMatrix* alpha,
-                                        int hotspotX, int hotspotY);
+// Replaces the file at `path` by one with this icon. `ok` becomes false when it cannot be written, see replaceFile, or
+// when the depth has alpha and the icon lacks alpha values.
+void WriteSingleIconFile(const IconImage& icon, ColorDepth depth, const std::string& path, bool& ok);
+// The same for a cursor file.
+void WriteCursorFile(const IconImage& icon, ColorDepth depth, int hotspotX, int hotspotY, const std::string& path,
+                     bool& ok);
 
-// Writes two Surfaces as the icon of the current record, whose alpha matrix is used if `withAlpha`. An existing file
-// is deleted first. False when the file cannot be written or the alpha matrix has another size.
-void WriteSingleIconFile(const EditState& state, const Surface& imageSurface, const Surface& maskSurface,
-                         const std::string& path, bool withAlpha, bool& ok);
-
-// True when the icon goes to a file with its alpha values, as far as that is written in true colour.
-bool isWrittenWithAlpha(const IconContainerRec& record);
-// Writes the Current Icon with the alpha that its record tells of.
-[[nodiscard]] bool writeCurrentIcon(const EditState& state, const std::string& path);
-// The same as a cursor.
-[[nodiscard]] bool writeCurrentCursor(const EditState& state, int hotspotX, int hotspotY, const std::string& path);
-// The record tells what has been written: its depth, its path, nothing left to save.
-void describeSavedIcon(EditState& state, const std::string& path);
+// The record of an icon after it was saved to `path` with the depth `written`: not modified, and without ties to a
+// former file.
+IconContainerRec recordOfSavedIcon(IconContainerRec record, ColorDepth written, const std::string& path);
 
 }  // namespace gp

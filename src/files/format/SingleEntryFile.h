@@ -1,5 +1,5 @@
-// One entry of an icon file as a file of its own. The image is copied as it stands and never decoded, so that entries
-// which the editor cannot show are saved just as well.
+// Saves one entry of an icon file as a file of its own. The image is copied without decoding, so entries that the
+// editor cannot show can be saved too.
 #pragma once
 
 #include "files/format/IconArrays.h"
@@ -8,7 +8,7 @@
 
 namespace gp {
 
-// Writes over whatever has that path. False when that cannot be done, see replaceFile. The index must be valid.
+// Replaces an existing file at `path`. Returns false on failure, see replaceFile. The index must be valid.
 [[nodiscard]] bool saveEntryToSingleFile(const IconArrays& arrays, int index, const std::string& path);
 
 }  // namespace gp

@@ -1,7 +1,7 @@
 #include "files/opening/IconFiles.h"
 
 #include "files/FileQuestions.h"
-#include "files/format/IconFileBytes.h"
+#include "files/format/IconFile.h"
 #include "files/opening/IconLoading.h"
 #include "files/opening/IconOpening.h"
 
@@ -24,9 +24,9 @@ void IconFiles::doOpenIconFileQuietly(const std::string& path, bool& ok) {
 
 DecodedIcon IconFiles::ReadIconFileToImage(const std::string& path, int index, bool checkSize,
                                            const std::optional<ReadSize>& size) {
-  const auto bytes = readIconFile(path);
-  if (!bytes) return {IconDefect::NotReadable, {}};
-  return loadIconImage(bytes->span(), index, checkSize, size);
+  const auto file = readIconFile(path);
+  if (!file) return {IconDefect::NotReadable, {}};
+  return loadIconImage(*file, index, checkSize, size);
 }
 
 }  // namespace gp

@@ -1,5 +1,5 @@
-// The commands that open icon files. They work on the current container and tell their own failures; what stands in the
-// container before an opening begins is lost.
+// The commands that open icon files. They replace the content of the current container and report failures to the user.
+// Only doMnuFileOpenIcon asks about unsaved work.
 #pragma once
 
 #include "files/FilesContext.h"
@@ -19,10 +19,9 @@ class IconFiles {
 
   // The command "&Open Icon File  (ico) ....": offers to save, asks for a file and opens it.
   void doMnuFileOpenIcon();
-  // Opens a file and tells the user what he should know of it. With `useBrowser` he chooses among several icons
-  // himself.
+  // Opens a file and shows reminders about it. With `useBrowser` the user chooses among several icons.
   void doOpenIconFile(const std::string& path, bool useBrowser, bool& ok);
-  // The same without any box, question, history entry or reminder.
+  // The same without message boxes, history entry and reminders.
   void doOpenIconFileQuietly(const std::string& path, bool& ok);
 
   // Decodes one entry, at `size` or at the entry's own size. With checkSize only icon sizes pass.

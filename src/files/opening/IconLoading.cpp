@@ -5,20 +5,12 @@ namespace {
 
 constexpr const char* kIcoLabel = "ICO file";
 
-// The bit count, where 32 is kept only with alpha values of the icon's width.
-int keptBitCount(const IconFacts& facts, const IconImage& icon) {
-  const int bits = facts.bitCount();
-  return bits == kBitsWithAlpha && icon.alpha.width() != facts.width ? kBitsWithoutAlpha : bits;
-}
-
 }  // namespace
 
-DecodedIcon loadIconImage(std::span<const std::uint8_t> file, int index, bool checkSize,
-                          const std::optional<ReadSize>& size) {
-  const IconDirectory directory = parseIconDirectory(file);
-  if (!directory.isIcon()) return {IconDefect::NotAnIcon, {}};
-  if (index < 0 || index >= directory.count) return {IconDefect::NoSuchEntry, {}};
-  const IconEntry entry = directory.entry(index);
+DecodedIcon loadIconImage(const IconFile& file, int index, bool checkSize, const std::optional<ReadSize>& size) {
+  if (!file.isIcon()) return {IconDefect::NotAnIcon, {}};
+  if (index < 0 || index >= file.directory.count) return {IconDefect::NoSuchEntry, {}};
+  const IconEntry entry = file.entry(index);
   const ReadSize wanted = size.value_or(ReadSize{entry.width, entry.height});
   if (checkSize && !isIconSize(wanted.width, wanted.height)) return {IconDefect::SizeNotOffered, {}};
   return decodeEntry(file, entry, wanted.width, wanted.height);
@@ -28,15 +20,13 @@ IconContainerRec recordOfLoadedIcon(const IconFacts& facts, const IconImage& ico
   IconContainerRec record;
   record.used = true;
   record.sourceLabel = kIcoLabel;
-  record.dirColors = facts.dirColors;
-  record.bitCount = static_cast<std::int16_t>(keptBitCount(facts, icon));
-  record.hasAlpha = record.bitCount == kBitsWithAlpha;
-  record.bihColors = facts.headerColors;
-  record.bihBitCount = static_cast<std::int16_t>(facts.headerBits);
+  record.setDepth(icon.hasAlphaValues() ? facts.depth() : facts.depth().withoutAlpha());
+  record.setHeaderDepth(facts.header);
+  record.hasAlpha = record.depth().hasAlpha();
   record.present = true;
   record.path = path;
   record.fromMultiIconFile = facts.hasSeveralEntries();
-  // The entry that a later save replaces must be the one that was opened.
+  // A later save must replace the entry that was opened.
   record.multiIconIndex = static_cast<std::int16_t>(facts.chosen);
   return record;
 }

@@ -1,5 +1,5 @@
-// The steps of loading an icon that need no screen: decoding an entry and describing it for its container. The command
-// bodies and the command line tool share them.
+// The steps of loading an icon that need no screen: decoding an entry and describing it for its container. The commands
+// and gpicon share them.
 #pragma once
 
 #include "document/IconContainerRec.h"
@@ -7,21 +7,20 @@
 #include "files/format/IconProbe.h"
 
 #include <optional>
-#include <span>
 #include <string>
 
 namespace gp {
 
-// What an entry is read as: the size that its directory entry states, or that of the caller's Surfaces.
+// The size that an entry is decoded at: that of its directory entry, or one that the caller states.
 struct ReadSize {
   int width = 0;
   int height = 0;
 };
 
 // Decodes entry `index` at `size`, or at the entry's own size. With `checkSize` only icon sizes pass.
-[[nodiscard]] DecodedIcon loadIconImage(std::span<const std::uint8_t> file, int index, bool checkSize,
+[[nodiscard]] DecodedIcon loadIconImage(const IconFile& file, int index, bool checkSize,
                                         const std::optional<ReadSize>& size = std::nullopt);
-// The record of an icon that was decoded, from what the file states of it.
+// The record of a decoded icon, from what the file states.
 IconContainerRec recordOfLoadedIcon(const IconFacts& facts, const IconImage& icon, const std::string& path);
 
 }  // namespace gp

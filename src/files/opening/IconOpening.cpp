@@ -7,7 +7,6 @@
 #include "document/Editor.h"
 #include "document/Hourglass.h"
 #include "files/browser/MultiIconCommands.h"
-#include "files/format/IconFileBytes.h"
 #include "files/opening/IconLoading.h"
 #include "files/opening/IconMessages.h"
 
@@ -44,9 +43,9 @@ bool IconOpening::run() {
   if (!probe() || !isSquare()) return false;
   if (isBrowsed()) return browse();
   if (!isOfferedSize() || !isConfirmed()) return false;
-  decoded_ = loadIconImage(bytes_.span(), facts_.chosen, true);
+  decoded_ = loadIconImage(file_, facts_.chosen, true);
   if (!decoded_.isRead()) return leaveEmpty(kFailedToLoad, BoxIcon::Exclamation);
-  if (!isShownDepth()) return leaveEmpty(kStrangeTrueColor, BoxIcon::Information);
+  if (!facts_.depth().isShown()) return leaveEmpty(kStrangeTrueColor, BoxIcon::Information);
   show();
   return true;
 }
@@ -56,7 +55,7 @@ bool IconOpening::fail(const std::string& text, BoxIcon icon) {
   return false;
 }
 
-// Showing a container that is empty wipes the Surfaces, dims the tools and clears the status bar.
+// Switching to an empty container clears the Surfaces and the status bar and disables the tools.
 bool IconOpening::leaveEmpty(const char* text, BoxIcon icon) {
   ClearContainer(state_);
   context_.document.iconsPanel.SwitchContainer(state_.mCurContainer);
@@ -64,8 +63,8 @@ bool IconOpening::leaveEmpty(const char* text, BoxIcon icon) {
 }
 
 bool IconOpening::probe() {
-  if (auto bytes = readIconFile(path_)) bytes_ = std::move(*bytes);
-  facts_ = probeIcon(bytes_.span(), true);
+  if (auto file = readIconFile(path_)) file_ = std::move(*file);
+  facts_ = probeIcon(file_, true);
   return facts_.canBeOpened() || fail(path_ + kInvalidFile + kUseBitmapMenu, BoxIcon::Exclamation);
 }
 
@@ -77,7 +76,7 @@ bool IconOpening::isSquare() {
 }
 
 bool IconOpening::browse() {
-  bytes_ = {};  // the browser reads the file itself
+  file_ = {};  // the browser reads the file again
   std::string answer;
   browser_->MultiIconFileSubRoutine(path_, true, answer);
   if (answer.empty()) return false;
@@ -90,13 +89,8 @@ bool IconOpening::isOfferedSize() {
 }
 
 bool IconOpening::isConfirmed() {
-  if (!isSpoken() || facts_.dirColors >= 0 || state_.process.gScreenBPP >= kManyColorsScreenBits) return true;
+  if (!isSpoken() || !facts_.directory.isTrueColor() || state_.process.gScreenBPP >= kManyColorsScreenBits) return true;
   return ConfirmTrueColorOnLowScreen(context_.boxes);
-}
-
-bool IconOpening::isShownDepth() const {
-  const int bits = facts_.bitCount();
-  return facts_.dirColors >= 0 || bits == 24 || bits == 32;
 }
 
 void IconOpening::show() {

@@ -1,27 +1,26 @@
-// One opening of an icon file into the current container, from the probe to the reminders. It owns only what is known
-// of the file meanwhile. A file whose icon cannot be read leaves the container empty.
+// Opens one icon file into the current container, from the probe to the reminders. A file whose icon cannot be read
+// leaves the container empty.
 #pragma once
 
 #include "files/FilesContext.h"
 #include "files/format/IconDecoder.h"
 #include "files/format/IconProbe.h"
-#include "platform/files/Files.h"
 #include "platform/ports/MessageBoxes.h"
 
 #include <string>
 
 namespace gp {
 
-// Spoken: boxes, confirmation, history and reminders. Quiet: none of them.
+// Spoken: with message boxes, confirmation, history entry and reminders. Quiet: without.
 enum class OpeningManner { Spoken, Quiet };
 
 class MultiIconCommands;
 
 class IconOpening {
  public:
-  // A file with several icons is left to `browser`, unless that is null.
+  // A file with several icons is opened by `browser`, unless it is null.
   IconOpening(FilesContext& context, std::string path, OpeningManner manner, MultiIconCommands* browser = nullptr);
-  // True when an icon of the file stands in the current container and on the Editing Area.
+  // True when an icon of the file is now in the current container and on the Editing Area.
   bool run();
 
  private:
@@ -32,7 +31,6 @@ class IconOpening {
   bool isOfferedSize();
   bool isConfirmed();
   void show();
-  bool isShownDepth() const;
   void remind();
   bool fail(const std::string& text, BoxIcon icon);
   bool leaveEmpty(const char* text, BoxIcon icon);
@@ -43,7 +41,7 @@ class IconOpening {
   const std::string path_;
   const OpeningManner manner_;
   MultiIconCommands* const browser_;
-  FileBytes bytes_;
+  IconFile file_;
   IconFacts facts_;
   DecodedIcon decoded_;
 };

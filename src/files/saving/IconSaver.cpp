@@ -8,9 +8,10 @@
 #include "document/Hourglass.h"
 #include "drawing/Drawing.h"
 #include "files/FileQuestions.h"
-#include "files/format/IconWriter.h"
+#include "files/format/DepthTexts.h"
 #include "files/opening/IconMessages.h"
 #include "files/saving/BitmapSaving.h"
+#include "files/saving/CurrentIcon.h"
 #include "platform/files/Files.h"
 #include "platform/text/Paths.h"
 #include "platform/text/Utf8.h"
@@ -34,10 +35,6 @@ constexpr const char* kFileNotSaved = "Failed to save this file.";
 constexpr const char* kMultiIconReminder =
     "Reminder:  The original icon file contains multiple icons.\n\n"
     " If you don't wish to overwrite it, save to a different name.";
-
-std::string colorsInName(const IconContainerRec& record) {
-  return record.isTrueColor() ? std::to_string(record.bitCount) + "bpp" : std::to_string(record.dirColors);
-}
 
 }  // namespace
 
@@ -74,7 +71,8 @@ void IconSaver::doNewIcon(int size) {
   if (endsAniSession(size) && mayCurrentIconGo(context_)) showNewIcon(size);
 }
 
-// The frames of an animated cursor are of one size; a new icon of another ends the session. False on a refusal.
+// All frames of an animated cursor have one size; a new icon of another size ends the session. False if the user
+// refuses.
 bool IconSaver::endsAniSession(int size) {
   if (!state_.screen.aniContainerVisible) {
     context_.editor.closePanels();
@@ -164,7 +162,7 @@ std::string IconSaver::proposedName(SaveMode mode) const {
   std::string name = record.path.trimmed();
   if (name.find('.') != std::string::npos) name = ParseFileName(name, PathPart::BareName);
   if (mode == SaveMode::Mask) return name + "_Mask";
-  if (record.fromMultiIconFile) name += "_" + std::to_string(record.size) + "_" + colorsInName(record);
+  if (record.fromMultiIconFile) name += "_" + std::to_string(record.size) + "_" + colorsInFileName(record.depth());
   return name;
 }
 
@@ -172,7 +170,7 @@ std::string IconSaver::askForName(const SaveKind& kind) {
   return askToSave(context_, proposedName(kind.mode), kind.filter, kind.extension);
 }
 
-// The icon that is on the Editing Area does not become that cursor.
+// Saving as a cursor does not change the Current Icon's record.
 void IconSaver::saveCursorTo(const std::string& path, bool& ok) {
   cursors_.WriteCursorFile(path, ok);
   if (!ok) return context_.boxes.tell(HasFileAttribute(path) ? kReadOnlyFile : kCursorNotSaved, BoxIcon::Exclamation);
@@ -183,8 +181,8 @@ void IconSaver::saveCursorTo(const std::string& path, bool& ok) {
 // Bitmaps.
 
 void IconSaver::saveBitmapTo(const std::string& path, bool& ok) {
-  // Transparent pixels take the current colour.
-  SaveBitmap(composedForBitmap(state_, state_.mCurrentColor), path, ok);
+  // Transparent pixels get the current colour.
+  SaveBitmap(composedForBitmap(currentIcon(state_), state_.current(), state_.mCurrentColor), path, ok);
   context_.document.editingArea.UpdatePanelFromCurrent();
 }
 

@@ -1,5 +1,5 @@
-// The commands that make and save icons: New Icon, Save, Save As, Save As Bitmap, Save Mask, and the question whether
-// to save what is about to be replaced. A failed or cancelled save leaves the icon modified.
+// The commands that create and save icons: New Icon, Save, Save As, Save As Bitmap, Save Mask, and the question whether
+// to save an icon before it is replaced. After a failed or cancelled save the icon stays modified.
 #pragma once
 
 #include "files/FilesContext.h"
@@ -9,7 +9,7 @@
 
 namespace gp {
 
-// What Save As writes; the values number the filters.
+// The kinds of files that Save As writes; the values number the filters.
 enum class SaveMode { Icon = 1, Cursor = 2, Bitmap = 3, Mask = 4 };
 
 class IconSaver {
@@ -17,24 +17,24 @@ class IconSaver {
   // Both must outlive it.
   IconSaver(const FilesContext& context, CursorFiles& cursors);
 
-  // A new, transparent icon of that size. Unsaved work is asked for first.
+  // Creates a transparent icon of that size. Asks first about unsaved work.
   void doNewIcon(int size);
-  // Saves to the icon's own file where it has one for itself, otherwise under a name that is asked for.
+  // Saves to the icon's file if the file contains only this icon; otherwise asks for a name.
   void doFileSave();
-  // Shows the cursor panel, whose Proceed saves as a cursor.
+  // Opens the cursor panel, whose Proceed button saves as a cursor.
   void saveAsCursor();
-  // The same as doSaveAs for a bitmap, after a question.
+  // Asks about the background colour and then saves as doSaveAs does.
   void saveAsBitmap();
-  // Asks for a name and saves. A cursor takes its hot spot from the Panel's lists and leaves the record as it is.
+  // Asks for a name and saves. A cursor gets the hot spot of the Panel's lists, and the record is not changed.
   void doSaveAs(SaveMode mode);
-  // Writes the Current Icon and brings the record up to date. Tells a failure.
+  // Writes the Current Icon and updates its record. Reports a failure.
   void doSaveIconTo(const std::string& path, bool& ok);
   // Offers to save the Current Icon; `message` may be empty. `proceed` is false after Cancel and after a failed save.
   void AskSaveCurrent(const std::string& message, bool& proceed);
-  // Writes a Surface as a bitmap file. Tells a failure.
+  // Writes a Surface as a bitmap file. Reports a failure.
   void SaveBitmap(const Surface& surface, const std::string& path, bool& ok);
 
-  // The name that Save As offers, without extension.
+  // The name that Save As proposes, without extension.
   std::string proposedName(SaveMode mode) const;
   bool mSaveFailed() const { return mSaveFailed_; }
   const std::string& lastSavedFile() const { return lastSavedFile_; }

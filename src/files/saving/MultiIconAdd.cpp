@@ -9,6 +9,8 @@
 #include "files/browser/MultiIconAnswers.h"
 #include "files/browser/MultiIconExchange.h"
 #include "files/format/IconProbe.h"
+#include "files/format/IconWriter.h"
+#include "files/saving/CurrentIcon.h"
 #include "files/saving/MultiIconSaving.h"
 #include "files/saving/MultiIconTexts.h"
 #include "files/saving/PanelFiles.h"
@@ -28,12 +30,12 @@ constexpr const char* kOwnFile = "Cannot add to original file itself.";
 constexpr const char* kNotMade = "Failed to save current icon - preparation";
 constexpr const char* kNotLoaded = "Failed to save current icon - load preparation";
 
-std::string depthText(const IconTraits& traits) {
-  if (traits.colors > 0) return std::to_string(traits.colors) + "-color";
-  return traits.bits == kBitsWithAlpha ? "32 BPP   True-color" : "24 BPP   True-color";
+std::string depthText(ColorDepth depth) {
+  if (depth.hasPalette()) return std::to_string(depth.colors) + "-color";
+  return depth.hasAlpha() ? "32 BPP   True-color" : "24 BPP   True-color";
 }
 
-// What a file that was just read as one of icons has become.
+// For a file that has changed since it was read as an icon file.
 std::string targetNotReadText(const std::string& target, ArraysDefect defect) {
   return (defect == ArraysDefect::NotReadable ? "Failed to open " : "No icon file in ") + target;
 }
@@ -76,7 +78,7 @@ bool MultiIconAdd::takesIcon(const std::string& path) {
   const ArraysDefect defect = readIconArrays(path, ReservedField::MustBeZero, arrays);
   if (defect == ArraysDefect::NotReadable) return fail(addNotReadText(path, defect));
   if (defect != ArraysDefect::None) return refuse(addNotReadText(path, defect));
-  traits_ = traitsToWrite(state_);
+  traits_ = traitsToWrite(currentIcon(state_), state_.current());
   return findSameIcon(arrays, traits_, -1) < 0 || refuse(sameIconText(traits_, SaveInto::Add));
 }
 
@@ -104,10 +106,10 @@ void MultiIconAdd::showCurrentIcon() {
   MakeSameSize(state_.PicIcon, exchange.PicCurrIcon);
   BitbltPic(state_.PicIcon, exchange.PicCurrIcon);
   const std::string width = std::to_string(traits_.width);
-  exchange.lblCurrIcon = depthText(traits_) + "  Size: " + width + "x" + width;
+  exchange.lblCurrIcon = depthText(traits_.depth) + "  Size: " + width + "x" + width;
 }
 
-// The other file begins as a copy of the one that was picked.
+// The other file starts as a copy of the chosen one.
 std::string MultiIconAdd::askForOtherFile(const std::string& path) {
   std::string chosen;
   do {
@@ -130,7 +132,9 @@ bool MultiIconAdd::copyFile(const std::string& from, const std::string& to) {
 
 std::optional<NewImage> MultiIconAdd::makeImage(const std::string& target) {
   std::optional<NewImage> image;
-  const ScratchDefect defect = makeNewImage(state_, scratchFile_, target, image);
+  const IconImage icon = currentIcon(state_);
+  const ColorDepth depth = depthToWrite(icon, state_.current());
+  const ScratchDefect defect = makeNewImage(icon, depth, scratchFile_, target, image);
   if (defect != ScratchDefect::None) fail(defect == ScratchDefect::NotWritten ? kNotMade : kNotLoaded);
   return image;
 }

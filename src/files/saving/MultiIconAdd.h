@@ -1,5 +1,5 @@
-// One run of "Save As Multi-Icon File  (Add &To) ....": the Current Icon goes as one more entry into a file that the
-// user picks, at a place that he picks in the browser. A file with an icon in one of the containers is refused.
+// One run of "Save As Multi-Icon File  (Add &To) ....": adds the Current Icon as one more entry to a file that the user
+// chooses, at a position that the user chooses in the browser. A file is refused if a container holds an icon of it.
 #pragma once
 
 #include "files/FilesContext.h"
@@ -12,21 +12,21 @@ namespace gp {
 
 class MultiIconAdd {
  public:
-  // The current container must hold an icon that is its own document.
+  // The icon in the current container must not come from a file with several icons.
   MultiIconAdd(FilesContext& context, const std::string& scratchFile);
   void run();
 
  private:
   bool isInNoContainer(const std::string& path);
   bool takesIcon(const std::string& path);
-  // The path of the file that got the icon, empty when none did.
+  // Returns the path of the file that the icon was added to; empty if there is none.
   std::string addToMultiIconFile(const std::string& path);
   std::string showBrowser(const std::string& path);
   void showCurrentIcon();
   std::string askForOtherFile(const std::string& path);
   bool copyFile(const std::string& from, const std::string& to);
   std::optional<NewImage> makeImage(const std::string& target);
-  // `index` is that of the new entry.
+  // `index` is the index of the new entry.
   bool insertEntry(int index, const std::string& target);
   bool readTarget(int index, const std::string& target, IconArrays& arrays);
   bool write(IconArrays& arrays, const std::string& target);

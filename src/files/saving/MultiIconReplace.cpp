@@ -6,6 +6,8 @@
 #include "document/Hourglass.h"
 #include "document/Messages.h"
 #include "files/FileQuestions.h"
+#include "files/format/IconWriter.h"
+#include "files/saving/CurrentIcon.h"
 #include "files/saving/MultiIconSaving.h"
 #include "files/saving/MultiIconTexts.h"
 #include "files/saving/PanelFiles.h"
@@ -74,7 +76,7 @@ bool MultiIconReplace::readOriginal() {
 }
 
 bool MultiIconReplace::isAllowed() {
-  traits_ = traitsToWrite(state_);
+  traits_ = traitsToWrite(currentIcon(state_), state_.current());
   const int same = findSameIcon(arrays_, traits_, index_);
   if (same >= 0)
     context_.boxes.tell(sameIconText(traits_, SaveInto::Replace));
@@ -85,13 +87,13 @@ bool MultiIconReplace::isAllowed() {
   return false;
 }
 
-// The question has promised to write to the original file, wherever the last dialog was.
+// The question promised to write to the original file, so the dialog starts in its folder.
 std::string MultiIconReplace::askForName() {
   return askToSave(context_, ParseFileName(original_, PathPart::BareName), kReplaceFilter, kIconExtension,
                    OverwriteQuestion::ByDialog, ParseFileName(original_, PathPart::DriveAndFolder));
 }
 
-// That icon knows its entry by its index, which would be another's afterwards.
+// An icon in another container refers to its entry by index, which would then be that of another entry.
 bool MultiIconReplace::isInNoOtherContainer(const std::string& path) {
   if (isFileOf(state_.current(), path)) return true;
   const auto container = findContainerOf(state_, path);
@@ -101,12 +103,15 @@ bool MultiIconReplace::isInNoOtherContainer(const std::string& path) {
 
 std::optional<NewImage> MultiIconReplace::makeImage() {
   std::optional<NewImage> image;
-  const ScratchDefect defect = makeNewImage(state_, scratchFile_, original_, image);
+  const IconImage icon = currentIcon(state_);
+  const ColorDepth depth = depthToWrite(icon, state_.current());
+  const ScratchDefect defect = makeNewImage(icon, depth, scratchFile_, original_, image);
   if (defect != ScratchDefect::None) fail(defect == ScratchDefect::NotWritten ? kNotMade : kNotLoaded);
   return image;
 }
 
-// The dialog may have been open for long. A directory that is not the one that was checked is not written over.
+// The file may have changed while the dialog was open. It is not overwritten if its directory differs from the one that
+// was checked.
 bool MultiIconReplace::readOriginalAgain() {
   const std::vector<IconEntry> checked = std::move(arrays_.entries);
   arrays_ = {};
@@ -126,8 +131,8 @@ bool MultiIconReplace::write(const std::string& path) {
 void MultiIconReplace::describeSaved(const std::string& path) {
   IconContainerRec& record = state_.current();
   record.path = path;
-  record.dirColors = record.bihColors = traits_.colors;
-  record.bitCount = record.bihBitCount = static_cast<std::int16_t>(traits_.bits);
+  record.setDepth(traits_.depth);
+  record.setHeaderDepth(traits_.depth);
   record.neverSaved = record.modified = false;
   state_.screen.lblStatusPanel[static_cast<std::size_t>(StatusPanel::Discrepancy)].clear();
   context_.display.changed(DisplayPart::StatusBar);

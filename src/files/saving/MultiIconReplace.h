@@ -1,5 +1,5 @@
-// One run of "Save As &Multi-Icon File ....": the Current Icon takes the place of the entry that it came from, and all
-// other entries stay. It writes once, at the end, to the name that the user chose.
+// One run of "Save As &Multi-Icon File ....": the Current Icon replaces the entry that it was loaded from; all other
+// entries are kept. Writes once, at the end, to the file that the user chose.
 #pragma once
 
 #include "files/FilesContext.h"
@@ -21,7 +21,7 @@ class MultiIconReplace {
   bool readOriginal();
   bool isAllowed();
   std::string askForName();
-  // False, after telling it, when the icon of another container came from a file that is not the original one.
+  // False, after a message, when another container holds an icon of that file and it is not the original file.
   bool isInNoOtherContainer(const std::string& path);
   std::optional<NewImage> makeImage();
   bool readOriginalAgain();

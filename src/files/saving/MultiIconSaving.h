@@ -1,4 +1,4 @@
-// What the two saves into files of several icons have in common.
+// Code that the two saves into files with several icons share.
 #pragma once
 
 #include "files/FilesContext.h"
@@ -8,12 +8,12 @@
 
 namespace gp {
 
-// Ends whatever is open on the Current Icon, and brings its container up to date.
+// Ends all unfinished input on the Current Icon, and updates its container.
 void finishCurrentIcon(FilesContext& context);
-// What stands in a file that is about to be overwritten, if it can be held in memory beside the new content; otherwise
-// nothing.
+// The content of a file that is about to be overwritten, if it fits into memory beside the new content; otherwise
+// empty.
 FileBytes contentToPutBack(const std::string& path);
-// A failure, as opposed to a refusal.
+// Reports a failure with an exclamation mark; refusals have none.
 void tellFailure(FilesContext& context, const std::string& text);
 
 }  // namespace gp

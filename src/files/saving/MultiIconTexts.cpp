@@ -1,5 +1,6 @@
 #include "files/saving/MultiIconTexts.h"
 
+#include "files/format/DepthTexts.h"
 #include "platform/files/Files.h"
 
 #include <array>
@@ -30,7 +31,7 @@ const SaveTexts& textsOf(SaveInto save) { return kSaveTexts.at(static_cast<std::
 }  // namespace
 
 std::string sameIconText(const IconTraits& same, SaveInto save) {
-  return colorText(same) + " " + std::to_string(same.height) + " x " + std::to_string(same.width) +
+  return colorText(same.depth) + " " + std::to_string(same.height) + " x " + std::to_string(same.width) +
          "\n\nIcon of same size and color palette" + textsOf(save).alreadyThere;
 }
 

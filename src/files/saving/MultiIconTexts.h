@@ -1,5 +1,5 @@
-// What a user is told when an update of a file with several icons is refused or fails. The form, the commands and the
-// command line tool tell it in the same words; line breaks are those of a message box.
+// Messages for refused and failed updates of files with several icons. The form, the commands and gpicon use the same
+// texts; line breaks are those of a message box.
 #pragma once
 
 #include "files/format/IconArrays.h"
@@ -9,14 +9,14 @@
 
 namespace gp {
 
-// The two saves into a file. Their texts differ in small things.
+// The two saves into a file, whose texts differ slightly.
 enum class SaveInto { Replace, Add };
 
-// Both refuse an icon of the size and colours of another in the file; `same` is that other.
+// Both refuse an icon with the size and colours of another one in the file; `same` describes that one.
 std::string sameIconText(const IconTraits& same, SaveInto save);
-// The file to write is read-only, or could not be written for another reason.
+// States that the file to write is read-only, or that writing failed.
 const char* notWrittenText(const std::string& path, SaveInto save);
-// Both refuse a file that an icon in another container came from; containers count from 0.
+// Both refuse a file if another container holds an icon of it. Containers count from 0.
 std::string openedInPanelText(int container);
 
 // Replace.
@@ -26,9 +26,9 @@ inline constexpr const char* kReplaceEntryGone =
 
 // Add.
 inline constexpr const char* kAddToNoIcon = "File does not contain 16x16, 24x24, 32x32 or 48x48 icon.";
-// Of a file whose icons cannot be read, though it was taken for an icon file.
+// For a file whose icons cannot be read, although it was recognised as an icon file.
 std::string addNotReadText(const std::string& path, ArraysDefect defect);
-// There is no such place in the file.
+// For a position that the file does not have.
 std::string addNoPositionText(const std::string& path);
 
 // Remove.

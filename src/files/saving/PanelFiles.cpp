@@ -6,7 +6,7 @@
 
 namespace gp {
 
-// A record keeps no more of a path than its field has room for.
+// A record stores only as much of a path as its field can hold.
 bool isFileOf(const IconContainerRec& record, const std::string& path) {
   const std::string own = record.path.trimmed();
   if (own.empty()) return false;

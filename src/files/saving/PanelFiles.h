@@ -1,4 +1,4 @@
-// Which files the icons in the six containers came from. A file counts as the same however its path is spelled.
+// Finds the files that the icons in the six containers were loaded from. Two paths to the same file are equal.
 #pragma once
 
 #include "document/EditState.h"
@@ -9,7 +9,7 @@
 namespace gp {
 
 bool isFileOf(const IconContainerRec& record, const std::string& path);
-// The first container whose icon came from the file.
+// The first container whose icon was loaded from the file.
 std::optional<int> findContainerOf(const EditState& state, const std::string& path);
 
 }  // namespace gp

@@ -15,7 +15,7 @@ void removeFile(const std::string& path) {
 
 class ScratchFile {
  public:
-  // A former one goes first: it might be a link to a file that is to stay.
+  // A former scratch file is removed first: it might be a link to a file that has to be kept.
   explicit ScratchFile(const std::string& path) : path_(path) { removeFile(path_); }
   ~ScratchFile() { removeFile(path_); }
   ScratchFile(const ScratchFile&) = delete;
@@ -27,12 +27,14 @@ class ScratchFile {
 
 }  // namespace
 
-ScratchDefect makeNewImage(const EditState& state, const std::string& scratchFile, const std::string& target,
-                           std::optional<NewImage>& image) {
+ScratchDefect makeNewImage(const IconImage& icon, ColorDepth depth, const std::string& scratchFile,
+                           const std::string& target, std::optional<NewImage>& image) {
   image.reset();
   if (isSameFile(scratchFile, target)) return ScratchDefect::NotWritten;
   const ScratchFile scratch(scratchFile);
-  if (!writeCurrentIcon(state, scratchFile)) return ScratchDefect::NotWritten;
+  bool ok = false;
+  WriteSingleIconFile(icon, depth, scratchFile, ok);
+  if (!ok) return ScratchDefect::NotWritten;
   if (auto bytes = readFile(scratchFile)) image = imageOfSingleIcon(std::move(*bytes));
   return image ? ScratchDefect::None : ScratchDefect::NotRead;
 }

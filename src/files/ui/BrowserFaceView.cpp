@@ -30,7 +30,7 @@ Control* named(Control* control, const QString& name) {
   return control;
 }
 
-// The names and texts in which the two faces differ. Labels: caption, path, selector, footnote.
+// The names and texts that differ between the two faces. Labels: caption, path, selector, footnote.
 struct FaceTexts {
   const char* labels;
   std::array<int, 4> labelIndices;
@@ -119,7 +119,7 @@ void BrowserFaceView::makeControls() {
   connect(imgHideOtherSizes_, &QToolButton::clicked, this, [this] { showOtherSizes(false); });
 }
 
-// The file, and on the add face what is to be added to it.
+// The file, and on the add face the icon to add.
 QGridLayout* BrowserFaceView::makeHeading(const MultiIconExchange& exchange) {
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(kGap);
@@ -169,7 +169,7 @@ QBoxLayout* BrowserFaceView::makeButtonColumn() {
   column->addSpacing(kColumnGap);
   makeButtons();
   for (const auto& [button, row] : buttons_) column->addWidget(button);
-  column->insertStretch(column->count() - 1, 1);  // the one that closes stands apart
+  column->insertStretch(column->count() - 1, 1);  // a gap before the button that closes
   return column;
 }
 
@@ -220,7 +220,7 @@ void BrowserFaceView::connectSelector() {
     connect(selector_, &QComboBox::activated, this, [this](int item) { browser_.setAddPosition(item); });
 }
 
-// One of the two pictures takes the other's place, and its focus.
+// One of the two pictures replaces the other, and takes its focus.
 void BrowserFaceView::showOtherSizes(bool shown) {
   PictureButton* pressed = shown ? imgShowOtherSizes_ : imgHideOtherSizes_;
   const bool hadFocus = pressed->hasFocus();
@@ -230,7 +230,7 @@ void BrowserFaceView::showOtherSizes(bool shown) {
 
 void BrowserFaceView::refresh() {
   path_->setText(toText(browser_.fileText()));
-  // Rich text would swallow what looks like a tag in a name.
+  // In rich text, parts of a name that look like tags would disappear.
   path_->setToolTip(pathToText(browser_.file()).toHtmlEscaped());
   refreshList();
   lisIcons_->setSelected(browser_.selectedIcon());
@@ -242,7 +242,7 @@ void BrowserFaceView::refresh() {
   for (const auto& [button, row] : buttons_) button->setEnabled(!row->enabled || (browser_.*row->enabled)());
 }
 
-// A list that has lost an icon takes the focus from the button that did it: that one may be disabled now.
+// A list that has lost an icon takes the focus from the button that removed it, which may be disabled now.
 void BrowserFaceView::refreshList() {
   const bool hasOtherCount = static_cast<std::size_t>(lisIcons_->count()) != browser_.lisIcons().size();
   showItems(*lisIcons_, browser_.lisIcons());

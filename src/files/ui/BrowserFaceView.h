@@ -1,5 +1,5 @@
-// One face of frmGPMultiIcon, for editing a file or for adding to it: the list of its icons with a preview, the face's
-// own selector, and its buttons from a table. It shows a MultiIconBrowser and forwards what is pressed.
+// One face of frmGPMultiIcon, for editing a file or for adding to it: the list of its icons with a preview, the
+// selector, and the buttons of a table. It shows a MultiIconBrowser and forwards input.
 #pragma once
 
 #include "files/browser/MultiIconBrowser.h"
@@ -26,10 +26,10 @@ class BrowserFaceView final : public QWidget {
   Q_OBJECT
 
  public:
-  // The browser must outlive the view, and show this face.
+  // The browser must outlive the view and show this face.
   BrowserFaceView(QWidget* parent, MultiIconBrowser& browser, const MultiIconExchange& exchange);
 
-  // Shows what the browser has now.
+  // Shows the browser's current state.
   void refresh();
 
  private:

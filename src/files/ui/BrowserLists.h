@@ -1,4 +1,4 @@
-// What the panes of frmGPMultiIcon have in common: places and the lists of icons.
+// Code that the panes of frmGPMultiIcon share: measures, and the lists of icons.
 #pragma once
 
 #include "platform/qt/widgets/TabbedList.h"
@@ -21,7 +21,7 @@ inline void keepWidth(TabbedList& list) {
   list.setMinimumWidth(std::max(list.minimumWidth(), list.minimumSizeHint().width()));
 }
 
-// The texts of most files need the same width, and other texts make no list narrower.
+// Texts of most files need the same width; shorter texts do not make a list narrower.
 inline void showItems(TabbedList& list, const std::vector<std::string>& texts) {
   if (list.minimumWidth() == 0) list.setItems({"Ref 99  \t32 BPP\tTrue-Color\t  128 x 128"});
   keepWidth(list);

@@ -36,7 +36,7 @@ CursorPanelView::CursorPanelView(QWidget* parent, CursorFiles& cursors)
 
 CursorPanelView::~CursorPanelView() { cursors_.onChange = nullptr; }
 
-// The letters are those that no menu of the form has.
+// The access keys are those that no menu of the form uses.
 QGridLayout* CursorPanelView::makeLists() {
   auto* grid = new QGridLayout;
   grid->setSpacing(kRowGap);

@@ -1,5 +1,5 @@
-// The Panel "Save as cursor": the two lists of the hot spot, and the button that shows it. What they mean is
-// CursorFiles' business; the view shows it and forwards what is chosen.
+// The Panel "Save as cursor": the two lists of the hot spot, and the button that shows it. The view shows the state of
+// CursorFiles and forwards input to it.
 #pragma once
 
 #include "platform/qt/widgets/PanelFrame.h"
@@ -17,11 +17,11 @@ class CursorPanelView : public PanelFrame {
   Q_OBJECT
 
  public:
-  // The cursors must outlive the view.
+  // CursorFiles must outlive the view.
   CursorPanelView(QWidget* parent, CursorFiles& cursors);
   ~CursorPanelView() override;
 
-  // Shows the hot spot that the lists stand at, which is another icon's when one has come up.
+  // Shows the hot spot of the lists, which belongs to another icon once one has arrived.
   void refresh();
 
  signals:

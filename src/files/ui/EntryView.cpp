@@ -8,7 +8,7 @@ namespace {
 
 constexpr int kOutline = 1;
 
-// The size in which a picture is shown in a square of `side`: its own, or as large as there is room for.
+// The size of a picture in a square of `side`: its own, or reduced to fit.
 QSize fittedSize(const QSize& picture, int side) {
   if (picture.width() <= side && picture.height() <= side) return picture;
   return picture.scaled(side, side, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));

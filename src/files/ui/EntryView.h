@@ -1,5 +1,5 @@
-// lblIconInFile and picIconInFile: the preview of an entry of a file, in the middle of a place of one size. A picture
-// that is larger than the place is scaled down to it as a whole. It owns no pixels: the Surface must outlive it.
+// Previews an entry of a file, centred in a frame of fixed size: lblIconInFile and picIconInFile. A larger picture is
+// scaled down. Owns no pixels: the Surface must outlive it.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -18,10 +18,10 @@ class EntryView final : public QWidget, public AccessibleValue {
   Q_OBJECT
 
  public:
-  // `side` is the room for the picture, in pixels both ways.
+  // `side` is the width and height of the frame's interior, in pixels.
   EntryView(QWidget* parent, const EntryViewNames& names, const Surface& shown, int side);
 
-  // Another picture stands in the Surface now.
+  // Called when the content of the Surface has changed.
   void refresh();
 
   QString accessibleValue() const override;  // "32 by 32 pixels"

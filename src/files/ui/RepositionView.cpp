@@ -83,7 +83,7 @@ void RepositionView::refresh() {
   enableShift(*cmdShift_[1], pane.canShiftDown());
 }
 
-// At an end of the list the focus goes to the list: there one press too many of a key moves nothing back.
+// At an end of the list the focus goes to the list, so that a further key press does not move the item back.
 void RepositionView::enableShift(QPushButton& button, bool enabled) {
   if (!enabled && button.hasFocus()) lisReposition_->setFocus();
   button.setEnabled(enabled);

@@ -1,4 +1,4 @@
-// The pane of frmGPMultiIcon that puts a file's icons into another sequence.
+// The pane of frmGPMultiIcon that reorders a file's icons.
 #pragma once
 
 #include "files/browser/MultiIconBrowser.h"
@@ -22,7 +22,7 @@ class RepositionView final : public QWidget {
   // The browser must outlive the view.
   RepositionView(QWidget* parent, MultiIconBrowser& browser);
 
-  // Shows what the browser has now.
+  // Shows the browser's current state.
   void refresh();
 
  private:

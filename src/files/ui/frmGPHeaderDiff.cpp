@@ -23,7 +23,7 @@ constexpr int kColumnGap = 12;  // pixels
 constexpr int kRowGap = 10;
 constexpr int kLabelGap = 4;
 
-// fraEnquiry, row by row.
+// The cells of fraEnquiry, row by row.
 struct EnquiryRow {
   const char* caption;
   const char* explanation;
@@ -41,7 +41,7 @@ constexpr std::array<EnquiryRow, 3> kEnquiryRows{{
      "BPP per actual image"},
 }};
 
-// The texts of the cells in the order of the rows above.
+// The texts of the cells, in the order of the rows above.
 std::array<std::string, 6> cellTexts(const EnquiryTable& table) {
   return {table.lblIDEColor, table.lblIDEBPP,      table.lblBIHColor,
           table.lblBIHBPP,   table.lblActualColor, table.lblActualBPP};
@@ -88,7 +88,7 @@ void frmGPHeaderDiff::makeControls() {
   lblFileSpec->setElideMode(Qt::ElideMiddle);
   lblFileSpec->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   lblFileSpec->setText(toText(ShortenPath(diff_.file())));
-  // Rich text would swallow what looks like a tag in a name.
+  // In rich text, parts of a name that look like tags would disappear.
   lblFileSpec->setToolTip(pathToText(diff_.file()).toHtmlEscaped());
 
   lisIcons = new TabbedList(this, QStringLiteral("lisIcons"), QStringLiteral("Icons in file"),
@@ -185,7 +185,7 @@ void frmGPHeaderDiff::connectControls() {
   connect(cmdExit, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-// What there is to tell about the file is told over the form, not in its place.
+// Messages about the file appear over the form, not before it.
 void frmGPHeaderDiff::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   if (std::exchange(activated_, true)) return;

@@ -1,5 +1,5 @@
-// Sets side by side what an icon file's directory, its bitmap headers and its pixels tell, and salvages by the headers.
-// Its rules are those of a HeaderDiff; the form shows them and forwards what is pressed.
+// Compares what an icon file's directory, its bitmap headers and its pixels state, and salvages the file by the
+// headers. The form shows the state of a HeaderDiff and forwards input to it.
 #pragma once
 
 #include "files/browser/HeaderDiff.h"
@@ -22,7 +22,7 @@ class frmGPHeaderDiff final : public QDialog {
   Q_OBJECT
 
  public:
-  // The file is MultiIconExchange's. What the context refers to must outlive the form.
+  // The file is that of MultiIconExchange. The objects that the context refers to must outlive the form.
   frmGPHeaderDiff(const FilesContext& context, QWidget* parent);
 
  protected:

@@ -37,8 +37,8 @@ bool frmGPMultiIcon::comeUp() {
   return !unloaded_;
 }
 
-// The browser changes for the first time when it has read the file. The form comes up then, before an icon is
-// selected: what there is to tell about that one is told over the form.
+// The first notification comes when the browser has read the file. The form is shown then, before an icon is selected,
+// so that messages about the icon appear over the form.
 void frmGPMultiIcon::browserChanged() {
   const bool isFirst = !panes_;
   if (isFirst) makeControls();
@@ -55,7 +55,7 @@ void frmGPMultiIcon::reject() {
 
 void frmGPMultiIcon::closeEvent(QCloseEvent*) { browser_.cmdClose(); }
 
-// Enter on a picture presses the picture, as it does on a button, not the default button.
+// Enter on a picture activates it, as on a button, and not the default button.
 void frmGPMultiIcon::keyPressEvent(QKeyEvent* event) {
   auto* picture = qobject_cast<PictureButton*>(focusWidget());
   if (picture && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
@@ -91,7 +91,8 @@ QWidget* frmGPMultiIcon::makeOtherIcons() {
   lisOtherIcons_ = new TabbedList(frame, QStringLiteral("lisOtherIcons"),
                                   QStringLiteral("Icons of other sizes in file"), kBrowserTabStops);
   lisOtherIcons_->setReadOnly(true);
-  lisOtherIcons_->setFixedHeight(lisOtherIcons_->minimumSizeHint().height());  // the other list takes what is to spare
+  // The other list takes the remaining space.
+  lisOtherIcons_->setFixedHeight(lisOtherIcons_->minimumSizeHint().height());
   rows->addWidget(lisOtherIcons_);
   frame->setVisible(false);
   return frame;
@@ -115,9 +116,9 @@ void frmGPMultiIcon::showPane() {
 void frmGPMultiIcon::showOtherSizes(bool shown) {
   const bool wasShown = !fraOtherIcons_->isHidden();
   if (isVisible() && shown == wasShown) return;
-  const int heightBefore = height();  // laying out may make the form higher
+  const int heightBefore = height();  // the layout may make the form higher
   fraOtherIcons_->setVisible(shown);
-  // What has changed inside the pane is news to the layouts around it.
+  // The surrounding layouts do not notice changes inside the pane by themselves.
   faceView_->layout()->activate();
   faceView_->updateGeometry();
   panes_->updateGeometry();
@@ -130,7 +131,7 @@ void frmGPMultiIcon::showOtherSizes(bool shown) {
     resizeOnScreen(width, shown ? heightBefore + room : heightBefore - room);
 }
 
-// To this size as far as the screen has room for it. The first place is the desktop's to give; later ones stay on the
+// Resizes the form as far as the screen has room. The desktop chooses the first position; later ones stay on the
 // screen.
 void frmGPMultiIcon::resizeOnScreen(int width, int height) {
   const QRect free = screen()->availableGeometry();

@@ -1,5 +1,5 @@
-// The browser of files with several icons, and the form that adds an icon to one. Its rules are those of a
-// MultiIconBrowser; the form shows them and forwards what is pressed.
+// The browser of files with several icons, and the form that adds an icon to one. The form shows the state of a
+// MultiIconBrowser and forwards input to it.
 #pragma once
 
 #include "files/browser/MultiIconBrowser.h"
@@ -18,14 +18,14 @@ class frmGPMultiIcon final : public QDialog {
   Q_OBJECT
 
  public:
-  // What the context refers to must outlive the form.
+  // The objects that the context refers to must outlive the form.
   frmGPMultiIcon(const FilesContext& context, QWidget* parent);
 
-  // Shows the form until it is closed. A file that cannot be read shows nothing.
+  // Shows the form until it is closed. Does nothing for a file that cannot be read.
   void run();
   // Reads the file and shows the form; false when the file cannot be read.
   bool comeUp();
-  // Esc ends what is open: the pane that repositions, else the form.
+  // Esc closes the pane for repositioning if it is open, otherwise the form.
   void reject() override;
 
  protected:

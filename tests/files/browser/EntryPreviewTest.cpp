@@ -12,7 +12,7 @@ class EntryPreviewTest : public testing::Test {
   IconArrays arrays;
 
   void hold(const Bytes& file) {
-    ASSERT_EQ(parseIconArrays(FileBytes(file), ReservedField::Any, arrays), ArraysDefect::None);
+    ASSERT_EQ(takeIconArrays(iconFileOf(file), ReservedField::Any, arrays), ArraysDefect::None);
   }
   bool show(const Picture& picture, SizeRule rule = SizeRule::IconSizes, bool showAlpha = false) {
     hold(build(entryOf(picture)));

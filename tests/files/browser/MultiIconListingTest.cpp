@@ -1,4 +1,5 @@
 #include "files/IcoBuilder.h"
+#include "files/IconFileOf.h"
 #include "files/browser/MultiIconListing.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +9,7 @@ namespace {
 
 std::vector<ListedEntry> listOf(std::vector<Entry> entries) {
   IconArrays arrays;
-  EXPECT_EQ(parseIconArrays(FileBytes(build(IcoFile{std::move(entries), 0, 1, {}})), ReservedField::Any, arrays),
+  EXPECT_EQ(takeIconArrays(iconFileOf(build(IcoFile{std::move(entries), 0, 1, {}})), ReservedField::Any, arrays),
             ArraysDefect::None);
   return listEntries(arrays);
 }
@@ -17,35 +18,35 @@ ListedEntry listed(const Entry& entry) { return listOf({entry}).front(); }
 ListedEntry withTold(int colorCount, int bitCount) { return listed(entryOf(anyPicture(16, 8), colorCount, bitCount)); }
 
 TEST(MultiIconListing, ColorsAreThoseThatTheEntryTells) {
-  EXPECT_EQ(withTold(2, 1).dirColors, 2);
-  EXPECT_EQ(withTold(16, 4).dirColors, 16);
-  EXPECT_EQ(withTold(0, 8).dirColors, 256);
-  EXPECT_EQ(withTold(0, 24).dirColors, -1);
-  EXPECT_EQ(withTold(0, 9).dirColors, -1);
-  EXPECT_EQ(withTold(0, 0).dirColors, 256);
+  EXPECT_EQ(withTold(2, 1).directory.colors, 2);
+  EXPECT_EQ(withTold(16, 4).directory.colors, 16);
+  EXPECT_EQ(withTold(0, 8).directory.colors, 256);
+  EXPECT_EQ(withTold(0, 24).directory.colors, -1);
+  EXPECT_EQ(withTold(0, 9).directory.colors, -1);
+  EXPECT_EQ(withTold(0, 0).directory.colors, 256);
 }
 
 TEST(MultiIconListing, StrangeColorCountsCountAsTwoOrSixteen) {
-  EXPECT_EQ(withTold(1, 8).dirColors, 2);
-  for (const int count : {3, 8, 200, 255}) EXPECT_EQ(withTold(count, 8).dirColors, 16) << count;
+  EXPECT_EQ(withTold(1, 8).directory.colors, 2);
+  for (const int count : {3, 8, 200, 255}) EXPECT_EQ(withTold(count, 8).directory.colors, 16) << count;
 }
 
 TEST(MultiIconListing, TheHeadersBitsAreTheLowByteAtFourteen) {
   Entry entry = anyEntry(16, 4);
   entry.image[14] = 8;
   entry.image[15] = 1;
-  EXPECT_EQ(listed(entry).bihBits, 8);
-  EXPECT_EQ(listed(entry).bihColors, 16);  // the entry's colour count comes first
+  EXPECT_EQ(listed(entry).header.bits, 8);
+  EXPECT_EQ(listed(entry).header.colors, 16);  // the entry's colour count comes first
   entry.colorCount = 0;
-  EXPECT_EQ(listed(entry).bihColors, 256);
+  EXPECT_EQ(listed(entry).header.colors, 256);
 }
 
 TEST(MultiIconListing, AnImageTooShortForItsHeaderHasNoBits) {
   Entry entry = anyEntry(16, 4);
   entry.bytesInRes = 14;
-  EXPECT_EQ(listed(entry).bihBits, 0);
+  EXPECT_EQ(listed(entry).header.bits, 0);
   entry.bytesInRes = 15;
-  EXPECT_EQ(listed(entry).bihBits, 4);
+  EXPECT_EQ(listed(entry).header.bits, 4);
 }
 
 TEST(MultiIconListing, StandardAreSquaresOfTheFourIconSizes) {
@@ -62,7 +63,7 @@ TEST(MultiIconListing, ItemTextsHaveThreePartsBehindTheRef) {
 }
 
 TEST(MultiIconListing, OtherSizesAreNotPadded) {
-  ListedEntry entry{.width = 64, .height = 8, .dirColors = 256, .dirBits = 8};
+  ListedEntry entry{.width = 64, .height = 8, .directory = {256, 8}};
   EXPECT_EQ(itemText(1, entry, false), "Ref 1  \t8 BPP\t256-Color\t  64 x 8");
   EXPECT_EQ(itemText(1, entry, true), "Ref 1  \t8 BPP\t256-Color\t   64 x   8");
   entry.width = 128;
@@ -80,7 +81,7 @@ TEST(MultiIconListing, AnEntryThatTellsNothingIsListedWith256Colors) {
 }
 
 TEST(MultiIconListing, ItemsAreReadAgainFromTheirTexts) {
-  const ListedEntry entry{.width = 48, .height = 48, .dirColors = -1, .dirBits = 24};
+  const ListedEntry entry{.width = 48, .height = 48, .directory = {-1, 24}};
   for (const int ref : {1, 9, 10, 99}) {
     const ItemReading reading = readItem(itemText(ref, entry, true));
     EXPECT_EQ(reading.index, ref - 1);
@@ -90,23 +91,17 @@ TEST(MultiIconListing, ItemsAreReadAgainFromTheirTexts) {
 }
 
 TEST(MultiIconListing, SidesOfThreeDigitsAreReadAgain) {
-  const ItemReading reading = readItem(itemText(1, {.width = 128, .height = 7, .dirColors = 2, .dirBits = 1}, true));
+  const ItemReading reading = readItem(itemText(1, {.width = 128, .height = 7, .directory = {2, 1}}, true));
   EXPECT_EQ(reading.width, 128);
   EXPECT_EQ(reading.height, 7);
 }
 
 // Two characters are all that is read.
 TEST(MultiIconListing, Ref100ReadsAs10) {
-  const ListedEntry entry{.width = 16, .height = 16, .dirColors = 16, .dirBits = 4};
+  const ListedEntry entry{.width = 16, .height = 16, .directory = {16, 4}};
   EXPECT_EQ(readItem(itemText(100, entry, true)).index, 9);
   EXPECT_EQ(readItem(itemText(257, entry, true)).index, 24);
   EXPECT_EQ(readItem(itemText(65535, entry, true)).index, 64);
-}
-
-TEST(MultiIconListing, FileNamesTellColorsOrBits) {
-  EXPECT_EQ(colorsInFileName(16, 4), "16");
-  EXPECT_EQ(colorsInFileName(256, 0), "256");
-  EXPECT_EQ(colorsInFileName(-1, 24), "24bpp");
 }
 
 int selectedAmong(const std::vector<std::pair<int, int>>& sizesAndBits) {

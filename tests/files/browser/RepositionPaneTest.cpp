@@ -11,7 +11,7 @@ using Order = std::vector<int>;
 RepositionPane paneOf(int count) {
   std::vector<std::string> items;
   for (int ref = 1; ref <= count; ++ref)
-    items.push_back(itemText(ref, {.width = 16, .height = 16, .dirColors = 16, .dirBits = 4}, true));
+    items.push_back(itemText(ref, {.width = 16, .height = 16, .directory = {16, 4}}, true));
   RepositionPane pane;
   pane.open(std::move(items));
   return pane;

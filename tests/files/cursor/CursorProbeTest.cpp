@@ -1,4 +1,5 @@
 #include "files/CursorBuilder.h"
+#include "files/IconFileOf.h"
 #include "files/cursor/CursorProbe.h"
 
 #include <gtest/gtest.h>
@@ -7,7 +8,7 @@ namespace gp::test {
 namespace {
 
 CursorFile plain(int bits = 4) { return cursorOf(anyPicture(32, bits), 7, 9); }
-std::string probe(const CursorFile& cursor) { return probeCursor(build(cursor)).joined(); }
+std::string probe(const CursorFile& cursor) { return probeCursor(iconFileOf(build(cursor))).joined(); }
 
 TEST(CursorProbe, TheBitmapHeaderTellsTheColors) {
   const std::pair<int, const char*> cases[] = {
@@ -32,7 +33,7 @@ TEST(CursorProbe, OddBitCountsOfTheHeaderCountAsTrueColor) {
 }
 
 TEST(CursorProbe, TheHotSpotStandsWhereIconsTellPlanesAndBits) {
-  const CursorFacts facts = probeCursor(build(plain()));
+  const CursorFacts facts = probeCursor(iconFileOf(build(plain())));
   EXPECT_TRUE(facts.valid);
   EXPECT_EQ(facts.hotspotX, 7);
   EXPECT_EQ(facts.hotspotY, 9);
@@ -88,7 +89,7 @@ TEST(CursorProbe, AnyOtherOffsetIsInvalid) {
   for (const std::uint32_t offset : {0u, 6u, 21u, 23u, 0x7FFFFFFFu, 0xFFFFFFFFu}) {
     Bytes file = build(plain());
     for (std::size_t i = 0; i < 4; ++i) file[18 + i] = static_cast<std::uint8_t>(offset >> (8 * i));
-    EXPECT_EQ(probeCursor(file).joined(), "0/0/0") << offset;
+    EXPECT_EQ(probeCursor(iconFileOf(file)).joined(), "0/0/0") << offset;
   }
 }
 
@@ -106,7 +107,7 @@ TEST(CursorProbe, AFileCutAnywhereIsAnsweredByTheBytesThatItHas) {
   for (std::size_t size = 0; size <= whole.size(); ++size) {
     const Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size));
     const char* expected = size < kOffsetEnds ? "0/0/0" : size <= kBitsBegin ? "1/-1/0" : "1/16/4";
-    EXPECT_EQ(probeCursor(cut).joined(), expected) << size;
+    EXPECT_EQ(probeCursor(iconFileOf(cut)).joined(), expected) << size;
   }
 }
 

@@ -12,7 +12,7 @@
 namespace gp::test {
 namespace {
 
-DecodedIcon load(const CursorFile& cursor) { return loadCursorImage(build(cursor)); }
+DecodedIcon load(const CursorFile& cursor) { return loadCursorImage(iconFileOf(build(cursor))); }
 
 Color expectedColor(const Picture& p, int x, int y) {
   if (p.bits > 8) return colorOf(p.color(x, y));
@@ -101,9 +101,9 @@ TEST(CursorReading, AFileCutAnywhereReadsAsIfItWentOnWithZeros) {
     const std::size_t longest = whole.size() + 32 * 32 * 4;
     for (std::size_t size = 0; size < whole.size(); ++size) {
       Bytes padded(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size));
-      const DecodedIcon cut = loadCursorImage(padded);
+      const DecodedIcon cut = loadCursorImage(iconFileOf(padded));
       padded.resize(longest);
-      const DecodedIcon expected = loadCursorImage(padded);
+      const DecodedIcon expected = loadCursorImage(iconFileOf(padded));
       ASSERT_EQ(cut.defect, expected.defect) << size;
       ASSERT_TRUE(samePixels(cut.icon.image, expected.icon.image)) << size;
       ASSERT_TRUE(samePixels(cut.icon.mask, expected.icon.mask)) << size;
@@ -178,8 +178,8 @@ TEST(Corpus, EveryCursorIsTakenOrRefusedAndReadAsMeasured) {
   ASSERT_EQ(all.size(), 50u);
   int taken = 0;
   for (const Measured& m : all) {
-    const Bytes file = bytesOf(corpus + m.file);
-    ASSERT_FALSE(file.empty()) << m.file;
+    const IconFile file = iconFileOf(bytesOf(corpus + m.file));
+    ASSERT_FALSE(file.span().empty()) << m.file;
     const CursorFacts facts = probeCursor(file);
     EXPECT_EQ(facts.joined(), m.probe) << m.file;
     if (!facts.valid) continue;

@@ -150,9 +150,10 @@ TEST(Corpus, EveryFileOfItIsAnsweredWholeAndCut) {
     ++files;
     for (const std::size_t part : {file.size(), file.size() / 2, file.size() / 7, std::size_t{40}, std::size_t{5}}) {
       file.resize(std::min(part, file.size()));
-      const IconFacts facts = probeIcon(file, true);
+      const IconFile held = iconFileOf(file);
+      const IconFacts facts = probeIcon(held, true);
       EXPECT_EQ(facts.canBeOpened(), isIconSize(facts.width)) << item.path();
-      for (int i = 0; i < static_cast<int>(parseIconDirectory(file).entries.size()); ++i) (void)decode(file, i);
+      for (int i = 0; i < held.directory.presentCount(); ++i) (void)decode(file, i);
     }
   }
   std::cout << "corpus: " << files << " files read whole and cut\n";

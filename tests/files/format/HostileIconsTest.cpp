@@ -11,7 +11,7 @@ namespace {
 
 constexpr const char* kNoIcon = "0/0/0/0/0/0/0/0/0";
 
-std::string probe(const Bytes& file) { return probeIcon(file, true).joined(); }
+std::string probe(const Bytes& file) { return probeIcon(iconFileOf(file), true).joined(); }
 Entry icon(int size, int bits) { return entryOf(anyPicture(size, bits)); }
 IcoFile fileOf(std::vector<Entry> entries) { return {std::move(entries), 0, 1, {}}; }
 
@@ -161,7 +161,7 @@ TEST(HostileDirectory, AFileCutAtAnyByteIsAnswered) {
   constexpr std::size_t kSecondSizeKnown = 6 + 16 + 2;
   for (std::size_t length = 0; length <= whole.size(); ++length) {
     const Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length));
-    const IconFacts facts = probeIcon(cut, true);
+    const IconFacts facts = probeIcon(iconFileOf(cut), true);
     EXPECT_EQ(facts.canBeOpened(), length >= kSecondSizeKnown) << length;
     if (facts.canBeOpened()) {
       EXPECT_EQ(facts.chosen, 1) << length;
@@ -267,7 +267,7 @@ TEST(HostileBitmap, TwoBitImagesAreRefused) {
 }
 
 TEST(HostileBitmap, SixteenBitsAndOddHeadersAreReadByTheDirectoryAlone) {
-  EXPECT_EQ(defectOfEntry(build(entryOf(anyPicture(32, 32), 0, 16)), IconEntry{32, 32, 0, 16, 1, 22}),
+  EXPECT_EQ(defectOfEntry(iconFileOf(build(entryOf(anyPicture(32, 32), 0, 16))), IconEntry{32, 32, 0, 16, 1, 22}),
             IconDefect::StrangeTrueColor);
   for (const std::uint32_t size : {12u, 52u, 108u, 124u, 0u, 0xFFFFFFFFu})
     EXPECT_TRUE(sameIcon(withHeader(32, 24, [=](Picture& p) { p.headerSize = size; }), good(32, 24))) << size;
@@ -291,8 +291,8 @@ TEST(HostileBitmap, RowsAreNotAMultipleOfFourBytesLong) {
 TEST(HostileBitmap, NonSquareEntriesAreNotUsable) {
   Entry entry = icon(32, 8);
   entry.height = 16;
-  const Bytes bytes = build(entry);
-  EXPECT_FALSE(isUsableEntry(bytes, parseIconDirectory(bytes).entry(0)));
+  const IconFile file = iconFileOf(build(entry));
+  EXPECT_FALSE(isUsableEntry(file, file.entry(0)));
 }
 
 TEST(HostileBitmap, OtherPictureFilesUnderTheNameOfAnIconAreNoIconFile) {

@@ -1,4 +1,5 @@
 #include "files/IcoBuilder.h"
+#include "files/IconFileOf.h"
 #include "files/format/IcoDirectory.h"
 
 #include <gtest/gtest.h>
@@ -77,13 +78,18 @@ TEST(IcoDirectory, OnlyTypeOneWithAnEntryIsAnIcon) {
   EXPECT_FALSE(parseIconDirectory(Bytes{}).isIcon());
 }
 
+bool isPngEntry(const Bytes& bytes) {
+  const IconFile file = iconFileOf(bytes);
+  return isPngImage(file, file.entry(0));
+}
+
 TEST(IcoDirectory, PngIsToldByItsSignatureAlone) {
   Entry entry = entryOf(anyPicture(32, 32));
-  EXPECT_FALSE(isPngImage(build(entry), parseIconDirectory(build(entry)).entry(0)));
+  EXPECT_FALSE(isPngEntry(build(entry)));
   entry.image = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
-  EXPECT_TRUE(isPngImage(build(entry), parseIconDirectory(build(entry)).entry(0)));
+  EXPECT_TRUE(isPngEntry(build(entry)));
   entry.image.pop_back();
-  EXPECT_FALSE(isPngImage(build(entry), parseIconDirectory(build(entry)).entry(0)));
+  EXPECT_FALSE(isPngEntry(build(entry)));
 }
 
 }  // namespace

@@ -92,9 +92,10 @@ TEST(IcoReading, AColorCountOf255Over8BitsReads16ColorsAnd4BitRows) {
 
 TEST(IcoReading, SixteenBitIsReadAsFourBytesAPixel) {
   const Picture p = anyPicture(32, 32);
-  const Bytes file = build(entryOf(p, 0, 16));
-  expectPicture(decode(file), p);
-  EXPECT_EQ(defectOfEntry(file, parseIconDirectory(file).entry(0)), IconDefect::StrangeTrueColor);
+  const Bytes bytes = build(entryOf(p, 0, 16));
+  expectPicture(decode(bytes), p);
+  const IconFile file = iconFileOf(bytes);
+  EXPECT_EQ(defectOfEntry(file, file.entry(0)), IconDefect::StrangeTrueColor);
 }
 
 TEST(IcoReading, MissingBytesReadAsZero) {
@@ -133,8 +134,8 @@ TEST(IcoReading, AnEntryWithoutWidthOrHeightIsRefused) {
 
 // The bytes hold rows of 32 pixels: read as others, they are cut into other rows.
 TEST(IcoReading, TheIconHasTheSizeThatItIsReadAtAndNotThatOfItsEntry) {
-  const Bytes file = build(entryOf(anyPicture(32, 32)));
-  const DecodedIcon decoded = decodeEntry(file, parseIconDirectory(file).entry(0), 20, 10);
+  const IconFile file = iconFileOf(build(entryOf(anyPicture(32, 32))));
+  const DecodedIcon decoded = decodeEntry(file, file.entry(0), 20, 10);
   ASSERT_TRUE(decoded.isRead());
   for (const Surface* surface : {&decoded.icon.image, &decoded.icon.mask}) {
     EXPECT_EQ(surface->width(), 20);
@@ -144,7 +145,7 @@ TEST(IcoReading, TheIconHasTheSizeThatItIsReadAtAndNotThatOfItsEntry) {
 }
 
 void expectLikeSlowReader(std::span<const std::uint8_t> file, const IconEntry& entry, int width, int height) {
-  const DecodedIcon read = decodeEntry(file, entry, width, height);
+  const DecodedIcon read = decodeEntry(iconFileOf(file), entry, width, height);
   ASSERT_TRUE(read.isRead());
   const IconImage expected = SlowIconReader(file, entry, width, height).read();
   ASSERT_TRUE(samePixels(read.icon.image, expected.image)) << width << "x" << height << " " << entry.bitCount;

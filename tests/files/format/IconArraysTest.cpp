@@ -1,4 +1,5 @@
 #include "files/IcoBuilder.h"
+#include "files/IconFileOf.h"
 #include "files/format/IconArrays.h"
 #include "support/FullDisk.h"
 
@@ -13,12 +14,10 @@ IcoFile threeIcons() {
   return {{entryOf(anyPicture(32, 4)), entryOf(anyPicture(16, 8)), entryOf(anyPicture(24, 24))}, 0, 1, {}};
 }
 
-FileBytes held(const Bytes& bytes) { return FileBytes(bytes); }
-
 Bytes copyOf(ImageBytes image) { return {image.begin(), image.end()}; }
 
 ArraysDefect parse(const Bytes& bytes, IconArrays& arrays, ReservedField rule = ReservedField::MustBeZero) {
-  return parseIconArrays(held(bytes), rule, arrays);
+  return takeIconArrays(iconFileOf(bytes), rule, arrays);
 }
 
 class IconArraysTest : public testing::Test {
@@ -69,9 +68,10 @@ TEST_F(IconArraysTest, TheReservedFieldCountsOnlyWhereItMustBeZero) {
 
 TEST_F(IconArraysTest, AFileThatIsCutAnywhereIsRefused) {
   const Bytes whole = build(IcoFile{{entryOf(anyPicture(16, 1)), entryOf(anyPicture(16, 4))}, 0, 1, {}});
+  constexpr std::size_t kCountKnown = 5;
   for (std::size_t size = 0; size < whole.size(); ++size) {
     const Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size));
-    ASSERT_EQ(parse(cut, arrays), ArraysDefect::NoIcons) << size;
+    ASSERT_EQ(parse(cut, arrays), size < kCountKnown ? ArraysDefect::NoIcons : ArraysDefect::CutShort) << size;
     ASSERT_EQ(arrays.count(), 0);
   }
   EXPECT_EQ(parse(whole, arrays), ArraysDefect::None);
@@ -80,14 +80,14 @@ TEST_F(IconArraysTest, AFileThatIsCutAnywhereIsRefused) {
 TEST_F(IconArraysTest, CountsOffsetsAndSizesThatLeaveTheFileAreRefused) {
   IcoFile file = threeIcons();
   file.count = 0xFFFF;
-  EXPECT_EQ(parse(build(file), arrays), ArraysDefect::NoIcons);
+  EXPECT_EQ(parse(build(file), arrays), ArraysDefect::CutShort);
   for (const std::uint32_t lie : {0x80000000u, 0xFFFFFFFFu, 0x7FFFFFFFu}) {
     file = threeIcons();
     file.entries[1].offset = lie;
-    EXPECT_EQ(parse(build(file), arrays), ArraysDefect::NoIcons) << lie;
+    EXPECT_EQ(parse(build(file), arrays), ArraysDefect::CutShort) << lie;
     file = threeIcons();
     file.entries[1].bytesInRes = lie;
-    EXPECT_EQ(parse(build(file), arrays), ArraysDefect::NoIcons) << lie;
+    EXPECT_EQ(parse(build(file), arrays), ArraysDefect::CutShort) << lie;
   }
 }
 

@@ -1,4 +1,5 @@
 #include "files/IcoBuilder.h"
+#include "files/IconFileOf.h"
 #include "files/format/IconProbe.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +10,7 @@ namespace {
 constexpr const char* kNoIcon = "0/0/0/0/0/0/0/0/0";
 
 std::string probe(const IcoFile& file, bool preferEightBit = true) {
-  return probeIcon(build(file), preferEightBit).joined();
+  return probeIcon(iconFileOf(build(file)), preferEightBit).joined();
 }
 std::string probe(const Entry& entry) { return probe(IcoFile{{entry}, 0, 1, {}}); }
 
@@ -30,18 +31,18 @@ TEST(IconProbe, OldIconsWithoutBitCountGetTheirColorsFromTheColorCount) {
 
 TEST(IconProbe, BitCountFollowsFromColorsWhereItIsStrange) {
   IconFacts facts;
-  facts.dirColors = 16;
-  EXPECT_EQ(facts.bitCount(), 4);
-  facts.dirColors = 2;
-  facts.dirBits = 24;
-  EXPECT_EQ(facts.bitCount(), 1);
-  facts.dirColors = 256;
-  EXPECT_EQ(facts.bitCount(), 8);
-  facts.dirBits = 4;
-  EXPECT_EQ(facts.bitCount(), 4);
-  facts.dirColors = -1;
-  facts.dirBits = 16;
-  EXPECT_EQ(facts.bitCount(), 16);
+  facts.directory.colors = 16;
+  EXPECT_EQ(facts.depth().bits, 4);
+  facts.directory.colors = 2;
+  facts.directory.bits = 24;
+  EXPECT_EQ(facts.depth().bits, 1);
+  facts.directory.colors = 256;
+  EXPECT_EQ(facts.depth().bits, 8);
+  facts.directory.bits = 4;
+  EXPECT_EQ(facts.depth().bits, 4);
+  facts.directory.colors = -1;
+  facts.directory.bits = 16;
+  EXPECT_EQ(facts.depth().bits, 16);
 }
 
 TEST(IconProbe, WidthAndHeightOfASingleEntryMayDiffer) {
@@ -142,8 +143,8 @@ TEST(IconProbe, AnImageFarBehindInALongFileIsFound) {
 
 TEST(IconProbe, UsableEntriesAreSquareBitmapsOfAnIconSizeAndAKnownDepth) {
   const auto usable = [](const Entry& entry) {
-    const Bytes bytes = build(entry);
-    return isUsableEntry(bytes, parseIconDirectory(bytes).entry(0));
+    const IconFile file = iconFileOf(build(entry));
+    return isUsableEntry(file, file.entry(0));
   };
   for (const int bits : {1, 4, 8, 24, 32}) EXPECT_TRUE(usable(icon(24, bits))) << bits;
   EXPECT_FALSE(usable(entryOf(anyPicture(32, 32), 0, 16)));

@@ -1,4 +1,5 @@
 #include "files/IcoBuilder.h"
+#include "files/IconFileOf.h"
 #include "files/format/IconSalvage.h"
 
 #include <gtest/gtest.h>
@@ -20,7 +21,7 @@ Bytes header(int width, int height, int bits) {
 // Arrays of their own bytes, as they are read from a file.
 IconArrays arraysOf(const std::vector<Entry>& entries) {
   IconArrays arrays;
-  EXPECT_EQ(parseIconArrays(FileBytes(build(IcoFile{entries, 0, 1, {}})), ReservedField::Any, arrays),
+  EXPECT_EQ(takeIconArrays(iconFileOf(build(IcoFile{entries, 0, 1, {}})), ReservedField::Any, arrays),
             ArraysDefect::None);
   return arrays;
 }

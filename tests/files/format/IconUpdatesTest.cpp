@@ -1,4 +1,5 @@
 #include "files/IcoBuilder.h"
+#include "files/IconFileOf.h"
 #include "files/format/IconUpdates.h"
 
 #include <algorithm>
@@ -28,10 +29,11 @@ class IconUpdatesTest : public testing::Test {
  protected:
   IconFolder folder;
   IconArrays arrays;
-  EditState state;
+  IconImage icon = transparentIcon(32);
+  IconContainerRec record;
 
   void read(const Bytes& bytes) {
-    ASSERT_EQ(parseIconArrays(FileBytes(bytes), ReservedField::MustBeZero, arrays), ArraysDefect::None);
+    ASSERT_EQ(takeIconArrays(iconFileOf(bytes), ReservedField::MustBeZero, arrays), ArraysDefect::None);
   }
   Bytes written() {
     EXPECT_TRUE(writeWholeFile(arrays, folder.path("out.ico"), {}));
@@ -126,56 +128,49 @@ TEST_F(IconUpdatesTest, TheFormerFileMayBeOverwrittenWithItsOwnImages) {
 TEST_F(IconUpdatesTest, TwoIconsAreTheSameWhenSizeColorsAndBitsAllAgree) {
   read(
       build(fileOf({iconOf(32, 4), iconOf(16, 8), iconOf(32, 24), iconOf(32, 32), entryOf(anyPicture(48, 4), 16, 0)})));
-  EXPECT_EQ(findSameIcon(arrays, {32, 32, 16, 4}, -1), 0);
+  EXPECT_EQ(findSameIcon(arrays, {32, 32, {16, 4}}, -1), 0);
   EXPECT_EQ(findSameIcon(arrays, {16, 16, 256, 8}, -1), 1);
-  EXPECT_EQ(findSameIcon(arrays, {32, 32, -1, 24}, -1), 2);
-  EXPECT_EQ(findSameIcon(arrays, {32, 32, -1, 32}, -1), 3);
-  EXPECT_EQ(findSameIcon(arrays, {32, 32, -1, 32}, 3), -1) << "its own entry does not count";
-  EXPECT_EQ(findSameIcon(arrays, {24, 24, 16, 4}, -1), -1);
-  EXPECT_EQ(findSameIcon(arrays, {32, 32, 256, 8}, -1), -1);
-  EXPECT_EQ(findSameIcon(arrays, {48, 48, 16, 4}, -1), -1) << "an entry without bit count is never the same";
-}
-
-TEST_F(IconUpdatesTest, TextsTellColorsOrBits) {
-  EXPECT_EQ(colorText({32, 32, 2, 1}), "2-color");
-  EXPECT_EQ(colorText({32, 32, 256, 8}), "256-color");
-  EXPECT_EQ(colorText({32, 32, -1, 24}), "True Color 24 BPP");
-  EXPECT_EQ(colorText({32, 32, -1, 32}), "True Color 32 BPP");
+  EXPECT_EQ(findSameIcon(arrays, {32, 32, {-1, 24}}, -1), 2);
+  EXPECT_EQ(findSameIcon(arrays, {32, 32, {-1, 32}}, -1), 3);
+  EXPECT_EQ(findSameIcon(arrays, {32, 32, {-1, 32}}, 3), -1) << "its own entry does not count";
+  EXPECT_EQ(findSameIcon(arrays, {24, 24, {16, 4}}, -1), -1);
+  EXPECT_EQ(findSameIcon(arrays, {32, 32, {256, 8}}, -1), -1);
+  EXPECT_EQ(findSameIcon(arrays, {48, 48, {16, 4}}, -1), -1) << "an entry without bit count is never the same";
 }
 
 TEST_F(IconUpdatesTest, APaintedDownIconCountsAsWhatItHasBecome) {
-  state.current().dirColors = 256;
-  state.current().bitCount = 8;
-  state.picImage.fill(kWhite);
-  EXPECT_EQ(traitsToWrite(state), (IconTraits{32, 32, 2, 1}));
-  state.picImage.SetPixelV(3, 3, 0x0000FF);
-  EXPECT_EQ(traitsToWrite(state), (IconTraits{32, 32, 16, 4}));
-  state.picImage.SetPixelV(3, 3, 0x123456);
-  EXPECT_EQ(traitsToWrite(state), (IconTraits{32, 32, 256, 8}));
+  record.dirColors = 256;
+  record.bitCount = 8;
+  icon.image.fill(kWhite);
+  EXPECT_EQ(traitsToWrite(icon, record), (IconTraits{32, 32, {2, 1}}));
+  icon.image.SetPixelV(3, 3, 0x0000FF);
+  EXPECT_EQ(traitsToWrite(icon, record), (IconTraits{32, 32, {16, 4}}));
+  icon.image.SetPixelV(3, 3, 0x123456);
+  EXPECT_EQ(traitsToWrite(icon, record), (IconTraits{32, 32, {256, 8}}));
 }
 
 TEST_F(IconUpdatesTest, ATrueColorIconStaysOneAndItsAlphaMakesTheDifference) {
-  state.current().dirColors = kTrueColor;
-  state.current().bitCount = 24;
-  state.picImage.fill(kWhite);
-  EXPECT_EQ(traitsToWrite(state), (IconTraits{32, 32, -1, 24}));
-  state.current().bitCount = 32;
-  state.current().hasAlpha = true;
-  EXPECT_EQ(traitsToWrite(state), (IconTraits{32, 32, -1, 32}));
+  record.dirColors = kTrueColor;
+  record.bitCount = 24;
+  icon.image.fill(kWhite);
+  EXPECT_EQ(traitsToWrite(icon, record), (IconTraits{32, 32, {-1, 24}}));
+  record.bitCount = 32;
+  record.hasAlpha = true;
+  EXPECT_EQ(traitsToWrite(icon, record), (IconTraits{32, 32, {-1, 32}}));
 }
 
 TEST_F(IconUpdatesTest, MoreColorsThanAPaletteHoldsCountAsTrueColor) {
-  state.current().dirColors = 256;
-  state.current().bitCount = 8;
-  for (int i = 0; i < 32 * 32; ++i) state.picImage.SetPixelV(i % 32, i / 32, i);
-  EXPECT_EQ(traitsToWrite(state), (IconTraits{32, 32, -1, 24}));
+  record.dirColors = 256;
+  record.bitCount = 8;
+  for (int i = 0; i < 32 * 32; ++i) icon.image.SetPixelV(i % 32, i / 32, i);
+  EXPECT_EQ(traitsToWrite(icon, record), (IconTraits{32, 32, {-1, 24}}));
 }
 
 TEST_F(IconUpdatesTest, TheSizeIsThatOfTheSurface) {
-  state.picImage.resize(48, 48);
-  state.current().size = 32;
-  EXPECT_EQ(traitsToWrite(state).width, 48);
-  EXPECT_EQ(traitsToWrite(state).height, 48);
+  icon.image.resize(48, 48);
+  record.size = 32;
+  EXPECT_EQ(traitsToWrite(icon, record).width, 48);
+  EXPECT_EQ(traitsToWrite(icon, record).height, 48);
 }
 
 TEST_F(IconUpdatesTest, ASingleIconFileGivesItsImage) {

@@ -110,13 +110,21 @@ TEST(IconRows, AlphaIsWrittenWhereTheMaskIsBlackAndZeroElsewhere) {
   EXPECT_EQ(taken(out), (Bytes{20, 10, 0, 77, 21, 11, 1, 0, 22, 12, 2, 0}));
 }
 
+IconImage plainIcon(int size, Color color) { return {Surface(size, size, color), Surface(size, size, kBlack), {}}; }
+
+IconContainerRec recordOf(ColorDepth depth) {
+  IconContainerRec record;
+  record.setDepth(depth);
+  return record;
+}
+
 Bytes firstBytes(std::vector<std::uint8_t> bytes, std::size_t count) {
   bytes.resize(count);
   return bytes;
 }
 
 TEST(IconWriter, TheHeadersOfATrueColorIcon) {
-  const auto file = composeSingleIcon(Surface(32, 32, 0x010203), Surface(32, 32, kBlack), -1, nullptr);
+  const auto file = composeSingleIcon(plainIcon(32, 0x010203), {-1, 24});
   EXPECT_EQ(file.size(), 22u + 3240);
   EXPECT_EQ(firstBytes(file, 65), (Bytes{0,  0,  1, 0, 1,  0,                                         //
                                          32, 32, 0, 0, 1,  0, 24, 0, 0xA8, 0x0C, 0, 0, 22, 0, 0,  0,  //
@@ -126,22 +134,20 @@ TEST(IconWriter, TheHeadersOfATrueColorIcon) {
 }
 
 struct DepthCase {
-  int colors;
-  bool alpha;
-  int colorCount, bits;
+  ColorDepth depth;
+  int colorCount;
 };
 
 TEST(IconWriter, ColorCountAndBitCountOfEveryDepth) {
-  constexpr DepthCase kCases[] = {
-      {2, false, 2, 1}, {16, false, 16, 4}, {256, false, 0, 8}, {-1, false, 0, 24}, {-1, true, 0, 32}};
-  const AlphaMatrix alpha(16, 16, 9);
-  for (const DepthCase& c : kCases) {
-    const auto file =
-        composeSingleIcon(Surface(16, 16, kWhite), Surface(16, 16, kBlack), c.colors, c.alpha ? &alpha : nullptr);
-    EXPECT_EQ(file[8], c.colorCount) << c.bits;
-    EXPECT_EQ(file[12], c.bits);
-    EXPECT_EQ(file[36], c.bits);
-    EXPECT_EQ(file.size(), 22 + IconByteSize(c.colors, c.bits, 16, 16)) << c.bits;
+  constexpr DepthCase kCases[] = {{{2, 1}, 2}, {{16, 4}, 16}, {{256, 8}, 0}, {{-1, 24}, 0}, {{-1, 32}, 0}};
+  IconImage icon = plainIcon(16, kWhite);
+  icon.alpha = AlphaMatrix(16, 16, 9);
+  for (const auto& [depth, colorCount] : kCases) {
+    const auto file = composeSingleIcon(icon, depth);
+    EXPECT_EQ(file[8], colorCount) << depth.bits;
+    EXPECT_EQ(file[12], depth.bits);
+    EXPECT_EQ(file[36], depth.bits);
+    EXPECT_EQ(file.size(), 22 + IconByteSize(depth.colors, depth.bits, 16, 16)) << depth.bits;
     EXPECT_EQ(file[14] | file[15] << 8, static_cast<int>(file.size()) - 22);
   }
 }
@@ -158,30 +164,40 @@ TEST(IconWriter, EveryDepthAndSizeIsByteForByteWhatItShouldBe) {
     p.index = [](int x, int y) { return (x + y) % 3; };
     p.transparent = [](int x, int y) { return x > y; };
     const Surface mask = painted(size, size, [&](int x, int y) { return p.transparent(x, y) ? kWhite : kBlack; });
-    EXPECT_EQ(composeSingleIcon(painted(size, size, standard), mask, 16, nullptr), build(entryOf(p))) << size;
+    const IconImage standardIcon{painted(size, size, standard), mask, {}};
+    EXPECT_EQ(composeSingleIcon(standardIcon, {16, 4}), build(entryOf(p))) << size;
 
     p = Picture{};
     p.width = p.height = size;
     p.bits = 32;
     p.transparent = [](int x, int y) { return x > y; };
-    AlphaMatrix alpha(size, size, 200);
     p.color = [](int x, int y) { return Rgb{x, y, 99, x > y ? 0 : 200}; };
     const Surface image = painted(size, size, [](int x, int y) { return rgb(x, y, 99); });
-    EXPECT_EQ(composeSingleIcon(image, mask, -1, &alpha), build(entryOf(p))) << size;
+    EXPECT_EQ(composeSingleIcon({image, mask, AlphaMatrix(size, size, 200)}, {-1, 32}), build(entryOf(p))) << size;
   }
 }
 
 TEST(IconWriter, TrueColorStaysTrueColorWithTwoColorsOnIt) {
-  EXPECT_EQ(colorsToWrite(Surface(32, 32, kWhite), -1), -1);
-  EXPECT_EQ(colorsToWrite(Surface(32, 32, kWhite), 16), 2);
+  EXPECT_EQ(depthToWrite(plainIcon(32, kWhite), recordOf({-1, 24})), (ColorDepth{-1, 24}));
+  EXPECT_EQ(depthToWrite(plainIcon(32, kWhite), recordOf({16, 4})), (ColorDepth{2, 1}));
+}
+
+TEST(IconWriter, TheAlphaChannelThatTheRecordStatesIsWrittenInTrueColorOnly) {
+  IconContainerRec record = recordOf({-1, 32});
+  EXPECT_EQ(depthToWrite(plainIcon(32, kWhite), record), (ColorDepth{-1, 24})) << "32 bits without alpha";
+  record.hasAlpha = true;
+  EXPECT_EQ(depthToWrite(plainIcon(32, kWhite), record), (ColorDepth{-1, 32}));
+  record.setDepth({16, 32});
+  EXPECT_EQ(depthToWrite(plainIcon(32, kWhite), record), (ColorDepth{2, 1}));
 }
 
 TEST(IconWriter, APictureThatNeedsMoreThan256EntriesIsWrittenInTrueColor) {
   // 255 colours, neither black nor white among them, pass as 256 colours but need 257 entries.
   const Surface image = painted(32, 32, [](int x, int y) { return 0x100000 + std::min(y * 32 + x, 254); });
-  const Surface mask(32, 32, kBlack);
-  EXPECT_EQ(colorsToWrite(image, 256), -1);
-  const auto file = composeSingleIcon(image, mask, colorsToWrite(image, 256), nullptr);
+  const IconImage icon{image, Surface(32, 32, kBlack), {}};
+  const ColorDepth depth = depthToWrite(icon, recordOf({256, 8}));
+  EXPECT_EQ(depth, (ColorDepth{-1, 24}));
+  const auto file = composeSingleIcon(icon, depth);
   EXPECT_EQ(file[12], 24);
   const Decoded d = decode(file);
   EXPECT_TRUE(samePixels(d.image, image)) << "no colour is lost";
@@ -189,11 +205,41 @@ TEST(IconWriter, APictureThatNeedsMoreThan256EntriesIsWrittenInTrueColor) {
 
 TEST(IconWriter, AnAlphaMatrixOfAnotherSizeFailsTheWrite) {
   const IconFolder folder;
-  EditState state;
-  bool ok = true;
-  WriteSingleIconFile(state, Surface(32, 32, kWhite), Surface(32, 32, kBlack), folder.path("a.ico"), true, ok);
-  EXPECT_FALSE(ok);
-  EXPECT_FALSE(std::filesystem::exists(folder.path("a.ico")));
+  IconImage icon = plainIcon(32, kWhite);
+  for (const int size : {1, 16, 48}) {
+    icon.alpha = AlphaMatrix(size, size);
+    bool ok = true;
+    WriteSingleIconFile(icon, {-1, 32}, folder.path("a.ico"), ok);
+    EXPECT_FALSE(ok) << size;
+    EXPECT_FALSE(std::filesystem::exists(folder.path("a.ico")));
+  }
+  bool ok = false;
+  WriteSingleIconFile(icon, {-1, 24}, folder.path("a.ico"), ok);
+  EXPECT_TRUE(ok) << "no value is asked for";
+}
+
+TEST(IconWriter, TheRecordOfASavedIconStatesWhatWasWritten) {
+  IconContainerRec record = recordOf({256, 8});
+  record.setHeaderDepth({-1, 24});
+  record.sourceLabel = "CUR file";
+  record.path = "/old/icon.cur";
+  record.size = 48;
+  record.fromMultiIconFile = record.isCursor = record.modified = record.neverSaved = true;
+  record.multiIconIndex = record.hotspotX = record.hotspotY = 5;
+  const IconContainerRec saved = recordOfSavedIcon(record, {16, 4}, "/new/icon.ico");
+  EXPECT_EQ(saved.depth(), (ColorDepth{16, 4}));
+  EXPECT_EQ(saved.headerDepth(), (ColorDepth{16, 4}));
+  EXPECT_EQ(saved.path.trimmed(), "/new/icon.ico");
+  EXPECT_EQ(saved.sourceLabel.trimmed(), "ICO file");
+  EXPECT_EQ(saved.size, 48);
+  EXPECT_FALSE(saved.fromMultiIconFile || saved.isCursor || saved.modified || saved.neverSaved);
+  EXPECT_EQ(saved.multiIconIndex + saved.hotspotX + saved.hotspotY, 0);
+}
+
+TEST(IconWriter, TheRecordOfASavedTrueColorIconKeepsItsDepth) {
+  const IconContainerRec saved = recordOfSavedIcon(recordOf({-1, 32}), {-1, 24}, "/a.ico");
+  EXPECT_EQ(saved.depth(), (ColorDepth{-1, 32}));
+  EXPECT_EQ(saved.headerDepth(), (ColorDepth{-1, 32}));
 }
 
 }  // namespace

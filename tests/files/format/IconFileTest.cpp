@@ -1,5 +1,5 @@
 #include "files/IcoBuilder.h"
-#include "files/format/IconFileBytes.h"
+#include "files/format/IconFile.h"
 #include "support/ProcessUse.h"
 #include "support/TempFolder.h"
 
@@ -14,7 +14,7 @@ constexpr std::size_t kMostRead = 64 * kMegabyte;
 constexpr std::uint32_t kLargestDirectory = 6 + 16 * 65535;
 constexpr std::size_t kFirstLook = 256 * 1024 + kLargestDirectory;
 
-class IconFileBytes : public testing::Test {
+class IconFileReading : public testing::Test {
  protected:
   TempFolder folder;
   std::string path = folder.file("large.ico");
@@ -40,13 +40,13 @@ class IconFileBytes : public testing::Test {
     }
     return bytes;
   }
-  static Bytes part(const FileBytes& file, std::uint64_t at, std::size_t count) {
+  static Bytes part(const IconFile& file, std::uint64_t at, std::size_t count) {
     const auto bytes = file.span().subspan(at, count);
     return {bytes.begin(), bytes.end()};
   }
 };
 
-TEST_F(IconFileBytes, ImagesAreReadWhereverTheyStandInAHugeFile) {
+TEST_F(IconFileReading, ImagesAreReadWhereverTheyStandInAHugeFile) {
   const Bytes image = anyEntry(32, 8).image;
   constexpr std::uint32_t kMiddle = 500'000'000, kEnd = kGigabyte - 2216;
   ASSERT_EQ(image.size(), 2216U);
@@ -61,18 +61,20 @@ TEST_F(IconFileBytes, ImagesAreReadWhereverTheyStandInAHugeFile) {
   EXPECT_EQ(part(*file, 0, directory.size()), directory);
   EXPECT_EQ(part(*file, kMiddle, image.size()), image);
   EXPECT_EQ(part(*file, kEnd, image.size()), image);
+  EXPECT_EQ(file->entry(0).imageOffset, kEnd);
+  EXPECT_EQ(file->entry(1).imageOffset, kMiddle);
   EXPECT_LT(bytesRead() - before, 4 * kMegabyte);
   EXPECT_LT(peakMemory() - memory, 4 * kMegabyte);
 }
 
-TEST_F(IconFileBytes, AnImageThatEntriesShareIsReadOnce) {
+TEST_F(IconFileReading, AnImageThatEntriesShareIsReadOnce) {
   write(directoryOf(65535, [](std::uint32_t) { return 1U << 29; }), kGigabyte);
   const std::size_t before = bytesRead();
   ASSERT_TRUE(readIconFile(path));
   EXPECT_LT(bytesRead() - before, kFirstLook + kLargestDirectory + kMegabyte);
 }
 
-TEST_F(IconFileBytes, OfImagesAllOverAHugeFileTheFirst64MegabytesAreRead) {
+TEST_F(IconFileReading, OfImagesAllOverAHugeFileTheFirst64MegabytesAreRead) {
   const Bytes directory = directoryOf(65535, [](std::uint32_t i) { return kLargestDirectory + i * 60'000; });
   write(directory, 4 * kGigabyte);
   const std::uint64_t last = kMostRead - 1, behind = kMostRead;
@@ -81,25 +83,51 @@ TEST_F(IconFileBytes, OfImagesAllOverAHugeFileTheFirst64MegabytesAreRead) {
   const auto file = readIconFile(path);
   ASSERT_TRUE(file);
   EXPECT_EQ(file->span().size(), behind);
+  EXPECT_EQ(file->directory.presentCount(), 65535);
   EXPECT_EQ(part(*file, 0, directory.size()), directory);
   EXPECT_EQ(part(*file, last, 1), Bytes{1});
   EXPECT_LE(bytesRead() - before, kFirstLook + kMostRead + kMegabyte);
   EXPECT_LE(peakMemory() - memory, kFirstLook + kMostRead + 8 * kMegabyte);
 }
 
-TEST_F(IconFileBytes, AnythingElseIsReadNoFurtherThanItTakesToKnow) {
+TEST_F(IconFileReading, AnythingElseIsReadNoFurtherThanItTakesToKnow) {
   write({'h', 'e', 'l', 'l', 'o', ' '}, kGigabyte);
   const auto file = readIconFile(path);
   ASSERT_TRUE(file);
   EXPECT_EQ(file->span().size(), 256U * 1024);
+  EXPECT_FALSE(file->isIcon() || file->isCursor());
 }
 
-TEST_F(IconFileBytes, ASmallFileIsReadWhole) {
+TEST_F(IconFileReading, ASmallFileIsReadWhole) {
   const Bytes bytes = build(anyEntry(48, 24));
   write(bytes, bytes.size());
-  const auto file = readIconFile(path);
-  ASSERT_TRUE(file);
-  EXPECT_EQ(part(*file, 0, file->span().size()), bytes);
+  for (const auto& file : {readIconFile(path), readWholeIconFile(path)}) {
+    ASSERT_TRUE(file);
+    EXPECT_EQ(part(*file, 0, file->span().size()), bytes);
+    EXPECT_TRUE(file->isIcon());
+    EXPECT_EQ(file->directory.presentCount(), 1);
+    EXPECT_EQ(file->entry(0), parseIconDirectory(bytes).entry(0));
+  }
+}
+
+TEST_F(IconFileReading, WhatIsNoRegularFileIsNotRead) {
+  for (const std::string& other : {folder.file("none.ico"), folder.path(), std::string("/dev/zero")}) {
+    EXPECT_FALSE(readIconFile(other)) << other;
+    EXPECT_FALSE(readWholeIconFile(other)) << other;
+  }
+}
+
+TEST_F(IconFileReading, TheBytesOfAHugeFileThatNoImageCanReachAreReadOnlyWithTheWholeFile) {
+  Bytes bytes = build(anyEntry(32, 8));
+  bytes.resize(4 * kMegabyte);
+  bytes.back() = 7;
+  write(bytes, bytes.size());
+  const auto file = readIconFile(path), whole = readWholeIconFile(path);
+  ASSERT_TRUE(file && whole);
+  EXPECT_LT(file->span().size(), bytes.size());
+  EXPECT_EQ(whole->span().size(), bytes.size());
+  EXPECT_EQ(whole->span().back(), 7);
+  EXPECT_EQ(file->directory.entries, whole->directory.entries);
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include "document/IconContainerRec.h"
 #include "files/CursorBuilder.h"
 #include "files/Decoding.h"
-#include "files/format/IconWriter.h"
+#include "files/saving/CurrentIcon.h"
 
 #include <array>
 #include <filesystem>

@@ -1,0 +1,30 @@
+#include "files/saving/CurrentIcon.h"
+
+#include "files/format/IconWriter.h"
+
+namespace gp {
+
+IconImage currentIcon(const EditState& state) {
+  return {state.picImage, state.picMask, state.mAlphaRecs.at(static_cast<std::size_t>(state.mCurContainer))};
+}
+
+bool writeCurrentIcon(const EditState& state, const std::string& path) {
+  const IconImage icon = currentIcon(state);
+  bool ok = false;
+  WriteSingleIconFile(icon, depthToWrite(icon, state.current()), path, ok);
+  return ok;
+}
+
+bool writeCurrentCursor(const EditState& state, int hotspotX, int hotspotY, const std::string& path) {
+  const IconImage icon = currentIcon(state);
+  bool ok = false;
+  WriteCursorFile(icon, depthToWrite(icon, state.current()), hotspotX, hotspotY, path, ok);
+  return ok;
+}
+
+void describeSavedIcon(EditState& state, const std::string& path) {
+  const ColorDepth written = depthToWrite(currentIcon(state), state.current());
+  state.current() = recordOfSavedIcon(state.current(), written, path);
+}
+
+}  // namespace gp

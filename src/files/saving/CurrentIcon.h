@@ -1,0 +1,20 @@
+// Saves the Current Icon: passes it from the shared state to the writers, and updates its record.
+#pragma once
+
+#include "document/EditState.h"
+#include "document/IconImage.h"
+
+#include <string>
+
+namespace gp {
+
+// The pixels and alpha values of the Current Icon.
+IconImage currentIcon(const EditState& state);
+// Writes the Current Icon with the alpha channel that its record states. False as in WriteSingleIconFile.
+[[nodiscard]] bool writeCurrentIcon(const EditState& state, const std::string& path);
+// The same as a cursor.
+[[nodiscard]] bool writeCurrentCursor(const EditState& state, int hotspotX, int hotspotY, const std::string& path);
+// Updates the current record after writeCurrentIcon, see recordOfSavedIcon.
+void describeSavedIcon(EditState& state, const std::string& path);
+
+}  // namespace gp
