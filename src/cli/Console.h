@@ -2,8 +2,6 @@
 // arguments. Results go to stdout, complaints to stderr.
 #pragma once
 
-#include "platform/gdi/Surface.h"
-
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,7 +30,5 @@ bool takeOption(Arguments& arguments, std::string_view name, std::string& value)
 
 // False for anything but a number of 0 or more.
 bool parseNumber(std::string_view text, int& number);
-// False for anything but six hexadecimal digits, red first, in any case.
-bool parseColor(std::string_view text, Color& color);
 
 }  // namespace gp::cli

@@ -1,35 +1,28 @@
 // Effects on an image: what each makes of it and of its options, and every refusal.
 #include "cli/WrittenPicture.h"
-#include "effects/Buttonize.h"
-#include "effects/DisabledImage.h"
-#include "effects/Relief.h"
+#include "effects/EffectTable.h"
 
 namespace gp::test {
 namespace {
 
 struct EffectCase {
-  std::vector<std::string> words;  // behind OUT
-  std::function<IconImage(const IconImage&)> make;
-};
+  std::vector<std::string> words;  // behind OUT; the first is the effect's name
+  EffectValues values;
 
-EffectCase reliefCase(std::vector<std::string> words, ReliefSettings settings) {
-  return {std::move(words), [settings](const IconImage& p) { return relief(p.image, p.mask, settings); }};
-}
-EffectCase buttonCase(std::vector<std::string> words, int pattern) {
-  return {std::move(words), [pattern](const IconImage& p) { return buttonize(p.image, p.mask, {pattern}); }};
-}
+  IconImage make(const IconImage& icon) const { return findEffect(words.front())->apply(icon, values); }
+};
 
 // No two of them make the same.
 std::vector<EffectCase> effects() {
-  return {reliefCase({"embossed"}, {ReliefKind::Embossed}),
-          reliefCase({"engraved"}, {ReliefKind::Engraved}),
-          reliefCase({"raised"}, {ReliefKind::Raised}),
-          reliefCase({"shadowed"}, {ReliefKind::Shadowed, kBlack}),
-          reliefCase({"shadowed", "--color", "Ff8001"}, {ReliefKind::Shadowed, rgb(255, 128, 1)}),
-          buttonCase({"buttonize"}, 0),
-          buttonCase({"buttonize", "--style", "1"}, 1),
-          buttonCase({"buttonize", "--style", "2"}, 2),
-          {{"disabled"}, [](const IconImage& p) { return disabledImage(p.image, p.mask); }}};
+  return {{{"embossed"}, {}},
+          {{"engraved"}, {}},
+          {{"raised"}, {}},
+          {{"shadowed"}, {kBlack}},
+          {{"shadowed", "--color", "Ff8001"}, {rgb(255, 128, 1)}},
+          {{"buttonize"}, {0}},
+          {{"buttonize", "--style", "1"}, {1}},
+          {{"buttonize", "--style", "2"}, {2}},
+          {{"disabled"}, {}}};
 }
 
 // A disc in dark colours, black behind what is transparent.
@@ -144,14 +137,14 @@ TEST_F(GpiconEffect, TheIndexTellsTheImage) {
   const std::string path = folder.write("three.ico", fileOf({anyEntry(16, 4), entryOf(disc(48, 24)), anyEntry(32, 8)}));
   expectDone({"effect", path, "1", out, "raised"});
   const IconImage before = iconOf(disc(48, 24));
-  expectPixels(writtenIcon(out), relief(before.image, before.mask, {ReliefKind::Raised}));
+  expectPixels(writtenIcon(out), findEffect("raised")->apply(before, {}));
 }
 
 TEST_F(GpiconEffect, TheInputMayBeTheOutput) {
   const std::string input = write(disc(32, 24));
   const IconImage before = iconOf(disc(32, 24));
   expectDone({"effect", input, "0", input, "engraved"});
-  expectPixels(writtenIcon(input), relief(before.image, before.mask, {ReliefKind::Engraved}));
+  expectPixels(writtenIcon(input), findEffect("engraved")->apply(before, {}));
 }
 
 TEST_F(GpiconEffect, AlphaIsRefused) {

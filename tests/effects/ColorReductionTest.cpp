@@ -17,7 +17,7 @@ using Method = ReductionMethod;
 constexpr Method kMaskKeepers[] = {Method::Optimal,     Method::System,   Method::Optimized, Method::Nearest,
                                    Method::StandardVga, Method::Weighted, Method::Ordered};
 
-// Rows of a slow picture run upwards.
+// The rows of a reference picture start at the bottom.
 Surface surfaceOf(const SlowPicture& picture) {
   const int width = static_cast<int>(picture[0].size());
   const int height = static_cast<int>(picture.size());
@@ -30,7 +30,7 @@ Surface surfaceOf(const SlowPicture& picture) {
   return surface;
 }
 
-// Painted but for holes, some of which are neither black nor white.
+// A painted icon with holes. The Mask of some holes is neither black nor white.
 Surface holedMask(int width, int height) {
   Surface mask(width, height, kBlack);
   for (int y = 0; y < height; ++y)
@@ -72,7 +72,7 @@ bool isOneOfSixteen(const SlowColor& c) {
   return false;
 }
 
-// The rules of each level of red, told one by one.
+// The rules of each level of red, written one by one.
 SlowColor slowForced(SlowColor c) {
   auto& [r, g, b] = c;
   if (r == 255) {
@@ -234,21 +234,21 @@ TEST(ColorReduction, OnlyNearestLeavesPixelsThatInvert) {
   EXPECT_EQ(result.image.GetPixel(3, 0), kBlack);
 }
 
-// Pixels that do not show still count while colours are chosen and errors spread.
+// Invisible pixels take part in choosing colours and in spreading errors.
 TEST(ColorReduction, PixelsThatDoNotShowTakePart) {
   Surface image(2, 1, rgb(100, 100, 100));
   Surface mask(2, 1, kBlack);
   const auto second = [&] { return reduceColors(image, mask, {Method::Weighted}).image.GetPixel(1, 0); };
-  // The mean is 100: the first pixel is white and leaves the second one darker.
+  // The mean is 100: the first pixel becomes white and its error makes the second one darker.
   EXPECT_EQ(second(), kBlack);
   mask.SetPixelV(0, 0, kWhite);
   EXPECT_EQ(second(), kBlack);
-  // The mean is 50 now, and nothing is left over from the first pixel.
+  // The mean is 50, and the first pixel has no error.
   image.SetPixelV(0, 0, kBlack);
   EXPECT_EQ(second(), kWhite);
 }
 
-// The matrix of Ordered and all errors begin at the bottom left.
+// The matrix of Ordered and the spreading of errors start at the bottom left.
 TEST(ColorReduction, OrderedLeavesOneWhitePixelOfABlackBlockInItsBottomLeftCorner) {
   const IconImage icon = iconOf(flatRows(5, 5, 'b'));
   EXPECT_EQ(rowsOf(reduceColors(icon.image, icon.mask, {Method::Ordered})),
@@ -277,7 +277,7 @@ Rows cutOff(const Rows& rows, int threshold) {
   return rowsOf(reduceColors(icon.image, icon.mask, {Method::SelectCutoff, threshold}));
 }
 
-// 'b' where one painted pixel of that colour becomes black, '.' where it vanishes.
+// Returns 'b' when one painted pixel of that colour becomes black, '.' when it becomes transparent.
 char cutPixel(Color color, int threshold) {
   const Surface image(1, 1, color);
   const Surface mask(1, 1, kBlack);
@@ -319,19 +319,19 @@ TEST(Cutoff, TheGroundIsTransparentAndItsColorPaintedIsNot) {
 }
 
 TEST(Cutoff, PixelsThatInvertGoByWhatTheyShow) {
-  // White on the ground shows 0x3F3F3F.
+  // White that inverts the ground looks 0x3F3F3F.
   EXPECT_EQ(cutOff({"^"}, 63), Rows{"."});
   EXPECT_EQ(cutOff({"^"}, 64), Rows{"b"});
-  // (32, 96, 152) shows (224, 160, 88).
+  // (32, 96, 152) looks (224, 160, 88).
   EXPECT_EQ(cutOff({"~"}, 157), Rows{"."});
   EXPECT_EQ(cutOff({"~"}, 158), Rows{"b"});
 }
 
 TEST(Cutoff, AMaskThatIsNotWhiteIsNoGround) {
-  // Half the ground's bits show: 0x808080.
+  // Some of the ground's bits remain: it looks 0x808080.
   EXPECT_EQ(cutOff({"-"}, 128), Rows{"."});
   EXPECT_EQ(cutOff({"-"}, 129), Rows{"b"});
-  // It stays one where the picture makes it look like the ground.
+  // Even where the image makes it look like the ground.
   const Surface image(1, 1, rgb(64, 64, 64));
   const Surface mask(1, 1, rgb(128, 128, 128));
   EXPECT_EQ(rowsOf(reduceColors(image, mask, {Method::SelectCutoff, 193})), Rows{"b"});
