@@ -19,18 +19,34 @@ constexpr EffectRow kBrightness{.menu = {6, "&Adjust Brightness Of Colors ....",
 constexpr EffectRow kSharpen{.menu = {7, "Shar&pen / Soften Image ....", "Ctrl+F7", ""}, .panel = {10}};
 constexpr EffectRow kAntialias{.menu = {8, "A&ntialias ....", "Ctrl+F8", ""}, .panel = {11}};
 constexpr EffectRow kColorTheme{.menu = {9, "Set Color The&me ....", "Ctrl+F9", ""}, .panel = {12}};
-constexpr EffectRow kCast{.menu = {16, "&Cast ....", "", ""}, .panel = kShadesPanel};
-constexpr EffectRow kGrayscale{.menu = {17, "&Grayscale ....", "", ""}, .panel = kShadesPanel};
-constexpr EffectRow kInvert{.menu = {18, "&Invert / Negative ....", "", ""}, .panel = kShadesPanel};
+constexpr EffectRow kCast{.menu = {16, "&Cast ....", "", ""}};
+constexpr EffectRow kGrayscale{.menu = {17, "&Grayscale ....", "", ""}};
+constexpr EffectRow kInvert{.menu = {18, "&Invert / Negative ....", "", ""}};
 constexpr EffectRow kSwapElements{.menu = {20, "Swap Elements Of Pi&xels ....", "", ""}, .panel = {14}};
 constexpr EffectRow kBlend{.menu = {23, "Bl&end In Another Icon ....", "", ""}, .panel = {16}};
 constexpr EffectRow kTexture{.menu = {24, "Texturi&ze Painted Surface ....", "", ""}, .panel = {17}};
 
-// In the order of the menu.
+// In the order of the menu. The comments are the indices of mnuEffectsSub.
 constexpr const EffectRow* kEffects[] = {
-    &kText,       &kSphere,       &kButtonize,     &kGradient, &kBrightness, &kSharpen, &kAntialias,
-    &kColorTheme, &kEmbossed,     &kEngraved,      &kRaised,   &kShadowed,   &kCast,    &kGrayscale,
-    &kInvert,     &kSwapElements, &kDisabledImage, &kBlend,    &kTexture,
+    &kText,           // 0
+    &kSphere,         // 2
+    &kButtonize,      // 3
+    &kGradient,       // 4
+    &kBrightness,     // 6
+    &kSharpen,        // 7
+    &kAntialias,      // 8
+    &kColorTheme,     // 9
+    &kEmbossed,       // 11
+    &kEngraved,       // 12
+    &kRaised,         // 13
+    &kShadowed,       // 14
+    &kCast,           // 16
+    &kGrayscale,      // 17
+    &kInvert,         // 18
+    &kSwapElements,   // 20
+    &kDisabledImage,  // 21
+    &kBlend,          // 23
+    &kTexture,        // 24
 };
 
 template <class Matches>

@@ -25,6 +25,9 @@ struct EffectPanelPlace {
   const char* sampleLabel = "";  // objectName of the label that shows the title; empty for the plain label "Sample"
 };
 
+// The side panel of effects that need no panel of their own.
+inline constexpr EffectPanelPlace kSharedPanel{13, "picEffectsSample", "lblEffectsSample"};
+
 // Returns the icon with the effect. `values` are those of the row's settings; the result has the size of `icon`.
 using EffectFunction = IconImage (*)(const IconImage& icon, const EffectValues& values);
 
@@ -33,13 +36,10 @@ struct EffectRow {
   const char* title = "";  // shown on the side panel
   const char* help = "";   // one line for the help of gpicon
   EffectMenuEntry menu;
-  EffectPanelPlace panel;
+  EffectPanelPlace panel = kSharedPanel;
   std::span<const Setting> settings = {};
   EffectFunction apply = nullptr;  // null for an effect that the program does not have yet
 };
-
-// The side panel of effects that need no panel of their own.
-inline constexpr EffectPanelPlace kShadesPanel{13, "picEffectsSample", "lblEffectsSample"};
 
 // Effects that the program does not have yet are included.
 std::span<const EffectRow* const> effectTable();
