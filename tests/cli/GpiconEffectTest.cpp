@@ -165,18 +165,9 @@ TEST_F(GpiconEffect, WhatTheEditorDoesNotOpenIsRefused) { expectRefusalsOfFiles(
 
 TEST_F(GpiconEffect, WhatCannotBeWrittenLeavesNothing) { expectFailuresToWrite("effect", {"raised"}); }
 
-TEST_F(GpiconEffect, OptionsGoWithTheirEffectOnly) {
-  const std::string a = icon("a.ico", 16, 24);
-  for (const std::string name : {"embossed", "engraved", "raised", "buttonize", "disabled"})
-    expectBadUsage(call(a, {name, "--color", "000000"}), "effect: --color goes with shadowed only");
-  for (const std::string name : {"embossed", "engraved", "raised", "shadowed", "disabled"})
-    expectBadUsage(call(a, {name, "--style", "0"}), "effect: --style goes with buttonize only");
-}
-
 TEST_F(GpiconEffect, BadUsage) {
   const std::string a = icon("a.ico", 16, 24);
-  const std::string needed = "effect: IN.ico INDEX OUT.ico NAME is needed",
-                    once = "effect: --color and --style take one value each";
+  const std::string needed = "effect: IN.ico INDEX OUT.ico NAME is needed";
   expectBadUsage({"effect"}, needed);
   expectBadUsage(call(a, {}), needed);
   expectBadUsage(call(a, {"raised", "raised"}), needed);
@@ -187,11 +178,6 @@ TEST_F(GpiconEffect, BadUsage) {
     expectBadUsage(call(a, {"shadowed", "--color", color}), "effect: --color takes six hexadecimal digits");
   for (const std::string style : {"3", "-1", "x", "0x1", "99999999999"})
     expectBadUsage(call(a, {"buttonize", "--style", style}), "effect: --style takes a number from 0 to 2");
-  expectBadUsage(call(a, {"shadowed", "--color"}), once);
-  expectBadUsage(call(a, {"shadowed", "--color", ""}), once);
-  expectBadUsage(call(a, {"shadowed", "--color", "000000", "--color", "000000"}), once);
-  expectBadUsage(call(a, {"buttonize", "--style"}), once);
-  expectBadUsage(call(a, {"buttonize", "--style", "1", "--style", "1"}), once);
   expectBadUsage(call(a, {"raised", "--threshold", "1"}), "effect: unknown option --threshold");
 }
 
