@@ -1,5 +1,6 @@
 #include "effects/EffectCases.h"
 
+#include <cctype>
 #include <gtest/gtest.h>
 #include <map>
 #include <set>
@@ -9,12 +10,15 @@ namespace {
 
 TEST(EffectTable, EachMenuEntryIsThereOnceInTheOrderOfTheMenu) {
   std::set<std::string> captions, keys;
+  std::set<int> accessLetters;
   int before = -1;
   for (const EffectRow* effect : effectTable()) {
     const EffectMenuEntry& entry = effect->menu;
     EXPECT_GT(entry.index, before) << entry.caption;
     before = entry.index;
-    EXPECT_NE(std::string_view(entry.caption).find('&'), std::string_view::npos) << entry.caption;
+    const std::size_t mark = std::string_view(entry.caption).find('&');
+    ASSERT_LT(mark + 1, std::string_view(entry.caption).size()) << entry.caption;
+    EXPECT_TRUE(accessLetters.insert(std::tolower(entry.caption[mark + 1])).second) << entry.caption;
     EXPECT_TRUE(captions.insert(entry.caption).second) << entry.caption;
     EXPECT_TRUE(!*entry.key || keys.insert(entry.key).second) << entry.caption;
   }
