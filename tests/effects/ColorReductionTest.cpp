@@ -1,4 +1,5 @@
 #include "effects/ColorReduction.h"
+#include "effects/EffectCases.h"
 #include "effects/Pictures.h"
 #include "palette/HalftonePalette.h"
 #include "palette/PalettePictures.h"
@@ -37,10 +38,6 @@ Surface holedMask(int width, int height) {
     for (int x = 0; x < width; ++x)
       if ((3 * x + 5 * y) % 7 == 1) mask.SetPixelV(x, y, (x + y) % 3 == 0 ? rgb(128, 128, 128) : kWhite);
   return mask;
-}
-
-bool arePixelsEqual(const Surface& a, const Surface& b) {
-  return a.width() == b.width() && a.height() == b.height() && std::ranges::equal(a.pixels(), b.pixels());
 }
 
 std::vector<SlowColor> slowColors(std::span<const Color> colors) {
@@ -173,8 +170,8 @@ TEST(ColorReduction, EqualsTheSlowModelOnEveryPicture) {
       Surface expected = surfaceOf(slow);
       if (method != Method::Nearest) blackOut(expected, mask);
       const IconImage result = reduceColors(image, mask, {method});
-      EXPECT_TRUE(arePixelsEqual(result.image, expected)) << picture.name << ' ' << static_cast<int>(method);
-      EXPECT_TRUE(arePixelsEqual(result.mask, mask)) << picture.name << ' ' << static_cast<int>(method);
+      EXPECT_TRUE(samePixels(result.image, expected)) << picture.name << ' ' << static_cast<int>(method);
+      EXPECT_TRUE(samePixels(result.mask, mask)) << picture.name << ' ' << static_cast<int>(method);
     }
   }
 }
@@ -186,8 +183,8 @@ TEST(ColorReduction, TheCutoffEqualsTheSlowModelOnEveryPicture) {
     for (const int threshold : {0, 1, 100, 128, 200, 255, 354}) {
       const IconImage result = reduceColors(image, mask, {Method::SelectCutoff, threshold});
       const IconImage expected = slowCutoff(image, mask, threshold);
-      EXPECT_TRUE(arePixelsEqual(result.image, expected.image)) << picture.name << ' ' << threshold;
-      EXPECT_TRUE(arePixelsEqual(result.mask, expected.mask)) << picture.name << ' ' << threshold;
+      EXPECT_TRUE(samePixels(result.image, expected.image)) << picture.name << ' ' << threshold;
+      EXPECT_TRUE(samePixels(result.mask, expected.mask)) << picture.name << ' ' << threshold;
     }
   }
 }
@@ -227,7 +224,7 @@ TEST(ColorReduction, WhatIsNotPaintedBecomesBlackAndTheMaskStays) {
 TEST(ColorReduction, OnlyNearestLeavesPixelsThatInvert) {
   const IconImage icon = iconOf({"~^/."});
   const IconImage result = reduceColors(icon.image, icon.mask, {Method::Nearest});
-  EXPECT_TRUE(arePixelsEqual(result.mask, icon.mask));
+  EXPECT_TRUE(samePixels(result.mask, icon.mask));
   EXPECT_EQ(result.image.GetPixel(0, 0), rgb(0, 128, 128));
   EXPECT_EQ(result.image.GetPixel(1, 0), kWhite);
   EXPECT_EQ(result.image.GetPixel(2, 0), rgb(0, 128, 128));

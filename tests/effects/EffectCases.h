@@ -73,14 +73,11 @@ inline std::vector<IconImage> generatedIcons(int size) {
   return {transparentIcon(size), full, sparse, dense};
 }
 
-inline bool haveSamePixels(const Surface& a, const Surface& b) {
-  return a.width() == b.width() && a.height() == b.height() &&
-         std::ranges::equal(
-             a.pixels(), b.pixels(), {}, [](std::uint32_t p) { return p & kColorBits; },
-             [](std::uint32_t p) { return p & kColorBits; });
+inline bool samePixels(const Surface& a, const Surface& b) {
+  return a.width() == b.width() && a.height() == b.height() && std::ranges::equal(a.pixels(), b.pixels());
 }
-inline bool haveSamePixels(const IconImage& a, const IconImage& b) {
-  return haveSamePixels(a.image, b.image) && haveSamePixels(a.mask, b.mask);
+inline bool samePixels(const IconImage& a, const IconImage& b) {
+  return samePixels(a.image, b.image) && samePixels(a.mask, b.mask);
 }
 
 }  // namespace gp::test

@@ -92,9 +92,9 @@ TEST(EffectTable, AnEffectKeepsTheSizeAndLeavesTheIconAsItIs) {
           EXPECT_EQ(result.mask.width(), size) << effect->name;
           EXPECT_EQ(result.mask.height(), size) << effect->name;
           EXPECT_FALSE(result.hasAlphaValues()) << effect->name;
-          EXPECT_TRUE(haveSamePixels(effect->apply(icon, values), result)) << effect->name;
+          EXPECT_TRUE(samePixels(effect->apply(icon, values), result)) << effect->name;
         }
-        EXPECT_TRUE(haveSamePixels(icon, before)) << effect->name;
+        EXPECT_TRUE(samePixels(icon, before)) << effect->name;
       }
 }
 
@@ -106,7 +106,7 @@ TEST(EffectTable, TheLowestAndTheHighestValueOfASettingMakeDifferentIcons) {
       EffectValues low = firstValues(effect->settings), high = low;
       low.set(i, all.front());
       high.set(i, all.back());
-      EXPECT_FALSE(haveSamePixels(effect->apply(icon, low), effect->apply(icon, high)))
+      EXPECT_FALSE(samePixels(effect->apply(icon, low), effect->apply(icon, high)))
           << effect->name << " --" << effect->settings[i].option;
     }
 }

@@ -41,7 +41,7 @@ TEST_F(SettingsPanelTest, EachChoiceOfEachSettingIsAValueAndIsSeenInTheSample) {
       EXPECT_EQ(changes, 1);
       EXPECT_EQ(panel.choiceOf(setting), choice);
       EXPECT_EQ(panel.values().number(i), valueOfChoice(setting, choice, state.mCurrentColor)) << setting.option;
-      EXPECT_TRUE(haveSamePixels(panel.picture(), madeUp(frame.currentIcon(), panel.values()))) << setting.option;
+      EXPECT_TRUE(samePixels(panel.picture(), madeUp(frame.currentIcon(), panel.values()))) << setting.option;
     }
   }
 }
@@ -68,7 +68,7 @@ TEST_F(SettingsPanelTest, ItShowsTheSettingsOfOneEffectAtATimeAndKeepsTheChoices
   EXPECT_EQ(&panel.effect(), &kPainted);
   for (const Setting& setting : kMadeUpSettings) EXPECT_FALSE(panel.shows(setting));
   EXPECT_EQ(panel.values(), EffectValues());
-  EXPECT_TRUE(haveSamePixels(panel.picture(), painted(frame.currentIcon(), {})));
+  EXPECT_TRUE(samePixels(panel.picture(), painted(frame.currentIcon(), {})));
   panel.open(kMadeUp);
   for (const Setting& setting : kMadeUpSettings) EXPECT_TRUE(panel.shows(setting));
   EXPECT_EQ(panel.values().number(2), 2);
@@ -81,7 +81,7 @@ TEST_F(SettingsPanelTest, ProceedCommitsWhatTheSampleShows) {
   const IconImage shown = panel.picture();
   const int steps = drawing.history.undoCount();
   panel.proceed();
-  EXPECT_TRUE(haveSamePixels(frame.currentIcon(), shown));
+  EXPECT_TRUE(samePixels(frame.currentIcon(), shown));
   EXPECT_EQ(drawing.history.undoCount(), steps + 1);
   EXPECT_EQ(isUp(), kColorPanel);
 }

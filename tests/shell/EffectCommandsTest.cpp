@@ -62,15 +62,6 @@ TEST_F(EffectCommandsTest, AnIconWithAlphaValuesIsRefused) {
   }
 }
 
-TEST_F(EffectCommandsTest, EffectsThatTheProgramDoesNotHaveYetAreDisabled) {
-  startWithNew();
-  for (const int index : {0, 2, 4, 6, 7, 8, 9, 16, 17, 18, 20, 23, 24}) {
-    EXPECT_FALSE(enabled("mnuEffectsSub", index)) << index;
-    shell.effects().open(index);
-    EXPECT_EQ(panel(), kColorPanel);
-  }
-}
-
 TEST_F(EffectCommandsTest, UntilProceedTheIconStaysAndCloseKeepsItSo) {
   startWithNew();
   paintManyColors();

@@ -4,6 +4,7 @@
 #include "colour/ColorCount.h"
 #include "document/PanelNumbers.h"
 #include "effects/ConfinePanel.h"
+#include "effects/EffectCases.h"
 #include "effects/SettingsPanel.h"
 #include "support/ShellFixture.h"
 
@@ -14,10 +15,6 @@ namespace gp::test {
 inline constexpr int kNewIcon32 = 2, kNewIcon16 = 3, kUndoAll = 0, kUndo = 1, kRedo = 2, kButtonize = 3, kEmbossed = 11;
 inline constexpr int kButtonizePanel = 7, kReliefPanel = 13, kDisabledPanel = 15;
 inline constexpr Color kRed = rgb(255, 0, 0);
-
-inline bool samePixels(const Surface& a, const Surface& b) {
-  return a.width() == b.width() && a.height() == b.height() && std::ranges::equal(a.pixels(), b.pixels());
-}
 
 class EffectFixture : public ShellFixture {
  protected:

@@ -1,6 +1,5 @@
 // What holds for every effect of the table, in the whole program.
 #include "document/Containers.h"
-#include "effects/EffectCases.h"
 #include "shell/EffectFixture.h"
 
 namespace gp::test {
@@ -20,14 +19,14 @@ class EffectTableCommandsTest : public EffectFixture {
   void expectMade(const EffectRow& effect, const IconImage& icon) {
     SettingsPanel& side = panelOf(effect);
     const IconImage expected = effect.apply(icon, side.values());
-    EXPECT_TRUE(haveSamePixels(side.picture(), expected)) << effect.name;
-    EXPECT_TRUE(haveSamePixels(current(), icon)) << effect.name;
+    EXPECT_TRUE(samePixels(side.picture(), expected)) << effect.name;
+    EXPECT_TRUE(samePixels(current(), icon)) << effect.name;
     shell.cmdProceed();
     EXPECT_EQ(panel(), kColorPanel);
-    EXPECT_TRUE(haveSamePixels(current(), expected)) << effect.name;
+    EXPECT_TRUE(samePixels(current(), expected)) << effect.name;
     EXPECT_TRUE(state.current().modified);
     click("mnuEditSub", kUndo);
-    EXPECT_TRUE(haveSamePixels(current(), icon)) << effect.name;
+    EXPECT_TRUE(samePixels(current(), icon)) << effect.name;
     EXPECT_FALSE(enabled("mnuEditSub", kUndo));
   }
 };
@@ -83,7 +82,7 @@ TEST_F(EffectTableCommandsTest, CloseChangesNothing) {
       for (const Setting& setting : effect->settings) panelOf(*effect).choose(setting, choiceCount(setting) - 1);
       shell.cmdCancel();
       EXPECT_EQ(panel(), kColorPanel);
-      EXPECT_TRUE(haveSamePixels(current(), icon)) << effect->name;
+      EXPECT_TRUE(samePixels(current(), icon)) << effect->name;
       EXPECT_EQ(state.current().modified, wasModified);
       EXPECT_FALSE(enabled("mnuEditSub", kUndo)) << effect->name;
     }

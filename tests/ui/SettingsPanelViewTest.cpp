@@ -76,7 +76,7 @@ TEST_F(EffectTablePanelsTest, ReturnAppliesTheEffectThatTheSampleShows) {
     const IconImage shown = shell.effects().settingsPanel(effect->panel.number)->picture();
     key(Qt::Key_Return);
     EXPECT_EQ(state.screen.mActivePanel, kColorPanel) << effect->name;
-    EXPECT_TRUE(test::haveSamePixels({state.picImage, state.picMask, {}}, shown)) << effect->name;
+    EXPECT_TRUE(test::samePixels({state.picImage, state.picMask, {}}, shown)) << effect->name;
   }
   state.current().modified = false;
 }
