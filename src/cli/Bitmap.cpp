@@ -1,6 +1,9 @@
 #include "cli/OneImage.h"
 #include "cli/Subcommands.h"
 #include "files/saving/BitmapSaving.h"
+#include "platform/text/ColorDigits.h"
+
+#include <optional>
 
 namespace gp::cli {
 int runBmp(const Arguments& arguments) {
@@ -9,8 +12,11 @@ int runBmp(const Arguments& arguments) {
   Color background = kGround;
   ImageArguments told;
   if (!takeOption(rest, "--background", color)) return badUsage("bmp: one --background RRGGBB is all it takes");
-  if (!color.empty() && !parseColor(color, background))
-    return badUsage("bmp: --background takes six hexadecimal digits");
+  if (!color.empty()) {
+    const std::optional<Color> chosen = colorOfDigits(color);
+    if (!chosen) return badUsage("bmp: --background takes six hexadecimal digits");
+    background = *chosen;
+  }
   if (const int status = takeImageArguments("bmp", "IN.ico INDEX OUT.bmp", rest, 0, told); status != kDone)
     return status;
   const auto loaded = loadImage(told);

@@ -23,9 +23,6 @@ std::string oneLine(std::string_view text) {
   return line;
 }
 
-constexpr std::size_t kColorDigits = 6;
-constexpr int kHexadecimal = 16;
-
 }  // namespace
 
 void complain(const std::string& file, const std::string& reason) {
@@ -70,17 +67,6 @@ bool parseNumber(std::string_view text, int& number) {
   const char* const end = text.data() + text.size();
   const auto [stop, error] = std::from_chars(text.data(), end, number);
   return error == std::errc() && stop == end && number >= 0;
-}
-
-bool parseColor(std::string_view text, Color& color) {
-  std::uint32_t number = 0;
-  const char* const end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, number, kHexadecimal);
-  if (text.size() != kColorDigits || error != std::errc() || stop != end) return false;
-  // The digits have red in the highest byte, a Color in the lowest.
-  const auto turned = static_cast<Color>(number);
-  color = rgb(blueOf(turned), greenOf(turned), redOf(turned));
-  return true;
 }
 
 }  // namespace gp::cli

@@ -2,8 +2,6 @@
 // stdout, errors to stderr.
 #pragma once
 
-#include "platform/gdi/Surface.h"
-
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,7 +30,5 @@ bool takeOption(Arguments& arguments, std::string_view name, std::string& value)
 
 // False for anything but a number from 0 up.
 bool parseNumber(std::string_view text, int& number);
-// False for anything but six hexadecimal digits in any case, red first.
-bool parseColor(std::string_view text, Color& color);
 
 }  // namespace gp::cli

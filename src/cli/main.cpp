@@ -1,4 +1,5 @@
 // gpicon: inspects and changes icon files on the command line, with Glimmerpane's core.
+#include "cli/EffectOptions.h"
 #include "cli/Subcommands.h"
 
 #include <algorithm>
@@ -13,7 +14,12 @@ struct Subcommand {
   const char* usage;
   const char* help;
   int (*run)(const Arguments& arguments);
+  // What tables add to the usage and to the help; null for nothing.
+  std::string (*moreUsage)() = nullptr;
+  std::string (*moreHelp)() = nullptr;
 };
+
+std::string withMore(const char* text, std::string (*more)()) { return more ? text + more() : text; }
 
 constexpr std::array<Subcommand, 14> kSubcommands{{
     {"probe", "probe FILE...",
@@ -86,13 +92,9 @@ constexpr std::array<Subcommand, 14> kSubcommands{{
      "With cutoff, pixels whose mean channel is below N, without it 128, become black and\n"
      "the others transparent.",
      runReduce},
-    {"effect", "effect IN.ico INDEX OUT.ico NAME [--color RRGGBB] [--style N]",
-     "Applies an effect to one image and saves it as resave does. Refused with alpha.\n"
-     "  embossed, engraved, raised\n"
-     "  shadowed   the shadow has the color, without it black\n"
-     "  buttonize  the frame has style 0, one line; 1, boxed; or 2, two tones\n"
-     "  disabled",
-     runEffect},
+    {"effect", "effect IN.ico INDEX OUT.ico NAME",
+     "Applies an effect to one image and saves it as resave does. Refused with alpha.", runEffect, effectUsage,
+     effectHelp},
     {"replace", "replace FILE INDEX ICON.ico [-o OUT]",
      "Puts ICON.ico in the place of one image. The icon is loaded and saved as the\n"
      "editor does; of several images it has, the one that probe chooses. Refused when\n"
@@ -116,7 +118,9 @@ constexpr std::array<Subcommand, 14> kSubcommands{{
 
 void printHelp() {
   std::puts("gpicon - looks into Windows icon and cursor files, takes icon files apart and changes them\n");
-  for (const Subcommand& command : kSubcommands) std::printf("gpicon %s\n%s\n\n", command.usage, command.help);
+  for (const Subcommand& command : kSubcommands)
+    std::printf("gpicon %s\n%s\n\n", withMore(command.usage, command.moreUsage).c_str(),
+                withMore(command.help, command.moreHelp).c_str());
   std::puts(
       "gpicon --help\nPrints this.\n\n"
       "Indices and styles count from 0. Options end at \"--\". Colors are six hexadecimal\n"

@@ -1,5 +1,5 @@
-#include "effects/Buttonize.h"
-
+// The icon framed as a button. The pixels of the frame are painted, its four corners are transparent.
+#include "effects/EffectTable.h"
 #include "effects/PaintedPixels.h"
 #include "platform/gdi/Pens.h"
 #include "platform/gdi/SurfaceOps.h"
@@ -10,7 +10,7 @@
 namespace gp {
 namespace {
 
-// A column or row of the frame: pixels inward from the first one or from the last.
+// A column or row of the frame: the number of pixels inward from the first one or from the last.
 struct Position {
   bool fromLast;
   int inward;
@@ -19,7 +19,7 @@ struct Position {
 constexpr Position first(int inward = 0) { return {false, inward}; }
 constexpr Position last(int inward = 0) { return {true, inward}; }
 
-// One of Pens.h: a line, which ends before its second point, a box or, with both points the same, a pixel.
+// A function of Pens.h: draws a line, which ends before its second point, a box, or a pixel when both points are equal.
 using Draw = void (*)(Surface& surface, int x1, int y1, int x2, int y2, Color color);
 
 struct FramePart {
@@ -31,7 +31,7 @@ struct FramePart {
 constexpr Color kPale = 0xE0E0E0;
 constexpr Color kDim = 0x888888;
 
-// Later parts lie over earlier ones.
+// Later parts are drawn over earlier ones.
 constexpr FramePart kOneLine[] = {
     {DrawLine, first(), first(), last(), first(), kWhite},
     {DrawLine, last(), first(), last(), last(), kBlack},
@@ -59,10 +59,12 @@ constexpr FramePart kTwoTones[] = {
     {FillBox, last(1), last(1), last(1), last(1), kDim},
 };
 
-constexpr std::array<std::span<const FramePart>, kButtonPatterns> kPatterns{kOneLine, kBoxed, kTwoTones};
+constexpr std::array<std::span<const FramePart>, 3> kPatterns{kOneLine, kBoxed, kTwoTones};
+constexpr int kLastPattern = static_cast<int>(kPatterns.size()) - 1;
 
+// A pattern that does not exist counts as the first.
 std::span<const FramePart> partsOf(int pattern) {
-  return kPatterns[pattern >= 0 && pattern < kButtonPatterns ? static_cast<std::size_t>(pattern) : 0];
+  return kPatterns[pattern >= 0 && pattern <= kLastPattern ? static_cast<std::size_t>(pattern) : 0];
 }
 
 void draw(const FramePart& part, Surface& surface, Color color) {
@@ -76,24 +78,38 @@ void setCorners(Surface& surface, Color color) {
     for (const int y : {0, surface.height() - 1}) surface.SetPixelV(x, y, color);
 }
 
-// The same picture under a thin solid pen, whatever pen the original has.
+// The same pixels with a thin solid pen, whatever pen the original has.
 Surface copyOf(const Surface& picture) {
   Surface copy(picture.width(), picture.height());
   BitbltPic(picture, copy);
   return copy;
 }
 
+IconImage buttonize(const IconImage& icon, const EffectValues& values) {
+  IconImage result{copyOf(icon.image), copyOf(icon.mask), {}};
+  for (const FramePart& part : partsOf(values.number(0))) {
+    draw(part, result.image, part.color);
+    draw(part, result.mask, kBlack);
+  }
+  setCorners(result.image, kBlack);
+  setCorners(result.mask, kWhite);
+  return result;
+}
+
+constexpr Setting kSettings[] = {{.option = "style",
+                                  .to = kLastPattern,
+                                  .control = "cboButtonizePattern",
+                                  .label = "&Style:",
+                                  .help = "0 one line, 1 boxed, 2 two tones"}};
+
 }  // namespace
 
-IconImage buttonize(const Surface& image, const Surface& mask, const ButtonizeSettings& settings) {
-  IconImage icon{copyOf(image), copyOf(mask), {}};
-  for (const FramePart& part : partsOf(settings.pattern)) {
-    draw(part, icon.image, part.color);
-    draw(part, icon.mask, kBlack);
-  }
-  setCorners(icon.image, kBlack);
-  setCorners(icon.mask, kWhite);
-  return icon;
-}
+extern const EffectRow kButtonize{.name = "buttonize",
+                                  .title = "Buttonize",
+                                  .help = "a frame as of a button",
+                                  .menu = {3, "&Buttonize Icon ....", "Ctrl+F4", "buttonize"},
+                                  .panel = {7, "picButtonize"},
+                                  .settings = kSettings,
+                                  .apply = buttonize};
 
 }  // namespace gp

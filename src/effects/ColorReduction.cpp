@@ -33,9 +33,9 @@ void snapAll(clsGPDIB& dib) {
 struct Reduction {
   ReductionMethod method;
   void (*reduce)(clsGPDIB& dib);
-  bool keepsInverting = false;  // pixels that invert stay so
+  bool keepsInverting = false;  // inverting pixels stay inverting
 };
-// Those that know nothing of a Mask.
+// The methods that work on the image without the Mask.
 constexpr std::array kReductions{Reduction{ReductionMethod::Optimal, dithered<ditherToOptimal>},
                                  Reduction{ReductionMethod::System, matchToHalftone},
                                  Reduction{ReductionMethod::Optimized, dithered<ditherToStandard>},
@@ -57,7 +57,7 @@ bool isBelow(Color color, int threshold) {
   return (redOf(color) + greenOf(color) + blueOf(color)) / kChannels < threshold;
 }
 
-// It goes by the look of the icon on its ground, which is what pixels that invert are judged by.
+// Works on the icon as it looks on the ground colour, which decides about inverting pixels.
 IconImage cutOff(const Surface& image, const Surface& mask, int threshold) {
   const Surface look = composedIcon(image, mask);
   IconImage icon = emptyIcon(image.width(), image.height());

@@ -1,4 +1,4 @@
-// An icon brought down to 256, 16 or 2 colours.
+// Reduces an icon to 256, 16 or 2 colours.
 #pragma once
 
 #include "document/IconImage.h"
@@ -9,13 +9,14 @@ enum class ReductionMethod { Optimal, System, Optimized, Nearest, StandardVga, S
 
 struct ReductionSettings {
   ReductionMethod method = ReductionMethod::Optimal;
-  int threshold = 128;  // of SelectCutoff: a pixel whose mean channel is below becomes black
+  int threshold = 128;  // of SelectCutoff: a pixel whose mean channel is lower becomes black
 };
 
-// The icon with fewer colours: Optimal has 256 chosen for this picture, System those of the platform's halftone
-// palette; Optimized, Nearest and StandardVga have the sixteen standard colours; the others are black and white. All
-// but SelectCutoff keep the Mask. All but Nearest leave the image black where the Mask is not, so that pixels which
-// invert become transparent. SelectCutoff paints black alone and makes the rest transparent.
+// Returns the icon with fewer colours. Optimal chooses 256 colours for this picture, System uses those of the
+// platform's halftone palette. Optimized, Nearest and StandardVga use the sixteen standard colours, the other methods
+// black and white. All methods except SelectCutoff keep the Mask. All except Nearest make the image black where the
+// Mask is not, so that inverting pixels become transparent. SelectCutoff paints in black only and makes all other
+// pixels transparent.
 IconImage reduceColors(const Surface& image, const Surface& mask, const ReductionSettings& settings);
 
 }  // namespace gp

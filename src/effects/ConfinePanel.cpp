@@ -45,7 +45,7 @@ void ConfinePanel::doConfineColors(int run) {
   frame().context().pump.pump();
 }
 
-// Another icon may have come up under the Panel.
+// The icon may be another one than the panel was opened for.
 bool ConfinePanel::mayProceed() { return EffectPanel::mayProceed() && !hasFewColors(run_); }
 
 bool ConfinePanel::hasFewColors(int run) {
@@ -65,7 +65,7 @@ void ConfinePanel::offerToCorrectRecord(int colors) {
           "The header entry of current icon is 24-BPP True Color,  but the actual  image is of " + number +
           "-color.    Proceed to change header entry?"))
     return;
-  // Both depths, as a save would write them; and so that a save is not forgotten, the icon counts as changed.
+  // Both depths, as a save would write them. The icon counts as changed, so that the program asks to save it.
   IconContainerRec& record = frame().state().current();
   record.dirColors = record.bihColors = colors;
   record.bitCount = record.bihBitCount = static_cast<std::int16_t>(convBPP_Upto24(colors));
@@ -100,9 +100,9 @@ void ConfinePanel::confinePreview() {
   frame().context().pump.pump();
 }
 
-IconImage ConfinePanel::apply(const Surface& image, const Surface& mask) const {
+IconImage ConfinePanel::apply(const IconImage& icon) const {
   const ReductionMethod method = rowOf(run_).methods[static_cast<std::size_t>(cboConfineColors(run_))];
-  return reduceColors(image, mask, {method, thresholdIndex_ + kFirstThreshold});
+  return reduceColors(icon.image, icon.mask, {method, thresholdIndex_ + kFirstThreshold});
 }
 
 }  // namespace gp

@@ -1,5 +1,6 @@
-#include "effects/DisabledImage.h"
-
+// The grey, etched look of a toolbar button that cannot be pressed: the dark painted pixels in grey with a white edge
+// to the bottom right. Colours with a channel of 153 or more drop out; an icon made only of such colours becomes empty.
+#include "effects/EffectTable.h"
 #include "effects/PaintedPixels.h"
 
 namespace gp {
@@ -12,7 +13,7 @@ bool isDark(std::uint32_t pixel) {
   return redOf(color) < kPaleLevel && greenOf(color) < kPaleLevel && blueOf(color) < kPaleLevel;
 }
 
-// The dark painted pixels, as a Mask.
+// Returns the dark painted pixels as a Mask.
 Surface darkShape(const Surface& image, const Surface& mask) {
   Surface shape(image.width(), image.height(), kWhite);
   for (int y = 0; y < image.height(); ++y) {
@@ -25,14 +26,21 @@ Surface darkShape(const Surface& image, const Surface& mask) {
   return shape;
 }
 
+IconImage disabledImage(const IconImage& icon, const EffectValues& /*values*/) {
+  const Surface shape = darkShape(icon.image, icon.mask);
+  IconImage result = emptyIcon(icon.width(), icon.height());
+  stamp(result, shape, 1, kWhite);
+  stamp(result, shape, 0, kEdgeGrey);
+  return result;
+}
+
 }  // namespace
 
-IconImage disabledImage(const Surface& image, const Surface& mask) {
-  const Surface shape = darkShape(image, mask);
-  IconImage icon = emptyIcon(image.width(), image.height());
-  stamp(icon, shape, 1, kWhite);
-  stamp(icon, shape, 0, kEdgeGrey);
-  return icon;
-}
+extern const EffectRow kDisabledImage{.name = "disabled",
+                                      .title = "Image for disabled button",
+                                      .help = "the look of a toolbar button that cannot be pressed",
+                                      .menu = {21, "Image For &Disabled Buton ....", "", ""},
+                                      .panel = {15, "picImageForDisabledBtn"},
+                                      .apply = disabledImage};
 
 }  // namespace gp

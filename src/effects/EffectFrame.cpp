@@ -30,6 +30,8 @@ bool EffectFrame::mayApply() {
   return !record.hasAlpha;
 }
 
+IconImage EffectFrame::currentIcon() const { return {state_.picImage, state_.picMask, {}}; }
+
 void EffectFrame::applyTemps(const IconImage& result) {
   BitbltPic(result.image, state_.picImage);
   BitbltPic(result.mask, state_.picMask);
@@ -37,7 +39,7 @@ void EffectFrame::applyTemps(const IconImage& result) {
 }
 
 void EffectFrame::copyPanelAfterApply() {
-  // First of all: a Panel that is up follows the icon with its samples.
+  // First, because a visible panel makes new samples whenever the icon changes.
   context_.editor.showPanel(kColorPanel);
   state_.current().modified = true;
   document_.editingArea.ComposeCurrentIcon();

@@ -1,5 +1,5 @@
-// What all Panels share that change the Current Icon by an effect: whether it takes one, the Panel's coming and going,
-// and putting a result in the icon's place. Nothing touches the icon before that.
+// What the side panels of all effects share: whether the Current Icon takes an effect, whether the panel is visible,
+// and replacing the icon by the result. Nothing changes the icon before that.
 #pragma once
 
 #include "document/Context.h"
@@ -14,18 +14,21 @@ class EffectFrame {
  public:
   EffectFrame(const Context& context, Document& document, UndoHistory& history);
 
-  // Whether an effect may change the Current Icon; if not, says why: there is none, or it has alpha values, which would
-  // no longer fit its pixels.
+  // Whether the Current Icon takes an effect. If not, shows the reason: there is no icon, or it has alpha values, which
+  // would no longer fit its pixels.
   bool mayApply();
+  // Whether fraPanel(panel) is visible.
   bool isUp(int panel) const;
+  // The pixels of the Current Icon, without alpha values.
+  IconImage currentIcon() const;
 
-  // The result becomes the Current Icon, and the Panel closes. Records no step of Undo.
+  // Replaces the Current Icon by the result and closes the panel. Records no step of Undo.
   void applyTemps(const IconImage& result);
-  // The same where picImage alone has been given its new pixels.
+  // The same when picImage and picMask already have their new pixels.
   void copyPanelAfterApply();
 
-  // How many colours a Surface has; 0 without pixels. Effects on the unpainted area ask it of the Mask, which is all
-  // painted or all transparent when it has one.
+  // Returns the number of colours of a Surface; 0 without pixels. A Mask of one colour is all painted or all
+  // transparent.
   int countMaskColors(const Surface& surface);
 
   const Context& context() const { return context_; }

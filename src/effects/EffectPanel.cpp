@@ -9,12 +9,12 @@
 
 namespace gp {
 
-void EffectPanel::open(int) {
+void EffectPanel::open(const EffectRow& /*effect*/) {
   if (frame_.mayApply()) show();
 }
 
 void EffectPanel::show() {
-  // Which control takes the focus depends on the settings.
+  // The settings decide which control takes the focus.
   if (onChange) onChange();
   frame_.context().editor.showPanel(number_);
   preview();
@@ -25,7 +25,7 @@ void EffectPanel::preview() {
   if (!frame_.isUp(number_)) return;
   {
     const Hourglass hourglass(frame_.state(), frame_.context().display);
-    picture_ = state.current().present ? apply(state.picImage, state.picMask) : IconImage{};
+    picture_ = state.current().present ? apply(frame_.currentIcon()) : IconImage{};
     sample_ = composedIcon(picture_.image, picture_.mask);
   }
   if (onChange) onChange();
@@ -37,9 +37,9 @@ void EffectPanel::proceed() {
   {
     const Hourglass hourglass(state, frame_.context().display);
     frame_.document().iconsPanel.EndToolAction();
-    frame_.applyTemps(apply(state.picImage, state.picMask));
+    frame_.applyTemps(apply(frame_.currentIcon()));
   }
-  // It pumps messages, and so comes when the Panel can no longer be used.
+  // Recording pumps messages, so it comes after the panel is closed.
   if (!isStep()) frame_.history().clearUndoHistory();
   frame_.history().recordUndo();
 }

@@ -1,5 +1,5 @@
-// A Panel that shows what an effect would make of the Current Icon, and makes it on Proceed. Both come from the one
-// function that a Panel of its own gives here; so the samples are what the icon becomes.
+// A side panel that shows the Current Icon with an effect, and applies the effect on Proceed. The sample and the result
+// come from the same function, `apply`, so the sample always shows what Proceed makes.
 #pragma once
 
 #include "document/IconImage.h"
@@ -9,39 +9,41 @@
 
 namespace gp {
 
+struct EffectRow;
+
 class EffectPanel {
  public:
-  // `number` is the index of fraPanel. A class of its own has it as kNumber, and as kCommands the indices of
-  // mnuEffectsSub that open it.
+  // `number` is the index of fraPanel.
   EffectPanel(EffectFrame& frame, int number) : frame_(frame), number_(number) {}
   virtual ~EffectPanel() = default;
   EffectPanel(const EffectPanel&) = delete;
   EffectPanel& operator=(const EffectPanel&) = delete;
 
-  // Brings the Panel up for one of its commands, if the icon takes effects.
-  virtual void open(int command);
-  // Makes the samples anew, from the icon as it is now: an empty one while there is none. Nothing while the Panel is
-  // not up.
+  // Shows the panel for one of its effects. When the Current Icon takes no effects, shows the reason instead.
+  virtual void open(const EffectRow& effect);
+  // Makes the samples again from the icon as it is now; they are empty while there is no icon. Does nothing while the
+  // panel is not visible.
   void preview();
-  // The icon becomes what the settings make of it, which may be another icon than the Panel came up for. The Panel
-  // stays up when the icon takes no effects.
+  // Applies the effect to the Current Icon, which may be another one than the panel was opened for, and closes the
+  // panel. When the icon takes no effects, shows the reason and leaves the panel open.
   void proceed();
 
   // The icon as last previewed, and its look.
   const IconImage& picture() const { return picture_; }
   const Surface& sample() const { return sample_; }
   int number() const { return number_; }
-  // What the view redraws when settings or samples changed.
+  // Called when settings or samples have changed, so that the view redraws them.
   std::function<void()> onChange;
 
  protected:
-  virtual IconImage apply(const Surface& image, const Surface& mask) const = 0;
-  // Whether the icon that is there now takes the effect; if not, says why.
+  // Returns the icon with the effect.
+  virtual IconImage apply(const IconImage& icon) const = 0;
+  // Whether the Current Icon takes the effect; if not, shows the reason.
   virtual bool mayProceed() { return frame_.mayApply(); }
-  // Whether it is a step of Undo; if not, nothing before it can be undone either.
+  // Whether Proceed is a step of Undo. If not, earlier steps cannot be undone either.
   virtual bool isStep() const { return true; }
 
-  // Brings the Panel up with its samples.
+  // Shows the panel with its samples.
   void show();
   EffectFrame& frame() const { return frame_; }
 

@@ -1,4 +1,4 @@
-// What effects tell: the same in the editor and on the command line.
+// Messages of effects that the editor and the command line share.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@ namespace gp {
 inline constexpr const char* kIconIsWithAlpha =
     "Current icon is with alpha, please run Convert 32 To 24 BPP\nto convert it to 24-BPP first.";
 
-// Why an icon of so few colours cannot be reduced.
+// Why an icon with this number of colours cannot be reduced.
 inline std::string fewColorsText(int colors) {
   return "Current image is of " + std::to_string(colors) + "-color depth.  ";
 }

@@ -1,50 +1,29 @@
 #include "effects/Effects.h"
 
-#include "effects/ButtonizePanel.h"
 #include "effects/ConfinePanel.h"
-#include "effects/DisabledImagePanel.h"
-#include "effects/ShadesPanel.h"
+#include "effects/SettingsPanel.h"
 
 #include <algorithm>
-#include <array>
-#include <span>
 
 namespace gp {
-namespace {
 
-struct EffectRow {
-  std::span<const int> commands;  // indices of mnuEffectsSub
-  int number;                     // of its Panel
-  std::unique_ptr<EffectPanel> (*make)(EffectFrame& frame);
-};
-
-template <class Panel>
-constexpr EffectRow kRowOf{Panel::kCommands, Panel::kNumber, [](EffectFrame& frame) -> std::unique_ptr<EffectPanel> {
-                             return std::make_unique<Panel>(frame);
-                           }};
-
-// Each effect is one row.
-constexpr std::array kEffects{kRowOf<ButtonizePanel>, kRowOf<ShadesPanel>, kRowOf<DisabledImagePanel>,
-                              kRowOf<ConfinePanel>};
-
-const EffectRow* findCommand(int command) {
-  const auto* row = std::ranges::find_if(kEffects, [command](const EffectRow& effect) {
-    return std::ranges::find(effect.commands, command) != effect.commands.end();
-  });
-  return row == kEffects.end() ? nullptr : row;
-}
-
-}  // namespace
-
+// Panels of a class of their own come first; those of settings follow from the table of effects.
 Effects::Effects(const Context& context, Document& document, UndoHistory& history)
     : frame_(context, document, history) {
-  for (const EffectRow& row : kEffects) panels_.push_back(row.make(frame_));
+  panels_.push_back(std::make_unique<ConfinePanel>(frame_));
+  for (const EffectRow* effect : effectTable())
+    if (effect->apply && !find(effect->panel.number)) addSettingsPanel(effect->panel.number);
 }
 
-bool Effects::has(int command) const { return findCommand(command) != nullptr; }
+void Effects::addSettingsPanel(int number) {
+  std::vector<const EffectRow*> effects;
+  for (const EffectRow* effect : effectTable())
+    if (effect->apply && effect->panel.number == number) effects.push_back(effect);
+  panels_.push_back(std::make_unique<SettingsPanel>(frame_, std::move(effects)));
+}
 
-void Effects::open(int command) {
-  if (const EffectRow* row = findCommand(command)) find(row->number)->open(command);
+void Effects::open(int menuIndex) {
+  if (const EffectRow* effect = findEffect(menuIndex)) find(effect->panel.number)->open(*effect);
 }
 
 void Effects::proceed(int number) {
@@ -55,5 +34,7 @@ EffectPanel* Effects::find(int number) const {
   const auto panel = std::ranges::find(panels_, number, &EffectPanel::number);
   return panel == panels_.end() ? nullptr : panel->get();
 }
+
+SettingsPanel* Effects::settingsPanel(int number) const { return dynamic_cast<SettingsPanel*>(find(number)); }
 
 }  // namespace gp

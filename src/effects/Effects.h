@@ -1,5 +1,5 @@
-// The face of the room: makes the panels of the effects, opens each by its command, and hands them to the rooms to the
-// right. It decides nothing.
+// The face of the room: makes the side panels of the effects, opens each by its command, and gives the rooms to the
+// right access to them. It makes no decisions.
 #pragma once
 
 #include "effects/EffectFrame.h"
@@ -10,25 +10,28 @@
 
 namespace gp {
 
+class SettingsPanel;
+
 class Effects {
  public:
   Effects(const Context& context, Document& document, UndoHistory& history);
 
-  // Whether an index of the Effects menu stands for an effect.
-  bool has(int command) const;
-  // Opens the panel of the effect that an index of the Effects menu stands for; nothing for another index.
-  void open(int command);
-  // Proceed of the Panel of that number; nothing if it is not one of an effect.
+  // Opens the panel of the effect at this index of mnuEffectsSub; does nothing when the program has no effect there.
+  void open(int menuIndex);
+  // Runs Proceed of the panel of that number; does nothing when that is no panel of an effect.
   void proceed(int number);
 
-  // A Panel by its class, which is in the table.
+  // The panel of a class of its own.
   template <class Panel>
   Panel& panel() const {
     return static_cast<Panel&>(*find(Panel::kNumber));
   }
+  // The panel of that number; null when that is no panel of settings.
+  SettingsPanel* settingsPanel(int number) const;
 
  private:
   EffectPanel* find(int number) const;
+  void addSettingsPanel(int number);
 
   EffectFrame frame_;
   std::vector<std::unique_ptr<EffectPanel>> panels_;

@@ -8,6 +8,17 @@ IconImage emptyIcon(int width, int height) {
   return {Surface(width, height, kBlack), Surface(width, height, kWhite), {}};
 }
 
+IconImage mapPainted(const IconImage& icon, const std::function<Color(Color)>& map) {
+  IconImage result{icon.image, icon.mask, {}};
+  for (int y = 0; y < icon.height(); ++y) {
+    const std::uint32_t* shape = icon.mask.row(y).data();
+    std::uint32_t* pixels = result.image.rowForWriting(y, 0, icon.width());
+    for (int x = 0; x < icon.width(); ++x)
+      if (isPainted(shape[x])) pixels[x] = storedForm(map(static_cast<Color>(pixels[x] & kColorBits)));
+  }
+  return result;
+}
+
 void stamp(IconImage& icon, const Surface& mask, int step, Color color) {
   const int first = std::max(0, -step);
   const int right = mask.width() - std::max(0, step);

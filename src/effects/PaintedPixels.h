@@ -1,9 +1,10 @@
-// What effects on the shape of an icon are made of. A Mask's black pixels are the painted ones.
+// Building blocks of effects that work on the painted pixels of an icon, which are those that are black in the Mask.
 #pragma once
 
 #include "document/IconImage.h"
 
 #include <cstdint>
+#include <functional>
 
 namespace gp {
 
@@ -12,14 +13,18 @@ inline constexpr Color kEdgeGrey = rgb(128, 128, 128);
 
 inline bool isPainted(std::uint32_t maskPixel) { return (maskPixel & kColorBits) == storedForm(kBlack); }
 
-// An icon of that size without a painted pixel.
+// Returns an icon of that size without a painted pixel.
 IconImage emptyIcon(int width, int height);
 
-// Paints the shape of a Mask of the icon's size in one colour, moved `step` pixels right and as many down, or left and
-// up where that is negative. What would leave the icon is lost.
+// Returns the icon with the colour of each painted pixel replaced by what `map` returns for it. All other pixels and
+// the Mask stay as they are.
+IconImage mapPainted(const IconImage& icon, const std::function<Color(Color)>& map);
+
+// Paints the shape of a Mask of the icon's size in one colour, moved by `step` pixels to the right and downwards, or to
+// the left and upwards where it is negative. Pixels that would leave the icon are lost.
 void stamp(IconImage& icon, const Surface& mask, int step, Color color);
 
-// target takes the image's pixels where the Mask is black. The three have one size.
+// Copies the image's pixels into `target` where the Mask is black. The three have the same size.
 void copyPainted(const Surface& image, const Surface& mask, Surface& target);
 
 }  // namespace gp

@@ -1,35 +1,66 @@
-#include "effects/Relief.h"
-
+// An edge around the painted area: lit from the top left, lit from the bottom right, raised, or a shadow. The painted
+// area grows by up to one pixel on the sides that get an edge; the part of an edge outside the icon is lost.
+#include "effects/EffectTable.h"
 #include "effects/PaintedPixels.h"
-
-#include <array>
 
 namespace gp {
 namespace {
 
+// The colours of the edges to the top left and to the bottom right; kNoColor for no light edge.
 struct EdgeColors {
-  Color light;  // to the top left; kNoColor for no such edge
-  Color dark;   // to the bottom right
+  Color light;
+  Color dark;
 };
 
-EdgeColors edgeColors(const ReliefSettings& settings) {
-  // By the values of ReliefKind.
-  const std::array<EdgeColors, 4> colors{
-      {{kWhite, kEdgeGrey}, {kEdgeGrey, kWhite}, {kWhite, kBlack}, {kNoColor, settings.shadow}}};
-  return colors.at(static_cast<std::size_t>(settings.kind));
+// The order matters where the parts meet: light is drawn over dark, and the picture over both.
+IconImage relief(const IconImage& icon, const EdgeColors& colors) {
+  IconImage result = emptyIcon(icon.width(), icon.height());
+  stamp(result, icon.mask, 1, colors.dark);
+  if (colors.light != kNoColor) stamp(result, icon.mask, -1, colors.light);
+  stamp(result, icon.mask, 0, kBlack);
+  copyPainted(icon.image, icon.mask, result.image);
+  return result;
 }
+
+template <Color kLight, Color kDark>
+IconImage reliefOf(const IconImage& icon, const EffectValues& /*values*/) {
+  return relief(icon, {kLight, kDark});
+}
+
+IconImage shadowed(const IconImage& icon, const EffectValues& values) {
+  return relief(icon, {kNoColor, values.color(0)});
+}
+
+// In two lines, as the panel is not wide enough for one.
+constexpr Setting kShadowSettings[] = {{.option = "color",
+                                        .kind = SettingKind::Rgb,
+                                        .first = kBlack,
+                                        .control = "ckbUseSelectedColor",
+                                        .label = "&Use currently selected color\n(otherwise black)",
+                                        .help = "the color of the shadow"}};
 
 }  // namespace
 
-// The order matters where they meet: light lies over dark, and the picture over both.
-IconImage relief(const Surface& image, const Surface& mask, const ReliefSettings& settings) {
-  const EdgeColors colors = edgeColors(settings);
-  IconImage icon = emptyIcon(image.width(), image.height());
-  stamp(icon, mask, 1, colors.dark);
-  if (colors.light != kNoColor) stamp(icon, mask, -1, colors.light);
-  stamp(icon, mask, 0, kBlack);
-  copyPainted(image, mask, icon.image);
-  return icon;
-}
+extern const EffectRow kEmbossed{.name = "embossed",
+                                 .title = "Embossed",
+                                 .help = "a white edge to the top left, a grey one to the bottom right",
+                                 .menu = {11, "Emb&ossed ....", "", ""},
+                                 .apply = reliefOf<kWhite, kEdgeGrey>};
+extern const EffectRow kEngraved{.name = "engraved",
+                                 .title = "Engraved",
+                                 .help = "a grey edge to the top left, a white one to the bottom right",
+                                 .menu = {12, "Engra&ved ....", "", ""},
+                                 .apply = reliefOf<kEdgeGrey, kWhite>};
+extern const EffectRow kRaised{.name = "raised",
+                               .title = "Raised",
+                               .help = "a white edge to the top left, a black one to the bottom right",
+                               .menu = {13, "&Raised ....", "", ""},
+                               .apply = reliefOf<kWhite, kBlack>};
+extern const EffectRow kShadowed{.name = "shadowed",
+                                 .title = "Shadowed",
+                                 .help = "a shadow to the bottom right",
+                                 .menu = {14, "Shado&wed ....", "", ""},
+                                 .settings = kShadowSettings,
+                                 .apply = shadowed};
 
 }  // namespace gp

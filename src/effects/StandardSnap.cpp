@@ -22,15 +22,15 @@ constexpr Color kMagenta = rgb(255, 0, 255);
 constexpr Color kCyan = rgb(0, 255, 255);
 
 constexpr std::size_t kLevels = 4;
-// The highest value that is brought to each level but the last: 0, 128, 192, 255.
+// The highest value that is rounded to each level except the last. The levels are 0, 128, 192 and 255.
 constexpr std::array<int, kLevels - 1> kLevelEnds{64, 159, 223};
 
 std::size_t levelOf(int channel) {
   return static_cast<std::size_t>(std::ranges::lower_bound(kLevelEnds, channel) - kLevelEnds.begin());
 }
 
-// By the levels of red and green, then of blue from 0 to 255. The rules differ from channel to channel and from level
-// to level. Kept as they are.
+// Indexed by the levels of red, green and blue. The rules differ between channels and between levels, which is
+// intended.
 constexpr Color kSnapped[kLevels][kLevels][kLevels] = {{{kBlack, kNavy, kNavy, kBlue},
                                                         {kGreen, kTeal, kTeal, kTeal},
                                                         {kGreen, kTeal, kCyan, kCyan},

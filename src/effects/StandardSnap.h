@@ -1,12 +1,12 @@
-// Bringing a single colour to one of the sixteen standard colours.
+// Replaces a single colour by one of the sixteen standard colours.
 #pragma once
 
 #include "platform/gdi/Surface.h"
 
 namespace gp {
 
-// The standard colour for a colour: itself if it is one, otherwise the one that its channels, each brought to the
-// nearest standard level, are forced onto.
+// Returns the standard colour for a colour: the colour itself if it is one, otherwise the one that the table gives for
+// its channels, each rounded to the nearest standard level.
 Color snapToStandard(Color color);
 
 }  // namespace gp

@@ -37,7 +37,6 @@ const char* cursorSize(const Shell& shell, int) {
 const char* alpha(const Shell& shell, int) { return iconWith(shell, record(shell).hasAlpha); }
 const char* cursor(const Shell& shell, int) { return iconWith(shell, record(shell).isCursor); }
 const char* discrepancy(const Shell& shell, int) { return iconWith(shell, record(shell).isDiscrepant()); }
-const char* effect(const Shell& shell, int index) { return shell.effects().has(index) ? icon(shell, index) : kQuietly; }
 
 const char* colorPicker(const Shell& shell, int) {
   const ScreenState& screen = shell.state().screen;

@@ -17,7 +17,6 @@ const char* cursorSize(const Shell& shell, int index);
 const char* alpha(const Shell& shell, int index);
 const char* cursor(const Shell& shell, int index);
 const char* discrepancy(const Shell& shell, int index);
-const char* effect(const Shell& shell, int index);
 const char* colorPicker(const Shell& shell, int index);
 const char* region(const Shell& shell, int index);
 const char* noRegion(const Shell& shell, int index);

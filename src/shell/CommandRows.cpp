@@ -3,6 +3,7 @@
 #include "shell/CommandNeeds.h"
 #include "shell/CommandTable.h"
 #include "shell/CommandTicks.h"
+#include "shell/EffectCommands.h"
 
 namespace gp {
 
@@ -110,26 +111,7 @@ constexpr Command kCommands[] = {
     {"mnuRotateSubmenu", 2, "mnuRotate", "Rotate &Left 90 Degree", "", "rotate-left", needs::icon, Commits::No, nullptr, call<&Transforms::RotateLeft>},
     {"mnuRotateSubmenu", 3, "mnuRotate", "Rotate &Right 90 Degree", "", "rotate-right", needs::icon, Commits::No, nullptr, call<&Transforms::RotateRight>},
     {"mnuRotateSubmenu", 4, "mnuRotate", "Rotate At Any &Selected Angle ....", "", "", needs::icon, Commits::No, nullptr, call<&Transforms::rotateAtAnyAngle>},
-    // Effects
-    {"mnuEffectsSub", 0, "mnuEffects", "&Text ....", "Ctrl+F2", "text", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
-    {"mnuEffectsSub", 2, "mnuEffects", "Auto-Draw &Sphere ....", "Ctrl+F3", "sphere", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
-    {"mnuEffectsSub", 3, "mnuEffects", "&Buttonize Icon ....", "Ctrl+F4", "buttonize", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
-    {"mnuEffectsSub", 4, "mnuEffects", "Gradient &Unpainted Area ....", "Ctrl+F5", "gradient", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
-    {"mnuEffectsSub", 6, "mnuEffects", "&Adjust Brightness Of Colors ....", "Ctrl+F6", "brightness", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
-    {"mnuEffectsSub", 7, "mnuEffects", "Shar&pen / Soften Image ....", "Ctrl+F7", "", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
-    {"mnuEffectsSub", 8, "mnuEffects", "A&ntialias ....", "Ctrl+F8", "", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
-    {"mnuEffectsSub", 9, "mnuEffects", "Set Color The&me ....", "Ctrl+F9", "", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
-    {"mnuEffectsSub", 11, "mnuEffects", "Emb&ossed ....", "", "", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
-    {"mnuEffectsSub", 12, "mnuEffects", "Engra&ved ....", "", "", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
-    {"mnuEffectsSub", 13, "mnuEffects", "&Raised ....", "", "", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
-    {"mnuEffectsSub", 14, "mnuEffects", "Shado&wed ....", "", "", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
-    {"mnuEffectsSub", 16, "mnuEffects", "&Cast ....", "", "", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
-    {"mnuEffectsSub", 17, "mnuEffects", "&Grayscale ....", "", "", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
-    {"mnuEffectsSub", 18, "mnuEffects", "&Invert / Negative ....", "", "", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
-    {"mnuEffectsSub", 20, "mnuEffects", "Swap Elements Of Pi&xels ....", "", "", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
-    {"mnuEffectsSub", 21, "mnuEffects", "Image For &Disabled Buton ....", "", "", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
-    {"mnuEffectsSub", 23, "mnuEffects", "Bl&end In Another Icon ....", "", "", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
-    {"mnuEffectsSub", 24, "mnuEffects", "Texturi&ze Painted Surface ....", "", "", needs::effect, Commits::No, nullptr, callWithIndex<&Effects::open>},
+    // Effects; those with a side panel of their own come from the table of effects
     {"mnuEffectsSub", 26, "mnuEffects", "Expand Si&ze", "", "", needs::always, Commits::No, nullptr, nullptr},
     {"mnuEffectsSub1", 0, "mnuEffectsSub(26)", "Expand To &24x24 ....", "", "", needs::icon, Commits::No, nullptr, nullptr},
     {"mnuEffectsSub1", 1, "mnuEffectsSub(26)", "Expand To &32x32 ....", "", "", needs::icon, Commits::No, nullptr, nullptr},
@@ -243,7 +225,10 @@ constexpr ToolbarButton kToolbar[] = {
 }  // namespace
 
 std::span<const TopMenu> topMenus() { return kTopMenus; }
-std::span<const Command> commandTable() { return kCommands; }
+std::span<const Command> commandTable() {
+  static const std::vector<Command> kTable = withEffects(kCommands);
+  return kTable;
+}
 std::span<const ToolbarButton> toolbarTable() { return kToolbar; }
 
 }  // namespace gp

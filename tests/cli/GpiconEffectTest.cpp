@@ -1,35 +1,28 @@
 // Effects on an image: what each makes of it and of its options, and every refusal.
 #include "cli/WrittenPicture.h"
-#include "effects/Buttonize.h"
-#include "effects/DisabledImage.h"
-#include "effects/Relief.h"
+#include "effects/EffectTable.h"
 
 namespace gp::test {
 namespace {
 
 struct EffectCase {
-  std::vector<std::string> words;  // behind OUT
-  std::function<IconImage(const IconImage&)> make;
-};
+  std::vector<std::string> words;  // behind OUT; the first is the effect's name
+  EffectValues values;
 
-EffectCase reliefCase(std::vector<std::string> words, ReliefSettings settings) {
-  return {std::move(words), [settings](const IconImage& p) { return relief(p.image, p.mask, settings); }};
-}
-EffectCase buttonCase(std::vector<std::string> words, int pattern) {
-  return {std::move(words), [pattern](const IconImage& p) { return buttonize(p.image, p.mask, {pattern}); }};
-}
+  IconImage make(const IconImage& icon) const { return findEffect(words.front())->apply(icon, values); }
+};
 
 // No two of them make the same.
 std::vector<EffectCase> effects() {
-  return {reliefCase({"embossed"}, {ReliefKind::Embossed}),
-          reliefCase({"engraved"}, {ReliefKind::Engraved}),
-          reliefCase({"raised"}, {ReliefKind::Raised}),
-          reliefCase({"shadowed"}, {ReliefKind::Shadowed, kBlack}),
-          reliefCase({"shadowed", "--color", "Ff8001"}, {ReliefKind::Shadowed, rgb(255, 128, 1)}),
-          buttonCase({"buttonize"}, 0),
-          buttonCase({"buttonize", "--style", "1"}, 1),
-          buttonCase({"buttonize", "--style", "2"}, 2),
-          {{"disabled"}, [](const IconImage& p) { return disabledImage(p.image, p.mask); }}};
+  return {{{"embossed"}, {}},
+          {{"engraved"}, {}},
+          {{"raised"}, {}},
+          {{"shadowed"}, {kBlack}},
+          {{"shadowed", "--color", "Ff8001"}, {rgb(255, 128, 1)}},
+          {{"buttonize"}, {0}},
+          {{"buttonize", "--style", "1"}, {1}},
+          {{"buttonize", "--style", "2"}, {2}},
+          {{"disabled"}, {}}};
 }
 
 // A disc in dark colours, black behind what is transparent.
@@ -144,14 +137,14 @@ TEST_F(GpiconEffect, TheIndexTellsTheImage) {
   const std::string path = folder.write("three.ico", fileOf({anyEntry(16, 4), entryOf(disc(48, 24)), anyEntry(32, 8)}));
   expectDone({"effect", path, "1", out, "raised"});
   const IconImage before = iconOf(disc(48, 24));
-  expectPixels(writtenIcon(out), relief(before.image, before.mask, {ReliefKind::Raised}));
+  expectPixels(writtenIcon(out), findEffect("raised")->apply(before, {}));
 }
 
 TEST_F(GpiconEffect, TheInputMayBeTheOutput) {
   const std::string input = write(disc(32, 24));
   const IconImage before = iconOf(disc(32, 24));
   expectDone({"effect", input, "0", input, "engraved"});
-  expectPixels(writtenIcon(input), relief(before.image, before.mask, {ReliefKind::Engraved}));
+  expectPixels(writtenIcon(input), findEffect("engraved")->apply(before, {}));
 }
 
 TEST_F(GpiconEffect, AlphaIsRefused) {
@@ -172,18 +165,9 @@ TEST_F(GpiconEffect, WhatTheEditorDoesNotOpenIsRefused) { expectRefusalsOfFiles(
 
 TEST_F(GpiconEffect, WhatCannotBeWrittenLeavesNothing) { expectFailuresToWrite("effect", {"raised"}); }
 
-TEST_F(GpiconEffect, OptionsGoWithTheirEffectOnly) {
-  const std::string a = icon("a.ico", 16, 24);
-  for (const std::string name : {"embossed", "engraved", "raised", "buttonize", "disabled"})
-    expectBadUsage(call(a, {name, "--color", "000000"}), "effect: --color goes with shadowed only");
-  for (const std::string name : {"embossed", "engraved", "raised", "shadowed", "disabled"})
-    expectBadUsage(call(a, {name, "--style", "0"}), "effect: --style goes with buttonize only");
-}
-
 TEST_F(GpiconEffect, BadUsage) {
   const std::string a = icon("a.ico", 16, 24);
-  const std::string needed = "effect: IN.ico INDEX OUT.ico NAME is needed",
-                    once = "effect: --color and --style take one value each";
+  const std::string needed = "effect: IN.ico INDEX OUT.ico NAME is needed";
   expectBadUsage({"effect"}, needed);
   expectBadUsage(call(a, {}), needed);
   expectBadUsage(call(a, {"raised", "raised"}), needed);
@@ -194,11 +178,6 @@ TEST_F(GpiconEffect, BadUsage) {
     expectBadUsage(call(a, {"shadowed", "--color", color}), "effect: --color takes six hexadecimal digits");
   for (const std::string style : {"3", "-1", "x", "0x1", "99999999999"})
     expectBadUsage(call(a, {"buttonize", "--style", style}), "effect: --style takes a number from 0 to 2");
-  expectBadUsage(call(a, {"shadowed", "--color"}), once);
-  expectBadUsage(call(a, {"shadowed", "--color", ""}), once);
-  expectBadUsage(call(a, {"shadowed", "--color", "000000", "--color", "000000"}), once);
-  expectBadUsage(call(a, {"buttonize", "--style"}), once);
-  expectBadUsage(call(a, {"buttonize", "--style", "1", "--style", "1"}), once);
   expectBadUsage(call(a, {"raised", "--threshold", "1"}), "effect: unknown option --threshold");
 }
 

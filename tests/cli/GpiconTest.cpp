@@ -24,7 +24,7 @@ TEST_F(Gpicon, HelpTellsEverySubcommandAndSucceeds) {
                            "gpicon salvage FILE -o OUT",
                            "gpicon bmp IN.ico INDEX OUT.bmp [--background RRGGBB]",
                            "gpicon reduce IN.ico INDEX OUT.ico --to COLORS --method METHOD [--threshold N]",
-                           "gpicon effect IN.ico INDEX OUT.ico NAME [--color RRGGBB] [--style N]",
+                           "gpicon effect IN.ico INDEX OUT.ico NAME [",
                            "Exit status",
                            "count from 0",
                            "NAME-2",

@@ -1,4 +1,3 @@
-#include "effects/Buttonize.h"
 #include "effects/Pictures.h"
 
 #include <algorithm>
@@ -9,10 +8,7 @@ namespace {
 
 enum Pattern { OneLine, Boxed, TwoTones };
 
-Rows buttonOf(int pattern, const Rows& rows) {
-  const IconImage icon = iconOf(rows);
-  return rowsOf(buttonize(icon.image, icon.mask, {pattern}));
-}
+Rows buttonOf(int pattern, const Rows& rows) { return rowsOf(applied("buttonize", iconOf(rows), {pattern})); }
 
 const Rows kOneLineButton{
     ".wwwwwwwwwwwwww.",  //
@@ -157,13 +153,13 @@ TEST(Buttonize, ThePenThatTheIconWasDrawnWithIsNotTheFrames) {
       surface->drawMode = DrawMode::Invert;
       surface->fillMode = FillMode::Solid;
     }
-    EXPECT_EQ(rowsOf(buttonize(icon.image, icon.mask, {style.pattern})), style.button);
+    EXPECT_EQ(rowsOf(applied("buttonize", icon, {style.pattern})), style.button);
   }
 }
 
 TEST(Buttonize, TheIconItselfStays) {
   const IconImage icon = iconOf(flatRows(16, 16, 'o'));
-  const IconImage framed = buttonize(icon.image, icon.mask, {Boxed});
+  const IconImage framed = applied("buttonize", icon, {Boxed});
   EXPECT_EQ(rowsOf(icon), flatRows(16, 16, 'o'));
   EXPECT_NE(rowsOf(framed), rowsOf(icon));
 }

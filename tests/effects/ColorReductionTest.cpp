@@ -1,4 +1,5 @@
 #include "effects/ColorReduction.h"
+#include "effects/EffectCases.h"
 #include "effects/Pictures.h"
 #include "palette/HalftonePalette.h"
 #include "palette/PalettePictures.h"
@@ -17,7 +18,7 @@ using Method = ReductionMethod;
 constexpr Method kMaskKeepers[] = {Method::Optimal,     Method::System,   Method::Optimized, Method::Nearest,
                                    Method::StandardVga, Method::Weighted, Method::Ordered};
 
-// Rows of a slow picture run upwards.
+// The rows of a reference picture start at the bottom.
 Surface surfaceOf(const SlowPicture& picture) {
   const int width = static_cast<int>(picture[0].size());
   const int height = static_cast<int>(picture.size());
@@ -30,17 +31,13 @@ Surface surfaceOf(const SlowPicture& picture) {
   return surface;
 }
 
-// Painted but for holes, some of which are neither black nor white.
+// A painted icon with holes. The Mask of some holes is neither black nor white.
 Surface holedMask(int width, int height) {
   Surface mask(width, height, kBlack);
   for (int y = 0; y < height; ++y)
     for (int x = 0; x < width; ++x)
       if ((3 * x + 5 * y) % 7 == 1) mask.SetPixelV(x, y, (x + y) % 3 == 0 ? rgb(128, 128, 128) : kWhite);
   return mask;
-}
-
-bool arePixelsEqual(const Surface& a, const Surface& b) {
-  return a.width() == b.width() && a.height() == b.height() && std::ranges::equal(a.pixels(), b.pixels());
 }
 
 std::vector<SlowColor> slowColors(std::span<const Color> colors) {
@@ -72,7 +69,7 @@ bool isOneOfSixteen(const SlowColor& c) {
   return false;
 }
 
-// The rules of each level of red, told one by one.
+// The rules of each level of red, written one by one.
 SlowColor slowForced(SlowColor c) {
   auto& [r, g, b] = c;
   if (r == 255) {
@@ -173,8 +170,8 @@ TEST(ColorReduction, EqualsTheSlowModelOnEveryPicture) {
       Surface expected = surfaceOf(slow);
       if (method != Method::Nearest) blackOut(expected, mask);
       const IconImage result = reduceColors(image, mask, {method});
-      EXPECT_TRUE(arePixelsEqual(result.image, expected)) << picture.name << ' ' << static_cast<int>(method);
-      EXPECT_TRUE(arePixelsEqual(result.mask, mask)) << picture.name << ' ' << static_cast<int>(method);
+      EXPECT_TRUE(samePixels(result.image, expected)) << picture.name << ' ' << static_cast<int>(method);
+      EXPECT_TRUE(samePixels(result.mask, mask)) << picture.name << ' ' << static_cast<int>(method);
     }
   }
 }
@@ -186,8 +183,8 @@ TEST(ColorReduction, TheCutoffEqualsTheSlowModelOnEveryPicture) {
     for (const int threshold : {0, 1, 100, 128, 200, 255, 354}) {
       const IconImage result = reduceColors(image, mask, {Method::SelectCutoff, threshold});
       const IconImage expected = slowCutoff(image, mask, threshold);
-      EXPECT_TRUE(arePixelsEqual(result.image, expected.image)) << picture.name << ' ' << threshold;
-      EXPECT_TRUE(arePixelsEqual(result.mask, expected.mask)) << picture.name << ' ' << threshold;
+      EXPECT_TRUE(samePixels(result.image, expected.image)) << picture.name << ' ' << threshold;
+      EXPECT_TRUE(samePixels(result.mask, expected.mask)) << picture.name << ' ' << threshold;
     }
   }
 }
@@ -227,28 +224,28 @@ TEST(ColorReduction, WhatIsNotPaintedBecomesBlackAndTheMaskStays) {
 TEST(ColorReduction, OnlyNearestLeavesPixelsThatInvert) {
   const IconImage icon = iconOf({"~^/."});
   const IconImage result = reduceColors(icon.image, icon.mask, {Method::Nearest});
-  EXPECT_TRUE(arePixelsEqual(result.mask, icon.mask));
+  EXPECT_TRUE(samePixels(result.mask, icon.mask));
   EXPECT_EQ(result.image.GetPixel(0, 0), rgb(0, 128, 128));
   EXPECT_EQ(result.image.GetPixel(1, 0), kWhite);
   EXPECT_EQ(result.image.GetPixel(2, 0), rgb(0, 128, 128));
   EXPECT_EQ(result.image.GetPixel(3, 0), kBlack);
 }
 
-// Pixels that do not show still count while colours are chosen and errors spread.
+// Invisible pixels take part in choosing colours and in spreading errors.
 TEST(ColorReduction, PixelsThatDoNotShowTakePart) {
   Surface image(2, 1, rgb(100, 100, 100));
   Surface mask(2, 1, kBlack);
   const auto second = [&] { return reduceColors(image, mask, {Method::Weighted}).image.GetPixel(1, 0); };
-  // The mean is 100: the first pixel is white and leaves the second one darker.
+  // The mean is 100: the first pixel becomes white and its error makes the second one darker.
   EXPECT_EQ(second(), kBlack);
   mask.SetPixelV(0, 0, kWhite);
   EXPECT_EQ(second(), kBlack);
-  // The mean is 50 now, and nothing is left over from the first pixel.
+  // The mean is 50, and the first pixel has no error.
   image.SetPixelV(0, 0, kBlack);
   EXPECT_EQ(second(), kWhite);
 }
 
-// The matrix of Ordered and all errors begin at the bottom left.
+// The matrix of Ordered and the spreading of errors start at the bottom left.
 TEST(ColorReduction, OrderedLeavesOneWhitePixelOfABlackBlockInItsBottomLeftCorner) {
   const IconImage icon = iconOf(flatRows(5, 5, 'b'));
   EXPECT_EQ(rowsOf(reduceColors(icon.image, icon.mask, {Method::Ordered})),
@@ -277,7 +274,7 @@ Rows cutOff(const Rows& rows, int threshold) {
   return rowsOf(reduceColors(icon.image, icon.mask, {Method::SelectCutoff, threshold}));
 }
 
-// 'b' where one painted pixel of that colour becomes black, '.' where it vanishes.
+// Returns 'b' when one painted pixel of that colour becomes black, '.' when it becomes transparent.
 char cutPixel(Color color, int threshold) {
   const Surface image(1, 1, color);
   const Surface mask(1, 1, kBlack);
@@ -319,19 +316,19 @@ TEST(Cutoff, TheGroundIsTransparentAndItsColorPaintedIsNot) {
 }
 
 TEST(Cutoff, PixelsThatInvertGoByWhatTheyShow) {
-  // White on the ground shows 0x3F3F3F.
+  // White that inverts the ground looks 0x3F3F3F.
   EXPECT_EQ(cutOff({"^"}, 63), Rows{"."});
   EXPECT_EQ(cutOff({"^"}, 64), Rows{"b"});
-  // (32, 96, 152) shows (224, 160, 88).
+  // (32, 96, 152) looks (224, 160, 88).
   EXPECT_EQ(cutOff({"~"}, 157), Rows{"."});
   EXPECT_EQ(cutOff({"~"}, 158), Rows{"b"});
 }
 
 TEST(Cutoff, AMaskThatIsNotWhiteIsNoGround) {
-  // Half the ground's bits show: 0x808080.
+  // Some of the ground's bits remain: it looks 0x808080.
   EXPECT_EQ(cutOff({"-"}, 128), Rows{"."});
   EXPECT_EQ(cutOff({"-"}, 129), Rows{"b"});
-  // It stays one where the picture makes it look like the ground.
+  // Even where the image makes it look like the ground.
   const Surface image(1, 1, rgb(64, 64, 64));
   const Surface mask(1, 1, rgb(128, 128, 128));
   EXPECT_EQ(rowsOf(reduceColors(image, mask, {Method::SelectCutoff, 193})), Rows{"b"});

@@ -1,4 +1,3 @@
-#include "effects/DisabledImage.h"
 #include "effects/Pictures.h"
 
 #include <gtest/gtest.h>
@@ -6,16 +5,13 @@
 namespace gp::test {
 namespace {
 
-Rows disabledOf(const Rows& rows) {
-  const IconImage icon = iconOf(rows);
-  return rowsOf(disabledImage(icon.image, icon.mask));
-}
+Rows disabledOf(const Rows& rows) { return rowsOf(applied("disabled", iconOf(rows))); }
 
-// What one painted pixel of that colour in the middle of three by three becomes.
+// Returns the result for one painted pixel of that colour in the middle of 3 x 3.
 Rows disabledPixel(Color color) {
   IconImage icon = iconOf({"...", ".o.", "..."});
   icon.image.SetPixelV(1, 1, color);
-  return rowsOf(disabledImage(icon.image, icon.mask));
+  return rowsOf(applied("disabled", icon));
 }
 
 const Rows kEtched{"...", ".g.", "..w"};

@@ -1,11 +1,12 @@
 // Small icons written as rows of characters, one for each pixel.
 #pragma once
 
-#include "document/IconImage.h"
+#include "effects/EffectTable.h"
 
 #include <iterator>
 #include <random>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace gp::test {
@@ -38,7 +39,7 @@ inline constexpr PixelLook kPixelLooks[] = {
 inline IconImage iconOf(const Rows& rows) {
   const int width = rows.empty() ? 0 : static_cast<int>(rows.front().size());
   const int height = static_cast<int>(rows.size());
-  // Pixels without a letter stand out.
+  // A pixel whose character is no letter of the table keeps a colour that no letter has.
   IconImage icon{Surface(width, height, 0x123456), Surface(width, height, 0x123456), {}};
   for (int y = 0; y < height; ++y)
     for (int x = 0; x < width; ++x)
@@ -50,7 +51,7 @@ inline IconImage iconOf(const Rows& rows) {
   return icon;
 }
 
-// '?' for a pixel that has no letter.
+// Returns the letters of the pixels, '?' for a pixel that no letter describes.
 inline Rows rowsOf(const IconImage& icon) {
   if (icon.mask.width() != icon.image.width() || icon.mask.height() != icon.image.height()) return {"sizes differ"};
   Rows rows(static_cast<std::size_t>(icon.image.height()));
@@ -69,7 +70,8 @@ inline Rows flatRows(int width, int height, char letter) {
   return Rows(static_cast<std::size_t>(height), std::string(static_cast<std::size_t>(width), letter));
 }
 
-// `count` icons of up to 9 x 9 pixels, sides of 0 included, in any mixture of the letters; the same in every run.
+// Returns `count` icons of up to 9 x 9 pixels, sides of 0 included, in any mixture of the letters; the same in every
+// run.
 inline std::vector<Rows> randomIcons(int count) {
   constexpr int kLongestSide = 9;
   std::mt19937 numbers(20240607);
@@ -87,7 +89,12 @@ inline std::vector<Rows> randomIcons(int count) {
   return icons;
 }
 
-// Sides that are unlike those of any icon.
+// Returns the icon with the effect of that name.
+inline IconImage applied(std::string_view effect, const IconImage& icon, const EffectValues& values = {}) {
+  return findEffect(effect)->apply(icon, values);
+}
+
+// Sizes that no icon of the program has.
 struct OddSize {
   int width, height;
 };

@@ -1,5 +1,4 @@
 #include "effects/Pictures.h"
-#include "effects/Relief.h"
 
 #include <gtest/gtest.h>
 
@@ -7,16 +6,18 @@ namespace gp::test {
 namespace {
 
 constexpr Color kMarkedShadow = rgb(255, 1, 2);  // 'r'
-constexpr ReliefKind kKinds[] = {ReliefKind::Embossed, ReliefKind::Engraved, ReliefKind::Raised, ReliefKind::Shadowed};
+constexpr const char* kKinds[] = {"embossed", "engraved", "raised", "shadowed"};
 
-Rows reliefOf(ReliefKind kind, const Rows& rows, Color shadow = kBlack) {
-  const IconImage icon = iconOf(rows);
-  return rowsOf(relief(icon.image, icon.mask, {kind, shadow}));
+IconImage reliefOfIcon(std::string_view kind, const IconImage& icon, Color shadow) {
+  return applied(kind, icon, kind == "shadowed" ? EffectValues{shadow} : EffectValues());
 }
-Rows embossed(const Rows& rows) { return reliefOf(ReliefKind::Embossed, rows); }
-Rows engraved(const Rows& rows) { return reliefOf(ReliefKind::Engraved, rows); }
-Rows raised(const Rows& rows) { return reliefOf(ReliefKind::Raised, rows); }
-Rows shadowed(const Rows& rows, Color shadow = kMarkedShadow) { return reliefOf(ReliefKind::Shadowed, rows, shadow); }
+Rows reliefOf(std::string_view kind, const Rows& rows, Color shadow = kBlack) {
+  return rowsOf(reliefOfIcon(kind, iconOf(rows), shadow));
+}
+Rows embossed(const Rows& rows) { return reliefOf("embossed", rows); }
+Rows engraved(const Rows& rows) { return reliefOf("engraved", rows); }
+Rows raised(const Rows& rows) { return reliefOf("raised", rows); }
+Rows shadowed(const Rows& rows, Color shadow = kMarkedShadow) { return reliefOf("shadowed", rows, shadow); }
 
 const Rows kOnePixel{".....", ".....", "..o..", ".....", "....."};
 
@@ -28,7 +29,7 @@ TEST(Relief, ASinglePixelLiesBetweenLightAndDarkOnADiagonal) {
 TEST(Relief, EngravedOnlySwapsTheColorsOfEmbossed) {
   EXPECT_EQ(engraved(kOnePixel), (Rows{".....", ".g...", "..o..", "...w.", "....."}));
   for (const Rows& rows : randomIcons(60)) {
-    // Pictures in the two colours of the edges would be swapped as well.
+    // Without pixels in the two colours of the edges, which would be swapped as well.
     Rows plain = rows;
     for (std::string& row : plain)
       for (char& letter : row)
@@ -46,14 +47,8 @@ TEST(Relief, AShadowLiesToTheBottomRightOnly) {
 }
 
 TEST(Relief, AShadowIsBlackUnlessTold) {
-  const IconImage icon = iconOf(kOnePixel);
-  const Rows rows = rowsOf(relief(icon.image, icon.mask, {.kind = ReliefKind::Shadowed}));
+  const Rows rows = rowsOf(applied("shadowed", iconOf(kOnePixel), firstValues(findEffect("shadowed")->settings)));
   EXPECT_EQ(rows, (Rows{".....", ".....", "..o..", "...b.", "....."}));
-}
-
-TEST(Relief, TheShadowsColorIsNothingToTheOtherKinds) {
-  for (const ReliefKind kind : {ReliefKind::Embossed, ReliefKind::Engraved, ReliefKind::Raised})
-    EXPECT_EQ(reliefOf(kind, kOnePixel, kMarkedShadow), reliefOf(kind, kOnePixel, kBlack));
 }
 
 TEST(Relief, WhatWouldLeaveTheIconIsLost) {
@@ -77,7 +72,7 @@ TEST(Relief, WhatWouldLeaveTheIconIsLost) {
 }
 
 TEST(Relief, LightLiesOverDarkWhereTheyMeet) {
-  // The first pixel's dark edge and the second one's light edge fall together.
+  // The first pixel's dark edge and the second one's light edge are at the same place.
   const Rows apart{".....", ".o...", ".....", "...o.", "....."};
   EXPECT_EQ(embossed(apart), (Rows{"w....", ".o...", "..w..", "...o.", "....g"}));
   EXPECT_EQ(engraved(apart), (Rows{"g....", ".o...", "..g..", "...o.", "....w"}));
@@ -97,11 +92,11 @@ TEST(Relief, APaintedBlackPixelIsPainted) { EXPECT_EQ(embossed({"...", ".b.", ".
 
 TEST(Relief, AnIconThatIsPaintedAllOverStays) {
   const Rows full{"opop", "popo", "bwgs"};
-  for (const ReliefKind kind : kKinds) EXPECT_EQ(reliefOf(kind, full, kMarkedShadow), full);
+  for (const char* kind : kKinds) EXPECT_EQ(reliefOf(kind, full, kMarkedShadow), full);
 }
 
 TEST(Relief, AnIconWithoutAPaintedPixelBecomesEmpty) {
-  for (const ReliefKind kind : kKinds) {
+  for (const char* kind : kKinds) {
     EXPECT_EQ(reliefOf(kind, flatRows(4, 3, '.')), flatRows(4, 3, '.'));
     // Inverting pixels are not painted.
     EXPECT_EQ(reliefOf(kind, {".^.", "~^.", "..."}), flatRows(3, 3, '.'));
@@ -115,7 +110,7 @@ TEST(Relief, PixelsOfAMaskThatIsNotBlackAreNotPainted) {
 
 TEST(Relief, IconsOfAnySizeKeepIt) {
   for (const auto& [width, height] : kOddSizes)
-    for (const ReliefKind kind : kKinds)
+    for (const char* kind : kKinds)
       for (const char letter : {'.', 'o'})
         EXPECT_EQ(reliefOf(kind, flatRows(width, height, letter)), flatRows(width, height, letter))
             << width << ' ' << height;
@@ -129,19 +124,19 @@ TEST(Relief, TheFourthByteOfAPixelIsNoPartOfIt) {
   for (Surface* surface : {&icon.image, &icon.mask})
     for (int y = 0; y < surface->height(); ++y)
       for (int x = 0; x < surface->width(); ++x) surface->rowForWriting(y, x, x + 1)[x] |= 0xFF000000U;
-  const IconImage result = relief(icon.image, icon.mask, {});
+  const IconImage result = applied("embossed", icon);
   EXPECT_EQ(rowsOf(result), embossed(kOnePixel));
   for (const std::uint32_t pixel : result.image.pixels()) EXPECT_EQ(pixel & 0xFF000000U, 0U);
 }
 
-// The rules once more, pixel by pixel and seen from the result: what does each place get?
-IconImage slowRelief(const IconImage& icon, ReliefKind kind, Color shadow) {
-  const bool hasLight = kind != ReliefKind::Shadowed;
-  const Color light = kind == ReliefKind::Engraved ? rgb(128, 128, 128) : kWhite;
-  const Color dark = kind == ReliefKind::Embossed   ? rgb(128, 128, 128)
-                     : kind == ReliefKind::Engraved ? kWhite
-                     : kind == ReliefKind::Raised   ? kBlack
-                                                    : shadow;
+// A second implementation, which looks at each pixel of the result: which colour does it take?
+IconImage slowRelief(const IconImage& icon, std::string_view kind, Color shadow) {
+  const bool hasLight = kind != "shadowed";
+  const Color light = kind == "engraved" ? rgb(128, 128, 128) : kWhite;
+  const Color dark = kind == "embossed"   ? rgb(128, 128, 128)
+                     : kind == "engraved" ? kWhite
+                     : kind == "raised"   ? kBlack
+                                          : shadow;
   IconImage result = icon;
   const auto painted = [&icon](int x, int y) { return icon.mask.GetPixel(x, y) == kBlack; };
   for (int y = 0; y < icon.image.height(); ++y)
@@ -159,7 +154,7 @@ IconImage slowRelief(const IconImage& icon, ReliefKind kind, Color shadow) {
 TEST(Relief, EqualsWhatEachPlaceGetsByItsNeighbours) {
   for (const Rows& rows : randomIcons(300)) {
     const IconImage icon = iconOf(rows);
-    for (const ReliefKind kind : kKinds)
+    for (const char* kind : kKinds)
       EXPECT_EQ(reliefOf(kind, rows, kMarkedShadow), rowsOf(slowRelief(icon, kind, kMarkedShadow)));
   }
 }

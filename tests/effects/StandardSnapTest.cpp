@@ -33,7 +33,7 @@ TEST(StandardSnap, AGreyGoesToTheNearestOfTheFourLevels) {
 
 TEST(StandardSnap, AChannelAloneGoesByItsOwnRules) {
   for (int v = 0; v < 256; ++v) {
-    // 192 alone is no standard colour and becomes 128 in red and blue; in green too.
+    // 192 in a single channel is no standard colour; it becomes 128 in each of the three.
     const int level = v <= 64 ? 0 : v <= 223 ? 128 : 255;
     EXPECT_EQ(snapToStandard(rgb(v, 0, 0)), rgb(level, 0, 0)) << v;
     EXPECT_EQ(snapToStandard(rgb(0, v, 0)), rgb(0, level, 0)) << v;

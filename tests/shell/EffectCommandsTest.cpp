@@ -19,10 +19,10 @@ struct Opener {
   int panel;
 };
 constexpr std::array kOpeners{
-    Opener{"mnuEffectsSub", 3, ButtonizePanel::kNumber}, Opener{"mnuEffectsSub", 11, ShadesPanel::kNumber},
-    Opener{"mnuEffectsSub", 12, ShadesPanel::kNumber},   Opener{"mnuEffectsSub", 13, ShadesPanel::kNumber},
-    Opener{"mnuEffectsSub", 14, ShadesPanel::kNumber},   Opener{"mnuEffectsSub", 21, DisabledImagePanel::kNumber},
-    Opener{"mnuEffectsSub3", 0, ConfinePanel::kNumber},  Opener{"mnuEffectsSub3", 1, ConfinePanel::kNumber},
+    Opener{"mnuEffectsSub", 3, kButtonizePanel},        Opener{"mnuEffectsSub", 11, kReliefPanel},
+    Opener{"mnuEffectsSub", 12, kReliefPanel},          Opener{"mnuEffectsSub", 13, kReliefPanel},
+    Opener{"mnuEffectsSub", 14, kReliefPanel},          Opener{"mnuEffectsSub", 21, kDisabledPanel},
+    Opener{"mnuEffectsSub3", 0, ConfinePanel::kNumber}, Opener{"mnuEffectsSub3", 1, ConfinePanel::kNumber},
     Opener{"mnuEffectsSub3", 2, ConfinePanel::kNumber},
 };
 
@@ -62,15 +62,6 @@ TEST_F(EffectCommandsTest, AnIconWithAlphaValuesIsRefused) {
   }
 }
 
-TEST_F(EffectCommandsTest, EffectsThatTheProgramDoesNotHaveYetAreDisabled) {
-  startWithNew();
-  for (const int index : {0, 2, 4, 6, 7, 8, 9, 16, 17, 18, 20, 23, 24}) {
-    EXPECT_FALSE(enabled("mnuEffectsSub", index)) << index;
-    shell.effects().open(index);
-    EXPECT_EQ(panel(), kColorPanel);
-  }
-}
-
 TEST_F(EffectCommandsTest, UntilProceedTheIconStaysAndCloseKeepsItSo) {
   startWithNew();
   paintManyColors();
@@ -90,12 +81,11 @@ TEST_F(EffectCommandsTest, ProceedMakesTheIconWhatTheSampleShows) {
     startWithNew();
     paintManyColors();
     click(opener.control, opener.index);
-    const std::vector<const EffectPanel*> panels{
-        &shell.effects().panel<ButtonizePanel>(), &shell.effects().panel<ShadesPanel>(),
-        &shell.effects().panel<DisabledImagePanel>(), &shell.effects().panel<ConfinePanel>()};
-    const auto up = std::ranges::find_if(panels, [&](const EffectPanel* p) { return p->number() == panel(); });
-    const IconImage shown = (*up)->picture();
-    const Surface look = (*up)->sample();
+    const EffectPanel* up = shell.effects().settingsPanel(panel());
+    if (!up) up = &shell.effects().panel<ConfinePanel>();
+    ASSERT_EQ(up->number(), panel());
+    const IconImage shown = up->picture();
+    const Surface look = up->sample();
     shell.cmdProceed();
     EXPECT_TRUE(samePixels(state.picImage, shown.image)) << opener.index;
     EXPECT_TRUE(samePixels(state.picMask, shown.mask)) << opener.index;
@@ -139,7 +129,7 @@ TEST_F(EffectCommandsTest, ProceedOfPanelsThatHaveNoneDoesNothing) {
 
 TEST_F(EffectCommandsTest, CloseWithoutAnIconDoesNotShowOne) {
   start();
-  shell.showPanel(ShadesPanel::kNumber);
+  shell.showPanel(kReliefPanel);
   display.repaints = 0;
   display.parts.clear();
   shell.cmdCancel();
@@ -169,9 +159,9 @@ TEST_F(EffectCommandsTest, ProceedWorksOnTheIconThatIsThereThen) {
   bool ok = false;
   shell.doOpenIconFileQuietly(folder.write("other.ico", plainIconFile(16, 3)), ok);
   ASSERT_TRUE(ok);
-  ASSERT_EQ(panel(), ShadesPanel::kNumber);
-  shell.effects().panel<ShadesPanel>().preview();
-  EXPECT_EQ(shell.effects().panel<ShadesPanel>().sample().width(), 16);
+  ASSERT_EQ(panel(), kReliefPanel);
+  settings(kReliefPanel).preview();
+  EXPECT_EQ(settings(kReliefPanel).sample().width(), 16);
   const Surface image = state.picImage;
   shell.cmdProceed();
   // All painted: no edge has room, and the picture lies on top.
@@ -189,18 +179,18 @@ TEST_F(EffectCommandsTest, AnIconWithAlphaThatCameUpUnderThePanelIsRefusedAndThe
   boxes.expectTold(kAlphaText, BoxIcon::None);
   shell.cmdProceed();
   EXPECT_TRUE(samePixels(state.picImage, image));
-  EXPECT_EQ(panel(), DisabledImagePanel::kNumber);
+  EXPECT_EQ(panel(), kDisabledPanel);
 }
 
 TEST_F(EffectCommandsTest, AnEmptyContainerUnderThePanelShowsAnEmptySampleAndIsRefused) {
   startWithNew();
   click("mnuEffectsSub", kDisabled);
   state.current().present = false;
-  shell.effects().panel<DisabledImagePanel>().preview();
-  EXPECT_EQ(shell.effects().panel<DisabledImagePanel>().sample().width(), 0);
+  settings(kDisabledPanel).preview();
+  EXPECT_EQ(settings(kDisabledPanel).sample().width(), 0);
   boxes.expectTold(kNoIcon, BoxIcon::None);
   shell.cmdProceed();
-  EXPECT_EQ(panel(), DisabledImagePanel::kNumber);
+  EXPECT_EQ(panel(), kDisabledPanel);
 }
 
 TEST_F(EffectCommandsTest, ARegionEndsWhereItIsWhenAPanelComesUp) {
@@ -288,7 +278,7 @@ TEST_F(EffectCommandsTest, APanelThatComesUpTakesTheAnimatedCursorsPlace) {
   state.screen.aniContainerVisible = true;
   state.screen.lblStatusPanel[static_cast<std::size_t>(StatusPanel::Path)] = "frames";
   display.parts.clear();
-  shell.showPanel(ShadesPanel::kNumber);
+  shell.showPanel(kReliefPanel);
   EXPECT_FALSE(state.screen.aniContainerVisible);
   EXPECT_EQ(status(StatusPanel::Path), state.current().path.trimmed());
   EXPECT_TRUE(display.told(DisplayPart::Pointer));
@@ -305,8 +295,8 @@ TEST_F(EffectCommandsTest, ThePanelOfReliefIsNamedAfterItsEffect) {
   startWithNew();
   for (const auto& [index, name] : {std::pair{11, "Embossed"}, {12, "Engraved"}, {13, "Raised"}, {14, "Shadowed"}}) {
     click("mnuEffectsSub", index);
-    EXPECT_STREQ(shell.effects().panel<ShadesPanel>().lblEffectsSample(), name);
-    EXPECT_EQ(shell.effects().panel<ShadesPanel>().asksForColor(), index == kShadowed);
+    EXPECT_STREQ(settings(kReliefPanel).effect().title, name);
+    EXPECT_EQ(settings(kReliefPanel).effect().settings.size(), index == kShadowed ? 1U : 0U);
   }
 }
 
@@ -315,13 +305,13 @@ TEST_F(EffectCommandsTest, AShadowIsBlackOrOfTheCurrentColor) {
   set(5, 5, kRed);
   state.mCurrentColor = rgb(1, 2, 3);
   click("mnuEffectsSub", kShadowed);
-  EXPECT_EQ(shell.effects().panel<ShadesPanel>().picture().image.GetPixel(6, 6), kBlack);
-  EXPECT_EQ(shell.effects().panel<ShadesPanel>().picture().mask.GetPixel(6, 6), kBlack);
+  EXPECT_EQ(settings(kReliefPanel).picture().image.GetPixel(6, 6), kBlack);
+  EXPECT_EQ(settings(kReliefPanel).picture().mask.GetPixel(6, 6), kBlack);
   int changes = 0;
-  shell.effects().panel<ShadesPanel>().onChange = [&] { ++changes; };
-  shell.effects().panel<ShadesPanel>().setUseSelectedColor(true);
+  settings(kReliefPanel).onChange = [&] { ++changes; };
+  choose(kReliefPanel, 1);
   EXPECT_EQ(changes, 1);
-  EXPECT_EQ(shell.effects().panel<ShadesPanel>().sample().GetPixel(6, 6), rgb(1, 2, 3));
+  EXPECT_EQ(settings(kReliefPanel).sample().GetPixel(6, 6), rgb(1, 2, 3));
   shell.cmdProceed();
   EXPECT_EQ(at(6, 6), rgb(1, 2, 3));
   EXPECT_EQ(at(5, 5), kRed);
@@ -331,7 +321,8 @@ TEST_F(EffectCommandsTest, OnlyAShadowTakesTheCurrentColor) {
   startWithNew();
   set(5, 5, kRed);
   state.mCurrentColor = rgb(1, 2, 3);
-  shell.effects().panel<ShadesPanel>().setUseSelectedColor(true);
+  click("mnuEffectsSub", kShadowed);
+  choose(kReliefPanel, 1);
   click("mnuEffectsSub", kEmbossed);
   shell.cmdProceed();
   EXPECT_EQ(at(4, 4), kWhite);
@@ -349,14 +340,13 @@ TEST_F(EffectCommandsTest, ReliefOfAnUnpaintedIconIsEmpty) {
 // Buttonize.
 
 TEST_F(EffectCommandsTest, EachStyleOfTheButtonIsShownAndMade) {
-  constexpr std::array<Color, kButtonPatterns> kTopEdge{kWhite, kBlack, kWhite};
-  for (int pattern = 0; pattern < kButtonPatterns; ++pattern) {
+  constexpr std::array<Color, 3> kTopEdge{kWhite, kBlack, kWhite};
+  for (int pattern = 0; pattern < 3; ++pattern) {
     startWithNew(kNewIcon16);
     click("mnuEffectsSub", kButtonize);
-    shell.effects().panel<ButtonizePanel>().pickPattern(pattern);
-    EXPECT_EQ(shell.effects().panel<ButtonizePanel>().cboButtonizePattern(), pattern);
-    EXPECT_EQ(shell.effects().panel<ButtonizePanel>().sample().GetPixel(5, 0),
-              kTopEdge[static_cast<std::size_t>(pattern)]);
+    choose(kButtonizePanel, pattern);
+    EXPECT_EQ(choice(kButtonizePanel), pattern);
+    EXPECT_EQ(settings(kButtonizePanel).sample().GetPixel(5, 0), kTopEdge[static_cast<std::size_t>(pattern)]);
     shell.cmdProceed();
     EXPECT_EQ(at(5, 0), kTopEdge[static_cast<std::size_t>(pattern)]);
     EXPECT_EQ(at(0, 0), kNoColor);
@@ -367,9 +357,9 @@ TEST_F(EffectCommandsTest, EachStyleOfTheButtonIsShownAndMade) {
 TEST_F(EffectCommandsTest, AStyleOutsideTheListIsIgnored) {
   startWithNew();
   click("mnuEffectsSub", kButtonize);
-  shell.effects().panel<ButtonizePanel>().pickPattern(2);
-  for (const int index : {-1, kButtonPatterns, 1000}) shell.effects().panel<ButtonizePanel>().pickPattern(index);
-  EXPECT_EQ(shell.effects().panel<ButtonizePanel>().cboButtonizePattern(), 2);
+  choose(kButtonizePanel, 2);
+  for (const int index : {-1, 3, 1000}) choose(kButtonizePanel, index);
+  EXPECT_EQ(choice(kButtonizePanel), 2);
 }
 
 }  // namespace

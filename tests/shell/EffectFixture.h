@@ -3,10 +3,9 @@
 
 #include "colour/ColorCount.h"
 #include "document/PanelNumbers.h"
-#include "effects/ButtonizePanel.h"
 #include "effects/ConfinePanel.h"
-#include "effects/DisabledImagePanel.h"
-#include "effects/ShadesPanel.h"
+#include "effects/EffectCases.h"
+#include "effects/SettingsPanel.h"
 #include "support/ShellFixture.h"
 
 #include <algorithm>
@@ -14,11 +13,8 @@
 namespace gp::test {
 
 inline constexpr int kNewIcon32 = 2, kNewIcon16 = 3, kUndoAll = 0, kUndo = 1, kRedo = 2, kButtonize = 3, kEmbossed = 11;
+inline constexpr int kButtonizePanel = 7, kReliefPanel = 13, kDisabledPanel = 15;
 inline constexpr Color kRed = rgb(255, 0, 0);
-
-inline bool samePixels(const Surface& a, const Surface& b) {
-  return a.width() == b.width() && a.height() == b.height() && std::ranges::equal(a.pixels(), b.pixels());
-}
 
 class EffectFixture : public ShellFixture {
  protected:
@@ -52,6 +48,10 @@ class EffectFixture : public ShellFixture {
     return state.picMask.GetPixel(x, y) == kBlack ? state.picImage.GetPixel(x, y) : kNoColor;
   }
   int panel() const { return state.screen.mActivePanel; }
+  SettingsPanel& settings(int number) { return *shell.effects().settingsPanel(number); }
+  // A choice in the first control of the effect that a panel shows.
+  void choose(int number, int choice) { settings(number).choose(settings(number).effect().settings.front(), choice); }
+  int choice(int number) { return settings(number).choiceOf(settings(number).effect().settings.front()); }
   // How many colours the icon counts as.
   int imageColors() const {
     int count = 0;

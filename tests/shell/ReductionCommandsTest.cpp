@@ -259,8 +259,6 @@ TEST_F(ReductionCommandsTest, AStepAfterAReductionGoesBackToIt) {
 }
 
 TEST_F(ReductionCommandsTest, TheListsHoldWhatThePanelsKnow) {
-  EXPECT_EQ(static_cast<int>(fillList("cboButtonizePattern").entries.size()), kButtonPatterns);
-  EXPECT_EQ(fillList("cboButtonizePattern").first, shell.effects().panel<ButtonizePanel>().cboButtonizePattern());
   const FilledList thresholds = fillList("cboConfineColors(3)");
   EXPECT_EQ(static_cast<int>(thresholds.entries.size()), kThresholdCount);
   EXPECT_EQ(thresholds.first, confine().thresholdIndex());

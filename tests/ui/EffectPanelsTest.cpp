@@ -1,10 +1,8 @@
 // The panels of the effects on the main form, worked by mouse and keyboard.
 #include "document/PanelNumbers.h"
 #include "document/ui/SurfacePainting.h"
-#include "effects/ButtonizePanel.h"
 #include "effects/ConfinePanel.h"
-#include "effects/DisabledImagePanel.h"
-#include "effects/ShadesPanel.h"
+#include "effects/SettingsPanel.h"
 #include "ui/FormFixture.h"
 #include "ui/Screens.h"
 
@@ -20,6 +18,7 @@ namespace gp {
 namespace {
 
 constexpr Color kRed = rgb(255, 0, 0);
+constexpr int kButtonizePanel = 7, kReliefPanel = 13, kDisabledPanel = 15;
 constexpr int kTopLeftSquare = 8;  // pixels of the square that stands on the icon
 
 class EffectPanelsTest : public test::FormFixture {
@@ -98,8 +97,7 @@ TEST_F(EffectPanelsTest, EachPanelHasItsTitleAndNamesForAllItsControls) {
   }
   for (int run = 0; run < 3; ++run) openRun(run);
   EXPECT_EQ(find("fraPanel(19)")->accessibleName(), "Reduce number of colors");
-  for (const int number :
-       {ButtonizePanel::kNumber, ShadesPanel::kNumber, DisabledImagePanel::kNumber, ConfinePanel::kNumber})
+  for (const int number : {kButtonizePanel, kReliefPanel, kDisabledPanel, ConfinePanel::kNumber})
     for (QWidget* control : find(QString("fraPanel(%1)").arg(number))->findChildren<QWidget*>()) {
       if (!(control->focusPolicy() & Qt::TabFocus) || control->objectName().isEmpty()) continue;
       const QString name = QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name);
@@ -117,13 +115,14 @@ TEST_F(EffectPanelsTest, ReliefIsShownUnderItsNameAndMadeByEnter) {
   startWithDisc();
   for (const auto& [index, name] : {std::pair{11, "Embossed"}, {12, "Engraved"}, {13, "Raised"}, {14, "Shadowed"}}) {
     openPanel(index);
-    ASSERT_TRUE(isUp(ShadesPanel::kNumber));
+    ASSERT_TRUE(isUp(kReliefPanel));
     EXPECT_EQ(find<QLabel>("lblEffectsSample")->text(), name);
     EXPECT_EQ(find("ckbUseSelectedColor")->isVisible(), index == 14);
     QWidget* sample = find("picEffectsSample");
-    EXPECT_EQ(sampleAt(sample, 16, 16, 32, 192), toRgb(shell.effects().panel<ShadesPanel>().sample().GetPixel(16, 16)));
+    EXPECT_EQ(sampleAt(sample, 16, 16, 32, 192),
+              toRgb(shell.effects().settingsPanel(kReliefPanel)->sample().GetPixel(16, 16)));
     EXPECT_EQ(sampleAt(sample, 0, 0, 32, 192), toRgb(kGround));
-    expectNothingClipped(ShadesPanel::kNumber);
+    expectNothingClipped(kReliefPanel);
   }
   key(Qt::Key_Return);
   EXPECT_TRUE(isUp(kColorPanel));
@@ -145,7 +144,7 @@ TEST_F(EffectPanelsTest, TheShadowTakesTheCurrentColorByMouseAndKey) {
   key(Qt::Key_Space);
   EXPECT_TRUE(box->isChecked());
   EXPECT_EQ(sampleAt(sample, kTopLeftSquare, 2, 32, 192), qRgb(0, 255, 0));
-  proceed(ShadesPanel::kNumber);
+  proceed(kReliefPanel);
   EXPECT_EQ(state.picImage.GetPixel(kTopLeftSquare, 2), rgb(0, 255, 0));
   EXPECT_TRUE(isUp(kColorPanel));
 }
@@ -181,8 +180,8 @@ TEST_F(EffectPanelsTest, EachStyleOfTheButtonIsPickedFromTheList) {
     EXPECT_EQ(sampleAt(sample, 16, 0, 32, 192), topEdges[static_cast<std::size_t>(style)]) << style;
     EXPECT_EQ(sampleAt(sample, 16, 1, 32, 192), belowTop[static_cast<std::size_t>(style)]) << style;
   }
-  expectNothingClipped(ButtonizePanel::kNumber);
-  proceed(ButtonizePanel::kNumber);
+  expectNothingClipped(kButtonizePanel);
+  proceed(kButtonizePanel);
   EXPECT_EQ(state.picImage.GetPixel(16, 1), rgb(0xE0, 0xE0, 0xE0));
 }
 
@@ -190,11 +189,11 @@ TEST_F(EffectPanelsTest, TheDisabledImageIsShownAndMade) {
   startWithDisc();
   for (int x = 0; x < kTopLeftSquare; ++x) set(x, 1, rgb(10, 20, 30));
   openPanel(21);
-  ASSERT_TRUE(isUp(DisabledImagePanel::kNumber));
+  ASSERT_TRUE(isUp(kDisabledPanel));
   QWidget* sample = find("picImageForDisabledBtn");
   EXPECT_EQ(sampleAt(sample, 3, 1, 32, 192), qRgb(128, 128, 128));
   EXPECT_EQ(sampleAt(sample, 3, 2, 32, 192), qRgb(255, 255, 255));
-  expectNothingClipped(DisabledImagePanel::kNumber);
+  expectNothingClipped(kDisabledPanel);
   key(Qt::Key_Return);
   EXPECT_EQ(state.picImage.GetPixel(3, 1), rgb(128, 128, 128));
 }
@@ -258,8 +257,8 @@ TEST_F(EffectPanelsTest, TheSamplesFollowAnIconThatIsOpenedUnderThePanel) {
   bool ok = false;
   shell.doOpenIconFileQuietly(folder.write("other.ico", test::plainIconFile(16, 3)), ok);
   settle();
-  ASSERT_TRUE(isUp(ShadesPanel::kNumber));
-  EXPECT_EQ(shell.effects().panel<ShadesPanel>().sample().width(), 16);
+  ASSERT_TRUE(isUp(kReliefPanel));
+  EXPECT_EQ(shell.effects().settingsPanel(kReliefPanel)->sample().width(), 16);
   EXPECT_EQ(sampleAt(find("picEffectsSample"), 8, 8, 16, 192), toRgb(state.picImage.GetPixel(8, 8)));
 }
 

@@ -1,6 +1,5 @@
 #include "document/ui/Lists.h"
 
-#include "document/ListTables.h"
 #include "platform/qt/PathText.h"
 
 #include <QComboBox>
@@ -14,11 +13,14 @@ constexpr int kVisibleItems = 12;
 }  // namespace
 
 QComboBox* makeList(QWidget* parent, const QString& objectName, const QString& accessibleName) {
+  return makeList(parent, fillList(objectName.toStdString()), accessibleName);
+}
+
+QComboBox* makeList(QWidget* parent, const FilledList& list, const QString& accessibleName) {
   auto* combo = new QComboBox(parent);
-  combo->setObjectName(objectName);
+  combo->setObjectName(toText(list.control));
   combo->setAccessibleName(accessibleName);
   combo->setMaxVisibleItems(kVisibleItems);
-  const FilledList list = fillList(objectName.toStdString());
   for (const std::string& entry : list.entries) combo->addItem(toText(entry));
   combo->setCurrentIndex(list.first);
   return combo;

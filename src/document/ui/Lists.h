@@ -1,6 +1,8 @@
 // Drop-down lists as the tables of lists fill them.
 #pragma once
 
+#include "document/ListTables.h"
+
 #include <QString>
 
 class QComboBox;
@@ -10,6 +12,9 @@ namespace gp {
 
 // A list that may be picked from, with the entries that the tables give it by its objectName.
 QComboBox* makeList(QWidget* parent, const QString& objectName, const QString& accessibleName);
+
+// The same with entries that the caller has; the list's control is its objectName.
+QComboBox* makeList(QWidget* parent, const FilledList& list, const QString& accessibleName);
 
 // The same where no label stands beside it: screen readers find its name in a label that is not shown.
 QComboBox* makeUnlabelledList(QWidget* parent, const QString& objectName, const QString& accessibleName);

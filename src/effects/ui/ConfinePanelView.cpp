@@ -19,7 +19,7 @@ ConfinePanelView::ConfinePanelView(QWidget* parent, ConfinePanel& panel)
   lblRun_ = addLabel("lblConfineColors(1)", "");
   addMethods();
   addThreshold();
-  // Below the room that the threshold leaves, so that it stays in its place.
+  // Below the space of a hidden threshold, so that the label does not move.
   rows()->addStretch(1);
   addLabel("lblConfineColors(3)", "(Remarks: Undo will not be available)");
   addSamples({{"picConfineColors(0)", "Image", panel_.picture().image},
@@ -44,7 +44,7 @@ void ConfinePanelView::addThreshold() {
   rows()->addWidget(threshold_);
 }
 
-// Setting a list tells nothing: only a choice of the person does.
+// Changing a list here does not emit `activated`, which only a choice of the user does.
 void ConfinePanelView::refresh() {
   lblRun_->setText(panel_.caption());
   for (int run = 0; run < kConfineRuns; ++run) {

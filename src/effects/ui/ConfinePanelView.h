@@ -1,5 +1,5 @@
-// fraPanel(19): the list of methods of the present run, the threshold where there is one, and the samples of image and
-// Mask.
+// fraPanel(19): the list of methods of the current run, the threshold if the method has one, and the samples of image
+// and Mask.
 #pragma once
 
 #include "effects/ConfinePanel.h"

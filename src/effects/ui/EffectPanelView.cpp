@@ -11,7 +11,7 @@ namespace gp {
 namespace {
 
 constexpr int kGap = 8;
-// Four times, or twice, as large as the largest icon; all icon sizes fill them by whole factors.
+// Side of a single sample and of one of several: four times and twice the largest icon.
 constexpr int kLargeRoom = 192;
 constexpr int kSmallRoom = 96;
 

@@ -1,5 +1,5 @@
-// What the panels of effects share on the screen: rows on top, samples below, all of it shown anew whenever the panel's
-// logic tells of a change. A view keeps nothing and must go before the logic does.
+// What the views of the effects' side panels share: rows on top and samples below, which are refreshed whenever the
+// panel's logic reports a change. A view has no state; it must be destroyed before the logic.
 #pragma once
 
 #include "platform/qt/widgets/PanelFrame.h"
@@ -15,7 +15,7 @@ class EffectPanel;
 class SampleView;
 class Surface;
 
-// One sample: what it is called on the screen, and its picture.
+// One sample. The picture must outlive the view.
 struct SampleRow {
   QString objectName;
   QString caption;
@@ -29,15 +29,15 @@ class EffectPanelView : public PanelFrame {
   EffectPanelView(QWidget* parent, EffectPanel& panel);
   ~EffectPanelView() override;
 
-  // The icon or the current colour is another: the samples follow.
+  // Updates the samples after the icon or the current colour has changed.
   void follow();
 
  protected:
-  // A label above the list that it belongs to; `caption` may have an access letter.
+  // Adds a label above the list that it belongs to; `caption` may have an access letter.
   QLabel* addLabel(const QString& objectName, const QString& caption, QWidget* buddy = nullptr);
-  // At the foot, side by side, each under its caption; returns the labels. Then Proceed and Close.
+  // Adds the samples side by side at the bottom, each under its caption, then Proceed and Close. Returns the labels.
   std::vector<QLabel*> addSamples(const std::vector<SampleRow>& samples);
-  // Shows the settings; the samples follow by themselves.
+  // Shows the settings; the samples are refreshed after it.
   virtual void refresh() {}
 
  private:

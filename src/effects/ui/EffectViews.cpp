@@ -1,14 +1,10 @@
 #include "effects/ui/EffectViews.h"
 
-#include "effects/ButtonizePanel.h"
 #include "effects/ConfinePanel.h"
-#include "effects/DisabledImagePanel.h"
 #include "effects/Effects.h"
-#include "effects/ShadesPanel.h"
-#include "effects/ui/ButtonizePanelView.h"
+#include "effects/SettingsPanel.h"
 #include "effects/ui/ConfinePanelView.h"
-#include "effects/ui/DisabledImagePanelView.h"
-#include "effects/ui/ShadesPanelView.h"
+#include "effects/ui/SettingsPanelView.h"
 
 #include <algorithm>
 #include <array>
@@ -26,12 +22,13 @@ constexpr ViewRow kRowOf{Panel::kNumber, [](QWidget* parent, const Effects& effe
                            return new View(parent, effects.panel<Panel>());
                          }};
 
-constexpr std::array kViews{kRowOf<ButtonizePanelView, ButtonizePanel>, kRowOf<ShadesPanelView, ShadesPanel>,
-                            kRowOf<DisabledImagePanelView, DisabledImagePanel>, kRowOf<ConfinePanelView, ConfinePanel>};
+// Panels of a class of their own.
+constexpr std::array kViews{kRowOf<ConfinePanelView, ConfinePanel>};
 
 }  // namespace
 
 EffectPanelView* makeEffectView(int number, QWidget* parent, const Effects& effects) {
+  if (SettingsPanel* panel = effects.settingsPanel(number)) return new SettingsPanelView(parent, *panel);
   const auto* row = std::ranges::find(kViews, number, &ViewRow::number);
   return row == kViews.end() ? nullptr : row->make(parent, effects);
 }

@@ -1,4 +1,4 @@
-// Which view shows the Panel of which effect.
+// Makes the views of the effects' side panels.
 #pragma once
 
 class QWidget;
@@ -8,7 +8,7 @@ namespace gp {
 class EffectPanelView;
 class Effects;
 
-// The view of the Panel of that number; null if it is not one of an effect.
+// Returns the view of the panel of that number, a child of `parent`; null when that is no panel of an effect.
 EffectPanelView* makeEffectView(int number, QWidget* parent, const Effects& effects);
 
 }  // namespace gp

@@ -1,0 +1,139 @@
+#include "cli/EffectOptions.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace gp::cli {
+namespace {
+
+constexpr std::size_t kNameWidth = 11;  // of the help's first column
+
+bool takesValue(const Setting& setting) { return setting.kind != SettingKind::Flag; }
+
+// All options, each once, in alphabetical order.
+std::map<std::string, const Setting*> allOptions() {
+  std::map<std::string, const Setting*> options;
+  for (const EffectRow* effect : effectTable())
+    for (const Setting& setting : effect->settings) options.emplace(setting.option, &setting);
+  return options;
+}
+
+// "a", "a and b", "a, b and c".
+std::string listed(const std::vector<std::string>& words) {
+  std::string text;
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    if (i > 0) text += i + 1 == words.size() ? " and " : ", ";
+    text += words[i];
+  }
+  return text;
+}
+
+bool hasOption(const EffectRow& effect, std::string_view name) {
+  return std::ranges::any_of(effect.settings, [name](const Setting& setting) { return setting.option == name; });
+}
+
+std::string effectsWith(std::string_view option) {
+  std::vector<std::string> names;
+  for (const EffectRow* effect : effectTable())
+    if (hasOption(*effect, option)) names.emplace_back(effect->name);
+  return listed(names);
+}
+
+void complainAboutValues() {
+  std::vector<std::string> names;
+  for (const auto& [name, setting] : allOptions())
+    if (takesValue(*setting)) names.push_back("--" + name);
+  badUsage("effect: " + listed(names) + " take one value each");
+}
+
+// True when the flag was among the options.
+bool takeFlag(Arguments& arguments, const std::string& flag) {
+  const auto end = std::ranges::find(arguments, "--");
+  const auto found = std::find(arguments.begin(), end, flag);
+  if (found == end) return false;
+  arguments.erase(found);
+  return true;
+}
+
+// False when the option is given twice or without its value.
+bool takeSetting(const Setting& setting, Arguments& arguments, GivenOptions& given) {
+  const std::string option = "--" + std::string(setting.option);
+  std::string text;
+  if (!takesValue(setting)) {
+    if (takeFlag(arguments, option)) given.emplace(setting.option, text);
+    return true;
+  }
+  if (!takeOption(arguments, option, text)) return false;
+  if (!text.empty()) given.emplace(setting.option, text);
+  return true;
+}
+
+std::optional<int> valueOf(const Setting& setting, const GivenOptions& options) {
+  const auto given = options.find(setting.option);
+  if (given == options.end()) return setting.first;
+  return takesValue(setting) ? valueOfText(setting, given->second) : 1;
+}
+
+std::string optionText(const Setting& setting) {
+  const std::string value = placeholderOf(setting);
+  return "--" + std::string(setting.option) + (value.empty() ? "" : " " + value);
+}
+
+std::string helpOf(const Setting& setting) {
+  const std::string text = optionText(setting) + "  " + setting.help;
+  if (!takesValue(setting)) return text;
+  return text + " (" + allowedValues(setting) + ", without it " + textOfValue(setting, setting.first) + ")";
+}
+
+std::string column(std::string text) {
+  text.resize(std::max(text.size() + 1, kNameWidth), ' ');
+  return "  " + text;
+}
+
+}  // namespace
+
+std::optional<GivenOptions> takeEffectOptions(Arguments& arguments) {
+  GivenOptions given;
+  for (const auto& [name, setting] : allOptions()) {
+    if (takeSetting(*setting, arguments, given)) continue;
+    complainAboutValues();
+    return std::nullopt;
+  }
+  return given;
+}
+
+std::optional<EffectValues> valuesOf(const EffectRow& effect, const GivenOptions& options) {
+  for (const auto& [name, text] : options) {
+    if (hasOption(effect, name)) continue;
+    badUsage("effect: --" + name + " goes with " + effectsWith(name) + " only");
+    return std::nullopt;
+  }
+  EffectValues values;
+  for (const Setting& setting : effect.settings) {
+    const std::optional<int> value = valueOf(setting, options);
+    if (!value) {
+      badUsage("effect: --" + std::string(setting.option) + " takes " + allowedValues(setting));
+      return std::nullopt;
+    }
+    values.append(*value);
+  }
+  return values;
+}
+
+std::string effectUsage() {
+  std::string usage;
+  for (const auto& [name, setting] : allOptions()) usage += " [" + optionText(*setting) + "]";
+  return usage;
+}
+
+std::string effectHelp() {
+  std::string help;
+  for (const EffectRow* effect : effectTable()) {
+    if (!effect->apply) continue;
+    help += "\n" + column(effect->name) + effect->help;
+    for (const Setting& setting : effect->settings) help += "\n" + column("") + helpOf(setting);
+  }
+  return help;
+}
+
+}  // namespace gp::cli

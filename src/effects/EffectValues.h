@@ -1,0 +1,32 @@
+// The values of an effect's settings, in the order of the settings.
+#pragma once
+
+#include "platform/gdi/Surface.h"
+
+#include <cstddef>
+#include <initializer_list>
+#include <vector>
+
+namespace gp {
+
+class EffectValues {
+ public:
+  EffectValues() = default;
+  EffectValues(std::initializer_list<int> values) : values_(values) {}
+
+  // The value of the setting at index i, which must exist. `number` returns tenths as a count of tenths and a word as
+  // its index.
+  int number(std::size_t i) const { return values_.at(i); }
+  Color color(std::size_t i) const { return values_.at(i); }
+  bool flag(std::size_t i) const { return values_.at(i) != 0; }
+
+  void append(int value) { values_.push_back(value); }
+  void set(std::size_t i, int value) { values_.at(i) = value; }
+
+  bool operator==(const EffectValues&) const = default;
+
+ private:
+  std::vector<int> values_;
+};
+
+}  // namespace gp

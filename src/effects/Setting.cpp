@@ -1,0 +1,176 @@
+#include "effects/Setting.h"
+
+#include "platform/text/ColorDigits.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdlib>
+#include <iterator>
+
+namespace gp {
+namespace {
+
+constexpr int kTen = 10;
+
+std::optional<int> wholeNumber(std::string_view text) {
+  int number = 0;
+  const char* const end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, number);
+  if (error != std::errc() || stop != end) return std::nullopt;
+  return number;
+}
+
+// "1", "0.5", "-0.3": a count of tenths.
+std::optional<int> tenths(std::string_view text) {
+  const std::size_t point = text.find('.');
+  if (point == std::string_view::npos) return wholeNumber(text) ? wholeNumber(std::string(text) + "0") : std::nullopt;
+  if (point + 2 != text.size()) return std::nullopt;
+  return wholeNumber(std::string(text).erase(point, 1));
+}
+
+std::string textOfTenths(int value) {
+  const std::string sign = value < 0 ? "-" : "";
+  const std::string whole = std::to_string(std::abs(value) / kTen);
+  const int decimal = std::abs(value) % kTen;
+  return sign + whole + (decimal == 0 ? "" : "." + std::to_string(decimal));
+}
+
+std::optional<int> indexOfWord(std::span<const char* const> words, std::string_view text) {
+  const auto found = std::ranges::find(words, text, [](const char* word) { return std::string_view(word); });
+  if (found == words.end()) return std::nullopt;
+  return static_cast<int>(found - words.begin());
+}
+
+// "a", "a or b", "a, b or c".
+std::string alternatives(std::span<const char* const> words) {
+  std::string text;
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    if (i > 0) text += i + 1 == words.size() ? " or " : ", ";
+    text += words[i];
+  }
+  return text;
+}
+
+std::string joined(std::span<const char* const> words) {
+  std::string text;
+  for (const char* word : words) text += (text.empty() ? "" : "|") + std::string(word);
+  return text;
+}
+
+std::string rangeOf(const Setting& setting) {
+  return "a number from " + textOfValue(setting, setting.from) + " to " + textOfValue(setting, setting.to);
+}
+
+// What the kinds of settings differ in. Functions that take a text or a value do not check its range.
+struct Kind {
+  bool hasList;
+  int (*lowest)(const Setting& setting);
+  int (*highest)(const Setting& setting);
+  std::string (*placeholder)(const Setting& setting);
+  std::string (*allowed)(const Setting& setting);
+  std::optional<int> (*parse)(const Setting& setting, std::string_view text);
+  std::string (*write)(const Setting& setting, int value);
+};
+
+int zero(const Setting&) { return 0; }
+int lowestNumber(const Setting& setting) { return setting.from; }
+int highestNumber(const Setting& setting) { return setting.to; }
+std::string numberPlaceholder(const Setting&) { return "N"; }
+
+constexpr Kind kNumber{.hasList = true,
+                       .lowest = lowestNumber,
+                       .highest = highestNumber,
+                       .placeholder = numberPlaceholder,
+                       .allowed = rangeOf,
+                       .parse = [](const Setting&, std::string_view text) { return wholeNumber(text); },
+                       .write = [](const Setting&, int value) { return std::to_string(value); }};
+constexpr Kind kTenths{.hasList = true,
+                       .lowest = lowestNumber,
+                       .highest = highestNumber,
+                       .placeholder = numberPlaceholder,
+                       .allowed = rangeOf,
+                       .parse = [](const Setting&, std::string_view text) { return tenths(text); },
+                       .write = [](const Setting&, int value) { return textOfTenths(value); }};
+constexpr Kind kWord{
+    .hasList = true,
+    .lowest = zero,
+    .highest = [](const Setting& setting) { return static_cast<int>(setting.words.size()) - 1; },
+    .placeholder = [](const Setting& setting) { return joined(setting.words); },
+    .allowed = [](const Setting& setting) { return alternatives(setting.words); },
+    .parse = [](const Setting& setting, std::string_view text) { return indexOfWord(setting.words, text); },
+    .write = [](const Setting& setting,
+                int value) { return std::string(setting.words[static_cast<std::size_t>(value)]); }};
+constexpr Kind kRgb{.hasList = false,
+                    .lowest = zero,
+                    .highest = [](const Setting&) { return kWhite; },
+                    .placeholder = [](const Setting&) { return std::string("RRGGBB"); },
+                    .allowed = [](const Setting&) { return std::string("six hexadecimal digits"); },
+                    .parse = [](const Setting&, std::string_view text) { return colorOfDigits(text); },
+                    .write = [](const Setting&, int value) { return digitsOfColor(value); }};
+constexpr Kind kFlag{.hasList = false,
+                     .lowest = zero,
+                     .highest = [](const Setting&) { return 1; },
+                     .placeholder = [](const Setting&) { return std::string(); },
+                     .allowed = [](const Setting&) { return std::string("no value"); },
+                     .parse = [](const Setting&, std::string_view) { return std::optional<int>(); },
+                     .write = [](const Setting&, int value) { return std::to_string(value); }};
+
+// In the order of SettingKind.
+constexpr const Kind* kKinds[] = {&kNumber, &kTenths, &kWord, &kRgb, &kFlag};
+
+const Kind& kindOf(const Setting& setting) { return *kKinds[static_cast<std::size_t>(setting.kind)]; }
+
+int listValue(const Setting& setting, int choice) {
+  return (setting.step > 0 ? lowestValue(setting) : highestValue(setting)) + choice * setting.step;
+}
+
+}  // namespace
+
+int lowestValue(const Setting& setting) { return kindOf(setting).lowest(setting); }
+int highestValue(const Setting& setting) { return kindOf(setting).highest(setting); }
+bool hasList(const Setting& setting) { return kindOf(setting).hasList; }
+
+FilledList listOf(const Setting& setting) {
+  FilledList list = fillList(setting.control);
+  if (!list.entries.empty()) return list;
+  const int count = (highestValue(setting) - lowestValue(setting)) / std::abs(setting.step) + 1;
+  for (int choice = 0; choice < count; ++choice) {
+    if (listValue(setting, choice) == setting.first) list.first = choice;
+    list.entries.push_back(textOfValue(setting, listValue(setting, choice)));
+  }
+  return list;
+}
+
+int choiceCount(const Setting& setting) {
+  constexpr int kOffAndOn = 2;
+  return hasList(setting) ? static_cast<int>(listOf(setting).entries.size()) : kOffAndOn;
+}
+
+int firstChoice(const Setting& setting) {
+  if (hasList(setting)) return listOf(setting).first;
+  return setting.kind == SettingKind::Flag ? setting.first : 0;
+}
+
+int valueOfChoice(const Setting& setting, int choice, Color currentColor) {
+  if (setting.kind == SettingKind::Rgb) return choice == 0 ? setting.first : currentColor;
+  return listValue(setting, choice);
+}
+
+std::string placeholderOf(const Setting& setting) { return kindOf(setting).placeholder(setting); }
+std::string allowedValues(const Setting& setting) { return kindOf(setting).allowed(setting); }
+
+std::optional<int> valueOfText(const Setting& setting, std::string_view text) {
+  const std::optional<int> value = kindOf(setting).parse(setting, text);
+  if (!value || *value < lowestValue(setting) || *value > highestValue(setting)) return std::nullopt;
+  return value;
+}
+
+std::string textOfValue(const Setting& setting, int value) { return kindOf(setting).write(setting, value); }
+
+EffectValues firstValues(std::span<const Setting> settings) {
+  EffectValues values;
+  for (const Setting& setting : settings) values.append(setting.first);
+  return values;
+}
+
+}  // namespace gp

@@ -1,0 +1,149 @@
+// What holds for every effect of the table, on the command line.
+#include "cli/WrittenPicture.h"
+#include "effects/EffectCases.h"
+
+namespace gp::test {
+namespace {
+
+// The image of a file that has an icon's pixels, in 24 bits.
+Picture pictureOf(const IconImage& icon) {
+  Picture p;
+  p.width = p.height = icon.width();
+  p.bits = 24;
+  p.transparent = [icon](int x, int y) { return icon.mask.GetPixel(x, y) != kBlack; };
+  p.color = [icon](int x, int y) {
+    const Color color = icon.image.GetPixel(x, y);
+    return Rgb{redOf(color), greenOf(color), blueOf(color)};
+  };
+  return p;
+}
+
+bool hasOption(const EffectRow& effect, std::string_view option) {
+  return std::ranges::any_of(effect.settings, [option](const Setting& own) { return own.option == option; });
+}
+
+// "a", "a and b", "a, b and c".
+std::string listed(const std::vector<std::string>& words) {
+  std::string text = words.front();
+  for (std::size_t i = 1; i < words.size(); ++i) text += (i + 1 < words.size() ? ", " : " and ") + words[i];
+  return text;
+}
+
+class GpiconEffectTable : public GpiconOneImage {
+ protected:
+  std::string write(const IconImage& icon) const { return folder.write("in.ico", build(entryOf(pictureOf(icon)))); }
+  std::vector<std::string> call(const std::string& input, const EffectRow& effect,
+                                const std::vector<std::string>& options) const {
+    std::vector<std::string> arguments{"effect", input, "0", out, effect.name};
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    return arguments;
+  }
+  // Texts that a setting must refuse: one value beyond each end, and no value at all.
+  static std::vector<std::string> refusedTexts(const Setting& setting) {
+    std::vector<std::string> texts{"x", "1.23"};
+    if (setting.kind != SettingKind::Number && setting.kind != SettingKind::Tenths) return texts;
+    texts.push_back(textOfValue(setting, lowestValue(setting) - 1));
+    texts.push_back(textOfValue(setting, highestValue(setting) + 1));
+    return texts;
+  }
+};
+
+TEST_F(GpiconEffectTable, EachValueMakesWhatTheFunctionMakes) {
+  for (const int size : kIconSides)
+    for (const IconImage& icon : generatedIcons(size)) {
+      const std::string input = write(icon);
+      for (const EffectRow* effect : builtEffects())
+        for (const EffectValues& values : valuesToTry(*effect)) {
+          const std::vector<std::string> options = optionsFor(*effect, values);
+          SCOPED_TRACE(effect->name + testing::PrintToString(options) + std::to_string(size));
+          expectDone(call(input, *effect, options));
+          expectPixels(writtenIcon(out), effect->apply(icon, values));
+        }
+    }
+}
+
+TEST_F(GpiconEffectTable, WithoutOptionsTheFirstValuesApply) {
+  const IconImage icon = generatedIcons(32).back();
+  const std::string input = write(icon);
+  for (const EffectRow* effect : builtEffects()) {
+    SCOPED_TRACE(effect->name);
+    expectDone(call(input, *effect, {}));
+    expectPixels(writtenIcon(out), effect->apply(icon, firstValues(effect->settings)));
+  }
+}
+
+TEST_F(GpiconEffectTable, AValueThatASettingDoesNotAllowIsRefused) {
+  const std::string input = write(transparentIcon(16));
+  for (const EffectRow* effect : builtEffects())
+    for (const Setting& setting : effect->settings) {
+      if (setting.kind == SettingKind::Flag) continue;
+      const std::string option = "--" + std::string(setting.option);
+      for (const std::string& text : refusedTexts(setting))
+        expectBadUsage(call(input, *effect, {option, text}), "effect: " + option + " takes " + allowedValues(setting));
+    }
+}
+
+TEST_F(GpiconEffectTable, AnOptionOfAnotherEffectIsRefused) {
+  const std::string input = write(transparentIcon(16));
+  for (const EffectRow* other : builtEffects())
+    for (const Setting& setting : other->settings) {
+      const std::string option = "--" + std::string(setting.option);
+      std::vector<std::string> owners;
+      for (const EffectRow* effect : builtEffects())
+        if (hasOption(*effect, setting.option)) owners.emplace_back(effect->name);
+      for (const EffectRow* effect : builtEffects()) {
+        if (hasOption(*effect, setting.option)) continue;
+        std::vector<std::string> words{option};
+        if (setting.kind != SettingKind::Flag) words.push_back(textOfValue(setting, setting.first));
+        expectBadUsage(call(input, *effect, words), "effect: " + option + " goes with " + listed(owners) + " only");
+      }
+    }
+}
+
+TEST_F(GpiconEffectTable, AnOptionTakesOneValue) {
+  const std::string input = write(transparentIcon(16));
+  std::set<std::string> options;
+  for (const EffectRow* effect : builtEffects())
+    for (const Setting& setting : effect->settings)
+      if (setting.kind != SettingKind::Flag) options.insert("--" + std::string(setting.option));
+  const std::string once = "effect: " + listed({options.begin(), options.end()}) + " take one value each";
+  for (const EffectRow* effect : builtEffects())
+    for (const Setting& setting : effect->settings) {
+      if (setting.kind == SettingKind::Flag) continue;
+      const std::string option = "--" + std::string(setting.option), value = textOfValue(setting, setting.first);
+      expectBadUsage(call(input, *effect, {option}), once);
+      expectBadUsage(call(input, *effect, {option, ""}), once);
+      expectBadUsage(call(input, *effect, {option, value, option, value}), once);
+    }
+}
+
+TEST_F(GpiconEffectTable, AlphaIsRefused) {
+  const std::string input = icon("alpha.ico", 16, 32);
+  for (const EffectRow* effect : builtEffects())
+    expectRefusal(
+        call(input, *effect, {}),
+        input + ": Current icon is with alpha, please run Convert 32 To 24 BPP to convert it to 24-BPP first.");
+}
+
+TEST_F(GpiconEffectTable, TheHelpNamesEveryEffectAndItsOptions) {
+  const std::string help = run({"--help"}).out;
+  for (const EffectRow* effect : builtEffects()) {
+    EXPECT_NE(help.find("\n  " + std::string(effect->name) + " "), std::string::npos) << effect->name;
+    EXPECT_NE(help.find(effect->help), std::string::npos) << effect->name;
+    for (const Setting& setting : effect->settings) {
+      const std::string option = "--" + std::string(setting.option);
+      const std::string value = setting.kind == SettingKind::Flag ? "" : " " + placeholderOf(setting);
+      EXPECT_NE(help.find(" [" + option + value + "]"), std::string::npos) << option;
+      EXPECT_NE(help.find(setting.help), std::string::npos) << option;
+    }
+  }
+}
+
+TEST_F(GpiconEffectTable, ANameThatTheTableDoesNotHaveIsRefused) {
+  const std::string input = write(transparentIcon(16));
+  for (const std::string name : {"nosuch", "Embossed", ""})
+    expectBadUsage({"effect", input, "0", out, name}, "effect: no effect is named " + name);
+}
+
+}  // namespace
+}  // namespace gp::test

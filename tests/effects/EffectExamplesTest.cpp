@@ -1,0 +1,40 @@
+// What each effect makes of a small picture, pixel by pixel. An effect that the program has needs an example here.
+#include "effects/EffectCases.h"
+#include "effects/Pictures.h"
+
+#include <gtest/gtest.h>
+
+namespace gp::test {
+namespace {
+
+struct Example {
+  const char* effect;
+  EffectValues values;
+  Rows before, after;
+};
+
+const Example kExamples[] = {
+    {"embossed", {}, {"...", ".o.", "..^"}, {"w..", ".o.", "..g"}},
+    {"engraved", {}, {"...", ".o.", "..^"}, {"g..", ".o.", "..w"}},
+    {"raised", {}, {"...", ".o.", "..^"}, {"w..", ".o.", "..b"}},
+    {"shadowed", {rgb(255, 1, 2)}, {"...", ".o.", "..^"}, {"...", ".o.", "..r"}},
+    {"buttonize", {0}, {"opo", "pop", "opo"}, {".w.", "wob", ".b."}},
+    {"buttonize", {1}, {"opo", "pop", "opo"}, {".g.", "wgw", ".w."}},
+    {"buttonize", {2}, {"opo", "pop", "opo"}, {".w.", "wdb", ".b."}},
+    {"disabled", {}, {"...", "po.", "..^"}, {"...", ".g.", "..w"}},
+};
+
+TEST(EffectExamples, EachExampleIsExact) {
+  for (const Example& example : kExamples)
+    EXPECT_EQ(rowsOf(applied(example.effect, iconOf(example.before), example.values)), example.after) << example.effect;
+}
+
+TEST(EffectExamples, EachEffectHasOne) {
+  for (const EffectRow* effect : builtEffects())
+    EXPECT_TRUE(std::ranges::any_of(kExamples, [effect](const Example& example) {
+      return effect->name == std::string_view(example.effect);
+    })) << effect->name;
+}
+
+}  // namespace
+}  // namespace gp::test

@@ -1,0 +1,115 @@
+#include "effects/EffectCases.h"
+
+#include <cctype>
+#include <gtest/gtest.h>
+#include <map>
+#include <set>
+
+namespace gp::test {
+namespace {
+
+TEST(EffectTable, EachMenuEntryIsThereOnceInTheOrderOfTheMenu) {
+  std::set<std::string> captions, keys;
+  std::set<int> accessLetters;
+  int before = -1;
+  for (const EffectRow* effect : effectTable()) {
+    const EffectMenuEntry& entry = effect->menu;
+    EXPECT_GT(entry.index, before) << entry.caption;
+    before = entry.index;
+    const std::size_t mark = std::string_view(entry.caption).find('&');
+    ASSERT_LT(mark + 1, std::string_view(entry.caption).size()) << entry.caption;
+    EXPECT_TRUE(accessLetters.insert(std::tolower(entry.caption[mark + 1])).second) << entry.caption;
+    EXPECT_TRUE(captions.insert(entry.caption).second) << entry.caption;
+    EXPECT_TRUE(!*entry.key || keys.insert(entry.key).second) << entry.caption;
+  }
+}
+
+TEST(EffectTable, EachEffectIsFoundByItsNameAndItsMenuEntry) {
+  std::set<std::string> names;
+  for (const EffectRow* effect : builtEffects()) {
+    EXPECT_TRUE(names.insert(effect->name).second) << effect->name;
+    EXPECT_EQ(findEffect(effect->name), effect);
+    EXPECT_EQ(findEffect(effect->menu.index), effect);
+    EXPECT_STRNE(effect->title, "") << effect->name;
+    EXPECT_STRNE(effect->help, "") << effect->name;
+    EXPECT_STRNE(effect->panel.sample, "") << effect->name;
+  }
+  for (const char* name : {"", "Raised", "raise", "sharpen"}) EXPECT_EQ(findEffect(name), nullptr) << name;
+}
+
+TEST(EffectTable, AnEffectThatTheProgramDoesNotHaveIsNotFound) {
+  for (const EffectRow* effect : effectTable())
+    if (!effect->apply) {
+      EXPECT_EQ(findEffect(effect->menu.index), nullptr) << effect->menu.caption;
+    }
+  for (const int index : {-1, 1, 5, 1000}) EXPECT_EQ(findEffect(index), nullptr);
+}
+
+TEST(EffectTable, EffectsOfOnePanelShareItsSample) {
+  std::map<int, std::string> samples;
+  for (const EffectRow* effect : builtEffects()) {
+    const std::string sample = std::string(effect->panel.sample) + "/" + effect->panel.sampleLabel;
+    EXPECT_EQ(samples.emplace(effect->panel.number, sample).first->second, sample) << effect->name;
+  }
+}
+
+TEST(EffectTable, EachSettingIsNamedForTheCommandLineAndTheScreen) {
+  std::map<std::string, bool> isFlag;  // by option
+  std::map<std::string, const Setting*> controls;
+  for (const EffectRow* effect : builtEffects())
+    for (const Setting& setting : effect->settings) {
+      for (const char* text : {setting.option, setting.control, setting.label, setting.help})
+        EXPECT_STRNE(text, "") << effect->name;
+      EXPECT_TRUE(!hasList(setting) || std::string_view(setting.control).starts_with("cbo")) << setting.control;
+      const bool flag = setting.kind == SettingKind::Flag;
+      EXPECT_EQ(isFlag.emplace(setting.option, flag).first->second, flag) << setting.option;
+      EXPECT_EQ(controls.emplace(setting.control, &setting).first->second, &setting) << setting.control;
+    }
+}
+
+TEST(EffectTable, TheListOfASettingOffersAllowedValuesAndStartsWithTheFirst) {
+  for (const EffectRow* effect : builtEffects())
+    for (const Setting& setting : effect->settings) {
+      EXPECT_GE(setting.first, lowestValue(setting)) << effect->name;
+      EXPECT_LE(setting.first, highestValue(setting)) << effect->name;
+      EXPECT_EQ(valueOfChoice(setting, firstChoice(setting), rgb(9, 8, 7)), setting.first) << effect->name;
+      for (int choice = 0; hasList(setting) && choice < choiceCount(setting); ++choice) {
+        EXPECT_GE(valueOfChoice(setting, choice, kBlack), lowestValue(setting)) << effect->name;
+        EXPECT_LE(valueOfChoice(setting, choice, kBlack), highestValue(setting)) << effect->name;
+      }
+    }
+}
+
+TEST(EffectTable, AnEffectKeepsTheSizeAndLeavesTheIconAsItIs) {
+  for (const EffectRow* effect : builtEffects())
+    for (const int size : kIconSides)
+      for (const IconImage& icon : generatedIcons(size)) {
+        const IconImage before = icon;
+        for (const EffectValues& values : valuesToTry(*effect)) {
+          const IconImage result = effect->apply(icon, values);
+          EXPECT_EQ(result.width(), size) << effect->name;
+          EXPECT_EQ(result.height(), size) << effect->name;
+          EXPECT_EQ(result.mask.width(), size) << effect->name;
+          EXPECT_EQ(result.mask.height(), size) << effect->name;
+          EXPECT_FALSE(result.hasAlphaValues()) << effect->name;
+          EXPECT_TRUE(samePixels(effect->apply(icon, values), result)) << effect->name;
+        }
+        EXPECT_TRUE(samePixels(icon, before)) << effect->name;
+      }
+}
+
+TEST(EffectTable, TheLowestAndTheHighestValueOfASettingMakeDifferentIcons) {
+  const IconImage icon = generatedIcons(32).back();
+  for (const EffectRow* effect : builtEffects())
+    for (std::size_t i = 0; i < effect->settings.size(); ++i) {
+      const std::vector<int> all = valuesToTry(effect->settings[i]);
+      EffectValues low = firstValues(effect->settings), high = low;
+      low.set(i, all.front());
+      high.set(i, all.back());
+      EXPECT_FALSE(samePixels(effect->apply(icon, low), effect->apply(icon, high)))
+          << effect->name << " --" << effect->settings[i].option;
+    }
+}
+
+}  // namespace
+}  // namespace gp::test
