@@ -24,7 +24,7 @@ void EffectPanel::preview() {
   const EditState& state = frame_.state();
   if (!frame_.isUp(number_)) return;
   {
-    const Hourglass hourglass(frame_.state(), frame_.context().display);
+    const Hourglass hourglass(frame_.context());
     picture_ = state.current().present ? apply(state.picImage, state.picMask) : IconImage{};
     sample_ = composedIcon(picture_.image, picture_.mask);
   }
@@ -35,7 +35,7 @@ void EffectPanel::proceed() {
   if (!mayProceed()) return;
   EditState& state = frame_.state();
   {
-    const Hourglass hourglass(state, frame_.context().display);
+    const Hourglass hourglass(frame_.context());
     frame_.document().iconsPanel.EndToolAction();
     frame_.applyTemps(apply(state.picImage, state.picMask));
   }

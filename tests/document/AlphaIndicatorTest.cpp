@@ -51,10 +51,14 @@ TEST(AlphaIndicator, StaysAwayFromAnIconWithoutAlphaThatCameUpMeanwhile) {
 
 TEST(Hourglass, LastsAsLongAsTheOutermostGuard) {
   EditState state;
+  FakeEditor editor;
   RecordingDisplay display;
+  ScriptedBoxes boxes;
+  ScriptedPump pump;
+  const Context context{state, editor, display, boxes, pump};
   {
-    const Hourglass outer(state, display);
-    { const Hourglass inner(state, display); }
+    const Hourglass outer(context);
+    { const Hourglass inner(context); }
     EXPECT_TRUE(state.screen.hourglass);
   }
   EXPECT_FALSE(state.screen.hourglass);

@@ -1,5 +1,6 @@
 #include "document/ui/IconsPanelView.h"
 
+#include "document/EditState.h"
 #include "document/ui/SurfacePainting.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/PictureButton.h"

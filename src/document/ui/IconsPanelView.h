@@ -2,7 +2,6 @@
 // Tells of clicks, right clicks and dropped files; what they do is others' business.
 #pragma once
 
-#include "document/EditState.h"
 #include "document/IconsPanel.h"
 
 #include <QAbstractButton>
@@ -13,6 +12,8 @@
 #include <vector>
 
 namespace gp {
+
+struct EditState;
 
 // picPanelIcon(i).
 class ContainerButton : public QAbstractButton {

@@ -10,7 +10,6 @@
 #include "files/format/IconArrays.h"
 #include "files/format/IconSalvage.h"
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -48,9 +47,6 @@ class HeaderDiff {
   // Lists the file, read again, by its directory or by its bitmap headers.
   void setBase(HeaderBase base);
   void cmdSalvage();
-
-  // What the form does when something that it shows has changed.
-  std::function<void()> onChange;
 
  private:
   void changed() const;

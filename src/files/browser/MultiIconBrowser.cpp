@@ -1,5 +1,6 @@
 #include "files/browser/MultiIconBrowser.h"
 
+#include "document/Display.h"
 #include "document/EditState.h"
 #include "document/Hourglass.h"
 #include "files/browser/MultiIconExchange.h"
@@ -50,7 +51,7 @@ MultiIconBrowser::MultiIconBrowser(const FilesContext& context) : context_(conte
 
 void MultiIconBrowser::changed() {
   const FlagFor busy(mBusy_);
-  if (onChange) onChange();
+  context_.display.changed(DisplayPart::ModalForm);
 }
 
 void MultiIconBrowser::unload() {
@@ -116,7 +117,7 @@ void MultiIconBrowser::openFile() {
 
 // The item's text is the only record of what is selected: where its Ref reads as another entry's, that one is shown.
 bool MultiIconBrowser::preview(const std::string& item, EntryPreview& preview) {
-  const Hourglass hourglass(context_.state, context_.display);
+  const Hourglass hourglass(context_);
   const ItemReading reading = readItem(item);
   IconEntry entry = arrays_.entries.at(static_cast<std::size_t>(reading.index));
   entry.width = reading.width;

@@ -76,8 +76,7 @@ class MultiIconBrowser {
   void cmdRepositionProceed();
   void cmdSaveAdd(int button);
 
-  // What the form does when something that it shows has changed, and when it is to close.
-  std::function<void()> onChange;
+  // Closes the form.
   std::function<void()> onUnload;
 
  private:

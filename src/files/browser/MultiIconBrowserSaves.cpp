@@ -30,7 +30,7 @@ std::string MultiIconBrowser::singleFileName(const std::string& stem, int item) 
 }
 
 bool MultiIconBrowser::saveItem(int item, const std::string& path) {
-  const Hourglass hourglass(context_.state, context_.display);
+  const Hourglass hourglass(context_);
   return saveEntryToSingleFile(arrays_, readItem(iconText(item)).index, path);
 }
 
@@ -59,7 +59,7 @@ void MultiIconBrowser::cmdSplitSave() {
 // written. The views go through their whole lists each time they are told of a change, and nothing of it is seen before
 // the end: they are told then.
 void MultiIconBrowser::splitInto(const std::string& stem) {
-  const Hourglass hourglass(context_.state, context_.display);
+  const Hourglass hourglass(context_);
   const int before = selected_;
   for (int item = 0; isIcon(item); ++item) {
     if (preview(iconText(item), preview_)) selected_ = item;

@@ -43,8 +43,6 @@ class CursorFiles {
   void WriteCursorFile(const std::string& path, bool& ok) const;
 
   HotspotMark& mark() { return mark_; }
-  // What the view does when the lists changed.
-  std::function<void()> onChange;
 
  private:
   struct Spot {

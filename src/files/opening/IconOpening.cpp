@@ -101,7 +101,7 @@ bool IconOpening::isShownDepth() const {
 
 void IconOpening::show() {
   {
-    const Hourglass hourglass(state_, context_.display);
+    const Hourglass hourglass(context_);
     context_.document.arrival.arrive(decoded_.icon, recordOfLoadedIcon(facts_, decoded_.icon, path_));
   }
   if (!isSpoken()) return;

@@ -144,7 +144,7 @@ bool MultiIconAdd::insertEntry(int index, const std::string& target) {
 }
 
 bool MultiIconAdd::write(IconArrays& arrays, const std::string& target) {
-  const Hourglass hourglass(state_, context_.display);
+  const Hourglass hourglass(context_);
   return writeWholeFile(arrays, target, arrays.file.span());
 }
 

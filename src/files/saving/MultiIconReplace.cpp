@@ -117,7 +117,7 @@ bool MultiIconReplace::readOriginalAgain() {
 }
 
 bool MultiIconReplace::write(const std::string& path) {
-  const Hourglass hourglass(state_, context_.display);
+  const Hourglass hourglass(context_);
   const bool isOriginal = isSameFile(path, original_);
   const FileBytes other = isOriginal ? FileBytes() : contentToPutBack(path);
   return writeWholeFile(arrays_, path, isOriginal ? arrays_.file.span() : other.span());

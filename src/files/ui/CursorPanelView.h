@@ -19,7 +19,6 @@ class CursorPanelView : public PanelFrame {
  public:
   // The cursors must outlive the view.
   CursorPanelView(QWidget* parent, CursorFiles& cursors);
-  ~CursorPanelView() override;
 
   // Shows the hot spot that the lists stand at, which is another icon's when one has come up.
   void refresh();

@@ -1,8 +1,10 @@
 #include "shell/ui/frmGPEdit.h"
 
+#include "document/ScreenState.h"
 #include "document/ui/CurrentIconView.h"
 #include "document/ui/EditingAreaView.h"
 #include "document/ui/IconsPanelView.h"
+#include "document/ui/QtDisplay.h"
 #include "document/ui/ReadoutsView.h"
 #include "document/ui/StatusBarView.h"
 #include "drawing/ui/ShiftPad.h"
@@ -16,7 +18,6 @@
 #include "shell/Shell.h"
 #include "shell/ui/CommandMenus.h"
 #include "shell/ui/PanelStack.h"
-#include "shell/ui/QtDisplay.h"
 #include "shell/ui/ToolbarView.h"
 #include "shell/ui/frmGPAbout.h"
 
@@ -93,7 +94,7 @@ frmGPEdit::frmGPEdit(Shell& shell, QtDisplay& display, std::string commandLine)
   rows->setSpacing(0);
   rows->addWidget(toolbar_ = new ToolbarView(whole, shell_));
   rows->addWidget(makeMiddle(whole), 1);
-  rows->addWidget(statusBar_ = new StatusBarView(whole, shell_.state()));
+  rows->addWidget(statusBar_ = new StatusBarView(whole, shell_.screen()));
   setCentralWidget(whole);
   menus_ = new CommandMenus(this, menuBar(), shell_);
 
@@ -136,8 +137,8 @@ QWidget* frmGPEdit::makeToolColumn(QWidget* parent) {
   auto* rows = new QVBoxLayout(column);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(kEdge);
-  rows->addWidget(toolBox_ = new ToolBox(column, shell_.state(), shell_.drawing().tools, shell_.colour().selection));
-  rows->addWidget(shiftPad_ = new ShiftPad(column, shell_.state(), shell_.drawing().tools, shell_.drawing().shift), 0,
+  rows->addWidget(toolBox_ = new ToolBox(column, shell_.screen(), shell_.drawing().tools, shell_.colour().selection));
+  rows->addWidget(shiftPad_ = new ShiftPad(column, shell_.screen(), shell_.drawing().tools, shell_.drawing().shift), 0,
                   Qt::AlignHCenter);
   auto* label = new QLabel("1:1", column);
   label->setObjectName("lblIcon");
@@ -153,7 +154,7 @@ QWidget* frmGPEdit::makeEditingColumn(QWidget* parent) {
   auto* rows = new QVBoxLayout(column);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(0);
-  rows->addWidget(readouts_ = new ReadoutsView(column, shell_.state()));
+  rows->addWidget(readouts_ = new ReadoutsView(column, shell_.screen()));
   rows->addWidget(room_ = new EditingAreaRoom(column, shell_.state()), 1);
   return column;
 }
@@ -219,15 +220,15 @@ void frmGPEdit::chooseTool(int tool) {
 }
 
 void frmGPEdit::listen() {
-  display_.listen(DisplayPart::EditingArea, [this] { room_->refresh(), refreshCurrentIcon(); });
-  display_.listen(DisplayPart::IconsPanel, [this] { iconsPanel_->refresh(), refreshCurrentIcon(); });
-  display_.listen(DisplayPart::StatusBar, [this] { statusBar_->refresh(); });
-  display_.listen(DisplayPart::Readouts, [this] { readouts_->refresh(); });
-  display_.listen(DisplayPart::Tools, [this] { toolBox_->refresh(), shiftPad_->refresh(); });
-  display_.listen(DisplayPart::Pointer, [this] { refreshPointer(); });
-  display_.listen(DisplayPart::Panel, [this] { panels_->showPanel(shell_.state().screen.mActivePanel); });
-  display_.listen(DisplayPart::Commands, [this] { refreshCommandsSoon(); });
-  display_.listen(DisplayPart::History, [this] { refreshCommandsSoon(); });
+  display_.listen(DisplayPart::EditingArea, this, [this] { room_->refresh(), refreshCurrentIcon(); });
+  display_.listen(DisplayPart::IconsPanel, this, [this] { iconsPanel_->refresh(), refreshCurrentIcon(); });
+  display_.listen(DisplayPart::StatusBar, this, [this] { statusBar_->refresh(); });
+  display_.listen(DisplayPart::Readouts, this, [this] { readouts_->refresh(); });
+  display_.listen(DisplayPart::Tools, this, [this] { toolBox_->refresh(), shiftPad_->refresh(); });
+  display_.listen(DisplayPart::Pointer, this, [this] { refreshPointer(); });
+  display_.listen(DisplayPart::Panel, this, [this] { panels_->showPanel(shell_.screen().mActivePanel); });
+  display_.listen(DisplayPart::Commands, this, [this] { refreshCommandsSoon(); });
+  display_.listen(DisplayPart::History, this, [this] { refreshCommandsSoon(); });
 }
 
 void frmGPEdit::setRequests() {
@@ -260,7 +261,7 @@ void frmGPEdit::refreshCurrentIcon() {
 }
 
 void frmGPEdit::refreshPointer() {
-  const ScreenState& screen = shell_.state().screen;
+  const ScreenState& screen = shell_.screen();
   if (screen.hourglass != hourglassShown_) {
     hourglassShown_ = screen.hourglass;
     if (hourglassShown_)
@@ -302,13 +303,13 @@ void frmGPEdit::showAbout() {
 
 void frmGPEdit::showMultiIcon() {
   const DialogOwner owner;
-  frmGPMultiIcon form(shell_.files().context(), this);
+  frmGPMultiIcon form(shell_.files().context(), display_, this);
   form.run();
 }
 
 void frmGPEdit::showHeaderDiff() {
   const DialogOwner owner;
-  frmGPHeaderDiff form(shell_.files().context(), this);
+  frmGPHeaderDiff form(shell_.files().context(), display_, this);
   form.exec();
 }
 
