@@ -2,6 +2,7 @@
 
 #include "document/Containers.h"
 #include "document/CurrentIconGuard.h"
+#include "document/Display.h"
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"

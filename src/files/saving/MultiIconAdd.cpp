@@ -1,5 +1,6 @@
 #include "files/saving/MultiIconAdd.h"
 
+#include "document/Display.h"
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
