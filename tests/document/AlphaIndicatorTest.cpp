@@ -1,4 +1,5 @@
 #include "document/AlphaIndicator.h"
+#include "document/EditState.h"
 #include "document/Hourglass.h"
 #include "support/FakeEditor.h"
 #include "support/ScriptedPorts.h"
