@@ -214,7 +214,7 @@ TEST_F(BrowserTest, ThePointerIsAnHourglassWhileAnEntryIsRead) {
   browse(threeIcons());
   display.parts.clear();
   browser->clickIcon(0);
-  EXPECT_EQ(display.parts, (std::vector{DisplayPart::Pointer, DisplayPart::Pointer}));
+  EXPECT_EQ(display.parts, (std::vector{DisplayPart::Pointer, DisplayPart::Pointer, DisplayPart::ModalForm}));
   EXPECT_FALSE(state.screen.hourglass);
 }
 
