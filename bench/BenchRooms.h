@@ -21,7 +21,11 @@ namespace gp::bench {
 
 class NoDisplay : public Display {
  public:
-  void changed(DisplayPart) override {}
+  Display* form = nullptr;  // of a form that is measured
+
+  void changed(DisplayPart part) override {
+    if (form) form->changed(part);
+  }
   void repaintEditingArea(int, int, int, int) override {}
   void showPopUpMenu() override {}
   void nudgeMousePointer() override {}

@@ -34,8 +34,9 @@ class ManyIconsFile {
  public:
   explicit ManyIconsFile(Icons icons) : path_(folder_.write("many.ico", manyIcons(icons))) {}
 
-  // The context of a browser of the file.
-  const FilesContext& context() {
+  // The context of a browser of the file. `form` receives the changes; it must outlive the browser.
+  const FilesContext& context(Display* form = nullptr) {
+    rooms_.display.form = form;
     MultiIconExchange& exchange = files_.context().multiIcon;
     exchange.gMultiIconFile = path_;
     exchange.gMultiIconResult = "0";

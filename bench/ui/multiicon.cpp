@@ -1,6 +1,7 @@
 // Opening a file of 99 icons in frmGPMultiIcon, from the file on disk to the first paint of the preview. Processor time
 // of the whole process; the very first opening stands apart, since fonts and styles are loaded in it.
 #include "../ManyIconsFile.h"
+#include "document/ui/QtDisplay.h"
 #include "files/ui/frmGPMultiIcon.h"
 
 #include <QApplication>
@@ -35,7 +36,8 @@ void openForm(benchmark::State& state, bench::Icons icons) {
   qApp->installEventFilter(&watcher);
   for (auto _ : state) {
     watcher.painted = false;
-    frmGPMultiIcon form(file.context(), nullptr);
+    gp::QtDisplay display;
+    frmGPMultiIcon form(file.context(&display), display, nullptr);
     if (!form.comeUp() || !isPainted(watcher)) return state.SkipWithError("no preview was painted");
     state.PauseTiming();
     form.reject();

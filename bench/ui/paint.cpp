@@ -7,7 +7,7 @@
 #include "platform/qt/QtProcesses.h"
 #include "platform/qt/QtSystemInfo.h"
 #include "shell/Shell.h"
-#include "shell/ui/QtDisplay.h"
+#include "document/ui/QtDisplay.h"
 #include "shell/ui/frmGPEdit.h"
 
 #include <QApplication>

@@ -1,4 +1,5 @@
 // The desktop program: makes the ports, the shell and the main form, and nothing else.
+#include "document/ui/QtDisplay.h"
 #include "platform/files/Files.h"
 #include "platform/qt/Accessibility.h"
 #include "platform/qt/ProgramStyle.h"
@@ -11,7 +12,6 @@
 #include "platform/qt/QtSystemInfo.h"
 #include "shell/Shell.h"
 #include "shell/StartUp.h"
-#include "shell/ui/QtDisplay.h"
 #include "shell/ui/frmDirDialog.h"
 #include "shell/ui/frmGPAbout.h"
 #include "shell/ui/frmGPEdit.h"

@@ -1,5 +1,9 @@
 #include "document/AlphaIndicator.h"
 
+#include "document/Display.h"
+#include "document/EditState.h"
+#include "platform/ports/MessagePump.h"
+
 namespace gp {
 namespace {
 

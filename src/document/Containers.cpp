@@ -1,5 +1,8 @@
 #include "document/Containers.h"
 
+#include "document/EditState.h"
+#include "document/IconImage.h"
+
 namespace gp {
 
 namespace {

@@ -2,10 +2,12 @@
 // Current Icon and its container. Pure data operations; the views learn of them from the callers.
 #pragma once
 
-#include "document/EditState.h"
-#include "document/IconImage.h"
+#include "document/IconContainerRec.h"
 
 namespace gp {
+
+struct EditState;
+struct IconImage;
 
 // Empties the current container: its Surfaces, and the record from `used` through `present`; size 32, no path. The
 // fields from fromMultiIconFile on stay: who reuses the record sets them.

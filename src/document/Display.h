@@ -1,5 +1,5 @@
-// What the logic may ask of the screen. The views hold no state of their own: they read EditState again when they are
-// told that a part of it changed.
+// What the logic asks of the screen. The views hold no state of their own: when a part of the screen changes, they read
+// the state of their subsystem again.
 #pragma once
 
 namespace gp {
@@ -12,6 +12,8 @@ enum class DisplayPart {
   Tools,        // tool frames, selected tool, picker, brush
   Pointer,      // pointer over the Editing Area, hourglass
   Panel,        // which fraPanel is up
+  SidePanel,    // what the side panel shows
+  ModalForm,    // what the modal form of files shows
   ColorPanel,   // frames, picColorToUse, direct entry
   Commands,     // enabling and ticks of menus and toolbar
   History,      // entries of the history menus

@@ -1,29 +1,19 @@
 // The hourglass pointer for as long as a piece of work lasts. It may be nested: the pointer returns with the outermost.
 #pragma once
 
-#include "document/Display.h"
-#include "document/EditState.h"
-
-#include <utility>
+#include "document/Context.h"
 
 namespace gp {
 
 class Hourglass {
  public:
-  Hourglass(EditState& state, Display& display)
-      : state_(state), display_(display), before_(std::exchange(state.screen.hourglass, true)) {
-    display_.changed(DisplayPart::Pointer);
-  }
-  ~Hourglass() {
-    state_.screen.hourglass = before_;
-    display_.changed(DisplayPart::Pointer);
-  }
+  explicit Hourglass(const Context& context);
+  ~Hourglass();
   Hourglass(const Hourglass&) = delete;
   Hourglass& operator=(const Hourglass&) = delete;
 
  private:
-  EditState& state_;
-  Display& display_;
+  const Context context_;
   const bool before_;
 };
 

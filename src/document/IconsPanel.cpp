@@ -66,7 +66,7 @@ void IconsPanel::SwitchContainer(int container) {
 }
 
 void IconsPanel::showCurrentContainer() {
-  const Hourglass hourglass(state_, context_.display);
+  const Hourglass hourglass(context_);
   if (!state_.current().used) {
     showEmptyContainer();
     context_.editor.showChart16();

@@ -150,7 +150,7 @@ bool ClipboardCommands::makeNewIcon(int size) {
 }
 
 void ClipboardCommands::showPasted(const Surface& picture, bool opaque) {
-  const Hourglass hourglass(state_, context_.display);
+  const Hourglass hourglass(context_);
   regions_.clearRegion();
   tools_.clearAllTools();
   tools_.selectTool(kRegion);

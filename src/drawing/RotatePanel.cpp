@@ -1,5 +1,6 @@
 #include "drawing/RotatePanel.h"
 
+#include "document/Display.h"
 #include "document/EditState.h"
 #include "document/EditingArea.h"
 #include "document/Editor.h"
@@ -83,7 +84,7 @@ void RotatePanel::drawSample() {
   BitBlt(sample_, 0, 0, kRotateSampleSide, kRotateSampleSide, work, (side - kRotateSampleSide) / 2,
          (side - kRotateSampleSide) / 2, RasterOp::SRCCOPY);
   sample_.makePersistent();
-  if (onChange) onChange();
+  context_.display.changed(DisplayPart::SidePanel);
 }
 
 void RotatePanel::doRotateProceed() {
@@ -99,7 +100,7 @@ void RotatePanel::doRotateProceed() {
 }
 
 void RotatePanel::rotateIcon(double angle) {
-  const Hourglass hourglass(state_, context_.display);
+  const Hourglass hourglass(context_);
   regions_.finishDrag();
   regions_.clearRegion();
   rotate(state_.picImage, angle, kBlack);

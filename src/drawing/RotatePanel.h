@@ -6,7 +6,6 @@
 #include "document/PanelNumbers.h"
 #include "platform/gdi/Surface.h"
 
-#include <functional>
 #include <string>
 
 namespace gp {
@@ -44,8 +43,6 @@ class RotatePanel {
 
   // Proceed: turns the icon, which keeps its size and loses the corners that leave it. A whole turn changes nothing.
   void doRotateProceed();
-  // What the view redraws when list, slider or sample changed.
-  std::function<void()> onChange;
 
  private:
   void drawSample();

@@ -89,7 +89,7 @@ void Transforms::transform(Transform transformPixels, bool turns) {
     takeOver(transformed(state_.picImage, state_.picMask));
     return;
   }
-  const Hourglass hourglass(state_, context_.display);
+  const Hourglass hourglass(context_);
   regions_.finishDrag();
   regions_.replaceContent(transformed(regions_.content().image, regions_.content().mask));
 }

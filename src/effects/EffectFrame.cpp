@@ -49,7 +49,7 @@ void EffectFrame::copyPanelAfterApply() {
 }
 
 int EffectFrame::countMaskColors(const Surface& surface) {
-  const Hourglass hourglass(state_, context_.display);
+  const Hourglass hourglass(context_);
   std::set<std::uint32_t> colors;
   for (const std::uint32_t pixel : surface.pixels()) colors.insert(pixel & kColorBits);
   return static_cast<int>(colors.size());

@@ -1,6 +1,7 @@
 #include "effects/EffectPanel.h"
 
 #include "document/Compositing.h"
+#include "document/Display.h"
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
@@ -15,7 +16,7 @@ void EffectPanel::open(const EffectRow& /*effect*/) {
 
 void EffectPanel::show() {
   // The settings decide which control takes the focus.
-  if (onChange) onChange();
+  frame_.context().display.changed(DisplayPart::SidePanel);
   frame_.context().editor.showPanel(number_);
   preview();
 }
@@ -24,18 +25,18 @@ void EffectPanel::preview() {
   const EditState& state = frame_.state();
   if (!frame_.isUp(number_)) return;
   {
-    const Hourglass hourglass(frame_.state(), frame_.context().display);
+    const Hourglass hourglass(frame_.context());
     picture_ = state.current().present ? apply(frame_.currentIcon()) : IconImage{};
     sample_ = composedIcon(picture_.image, picture_.mask);
   }
-  if (onChange) onChange();
+  frame_.context().display.changed(DisplayPart::SidePanel);
 }
 
 void EffectPanel::proceed() {
   if (!mayProceed()) return;
   EditState& state = frame_.state();
   {
-    const Hourglass hourglass(state, frame_.context().display);
+    const Hourglass hourglass(frame_.context());
     frame_.document().iconsPanel.EndToolAction();
     frame_.applyTemps(apply(frame_.currentIcon()));
   }

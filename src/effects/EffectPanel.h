@@ -5,8 +5,6 @@
 #include "document/IconImage.h"
 #include "effects/EffectFrame.h"
 
-#include <functional>
-
 namespace gp {
 
 struct EffectRow;
@@ -32,8 +30,6 @@ class EffectPanel {
   const IconImage& picture() const { return picture_; }
   const Surface& sample() const { return sample_; }
   int number() const { return number_; }
-  // Called when settings or samples have changed, so that the view redraws them.
-  std::function<void()> onChange;
 
  protected:
   // Returns the icon with the effect.

@@ -1,5 +1,6 @@
 #include "shell/CommandNeeds.h"
 
+#include "document/EditState.h"
 #include "document/Messages.h"
 #include "document/PanelNumbers.h"
 #include "platform/ports/Clipboard.h"

@@ -1,5 +1,6 @@
 #include "shell/CommandTicks.h"
 
+#include "document/EditState.h"
 #include "shell/Shell.h"
 
 #include <array>

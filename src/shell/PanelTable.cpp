@@ -1,5 +1,6 @@
 #include "shell/PanelTable.h"
 
+#include "document/ScreenState.h"
 #include "shell/Shell.h"
 
 #include <algorithm>
@@ -11,7 +12,7 @@ namespace {
 
 void saveCursor(Shell& shell) { shell.files().iconSaver.doSaveAs(SaveMode::Cursor); }
 void rotate(Shell& shell) { shell.drawing().rotatePanel.doRotateProceed(); }
-void applyEffect(Shell& shell) { shell.effects().proceed(shell.state().screen.mActivePanel); }
+void applyEffect(Shell& shell) { shell.effects().proceed(shell.screen().mActivePanel); }
 
 constexpr PanelRow kPanels[] = {
     {kColorPanel, "Color", nullptr},

@@ -1,6 +1,7 @@
 #include "shell/Shell.h"
 
 #include "document/Display.h"
+#include "document/EditState.h"
 #include "document/Hourglass.h"
 #include "platform/ports/MessageBoxes.h"
 #include "shell/PanelTable.h"
@@ -32,6 +33,8 @@ Shell::Shell(EditState& state, const Ports& ports, Display& display, std::string
       aniHistory_(kAniHistorySection, kAniHistoryLimit, settingsPath()) {}
 
 Shell::~Shell() = default;
+
+const ScreenState& Shell::screen() const { return state_.screen; }
 
 void Shell::attach(ShellForms* form, FileForms* fileForms) {
   form_ = form;
@@ -101,7 +104,7 @@ void Shell::showPanel(int panel) {
     drawing_.tools.clearAllTools();
   else
     drawing_.tools.imgClearAllTools();
-  const Hourglass hourglass(state_, display_);
+  const Hourglass hourglass(context_);
   if (panel != kCursorPanel) files_.cursorFiles.mark().cancel();
   if (state_.screen.mActivePanel == kColorPanel && state_.screen.aniContainerVisible) {
     state_.screen.aniContainerVisible = false;

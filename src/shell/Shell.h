@@ -4,7 +4,6 @@
 
 #include "colour/Colour.h"
 #include "document/Document.h"
-#include "document/EditState.h"
 #include "document/Editor.h"
 #include "drawing/Drawing.h"
 #include "effects/Effects.h"
@@ -26,6 +25,8 @@ namespace gp {
 class Clipboard;
 class FileDialogs;
 class PictureLoader;
+struct EditState;
+struct ScreenState;
 
 // The ports that the program uses; app/ and the tests make them.
 struct Ports {
@@ -49,6 +50,8 @@ class Shell final : public Editor {
 
   EditState& state() { return state_; }
   const EditState& state() const { return state_; }
+  // What the views show.
+  const ScreenState& screen() const;
   Document& document() { return document_; }
   const Document& document() const { return document_; }
   Colour& colour() { return colour_; }

@@ -1,6 +1,7 @@
 // The command bodies that belong to the shell itself: history, options, help and the companion program.
 #include "document/CurrentIconGuard.h"
 #include "document/Display.h"
+#include "document/EditState.h"
 #include "document/Editor.h"
 #include "platform/files/Files.h"
 #include "platform/ports/MessageBoxes.h"

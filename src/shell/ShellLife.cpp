@@ -1,3 +1,5 @@
+#include "document/EditState.h"
+
 // The life of the main form: Load, the first Activate, Resize and QueryUnload.
 #include "document/Containers.h"
 #include "document/Display.h"

@@ -1,5 +1,8 @@
 #include "shell/StartUp.h"
 
+#include "document/EditState.h"
+#include "platform/ports/MessageBoxes.h"
+#include "platform/ports/SystemInfo.h"
 #include "platform/text/Paths.h"
 
 namespace gp {

@@ -2,14 +2,16 @@
 // folders. What they find out goes into the edit state; windows are the caller's.
 #pragma once
 
-#include "document/EditState.h"
 #include "platform/files/Files.h"
-#include "platform/ports/MessageBoxes.h"
-#include "platform/ports/SystemInfo.h"
 
 #include <string>
 
 namespace gp {
+
+class MessageBoxes;
+class Processes;
+class SystemInfo;
+struct EditState;
 
 // Title of the about screen, by which a second instance finds and closes it.
 inline constexpr const char* kAboutTitle = "Glimmerpane By Zorvex Lattice";

@@ -1,5 +1,7 @@
 #include "shell/UnsavedQuestion.h"
 
+#include "document/EditState.h"
+
 namespace gp {
 namespace {
 

@@ -1,4 +1,5 @@
 #include "document/AlphaIndicator.h"
+#include "document/EditState.h"
 #include "document/Hourglass.h"
 #include "support/FakeEditor.h"
 #include "support/ScriptedPorts.h"
@@ -51,10 +52,14 @@ TEST(AlphaIndicator, StaysAwayFromAnIconWithoutAlphaThatCameUpMeanwhile) {
 
 TEST(Hourglass, LastsAsLongAsTheOutermostGuard) {
   EditState state;
+  FakeEditor editor;
   RecordingDisplay display;
+  ScriptedBoxes boxes;
+  ScriptedPump pump;
+  const Context context{state, editor, display, boxes, pump};
   {
-    const Hourglass outer(state, display);
-    { const Hourglass inner(state, display); }
+    const Hourglass outer(context);
+    { const Hourglass inner(context); }
     EXPECT_TRUE(state.screen.hourglass);
   }
   EXPECT_FALSE(state.screen.hourglass);

@@ -1,4 +1,6 @@
 #include "document/Containers.h"
+#include "document/EditState.h"
+#include "document/IconImage.h"
 
 #include <gtest/gtest.h>
 

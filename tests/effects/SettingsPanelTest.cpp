@@ -17,7 +17,7 @@ class SettingsPanelTest : public testing::Test, protected Rooms {
   int changes = 0;
 
   SettingsPanelTest() {
-    panel.onChange = [this] { ++changes; };
+    display.onChanged = [this](DisplayPart part) { changes += part == DisplayPart::SidePanel; };
   }
   void arrive() { document.arrival.arrive(generatedIcons(16).back(), NewRecord()); }
   int isUp() const { return state.screen.mActivePanel; }

@@ -52,7 +52,7 @@ class BrowserTest : public FilesTest {
   }
   MultiIconBrowser& show() {
     browser = std::make_unique<MultiIconBrowser>(files.context());
-    browser->onChange = [this] { ++changes; };
+    display.onChanged = [this](DisplayPart part) { changes += part == DisplayPart::ModalForm; };
     browser->onUnload = [this] { ++unloads; };
     browser->activate();
     return *browser;

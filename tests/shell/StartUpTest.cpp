@@ -1,3 +1,4 @@
+#include "document/EditState.h"
 #include "shell/StartUp.h"
 #include "support/FakeMachine.h"
 #include "support/ScriptedPorts.h"

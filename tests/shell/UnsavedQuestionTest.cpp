@@ -1,3 +1,4 @@
+#include "document/EditState.h"
 #include "shell/UnsavedQuestion.h"
 
 #include <gtest/gtest.h>

@@ -5,7 +5,7 @@
 #include "shell/CommandStates.h"
 #include "shell/LoggedPorts.h"
 #include "shell/ShellSnapshot.h"
-#include "shell/ui/QtDisplay.h"
+#include "document/ui/QtDisplay.h"
 #include "shell/ui/frmGPEdit.h"
 #include "support/FakeMachine.h"
 #include "support/ScriptedPorts.h"

@@ -3,7 +3,7 @@
 
 #include "platform/qt/PathText.h"
 #include "shell/Shell.h"
-#include "shell/ui/QtDisplay.h"
+#include "document/ui/QtDisplay.h"
 #include "shell/ui/frmGPEdit.h"
 #include "support/FakeClipboard.h"
 #include "support/FakeMachine.h"

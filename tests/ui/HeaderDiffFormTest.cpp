@@ -1,4 +1,5 @@
 // frmGPHeaderDiff, worked by mouse and keyboard.
+#include "document/ui/QtDisplay.h"
 #include "files/Files.h"
 #include "files/ui/EntryView.h"
 #include "files/ui/frmGPHeaderDiff.h"
@@ -42,7 +43,8 @@ class HeaderDiffForm : public testing::Test {
  protected:
   std::unique_ptr<frmGPHeaderDiff> make(const std::string& path) {
     files.context().multiIcon.gMultiIconFile = path;
-    auto made = std::make_unique<frmGPHeaderDiff>(files.context(), nullptr);
+    rooms.display.onChanged = [this](DisplayPart part) { display.changed(part); };
+    auto made = std::make_unique<frmGPHeaderDiff>(files.context(), display, nullptr);
     made->show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(made.get()));
     QTest::qWait(1);
@@ -72,6 +74,7 @@ class HeaderDiffForm : public testing::Test {
   EditState& state = rooms.state;
   test::ScriptedBoxes& boxes = rooms.boxes;
   test::ScriptedDialogs& dialogs = rooms.dialogs;
+  QtDisplay display;
   Files files{rooms.context, rooms.document, rooms.drawing, rooms.dialog, folder.file("gptmp.ico")};
   std::unique_ptr<frmGPHeaderDiff> form;
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "colour/Colour.h"
+#include "document/ui/QtDisplay.h"
 #include "drawing/Drawing.h"
 #include "files/Files.h"
 #include "files/ui/frmGPMultiIcon.h"
@@ -75,7 +76,7 @@ class MultiIconFormFixture : public testing::Test {
     exchange.gMultiIconFile = path;
     exchange.gAddToFile = face == Face::Add;
     if (face == Face::Edit && exchange.gMultiIconResult.empty()) exchange.gMultiIconResult = "0";
-    form = std::make_unique<frmGPMultiIcon>(files.context(), nullptr);
+    form = std::make_unique<frmGPMultiIcon>(files.context(), display, nullptr);
   }
   void openFile(const std::string& path, Face face = Face::Edit) {
     make(path, face);
@@ -168,7 +169,7 @@ class MultiIconFormFixture : public testing::Test {
 
   TempFolder folder;
   EditState state;
-  RecordingDisplay display;
+  QtDisplay display;
   WatchedBoxes boxes;
   ScriptedPump pump;
   ScriptedDialogs dialogs;

@@ -27,7 +27,7 @@ class ShiftPadTest : public test::ShellFixture {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   }
   ShiftPad* makePad(QWidget& parent) {
-    auto* made = new ShiftPad(&parent, state, tools, shift);
+    auto* made = new ShiftPad(&parent, state.screen, tools, shift);
     QObject::connect(made, &ShiftPad::toolChosen, made, [this, made](int tool) {
       shell.chooseTool(toolRow(tool).index);
       made->refresh();

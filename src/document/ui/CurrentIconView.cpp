@@ -1,5 +1,6 @@
 #include "document/ui/CurrentIconView.h"
 
+#include "document/EditState.h"
 #include "document/ui/SurfacePainting.h"
 
 namespace gp {

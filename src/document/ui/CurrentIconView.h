@@ -1,11 +1,11 @@
 // PicIcon: the Current Icon as others will see it, one device-independent pixel for each of its own.
 #pragma once
 
-#include "document/EditState.h"
-
 #include <QWidget>
 
 namespace gp {
+
+struct EditState;
 
 class CurrentIconView : public QWidget {
   Q_OBJECT

@@ -1,5 +1,6 @@
 #include "document/ui/EditingAreaView.h"
 
+#include "document/EditState.h"
 #include "document/ui/SurfacePainting.h"
 
 #include <QContextMenuEvent>

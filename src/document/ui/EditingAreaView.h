@@ -2,7 +2,6 @@
 // from the Surface and turns mouse and keyboard into positions on the Editing Area; what they mean is others' business.
 #pragma once
 
-#include "document/EditState.h"
 #include "document/ScreenScale.h"
 #include "document/ui/PixelCursor.h"
 #include "platform/qt/Accessibility.h"
@@ -12,6 +11,8 @@
 #include <functional>
 
 namespace gp {
+
+struct EditState;
 
 class EditingAreaView : public QWidget, public AccessibleValue {
   Q_OBJECT

@@ -1,5 +1,7 @@
 #include "document/ui/IconsPanelView.h"
 
+#include "document/EditState.h"
+#include "document/IconsPanel.h"
 #include "document/ui/SurfacePainting.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/PictureButton.h"
@@ -46,6 +48,8 @@ ContainerButton::ContainerButton(QWidget* parent, int container, const EditState
 }
 
 QSize ContainerButton::sizeHint() const { return {kContainerSide, kContainerSide}; }
+
+bool ContainerButton::isCurrent() const { return state_.mCurContainer == container_; }
 
 void ContainerButton::refresh() {
   const IconContainerRec& record = state_.mIconRecs.at(static_cast<std::size_t>(container_));

@@ -2,8 +2,7 @@
 // Tells of clicks, right clicks and dropped files; what they do is others' business.
 #pragma once
 
-#include "document/EditState.h"
-#include "document/IconsPanel.h"
+#include "document/IconContainerRec.h"
 
 #include <QAbstractButton>
 #include <QLabel>
@@ -13,6 +12,9 @@
 #include <vector>
 
 namespace gp {
+
+class IconsPanel;
+struct EditState;
 
 // picPanelIcon(i).
 class ContainerButton : public QAbstractButton {
@@ -35,7 +37,7 @@ class ContainerButton : public QAbstractButton {
   void dropEvent(QDropEvent* event) override;
 
  private:
-  bool isCurrent() const { return state_.mCurContainer == container_; }
+  bool isCurrent() const;
 
   const int container_;
   const EditState& state_;

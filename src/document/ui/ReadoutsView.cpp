@@ -18,7 +18,7 @@ constexpr std::array<Cell, kReadoutCount> kCells = {
 
 }  // namespace
 
-ReadoutsView::ReadoutsView(QWidget* parent, const EditState& state) : QWidget(parent), state_(state) {
+ReadoutsView::ReadoutsView(QWidget* parent, const ScreenState& screen) : QWidget(parent), screen_(screen) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(0);
@@ -33,8 +33,8 @@ ReadoutsView::ReadoutsView(QWidget* parent, const EditState& state) : QWidget(pa
 }
 
 void ReadoutsView::refresh() {
-  for (std::size_t i = 0; i < lblDispXY_.size(); ++i) lblDispXY_[i]->setText(toText(state_.screen.lblDispXY[i]));
-  lblDispXY_[static_cast<std::size_t>(Readout::PixelRgb)]->setVisible(state_.screen.pixelRgbVisible);
+  for (std::size_t i = 0; i < lblDispXY_.size(); ++i) lblDispXY_[i]->setText(toText(screen_.lblDispXY[i]));
+  lblDispXY_[static_cast<std::size_t>(Readout::PixelRgb)]->setVisible(screen_.pixelRgbVisible);
 }
 
 }  // namespace gp

@@ -1,7 +1,7 @@
 // lblDispXY(0..2): the position, the pixel's colour and the region, in one row above the Editing Area.
 #pragma once
 
-#include "document/EditState.h"
+#include "document/ScreenState.h"
 
 #include <QWidget>
 
@@ -15,11 +15,11 @@ class ReadoutsView : public QWidget {
   Q_OBJECT
 
  public:
-  ReadoutsView(QWidget* parent, const EditState& state);
+  ReadoutsView(QWidget* parent, const ScreenState& screen);
   void refresh();
 
  private:
-  const EditState& state_;
+  const ScreenState& screen_;
   std::array<TextCell*, kReadoutCount> lblDispXY_{};
 };
 

@@ -39,7 +39,7 @@ class StatusBarView::AlphaIndicator : public QWidget {
   }
 };
 
-StatusBarView::StatusBarView(QWidget* parent, const EditState& state) : QWidget(parent), state_(state) {
+StatusBarView::StatusBarView(QWidget* parent, const ScreenState& screen) : QWidget(parent), screen_(screen) {
   setObjectName("picStatusBar");
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(kEdge, kVertical, kEdge, kVertical);
@@ -66,9 +66,9 @@ StatusBarView::StatusBarView(QWidget* parent, const EditState& state) : QWidget(
 
 void StatusBarView::refresh() {
   for (std::size_t i = 0; i < lblStatusPanel_.size(); ++i)
-    lblStatusPanel_[i]->setText(toText(state_.screen.lblStatusPanel[i]));
-  imgAlpha_->setVisible(state_.screen.imgAlphaOnStatusPanel);
-  showProgress(state_.screen.progressPercent);
+    lblStatusPanel_[i]->setText(toText(screen_.lblStatusPanel[i]));
+  imgAlpha_->setVisible(screen_.imgAlphaOnStatusPanel);
+  showProgress(screen_.progressPercent);
 }
 
 void StatusBarView::showProgress(int percent) {

@@ -2,7 +2,7 @@
 // it is filled or not.
 #pragma once
 
-#include "document/EditState.h"
+#include "document/ScreenState.h"
 
 #include <QWidget>
 
@@ -18,7 +18,7 @@ class StatusBarView : public QWidget {
   Q_OBJECT
 
  public:
-  StatusBarView(QWidget* parent, const EditState& state);
+  StatusBarView(QWidget* parent, const ScreenState& screen);
   void refresh();
 
  protected:
@@ -29,7 +29,7 @@ class StatusBarView : public QWidget {
 
   void showProgress(int percent);
 
-  const EditState& state_;
+  const ScreenState& screen_;
   std::array<TextCell*, kStatusPanelCount> lblStatusPanel_{};
   QWidget* imgAlpha_ = nullptr;
   QWidget* progressPlace_ = nullptr;

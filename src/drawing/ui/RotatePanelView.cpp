@@ -48,11 +48,8 @@ RotatePanelView::RotatePanelView(QWidget* parent, RotatePanel& panel)
   rows()->addWidget(makeSample());
   addButtons();
   setFirstControl(cboRotateImageAngle_);
-  panel_.onChange = [this] { refresh(); };
   refresh();
 }
-
-RotatePanelView::~RotatePanelView() { panel_.onChange = nullptr; }
 
 QWidget* RotatePanelView::makeAngleRow() {
   auto* row = new QWidget(this);

@@ -1,5 +1,5 @@
-// fraPanel(4): angle, slider, Antialias and the sample of rotating by any angle. It keeps nothing: it shows what the
-// panel's logic holds, each time that it tells of a change. It must go before the logic does.
+// fraPanel(4): angle, slider, Antialias and the sample of rotating by any angle. It stores nothing: refresh() shows
+// what the RotatePanel contains. The RotatePanel must outlive it.
 #pragma once
 
 #include "platform/qt/widgets/PanelFrame.h"
@@ -18,8 +18,8 @@ class RotatePanelView : public PanelFrame {
 
  public:
   RotatePanelView(QWidget* parent, RotatePanel& panel);
-  ~RotatePanelView() override;
 
+  // Shows the angle and the sample of the RotatePanel.
   void refresh();
 
  private:

@@ -1,6 +1,6 @@
 #include "drawing/ui/ShiftPad.h"
 
-#include "document/EditState.h"
+#include "document/ScreenState.h"
 #include "drawing/ToolTable.h"
 #include "drawing/Tools.h"
 #include "platform/qt/PathText.h"
@@ -43,8 +43,8 @@ const CellLook& lookOf(ShiftCell cell) { return *std::ranges::find(kCells, cell,
 
 }  // namespace
 
-ShiftPad::ShiftPad(QWidget* parent, const EditState& state, const Tools& tools, ShiftTool& shift)
-    : QWidget(parent), state_(state), tools_(tools), shift_(shift), focus_(new RovingFocus(this, kCellsAcross)) {
+ShiftPad::ShiftPad(QWidget* parent, const ScreenState& screen, const Tools& tools, ShiftTool& shift)
+    : QWidget(parent), screen_(screen), tools_(tools), shift_(shift), focus_(new RovingFocus(this, kCellsAcross)) {
   setObjectName("imgShiftDirBase");
   setAccessibleName("Shift image");
   setToolTip(kPadTooltip);
@@ -101,7 +101,7 @@ void ShiftPad::letGo() {
 }
 
 void ShiftPad::refresh() {
-  const bool dimmed = !state_.screen.fraTools[1];
+  const bool dimmed = !screen_.fraTools[1];
   const auto shown = static_cast<std::size_t>(shift_.shownPicture());
   for (std::size_t i = 0; i < imgShiftDir_.size(); ++i) {
     PictureButton* button = imgShiftDir_.at(i);

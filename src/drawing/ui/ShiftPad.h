@@ -14,7 +14,7 @@ namespace gp {
 class PictureButton;
 class RovingFocus;
 class Tools;
-struct EditState;
+struct ScreenState;
 
 class ShiftPad : public QWidget {
   Q_OBJECT
@@ -22,7 +22,7 @@ class ShiftPad : public QWidget {
  public:
   static constexpr int kSide = 60;  // pixels
 
-  ShiftPad(QWidget* parent, const EditState& state, const Tools& tools, ShiftTool& shift);
+  ShiftPad(QWidget* parent, const ScreenState& screen, const Tools& tools, ShiftTool& shift);
 
   void refresh();
 
@@ -44,7 +44,7 @@ class ShiftPad : public QWidget {
   void release(ShiftCell cell);
   void letGo();
 
-  const EditState& state_;
+  const ScreenState& screen_;
   const Tools& tools_;
   ShiftTool& shift_;
   RovingFocus* focus_;

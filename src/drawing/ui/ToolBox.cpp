@@ -1,7 +1,7 @@
 #include "drawing/ui/ToolBox.h"
 
 #include "colour/ColorSelection.h"
-#include "document/EditState.h"
+#include "document/ScreenState.h"
 #include "drawing/Tools.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/PictureButton.h"
@@ -17,9 +17,9 @@ constexpr int kButtonSide = 28;
 
 }  // namespace
 
-ToolBox::ToolBox(QWidget* parent, const EditState& state, const Tools& tools, const ColorSelection& colors)
+ToolBox::ToolBox(QWidget* parent, const ScreenState& screen, const Tools& tools, const ColorSelection& colors)
     : QWidget(parent),
-      state_(state),
+      screen_(screen),
       tools_(tools),
       colors_(colors),
       grid_(new QGridLayout(this)),
@@ -57,13 +57,13 @@ PictureButton* ToolBox::add(const QString& objectName, const PictureButtonLook& 
 }
 
 void ToolBox::refresh() {
-  const bool dimmed = !state_.screen.fraTools[1];
+  const bool dimmed = !screen_.fraTools[1];
   for (std::size_t i = 0; i < imgTool_.size(); ++i) {
     imgTool_[i]->setChecked(tools_.selectedTool() == kFirstTool + static_cast<int>(i));
     imgTool_[i]->setDimmed(dimmed);
   }
   imgColorPicker_->setChecked(colors_.isPickerSelected());
-  imgColorPicker_->setVisible(state_.screen.imgColorPickerVisible);
+  imgColorPicker_->setVisible(screen_.imgColorPickerVisible);
   for (PictureButton* button : {imgColorPicker_, imgClearAllTools_}) button->setDimmed(dimmed);
 }
 

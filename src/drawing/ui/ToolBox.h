@@ -17,14 +17,14 @@ class ColorSelection;
 class PictureButton;
 class RovingFocus;
 class Tools;
-struct EditState;
+struct ScreenState;
 struct PictureButtonLook;
 
 class ToolBox : public QWidget {
   Q_OBJECT
 
  public:
-  ToolBox(QWidget* parent, const EditState& state, const Tools& tools, const ColorSelection& colors);
+  ToolBox(QWidget* parent, const ScreenState& screen, const Tools& tools, const ColorSelection& colors);
 
   void refresh();
 
@@ -36,7 +36,7 @@ class ToolBox : public QWidget {
  private:
   PictureButton* add(const QString& objectName, const PictureButtonLook& look);
 
-  const EditState& state_;
+  const ScreenState& screen_;
   const Tools& tools_;
   const ColorSelection& colors_;
   QGridLayout* grid_;

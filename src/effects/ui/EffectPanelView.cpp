@@ -18,11 +18,7 @@ constexpr int kSmallRoom = 96;
 }  // namespace
 
 EffectPanelView::EffectPanelView(QWidget* parent, EffectPanel& panel)
-    : PanelFrame(parent, panel.number()), panel_(panel) {
-  panel_.onChange = [this] { refreshAll(); };
-}
-
-EffectPanelView::~EffectPanelView() { panel_.onChange = nullptr; }
+    : PanelFrame(parent, panel.number()), panel_(panel) {}
 
 void EffectPanelView::follow() { panel_.preview(); }
 

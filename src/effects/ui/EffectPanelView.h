@@ -1,5 +1,5 @@
-// What the views of the effects' side panels share: rows on top and samples below, which are refreshed whenever the
-// panel's logic reports a change. A view has no state; it must be destroyed before the logic.
+// What the views of the effects' side panels share: rows on top and samples below. A view has no state; it must be
+// destroyed before the logic.
 #pragma once
 
 #include "platform/qt/widgets/PanelFrame.h"
@@ -27,10 +27,11 @@ class EffectPanelView : public PanelFrame {
 
  public:
   EffectPanelView(QWidget* parent, EffectPanel& panel);
-  ~EffectPanelView() override;
 
-  // Updates the samples after the icon or the current colour has changed.
+  // Makes the samples again after the icon or the current colour has changed.
   void follow();
+  // Shows the settings and the samples of the panel.
+  void refreshAll();
 
  protected:
   // Adds a label above the list that it belongs to; `caption` may have an access letter.
@@ -41,7 +42,6 @@ class EffectPanelView : public PanelFrame {
   virtual void refresh() {}
 
  private:
-  void refreshAll();
   QLabel* addSample(QHBoxLayout* row, const SampleRow& sample, int room);
 
   EffectPanel& panel_;

@@ -1,6 +1,7 @@
 #include "files/browser/HeaderDiff.h"
 
 #include "colour/ColorCount.h"
+#include "document/Display.h"
 #include "document/EditState.h"
 #include "document/Hourglass.h"
 #include "files/FileQuestions.h"
@@ -65,9 +66,7 @@ bool hasAlphaBytes(ImageBytes image, const HeaderFacts& facts) {
 
 HeaderDiff::HeaderDiff(const FilesContext& context) : context_(context), file_(context.multiIcon.gMultiIconFile) {}
 
-void HeaderDiff::changed() const {
-  if (onChange) onChange();
-}
+void HeaderDiff::changed() const { context_.display.changed(DisplayPart::ModalForm); }
 
 void HeaderDiff::activate() {
   loadAndList();
@@ -90,7 +89,7 @@ void HeaderDiff::loadAndList() {
 }
 
 void HeaderDiff::readMultiIconFile() {
-  const Hourglass hourglass(context_.state, context_.display);
+  const Hourglass hourglass(context_);
   selected_ = -1;
   table_ = {};
   preview_.clear();
@@ -148,7 +147,7 @@ void HeaderDiff::select(int item) {
 
 // With the base of the bitmap header, only its bit count states the colours: the directory's count may be wrong.
 bool HeaderDiff::readImageAtIndex(std::size_t index) {
-  const Hourglass hourglass(context_.state, context_.display);
+  const Hourglass hourglass(context_);
   IconEntry entry = arrays_.entries[index];
   if (goesByHeader(index)) {
     entry.width = headers_[index].width;
@@ -192,7 +191,7 @@ bool HeaderDiff::confirmsSalvage(const std::string& target) const {
 }
 
 WriteOutcome HeaderDiff::writeSalvaged(const std::string& target) const {
-  const Hourglass hourglass(context_.state, context_.display);
+  const Hourglass hourglass(context_);
   IconArrays salvaged;
   salvaged.reserved = arrays_.reserved;
   salvaged.type = arrays_.type;

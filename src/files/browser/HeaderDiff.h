@@ -9,7 +9,6 @@
 #include "files/format/IconArrays.h"
 #include "files/format/IconSalvage.h"
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -47,9 +46,6 @@ class HeaderDiff {
   // Reads the file again and lists it by its directory or by its bitmap headers.
   void setBase(HeaderBase base);
   void cmdSalvage();
-
-  // Called when the state shown by the form has changed.
-  std::function<void()> onChange;
 
  private:
   void changed() const;

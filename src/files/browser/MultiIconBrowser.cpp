@@ -1,5 +1,6 @@
 #include "files/browser/MultiIconBrowser.h"
 
+#include "document/Display.h"
 #include "document/EditState.h"
 #include "document/Hourglass.h"
 #include "files/browser/MultiIconExchange.h"
@@ -41,7 +42,7 @@ MultiIconBrowser::MultiIconBrowser(const FilesContext& context) : context_(conte
 
 void MultiIconBrowser::changed() {
   const FlagFor busy(mBusy_);
-  if (onChange) onChange();
+  context_.display.changed(DisplayPart::ModalForm);
 }
 
 void MultiIconBrowser::unload() {
@@ -107,7 +108,7 @@ void MultiIconBrowser::openFile() {
 
 // The selection is stored as the item's text only: where its Ref reads as that of another entry, that entry is shown.
 bool MultiIconBrowser::preview(const std::string& item, EntryPreview& preview) {
-  const Hourglass hourglass(context_.state, context_.display);
+  const Hourglass hourglass(context_);
   const ItemReading reading = readItem(item);
   IconEntry entry = arrays_.entries.at(static_cast<std::size_t>(reading.index));
   entry.width = reading.width;

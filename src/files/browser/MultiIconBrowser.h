@@ -76,8 +76,7 @@ class MultiIconBrowser {
   void cmdRepositionProceed();
   void cmdSaveAdd(int button);
 
-  // Called when the state shown by the form has changed, and when the form has to close.
-  std::function<void()> onChange;
+  // Called when the form has to close.
   std::function<void()> onUnload;
 
  private:

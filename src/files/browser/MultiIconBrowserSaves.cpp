@@ -30,7 +30,7 @@ std::string MultiIconBrowser::singleFileName(const std::string& stem, int item) 
 }
 
 bool MultiIconBrowser::saveItem(int item, const std::string& path) {
-  const Hourglass hourglass(context_.state, context_.display);
+  const Hourglass hourglass(context_);
   return saveEntryToSingleFile(arrays_, readItem(iconText(item)).index, path);
 }
 
@@ -58,7 +58,7 @@ void MultiIconBrowser::cmdSplitSave() {
 // Images that cannot be shown are saved too. Failures are not reported. The views rebuild their lists on each
 // notification, so there is one notification at the end.
 void MultiIconBrowser::splitInto(const std::string& stem) {
-  const Hourglass hourglass(context_.state, context_.display);
+  const Hourglass hourglass(context_);
   const int before = selected_;
   for (int item = 0; isIcon(item); ++item) {
     if (preview(iconText(item), preview_)) selected_ = item;

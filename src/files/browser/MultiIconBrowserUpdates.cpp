@@ -45,7 +45,7 @@ void MultiIconBrowser::cmdRemove() {
 }
 
 bool MultiIconBrowser::removeEntry(int index) {
-  const Hourglass hourglass(context_.state, context_.display);
+  const Hourglass hourglass(context_);
   removeImage(arrays_, index);
   return writeWholeFile(arrays_, file(), arrays_.file.span());
 }
@@ -110,7 +110,7 @@ void MultiIconBrowser::cmdRepositionProceed() {
 void MultiIconBrowser::writeRepositioned() {
   WriteOutcome outcome;
   {
-    const Hourglass hourglass(context_.state, context_.display);
+    const Hourglass hourglass(context_);
     reorderImages(arrays_, reposition_.order());
     outcome = writeWholeFile(arrays_, file(), arrays_.file.span());
   }

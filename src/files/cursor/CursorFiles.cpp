@@ -2,6 +2,7 @@
 
 #include "document/AlphaIndicator.h"
 #include "document/Containers.h"
+#include "document/Display.h"
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
@@ -47,7 +48,7 @@ void CursorFiles::doOpenCursorFile(const std::string& path, bool& ok) {
   if (!decoded.isRead()) return leaveEmpty(kFailedToLoad, BoxIcon::Exclamation);
   if (!facts.depth.isShown()) return leaveEmpty(path + kStrangeTrueColor, BoxIcon::Information);
   {
-    const Hourglass hourglass(state_, context_.display);
+    const Hourglass hourglass(context_);
     context_.document.arrival.arrive(decoded.icon, recordOfLoadedCursor(facts, decoded.icon, path));
   }
   if (state_.screen.mActivePanel == kCursorPanel) setSpot(startOf(state_.current()));
@@ -89,7 +90,7 @@ CursorFiles::Spot CursorFiles::spot() const {
 void CursorFiles::setSpot(Spot spot) {
   spot_ = spot;
   spotOf_ = state_.iconSerial;
-  if (onChange) onChange();
+  context_.display.changed(DisplayPart::SidePanel);
 }
 
 void CursorFiles::setHotspotX(int x) { setSpot({isInside(x) ? x : hotspotX(), hotspotY()}); }

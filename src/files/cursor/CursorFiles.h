@@ -44,8 +44,6 @@ class CursorFiles {
   void WriteCursorFile(const std::string& path, bool& ok) const;
 
   HotspotMark& mark() { return mark_; }
-  // Called when the lists have changed.
-  std::function<void()> onChange;
 
  private:
   struct Spot {

@@ -95,7 +95,7 @@ bool IconOpening::isConfirmed() {
 
 void IconOpening::show() {
   {
-    const Hourglass hourglass(state_, context_.display);
+    const Hourglass hourglass(context_);
     context_.document.arrival.arrive(decoded_.icon, recordOfLoadedIcon(facts_, decoded_.icon, path_));
   }
   if (!isSpoken()) return;

@@ -2,6 +2,7 @@
 
 #include "document/Containers.h"
 #include "document/CurrentIconGuard.h"
+#include "document/Display.h"
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
@@ -193,7 +194,7 @@ void IconSaver::saveMaskTo(const std::string& path, bool& ok) {
 
 void IconSaver::SaveBitmap(const Surface& surface, const std::string& path, bool& ok) {
   {
-    const Hourglass hourglass(state_, context_.display);
+    const Hourglass hourglass(context_);
     ok = saveByColors(surface, path);
   }
   if (!ok) context_.boxes.tell(kFileNotSaved, BoxIcon::Exclamation);

@@ -1,5 +1,6 @@
 #include "files/saving/MultiIconAdd.h"
 
+#include "document/Display.h"
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
@@ -148,7 +149,7 @@ bool MultiIconAdd::insertEntry(int index, const std::string& target) {
 }
 
 bool MultiIconAdd::write(IconArrays& arrays, const std::string& target) {
-  const Hourglass hourglass(state_, context_.display);
+  const Hourglass hourglass(context_);
   return writeWholeFile(arrays, target, arrays.file.span());
 }
 

@@ -1,5 +1,6 @@
 #include "files/saving/MultiIconReplace.h"
 
+#include "document/Display.h"
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
@@ -122,7 +123,7 @@ bool MultiIconReplace::readOriginalAgain() {
 }
 
 bool MultiIconReplace::write(const std::string& path) {
-  const Hourglass hourglass(state_, context_.display);
+  const Hourglass hourglass(context_);
   const bool isOriginal = isSameFile(path, original_);
   const FileBytes other = isOriginal ? FileBytes() : contentToPutBack(path);
   return writeWholeFile(arrays_, path, isOriginal ? arrays_.file.span() : other.span());

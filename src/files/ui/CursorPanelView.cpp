@@ -30,11 +30,8 @@ CursorPanelView::CursorPanelView(QWidget* parent, CursorFiles& cursors)
   rows()->addStretch(1);
   addButtons();
   setFirstControl(cboCursorHotSpot_[0]);
-  cursors_.onChange = [this] { refresh(); };
   refresh();
 }
-
-CursorPanelView::~CursorPanelView() { cursors_.onChange = nullptr; }
 
 // The access keys are those that no menu of the form uses.
 QGridLayout* CursorPanelView::makeLists() {

@@ -19,7 +19,6 @@ class CursorPanelView : public PanelFrame {
  public:
   // CursorFiles must outlive the view.
   CursorPanelView(QWidget* parent, CursorFiles& cursors);
-  ~CursorPanelView() override;
 
   // Shows the hot spot of the lists, which belongs to another icon once one has arrived.
   void refresh();

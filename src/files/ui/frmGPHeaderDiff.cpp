@@ -1,5 +1,6 @@
 #include "files/ui/frmGPHeaderDiff.h"
 
+#include "document/ui/QtDisplay.h"
 #include "files/format/IcoLayout.h"
 #include "files/ui/EntryView.h"
 #include "platform/qt/PathText.h"
@@ -73,12 +74,14 @@ QLabel* makeHeading(const char* caption, QWidget* parent) {
 
 }  // namespace
 
-frmGPHeaderDiff::frmGPHeaderDiff(const FilesContext& context, QWidget* parent) : QDialog(parent), diff_(context) {
+frmGPHeaderDiff::frmGPHeaderDiff(const FilesContext& context, QtDisplay& display, QWidget* parent)
+    : QDialog(parent), diff_(context) {
   setObjectName(QStringLiteral("frmGPHeaderDiff"));
   setWindowTitle(QStringLiteral("Header Entry Diff"));
   makeControls();
   layOut();
   connectControls();
+  display.listen(DisplayPart::ModalForm, this, [this] { refresh(); });
   refresh();
   lisIcons->setFocus();
 }
@@ -175,7 +178,6 @@ QBoxLayout* frmGPHeaderDiff::makeButtonRow() {
 }
 
 void frmGPHeaderDiff::connectControls() {
-  diff_.onChange = [this] { refresh(); };
   connect(lisIcons, &TabbedList::itemChosen, this, [this](int item) { diff_.clickIcon(item); });
   for (const HeaderBase base : {HeaderBase::Icon, HeaderBase::Bitmap})
     connect(optBase.at(static_cast<std::size_t>(base)), &QRadioButton::toggled, this, [this, base](bool checked) {

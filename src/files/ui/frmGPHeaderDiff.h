@@ -15,6 +15,7 @@ class QRadioButton;
 namespace gp {
 
 class EntryView;
+class QtDisplay;
 class TabbedList;
 class TextCell;
 
@@ -23,7 +24,7 @@ class frmGPHeaderDiff final : public QDialog {
 
  public:
   // The file is that of MultiIconExchange. The objects that the context refers to must outlive the form.
-  frmGPHeaderDiff(const FilesContext& context, QWidget* parent);
+  frmGPHeaderDiff(const FilesContext& context, QtDisplay& display, QWidget* parent);
 
  protected:
   void showEvent(QShowEvent* event) override;

@@ -1,6 +1,7 @@
 #include "files/ui/frmGPMultiIcon.h"
 
 #include "document/EditState.h"
+#include "document/ui/QtDisplay.h"
 #include "files/ui/BrowserFaceView.h"
 #include "files/ui/BrowserLists.h"
 #include "files/ui/RepositionView.h"
@@ -17,11 +18,11 @@
 
 namespace gp {
 
-frmGPMultiIcon::frmGPMultiIcon(const FilesContext& context, QWidget* parent)
+frmGPMultiIcon::frmGPMultiIcon(const FilesContext& context, QtDisplay& display, QWidget* parent)
     : QDialog(parent), browser_(context), exchange_(context.multiIcon) {
   setObjectName(QStringLiteral("frmGPMultiIcon"));
   setModal(true);
-  browser_.onChange = [this] { browserChanged(); };
+  display.listen(DisplayPart::ModalForm, this, [this] { browserChanged(); });
   browser_.onUnload = [this] {
     unloaded_ = true;
     done(Accepted);

@@ -12,6 +12,7 @@ namespace gp {
 
 class BrowserFaceView;
 class RepositionView;
+class QtDisplay;
 class TabbedList;
 
 class frmGPMultiIcon final : public QDialog {
@@ -19,7 +20,7 @@ class frmGPMultiIcon final : public QDialog {
 
  public:
   // The objects that the context refers to must outlive the form.
-  frmGPMultiIcon(const FilesContext& context, QWidget* parent);
+  frmGPMultiIcon(const FilesContext& context, QtDisplay& display, QWidget* parent);
 
   // Shows the form until it is closed. Does nothing for a file that cannot be read.
   void run();

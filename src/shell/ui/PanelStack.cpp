@@ -1,13 +1,14 @@
 #include "shell/ui/PanelStack.h"
 
 #include "colour/ui/ColorPanel.h"
+#include "document/ScreenState.h"
+#include "document/ui/QtDisplay.h"
 #include "drawing/ui/RotatePanelView.h"
 #include "effects/ui/EffectPanelView.h"
 #include "effects/ui/EffectViews.h"
 #include "files/ui/CursorPanelView.h"
 #include "shell/PanelTable.h"
 #include "shell/Shell.h"
-#include "shell/ui/QtDisplay.h"
 
 #include <QStackedLayout>
 
@@ -25,13 +26,15 @@ QWidget* makeColorPanel(QWidget* parent, Shell& shell, QtDisplay& display) {
   QObject::connect(panel, &ColorPanel::brushChosen, panel,
                    [&shell](int index) { shell.drawing().tools.setBrush(index); });
   for (const DisplayPart part : {DisplayPart::ColorPanel, DisplayPart::Tools})
-    display.listen(part, [panel] { panel->refresh(); });
+    display.listen(part, panel, [panel] { panel->refresh(); });
   display.requests().focusColorValue = [panel] { panel->focusColorValue(); };
   return panel;
 }
 
-QWidget* makeRotatePanel(QWidget* parent, Shell& shell, QtDisplay&) {
-  return new RotatePanelView(parent, shell.drawing().rotatePanel);
+QWidget* makeRotatePanel(QWidget* parent, Shell& shell, QtDisplay& display) {
+  auto* panel = new RotatePanelView(parent, shell.drawing().rotatePanel);
+  display.listen(DisplayPart::SidePanel, panel, [panel] { panel->refresh(); });
+  return panel;
 }
 
 QWidget* makeCursorPanel(QWidget* parent, Shell& shell, QtDisplay& display) {
@@ -39,7 +42,8 @@ QWidget* makeCursorPanel(QWidget* parent, Shell& shell, QtDisplay& display) {
   QObject::connect(panel, &CursorPanelView::showHotspotRequested, panel, [&shell] {
     shell.guarded("cmdShowHotspot_Click", [&shell] { shell.files().cursorFiles.showHotspot(); });
   });
-  display.listen(DisplayPart::IconsPanel, [panel] { panel->refresh(); });
+  for (const DisplayPart part : {DisplayPart::IconsPanel, DisplayPart::SidePanel})
+    display.listen(part, panel, [panel] { panel->refresh(); });
   return panel;
 }
 
@@ -48,7 +52,8 @@ QWidget* makeEffectPanel(int number, QWidget* parent, Shell& shell, QtDisplay& d
   EffectPanelView* view = makeEffectView(number, parent, shell.effects());
   if (!view) return nullptr;
   for (const DisplayPart part : {DisplayPart::IconsPanel, DisplayPart::ColorPanel})
-    display.listen(part, [view] { view->follow(); });
+    display.listen(part, view, [view] { view->follow(); });
+  display.listen(DisplayPart::SidePanel, view, [view] { view->refreshAll(); });
   return view;
 }
 
@@ -84,7 +89,7 @@ QWidget* makePanel(int number, QWidget* parent, Shell& shell, QtDisplay& display
 PanelStack::PanelStack(QWidget* parent, Shell& shell, QtDisplay& display)
     : QWidget(parent), shell_(shell), display_(display), stack_(new QStackedLayout(this)) {
   setFixedWidth(kPanelWidth);
-  showPanel(shell_.state().screen.mActivePanel);
+  showPanel(shell_.screen().mActivePanel);
 }
 
 QWidget* PanelStack::panel(int number) {

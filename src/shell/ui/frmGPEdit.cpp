@@ -3,8 +3,10 @@
 #include "document/ui/CurrentIconView.h"
 #include "document/ui/EditingAreaView.h"
 #include "document/ui/IconsPanelView.h"
+#include "document/ui/QtDisplay.h"
 #include "document/ui/ReadoutsView.h"
 #include "document/ui/StatusBarView.h"
+#include "drawing/ui/MouseInputs.h"
 #include "drawing/ui/ShiftPad.h"
 #include "drawing/ui/ToolBox.h"
 #include "files/ui/frmGPHeaderDiff.h"
@@ -16,13 +18,12 @@
 #include "shell/Shell.h"
 #include "shell/ui/CommandMenus.h"
 #include "shell/ui/PanelStack.h"
-#include "shell/ui/QtDisplay.h"
+#include "shell/ui/PointerView.h"
 #include "shell/ui/ToolbarView.h"
 #include "shell/ui/frmGPAbout.h"
 
 #include <QCloseEvent>
 #include <QCursor>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -41,48 +42,10 @@ constexpr int kToolColumnWidth = ShiftPad::kSide;
 int pixelsOf(int twips) { return twips / kTwipsPerPixel; }
 int twipsOf(int pixels) { return pixels * kTwipsPerPixel; }
 
-// Qt's modifiers as the tools count them.
-int modifierBits(Qt::KeyboardModifiers modifiers) {
-  return (modifiers & Qt::ShiftModifier ? kShiftKey : 0) | (modifiers & Qt::ControlModifier ? kCtrlKey : 0) |
-         (modifiers & Qt::AltModifier ? kAltKey : 0);
-}
-
-MouseInput mouseInput(QPointF position, Qt::KeyboardModifiers modifiers, Qt::MouseButton button = Qt::NoButton) {
-  // The numbers of left, right and middle button are the tools' own.
-  return {static_cast<int>(button), modifierBits(modifiers), static_cast<float>(position.x()),
-          static_cast<float>(position.y())};
-}
-static_assert(Qt::LeftButton == kLeftButton && Qt::RightButton == kRightButton);
-
-const char* pictureOfPointer(int pointer) {
-  return pointer == kColorPickerPointer ? "color-picker" : toolRow(pointer).picture;
-}
-
-QCursor cursorOf(int pointer, double ratio) {
-  switch (pointer) {
-    case kDefaultPointer:
-      return Qt::ArrowCursor;
-    case kCrossPointer:
-      return Qt::CrossCursor;
-    case kHorizontalResizePointer:
-      return Qt::SizeHorCursor;
-    case kVerticalResizePointer:
-      return Qt::SizeVerCursor;
-    case kMovePointer:
-      return Qt::SizeAllCursor;
-    default:
-      return Pictures::cursor(pictureOfPointer(pointer), ratio);
-  }
-}
-
 }  // namespace
 
 frmGPEdit::frmGPEdit(Shell& shell, QtDisplay& display, std::string commandLine)
-    : shell_(shell),
-      display_(display),
-      commandLine_(std::move(commandLine)),
-      pointerShown_(kDefaultPointer),
-      commandsTimer_(new QTimer(this)) {
+    : shell_(shell), display_(display), commandLine_(std::move(commandLine)), commandsTimer_(new QTimer(this)) {
   setObjectName("frmGPEdit");
   setWindowTitle(kProgramName);
   setWindowIcon(Pictures::icon("glimmerpane"));
@@ -93,7 +56,7 @@ frmGPEdit::frmGPEdit(Shell& shell, QtDisplay& display, std::string commandLine)
   rows->setSpacing(0);
   rows->addWidget(toolbar_ = new ToolbarView(whole, shell_));
   rows->addWidget(makeMiddle(whole), 1);
-  rows->addWidget(statusBar_ = new StatusBarView(whole, shell_.state()));
+  rows->addWidget(statusBar_ = new StatusBarView(whole, shell_.screen()));
   setCentralWidget(whole);
   menus_ = new CommandMenus(this, menuBar(), shell_);
 
@@ -104,6 +67,7 @@ frmGPEdit::frmGPEdit(Shell& shell, QtDisplay& display, std::string commandLine)
   connect(menus_, &CommandMenus::commandRan, this, &frmGPEdit::refreshCommandsSoon);
   commandsTimer_->setSingleShot(true);
   connect(commandsTimer_, &QTimer::timeout, this, &frmGPEdit::refreshCommands);
+  pointer_ = std::make_unique<PointerView>(room_->view(), shell_.screen());
   listen();
   setRequests();
   refreshCommands();
@@ -114,7 +78,6 @@ frmGPEdit::frmGPEdit(Shell& shell, QtDisplay& display, std::string commandLine)
 frmGPEdit::~frmGPEdit() {
   shell_.attach(nullptr, nullptr);
   display_.forgetAll();
-  if (hourglassShown_) QGuiApplication::restoreOverrideCursor();
 }
 
 QWidget* frmGPEdit::makeMiddle(QWidget* parent) {
@@ -136,8 +99,8 @@ QWidget* frmGPEdit::makeToolColumn(QWidget* parent) {
   auto* rows = new QVBoxLayout(column);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(kEdge);
-  rows->addWidget(toolBox_ = new ToolBox(column, shell_.state(), shell_.drawing().tools, shell_.colour().selection));
-  rows->addWidget(shiftPad_ = new ShiftPad(column, shell_.state(), shell_.drawing().tools, shell_.drawing().shift), 0,
+  rows->addWidget(toolBox_ = new ToolBox(column, shell_.screen(), shell_.drawing().tools, shell_.colour().selection));
+  rows->addWidget(shiftPad_ = new ShiftPad(column, shell_.screen(), shell_.drawing().tools, shell_.drawing().shift), 0,
                   Qt::AlignHCenter);
   auto* label = new QLabel("1:1", column);
   label->setObjectName("lblIcon");
@@ -153,7 +116,7 @@ QWidget* frmGPEdit::makeEditingColumn(QWidget* parent) {
   auto* rows = new QVBoxLayout(column);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(0);
-  rows->addWidget(readouts_ = new ReadoutsView(column, shell_.state()));
+  rows->addWidget(readouts_ = new ReadoutsView(column, shell_.screen()));
   rows->addWidget(room_ = new EditingAreaRoom(column, shell_.state()), 1);
   return column;
 }
@@ -219,15 +182,15 @@ void frmGPEdit::chooseTool(int tool) {
 }
 
 void frmGPEdit::listen() {
-  display_.listen(DisplayPart::EditingArea, [this] { room_->refresh(), refreshCurrentIcon(); });
-  display_.listen(DisplayPart::IconsPanel, [this] { iconsPanel_->refresh(), refreshCurrentIcon(); });
-  display_.listen(DisplayPart::StatusBar, [this] { statusBar_->refresh(); });
-  display_.listen(DisplayPart::Readouts, [this] { readouts_->refresh(); });
-  display_.listen(DisplayPart::Tools, [this] { toolBox_->refresh(), shiftPad_->refresh(); });
-  display_.listen(DisplayPart::Pointer, [this] { refreshPointer(); });
-  display_.listen(DisplayPart::Panel, [this] { panels_->showPanel(shell_.state().screen.mActivePanel); });
-  display_.listen(DisplayPart::Commands, [this] { refreshCommandsSoon(); });
-  display_.listen(DisplayPart::History, [this] { refreshCommandsSoon(); });
+  display_.listen(DisplayPart::EditingArea, this, [this] { room_->refresh(), refreshCurrentIcon(); });
+  display_.listen(DisplayPart::IconsPanel, this, [this] { iconsPanel_->refresh(), refreshCurrentIcon(); });
+  display_.listen(DisplayPart::StatusBar, this, [this] { statusBar_->refresh(); });
+  display_.listen(DisplayPart::Readouts, this, [this] { readouts_->refresh(); });
+  display_.listen(DisplayPart::Tools, this, [this] { toolBox_->refresh(), shiftPad_->refresh(); });
+  display_.listen(DisplayPart::Pointer, this, [this] { pointer_->refresh(); });
+  display_.listen(DisplayPart::Panel, this, [this] { panels_->showPanel(shell_.screen().mActivePanel); });
+  display_.listen(DisplayPart::Commands, this, [this] { refreshCommandsSoon(); });
+  display_.listen(DisplayPart::History, this, [this] { refreshCommandsSoon(); });
 }
 
 void frmGPEdit::setRequests() {
@@ -259,20 +222,6 @@ void frmGPEdit::refreshCurrentIcon() {
   picIcon_->update();
 }
 
-void frmGPEdit::refreshPointer() {
-  const ScreenState& screen = shell_.state().screen;
-  if (screen.hourglass != hourglassShown_) {
-    hourglassShown_ = screen.hourglass;
-    if (hourglassShown_)
-      QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    else
-      QGuiApplication::restoreOverrideCursor();
-  }
-  if (screen.editingPointer == pointerShown_) return;
-  pointerShown_ = screen.editingPointer;
-  room_->view().setCursor(cursorOf(pointerShown_, devicePixelRatioF()));
-}
-
 void frmGPEdit::resizeRoom(const QSize& client) {
   if (!isMinimized()) shell_.formResize(client.width(), client.height());
 }
@@ -302,13 +251,13 @@ void frmGPEdit::showAbout() {
 
 void frmGPEdit::showMultiIcon() {
   const DialogOwner owner;
-  frmGPMultiIcon form(shell_.files().context(), this);
+  frmGPMultiIcon form(shell_.files().context(), display_, this);
   form.run();
 }
 
 void frmGPEdit::showHeaderDiff() {
   const DialogOwner owner;
-  frmGPHeaderDiff form(shell_.files().context(), this);
+  frmGPHeaderDiff form(shell_.files().context(), display_, this);
   form.exec();
 }
 

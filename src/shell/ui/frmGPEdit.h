@@ -7,6 +7,7 @@
 
 #include <QMainWindow>
 
+#include <memory>
 #include <string>
 
 class QTimer;
@@ -18,6 +19,7 @@ class CurrentIconView;
 class EditingAreaRoom;
 class IconsPanelView;
 class PanelStack;
+class PointerView;
 class QtDisplay;
 class ReadoutsView;
 class Shell;
@@ -64,7 +66,6 @@ class frmGPEdit final : public QMainWindow, public ShellForms, public FileForms 
   void refreshCommands();
   void refreshCommandsSoon();
   void refreshCurrentIcon();
-  void refreshPointer();
   void resizeRoom(const QSize& client);
   void popUp(const QPoint& at);
 
@@ -72,8 +73,6 @@ class frmGPEdit final : public QMainWindow, public ShellForms, public FileForms 
   QtDisplay& display_;
   const std::string commandLine_;
   bool activated_ = false;
-  bool hourglassShown_ = false;
-  int pointerShown_;
   QTimer* commandsTimer_;
   CommandMenus* menus_ = nullptr;
   ToolbarView* toolbar_ = nullptr;
@@ -86,6 +85,7 @@ class frmGPEdit final : public QMainWindow, public ShellForms, public FileForms 
   EditingAreaRoom* room_ = nullptr;
   PanelStack* panels_ = nullptr;
   StatusBarView* statusBar_ = nullptr;
+  std::unique_ptr<PointerView> pointer_;
 };
 
 }  // namespace gp

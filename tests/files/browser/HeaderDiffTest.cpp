@@ -40,7 +40,8 @@ class HeaderDiffTest : public FilesTest {
     path = file;
     exchange.gMultiIconFile = path;
     diff = std::make_unique<HeaderDiff>(files.context());
-    diff->onChange = [this] { ++changes; };
+    changes = 0;
+    display.onChanged = [this](DisplayPart part) { changes += part == DisplayPart::ModalForm; };
     diff->activate();
   }
   // The whole dialogue of a salvage that goes well; tells the bytes written.

@@ -205,11 +205,9 @@ TEST_F(CursorFilesTest, ThePanelOpensAtZeroForIconsAndForSpotsOutside) {
 }
 
 TEST_F(CursorFilesTest, TheListsHoldZeroTo31AndTellTheView) {
-  int told = 0;
-  cursor.onChange = [&] { ++told; };
   cursor.setHotspotX(31);
   cursor.setHotspotY(17);
-  EXPECT_EQ(told, 2);
+  EXPECT_EQ(display.count(DisplayPart::SidePanel), 2);
   for (const int beyond : {-1, 32, 100000}) {
     cursor.setHotspotX(beyond);
     cursor.setHotspotY(beyond);
@@ -224,7 +222,9 @@ TEST_F(CursorFilesTest, AnotherCursorUnderThePanelStartsTheListsAtItsOwnHotSpotA
   cursor.openPanel();
   cursor.setHotspotByClick(2, 29);
   std::vector<std::pair<int, int>> seen;
-  cursor.onChange = [&] { seen.push_back(spot()); };
+  display.onChanged = [&](DisplayPart part) {
+    if (part == DisplayPart::SidePanel) seen.push_back(spot());
+  };
   EXPECT_TRUE(openCursor(write(cursorOf(anyPicture(32, 8), 12, 5), "other.cur")));
   EXPECT_EQ(seen, (std::vector{std::pair(12, 5)}));
   EXPECT_EQ(spot(), std::pair(12, 5));

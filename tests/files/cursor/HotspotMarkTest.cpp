@@ -1,5 +1,6 @@
 #include "document/Containers.h"
 #include "document/Document.h"
+#include "document/EditState.h"
 #include "files/cursor/HotspotMark.h"
 #include "support/FakeEditor.h"
 #include "support/ScriptedPorts.h"

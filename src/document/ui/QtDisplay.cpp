@@ -1,21 +1,21 @@
-#include "shell/ui/QtDisplay.h"
+#include "document/ui/QtDisplay.h"
 
 #include <utility>
 
 namespace gp {
 
-void QtDisplay::listen(DisplayPart part, std::function<void()> listener) {
-  listeners_.at(static_cast<std::size_t>(part)).push_back(std::move(listener));
+void QtDisplay::listen(DisplayPart part, QObject* view, std::function<void()> listener) {
+  connect(this, &QtDisplay::partChanged, view, [part, listener = std::move(listener)](DisplayPart changedPart) {
+    if (changedPart == part) listener();
+  });
 }
 
 void QtDisplay::forgetAll() {
-  for (auto& listeners : listeners_) listeners.clear();
+  disconnect();
   requests_ = {};
 }
 
-void QtDisplay::changed(DisplayPart part) {
-  for (const auto& listener : listeners_.at(static_cast<std::size_t>(part))) listener();
-}
+void QtDisplay::changed(DisplayPart part) { emit partChanged(part); }
 
 void QtDisplay::repaintEditingArea(int x, int y, int width, int height) {
   if (requests_.repaintEditingArea) requests_.repaintEditingArea(x, y, width, height);

@@ -1,18 +1,20 @@
-// Tells the views which part of the screen changed. It exists before the form and outlives it; until the views have
-// said what they want to hear, it tells nobody.
+// Notifies the views of changed parts of the screen. It exists before the main form and outlives it. Until a view
+// listens, changes are dropped.
 #pragma once
 
 #include "document/Display.h"
 
-#include <array>
+#include <QObject>
+
 #include <functional>
-#include <vector>
 
 namespace gp {
 
-class QtDisplay final : public Display {
+class QtDisplay final : public QObject, public Display {
+  Q_OBJECT
+
  public:
-  // What the main form does for those requests that are no mere news.
+  // Requests that need an action of the main form, not a refresh.
   struct Requests {
     std::function<void(int x, int y, int width, int height)> repaintEditingArea;
     std::function<void()> showPopUpMenu;
@@ -20,9 +22,10 @@ class QtDisplay final : public Display {
     std::function<void()> focusColorValue;
   };
 
-  void listen(DisplayPart part, std::function<void()> listener);
+  // Calls the listener at each change of the part, for as long as the view lives.
+  void listen(DisplayPart part, QObject* view, std::function<void()> listener);
   Requests& requests() { return requests_; }
-  // Before the form goes: nobody is told any more.
+  // Drops all listeners and requests, before the main form is destroyed.
   void forgetAll();
 
   void changed(DisplayPart part) override;
@@ -31,9 +34,10 @@ class QtDisplay final : public Display {
   void nudgeMousePointer() override;
   void focusColorValue() override;
 
+ signals:
+  void partChanged(gp::DisplayPart part);
+
  private:
-  static constexpr std::size_t kParts = static_cast<std::size_t>(DisplayPart::History) + 1;
-  std::array<std::vector<std::function<void()>>, kParts> listeners_;
   Requests requests_;
 };
 

@@ -1,0 +1,47 @@
+// What the views show beside the Surfaces: texts, visible parts, pointers. The logic writes it and notifies the
+// Display; the views only read it.
+#pragma once
+
+#include <array>
+#include <string>
+
+namespace gp {
+
+// The three frames of the colour panel of which one is visible; the values are the indices of fraofColorPanel.
+enum class ColorFrame { Chart16 = 3, Chart256 = 4, DirectEntry = 5 };
+
+// The pointer over the Editing Area: one of the platform's own, or the index of the tool whose picture it is.
+inline constexpr int kDefaultPointer = -1;
+inline constexpr int kCrossPointer = -2;
+inline constexpr int kHorizontalResizePointer = -3;
+inline constexpr int kVerticalResizePointer = -4;
+inline constexpr int kMovePointer = -5;
+inline constexpr int kColorPickerPointer = 2;  // the picker's index in mnuTools
+
+inline constexpr int kStatusPanelCount = 5;
+enum class StatusPanel { Path = 0, Discrepancy = 1, MultiIcon = 2, Size = 3, Alpha = 4 };
+
+inline constexpr int kReadoutCount = 3;
+enum class Readout { Position = 0, PixelRgb = 1, Region = 2 };
+
+struct ScreenState {
+  std::array<std::string, kStatusPanelCount> lblStatusPanel;
+  bool imgAlphaOnStatusPanel = false;
+  int progressPercent = -1;  // picProgressContainer; -1 while hidden
+  std::array<std::string, kReadoutCount> lblDispXY;
+  bool pixelRgbVisible = false;  // lblDispXY(1)
+  // fraTools(0) frames the tool box; fraTools(1) holds the tools and is shown while there is something to draw on.
+  std::array<bool, 2> fraTools{true, false};
+  int mActivePanel = 0;              // fraPanel(n) that is up; 0 is the colour panel
+  bool aniContainerVisible = false;  // picANIContainer(0)
+  ColorFrame colorFrame = ColorFrame::Chart16;
+  bool imgColorPickerVisible = false;
+  bool fraColorMixerVisible = false;
+  bool hourglass = false;
+  int editingPointer = kDefaultPointer;
+  int brushIndex = 0;            // list index of cboBrushSize; the brush is one wider
+  int dispContainerWidth = 400;  // client size of picDispContainer, pixels
+  int dispContainerHeight = 400;
+};
+
+}  // namespace gp
