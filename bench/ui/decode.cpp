@@ -1,6 +1,6 @@
-// Decoding icon entries of 16 to 48 pixels into Surfaces, beside Qt's own reader of icon files on the same entries.
-// Both get the bytes of whole files in memory. Files come from the folder given by GLIMMERPANE_CORPUS, otherwise from
-// the corpus beside the repository.
+// Measures decoding icon entries of 16 to 48 pixels into Surfaces, beside Qt's reader of icon files on the same
+// entries. Both get the bytes of whole files in memory. The files are those of the folder GLIMMERPANE_CORPUS, otherwise
+// of the corpus beside the repository.
 #include "files/format/IconDecoder.h"
 #include "files/format/IconProbe.h"
 
@@ -21,7 +21,7 @@ namespace {
 
 struct Sample {
   QByteArray bytes;
-  std::vector<int> entries;  // those that both readers decode at the size of the directory
+  std::vector<int> entries;  // entries that both readers decode at the size stated by the directory
 
   std::span<const std::uint8_t> span() const {
     return {reinterpret_cast<const std::uint8_t*>(bytes.constData()), static_cast<std::size_t>(bytes.size())};
@@ -75,7 +75,7 @@ std::int64_t entryCount() {
   return count;
 }
 
-// One directory for the file.
+// Parses the directory once per file.
 void decodeEntries(const Sample& sample) {
   const gp::IconDirectory directory = gp::parseIconDirectory(sample.span());
   for (const int index : sample.entries) {
@@ -85,7 +85,7 @@ void decodeEntries(const Sample& sample) {
   }
 }
 
-// One reader for the file.
+// Makes one reader per file.
 void decodeEntriesByQt(const Sample& sample) {
   QBuffer buffer(const_cast<QByteArray*>(&sample.bytes));
   buffer.open(QIODevice::ReadOnly);

@@ -1,4 +1,4 @@
-// The lines that check prints: each lie of a directory, and none for what is healthy.
+// gpicon check: a line for each wrong field of a directory, and none for correct files.
 #include "cli/GpiconFixture.h"
 
 namespace gp::test {
@@ -6,7 +6,7 @@ namespace {
 
 class GpiconCheck : public Gpicon {
  protected:
-  // What is printed of a file, each line without the file's name.
+  // The lines printed for a file, each without the name of the file.
   std::string linesOf(const Bytes& file, const std::string& name = "f.ico") const {
     const std::string path = folder.write(name, file);
     const Outcome o = run({"check", path});
@@ -27,7 +27,7 @@ void put32At(Bytes& bytes, std::size_t at, std::uint32_t value) {
   for (std::size_t i = 0; i < 4; ++i) bytes[at + i] = static_cast<std::uint8_t>(value >> 8 * i);
 }
 
-// The smallest whole PNG picture as far as the size of its chunks goes.
+// The smallest PNG picture that is complete according to the sizes of its chunks.
 Bytes pngPicture(std::uint8_t width, std::uint8_t height) {
   return {0x89,   'P', 'N', 'G', '\r', '\n', 0x1A, '\n', 0, 0, 0, 13, 'I', 'H', 'D', 'R', 0,   0,   0, width, 0, 0, 0,
           height, 8,   6,   0,   0,    0,    1,    2,    3, 4, 0, 0,  0,   0,   'I', 'E', 'N', 'D', 1, 2,     3, 4};
@@ -195,7 +195,7 @@ TEST_F(GpiconCheck, ImagesInTheWrongPlaceAreTold) {
 
 TEST_F(GpiconCheck, SharedBytesAreTold) {
   std::vector<Entry> entries{anyEntry(16, 4), anyEntry(32, 4), anyEntry(48, 4)};
-  entries[1].offset = 6 + 3 * 16;  // the first one's place
+  entries[1].offset = 6 + 3 * 16;  // the offset of the first image
   const std::string found = linesOf(fileOf(entries));
   EXPECT_NE(found.find("1\tshared\timage 0\t-\t-\n"), std::string::npos) << found;
   EXPECT_EQ(found.find("\n2\t"), std::string::npos) << found;

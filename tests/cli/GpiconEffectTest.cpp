@@ -1,4 +1,4 @@
-// Effects on an image: what each makes of it and of its options, and every refusal.
+// gpicon effect: the result of each effect and of its options, and every refusal.
 #include "cli/WrittenPicture.h"
 #include "effects/Buttonize.h"
 #include "effects/DisabledImage.h"
@@ -8,7 +8,7 @@ namespace gp::test {
 namespace {
 
 struct EffectCase {
-  std::vector<std::string> words;  // behind OUT
+  std::vector<std::string> words;  // after OUT
   std::function<IconImage(const IconImage&)> make;
 };
 
@@ -19,7 +19,7 @@ EffectCase buttonCase(std::vector<std::string> words, int pattern) {
   return {std::move(words), [pattern](const IconImage& p) { return buttonize(p.image, p.mask, {pattern}); }};
 }
 
-// No two of them make the same.
+// All give different results.
 std::vector<EffectCase> effects() {
   return {reliefCase({"embossed"}, {ReliefKind::Embossed}),
           reliefCase({"engraved"}, {ReliefKind::Engraved}),
@@ -32,7 +32,7 @@ std::vector<EffectCase> effects() {
           {{"disabled"}, [](const IconImage& p) { return disabledImage(p.image, p.mask); }}};
 }
 
-// A disc in dark colours, black behind what is transparent.
+// A disc in dark colours, black in the transparent part.
 Picture disc(int size, int bits) {
   Picture p = anyPicture(size, bits);
   const auto isOutside = [size](int x, int y) {

@@ -14,7 +14,7 @@ class ColorMixerTest : public test::ColourFixture {
   void setInterval(int interval) { mixer.cboIntervalColor(interval - kFirstInterval); }
 };
 
-// The strip once more, by exact fractions: `rows` steps of a difference over 26, ties to even.
+// The strip, computed again with exact fractions: `rows` steps of a difference over 26, ties to even.
 int slowStep(int from, int to, int step) {
   const int numerator = from * 26 + step * (to - from);
   const int below = numerator / 26;

@@ -20,7 +20,7 @@ Rows rowsOfPicture(const Surface& picture) {
   return rows;
 }
 
-// A picture so large that nobody holds its pixels.
+// A picture whose pixels would not fit into memory.
 ClipboardImage claimed(int width, int height) {
   return {width, height, Surface(std::min(width, 48), std::min(height, 48), test::kColorA)};
 }
@@ -265,7 +265,7 @@ TEST_F(ClipboardTest, APictureMeantForOneIconDoesNotGoIntoAnotherThatComesUpMean
 
 TEST_F(ClipboardTest, APictureForANewIconThatWasLeftAtOnceDoesNotGoIntoAnother) {
   clipboard.held = claimed(16, 16);
-  // Recording the step before, and both pumps of the arrival.
+  // The step recorded before, and both pumps of the arrival.
   for (const int waits : {0, 1, 2}) {
     state.mCurContainer = 0;
     makeIcon(16, {"b"});

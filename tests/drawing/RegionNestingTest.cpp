@@ -1,4 +1,4 @@
-// What a user does in the midst of the region's own work, sent from inside each place that pumps messages.
+// What a user can do while the region pumps messages, triggered at each place that pumps.
 #include "drawing/RegionFixture.h"
 
 #include <functional>
@@ -32,7 +32,7 @@ class NestingFixture : public test::RegionFixture {
     }
   }
 
-  // Work that pumps: each runs to the pump in question and then on to its end.
+  // Work that pumps: each function runs to the pump in question, and then to its end.
   void drawBox() {
     press(cells(0), cells(0));
     at(1, action);
@@ -113,7 +113,7 @@ class NestingFixture : public test::RegionFixture {
     commands.doPaste(false);
   }
 
-  // What arrives.
+  // Events that arrive during a pump.
   void pressAgain() { press(cells(3), cells(3)); }
   void pressFarAway() { press(cells(13), cells(13)); }
   void releaseNow() { release(cells(3), cells(3)); }
@@ -211,7 +211,7 @@ TEST_P(RegionNesting, AnEventInTheMidstLeavesIconMaskHistoryAndRegionInAgreement
     };
     (this->*std::get<1>(GetParam()).run)();
     EXPECT_TRUE(arrived);
-    // The button comes up at last, whatever became of the work.
+    // The button is released at the end, whatever the work did.
     release(cells(3), cells(3));
     EXPECT_FALSE(draw.mRegionDown);
     expectAgreement();

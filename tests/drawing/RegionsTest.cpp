@@ -5,7 +5,7 @@ namespace {
 
 using test::Rows;
 
-// Every test that moves a region holds with either setting of the option.
+// Every test that moves a region is valid for both settings of the option.
 class Dragging : public test::RegionFixture, public testing::WithParamInterface<bool> {
  protected:
   Dragging() { state.options.updateOnlyEditingArea = GetParam(); }

@@ -10,7 +10,7 @@
 namespace gp::test {
 namespace {
 
-// Writes down what is shown, with the file that it is shown for.
+// Records which form is shown, and for which file.
 class RecordingForms : public FileForms {
  public:
   explicit RecordingForms(MultiIconExchange& exchange) : exchange_(exchange) {}

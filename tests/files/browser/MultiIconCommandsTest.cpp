@@ -10,7 +10,7 @@ constexpr const char* kAlphaReminder =
     "alpha effects, or to edit the alpha values, invoke the Alpha Channel screen.\n\n"
     "(To remove Reminder, untick the related Option submenu)";
 
-// 16 colours of 32x32, 256 of 16x16, alpha of 24x24.
+// 32x32 with 16 colours, 16x16 with 256, 24x24 with alpha.
 const IcoFile& mixed() {
   static const IcoFile file =
       fileOf({entryOf(anyPicture(32, 4)), entryOf(anyPicture(16, 8)), entryOf(anyPicture(24, 32))});

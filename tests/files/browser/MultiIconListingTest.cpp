@@ -35,7 +35,7 @@ TEST(MultiIconListing, TheHeadersBitsAreTheLowByteAtFourteen) {
   entry.image[14] = 8;
   entry.image[15] = 1;
   EXPECT_EQ(listed(entry).bihBits, 8);
-  EXPECT_EQ(listed(entry).bihColors, 16);  // the entry's colour count comes first
+  EXPECT_EQ(listed(entry).bihColors, 16);  // the colour count of the entry takes precedence
   entry.colorCount = 0;
   EXPECT_EQ(listed(entry).bihColors, 256);
 }
@@ -95,7 +95,7 @@ TEST(MultiIconListing, SidesOfThreeDigitsAreReadAgain) {
   EXPECT_EQ(reading.height, 7);
 }
 
-// Two characters are all that is read.
+// Only two characters are read.
 TEST(MultiIconListing, Ref100ReadsAs10) {
   const ListedEntry entry{.width = 16, .height = 16, .dirColors = 16, .dirBits = 4};
   EXPECT_EQ(readItem(itemText(100, entry, true)).index, 9);

@@ -31,7 +31,7 @@ class CursorFilesTest : public FilesTest {
   std::string write(const CursorFile& file, const std::string& name = "given.cur") {
     return folder.write(name, build(file));
   }
-  // A cursor of 16 colours, opened.
+  // Opens a cursor of 16 colours.
   std::string givenCursor(int hotspotX, int hotspotY) {
     const std::string path = write(cursorOf(anyPicture(32, 4), hotspotX, hotspotY));
     EXPECT_TRUE(openCursor(path));
@@ -217,7 +217,7 @@ TEST_F(CursorFilesTest, TheListsHoldZeroTo31AndTellTheView) {
   EXPECT_EQ(spot(), std::pair(31, 17));
 }
 
-// Another icon under the Panel.
+// Another icon while the Panel is open.
 
 TEST_F(CursorFilesTest, AnotherCursorUnderThePanelStartsTheListsAtItsOwnHotSpotAndTellsTheView) {
   givenCursor(7, 30);
@@ -255,7 +255,7 @@ TEST_F(CursorFilesTest, AnIconUnderThePanelIsSavedWithTheHotSpotAtZero) {
   EXPECT_EQ(Bytes(file.begin() + 10, file.begin() + 14), (Bytes{0, 0, 0, 0}));
 }
 
-// A container may hold what no file could bring in.
+// A container can hold values that no file contains.
 TEST_F(CursorFilesTest, AHotSpotOutsideOfAnIconThatCameUpUnderThePanelCountsAsZero) {
   givenCursor(7, 30);
   cursor.openPanel();

@@ -24,7 +24,7 @@ class IconSaverTest : public FilesTest {
     saver.AskSaveCurrent(message, proceed);
     return proceed;
   }
-  // The name that Save As offers for a path.
+  // The name that Save As proposes for a path.
   std::string offered(const std::string& path, SaveMode mode) {
     record().path = path;
     return saver.proposedName(mode);
@@ -229,7 +229,7 @@ TEST_F(IconSaverTest, SaveAsBitmapPutsTheCurrentColorBehindAndKeepsSilver) {
   EXPECT_EQ(bitmapPixel(folder.path("a.bmp"), 4, 2), kBlack) << "the dithers know colours by steps of 17 only";
 }
 
-// The depth is that of the colours, and each has its palette.
+// The depth follows from the colours, and each depth has its palette.
 TEST_F(IconSaverTest, BitmapsHaveTheDepthThatTheirColorsNeed) {
   given(entryOf(anyPicture(16, 4)));
   struct Case {

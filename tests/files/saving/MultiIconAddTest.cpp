@@ -18,7 +18,7 @@ std::string sameIcon(const std::string& what) {
          "Multi-icon file cannot have two icons of identical\nsize and color depth.";
 }
 
-// A true colour icon of 16x16 is the current one; the file holds one of 32x32 and one of 48x48.
+// The Current Icon is a true colour icon of 16x16; the file holds one of 32x32 and one of 48x48.
 class MultiIconAddTest : public MultiIconTest {
  protected:
   const Entry icon = entryOf(anyPicture(16, 24));

@@ -39,7 +39,7 @@ class MultiIconReplaceTest : public MultiIconTest {
   const IcoFile three = fileOf({entryOf(anyPicture(32, 4)), entryOf(anyPicture(16, 24)), entryOf(anyPicture(48, 8))});
 
   ~MultiIconReplaceTest() override { EXPECT_TRUE(scratchIsGone()); }
-  // What three becomes with another second entry.
+  // The file of `three` with another second entry.
   Bytes threeWith(const Entry& second) const {
     IcoFile file = three;
     file.entries[1] = second;
@@ -266,7 +266,7 @@ TEST_F(MultiIconReplaceTest, AFileThatIsNoIconFileAnyMoreIsTold) {
 
 TEST_F(MultiIconReplaceTest, Ref3WithSizeAndColorsOfRef5IsRefusedWithItsOwnItIsNot) {
   Picture third = anyPicture(32, 8);
-  third.index = [](int x, int y) { return (x * 7 + y * 13) % 100; };  // what a palette surely has room for
+  third.index = [](int x, int y) { return (x * 7 + y * 13) % 100; };  // a number of colours that always fits into a palette
   const IcoFile five = fileOf({entryOf(anyPicture(16, 4)), entryOf(anyPicture(16, 8)), entryOf(third),
                                entryOf(anyPicture(48, 4)), entryOf(anyPicture(32, 24))});
   const std::string path = givenEntry(five, 2);
@@ -406,7 +406,7 @@ TEST_F(MultiIconReplaceTest, AnIconFromTheScratchFileItselfIsNotLost) {
   fs::remove(path);
 }
 
-// Larger than any scratch file, so that only the last step finds no room.
+// Larger than any scratch file, so that only the last step runs out of space.
 IcoFile largeFile() {
   return fileOf({entryOf(anyPicture(48, 32)), entryOf(anyPicture(48, 1)), entryOf(anyPicture(32, 32)),
                  entryOf(anyPicture(32, 24)), entryOf(anyPicture(24, 24))});
