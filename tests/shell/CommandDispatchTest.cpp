@@ -1,5 +1,5 @@
-// What commands of drawing, colours and Inquiry need, and what is said and done where it is missing: by the menu, its
-// keys, the toolbar and the tool box alike.
+// The needs of the commands of drawing, colours and Inquiry, and what happens when they are not met: by menu, key,
+// toolbar and tool box alike.
 #include "document/PanelNumbers.h"
 #include "support/ShellFixture.h"
 
@@ -25,7 +25,7 @@ class CommandDispatch : public ShellFixture {
   Drawing& drawing = shell.drawing();
 
   CommandDispatch() { start(); }
-  // Whatever was there is not asked about.
+  // Discards what is unsaved without a question.
   void newIcon() {
     state.current().modified = false;
     click("mnuFileSub", kNewIcon16);
@@ -44,7 +44,7 @@ class CommandDispatch : public ShellFixture {
     drawing.tools.release({kLeftButton, 0, 2 * m, m});
     ASSERT_TRUE(state.mRegionExists);
   }
-  // The icon's colours, kNoColor where it is transparent, of a row or column of two.
+  // The colours of a row or column of two pixels, kNoColor where the icon is transparent.
   std::vector<Color> pixels(std::vector<std::pair<int, int>> places) const {
     std::vector<Color> colors;
     for (const auto& [x, y] : places)
@@ -365,7 +365,7 @@ TEST_F(CommandDispatch, ShowingTheIconsInTheFileCommitsAFloatingRegionFirst) {
     ASSERT_TRUE(state.mPendingPaint);
     state.current().fromMultiIconFile = true;
     state.current().modified = true;
-    // What the user is asked about is the icon with the region in it.
+    // The user is asked about the icon that includes the region.
     boxes.expect("Save current icon to file?", BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Cancel);
     click(row.control, row.index);
     EXPECT_FALSE(state.mPendingPaint);
@@ -408,7 +408,7 @@ TEST_F(CommandDispatch, CommandsOfDrawingLeaveAFloatingRegionFloating) {
 
 class IconSerial : public CommandDispatch {
  protected:
-  // By how much a command raises it.
+  // The number by which a command raises it.
   unsigned raisedBy(const char* control, int index) {
     const unsigned before = state.iconSerial;
     click(control, index);

@@ -64,7 +64,7 @@ TEST_F(CommandLine, AMissingFileIsToldWhateverItsEnding) {
   EXPECT_EQ(readCommandLine(folder_.path()).kind, CommandLineKind::Missing);
 }
 
-// The current directory is the process's own: it goes back when the test ends.
+// Changes the current directory of the process, and restores it at the end of the test.
 class InFolder {
  public:
   explicit InFolder(const std::string& folder) : former_(std::filesystem::current_path()) {

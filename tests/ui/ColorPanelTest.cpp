@@ -13,7 +13,7 @@ namespace {
 
 class ColorPanelTest : public test::FormFixture {
  protected:
-  // The middle of a chart's cell.
+  // The centre of a cell of the chart.
   QPoint cell(QWidget* chart, int columns, int rows, int column, int row) {
     return {chart->width() / columns * column + chart->width() / columns / 2,
             chart->height() / rows * row + chart->height() / rows / 2};

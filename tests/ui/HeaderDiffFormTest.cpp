@@ -1,4 +1,4 @@
-// frmGPHeaderDiff, worked by mouse and keyboard.
+// frmGPHeaderDiff, used by mouse and keyboard.
 #include "files/Files.h"
 #include "files/ui/EntryView.h"
 #include "files/ui/frmGPHeaderDiff.h"
@@ -31,7 +31,7 @@ using test::Told;
 
 constexpr const char* kNoIcon = "No icon retrieved.";
 
-// The image of a plain icon of 16 colours.
+// The image of a uniform icon of 16 colours.
 std::string imageOf(int size, int colorIndex = 3) { return test::plainIconFile(size, colorIndex).substr(6 + 16); }
 
 const std::vector<Told> kLying{{16, 16, 4, imageOf(16)},    {24, 0, 24, imageOf(24, 9)},
@@ -105,8 +105,8 @@ TEST_F(HeaderDiffForm, ThePreviewStandsInTheMiddleOnTheGround) {
   open();
   const QImage frame = find("lblIconInFile")->grab().toImage();
   const QPoint middle = frame.rect().center();
-  const int cell = static_cast<int>(frame.devicePixelRatio());  // device pixels of one of the icon's
-  EXPECT_EQ(frame.pixelColor(middle), QColor(252, 3, 48));      // the palette stands blue, green, red
+  const int cell = static_cast<int>(frame.devicePixelRatio());  // device pixels per icon pixel
+  EXPECT_EQ(frame.pixelColor(middle), QColor(252, 3, 48));      // palette entries are blue, green, red
   EXPECT_EQ(frame.pixelColor(middle - QPoint(15, 15) * cell), QColor(252, 3, 48));
   EXPECT_EQ(frame.pixelColor(middle - QPoint(18, 0) * cell), QColor(0xC0, 0xC0, 0xC0));
   EXPECT_EQ(frame.pixelColor(middle + QPoint(18, 0) * cell), QColor(0xC0, 0xC0, 0xC0));

@@ -13,7 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A pipe that would hang whoever opens it.
+// A named pipe; opening it would block.
 void makePipe(const std::string& path) { ASSERT_EQ(std::system(("mkfifo '" + path + "'").c_str()), 0); }
 
 std::string textOf(const std::optional<FileBytes>& bytes) {
