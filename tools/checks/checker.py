@@ -44,7 +44,7 @@ BROKEN = [
     (words.checkEnglish, 'bench/bad.py', 'def f():\n    """A value.\n\n    Nobody needs it."""\n', 'bench/bad.py:4: "Nobody"'),
     (words.checkEnglish, 'bench/bad.py', 'a = "#"  # as told', 'bench/bad.py:1: "told"'),
     (words.checkEnglish, 'tools/bad', '#!/bin/sh\necho  # what becomes of it\n', 'tools/bad:2: "becomes of"'),
-    (words.checkEnglish, 'cmake/Bad.cmake', '# It wants more.', 'cmake/Bad.cmake:1: "wants"'),
+    (words.checkEnglish, 'tests/Bad.cmake', '# It wants more.', 'tests/Bad.cmake:1: "wants"'),
     (words.checkEnglish, 'docs/bad.md', 'Without it there is\nnobody.', 'docs/bad.md:2: "nobody"'),
     (sizes.checkFiles, 'src/document/Bad.cpp', '\n' * (sizes.MAX_FILE_LINES + 1), 'src/document/Bad.cpp'),
     (sizes.checkFunctions, 'src/document/Bad.cpp', 'namespace gp {\n' + LONG_FUNCTION + '}', 'src/document/Bad.cpp:2: 62'),
