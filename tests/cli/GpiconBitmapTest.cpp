@@ -161,7 +161,7 @@ TEST_F(GpiconBitmap, AlphaIsBlendedOverTheGroundWhateverTheBackground) {
   });
 }
 
-TEST_F(GpiconBitmap, TheIndexTellsTheImage) {
+TEST_F(GpiconBitmap, TheIndexSelectsTheImage) {
   Picture p = opaque(4);
   p.palette = {{255, 0, 0}};
   p.index = [](int, int) { return 0; };

@@ -140,7 +140,7 @@ TEST_F(GpiconEffect, ReliefOfAnEmptyIconIsEmpty) {
   }
 }
 
-TEST_F(GpiconEffect, TheIndexTellsTheImage) {
+TEST_F(GpiconEffect, TheIndexSelectsTheImage) {
   const std::string path = folder.write("three.ico", fileOf({anyEntry(16, 4), entryOf(disc(48, 24)), anyEntry(32, 8)}));
   expectDone({"effect", path, "1", out, "raised"});
   const IconImage before = iconOf(disc(48, 24));

@@ -125,7 +125,7 @@ TEST_F(GpiconReduce, AFullPaletteIsReducedTo256ColorsAndKeepsItsDepth) {
   expectPixels(written, reduceColors(before.image, before.mask, {ReductionMethod::System}));
 }
 
-TEST_F(GpiconReduce, TheIndexTellsTheImage) {
+TEST_F(GpiconReduce, TheIndexSelectsTheImage) {
   const std::string path = folder.write("three.ico", fileOf({anyEntry(16, 4), entryOf(colorful(48)), anyEntry(32, 8)}));
   expectDone({"reduce", "--to", "16", "--method", "vga", path, "1", out});
   EXPECT_EQ(writtenIcon(out).width, 48);

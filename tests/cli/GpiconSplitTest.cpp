@@ -46,7 +46,7 @@ TEST_F(GpiconSplit, EveryImageOfEverySizeBecomesAFileWithItsBytes) {
   EXPECT_EQ(bytesOf(path), before);
 }
 
-TEST_F(GpiconSplit, TheEntryIsCopiedAsItStandsButForTheOffset) {
+TEST_F(GpiconSplit, TheEntryIsCopiedUnchangedExceptForTheOffset) {
   Entry odd = anyEntry(16, 4);
   odd.colorCount = 7;
   odd.bitCount = 0;
@@ -131,7 +131,7 @@ TEST_F(GpiconSplit, ABadFileCostsOneLineAndNotTheOthers) {
   EXPECT_EQ(namesIn("out"), std::vector<std::string>{"good_16_16.ico"});
 }
 
-TEST_F(GpiconSplit, WhatStandsInTheWayIsToldAndLeft) {
+TEST_F(GpiconSplit, WhatIsInTheWayIsReportedAndLeft) {
   const std::string path = icon("a.ico", 16, 4);
   fs::create_directories(folder.path("out/a_16_16.ico"));
   const Outcome o = split({path});

@@ -198,7 +198,7 @@ INSTANTIATE_TEST_SUITE_P(EveryPump, RegionNesting, testing::Combine(testing::Boo
                                   (std::get<0>(parameter.param) ? "EditingAreaOnly" : "Everything");
                          });
 
-TEST_P(RegionNesting, AnEventInTheMidstLeavesIconMaskHistoryAndRegionInAgreement) {
+TEST_P(RegionNesting, AnEventDuringTheWorkLeavesIconMaskHistoryAndRegionInAgreement) {
   for (const Named& event : kEvents) {
     SCOPED_TRACE(event.name);
     clearAllContainers();
@@ -223,7 +223,7 @@ TEST_P(RegionNesting, AnEventInTheMidstLeavesIconMaskHistoryAndRegionInAgreement
 
 class RegionNestingOutcome : public NestingFixture {};
 
-TEST_F(RegionNestingOutcome, AnUndoInTheMidstOfADragDropsTheDrag) {
+TEST_F(RegionNestingOutcome, AnUndoDuringADragDropsTheDrag) {
   state.options.updateOnlyEditingArea = true;
   begin();
   const Rows before = icon();
@@ -234,7 +234,7 @@ TEST_F(RegionNestingOutcome, AnUndoInTheMidstOfADragDropsTheDrag) {
   EXPECT_FALSE(state.mRegionExists);
 }
 
-TEST_F(RegionNestingOutcome, AReleaseInTheMidstOfAMoveFinishesTheDragWhereItWas) {
+TEST_F(RegionNestingOutcome, AReleaseDuringAMoveFinishesTheDragWhereItWas) {
   for (const bool option : {false, true}) {
     state.options.updateOnlyEditingArea = option;
     begin();
@@ -245,7 +245,7 @@ TEST_F(RegionNestingOutcome, AReleaseInTheMidstOfAMoveFinishesTheDragWhereItWas)
   }
 }
 
-TEST_F(RegionNestingOutcome, AContainerClickInTheMidstOfADragKeepsTheIconInItsContainer) {
+TEST_F(RegionNestingOutcome, AContainerClickDuringADragKeepsTheIconInItsContainer) {
   begin();
   action = [this] { panel.SwitchContainer(1); };
   dragRegion();
@@ -255,7 +255,7 @@ TEST_F(RegionNestingOutcome, AContainerClickInTheMidstOfADragKeepsTheIconInItsCo
   EXPECT_EQ(icon()[3], "..abccba");
 }
 
-TEST_F(RegionNestingOutcome, ClosingInTheMidstOfADragFindsTheIconChangedAndWhole) {
+TEST_F(RegionNestingOutcome, ClosingDuringADragFindsTheIconChangedAndWhole) {
   begin();
   bool changed = false;
   Rows seen;

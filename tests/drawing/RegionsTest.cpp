@@ -271,7 +271,7 @@ TEST_F(RegionsTest, ANewMagnificationTakesTheBoxWithIt) {
   expectAgreement();
 }
 
-TEST_P(Dragging, ASideIsPulledAndTheContentLiftedAnew) {
+TEST_P(Dragging, ASideIsPulledAndTheContentLiftedAgain) {
   makeIcon(16, {"aaaaaa", "aaaaab", "aaaaab", "aaaaaa"});
   mark(0, 0, 3, 3);
   press(cells(4), cells(2));

@@ -304,7 +304,7 @@ TEST_F(ToolsTest, TheMenuSelectsAToolAndNudgesThePointer) {
   EXPECT_EQ(tools.selectedTool(), kNoTool);
 }
 
-TEST_F(ToolsTest, AToolThatNobodyWorksCannotBeSelected) {
+TEST_F(ToolsTest, AToolThatNoOneWorksCannotBeSelected) {
   makeIcon(32);
   DrawState drawState;
   Tools bare(context, panel, colors, history, regions, drawState);
@@ -339,7 +339,7 @@ TEST_F(ToolsTest, ClearingToolsFromTheMenuEndsARegionToo) {
   EXPECT_EQ(tools.selectedTool(), kNoTool);
 }
 
-TEST_F(ToolsTest, ClearingToolsInTheMidstOfAStrokeRecordsItOnce) {
+TEST_F(ToolsTest, ClearingToolsDuringAStrokeRecordsItOnce) {
   makeIcon(32);
   tools.selectTool(kPaint);
   tools.press(at(1, 1));

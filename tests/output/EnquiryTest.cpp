@@ -56,7 +56,7 @@ TEST_F(EnquiryTest, TheHeadersOfADiscrepantFileAreShown) {
   EXPECT_EQ(pump.pumps, 1);
 }
 
-TEST_F(EnquiryTest, AFileThatIsGoneIsTold) {
+TEST_F(EnquiryTest, AFileThatIsGoneIsReported) {
   makeIcon(folder.file("gone.ico"));
   record().fromMultiIconFile = true;
   for (void (Enquiry::*entry)() : {&Enquiry::showOriginalHeaders, &Enquiry::showIconsInFile}) {

@@ -59,7 +59,7 @@ class CommandDispatch : public ShellFixture {
 
 // Without an icon.
 
-TEST_F(CommandDispatch, CommandsOnAnIconTellThatThereIsNone) {
+TEST_F(CommandDispatch, CommandsOnAnIconSayThatThereIsNone) {
   std::vector<Row> rows = {{"mnuTools", kPicker},
                            {"mnuEditSub", kUndoAll},
                            {"mnuEditSub", kUndo},
@@ -94,7 +94,7 @@ TEST_F(CommandDispatch, CommandsOnAnIconTellThatThereIsNone) {
   EXPECT_EQ(form.multiIcons + form.headerDiffs, 0);
 }
 
-TEST_F(CommandDispatch, TheToolBoxTellsThatThereIsNoIcon) {
+TEST_F(CommandDispatch, TheToolBoxSaysThatThereIsNoIcon) {
   boxes.expectTold(kNoIcon, BoxIcon::None);
   shell.chooseTool(kPaint);
   EXPECT_EQ(drawing.tools.selectedTool(), kNoTool);
@@ -213,7 +213,7 @@ TEST_F(CommandDispatch, CutKeepsTheRegionInTheClipboardAndEraseDoesNot) {
   EXPECT_EQ(clipboard.held->corner.GetPixel(1, 0), 0x00FF00);
 }
 
-TEST_F(CommandDispatch, PasteTellsThatThereIsNoPicture) {
+TEST_F(CommandDispatch, PasteSaysThatThereIsNoPicture) {
   newIcon();
   for (const int index : {kPaste, kPaste + 1}) {
     boxes.expectTold("No image in clipboard yet", BoxIcon::None);

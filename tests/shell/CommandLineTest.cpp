@@ -54,7 +54,7 @@ TEST_F(CommandLine, AnyOtherEndingIsIgnored) {
   EXPECT_EQ(kindOf("a.icon"), CommandLineKind::Ignored);
 }
 
-TEST_F(CommandLine, AMissingFileIsToldWhateverItsEnding) {
+TEST_F(CommandLine, AMissingFileIsReportedWhateverItsEnding) {
   const CommandLineFile file = readCommandLine("\"" + folder_.file("none.ico") + "\"");
   EXPECT_EQ(file.kind, CommandLineKind::Missing);
   EXPECT_EQ(file.path, folder_.file("none.ico"));

@@ -51,7 +51,7 @@ class World {
 
 std::string nameOf(const Command& row) { return objectNameOf(row.control, row.index); }
 
-TEST(CommandWalk, TheNeedsOfEveryCommandAreToldOnce) {
+TEST(CommandWalk, TheNeedsOfEveryCommandAreListedOnce) {
   std::multiset<std::string> told, there;
   for (const CommandNeed& need : kCommandNeeds)
     for (const int index : need.indices) told.insert(objectNameOf(need.control, index));

@@ -86,7 +86,7 @@ TEST_F(CursorCommandsTest, TheCursorOfTheCommandLineOpensAndChoosesItsChart) {
   EXPECT_EQ(std::filesystem::current_path(), directory.before());
 }
 
-TEST_F(CursorCommandsTest, ABadCursorOnTheCommandLineIsToldAndTheProgramStartsEmpty) {
+TEST_F(CursorCommandsTest, ABadCursorOnTheCommandLineIsReportedAndTheProgramStartsEmpty) {
   const std::string path = writeCursor(32, 0);
   boxes.expectTold(path + kInvalid, BoxIcon::Exclamation);
   start(path);

@@ -252,7 +252,7 @@ TEST_F(ShellTest, AnIconDroppedOnAnotherContainerShowsThere) {
   EXPECT_EQ(state.current().path.trimmed(), "Untitled");
 }
 
-TEST_F(ShellTest, HelpTellsThatTheManualIsMissingUntilThereIsOne) {
+TEST_F(ShellTest, HelpSaysThatTheManualIsMissingUntilThereIsOne) {
   start();
   boxes.expectTold("GPHelp.chm missing in current folder.", BoxIcon::Exclamation);
   click("mnuHelpSub", 0);

@@ -113,7 +113,7 @@ class ColorMixerViewTest : public testing::Test {
   }
 };
 
-TEST_F(ColorMixerViewTest, EverythingFitsBelowTheChartsAndBearsItsName) {
+TEST_F(ColorMixerViewTest, EverythingFitsBelowTheChartsAndHasItsName) {
   EXPECT_EQ(view->objectName(), "fraColorMixer");
   EXPECT_EQ(view->caption(), "Color Mixer");
   EXPECT_LE(view->minimumSizeHint().width(), kPanelWidth);
@@ -309,7 +309,7 @@ TEST_F(ColorMixerViewTest, OfBadPaletteFilesNoMoreIsReadThanAPaletteCanTake) {
   EXPECT_LT(test::bytesRead() - read, kMostRead);
 }
 
-TEST_F(ColorMixerViewTest, ASliderDraggedInTheMidstOfLightenGoesBack) {
+TEST_F(ColorMixerViewTest, ASliderDraggedDuringLightenGoesBack) {
   mix(100, 100, 100);
   pump.inside = [this] { slider(0)->setValue(3); };
   adjust(0)->click();

@@ -24,7 +24,7 @@ class ColorPanelTest : public test::FormFixture {
   void type(const QString& keys) { QTest::keyClicks(text(), keys); }
 };
 
-TEST_F(ColorPanelTest, TheFramesBearTheirCaptionsAndOneChartIsUp) {
+TEST_F(ColorPanelTest, TheFramesHaveTheirCaptionsAndOneChartIsUp) {
   start();
   const QStringList captions = {
       "Brush", "S.Color", "Color", "16-Color Palette", "256-Color Palette", "Direct entry of color value"};

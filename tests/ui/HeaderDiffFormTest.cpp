@@ -140,7 +140,7 @@ TEST_F(HeaderDiffForm, AnotherBaseListsByTheBitmapHeaders) {
   EXPECT_EQ(list()->item(1)->text(), "2\t24-BPP\tTrue-Color\t24 x 24");
 }
 
-TEST_F(HeaderDiffForm, AFileWithoutIconsIsToldOfAndTheFormStaysEmpty) {
+TEST_F(HeaderDiffForm, AFileWithoutIconsIsReportedAndTheFormStaysEmpty) {
   boxes.expectTold(kNoIcon, BoxIcon::None);
   form = make(folder.write("text.ico", "no icon"));
   EXPECT_TRUE(form->isVisible());

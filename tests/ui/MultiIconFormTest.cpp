@@ -49,7 +49,7 @@ TEST_F(MultiIconForm, AFileThatCannotBeReadShowsNothing) {
   }
 }
 
-TEST_F(MultiIconForm, TheFirstIconThatCannotBeShownIsToldOfOverTheForm) {
+TEST_F(MultiIconForm, TheFirstIconThatCannotBeShownIsReportedOverTheForm) {
   std::vector<Told> entries = kStandard;
   entries[2].image = kNoBitmap;
   boxes.expectTold("Ref 3\nUnable to get this one", BoxIcon::None);
@@ -176,7 +176,7 @@ TEST_F(MultiIconForm, WithoutACurrentContainerThereIsNoneToChoose) {
   EXPECT_FALSE(isShown("lblFileToEdit(3)"));
 }
 
-TEST_F(MultiIconForm, AStrangeBitCountIsToldOfAndTheFormStays) {
+TEST_F(MultiIconForm, AStrangeBitCountIsReportedAndTheFormStays) {
   std::vector<Told> entries = kStandard;
   entries[2].bits = 3;
   open(entries);
@@ -222,7 +222,7 @@ TEST_F(MultiIconForm, EnterOnAButtonPressesThatButton) {
 
 // Buttons.
 
-TEST_F(MultiIconForm, ButtonsBearTheirTextsAndTips) {
+TEST_F(MultiIconForm, ButtonsHaveTheirTextsAndTips) {
   open();
   expectButtons({{"cmdLoad", "Load", "Load highlighted icon (and come back)"},
                  {"cmdEdit", "Load & Exit", "Load highlighted icon and exit"},

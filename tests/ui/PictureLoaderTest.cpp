@@ -134,7 +134,7 @@ TEST_F(PictureLoaderTest, OfFilesOf100MegabytesNoMoreIsReadThanAPictureCanTake) 
   EXPECT_LT(test::peakMemory() - before, 64 * test::kMegabyte);
 }
 
-TEST_F(PictureLoaderTest, FoldersAndPipesAreUnreadableAndNobodyWaits) {
+TEST_F(PictureLoaderTest, FoldersAndPipesAreUnreadableAndNothingWaits) {
   EXPECT_EQ(loader.loadPicture(folder.makeFolder("folder.pal"), kMax, kMax).problem, PictureProblem::Unreadable);
   ASSERT_EQ(mkfifo(folder.file("pipe.pal").c_str(), 0600), 0);
   EXPECT_EQ(loader.loadPicture(folder.file("pipe.pal"), kMax, kMax).problem, PictureProblem::Unreadable);

@@ -377,7 +377,7 @@ TEST(QtProcesses, TheCompanionIsKilledAndThenGone) {
   EXPECT_FALSE(processes.IsProcessRunning("gptest-supp1.exe"));
 }
 
-TEST(QtProcesses, ADeadChildThatNobodyWaitedForDoesNotRun) {
+TEST(QtProcesses, ADeadChildThatNoOneWaitedForDoesNotRun) {
   const test::TempFolder folder;
   const std::string program = folder.file("gptest-zombie.exe");
   std::filesystem::copy_file("/bin/true", program);

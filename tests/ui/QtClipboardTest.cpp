@@ -159,7 +159,7 @@ TEST_F(QtClipboardTest, AFormatThatKeepsEveryPixelGoesFirst) {
   expectCorner(16, 16);
 }
 
-TEST_F(QtClipboardTest, AFormatThatNobodyReadsIsNoImage) {
+TEST_F(QtClipboardTest, AFormatThatNoOneReadsIsNoImage) {
   offer({{"image/x-strange", "????"}, {"image/svg+xml", "<svg/>"}, {"application/x-color", "red"}});
   EXPECT_FALSE(clipboard.hasImage());
   EXPECT_FALSE(get());
@@ -253,7 +253,7 @@ TEST_F(QtClipboardTest, ClearLeavesNothing) {
   EXPECT_TRUE(system().text().isEmpty());
 }
 
-TEST_F(QtClipboardTest, EachChangeIsToldAndSeen) {
+TEST_F(QtClipboardTest, EachChangeIsReportedAndSeen) {
   int told = 0;
   bool hadImage = false;
   clipboard.onChange = [&] { ++told, hadImage = clipboard.hasImage(); };

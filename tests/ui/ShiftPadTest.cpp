@@ -171,7 +171,7 @@ TEST_F(ShiftPadTest, APressWhoseReleaseGoesElsewhereIsForgotten) {
   EXPECT_EQ(pictureAt(), QPoint(4, 4));
 }
 
-TEST_F(ShiftPadTest, WithoutShiftAReleaseTellsToSelectIt) {
+TEST_F(ShiftPadTest, WithoutShiftAReleaseSaysToSelectIt) {
   makeIcon();
   boxes.expectTold("Please select Shift first (middle square)", BoxIcon::None);
   clickCell(1, 0);
@@ -180,7 +180,7 @@ TEST_F(ShiftPadTest, WithoutShiftAReleaseTellsToSelectIt) {
   EXPECT_EQ(pictureAt(), QPoint(4, 4));
 }
 
-TEST_F(ShiftPadTest, WithoutAnIconThePadLooksDimmedAndTellsWhy) {
+TEST_F(ShiftPadTest, WithoutAnIconThePadLooksDimmedAndSaysWhy) {
   EXPECT_TRUE(tool()->isDimmed());
   EXPECT_TRUE(cell(ShiftCell::Left)->isDimmed());
   boxes.expectTold("No icon in Editing Area yet", BoxIcon::None);

@@ -158,7 +158,7 @@ TEST_F(TabbedListTest, TheFirstKeyAfterNothingChoosesTheFirstItem) {
   EXPECT_EQ(told(), std::vector<int>{0});
 }
 
-TEST_F(TabbedListTest, TheProgramMayGoBackToTheFormerItemWhileItIsTold) {
+TEST_F(TabbedListTest, TheProgramMayGoBackToTheFormerItemDuringTheNotification) {
   fill(3);
   list.setSelected(0);
   const auto back = QObject::connect(&list, &TabbedList::itemChosen, [this] { list.setSelected(0); });

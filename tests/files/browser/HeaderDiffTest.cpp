@@ -142,7 +142,7 @@ TEST_F(HeaderDiffTest, LargePreviewsAndOnesThatAreNotSquareAreShown) {
   EXPECT_EQ(diff->picIconInFile().height(), 17);
 }
 
-TEST_F(HeaderDiffTest, AnEntryThatCannotBeShownIsToldOfAndTheOneBeforeComesBack) {
+TEST_F(HeaderDiffTest, AnEntryThatCannotBeShownIsReportedAndTheOneBeforeComesBack) {
   open({entryOf(anyPicture(32, 4)), pngEntry(16)});
   const Texts before = texts();
   boxes.expectTold("Ref 2\nUnable to get this one", BoxIcon::None);
@@ -180,7 +180,7 @@ TEST_F(HeaderDiffTest, WhatIsNoIconFileHasNothingToShow) {
   show(folder.path("missing.ico"));
 }
 
-TEST_F(HeaderDiffTest, AnotherBaseReadsTheFileAnew) {
+TEST_F(HeaderDiffTest, AnotherBaseReadsTheFileAgain) {
   open({entryOf(anyPicture(16, 4))});
   folder.write("lies.ico", build(IcoFile{{entryOf(anyPicture(24, 4)), entryOf(anyPicture(32, 8))}, 0, 1, {}}));
   diff->setBase(HeaderBase::Icon);
@@ -372,7 +372,7 @@ TEST_F(HeaderDiffTest, AFileThatCannotBeCreatedEndsSilently) {
   EXPECT_EQ(bytesOf(readOnly), (Bytes{1, 2, 3}));
 }
 
-TEST_F(HeaderDiffTest, AWriteThatFailsIsToldAndTheFormerContentStays) {
+TEST_F(HeaderDiffTest, AWriteThatFailsIsReportedAndTheFormerContentStays) {
   open({lyingEntry()});
   const Bytes source = bytesOf(path);
   const Bytes other{1, 2, 3, 4, 5};

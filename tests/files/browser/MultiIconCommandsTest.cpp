@@ -46,7 +46,7 @@ TEST_F(MultiIconCommandsTest, TheBrowserIsToldFileAndContainer) {
   EXPECT_EQ(retrieve(), "");
 }
 
-TEST_F(MultiIconCommandsTest, AFileOfAnyContainerIsToldToBeInThePanelHoweverItIsSpelled) {
+TEST_F(MultiIconCommandsTest, AFileOfAnyContainerIsReportedAsInThePanelHoweverItIsSpelled) {
   std::filesystem::create_symlink(path, folder.path("link.ico"));
   for (const std::string& own : {path, folder.folder() + "/./m.ico", folder.path("link.ico")}) {
     state.mIconRecs[4].path = own;
@@ -182,7 +182,7 @@ TEST_F(MultiIconCommandsTest, MalformedAnswersLoadNothing) {
   }
 }
 
-TEST_F(MultiIconCommandsTest, SizesThatAreNotOfferedAreToldAndLeave) {
+TEST_F(MultiIconCommandsTest, SizesThatAreNotOfferedAreReportedAndLeave) {
   for (const std::string answer : {"1/00/64/64/16/4/16/4", "1/00/32/0/16/4/16/4", "1/00/16/32/16/4/16/4"}) {
     boxes.expectTold("Retrieval failed", BoxIcon::Exclamation);
     userLoads(bytes, 0, answer, true);

@@ -199,7 +199,7 @@ TEST_F(BrowserTest, PositionsBeyondTheListAreIgnored) {
   EXPECT_EQ(browser->addPosition(), 3);
 }
 
-TEST_F(BrowserTest, AddingWantsAnItemSelectedOrOtherSizes) {
+TEST_F(BrowserTest, AddingRequiresAnItemSelectedOrOtherSizes) {
   browse(threeIcons(), true);
   boxes.expectTold("No icon in file listed", BoxIcon::None);
   browser->cmdSaveAdd(kSaveButton);

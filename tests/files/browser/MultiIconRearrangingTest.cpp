@@ -152,7 +152,7 @@ TEST_F(BrowserRearrangingTest, EntryNinetyNineIsRemovedAndNoOther) {
   EXPECT_EQ(bytesOf(path), laidOut(entries));
 }
 
-TEST_F(BrowserRearrangingTest, AFileThatTurnedReadOnlyIsToldAndListedAsItIs) {
+TEST_F(BrowserRearrangingTest, AFileThatTurnedReadOnlyIsReportedAndListedAsItIs) {
   const Bytes file = laidOut({a, b, c});
   browse(file);
   browser->clickIcon(2);
@@ -337,7 +337,7 @@ TEST_F(BrowserRearrangingTest, RepositioningIsRefusedForOneIconAndForAFileInACon
   EXPECT_FALSE(browser->showsReposition());
 }
 
-TEST_F(BrowserRearrangingTest, ShiftingWantsASelection) {
+TEST_F(BrowserRearrangingTest, ShiftingRequiresASelection) {
   browse({a, b});
   boxes.expectTold("No title selected yet", BoxIcon::None);
   browser->cmdShiftUp();
@@ -373,7 +373,7 @@ TEST_F(BrowserRearrangingTest, AWriteThatFailsIsError3AndTheFormerFileIsListed) 
   EXPECT_EQ(unloads, 0);
 }
 
-TEST_F(BrowserRearrangingTest, AFileThatVanishedOnThePaneIsWrittenAnew) {
+TEST_F(BrowserRearrangingTest, AFileThatVanishedOnThePaneIsWrittenAgain) {
   browse({a, b, c});
   reverse();
   std::filesystem::remove(path);

@@ -72,7 +72,7 @@ TEST_F(BrowserSavesTest, ProposesBitsForTrueColorAndColorsOtherwise) {
   }
 }
 
-TEST_F(BrowserSavesTest, ASaveOverTheFileItselfByAnotherNameListsItAnew) {
+TEST_F(BrowserSavesTest, ASaveOverTheFileItselfByAnotherNameListsItAgain) {
   browse({anyEntry(16, 4), anyEntry(32, 8)});
   fs::create_symlink(browser->file(), folder.path("link.ico"));
   save("link.ico");
@@ -114,7 +114,7 @@ TEST_F(BrowserSavesTest, AnImageHasTheBytesThatItsEntryTells) {
   EXPECT_EQ(fs::file_size(folder.path("short.ico")), 22u + 50u);
 }
 
-TEST_F(BrowserSavesTest, AReadOnlyTargetIsToldAndKept) {
+TEST_F(BrowserSavesTest, AReadOnlyTargetIsReportedAndKept) {
   browse({anyEntry(16, 4), anyEntry(32, 8)});
   makeReadOnly(folder.write("one.ico", {1, 2, 3}));
   boxes.expectTold(kReadOnly, BoxIcon::Exclamation);
@@ -122,7 +122,7 @@ TEST_F(BrowserSavesTest, AReadOnlyTargetIsToldAndKept) {
   EXPECT_EQ(bytesOf(folder.path("one.ico")), (Bytes{1, 2, 3}));
 }
 
-TEST_F(BrowserSavesTest, AFullDiskIsTold) {
+TEST_F(BrowserSavesTest, AFullDiskIsReported) {
   browse({anyEntry(16, 4), anyEntry(32, 8)});
   boxes.expectTold("Failed to save this icon", BoxIcon::Exclamation);
   const FullDisk full(1000);

@@ -384,7 +384,7 @@ TEST_F(CursorFilesTest, SavingACursorLeavesTheIconWhatItWas) {
   EXPECT_EQ(saver.lastSavedFile(), folder.path("saved.cur"));
 }
 
-TEST_F(CursorFilesTest, AReadOnlyFileIsToldSo) {
+TEST_F(CursorFilesTest, AReadOnlyFileIsReported) {
   givenCursor(1, 2);
   state.picImage.fill(0x123456);
   const std::string path = folder.write("kept.cur", {1, 2, 3});
@@ -397,7 +397,7 @@ TEST_F(CursorFilesTest, AReadOnlyFileIsToldSo) {
   EXPECT_FALSE(panelIsUpToDate()) << "nothing was saved";
 }
 
-TEST_F(CursorFilesTest, AnyOtherFailureIsToldInItsOwnSpelling) {
+TEST_F(CursorFilesTest, AnyOtherFailureIsReportedInItsOwnSpelling) {
   givenCursor(1, 2);
   dialogs.paths = {folder.path("no/such.cur")};
   boxes.expectTold("Failed to save curosr", BoxIcon::Exclamation);

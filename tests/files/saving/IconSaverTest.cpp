@@ -113,7 +113,7 @@ TEST_F(IconSaverTest, ASavedIconIsUnchangedAndFreeOfItsOrigin) {
   EXPECT_EQ(callsBesidesEnabling(), std::vector<std::string>{"AddHistory " + path});
 }
 
-TEST_F(IconSaverTest, AReadOnlyFileIsToldSoAndTheIconStaysModified) {
+TEST_F(IconSaverTest, AReadOnlyFileIsReportedAndTheIconStaysModified) {
   const std::string path = given(entryOf(anyPicture(32, 4)));
   const Bytes before = bytesOf(path);
   fs::permissions(path, fs::perms::owner_read);
@@ -125,7 +125,7 @@ TEST_F(IconSaverTest, AReadOnlyFileIsToldSoAndTheIconStaysModified) {
   EXPECT_EQ(bytesOf(path), before);
 }
 
-TEST_F(IconSaverTest, AnyOtherFailureIsToldAndTheIconStaysModified) {
+TEST_F(IconSaverTest, AnyOtherFailureIsReportedAndTheIconStaysModified) {
   const std::string before = given(entryOf(anyPicture(32, 4)));
   record().modified = true;
   boxes.expectTold("Failed to save this icon", BoxIcon::Exclamation);
@@ -306,7 +306,7 @@ TEST_F(IconSaverTest, TheMaskOfAnIconWithHardlyATransparentPixelIsSavedAsItIs) {
   }
 }
 
-TEST_F(IconSaverTest, ABitmapThatCannotBeWrittenIsTold) {
+TEST_F(IconSaverTest, ABitmapThatCannotBeWrittenIsReported) {
   given(entryOf(anyPicture(16, 4)));
   dialogs.paths = {folder.path("no/such.bmp")};
   boxes.expectTold("Failed to save this file.", BoxIcon::Exclamation);

@@ -205,7 +205,7 @@ TEST_F(MultiIconAddTest, FilesWithoutIconsAreRefused) {
   }
 }
 
-TEST_F(MultiIconAddTest, FilesThatDoNotHoldWhatTheyTellAreRefused) {
+TEST_F(MultiIconAddTest, FilesThatDoNotHoldWhatTheyStateAreRefused) {
   Bytes cut = build(two);
   cut.pop_back();
   Bytes reserved = build(two);
@@ -235,7 +235,7 @@ TEST_F(MultiIconAddTest, TheSameSizeInAnotherDepthIsTaken) {
   EXPECT_EQ(bytesOf(target), build(expected));
 }
 
-TEST_F(MultiIconAddTest, AFileThatChangesInTheBrowserIsTold) {
+TEST_F(MultiIconAddTest, AFileThatChangesInTheBrowserIsReported) {
   struct Case {
     std::function<void()> change;
     std::string text;
@@ -316,7 +316,7 @@ TEST_F(MultiIconAddTest, SaveAsCanBeCancelled) {
   EXPECT_TRUE(record().modified);
 }
 
-TEST_F(MultiIconAddTest, SaveAsThatCannotBeWrittenIsTold) {
+TEST_F(MultiIconAddTest, SaveAsThatCannotBeWrittenIsReported) {
   const std::string readOnly = folder.write("other.ico", {'o'});
   fs::permissions(readOnly, fs::perms::owner_read);
   expectFailure(kReadOnly);
@@ -329,7 +329,7 @@ TEST_F(MultiIconAddTest, SaveAsThatCannotBeWrittenIsTold) {
   EXPECT_TRUE(record().modified);
 }
 
-TEST_F(MultiIconAddTest, AReadOnlyTargetIsToldWithoutAFullStop) {
+TEST_F(MultiIconAddTest, AReadOnlyTargetIsReportedWithoutAFullStop) {
   fs::permissions(target, fs::perms::owner_read);
   expectFailure(kReadOnly);
   add("1/1");
