@@ -17,7 +17,8 @@ using gp::fuzz::Choices;
 using gp::fuzz::require;
 
 constexpr std::size_t kMostChoices = 48;
-constexpr std::size_t kLargestMeant = 1 << 18;  // entries may share bytes, so that a small file can describe a large one
+constexpr std::size_t kLargestMeant =
+    1 << 18;  // entries may share bytes, so that a small file can describe a large one
 constexpr std::size_t kDirSize = 6;
 constexpr std::size_t kEntrySize = 16;
 constexpr int kRefsThatRead = 99;
