@@ -23,7 +23,8 @@ HEADER = '// What it is for.\n#pragma once\n'
 GOOD = {'docs/architecture.md': ROOMS, 'tools/packages.txt': 'build present  reason\n',
         'src/platform/A.h': HEADER + '#include <vector>\n', 'src/document/B.h': HEADER + '#include "platform/A.h"\n',
         'src/document/ui/C.h': HEADER + '#include <QWidget>\n', 'src/shell/D.h': HEADER,
-        'tests/E.h': HEADER + 'const char* text = "made anew // nobody";\nint told; // stands for a text\n',
+        'tests/E.h': HEADER + 'const char* text = "made anew // nobody";\nint told;\n'
+                     '// It stands for one, stands in for one, is told well apart.\n',
         'tools/f.py': '"""Tells good from bad apart."""\nTOLD = "# nobody"\n'}
 LONG_FUNCTION = 'void f() {\n' + '  g();\n' * sizes.MAX_FUNCTION_LINES + '}\n'
 
@@ -53,6 +54,12 @@ BROKEN = [
     (sizes.checkOpenings, 'src/document/Bad.h', '#pragma once\n', 'src/document/Bad.h'),
     (packages.check, 'tools/packages.txt', 'build absent  reason', 'absent'),
 ]
+# One for each stilted word.
+STILTED = ('Nobody asks.', 'It is made anew.', 'a row of such alone', 'The file tells it.', 'as it was told',
+           'It stands there.', 'where it stood', 'It wants a name.', 'There is but one.', 'what becomes of it',
+           "others' business", 'the affair of the caller', 'It is lent a copy.', 'a lie', 'in the midst of it',
+           'It bears a name.', 'by turns', 'no mere news', 'meant so', 'upon it')
+BROKEN += [(words.checkEnglish, 'docs/bad.md', line, 'docs/bad.md:1') for line in STILTED]
 
 
 def write(root, name, text):
