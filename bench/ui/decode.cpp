@@ -21,7 +21,7 @@ namespace {
 
 struct Sample {
   QByteArray bytes;
-  std::vector<int> entries;  // entries that both readers decode at the size stated by the directory
+  std::vector<int> entries;  // those that both readers decode at the size of the directory
 
   std::span<const std::uint8_t> span() const {
     return {reinterpret_cast<const std::uint8_t*>(bytes.constData()), static_cast<std::size_t>(bytes.size())};
@@ -75,7 +75,7 @@ std::int64_t entryCount() {
   return count;
 }
 
-// Parses the directory once per file.
+// One directory for the file.
 void decodeEntries(const Sample& sample) {
   const gp::IconDirectory directory = gp::parseIconDirectory(sample.span());
   for (const int index : sample.entries) {

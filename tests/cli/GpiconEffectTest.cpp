@@ -8,7 +8,7 @@ namespace gp::test {
 namespace {
 
 struct EffectCase {
-  std::vector<std::string> words;  // after OUT
+  std::vector<std::string> words;  // behind OUT
   std::function<IconImage(const IconImage&)> make;
 };
 

@@ -13,7 +13,7 @@
 
 namespace gp::test {
 
-// A FakeEditor whose quiet loader does what a test defines.
+// A FakeEditor whose quiet loader does what a test says.
 class DocumentEditor : public FakeEditor {
  public:
   std::function<bool()> quietLoader;

@@ -30,7 +30,7 @@ Surface surfaceOf(const SlowPicture& picture) {
   return surface;
 }
 
-// Painted except for holes, some of which are neither black nor white.
+// Painted but for holes, some of which are neither black nor white.
 Surface holedMask(int width, int height) {
   Surface mask(width, height, kBlack);
   for (int y = 0; y < height; ++y)
@@ -72,7 +72,7 @@ bool isOneOfSixteen(const SlowColor& c) {
   return false;
 }
 
-// The rules of each level of red, one by one.
+// The rules of each level of red, told one by one.
 SlowColor slowForced(SlowColor c) {
   auto& [r, g, b] = c;
   if (r == 255) {
@@ -234,7 +234,7 @@ TEST(ColorReduction, OnlyNearestLeavesPixelsThatInvert) {
   EXPECT_EQ(result.image.GetPixel(3, 0), kBlack);
 }
 
-// Pixels that are not visible still count when colours are chosen and errors distributed.
+// Pixels that do not show still count while colours are chosen and errors spread.
 TEST(ColorReduction, PixelsThatDoNotShowTakePart) {
   Surface image(2, 1, rgb(100, 100, 100));
   Surface mask(2, 1, kBlack);
@@ -243,12 +243,12 @@ TEST(ColorReduction, PixelsThatDoNotShowTakePart) {
   EXPECT_EQ(second(), kBlack);
   mask.SetPixelV(0, 0, kWhite);
   EXPECT_EQ(second(), kBlack);
-  // The mean is 50 now, and no error is left over from the first pixel.
+  // The mean is 50 now, and nothing is left over from the first pixel.
   image.SetPixelV(0, 0, kBlack);
   EXPECT_EQ(second(), kWhite);
 }
 
-// The matrix of Ordered, and all errors, begin at the bottom left.
+// The matrix of Ordered and all errors begin at the bottom left.
 TEST(ColorReduction, OrderedLeavesOneWhitePixelOfABlackBlockInItsBottomLeftCorner) {
   const IconImage icon = iconOf(flatRows(5, 5, 'b'));
   EXPECT_EQ(rowsOf(reduceColors(icon.image, icon.mask, {Method::Ordered})),
@@ -277,7 +277,7 @@ Rows cutOff(const Rows& rows, int threshold) {
   return rowsOf(reduceColors(icon.image, icon.mask, {Method::SelectCutoff, threshold}));
 }
 
-// 'b' where a painted pixel of that colour becomes black, '.' where it disappears.
+// 'b' where one painted pixel of that colour becomes black, '.' where it vanishes.
 char cutPixel(Color color, int threshold) {
   const Surface image(1, 1, color);
   const Surface mask(1, 1, kBlack);
@@ -328,10 +328,10 @@ TEST(Cutoff, PixelsThatInvertGoByWhatTheyShow) {
 }
 
 TEST(Cutoff, AMaskThatIsNotWhiteIsNoGround) {
-  // Half of the bits of the ground are visible: 0x808080.
+  // Half the ground's bits show: 0x808080.
   EXPECT_EQ(cutOff({"-"}, 128), Rows{"."});
   EXPECT_EQ(cutOff({"-"}, 129), Rows{"b"});
-  // It remains inverting if the picture makes it look like the ground.
+  // It stays one where the picture makes it look like the ground.
   const Surface image(1, 1, rgb(64, 64, 64));
   const Surface mask(1, 1, rgb(128, 128, 128));
   EXPECT_EQ(rowsOf(reduceColors(image, mask, {Method::SelectCutoff, 193})), Rows{"b"});

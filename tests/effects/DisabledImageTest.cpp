@@ -11,7 +11,7 @@ Rows disabledOf(const Rows& rows) {
   return rowsOf(disabledImage(icon.image, icon.mask));
 }
 
-// The result for one painted pixel of that colour in the middle of three by three.
+// What one painted pixel of that colour in the middle of three by three becomes.
 Rows disabledPixel(Color color) {
   IconImage icon = iconOf({"...", ".o.", "..."});
   icon.image.SetPixelV(1, 1, color);

@@ -38,7 +38,7 @@ inline constexpr PixelLook kPixelLooks[] = {
 inline IconImage iconOf(const Rows& rows) {
   const int width = rows.empty() ? 0 : static_cast<int>(rows.front().size());
   const int height = static_cast<int>(rows.size());
-  // Pixels with an unknown letter get values that no letter has.
+  // Pixels without a letter stand out.
   IconImage icon{Surface(width, height, 0x123456), Surface(width, height, 0x123456), {}};
   for (int y = 0; y < height; ++y)
     for (int x = 0; x < width; ++x)
@@ -69,7 +69,7 @@ inline Rows flatRows(int width, int height, char letter) {
   return Rows(static_cast<std::size_t>(height), std::string(static_cast<std::size_t>(width), letter));
 }
 
-// `count` icons of up to 9 x 9 pixels, including sides of 0, in random mixtures of the letters; the same in every run.
+// `count` icons of up to 9 x 9 pixels, sides of 0 included, in any mixture of the letters; the same in every run.
 inline std::vector<Rows> randomIcons(int count) {
   constexpr int kLongestSide = 9;
   std::mt19937 numbers(20240607);
@@ -87,7 +87,7 @@ inline std::vector<Rows> randomIcons(int count) {
   return icons;
 }
 
-// Sides that differ from those of any icon.
+// Sides that are unlike those of any icon.
 struct OddSize {
   int width, height;
 };

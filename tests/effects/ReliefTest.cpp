@@ -77,7 +77,7 @@ TEST(Relief, WhatWouldLeaveTheIconIsLost) {
 }
 
 TEST(Relief, LightLiesOverDarkWhereTheyMeet) {
-  // The dark edge of the first pixel and the light edge of the second one coincide.
+  // The first pixel's dark edge and the second one's light edge fall together.
   const Rows apart{".....", ".o...", ".....", "...o.", "....."};
   EXPECT_EQ(embossed(apart), (Rows{"w....", ".o...", "..w..", "...o.", "....g"}));
   EXPECT_EQ(engraved(apart), (Rows{"g....", ".o...", "..g..", "...o.", "....w"}));
@@ -134,7 +134,7 @@ TEST(Relief, TheFourthByteOfAPixelIsNoPartOfIt) {
   for (const std::uint32_t pixel : result.image.pixels()) EXPECT_EQ(pixel & 0xFF000000U, 0U);
 }
 
-// The rules again, pixel by pixel and from the side of the result: what does each place get?
+// The rules once more, pixel by pixel and seen from the result: what does each place get?
 IconImage slowRelief(const IconImage& icon, ReliefKind kind, Color shadow) {
   const bool hasLight = kind != ReliefKind::Shadowed;
   const Color light = kind == ReliefKind::Engraved ? rgb(128, 128, 128) : kWhite;

@@ -33,7 +33,7 @@ TEST(StandardSnap, AGreyGoesToTheNearestOfTheFourLevels) {
 
 TEST(StandardSnap, AChannelAloneGoesByItsOwnRules) {
   for (int v = 0; v < 256; ++v) {
-    // 192 in one channel alone is not a standard colour: it becomes 128, in red, green and blue alike.
+    // 192 alone is no standard colour and becomes 128 in red and blue; in green too.
     const int level = v <= 64 ? 0 : v <= 223 ? 128 : 255;
     EXPECT_EQ(snapToStandard(rgb(v, 0, 0)), rgb(level, 0, 0)) << v;
     EXPECT_EQ(snapToStandard(rgb(0, v, 0)), rgb(0, level, 0)) << v;

@@ -1,5 +1,5 @@
-// The states of the program that decide which commands can run, each with its facts, and the needs of every command.
-// Both are written here independently of the program's own tables.
+// The states of the program that decide which commands can run, each with the facts that hold in it, and what every
+// command needs of them. Both are told here in the tests' own words and taken from nothing that the program does.
 #pragma once
 
 #include "document/PanelNumbers.h"

@@ -52,7 +52,7 @@ class EffectFixture : public ShellFixture {
     return state.picMask.GetPixel(x, y) == kBlack ? state.picImage.GetPixel(x, y) : kNoColor;
   }
   int panel() const { return state.screen.mActivePanel; }
-  // The number of colours that the icon counts as.
+  // How many colours the icon counts as.
   int imageColors() const {
     int count = 0;
     GetColorBitCount_Image(state.picImage, count);

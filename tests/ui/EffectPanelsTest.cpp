@@ -20,7 +20,7 @@ namespace gp {
 namespace {
 
 constexpr Color kRed = rgb(255, 0, 0);
-constexpr int kTopLeftSquare = 8;  // pixels of the square on the icon
+constexpr int kTopLeftSquare = 8;  // pixels of the square that stands on the icon
 
 class EffectPanelsTest : public test::FormFixture {
  protected:

@@ -1,4 +1,4 @@
-// frmGPHeaderDiff, used by mouse and keyboard.
+// frmGPHeaderDiff, worked by mouse and keyboard.
 #include "files/Files.h"
 #include "files/ui/EntryView.h"
 #include "files/ui/frmGPHeaderDiff.h"

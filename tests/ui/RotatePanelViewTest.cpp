@@ -199,7 +199,7 @@ TEST_F(RotatePanelViewTest, TheFocusGoesToTheAngleAndTabFollowsTheEye) {
   }
 }
 
-TEST_F(RotatePanelViewTest, AfterItHasGoneThePanelNotifiesNothing) {
+TEST_F(RotatePanelViewTest, AfterItHasGoneThePanelTellsNobody) {
   delete view;
   EXPECT_FALSE(rotatePanel.onChange);
   rotatePanel.setSlider(5);

@@ -24,7 +24,7 @@ GOOD = {'docs/architecture.md': ROOMS, 'tools/packages.txt': 'build present  rea
         'src/platform/A.h': HEADER + '#include <vector>\n', 'src/document/B.h': HEADER + '#include "platform/A.h"\n',
         'src/document/ui/C.h': HEADER + '#include <QWidget>\n', 'src/shell/D.h': HEADER,
         'tests/E.h': HEADER + 'const char* text = "made anew // nobody";\nint told;\n'
-                     '// It stands for one, stands in for one, stands still. Told well apart, one tells good from bad.\n',
+                     '// It stands for one, stands in for one, stands still, stands out. Told well apart, one tells good from bad.\n',
         'tools/f.py': '"""Tells good from bad apart."""\nTOLD = "# nobody"\n'}
 LONG_FUNCTION = 'void f() {\n' + '  g();\n' * sizes.MAX_FUNCTION_LINES + '}\n'
 

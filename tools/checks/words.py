@@ -14,7 +14,7 @@ STILTED = {
     r'anew': 'again',
     r'of such(?! an?\b)': 'of these',
     r'(?:tells?|told)(?! (?:\S+ ){0,9}(?:apart|from)\b)': 'reports, states, shows',
-    r'(?:stands?|stood)(?! (?:(?:in )?for|still)\b)': 'is',
+    r'(?:stands?|stood)(?! (?:(?:in )?for|still|out)\b)': 'is',
     r'wants?': 'requires',
     r'there (?:is|are) but': 'there is only',
     r'becomes? of': 'happens to',
@@ -29,7 +29,8 @@ STILTED = {
     r'hereby|thereof|whence|aught|seldom|upon': 'a common word',
 }
 # Files and folders whose comments are not checked yet.
-NOT_YET = ('src/', 'cmake/', 'tools/checks/tidy.py')
+NOT_YET = ('src/', 'cmake/', 'tools/checks/tidy.py', 'docs/how-to-add.md', 'tests/effects/',
+           'tests/ui/EffectPanelsTest.cpp')
 
 
 def pattern():

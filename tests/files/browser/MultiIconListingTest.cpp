@@ -35,7 +35,7 @@ TEST(MultiIconListing, TheHeadersBitsAreTheLowByteAtFourteen) {
   entry.image[14] = 8;
   entry.image[15] = 1;
   EXPECT_EQ(listed(entry).bihBits, 8);
-  EXPECT_EQ(listed(entry).bihColors, 16);  // the colour count of the entry takes precedence
+  EXPECT_EQ(listed(entry).bihColors, 16);  // the entry's colour count comes first
   entry.colorCount = 0;
   EXPECT_EQ(listed(entry).bihColors, 256);
 }

@@ -77,7 +77,7 @@ TEST(IcoDirectory, OnlyTypeOneWithAnEntryIsAnIcon) {
   EXPECT_FALSE(parseIconDirectory(Bytes{}).isIcon());
 }
 
-TEST(IcoDirectory, PngIsRecognisedByItsSignatureAlone) {
+TEST(IcoDirectory, PngIsToldByItsSignatureAlone) {
   Entry entry = entryOf(anyPicture(32, 32));
   EXPECT_FALSE(isPngImage(build(entry), parseIconDirectory(build(entry)).entry(0)));
   entry.image = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
