@@ -1,5 +1,5 @@
-// The rooms up to drawing, connected as the program connects them, without screen and user: what drawing tools, panels
-// and forms work on while they are measured.
+// The rooms up to drawing, connected as in the program, without a screen or user: the benchmarks of drawing tools,
+// panels and forms work on them.
 #pragma once
 
 #include "colour/ColorSelection.h"
@@ -38,7 +38,7 @@ class NoPump : public MessagePump {
   void wait(int) override {}
 };
 
-// Nobody is asked or told anything.
+// Boxes are neither shown nor answered.
 class SilentBoxes : public MessageBoxes {
  public:
   BoxAnswer show(const std::string&, BoxButtons, BoxIcon, BoxAnswer suggested) override { return suggested; }
@@ -61,7 +61,7 @@ class NoClipboard : public Clipboard {
   void clear() override {}
 };
 
-// Calls for colour and drawing reach the rooms; the rest is left out.
+// Calls for colour and drawing reach the rooms; the others do nothing.
 class RoomsEditor : public Editor {
  public:
   EditState* state = nullptr;
@@ -110,9 +110,9 @@ struct BenchRooms {
 };
 
 inline constexpr int kIconSize = 48;
-inline constexpr int kRoom = 600;  // pixels that picDisp finds on a large screen
+inline constexpr int kRoom = 600;  // pixels of picDisp on a large screen
 
-// A transparent icon of 48 pixels on an Editing Area with lines as grid, and its history.
+// A transparent icon of 48 pixels on an Editing Area with grid lines, and its history.
 struct IconScene : BenchRooms {
   IconScene() {
     state.screen.dispContainerWidth = state.screen.dispContainerHeight = kRoom;

@@ -1,5 +1,5 @@
-// A file on disk with as many icons as the browser can put into another sequence, and what the browser works with
-// where there is no program around it.
+// A file on disk with as many icons as the browser can reorder, and the context in which the browser works without the
+// program.
 #pragma once
 
 #include "BenchRooms.h"
@@ -12,10 +12,10 @@ namespace gp::bench {
 
 inline constexpr int kManyIcons = 99;
 
-// What the file's icons are.
+// The kinds of icons in the file.
 enum class Icons {
   Deep,   // 48x48, 32 bits
-  Mixed,  // every icon size and three others, at every depth
+  Mixed,  // every icon size and three other sizes, each at every depth
 };
 
 inline test::Bytes manyIcons(Icons icons) {

@@ -1,4 +1,4 @@
-// What a redraw of the Editing Area costs: composing an icon and enlarging it.
+// Measures a redraw of the Editing Area: composing an icon and magnifying it.
 #include "platform/gdi/RasterOps.h"
 #include "platform/gdi/Stretch.h"
 #include "platform/gdi/Surface.h"

@@ -1,5 +1,5 @@
-// What a click with Fill or Replace costs over a whole icon of 48 pixels, its step of Undo and the redraw of the
-// Editing Area included.
+// Measures a click with Fill or Replace on a whole icon of 48 pixels, including its undo step and the redraw of the
+// Editing Area.
 #include "BenchRooms.h"
 #include "drawing/FillTools.h"
 
@@ -9,7 +9,7 @@ namespace {
 
 constexpr gp::ToolMouse kMiddle{.pixelX = gp::bench::kIconSize / 2, .pixelY = gp::bench::kIconSize / 2};
 
-// Two colours by turns, so that each click changes every pixel.
+// Two colours, used alternately, so that each click changes every pixel.
 template <typename Tool>
 void clickWholeIcon(benchmark::State& state) {
   gp::bench::IconScene scene;
@@ -27,7 +27,7 @@ void fillWholeIconTransparent(benchmark::State& state) {
   gp::bench::IconScene scene;
   gp::FillTool tool(scene.context, scene.document.editingArea, scene.drawing.history);
   gp::ToolMouse mouse = kMiddle;
-  // By turns painted and made transparent: half of the clicks are plain fills.
+  // Alternately painted and made transparent: half of the clicks are plain fills.
   for (auto _ : state) {
     mouse.modifiers ^= 1;
     tool.release(mouse);

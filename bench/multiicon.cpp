@@ -1,5 +1,5 @@
-// Opening a file of 99 icons in the browser, from the file on disk to the first preview: the rules alone, without a
-// form. Processor time of the whole process.
+// Measures opening a file of 99 icons in the browser, from the file on disk to the first preview: the core only,
+// without a form. Processor time of the whole process.
 #include "ManyIconsFile.h"
 #include "files/browser/MultiIconBrowser.h"
 

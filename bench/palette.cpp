@@ -1,5 +1,5 @@
-// What the reduction of a picture of noise to 256 colours costs: an icon's size and a large one. Dithering changes the
-// bitmap, so that each turn works on a fresh copy, which is made off the clock.
+// Measures reducing a picture of noise to 256 colours, at the size of an icon and at a large size. Dithering changes
+// the bitmap, so each iteration works on a fresh copy, which is made while the timer is paused.
 #include "palette/HalftonePalette.h"
 #include "palette/NearestMatch.h"
 #include "palette/clsGPPal.h"

@@ -1,4 +1,4 @@
-// What one move of the mouse costs while a region is dragged.
+// Measures one mouse move while a region is dragged.
 #include "BenchRooms.h"
 #include "drawing/RegionTool.h"
 
@@ -8,7 +8,7 @@ namespace {
 
 using namespace gp;
 
-// A 48-pixel icon with a region of 40 x 40 on it, at the size of a small screen.
+// A 48-pixel icon with a region of 40 x 40, at the magnification of a small screen.
 struct Scene : bench::BenchRooms {
   static constexpr int kRegionSize = 40;
 

@@ -1,4 +1,4 @@
-// What turning an icon costs: the arithmetic alone, and Proceed with all that it shows.
+// Measures rotating an icon: the computation alone, and Proceed with everything that it shows.
 #include "BenchRooms.h"
 #include "drawing/RotateSurface.h"
 

@@ -1,4 +1,4 @@
-// What a step of Undo costs on an icon of 48 pixels: recording it with a full history, and going back and forth.
+// Measures an undo step on an icon of 48 pixels: recording it with a full history, and going back and forth.
 #include "BenchRooms.h"
 
 #include <benchmark/benchmark.h>
@@ -16,7 +16,7 @@ void recordUndo(benchmark::State& state) {
 }
 BENCHMARK(recordUndo)->Unit(benchmark::kMicrosecond);
 
-// The stacks grow from nothing.
+// The stacks start empty and grow.
 void recordUndoOnAFreshIcon(benchmark::State& state) {
   gp::bench::IconScene scene;
   for (auto _ : state) {

@@ -1,4 +1,4 @@
-# To be sourced. A screen that nobody sees: an X server, a window manager and a throw-away home.
+# To be sourced. Starts an invisible screen: an X server, a window manager and a temporary home.
 
 # startVirtualDisplay SIZE: exports DISPLAY; stopVirtualDisplay ends what was started and removes its folder.
 startVirtualDisplay() {
@@ -24,8 +24,8 @@ stopVirtualDisplay() {
   rm -rf "$virtual_dir"
 }
 
-# mainForm PID: the id of the program's main form once it is on the screen. The start-up picture and message boxes are
-# smaller than the main form can be.
+# mainForm PID: prints the id of the program's main form once it is on the screen. The start-up picture and message
+# boxes are smaller than the smallest main form.
 readonly kMainFormWidth=780 kMainFormHeight=540
 mainForm() {
   local id width height

@@ -1,4 +1,4 @@
-// Brings a PPM picture down to an optimal palette of 256 dithered colours and writes it as a bitmap file, so that the
+// Reduces a PPM picture to an optimal palette of 256 colours with dithering and writes a bitmap file, so that the
 // palette engine can be timed as a whole process beside other programs.
 //
 //     reduce IN.ppm OUT.bmp
@@ -22,8 +22,8 @@ constexpr int kBits = 8;
 constexpr std::size_t kChannels = 3;
 constexpr std::size_t kLongestHead = 64;
 
-// Pixels of three bytes, top row first, behind a head of four words and one blank. Nothing else is understood; then the
-// bitmap is empty.
+// Pixels of three bytes, top row first, after a header of four words and one blank. Returns an empty bitmap for any
+// other format.
 clsGPDIB readPicture(const std::string& path) {
   clsGPDIB dib;
   const auto file = readFile(path);

@@ -1,4 +1,4 @@
-"""An X display seen through libX11: fast enough to catch the first frame of a window."""
+"""Access to an X display through libX11, fast enough to see the first frame of a window."""
 import ctypes
 import ctypes.util
 
@@ -20,7 +20,7 @@ class WindowAttributes(ctypes.Structure):
 
 
 class Image(ctypes.Structure):
-    """The head of XImage, as far as it is read here."""
+    """The first members of XImage, up to the last one used here."""
     _fields_ = [('width', ctypes.c_int), ('height', ctypes.c_int), ('xoffset', ctypes.c_int), ('format', ctypes.c_int),
                 ('data', ctypes.POINTER(ctypes.c_char)), ('byte_order', ctypes.c_int), ('bitmap_unit', ctypes.c_int),
                 ('bitmap_bit_order', ctypes.c_int), ('bitmap_pad', ctypes.c_int), ('depth', ctypes.c_int),
@@ -49,7 +49,7 @@ class Screen:
         if not self.display:
             raise RuntimeError(f'no X display {name}')
         self.root = X.XDefaultRootWindow(self.display)
-        # A window may vanish between two questions; the default handler would end this program.
+        # A window may disappear between two requests; the default handler would end this program.
         self.ignore = ErrorHandler(lambda display, event: 0)
         X.XSetErrorHandler(self.ignore)
         self.clientList = self.atom('_NET_CLIENT_LIST')
@@ -72,14 +72,14 @@ class Screen:
         return [w for w in self.numbers(self.root, self.clientList) if self.numbers(w, self.processId)[:1] == [pid]]
 
     def sizeOf(self, window):
-        """(width, height) of a window that is on the screen, (0, 0) of another."""
+        """(width, height) of a window that is on the screen, otherwise (0, 0)."""
         attributes = WindowAttributes()
         if not X.XGetWindowAttributes(self.display, window, ctypes.byref(attributes)) or attributes.map_state != VIEWABLE:
             return 0, 0
         return attributes.width, attributes.height
 
     def colors(self, window, width, height, step):
-        """How many colours there are in every `step`-th row of a window."""
+        """The number of colours in every `step`-th row of a window."""
         image = X.XGetImage(self.display, window, 0, 0, width, height, ALL_PLANES, Z_PIXMAP)
         if not image:
             return 0

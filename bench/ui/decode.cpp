@@ -1,6 +1,6 @@
-// Decoding icon entries of 16 to 48 pixels into Surfaces, beside Qt's own reader of icon files on the same entries.
-// Both get the bytes of whole files in memory. Files come from the folder given by GLIMMERPANE_CORPUS, otherwise from
-// the corpus beside the repository.
+// Measures decoding icon entries of 16 to 48 pixels into Surfaces, beside Qt's reader of icon files on the same
+// entries. Both get the bytes of whole files in memory. The files are those of the folder GLIMMERPANE_CORPUS, otherwise
+// of the corpus beside the repository.
 #include "files/format/IconDecoder.h"
 #include "files/format/IconProbe.h"
 
@@ -87,7 +87,7 @@ void decodeEntries(const Sample& sample) {
   }
 }
 
-// One reader for the file.
+// Makes one reader per file.
 void decodeEntriesByQt(const Sample& sample) {
   QBuffer buffer(const_cast<QByteArray*>(&sample.bytes));
   buffer.open(QIODevice::ReadOnly);

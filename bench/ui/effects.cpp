@@ -1,4 +1,5 @@
-// From a changed setting of an effect to the painted sample, on a painted 48x48 icon, in panels that are on the screen.
+// Measures the time from a changed setting of an effect to the painted sample, on a painted 48x48 icon, in visible
+// panels.
 #include "effects/Effects.h"
 
 #include "../BenchRooms.h"
@@ -23,7 +24,7 @@ using namespace gp;
 constexpr int kPanelWidth = 264;
 constexpr int kPanelHeight = 500;
 
-// Sees a sample being painted.
+// Notices when a sample is painted.
 class PaintWatcher : public QObject {
  public:
   bool painted = false;
@@ -33,7 +34,7 @@ class PaintWatcher : public QObject {
   }
 };
 
-// A disc of many colours, and the panels of its effects.
+// A disc of many colours, and the panels of the effects applied to it.
 class Panels {
  public:
   Panels() {
@@ -52,7 +53,7 @@ class Panels {
   Effects effects_{scene_.context, scene_.document, scene_.drawing.history};
 };
 
-// `change` makes the turn's setting.
+// `change` changes the setting for one iteration.
 template <class View, class Panel, class Change>
 void measure(benchmark::State& state, Panel& panel, Change change) {
   View view(nullptr, panel);

@@ -1,5 +1,6 @@
-// Opening a file of 99 icons in frmGPMultiIcon, from the file on disk to the first paint of the preview. Processor time
-// of the whole process; the very first opening stands apart, since fonts and styles are loaded in it.
+// Measures opening a file of 99 icons in frmGPMultiIcon, from the file on disk to the first paint of the preview.
+// Processor time of the whole process. The very first opening is reported separately, since it also loads fonts and
+// styles.
 #include "../ManyIconsFile.h"
 #include "document/ui/QtDisplay.h"
 #include "files/ui/frmGPMultiIcon.h"
@@ -13,9 +14,9 @@ namespace {
 
 using namespace gp;
 
-constexpr int kPatience = 1000;  // rounds of events until a preview that was not painted is given up
+constexpr int kPatience = 1000;  // rounds of events after which a preview that was not painted counts as a failure
 
-// Sees the preview being painted.
+// Notices when the preview is painted.
 class PaintWatcher : public QObject {
  public:
   bool painted = false;

@@ -1,4 +1,4 @@
-// One paint move on a 48-pixel icon: from the mouse event to the repainted Editing Area of the real form.
+// Measures one paint move on a 48-pixel icon: from the mouse event to the repainted Editing Area of the real form.
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtFileDialogs.h"
 #include "platform/qt/QtMessageBoxes.h"
@@ -19,9 +19,9 @@
 namespace {
 
 constexpr int kIconSize = 48;
-constexpr int kStroke = 40;  // pixels of the icon that the stroke goes over and comes back
+constexpr int kStroke = 40;  // icon pixels of the stroke, there and back
 
-// The program without its start-up checks, with a new icon of 48 pixels and the grid on.
+// The program without its start-up checks, with a new icon of 48 pixels and the grid.
 class Program {
  public:
   Program() {
@@ -35,7 +35,7 @@ class Program {
   }
   ~Program() { state_.current() = {}; }
 
-  // A move to the next pixel of the stroke, until it is seen.
+  // A move to the next pixel of the stroke, until it is painted.
   void move() {
     step_ = (step_ + 1) % (2 * kStroke);
     send(QEvent::MouseMove, step_ < kStroke ? step_ : 2 * kStroke - step_);

@@ -1,5 +1,4 @@
-// An image as a bitmap: headers, palettes and pixels of every depth, what stands behind transparent pixels, and every
-// refusal.
+// gpicon bmp: headers, palettes and pixels of every depth, the background of transparent pixels, and every refusal.
 #include "cli/WrittenPicture.h"
 
 namespace gp::test {
@@ -9,7 +8,7 @@ constexpr Color kSilver = 0xC0C0C0;
 
 class GpiconBitmap : public GpiconOneImage {
  protected:
-  // Of 16x16 pixels, with rows that are not padded.
+  // An image of 16x16 pixels, whose rows need no padding.
   std::string inputOf(const Picture& p) const { return folder.write("in.ico", build(entryOf(p))); }
   static Picture opaque(int bits) {
     Picture p = anyPicture(16, bits);
@@ -28,7 +27,7 @@ class GpiconBitmap : public GpiconOneImage {
   }
 };
 
-// Both headers whole.
+// Both headers, complete.
 struct BitmapHeaders {
   std::uint32_t fileSize, toldSize, pixels, side, bits, toldPixelBytes;
 };
@@ -99,7 +98,7 @@ TEST_F(GpiconBitmap, RowsArePaddedToFourBytes) {
   expectColors(written, [&p](int x, int y) { return p.index(x, y) ? kWhite : kBlack; });
 }
 
-// Black and a white column in the painted part, transparent in the rest.
+// The painted part has black pixels and one white column; the rest is transparent.
 Picture halfTransparent() {
   Picture p;
   p.width = p.height = 16;
@@ -133,7 +132,7 @@ TEST_F(GpiconBitmap, RealSilverStaysAsItIs) {
 
 TEST_F(GpiconBitmap, TransparentPixelsThatInvertTheGroundAreNoBackground) {
   Picture p = halfTransparent();
-  p.width = p.height = 48;  // with more colours than a palette takes, none of them is rounded
+  p.width = p.height = 48;  // an image with more colours than a palette holds keeps all of them unchanged
   p.color = [](int x, int y) {
     if (x < 8) return x < 4 ? Rgb{255, 255, 255} : Rgb{0, 0, 0};
     return Rgb{x, y, 5 * y};
@@ -162,7 +161,7 @@ TEST_F(GpiconBitmap, AlphaIsBlendedOverTheGroundWhateverTheBackground) {
   });
 }
 
-TEST_F(GpiconBitmap, TheIndexTellsTheImage) {
+TEST_F(GpiconBitmap, TheIndexSelectsTheImage) {
   Picture p = opaque(4);
   p.palette = {{255, 0, 0}};
   p.index = [](int, int) { return 0; };

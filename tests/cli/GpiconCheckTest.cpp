@@ -1,4 +1,4 @@
-// The lines that check prints: each lie of a directory, and none for what is healthy.
+// gpicon check: a line for each wrong field of a directory, and none for correct files.
 #include "cli/GpiconFixture.h"
 
 namespace gp::test {
@@ -6,7 +6,7 @@ namespace {
 
 class GpiconCheck : public Gpicon {
  protected:
-  // What is printed of a file, each line without the file's name.
+  // The lines printed for a file, each without the name of the file.
   std::string linesOf(const Bytes& file, const std::string& name = "f.ico") const {
     const std::string path = folder.write(name, file);
     const Outcome o = run({"check", path});
@@ -27,7 +27,7 @@ void put32At(Bytes& bytes, std::size_t at, std::uint32_t value) {
   for (std::size_t i = 0; i < 4; ++i) bytes[at + i] = static_cast<std::uint8_t>(value >> 8 * i);
 }
 
-// The smallest whole PNG picture as far as the size of its chunks goes.
+// The smallest PNG picture that is complete according to the sizes of its chunks.
 Bytes pngPicture(std::uint8_t width, std::uint8_t height) {
   return {0x89,   'P', 'N', 'G', '\r', '\n', 0x1A, '\n', 0, 0, 0, 13, 'I', 'H', 'D', 'R', 0,   0,   0, width, 0, 0, 0,
           height, 8,   6,   0,   0,    0,    1,    2,    3, 4, 0, 0,  0,   0,   'I', 'E', 'N', 'D', 1, 2,     3, 4};
@@ -69,28 +69,28 @@ TEST_F(GpiconCheck, OldIconsWithoutABitCountAreHealthy) {
   }
 }
 
-TEST_F(GpiconCheck, ARareDepthThatIsToldTrulyIsHealthy) {
+TEST_F(GpiconCheck, ARareDepthThatIsStatedCorrectlyIsHealthy) {
   Picture p = anyPicture(16, 2);
   EXPECT_EQ(linesOf(entryOf(p, 4, 2)), "");
   EXPECT_EQ(linesOf(entryOf(p, 0, 2)), "");
   EXPECT_EQ(linesOf(entryOf(p, 4, 0)), "");
 }
 
-TEST_F(GpiconCheck, PngPicturesThatTellTheTruthAreHealthy) {
+TEST_F(GpiconCheck, PngPicturesWithCorrectFieldsAreHealthy) {
   EXPECT_EQ(linesOf(pngEntry(48, 32, pngPicture(48, 32))), "");
   Bytes full = pngPicture(0, 0);
   full[18] = full[22] = 1;  // 256
   EXPECT_EQ(linesOf(pngEntry(0, 0, full)), "");
 }
 
-TEST_F(GpiconCheck, AWrongSizeInTheDirectoryIsTold) {
+TEST_F(GpiconCheck, AWrongSizeInTheDirectoryIsReported) {
   Entry e = anyEntry(32, 4);
   e.width = 16;
   e.height = 0;
   EXPECT_EQ(linesOf(e), "0\twidth\t16\t32\t-\n0\theight\t256\t32\t-\n");
 }
 
-TEST_F(GpiconCheck, AHeaderThatLeavesTheMaskOutStandsUpsideDownOrIsOddIsTold) {
+TEST_F(GpiconCheck, AHeaderWithoutTheMaskUpsideDownOrOddIsReported) {
   for (const auto& [height, told] : {std::pair{32, "16"}, std::pair{-64, "-32"}, std::pair{65, "32.5"},
                                      std::pair{0, "0"}, std::pair{-65, "-32.5"}}) {
     Picture p = anyPicture(32, 4);
@@ -99,11 +99,11 @@ TEST_F(GpiconCheck, AHeaderThatLeavesTheMaskOutStandsUpsideDownOrIsOddIsTold) {
   }
 }
 
-TEST_F(GpiconCheck, AWrongDepthIsToldWithWhatThePixelsNeed) {
+TEST_F(GpiconCheck, AWrongDepthIsReportedWithWhatThePixelsNeed) {
   EXPECT_EQ(linesOf(entryOf(hundredColors(), 16, 4)), "0\tcolors\t16\t256\t256\n0\tbits\t4\t8\t8\n");
 }
 
-TEST_F(GpiconCheck, AWrongBitCountAloneIsTold) {
+TEST_F(GpiconCheck, AWrongBitCountAloneIsReported) {
   EXPECT_EQ(linesOf(entryOf(anyPicture(32, 24), 0, 32)), "0\tbits\t32\t24\t24\n");
   Picture opaque = anyPicture(32, 32);
   opaque.color = [](int x, int y) { return Rgb{x * 5, y * 5, x ^ y, 255}; };
@@ -111,7 +111,7 @@ TEST_F(GpiconCheck, AWrongBitCountAloneIsTold) {
   EXPECT_EQ(linesOf(entryOf(anyPicture(32, 4), 16, 8)), "0\tbits\t8\t4\t8\n");
 }
 
-TEST_F(GpiconCheck, AWrongColorCountAloneIsTold) {
+TEST_F(GpiconCheck, AWrongColorCountAloneIsReported) {
   EXPECT_EQ(linesOf(entryOf(hundredColors(), 200, 8)), "0\tcolors\t16\t256\t256\n");
 }
 
@@ -136,7 +136,7 @@ TEST_F(GpiconCheck, DepthsThatTheEditorDoesNotReadAreComparedWithoutThePixels) {
   EXPECT_EQ(linesOf(p), "0\tbits\t24\t16\t-\n");
 }
 
-TEST_F(GpiconCheck, AByteCountThatIsTooSmallIsTold) {
+TEST_F(GpiconCheck, AByteCountThatIsTooSmallIsReported) {
   Entry e = anyEntry(32, 4);  // 40 + 64 + 32 * (16 + 4)
   e.bytesInRes = 743;
   EXPECT_EQ(linesOf(e), "0\tbytes\t743\t744\t-\n");
@@ -157,7 +157,7 @@ TEST_F(GpiconCheck, AShorterPaletteNeedsLess) {
   EXPECT_EQ(linesOf(e), "0\tbytes\t243\t244\t-\n");
 }
 
-TEST_F(GpiconCheck, PixelsBeyondAShorterPaletteAreTold) {
+TEST_F(GpiconCheck, PixelsBeyondAShorterPaletteAreReported) {
   Picture p = anyPicture(16, 4);
   p.colorsUsed = 3;
   p.index = [](int x, int y) { return x == 5 && y == 7 ? 14 : 2; };
@@ -170,7 +170,7 @@ TEST_F(GpiconCheck, PixelsBeyondAShorterPaletteAreTold) {
   EXPECT_EQ(linesOf(e), "");
 }
 
-TEST_F(GpiconCheck, AFullPaletteThatIsToldAsAShorterOneIsReadAsItStands) {
+TEST_F(GpiconCheck, AFullPaletteThatIsDeclaredShorterIsReadUnchanged) {
   Picture p = anyPicture(16, 4);
   p.colorsUsed = 3;
   p.index = [](int x, int) { return x % 3; };
@@ -179,7 +179,7 @@ TEST_F(GpiconCheck, AFullPaletteThatIsToldAsAShorterOneIsReadAsItStands) {
   EXPECT_EQ(linesOf(p), "0\tpixels\t-\t3\t3\n");
 }
 
-TEST_F(GpiconCheck, ImagesInTheWrongPlaceAreTold) {
+TEST_F(GpiconCheck, ImagesInTheWrongPlaceAreReported) {
   Entry e = anyEntry(32, 4);
   e.bytesInRes = 745;
   EXPECT_EQ(linesOf(e), "0\tend\t767\t-\t766\n");
@@ -193,27 +193,27 @@ TEST_F(GpiconCheck, ImagesInTheWrongPlaceAreTold) {
   EXPECT_NE(found.find("1\toffset\t37\t-\t38\n"), std::string::npos) << found;
 }
 
-TEST_F(GpiconCheck, SharedBytesAreTold) {
+TEST_F(GpiconCheck, SharedBytesAreReported) {
   std::vector<Entry> entries{anyEntry(16, 4), anyEntry(32, 4), anyEntry(48, 4)};
-  entries[1].offset = 6 + 3 * 16;  // the first one's place
+  entries[1].offset = 6 + 3 * 16;  // the offset of the first image
   const std::string found = linesOf(fileOf(entries));
   EXPECT_NE(found.find("1\tshared\timage 0\t-\t-\n"), std::string::npos) << found;
   EXPECT_EQ(found.find("\n2\t"), std::string::npos) << found;
 }
 
-TEST_F(GpiconCheck, TwoEntriesOfOneSizeAndDepthAreTold) {
+TEST_F(GpiconCheck, TwoEntriesOfOneSizeAndDepthAreReported) {
   Entry old = anyEntry(32, 4);
   old.bitCount = 0;
   EXPECT_EQ(linesOf(fileOf({anyEntry(32, 4), anyEntry(32, 8), anyEntry(16, 4), anyEntry(32, 4), old})),
             "3\tsame\timage 0\t-\t-\n4\tsame\timage 0\t-\t-\n");
 }
 
-TEST_F(GpiconCheck, ACountBeyondTheFileIsTold) {
+TEST_F(GpiconCheck, ACountBeyondTheFileIsReported) {
   IcoFile file{{}, 0, 1, 7};
   EXPECT_EQ(linesOf(build(file)), "-\tcount\t7\t-\t0\n");
 }
 
-TEST_F(GpiconCheck, PngPicturesOfAnotherSizeOrCutOffAreTold) {
+TEST_F(GpiconCheck, PngPicturesOfAnotherSizeOrCutOffAreReported) {
   EXPECT_EQ(linesOf(pngEntry(16, 16, pngPicture(48, 32))), "0\twidth\t16\t48\t-\n0\theight\t16\t32\t-\n");
   Bytes cut = pngPicture(16, 16);
   cut.pop_back();
@@ -232,7 +232,7 @@ TEST_F(GpiconCheck, CursorsAreAskedForTheirHotSpotAndNotForADepth) {
   EXPECT_EQ(linesOf(file), "0\thotspotX\t257\t-\t32\n0\thotspotY\t32\t-\t32\n");
 }
 
-TEST_F(GpiconCheck, SeveralFilesAreToldOneAfterAnother) {
+TEST_F(GpiconCheck, SeveralFilesAreReportedOneAfterAnother) {
   Entry e = anyEntry(16, 4);
   e.width = 15;
   const std::string good = icon("good.ico", 32, 4), bad = folder.write("bad.ico", build(e)),

@@ -1,4 +1,4 @@
-// Cursor files, which their content tells and not their name.
+// Cursor files, which gpicon recognises by their content and not by their name.
 #include "cli/GpiconFixture.h"
 
 namespace gp::test {
@@ -6,7 +6,7 @@ namespace {
 
 class GpiconCursor : public Gpicon {
  protected:
-  // A cursor with its hot spot in the places of planes and bits.
+  // A cursor with its hot spot in the fields of planes and bits.
   std::string cursor(const std::string& name, const Picture& picture, std::uint8_t x, std::uint8_t y) const {
     return folder.write(name, bytes(entryOf(picture, 0, y), x));
   }

@@ -1,4 +1,4 @@
-// Effects on an image: what each makes of it and of its options, and every refusal.
+// gpicon effect: the result of each effect and of its options, and every refusal.
 #include "cli/WrittenPicture.h"
 #include "effects/EffectTable.h"
 
@@ -12,7 +12,7 @@ struct EffectCase {
   IconImage make(const IconImage& icon) const { return findEffect(words.front())->apply(icon, values); }
 };
 
-// No two of them make the same.
+// All give different results.
 std::vector<EffectCase> effects() {
   return {{{"embossed"}, {}},
           {{"engraved"}, {}},
@@ -25,7 +25,7 @@ std::vector<EffectCase> effects() {
           {{"disabled"}, {}}};
 }
 
-// A disc in dark colours, black behind what is transparent.
+// A disc in dark colours, black in the transparent part.
 Picture disc(int size, int bits) {
   Picture p = anyPicture(size, bits);
   const auto isOutside = [size](int x, int y) {
@@ -133,7 +133,7 @@ TEST_F(GpiconEffect, ReliefOfAnEmptyIconIsEmpty) {
   }
 }
 
-TEST_F(GpiconEffect, TheIndexTellsTheImage) {
+TEST_F(GpiconEffect, TheIndexSelectsTheImage) {
   const std::string path = folder.write("three.ico", fileOf({anyEntry(16, 4), entryOf(disc(48, 24)), anyEntry(32, 8)}));
   expectDone({"effect", path, "1", out, "raised"});
   const IconImage before = iconOf(disc(48, 24));

@@ -1,4 +1,4 @@
-// Runs the built gpicon as a user does, in a folder of its own.
+// Runs the built gpicon like a user does, in a temporary folder.
 #pragma once
 
 #include "files/IcoBuilder.h"
@@ -22,7 +22,7 @@ struct Outcome {
   std::string out, err;
 };
 
-// `count` bytes, the lowest first.
+// The number in `count` bytes, the lowest first.
 inline std::uint32_t number(const Bytes& bytes, std::size_t at, int count) {
   std::uint32_t value = 0;
   for (int i = 0; i < count; ++i) value |= std::uint32_t{bytes.at(at + i)} << 8 * i;
@@ -36,7 +36,7 @@ class Gpicon : public testing::Test {
   IconFolder folder;
 
   Outcome run(const std::vector<std::string>& arguments) const { return runAfter("", arguments); }
-  // With shell commands before it, such as limits.
+  // Runs gpicon after shell commands that set limits, for example.
   Outcome runAfter(const std::string& before, const std::vector<std::string>& arguments) const {
     std::string command = before + inShell(GPICON);
     for (const std::string& argument : arguments) command += " " + inShell(argument);

@@ -1,6 +1,6 @@
-// Every known way in which an icon file lies, put through every subcommand that takes one, with little memory and
-// little time. What must hold everywhere: status 0 or 1, one line for a refusal, the file as it was on a refusal, and
-// no file written whose directory and images do not fit each other.
+// Every known kind of defective icon file, given to every subcommand that accepts icon files, with little memory and
+// little time. Expected everywhere: exit status 0 or 1, one line per refusal, an unchanged file after a refusal, and no
+// written file whose directory and images contradict each other.
 #include "cli/GpiconFixture.h"
 
 #include <random>
@@ -10,7 +10,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Kilobytes of address space and seconds: 64 MB above what the program and its largest test file take.
+// Kilobytes of address space, and seconds: 64 MB more than the program and its largest test file need.
 constexpr const char* kLimits = "ulimit -v 90000; ulimit -t 10; ";
 
 struct HostileFile {
@@ -144,7 +144,7 @@ std::vector<HostileFile> allHostileFiles() {
   return all;
 }
 
-// True when the images follow each other behind the directory, in its order, and end with the file.
+// True when the images follow the directory in its order, without gaps, and end with the file.
 bool isLaidOut(const Bytes& file) {
   const std::uint32_t count = number(file, 4, 2);
   std::size_t at = 6 + 16 * count;
@@ -161,7 +161,7 @@ class GpiconHostile : public Gpicon {
 
   Outcome limited(const std::vector<std::string>& arguments) const { return runAfter(kLimits, arguments); }
 
-  // Looks at a file in every way; none of them may change it.
+  // Inspects a file in every way; none of them may change it.
   void lookAt(const std::string& path, const Bytes& bytes) const {
     for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
              {"list", path},
@@ -180,7 +180,7 @@ class GpiconHostile : public Gpicon {
     EXPECT_EQ(bytesOf(path), bytes);
   }
 
-  // Changes a file in one way, from what it is.
+  // Changes a file by one command. Afterwards the file has the given bytes again.
   void change(const std::string& path, const Bytes& bytes, const std::vector<std::string>& arguments) const {
     const Outcome o = limited(arguments);
     const std::string what = arguments.front() + " " + std::to_string(o.status) + " " + o.err;
@@ -201,7 +201,7 @@ class GpiconHostile : public Gpicon {
     change(path, bytes, {"reorder", path, "3,2,1"});
     change(path, bytes, {"salvage", path, "-o", path});
   }
-  // As the icon that goes into a healthy file.
+  // Uses the file as the icon that is put into a correct file.
   void putIn(const std::string& path) const {
     const Bytes healthy = fileOf({anyEntry(16, 1), anyEntry(48, 4)});
     const std::string target = folder.write("target.ico", healthy);
@@ -228,7 +228,7 @@ TEST_F(GpiconHostile, CursorsThatLieEndInAnAnswerToo) {
   }
 }
 
-// One file for each number of bytes that a file can be cut to.
+// One file for each size to which a file can be truncated.
 std::vector<std::string> cuts(const IconFolder& folder, const Bytes& whole) {
   std::vector<std::string> paths;
   for (std::size_t size = 0; size < whole.size(); ++size)
@@ -283,7 +283,7 @@ TEST_F(GpiconHostile, SixtyFiveThousandEntriesOverTheSameBytesTakeNoTime) {
   std::vector<Entry> entries(65535);
   const Bytes image = imageBytes(anyPicture(48, 32));
   for (std::size_t i = 0; i < entries.size(); ++i) {
-    entries[i].bitCount = 4;  // so that each quarrels with its header
+    entries[i].bitCount = 4;  // so that each contradicts its header
     entries[i].offset = 6 + 16 * 65535;
     entries[i].bytesInRes = static_cast<std::uint32_t>(image.size());
   }
@@ -292,7 +292,7 @@ TEST_F(GpiconHostile, SixtyFiveThousandEntriesOverTheSameBytesTakeNoTime) {
   const std::string path = folder.write("many.ico", bytes);
   EXPECT_EQ(lines(limited({"list", path}).out), 65535);
   EXPECT_EQ(lines(limited({"check", path}).out), 4 * 65535 + 2 * 65534);  // size, depth; shared, same
-  // All that writes would write more than 256 MB.
+  // All writing commands would write more than 256 MB.
   for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
            {"split", path, "-d", folder.path("parts")}, {"replace", path, "0", icon24}, {"remove", path, "0"}}) {
     const Outcome o = limited(arguments);

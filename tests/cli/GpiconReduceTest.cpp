@@ -1,4 +1,4 @@
-// An image brought down to fewer colours: what each method makes of it, the depth it is saved with, and every refusal.
+// gpicon reduce: the result of each method, the depth with which it is saved, and every refusal.
 #include "cli/WrittenPicture.h"
 #include "effects/ColorReduction.h"
 
@@ -15,7 +15,7 @@ const std::vector<MethodCase> kMethods{
     {"16", "vga", ReductionMethod::StandardVga},     {"2", "cutoff", ReductionMethod::SelectCutoff},
     {"2", "weighted", ReductionMethod::Weighted},    {"2", "ordered", ReductionMethod::Ordered}};
 
-// More colours than a palette takes, black behind what is transparent.
+// More colours than a palette holds; black in the transparent part.
 Picture colorful(int size) {
   Picture p = anyPicture(size, 24);
   p.transparent = [](int x, int y) { return x + y < 9; };
@@ -111,7 +111,7 @@ TEST_F(GpiconReduce, PaletteIconsTakeTheDepthThatTheyNeed) {
   EXPECT_EQ(reduced(write(entryOf(standard)), "2", "weighted").bits, 1);
 }
 
-// So many colours that the count takes them for more than 256.
+// Enough colours for the count to report more than 256.
 TEST_F(GpiconReduce, AFullPaletteIsReducedTo256ColorsAndKeepsItsDepth) {
   Picture p = colorful(32);
   p.bits = 8;
@@ -125,7 +125,7 @@ TEST_F(GpiconReduce, AFullPaletteIsReducedTo256ColorsAndKeepsItsDepth) {
   expectPixels(written, reduceColors(before.image, before.mask, {ReductionMethod::System}));
 }
 
-TEST_F(GpiconReduce, TheIndexTellsTheImage) {
+TEST_F(GpiconReduce, TheIndexSelectsTheImage) {
   const std::string path = folder.write("three.ico", fileOf({anyEntry(16, 4), entryOf(colorful(48)), anyEntry(32, 8)}));
   expectDone({"reduce", "--to", "16", "--method", "vga", path, "1", out});
   EXPECT_EQ(writtenIcon(out).width, 48);

@@ -1,4 +1,4 @@
-// Splitting files of several icons: each image as a file of its own, byte by byte.
+// gpicon split: each image as a single-icon file, byte by byte.
 #include "cli/GpiconFixture.h"
 
 #include <sys/stat.h>
@@ -8,7 +8,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Not one that can be decoded: images are copied as they stand.
+// An image that cannot be decoded: images are copied unchanged.
 Entry pngEntry(int side) {
   Entry png;
   png.width = png.height = side;
@@ -30,7 +30,7 @@ class GpiconSplit : public Gpicon {
 
 TEST_F(GpiconSplit, EveryImageOfEverySizeBecomesAFileWithItsBytes) {
   Entry large = anyEntry(48, 8);
-  large.width = large.height = 64;  // a lie, copied as it stands
+  large.width = large.height = 64;  // a wrong value, copied unchanged
   const std::vector<Entry> entries{anyEntry(16, 1),  anyEntry(32, 4), anyEntry(48, 8), anyEntry(24, 24),
                                    anyEntry(32, 32), large,           pngEntry(0)};
   const std::string path = folder.write("tools.ico", fileOf(entries));
@@ -46,7 +46,7 @@ TEST_F(GpiconSplit, EveryImageOfEverySizeBecomesAFileWithItsBytes) {
   EXPECT_EQ(bytesOf(path), before);
 }
 
-TEST_F(GpiconSplit, TheEntryIsCopiedAsItStandsButForTheOffset) {
+TEST_F(GpiconSplit, TheEntryIsCopiedUnchangedExceptForTheOffset) {
   Entry odd = anyEntry(16, 4);
   odd.colorCount = 7;
   odd.bitCount = 0;
@@ -103,7 +103,7 @@ TEST_F(GpiconSplit, AnImageThatIsCutOffDoesNotCostTheOthers) {
 }
 
 TEST_F(GpiconSplit, SharedBytesAreNoWayToFillADisk) {
-  // 1000 entries over the same 300 KB come to 300 MB.
+  // 1000 entries that share 300 KB would need 300 MB.
   std::vector<Entry> entries(1000);
   for (Entry& entry : entries) entry.offset = 6 + 16 * 1000, entry.bytesInRes = 300'000;
   entries.back().image = Bytes(300'000);
@@ -131,7 +131,7 @@ TEST_F(GpiconSplit, ABadFileCostsOneLineAndNotTheOthers) {
   EXPECT_EQ(namesIn("out"), std::vector<std::string>{"good_16_16.ico"});
 }
 
-TEST_F(GpiconSplit, WhatStandsInTheWayIsToldAndLeft) {
+TEST_F(GpiconSplit, WhatIsInTheWayIsReportedAndLeft) {
   const std::string path = icon("a.ico", 16, 4);
   fs::create_directories(folder.path("out/a_16_16.ico"));
   const Outcome o = split({path});

@@ -1,4 +1,4 @@
-// What gpicon prints, writes and answers on icon files, and how it takes its arguments.
+// What gpicon prints, writes and returns for icon files, and how it parses its arguments.
 #include "cli/GpiconFixture.h"
 
 #include <sys/stat.h>

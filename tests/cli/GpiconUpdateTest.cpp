@@ -1,5 +1,5 @@
-// Replacing, adding, removing and reordering images, and salvage: byte by byte, with every refusal in its own words.
-// What is expected is built by the tests themselves, laid out in directory order.
+// Replacing, adding, removing and reordering images, and salvage: byte by byte, with the exact text of every refusal.
+// The tests build the expected files themselves, laid out in directory order.
 #include "cli/GpiconFixture.h"
 
 #include <sys/stat.h>
@@ -24,7 +24,7 @@ class GpiconUpdate : public Gpicon {
   const std::string file = folder.write("file.ico", fileOf(three));
   const Bytes before = bytesOf(file);
 
-  // An icon that no depth is too small for: what is written is what stands in its file.
+  // A true colour icon: loading and saving it reproduces the bytes of its file.
   std::string trueColorIcon(int size, const std::string& name = "icon.ico") const { return icon(name, size, 24); }
   void expectRefusal(const std::vector<std::string>& arguments, const std::string& text) const {
     const Outcome o = run(arguments);
@@ -60,7 +60,7 @@ TEST_F(GpiconUpdate, ReplaceWithTheSameSizeAndColorsInTheSamePlaceIsAllowed) {
 }
 
 TEST_F(GpiconUpdate, ReplaceWritesTheDepthThatTheEditorWrites) {
-  Picture p = anyPicture(16, 8);  // eight bits of which black and white are left
+  Picture p = anyPicture(16, 8);  // eight bits, with only black and white left
   p.palette = {{0, 0, 0}, {255, 255, 255}};
   p.index = [](int x, int y) { return (x + y) % 2; };
   Picture mono = p;
@@ -102,7 +102,7 @@ TEST_F(GpiconUpdate, ReplaceRefusesSizeAndColorsOfAnotherEntry) {
 }
 
 TEST_F(GpiconUpdate, ReplaceComparesWhatThePictureHasBecome) {
-  Picture p = anyPicture(16, 24);  // true colour stays true colour, eight bits do not stay eight
+  Picture p = anyPicture(16, 24);  // true colour remains true colour, eight bits do not remain eight
   p.bits = 8;
   p.palette = {{0, 0, 0}, {255, 255, 255}};
   p.index = [](int x, int) { return x % 2; };
@@ -159,7 +159,7 @@ TEST_F(GpiconUpdate, AddAppendsOrTakesItsPlace) {
 TEST_F(GpiconUpdate, AddMendsALayoutThatIsNotInOrder) {
   std::vector<Entry> entries = three;
   const auto first = static_cast<std::uint32_t>(6 + 3 * 16), second = first + 50;
-  Bytes scattered;  // directory, 50 bytes of nothing, images backwards
+  Bytes scattered;  // directory, 50 unused bytes, images in reverse order
   for (Entry& e : entries) e.image.clear();
   std::uint32_t at = second;
   for (int i = 2; i >= 0; --i) {
@@ -332,9 +332,9 @@ TEST_F(GpiconUpdate, SalvageRefusesSidesAbove128) {
   EXPECT_EQ(run({"salvage", folder.write("l.ico", build(large)), "-o", out}).status, 0);
 }
 
-// Where it cannot be written.
+// Files that cannot be written.
 
-// Each command that would write over `file`, which has three entries, with what it says when it can't.
+// Each command that would overwrite `file`, which has three entries, with its message when that fails.
 struct Writing {
   std::vector<std::string> arguments;
   std::string readOnly, failed;
@@ -389,7 +389,7 @@ TEST_F(GpiconUpdate, AnOutputInNoFolderIsRefused) {
   expectRefusal({"remove", file, "0", "-o", out}, out + ": Failed to update the file for this icon.");
 }
 
-// Mounted at a folder of the test while it lives.
+// Mounted on a folder of the test for its own lifetime.
 class SmallDisk {
  public:
   explicit SmallDisk(std::string place) : place_(std::move(place)) {

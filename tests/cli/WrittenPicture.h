@@ -1,4 +1,4 @@
-// Takes apart the icons and bitmaps that gpicon wrote, plainly, and shares nothing with the program's own readers.
+// Parses the icons and bitmaps that gpicon wrote. Shares no code with the readers of the program.
 #pragma once
 
 #include "cli/GpiconFixture.h"
@@ -13,7 +13,7 @@ namespace gp::test {
 struct WrittenPicture {
   int width = 0, height = 0, bits = 0;
   std::vector<Color> colors;      // row by row from the top
-  std::vector<bool> transparent;  // none in a bitmap
+  std::vector<bool> transparent;  // empty for a bitmap
 
   std::size_t indexOf(int x, int y) const { return static_cast<std::size_t>(y * width + x); }
   Color color(int x, int y) const { return colors.at(indexOf(x, y)); }
@@ -21,7 +21,7 @@ struct WrittenPicture {
   std::size_t colorCount() const { return std::set<Color>(colors.begin(), colors.end()).size(); }
 };
 
-// Bytes of a row that is padded to four.
+// Bytes of a row, padded to four.
 inline std::size_t strideOf(int width, int bits) { return static_cast<std::size_t>((width * bits + 31) / 32 * 4); }
 
 // The value of up to 8 bits at x in the row that begins at `row`.
@@ -94,7 +94,7 @@ inline WrittenPicture writtenBitmap(const std::string& path) {
   return p;
 }
 
-// A built picture as the editor has it.
+// A built picture as the editor shows it.
 inline IconImage iconOf(const Picture& p) {
   IconImage icon{Surface(p.width, p.height), Surface(p.width, p.height), AlphaMatrix()};
   for (int y = 0; y < p.height; ++y)
@@ -116,7 +116,7 @@ inline void expectPixels(const WrittenPicture& written, const IconImage& expecte
     }
 }
 
-// What the subcommands share that make one file of one image.
+// Tests that all subcommands share which write a file of one image.
 class GpiconOneImage : public Gpicon {
  protected:
   const std::string out = folder.path("out");
@@ -126,7 +126,7 @@ class GpiconOneImage : public Gpicon {
     EXPECT_EQ(o.status, 0) << testing::PrintToString(arguments);
     EXPECT_EQ(o.out + o.err, "");
   }
-  // Nothing is written to `out`, nor left there.
+  // Neither writes `out` nor leaves a part of it.
   void expectRefusal(const std::vector<std::string>& arguments, const std::string& text) const {
     const Outcome o = run(arguments);
     EXPECT_EQ(o.status, 1) << testing::PrintToString(arguments);
@@ -141,7 +141,7 @@ class GpiconOneImage : public Gpicon {
     EXPECT_EQ(o.err, "gpicon: " + text + " (see gpicon --help)\n");
     EXPECT_FALSE(std::filesystem::exists(out));
   }
-  // What the editor does not open. `options` stand behind the output.
+  // Files that the editor does not open. `options` follow the output.
   void expectRefusalsOfFiles(const std::string& command, const std::vector<std::string>& options) const {
     Entry large = anyEntry(48, 24);
     large.width = large.height = 64;
@@ -163,7 +163,7 @@ class GpiconOneImage : public Gpicon {
       expectRefusal(arguments, c.path + ": " + c.text);
     }
   }
-  // `options` stand behind the output of a healthy image.
+  // `options` follow the output; the image is correct.
   void expectFailuresToWrite(const std::string& command, const std::vector<std::string>& options) const {
     const std::string input = icon("healthy.ico", 48, 24);
     const std::string place = folder.makeFolder("place"), kept = folder.write("kept", {1, 2, 3});

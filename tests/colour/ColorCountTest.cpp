@@ -12,7 +12,7 @@ int countOf(const Surface& surface) {
   return count;
 }
 
-// A picture of 32x32 whose pixels, column by column, take the colours of a function.
+// A picture of 32x32 whose pixels take the colours of a function, column by column.
 template <class F>
 Surface column(F color) {
   Surface surface(32, 32, kBlack);
@@ -38,10 +38,10 @@ TEST(ColorCount, OneOtherColorMakesIt256) {
 }
 
 TEST(ColorCount, BlackIsFreeAndTheCornerCountsOnlyWhenItComesAgain) {
-  // The corner, 255 others and black: 257 different colours still pass.
+  // The colour of the corner, and 255 others, and black: 257 different colours are still accepted.
   const auto passing = [](int i) { return i <= 255 ? 0x100000 + i : kBlack; };
   EXPECT_EQ(countOf(column(passing)), 256);
-  // The corner's colour again is one more than the table takes.
+  // The colour of the corner, occurring again, is one more than the table holds.
   EXPECT_EQ(countOf(column([&](int i) { return i == 300 ? 0x100000 : passing(i); })), -1);
 }
 

@@ -14,7 +14,7 @@ class ColorMixerTest : public test::ColourFixture {
   void setInterval(int interval) { mixer.cboIntervalColor(interval - kFirstInterval); }
 };
 
-// The strip once more, by exact fractions: `rows` steps of a difference over 26, ties to even.
+// The strip, computed again with exact fractions: `rows` steps of a difference over 26, ties to even.
 int slowStep(int from, int to, int step) {
   const int numerator = from * 26 + step * (to - from);
   const int below = numerator / 26;
@@ -286,7 +286,7 @@ TEST_F(ColorMixerTest, ALoadedStripStandsUntilASliderMoves) {
   EXPECT_EQ(stripRow(1), rgb(129, 0, 0));
 }
 
-TEST_F(ColorMixerTest, ASliderMovedInTheMidstOfLightenIsSentBack) {
+TEST_F(ColorMixerTest, ASliderMovedDuringLightenIsSentBack) {
   mix(100, 100, 100);
   pump.inside = [this] {
     display.parts.clear();
@@ -299,7 +299,7 @@ TEST_F(ColorMixerTest, ASliderMovedInTheMidstOfLightenIsSentBack) {
   EXPECT_EQ(mixer.HsrRGB(0), 3) << "afterwards sliders work again";
 }
 
-TEST_F(ColorMixerTest, AnotherCommandOfTheMixerInTheMidstOfOneLeavesAllInAgreement) {
+TEST_F(ColorMixerTest, AnotherCommandOfTheMixerDuringOneLeavesAllInAgreement) {
   mix(100, 100, 100);
   pump.inside = [this] { mixer.cmdAdjMix(MixChange::Darken); };
   mixer.cmdAdjMix(MixChange::Lighten);

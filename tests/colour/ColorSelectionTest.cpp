@@ -117,7 +117,7 @@ TEST_F(ColorSelectionTest, TheBoxTellsOfTheSelectedColourButGivesTheHtmlFigureOf
   colors.tellCurrentColor();
 }
 
-// The colour of a pixel by its number.
+// The colour of the pixel with this number.
 Color blackOrWhite(int i) { return i % 2 == 0 ? kBlack : kWhite; }
 Color standard(int i) { return mChartColors16[static_cast<std::size_t>(i) % mChartColors16.size()].color; }
 Color oneOther(int i) { return i == 500 ? 0x010101 : standard(i); }

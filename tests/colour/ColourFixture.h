@@ -1,4 +1,4 @@
-// The room of colours over scripted ports: selection, mixer and charts.
+// The colour room over scripted ports: selection, mixer and charts.
 #pragma once
 
 #include "colour/Colour.h"
@@ -32,12 +32,12 @@ class ColourFixture : public testing::Test {
     mixer.moveSlider(1, green);
     mixer.moveSlider(2, blue);
   }
-  // The colour of one of the strip's 100 rows, counted from 1.
+  // The colour of one of the 100 rows of the strip, counted from 1.
   Color stripRow(int row) const {
     constexpr int kRowHeight = kMixGradientHeight / kMixGradientRows;
     return mixer.picMixGradient().GetPixel(0, (row - 1) * kRowHeight);
   }
-  // The box of the current colour gives the HTML figure of the colour last hovered over.
+  // The box of the current colour shows the HTML figure of the colour that was hovered over last.
   void expectHovered(const std::string& html) {
     const Color current = state.mCurrentColor;
     state.mCurrentColor = kBlack;

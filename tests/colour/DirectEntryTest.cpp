@@ -77,7 +77,7 @@ TEST(DirectEntry, TurningHexOffShowsTheDecimalValueAndAllowsEightDigits) {
   EXPECT_FALSE(entry.isHex());
 }
 
-// Four digits are a signed number of 16 bits to the parser, so these are negative and count as none.
+// The parser reads four digits as a signed number of 16 bits, so these are negative and become 0.
 TEST(DirectEntry, FourDigitsFrom8000OnAreNegativeAndBecomeZero) {
   DirectEntry entry;
   entry.setText("FFFF");

@@ -10,7 +10,7 @@ constexpr const char* kTooSmall = "Not a valid pal file for Glimmerpane (1)";
 constexpr const char* kTooLarge = "Not a valid pal file for Glimmerpane (2)";
 constexpr const char* kInvalid = "Invalid pal for Glimmerpane";
 
-// Pictures as a test sets them.
+// A picture loader whose pictures a test sets.
 class FakeLoader : public PictureLoader {
  public:
   LoadedPicture next;
@@ -93,7 +93,7 @@ TEST_F(PaletteFileTest, ThePaletteFileIsABitmapOfTheStripWith24Bits) {
   ASSERT_EQ(bytes.size(), 54U + 40 * 3 * 200);
   EXPECT_EQ(bytes.substr(0, 2), "BM");
   EXPECT_EQ(bytes.substr(14, 16), std::string("\x28\0\0\0\x28\0\0\0\xC8\0\0\0\1\0\x18\0", 16));
-  // The bottom row comes first: blue, green, red of the last row and, at the end, of the first.
+  // The bottom row comes first: blue, green, red of the last row, and of the first row at the end.
   EXPECT_EQ(bytes.substr(54, 3), "\x32\x04" + std::string(1, '\0'));
   EXPECT_EQ(bytes.substr(bytes.size() - 3), std::string("\0\0\xFF", 3));
 }

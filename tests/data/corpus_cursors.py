@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Makes corpus-cursors.tsv out of the corpus' facts.json: one line for each cursor file.
+"""Makes corpus-cursors.tsv from facts.json of the corpus: one line for each cursor file.
 
 usage: corpus_cursors.py FACTS.JSON > corpus-cursors.tsv
-Columns: file, what the editor's probe must say, hot spot x and y, SHA-256 of the first entry's picture as rows of R, G, B
-and of its AND mask as bytes 0 or 1; "-" for a PNG picture, which the editor refuses to read.
+Columns: file, expected result of the editor's probe, hot spot x and y, SHA-256 of the first entry's picture as rows of
+R, G, B and of its AND mask as bytes 0 or 1; "-" for a PNG picture, which the editor refuses to read.
 """
 import json
 import sys
@@ -11,7 +11,7 @@ import sys
 SIDE = 32
 ONLY_OFFSET = 22
 COLORS = {1: 2, 4: 16, 8: 256}
-# What a PNG picture has where a bitmap tells its bits: the last letters of its chunk IHDR.
+# The bytes of a PNG picture at the offset of biBitCount: the last letters of its chunk IHDR.
 PNG_BITS = int.from_bytes(b"DR", "little")
 
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes corpus-icons.tsv out of the corpus' facts.json: one line for each entry of an icon size.
+"""Makes corpus-icons.tsv from facts.json of the corpus: one line for each entry of an icon size.
 
 usage: corpus_icons.py FACTS.JSON > corpus-icons.tsv
 Columns: file, index, side, bits of the bitmap header or "png", SHA-256 of the picture as rows of R, G, B, of the AND mask

@@ -9,7 +9,7 @@
 namespace gp::test {
 namespace {
 
-// Notes the state of the indicator at every wait.
+// Records the state of the indicator at every wait.
 class WatchingPump : public MessagePump {
  public:
   explicit WatchingPump(const EditState& state) : state_(state) {}

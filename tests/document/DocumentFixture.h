@@ -1,4 +1,4 @@
-// The room of the Current Icon, real and connected, over scripted ports; what lies to its right is written down.
+// The document room, real and connected, over scripted ports; calls to the right are recorded.
 #pragma once
 
 #include "document/Document.h"
@@ -38,7 +38,7 @@ class DocumentFixture : public testing::Test {
   IconArrival& arrival = document.arrival;
   EditingAreaOptions& options = document.areaOptions;
 
-  // An icon that is opaque and of one colour.
+  // An opaque icon of one colour.
   static IconImage plainIcon(int size, Color color) {
     return {Surface(size, size, color), Surface(size, size, kBlack), {}};
   }

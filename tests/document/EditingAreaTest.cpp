@@ -95,7 +95,7 @@ TEST_F(EditingAreaTest, LightLinesStandAtEveryMultipleOfTheFactorInside) {
   EXPECT_EQ(grid.GetPixel(5, 180), 0x606060);
   EXPECT_EQ(grid.GetPixel(11, 5), kWhite);
   EXPECT_EQ(grid.GetPixel(191, 5), kWhite);
-  // 15 lines each way of 192 pixels, less the crossings counted twice.
+  // 15 lines of 192 pixels in each direction, less the crossings counted twice.
   EXPECT_EQ(countPixels(grid, 0x606060), 2 * 15 * 192 - 15 * 15);
 }
 

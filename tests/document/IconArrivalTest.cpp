@@ -186,7 +186,7 @@ TEST_F(IconArrivalTest, ToolsStatusBarAndCommandsFollow) {
   EXPECT_TRUE(display.told(DisplayPart::StatusBar));
 }
 
-TEST_F(IconArrivalTest, ViewsThatFollowTheCurrentIconAreToldOnceItIsTheNewOne) {
+TEST_F(IconArrivalTest, ViewsThatFollowTheCurrentIconAreNotifiedOnceItIsTheNewOne) {
   arrival.arrive(plainIcon(16, kBlue), NewRecord());
   const unsigned before = state.iconSerial;
   bool isNew = false;
@@ -401,7 +401,7 @@ TEST_F(IconArrivalTest, TheEmptyContainerRaisesTheSerialNumber) {
   EXPECT_EQ(state.iconSerial, before + 2);
 }
 
-TEST_F(IconArrivalTest, PaintingAndShowingAnewLeaveTheSerialNumber) {
+TEST_F(IconArrivalTest, PaintingAndShowingAgainLeaveTheSerialNumber) {
   arrival.arrive(drawnIcon(), NewRecord());
   const unsigned before = state.iconSerial;
   state.picImage.SetPixelV(3, 3, kRed);

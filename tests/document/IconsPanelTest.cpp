@@ -207,7 +207,7 @@ TEST_F(IconsPanelTest, AFailedDropLeavesTheFormerIconOnTheEditingAreaWithItsChan
   state.picImage.SetPixelV(9, 9, 0x00FF00);
   area.ComposeCurrentIcon();
   state.current().modified = true;
-  // A loader that fails after it has shown its container empty.
+  // A loader that fails after it has shown its container as empty.
   editor.quietLoader = [this] {
     ClearContainer(state);
     panel.SwitchContainer(state.mCurContainer);

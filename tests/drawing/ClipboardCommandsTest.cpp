@@ -20,7 +20,7 @@ Rows rowsOfPicture(const Surface& picture) {
   return rows;
 }
 
-// A picture so large that nobody holds its pixels.
+// A picture whose pixels would not fit into memory.
 ClipboardImage claimed(int width, int height) {
   return {width, height, Surface(std::min(width, 48), std::min(height, 48), test::kColorA)};
 }
@@ -70,7 +70,7 @@ TEST_F(ClipboardTest, CutAndCopyKeepsTheContentInTheClipboard) {
   expectAgreement();
 }
 
-TEST_F(ClipboardTest, CutOfABoxWithoutSidesTellsSo) {
+TEST_F(ClipboardTest, CutOfABoxWithoutSidesSaysSo) {
   makeIcon(16, {"a"});
   regions.setExists();
   boxes.expectTold("No picture region yet", BoxIcon::None);
@@ -203,7 +203,7 @@ TEST_F(ClipboardTest, APictureTooLargeForTheIconIsCutAfterYesAndRefusedAfterNo) 
   expectAgreement();
 }
 
-TEST_F(ClipboardTest, APictureOf20000x20000IsToldByItsSizeAndNeverHeldWhole) {
+TEST_F(ClipboardTest, APictureOf20000x20000IsReportedByItsSizeAndNeverHeldWhole) {
   makeIcon(32);
   clipboard.held = claimed(20000, 20000);
   boxes.expectAsked("Image size is of 20000x20000; too large for current icon.\n\nChange to fit in?", BoxAnswer::Yes);
@@ -222,7 +222,7 @@ TEST_F(ClipboardTest, APictureOfOnePixelIsPastedAsOne) {
   expectAgreement();
 }
 
-TEST_F(ClipboardTest, WithoutAPictureThePasteTellsSo) {
+TEST_F(ClipboardTest, WithoutAPictureThePasteSaysSo) {
   makeIcon(16, {"a"});
   boxes.expectTold("No image in clipboard yet", BoxIcon::None);
   commands.doPaste(false);
@@ -265,7 +265,7 @@ TEST_F(ClipboardTest, APictureMeantForOneIconDoesNotGoIntoAnotherThatComesUpMean
 
 TEST_F(ClipboardTest, APictureForANewIconThatWasLeftAtOnceDoesNotGoIntoAnother) {
   clipboard.held = claimed(16, 16);
-  // Recording the step before, and both pumps of the arrival.
+  // The step recorded before, and both pumps of the arrival.
   for (const int waits : {0, 1, 2}) {
     state.mCurContainer = 0;
     makeIcon(16, {"b"});

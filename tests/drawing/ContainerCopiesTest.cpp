@@ -41,7 +41,7 @@ TEST_F(ContainerCopiesTest, NoLeavesTheTargetAlone) {
   EXPECT_FALSE(state.mIconRecs[2].used);
 }
 
-TEST_F(ContainerCopiesTest, WhatMayNotBeCopiedIsToldWhy) {
+TEST_F(ContainerCopiesTest, WhatMayNotBeCopiedIsExplained) {
   makeIcon(16, {"a"});
   state.current().fromMultiIconFile = true;
   boxes.expectTold("Current icon originates from a multi-icon file,\nduplication to another container not allowed.",
@@ -110,7 +110,7 @@ TEST_F(ContainerCopiesTest, ARegionEndsWithTheIconThatAnotherReplaces) {
   expectAgreement();
 }
 
-TEST_F(ContainerCopiesTest, ASourceThatMayNotBeCopiedIsToldWhy) {
+TEST_F(ContainerCopiesTest, ASourceThatMayNotBeCopiedIsExplained) {
   makeIcon(16, {"a"});
   state.mIconRecs[4].used = state.mIconRecs[4].fromMultiIconFile = true;
   boxes.expectTold(

@@ -1,11 +1,11 @@
-// A small icon on the Editing Area, and pictures of it as rows of characters, for tests of tools that draw.
+// A small icon on the Editing Area, and pictures of it as rows of characters, for tests of drawing tools.
 #pragma once
 
 #include "drawing/DrawingRooms.h"
 
 namespace gp::test {
 
-// The look of one pixel: '.' transparent, one of the letters opaque, '^' inverting.
+// One pixel as a character: '.' transparent, a letter opaque, '^' inverting.
 struct PixelLetter {
   char letter;
   Color image;
@@ -38,7 +38,7 @@ class DrawingFixture : public DrawingRooms {
       if (state.picImage.GetPixel(x, y) == look.image && state.picMask.GetPixel(x, y) == look.mask) return look.letter;
     return '?';
   }
-  // The icon's top left corner in letters; what reaches beyond it is added, so that nothing is overlooked.
+  // The top left corner of the icon in letters; painted pixels beyond it are appended, so that none is missed.
   Rows picture(std::size_t rows, std::size_t columns) const {
     Rows result(static_cast<std::size_t>(state.picImage.height()));
     for (std::size_t y = 0; y < result.size(); ++y) {
@@ -63,7 +63,7 @@ class DrawingFixture : public DrawingRooms {
     move(x2, y2, modifiers);
     release(x2, y2, modifiers);
   }
-  // A region around the pixels, both corners included; whichever tool was selected, Region is now.
+  // A region around the pixels, both corners included; Region becomes the selected tool.
   void markRegion(int x1, int y1, int x2, int y2) {
     const auto corner = [m = static_cast<float>(state.gMagnification)](int x, int y) {
       return MouseInput{kLeftButton, 0, static_cast<float>(x) * m, static_cast<float>(y) * m};
@@ -75,7 +75,7 @@ class DrawingFixture : public DrawingRooms {
     ASSERT_TRUE(state.mRegionExists);
   }
 
-  // What every step must leave behind: the history's last entry is what is on the icon, and PicIcon shows it.
+  // After every step, the last entry of the history equals the icon, and PicIcon shows it.
   void expectAgreement() {
     if (!state.current().present) return;
     ASSERT_GE(history.undoCount(), 1);
@@ -84,7 +84,7 @@ class DrawingFixture : public DrawingRooms {
     const Surface shown = state.PicIcon;
     area.ComposeCurrentIcon();
     EXPECT_TRUE(same(shown, state.PicIcon)) << "PicIcon is out of date";
-    // A step on top and back again brings up the entry that was the last one.
+    // One more step and an undo restore the entry that was last before.
     history.recordUndo();
     ASSERT_TRUE(history.canUndo());
     state.picImage.fill(kRed);

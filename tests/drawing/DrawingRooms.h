@@ -1,4 +1,4 @@
-// The room of drawing in the rooms that it works in, with short names for its parts, and the mouse on the Editing Area.
+// The drawing room and the rooms it works in, with short names for its parts, and the mouse on the Editing Area.
 #pragma once
 
 #include "document/Containers.h"
@@ -25,7 +25,7 @@ class DrawingRooms : public testing::Test, protected Rooms {
   Tools& tools = drawing.tools;
   const DrawState& draw = drawing.drawState;
 
-  // Puts an icon into a container, which becomes the current one. No call counts before it.
+  // Puts an icon into a container, which becomes the current one. Counting of calls starts after it.
   void arrive(int container, const IconImage& icon) {
     state.mCurContainer = container;
     document.arrival.arrive(icon, NewRecord());
@@ -36,7 +36,7 @@ class DrawingRooms : public testing::Test, protected Rooms {
   }
   std::string readout(Readout which) const { return state.screen.lblDispXY[static_cast<std::size_t>(which)]; }
 
-  // The middle of an icon pixel.
+  // The centre of an icon pixel.
   MouseInput at(int pixelX, int pixelY, int button = kLeftButton, int modifiers = 0) const {
     const auto m = static_cast<float>(state.gMagnification);
     return {button, modifiers, (static_cast<float>(pixelX) + 0.5F) * m, (static_cast<float>(pixelY) + 0.5F) * m};

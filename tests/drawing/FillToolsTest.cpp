@@ -160,7 +160,7 @@ TEST_F(FillToolTest, FillingTransparentFromOpaqueSilverLeavesWhatIsTransparent) 
 }
 
 TEST_F(FillToolTest, AnInvertingPixelThatShowsTheCurrentColourIsNotFilledTransparent) {
-  // What marks the area is chosen by the stored colour, not by the shown one.
+  // The stored colour, not the shown one, decides which area is filled.
   put({"^b"});
   state.mCurrentColor = state.PicIcon.GetPixel(0, 0);
   click(0, 0, kShiftKey);

@@ -1,5 +1,5 @@
-// An icon with Region selected, and pictures of icon and region as rows of characters, for tests of all that works on
-// regions.
+// An icon with Region selected, and pictures of icon and region as rows of characters, for tests of everything that
+// works on regions.
 #pragma once
 
 #include "drawing/DrawingRooms.h"
@@ -10,7 +10,7 @@ inline constexpr Color kColorA = 0x0000F0;
 inline constexpr Color kColorB = 0x00F000;
 inline constexpr Color kColorC = 0xF00000;
 inline constexpr Color kInverting = 0x123456;
-// What a region writes over, wherever it is.
+// A colour that must not remain after a region was rendered.
 inline constexpr Color kOverwritten = 0x010203;
 
 class RegionFixture : public DrawingRooms {
@@ -24,7 +24,7 @@ class RegionFixture : public DrawingRooms {
   RegionFixture() { state.options.updateOnlyEditingArea = false; }
 
   // An icon on the Editing Area and in the current container, a baseline of Undo, Region selected. '.' is transparent,
-  // 'k' opaque black, '!' inverts what is behind it; what the rows leave out is transparent.
+  // 'k' opaque black, '!' inverts the background; pixels beyond the rows are transparent.
   void makeIcon(int size, const Rows& rows = {}) {
     IconImage icon = transparentIcon(size);
     put(icon.image, icon.mask, rows);
@@ -36,7 +36,7 @@ class RegionFixture : public DrawingRooms {
     state.picMask.fill(kWhite);
     put(state.picImage, state.picMask, rows);
   }
-  // A step of another tool.
+  // An undo step of another tool.
   void paintPixel(int x, int y, char letter) {
     setPixel(x, y, letter);
     area.showChangedIcon();
@@ -73,7 +73,7 @@ class RegionFixture : public DrawingRooms {
         rows[static_cast<std::size_t>(y)] += letterOf(image.GetPixel(x, y), mask.GetPixel(x, y));
     return rows;
   }
-  // Rows without what is transparent at their right and below.
+  // Rows without the transparent pixels at the right and the bottom.
   static Rows trimmed(Rows rows) {
     for (std::string& row : rows) row.erase(row.find_last_not_of('.') + 1);
     while (!rows.empty() && rows.back().empty()) rows.pop_back();
@@ -97,7 +97,7 @@ class RegionFixture : public DrawingRooms {
   void press(int x, int y) { tools.press(mouse(x, y, kLeftButton)); }
   void move(int x, int y, int modifiers = 0) { tools.move(mouse(x, y, 0, modifiers)); }
   void release(int x, int y) { tools.release(mouse(x, y, kLeftButton)); }
-  // The same in whole cells: the mouse stands on their corners.
+  // The mouse in whole cells: on their corners.
   int cells(int count) const { return count * state.gMagnification; }
   int lastOn(int cell) const { return std::min(cells(cell), state.picDisp.width() - 1); }
   void drag(int fromX, int fromY, int toX, int toY) {
@@ -105,9 +105,9 @@ class RegionFixture : public DrawingRooms {
     move(lastOn(toX), lastOn(toY));
     release(lastOn(toX), lastOn(toY));
   }
-  // Marks icon pixels, both corners included.
+  // Selects icon pixels, both corners included.
   void mark(int x1, int y1, int x2, int y2) { drag(x1, y1, x2 + 1, y2 + 1); }
-  // A position well inside a region of at least 4 x 4 cells, away from its sides.
+  // A position inside a region of at least 4 x 4 cells, away from its sides.
   int inside(int firstCell) const { return cells(firstCell + 2); }
   void moveRegion(int byX, int byY) {
     const int x = inside(static_cast<int>(draw.draw.x1));
@@ -116,7 +116,7 @@ class RegionFixture : public DrawingRooms {
     move(x + cells(byX), y + cells(byY));
     release(x + cells(byX), y + cells(byY));
   }
-  // The icon without the region. The region floats afterwards.
+  // The icon without the region, which floats afterwards.
   Rows beneath() {
     const IconImage icon = iconBeneath();
     return trimmed(rowsOf(icon.image, icon.mask));
@@ -129,7 +129,7 @@ class RegionFixture : public DrawingRooms {
     return {text(draw.draw.x1, draw.draw.y1), text(draw.draw.x2, draw.draw.y2)};
   }
 
-  // Icon, Mask, composite, region and history tell the same. A region may have ended afterwards.
+  // Icon, mask, composite, region and history are consistent. The region may end in this check.
   void expectAgreement() {
     EXPECT_EQ(state.mRegionActive, state.mRegionExists);
     EXPECT_EQ(state.mPendingPaint, regions.isFloating());
@@ -186,7 +186,7 @@ class RegionFixture : public DrawingRooms {
       }
     EXPECT_EQ(shown, trimmed(rowsOf(merged.image, merged.mask)));
   }
-  // What the icon is without the region's content: what is written when an empty content takes its place.
+  // The icon without the content of the region, obtained by replacing it by an empty content.
   IconImage iconBeneath() {
     const IconImage lifted = regions.content();
     const bool modified = state.current().modified;
@@ -207,10 +207,10 @@ class RegionFixture : public DrawingRooms {
     EXPECT_EQ(label(), "");
     EXPECT_FALSE(draw.mRegionDown);
   }
-  // A step recorded now can be taken back and done again.
+  // A step recorded now can be undone and redone.
   void expectHistoryFits() {
     EXPECT_GE(history.undoCount(), 1);
-    if (tools.selectedTool() == kShift) return;  // it has a history of its own
+    if (tools.selectedTool() == kShift) return;  // it has its own history
     const Rows now = icon();
     history.recordUndo();
     undo.doUndo();

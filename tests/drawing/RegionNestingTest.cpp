@@ -1,4 +1,4 @@
-// What a user does in the midst of the region's own work, sent from inside each place that pumps messages.
+// What a user can do while the region pumps messages, triggered at each place that pumps.
 #include "drawing/RegionFixture.h"
 
 #include <functional>
@@ -32,7 +32,7 @@ class NestingFixture : public test::RegionFixture {
     }
   }
 
-  // Work that pumps: each runs to the pump in question and then on to its end.
+  // Work that pumps: each function runs to the pump in question, and then to its end.
   void drawBox() {
     press(cells(0), cells(0));
     at(1, action);
@@ -113,7 +113,7 @@ class NestingFixture : public test::RegionFixture {
     commands.doPaste(false);
   }
 
-  // What arrives.
+  // Events that arrive during a pump.
   void pressAgain() { press(cells(3), cells(3)); }
   void pressFarAway() { press(cells(13), cells(13)); }
   void releaseNow() { release(cells(3), cells(3)); }
@@ -198,7 +198,7 @@ INSTANTIATE_TEST_SUITE_P(EveryPump, RegionNesting, testing::Combine(testing::Boo
                                   (std::get<0>(parameter.param) ? "EditingAreaOnly" : "Everything");
                          });
 
-TEST_P(RegionNesting, AnEventInTheMidstLeavesIconMaskHistoryAndRegionInAgreement) {
+TEST_P(RegionNesting, AnEventDuringTheWorkLeavesIconMaskHistoryAndRegionInAgreement) {
   for (const Named& event : kEvents) {
     SCOPED_TRACE(event.name);
     clearAllContainers();
@@ -211,7 +211,7 @@ TEST_P(RegionNesting, AnEventInTheMidstLeavesIconMaskHistoryAndRegionInAgreement
     };
     (this->*std::get<1>(GetParam()).run)();
     EXPECT_TRUE(arrived);
-    // The button comes up at last, whatever became of the work.
+    // The button is released at the end, whatever the work did.
     release(cells(3), cells(3));
     EXPECT_FALSE(draw.mRegionDown);
     expectAgreement();
@@ -223,7 +223,7 @@ TEST_P(RegionNesting, AnEventInTheMidstLeavesIconMaskHistoryAndRegionInAgreement
 
 class RegionNestingOutcome : public NestingFixture {};
 
-TEST_F(RegionNestingOutcome, AnUndoInTheMidstOfADragDropsTheDrag) {
+TEST_F(RegionNestingOutcome, AnUndoDuringADragDropsTheDrag) {
   state.options.updateOnlyEditingArea = true;
   begin();
   const Rows before = icon();
@@ -234,7 +234,7 @@ TEST_F(RegionNestingOutcome, AnUndoInTheMidstOfADragDropsTheDrag) {
   EXPECT_FALSE(state.mRegionExists);
 }
 
-TEST_F(RegionNestingOutcome, AReleaseInTheMidstOfAMoveFinishesTheDragWhereItWas) {
+TEST_F(RegionNestingOutcome, AReleaseDuringAMoveFinishesTheDragWhereItWas) {
   for (const bool option : {false, true}) {
     state.options.updateOnlyEditingArea = option;
     begin();
@@ -245,7 +245,7 @@ TEST_F(RegionNestingOutcome, AReleaseInTheMidstOfAMoveFinishesTheDragWhereItWas)
   }
 }
 
-TEST_F(RegionNestingOutcome, AContainerClickInTheMidstOfADragKeepsTheIconInItsContainer) {
+TEST_F(RegionNestingOutcome, AContainerClickDuringADragKeepsTheIconInItsContainer) {
   begin();
   action = [this] { panel.SwitchContainer(1); };
   dragRegion();
@@ -255,7 +255,7 @@ TEST_F(RegionNestingOutcome, AContainerClickInTheMidstOfADragKeepsTheIconInItsCo
   EXPECT_EQ(icon()[3], "..abccba");
 }
 
-TEST_F(RegionNestingOutcome, ClosingInTheMidstOfADragFindsTheIconChangedAndWhole) {
+TEST_F(RegionNestingOutcome, ClosingDuringADragFindsTheIconChangedAndWhole) {
   begin();
   bool changed = false;
   Rows seen;

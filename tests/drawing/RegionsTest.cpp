@@ -5,7 +5,7 @@ namespace {
 
 using test::Rows;
 
-// Every test that moves a region holds with either setting of the option.
+// Every test that moves a region is valid for both settings of the option.
 class Dragging : public test::RegionFixture, public testing::WithParamInterface<bool> {
  protected:
   Dragging() { state.options.updateOnlyEditingArea = GetParam(); }
@@ -271,7 +271,7 @@ TEST_F(RegionsTest, ANewMagnificationTakesTheBoxWithIt) {
   expectAgreement();
 }
 
-TEST_P(Dragging, ASideIsPulledAndTheContentLiftedAnew) {
+TEST_P(Dragging, ASideIsPulledAndTheContentLiftedAgain) {
   makeIcon(16, {"aaaaaa", "aaaaab", "aaaaab", "aaaaaa"});
   mark(0, 0, 3, 3);
   press(cells(4), cells(2));

@@ -45,7 +45,7 @@ TEST_F(RotatePanelTest, ARotationBy45DegreesOf32LosesTheCornersAndWhatIsVacatedI
   makeIcon(32, Rows(32, std::string(32, 'a')));
   rotateBy("45");
   const Rows rows = rowsOf(state.picImage, state.picMask);
-  // The square stands on its corner around pixel 16, 16 and is cut by the frame: an octagon stays.
+  // The square is turned by 45 degrees around pixel 16, 16 and cut by the frame, which leaves an octagon.
   for (int y = 0; y < 32; ++y)
     for (int x = 0; x < 32; ++x) {
       const double u = 16 + (x - 16 - (y - 16)) * std::sqrt(0.5);
@@ -112,7 +112,7 @@ TEST_F(RotatePanelTest, TheSampleShowsTheTurnedIconInItsMiddleOnTheGround) {
   const Surface& sample = rotatePanel.picRotateImageSample();
   EXPECT_EQ(sample.width(), kRotateSampleSide);
   EXPECT_EQ(sample.GetPixel(0, 0), kGround);
-  // A picture of 25 in a sample of 70: its middle, 12, comes 22 pixels on.
+  // A picture of 25 in a sample of 70: its centre, 12, is drawn at an offset of 22 pixels.
   EXPECT_EQ(sample.GetPixel(34, 34), test::kColorA);
   EXPECT_EQ(sample.GetPixel(35, 34), test::kColorB);
   EXPECT_EQ(sample.GetPixel(34, 35), kGround) << "black is background to the sample";

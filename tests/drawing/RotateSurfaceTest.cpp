@@ -11,7 +11,7 @@ namespace {
 using Rows = std::vector<std::string>;
 constexpr Color kEmpty = 0x010101;
 
-// Each letter is a colour of its own; '.' is the background.
+// Each letter is a different colour; '.' is the background.
 Surface surfaceOf(const Rows& rows) {
   Surface surface(static_cast<int>(rows.front().size()), static_cast<int>(rows.size()), kBlack);
   for (std::size_t y = 0; y < rows.size(); ++y)

@@ -45,7 +45,7 @@ TEST(ConstrainToSquare, ADragAlongARowOrColumnStaysOnIt) {
 }
 
 TEST(ConstrainToSquare, ADragOnTheLastColumnThatPassesTheBottomLosesItsLength) {
-  // Taken again after the cut, the smaller side is none at all.
+  // Computed again after the cut, the smaller side would be zero.
   expectRect(constrained({31, 20, 31, 40}, 31), 31, 20, 31, 20);
 }
 
@@ -56,7 +56,7 @@ TEST(ConstrainToSquare, AllThreeRectanglesHaveLimitsInTheirOwnMeasure) {
   state.region = {348, 48, 384, 108};
   constrainToSquare(state, 32, 12);
   expectRect(state.draw, 29, 4, 31, 6);
-  // 354 + 60 is beyond 383: 29 pixels are left to the right.
+  // 354 + 60 exceeds 383: 29 pixels remain to the right.
   expectRect(state.band, 354, 54, 383, 83);
   expectRect(state.region, 348, 48, 383, 83);
 }

@@ -34,7 +34,7 @@ class ShapeToolTest : public test::DrawingFixture {
       for (int x = 0; x < state.picDisp.width(); ++x) count += state.picDisp.GetPixel(x, y) != kGround;
     return count;
   }
-  // The Mask's opaque pixels in a picture's size, written as in the reference pictures.
+  // The opaque pixels of the mask in the size of a picture, written like the reference pictures.
   Rows opaqueCells(const GoldenCase& c) const {
     Rows rows;
     for (int y = 0; y < c.height(); ++y) {
@@ -50,7 +50,7 @@ class ShapeToolTest : public test::DrawingFixture {
     dragBeyondTheIcon(tool, rect);
     EXPECT_EQ(test::joined(opaqueCells(c)), test::joined(rows)) << c.name;
   }
-  // Corners that the mouse does not reach: the tool itself is told of them.
+  // Corners that the mouse cannot reach: the tool gets them directly.
   void dragBeyondTheIcon(Tool tool, const DrawRect& rect) {
     ShapeTool shape(context, area, history, tools, drawing.drawState);
     const auto mouse = [=, m = state.gMagnification](double x, double y) {
@@ -253,7 +253,7 @@ TEST_F(ShapeToolTest, AReleaseThatNoDragBelongsToDrawsNothing) {
   release(3, 3);
   expectPicture({"."});
   EXPECT_EQ(history.undoCount(), 1);
-  // The second button of a drag: its release ends the drag, that of the first finds nothing more.
+  // The second button of a drag: its release ends the drag; the release of the first has no effect.
   drag(0, 0, 2, 0);
   release(9, 9);
   expectPicture({"ggg"});
@@ -350,7 +350,7 @@ TEST_F(ShapeToolTest, FilledOvalsEqualThePlatformsPixels) {
   EXPECT_GT(checked, 80);
 }
 
-// What a user does while the release of an oval pumps.
+// What a user does while the release of an oval pumps messages.
 class OvalPumpTest : public ShapeToolTest {
  protected:
   OvalPumpTest() {

@@ -17,7 +17,7 @@ class ToolsTest : public test::DrawingFixture {
       for (int x = 0; x < state.picMask.width(); ++x) count += state.picMask.GetPixel(x, y) == kBlack;
     return count;
   }
-  // The steps since the icon came.
+  // The steps recorded since the icon arrived.
   int steps() const { return history.undoCount() - 1; }
 };
 
@@ -304,7 +304,7 @@ TEST_F(ToolsTest, TheMenuSelectsAToolAndNudgesThePointer) {
   EXPECT_EQ(tools.selectedTool(), kNoTool);
 }
 
-TEST_F(ToolsTest, AToolThatNobodyWorksCannotBeSelected) {
+TEST_F(ToolsTest, AToolThatNoOneWorksCannotBeSelected) {
   makeIcon(32);
   DrawState drawState;
   Tools bare(context, panel, colors, history, regions, drawState);
@@ -339,7 +339,7 @@ TEST_F(ToolsTest, ClearingToolsFromTheMenuEndsARegionToo) {
   EXPECT_EQ(tools.selectedTool(), kNoTool);
 }
 
-TEST_F(ToolsTest, ClearingToolsInTheMidstOfAStrokeRecordsItOnce) {
+TEST_F(ToolsTest, ClearingToolsDuringAStrokeRecordsItOnce) {
   makeIcon(32);
   tools.selectTool(kPaint);
   tools.press(at(1, 1));
@@ -394,7 +394,7 @@ TEST_F(ToolsTest, AToolPressedInsideAMoveOfTheFormerOneIsNotFollowedByItsStamp) 
     const Color before = state.picMask.GetPixel(there, there);
     if (tools.selectedTool() != former) tools.selectTool(former);
     tools.press(at(1, 1));
-    // The handler of picDisp pumps first, then the tool.
+    // The handler of picDisp pumps first, then the tool does.
     pump.inside = [&] {
       pump.inside = [&] {
         tools.selectTool(other);

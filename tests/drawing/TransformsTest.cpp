@@ -9,7 +9,7 @@ using test::Rows;
 
 class TransformsTest : public test::RegionFixture {
  protected:
-  // The rows of a 16-pixel icon with a picture in each corner of it.
+  // The rows of a 16-pixel icon with a picture in each corner.
   static Rows fullIcon() {
     Rows rows(16, std::string(16, '.'));
     rows[0] = "ab.............c";

@@ -1,4 +1,4 @@
-"""The forms of icon files as a person works with them: what to press, by the names that a screen reader speaks."""
+"""The forms of icon files as a user works with them: controls are found by the names that a screen reader speaks."""
 import os
 
 EDIT_FACE, ADD_FACE = 'Edit Icon In Multi-Icon File', 'Add Icon To Existing Icon File'
@@ -25,7 +25,7 @@ def read(path):
 
 
 class Desk:
-    """A program with what the tests of these forms press on it."""
+    """A program, with the actions that the tests of these forms need."""
 
     def __init__(self, session, *arguments, **how):
         self.session, self.program = session, session.start(*arguments, **how)
@@ -45,11 +45,11 @@ class Desk:
         self.program.waitForKeys()
 
     def nameless(self):
-        """What on the open form, or on the open Panel, has no name."""
+        """The controls without a name on the open form or panel."""
         return self.program.nameless(next(iter(self.program.dialogs()), None) or self.program.need('Save as cursor'))
 
     def openIcons(self, path):
-        """Opens a file of several icons: its browser comes."""
+        """Opens a file of several icons, which shows its browser."""
         self.program.command('ctrl+o')
         self.program.chooseFile(path)
         return self.waitForForm(EDIT_FACE)
@@ -70,7 +70,7 @@ class Desk:
     # Lists -----------------------------------------------------------------------------------------------------------
 
     def refs(self, name=ICONS):
-        """What a list tells of its entries, in its sequence."""
+        """The texts of the entries of a list, in order."""
         control = self.program.need(name, role='list')
         return [control.getChildAtIndex(index).name for index in range(control.childCount)]
 
@@ -82,12 +82,12 @@ class Desk:
         self.program.wait(lambda: self.isSelected(ref), f'Ref {ref} to be selected')
 
     def pick(self, ref):
-        """A click on an entry of the list that is shown."""
+        """Clicks on an entry of the visible list."""
         self.program.press(f'Ref {ref},', role='list item', startsWith=True)
         self.waitForSelected(ref)
 
     def choose(self, name, item):
-        """Opens a drop-down list by mouse and picks the item, counted from 0, by the keys."""
+        """Opens a drop-down list by mouse and selects the item, counted from 0, by keys."""
         self.openList(name)
         self.session.keys('Home', *['Down'] * item, 'Return')
         self.program.wait(lambda: not self.dropDown(name), f'the list of "{name}" to close')
@@ -97,28 +97,28 @@ class Desk:
         self.program.wait(lambda: self.dropDown(name), f'the list of "{name}" to drop down')
 
     def dropDown(self, name):
-        """The list that has dropped down, None without one."""
+        """The open drop-down list, or None."""
         return self.program.find('', role='list', under=self.program.need(name, role='combo box'))
 
     def held(self, name):
-        """What a drop-down list shows."""
+        """The text of a drop-down list."""
         return self.program.need(name, role='combo box').name
 
     def shift(self, *moves):
-        """In the pane for a new sequence: moves Refs by so many places, down or, with a negative number, up."""
+        """In the reposition pane: moves Refs down by the given number of places, or up if it is negative."""
         for ref, places in moves:
             self.pick(ref)
             for _ in range(abs(places)):
                 self.program.press('Up' if places < 0 else 'Down')
 
     def proposedName(self):
-        """What stands in the field of the file dialog."""
+        """The text in the field of the file dialog."""
         return self.program.value('File name:', role='text')
 
     # Loading ---------------------------------------------------------------------------------------------------------
 
     def load(self, ref, container=None):
-        """Loads an entry and comes back."""
+        """Loads an entry and returns to the browser."""
         self.prepareLoad(ref, container)
         self.program.press('Load')
         self.waitForForm(EDIT_FACE)
@@ -141,11 +141,11 @@ class Desk:
                           f'the icon of {os.path.basename(path)}')
 
     def waitForPixel(self, x, y, size, color):
-        """Until the Editing Area shows that colour."""
+        """Waits until the Editing Area shows that colour."""
         self.program.wait(lambda: self.session.colorAt(self.program.pixelPoint(x, y, size)) == color, f'pixel {x}, {y} in {color}')
 
     def waitForRest(self, x, y, size):
-        """Until a pixel blinks no more; its colour."""
+        """Waits until a pixel has stopped blinking, and returns its colour."""
         seen, point = [], self.program.pixelPoint(x, y, size)
 
         def rests():

@@ -1,5 +1,5 @@
-"""Icons and cursors built byte by byte. A picture is a list of rows, a pixel is (red, green, blue), with a fourth number
-for its opacity in pictures of 32 bits, or None where it is transparent."""
+"""Icons and cursors built byte by byte. A picture is a list of rows; a pixel is (red, green, blue), with its opacity as
+fourth number in pictures of 32 bits, or None if it is transparent."""
 import collections
 import os
 import struct
@@ -8,7 +8,7 @@ import tempfile
 
 from PIL import Image
 
-# The platform's sixteen colours in the order of their palette.
+# The sixteen standard colours in the order of their palette.
 COLORS_16 = [(0, 0, 0), (128, 0, 0), (0, 128, 0), (128, 128, 0), (0, 0, 128), (128, 0, 128), (0, 128, 128), (192, 192, 192),
              (128, 128, 128), (255, 0, 0), (0, 255, 0), (255, 255, 0), (0, 0, 255), (255, 0, 255), (0, 255, 255), (255, 255, 255)]
 COLORS_256 = [(0, 0, 0), (255, 255, 255)] + [(i, 255 - i, i * 7 % 256) for i in range(2, 256)]
@@ -16,7 +16,7 @@ PALETTES = {1: [(0, 0, 0), (255, 255, 255)], 4: COLORS_16, 8: COLORS_256}
 COLOR_COUNTS = {1: 2, 4: 16}  # of directory entries; 0 for others
 ICON, CURSOR = 1, 2
 
-# What a directory entry tells, and its image's bytes. Cursors have their hot spot in `planes` and `bits`.
+# The fields of a directory entry, and the bytes of its image. Cursors have their hot spot in `planes` and `bits`.
 Entry = collections.namedtuple('Entry', 'width height colors reserved planes bits size offset image')
 DIRECTORY_ENTRY = struct.Struct('<BBBBHHII')
 DIRECTORY_BYTES = 6
@@ -38,8 +38,8 @@ def packBits(values, bits):
 # Building ------------------------------------------------------------------------------------------------------------
 
 def motif(size, bits, seed=0):
-    """A picture of its own for each size, depth and seed, transparent in places. With 8 bits it has more colours than
-    the sixteen, with 24 more than 256."""
+    """A different picture for each size, depth and seed, transparent in places. With 8 bits it has more than the
+    sixteen colours, with 24 bits more than 256."""
     def pixel(x, y):
         number = x * x + 3 * y + x * y // 4 + seed
         if (x * 7 + y * 3 + seed) % 11 == 0 or x + y < 3:
@@ -59,7 +59,7 @@ def colorRow(row, bits, palette):
 
 
 def image(picture, bits, palette=None):
-    """A picture as it stands in an icon file, with 2 ^ bits colours of a palette where it has one."""
+    """The bytes of a picture in an icon file; a palette has 2 ^ bits colours."""
     palette = palette or PALETTES.get(bits, [])
     width, height = len(picture[0]), len(picture)
     header = struct.pack('<IiiHHIIiiII', 40, width, 2 * height, 1, bits, 0, 0, 0, 0, 0, 0)
@@ -70,7 +70,7 @@ def image(picture, bits, palette=None):
 
 
 def entryOf(picture, bits, palette=None, **lies):
-    """A directory entry with the picture in it; `lies` are fields that tell something else."""
+    """A directory entry with its picture; `lies` are fields with wrong values."""
     data = image(picture, bits, palette)
     entry = Entry(len(picture[0]), len(picture), COLOR_COUNTS.get(bits, 0), 0, 1, bits, len(data), 0, data)
     return entry._replace(**lies)
@@ -87,7 +87,7 @@ def fileOf(entries, kind=ICON):
 
 
 def icons(*sizesAndBits, seed=0):
-    """A file of motifs: icons((16, 4), (32, 8))."""
+    """A file of several motifs, given as sizes and bits: icons((16, 4), (32, 8))."""
     return fileOf([entryOf(motif(size, bits, seed), bits) for size, bits in sizesAndBits])
 
 
@@ -103,7 +103,7 @@ def cursor(picture, bits, x, y):
 # Reading -------------------------------------------------------------------------------------------------------------
 
 def readEntries(path):
-    """The directory of a file of icons or cursors, each entry with the bytes that it points to."""
+    """The directory of a file of icons or cursors, each entry with the bytes of its image."""
     with open(path, 'rb') as file:
         content = file.read()
     _, _, count = struct.unpack_from('<HHH', content)
@@ -126,7 +126,7 @@ def readByPillow(path):
 
 
 def readByImageMagick(path):
-    """Debian's own program is named, as another one of that name may stand before it in the path."""
+    """Names the program of Debian, because the path may contain another one of that name."""
     with tempfile.TemporaryDirectory(prefix='glimmerpane.') as folder:
         picture = os.path.join(folder, 'picture.png')
         subprocess.run(['/usr/bin/convert', 'ico:' + path + '[0]', 'png32:' + picture], check=True)

@@ -1,14 +1,14 @@
-"""The side panels that change an icon, as a person works with them. What they show is read from the screen, one colour
+"""The side panels that change an icon, as a user works with them. Their samples are read from the screen, one colour
 for each pixel of the icon. A picture is as in icons.py: rows of (red, green, blue), None where it is transparent."""
 import time
 
 from forms import CHART, Desk, read, write
 
 BLACK, GREY, WHITE = (0, 0, 0), (128, 128, 128), (255, 255, 255)
-GROUND = (192, 192, 192)  # shows through transparent pixels
+GROUND = (192, 192, 192)  # visible through transparent pixels
 CHART_SHAPE = (8, 2)
 SAMPLE_FRAME = 1
-# A list that has dropped down takes no click yet that may be the second one of a double click.
+# A list that has just opened ignores a click that may be the second one of a double click.
 DOUBLE_CLICK_SECONDS = 0.5
 WHEEL_DOWN, MOST_WHEEL_TURNS = 5, 20
 
@@ -17,12 +17,12 @@ DISABLED, REDUCE = 'Image for disabled button', 'Reduce number of colors'
 
 
 def look(picture):
-    """How a picture looks on the ground."""
+    """A picture as it looks on the ground."""
     return [[pixel or GROUND for pixel in row] for row in picture]
 
 
 def imageOf(picture):
-    """What a picture has where it is painted, black elsewhere."""
+    """A picture with black for its transparent pixels."""
     return [[pixel or BLACK for pixel in row] for row in picture]
 
 
@@ -35,7 +35,7 @@ def colorsOf(picture):
 
 
 class PanelDesk(Desk):
-    """A program that is started with its first icon, if there is to be one."""
+    """A program, started with the first icon of the test, if there is one."""
 
     def __init__(self, session):
         self.session, self.program = session, None
@@ -46,7 +46,7 @@ class PanelDesk(Desk):
         self.program = self.session.start(*arguments)
 
     def openContent(self, name, content, size):
-        """Writes an icon file and opens it; its path."""
+        """Writes an icon file, opens it, and returns its path."""
         path = write(self.session, name, content)
         if self.program:
             self.openFile(path)
@@ -66,7 +66,7 @@ class PanelDesk(Desk):
         return self.program.isEnabled(self.program.need(button, role='push button'))
 
     def takeColor(self, cell, color):
-        """Picks a colour of the 16-color palette."""
+        """Selects a colour of the 16-color palette."""
         self.program.menu('Palette', CHART)
         self.session.click(self.program.chartPoint(CHART, *cell, *CHART_SHAPE))
         swatch = self.program.centre(self.program.need('Color to use'))
@@ -75,13 +75,13 @@ class PanelDesk(Desk):
     # What is shown ---------------------------------------------------------------------------------------------------
 
     def grid(self, left, top, cell, size):
-        """The colours in the middle of size x size cells."""
+        """The colours at the centres of size x size cells."""
         pixels = self.session.picture().convert('RGB').load()
         places = [cell * index + cell // 2 for index in range(size)]
         return [[pixels[left + x, top + y] for x in places] for y in places]
 
     def shown(self, size):
-        """The Editing Area."""
+        """The colours on the Editing Area."""
         left, top, width, _ = self.program.box(self.program.need('Editing Area'))
         return self.grid(left, top, width // size, size)
 
@@ -117,7 +117,7 @@ class PanelDesk(Desk):
         return self.program.find(title, role='filler')
 
     def effect(self, title, *captions):
-        """Brings a Panel up by the Effects menu."""
+        """Opens a panel by the Effects menu."""
         self.program.menu('Effects', *captions)
         self.waitForPanel(title)
 
@@ -130,7 +130,7 @@ class PanelDesk(Desk):
         self.program.wait(lambda: not self.isUp(title), f'the panel "{title}" to close')
 
     def proceed(self, title, *keys):
-        """By the keys, without any by mouse."""
+        """Proceeds by keys if there are any, otherwise by mouse."""
         self.end(title, 'Proceed', keys)
 
     def close(self, title, *keys):
@@ -148,12 +148,12 @@ class PanelDesk(Desk):
         time.sleep(DOUBLE_CLICK_SECONDS)
 
     def entryPoint(self, entry):
-        """Where to click on an entry of the list that has dropped down."""
+        """The position of an entry of the open drop-down list."""
         left, top, _, height = self.program.box(self.program.need(entry, role='list item'))
         return left + height, top + height // 2
 
     def pickEntry(self, name, entry):
-        """Picks an entry of a drop-down list with the mouse; one further down than the list shows is scrolled to."""
+        """Selects an entry of a drop-down list by mouse, scrolling if necessary."""
         self.dropList(name)
         for _ in range(MOST_WHEEL_TURNS):
             if self.program.find(entry, role='list item'):
@@ -163,14 +163,14 @@ class PanelDesk(Desk):
         self.program.wait(lambda: self.held(name) == entry, f'"{entry}" to be picked')
 
     def clickAtOnce(self, *points):
-        """Clicks on one point after another, faster than the program may follow."""
+        """Clicks on one point after another, possibly faster than the program can follow."""
         self.session.xdotool(*[word for x, y in points for word in ('mousemove', x, y, 'click', 1)])
 
     def isFocusedOn(self, name, role):
         return self.program.isFocused(self.program.need(name, role=role))
 
     def tabTo(self, *buttons):
-        """That Tab comes to these buttons one after the other."""
+        """Checks that Tab reaches these buttons one after the other."""
         for button in buttons:
             self.program.command('Tab')
             self.program.wait(lambda: self.isFocusedOn(button, 'push button'), f'Tab to come to "{button}"')

@@ -1,13 +1,13 @@
-"""The running program as a person meets it: controls found by the names that a screen reader speaks, pressed with the
-real mouse."""
+"""The running program as a user works with it: controls are found by the names that a screen reader speaks, and clicked
+with the real mouse."""
 import time
 
 import pyatspi
 
-# Long, for busy machines: waiting costs nothing where it succeeds.
+# Long, for busy machines: a wait ends as soon as its condition holds.
 START_SECONDS = 60
 WAIT_SECONDS = 30
-ANSWER_MS = 10000  # for one question over the accessibility bus
+ANSWER_MS = 10000  # for one request on the accessibility bus
 POLL_SECONDS = 0.1
 STILL_POLLS = 4
 DIALOG_ROLES = ('dialog', 'alert', 'file chooser', 'message box')
@@ -21,12 +21,12 @@ OPERATED_ROLES = ('push button', 'toggle button', 'check box', 'radio button', '
 
 
 def plain(caption):
-    """A caption as it is spoken: no access key, single blanks."""
+    """A caption as it is spoken: without access key, with single blanks."""
     return ' '.join((caption or '').replace('&', '').split())
 
 
 def spokenName(control):
-    """The name that a screen reader speaks: a drop-down list's own name is what it holds, its label is told apart."""
+    """The name that a screen reader speaks: of a drop-down list the label, as its accessible name is its content."""
     if control.getRoleName() == 'combo box':
         labels = [relation.getTarget(0) for relation in control.getRelationSet()
                   if relation.getRelationType() == pyatspi.RELATION_LABELLED_BY]
@@ -44,27 +44,27 @@ class Program:
     # Waiting ---------------------------------------------------------------------------------------------------------
 
     def wait(self, question, what, seconds=WAIT_SECONDS, poll=POLL_SECONDS):
-        """The first true answer of `question`; an AssertionError that names `what` when there is none in time."""
+        """The first true answer of `question`. Raises an AssertionError that names `what` if there is none in time."""
         end = time.monotonic() + seconds
         problem = None
         while True:
             asked = time.monotonic()
             try:
                 answer = question()
-            except Exception as vanished:  # a control that was there before
+            except Exception as vanished:  # a control that has disappeared
                 answer, problem = None, vanished
             if answer:
                 return answer
             if asked > end:
                 break
-            # A question that takes long is asked less often, so that the program has a processor to itself.
+            # A slow question is asked less often, so that the program gets processor time.
             time.sleep(max(poll, time.monotonic() - asked))
         if self.process.poll() is not None:
             raise AssertionError(f'waited for {what}, but the program has ended with {self.process.returncode}')
         raise AssertionError(f'waited in vain for {what}; {self.situation()}; last problem: {problem!r}')
 
     def situation(self):
-        """Which windows there are and which of them takes keys: for the report of a failure."""
+        """The windows, and which of them has the keyboard focus, for failure messages."""
         try:
             windows = [f'{window.getRoleName()} {window.name!r}' + ' (active)' * self.isActive(window) for window in self.windows()]
         except Exception as problem:
@@ -72,7 +72,7 @@ class Program:
         return f'windows: {windows}; focus settled: {self.session.isFocusSettled()}'
 
     def waitForMainForm(self):
-        """The main form, once the window manager has put it into its place and it, or a dialog over it, takes keys."""
+        """The main form, once the window manager has placed it and it, or a dialog over it, has the keyboard focus."""
         self.wait(self.mainForm, 'the main form', START_SECONDS)
         places = []
 
@@ -85,24 +85,24 @@ class Program:
         return self.mainForm()
 
     def formWithKeys(self):
-        """The form that takes keys: a dialog if there is one, else the main form. None while the window manager hands the
-        focus on and when it has left none of them active."""
+        """The form with the keyboard focus: a dialog if there is one, otherwise the main form. None while the window
+        manager moves the focus, or if it has activated none of them."""
         if not self.session.isFocusSettled():
             return None
         return next((form for form in self.dialogs() or [self.mainForm()] if form and self.isActive(form)), None)
 
     def waitForKeys(self):
-        """The form that takes keys, as soon as there is one; True when the program has ended."""
+        """The form with the keyboard focus, as soon as there is one; True when the program has ended."""
         return self.wait(lambda: self.process.poll() is not None or self.formWithKeys(), 'a form that takes keys')
 
     def waitForEnd(self, seconds=WAIT_SECONDS):
-        """The exit status."""
+        """Waits for the end of the program and returns its exit status."""
         return self.process.wait(seconds)
 
     # Looking ---------------------------------------------------------------------------------------------------------
 
     def root(self):
-        """The program on the accessibility bus; a LookupError without it, as nothing could be told of its windows."""
+        """The program on the accessibility bus. Raises a LookupError if it is missing: its windows are unknown then."""
         desktop = pyatspi.Registry.getDesktop(0)
         desktop.clear_cache()
         for index in range(desktop.childCount):
@@ -132,8 +132,8 @@ class Program:
         return [control.getChildAtIndex(index) for index in range(control.childCount)]
 
     def walk(self, top):
-        """What is shown of `top` and of everything in it, outer before inner. Items of a list that is hidden would tell
-        that they are shown."""
+        """The visible controls in `top` and itself, outer before inner. A hidden list is not searched: its items claim
+        to be visible."""
         waiting = [(top, 0)]
         while waiting:
             control, depth = waiting.pop()
@@ -144,9 +144,9 @@ class Program:
                 waiting += [(child, depth + 1) for child in reversed(self.children(control))]
 
     def find(self, name, role=None, under=None, startsWith=False):
-        """The visible control of that name, None without one."""
+        """The visible control of that name, or None."""
         wanted = plain(name)
-        # What is on top first: most of what is looked for is there.
+        # Topmost first: most controls that are looked for are there.
         for window in [under] if under else sorted(self.windows(), key=self.isActive, reverse=True):
             for control in self.walk(window):
                 if role and role != control.getRoleName():
@@ -178,7 +178,7 @@ class Program:
         return control.getState().contains(pyatspi.STATE_FOCUSED)
 
     def value(self, name, role=None):
-        """The text that the control of that name holds."""
+        """The text in the control of that name."""
         control = self.need(name, role=role)
         try:
             return control.queryText().getText(0, -1)
@@ -186,12 +186,12 @@ class Program:
             return control.description
 
     def describe(self):
-        """Every control with role, name and place: for the report of a failure."""
+        """Every control with role, name and position, for failure messages."""
         controls = [control for window in self.windows() for control in self.walk(window)]
         return '\n'.join(f'{control.getRoleName()} {control.name!r} {self.box(control)}' for control in controls)
 
     def nameless(self, top):
-        """What is shown in `top`, can be worked with or looked at, and has no name."""
+        """The visible controls in `top` that need a name and have none."""
         return [f'{control.getRoleName()} {self.box(control)}' for control in self.walk(top)
                 if control.getRoleName() in OPERATED_ROLES and not spokenName(control)]
 
@@ -203,17 +203,17 @@ class Program:
         self.session.click(self.centre(control))
 
     def keys(self, *names):
-        """Keys for the form on top."""
+        """Presses keys in the top form."""
         self.waitForKeys()
         self.session.keys(*names)
 
     def command(self, *names):
-        """Keys for the main form, over which no dialog stands."""
+        """Presses keys in the main form, which must have no dialog over it."""
         self.wait(lambda: not self.dialogs() and self.formWithKeys(), 'the main form to take keys')
         self.session.keys(*names)
 
     def goTo(self, name, **how):
-        """Tab until the control of that name has the focus."""
+        """Presses Tab until the control of that name has the focus."""
         control = self.need(name, **how)
         form = self.waitForKeys()
         for _ in range(MOST_TAB_STOPS):
@@ -225,12 +225,12 @@ class Program:
         raise AssertionError(f'Tab does not reach "{name}"')
 
     def focusPlace(self, form):
-        """Role, name and place of what has the focus on a form."""
+        """Role, name and position of the focused control of a form."""
         return [(control.getRoleName(), control.name, self.box(control)) for control in self.walk(form) if self.isFocused(control)]
 
     def typeInto(self, name, text, role=None, becomes=None):
-        """Types into the field of that name, in place of what it holds, once it has the focus; waits until it holds the text
-        or what the text becomes."""
+        """Waits until the field of that name has the focus, replaces its text, and waits until it holds the text, or
+        what the field makes of it."""
         field = self.wait(lambda: self.focusedField(name, role), f'the field "{name}" to have the focus')
         self.session.keys('ctrl+a')
         self.session.type(text)
@@ -238,7 +238,7 @@ class Program:
         self.wait(lambda: field.queryText().getText(0, -1) == wanted, f'{wanted!r} in the field "{name}"')
 
     def focusedField(self, name, role):
-        """The field of that name on the form on top, None as long as it has not the focus."""
+        """The field of that name on the top form, None as long as it does not have the focus."""
         form = self.formWithKeys()
         field = form and self.find(name, role=role, under=form)
         return field if field and self.isFocused(field) else None
@@ -246,7 +246,7 @@ class Program:
     # Menus -----------------------------------------------------------------------------------------------------------
 
     def popUp(self, entry):
-        """The shown menu that an entry has opened, None without one."""
+        """The menu that an entry has opened, or None."""
         return next((child for child in self.children(entry) if child.getRoleName() == 'popup menu' and self.isShown(child)), None)
 
     def openedMenus(self):
@@ -257,13 +257,13 @@ class Program:
         self.wait(lambda: self.process.poll() is not None or not self.openedMenus(), 'the menus to close')
 
     def openMenu(self, caption, under=None):
-        """Clicks on an entry, given by its beginning, and waits for the menu behind it."""
+        """Clicks on an entry, given by the beginning of its caption, and waits for its sub-menu."""
         entry = self.need(caption, under=under, startsWith=True, role='menu item')
         self.session.click(self.centre(entry))
         return self.wait(lambda: self.popUp(entry), f'the menu "{caption}"')
 
     def menu(self, *captions):
-        """Walks from the menu bar to an entry; a caption may be given by its beginning."""
+        """Clicks from the menu bar to an entry; captions can be given by their beginning."""
         self.waitForKeys()
         menu = None
         for caption in captions[:-1]:
@@ -285,7 +285,7 @@ class Program:
         return [window for window in self.windows() if window.getRoleName() in DIALOG_ROLES]
 
     def waitForDialog(self):
-        """A dialog that takes keys."""
+        """A dialog with the keyboard focus."""
         return self.wait(lambda: self.dialogs() and self.formWithKeys(), 'a dialog')
 
     def waitForNoDialog(self):
@@ -300,7 +300,7 @@ class Program:
         self.waitForNoDialog()
 
     def chooseFile(self, path, replace=False, before=lambda: None):
-        """The same where other dialogs stay. `replace` agrees to lose a file of that name; `before` is done while the
+        """The same, where other dialogs remain open. `replace` agrees to overwrite a file; `before` is called while the
         dialog is open."""
         self.waitForFileDialog()
         before()
@@ -325,7 +325,7 @@ class Program:
         self.waitForKeys()
 
     def messageBox(self):
-        """The message box that takes keys, None without one."""
+        """The message box with the keyboard focus, or None."""
         form = self.formWithKeys()
         return form if form and self.isBox(form) else None
 
@@ -333,7 +333,7 @@ class Program:
         return window.getRoleName() in DIALOG_ROLES and window.name == BOX_TITLE
 
     def answerBox(self, beginning, key='Return'):
-        """Checks what a box tells, and answers it."""
+        """Checks the text of a box, and answers it."""
         text = self.dialogText(self.wait(self.messageBox, f'the box "{beginning}"'))
         assert plain(text).startswith(plain(beginning)), f'{text!r} is not {beginning!r}'
         self.session.keys(key)
@@ -341,13 +341,13 @@ class Program:
         self.waitForKeys()
 
     def isTold(self, text):
-        """Whether a box of that text is there."""
+        """True if a box with that text is open."""
         return any(self.isBox(window) and self.dialogText(window) == text for window in self.windows())
 
     # Editing Area ----------------------------------------------------------------------------------------------------
 
     def pixelPoint(self, x, y, size):
-        """Where on the screen the middle of an icon's pixel is; `size` is the icon's."""
+        """The screen position of the centre of an icon pixel; `size` is that of the icon."""
         left, top, width, _ = self.box(self.need('Editing Area'))
         magnification = width // size
         return left + x * magnification + magnification // 2, top + y * magnification + magnification // 2

@@ -1,5 +1,5 @@
-"""What independent programs read in files of several icons and in cursors: icotool, ImageMagick and Pillow. They must
-agree with one another and with what is expected."""
+"""What independent programs (icotool, ImageMagick and Pillow) read from files of several icons and from cursors. They
+must agree with each other and with the expected content."""
 import glob
 import os
 import re
@@ -14,13 +14,13 @@ LISTED = re.compile(r'--(icon|cursor) .*--width=(\d+) --height=(\d+) --bit-depth
 
 
 def quads(picture):
-    """A picture with every pixel's opacity, None where there is none."""
+    """A picture with the opacity of every pixel, None for transparent pixels."""
     full = lambda pixel: tuple(pixel) + (255,) if pixel and len(pixel) == 3 else pixel
     return [[full(pixel) for pixel in row] for row in picture]
 
 
 def rgba(picture):
-    """The same of a picture of Pillow."""
+    """The same for a picture of Pillow."""
     pixels = picture.convert('RGBA').load()
     return [[pixels[x, y] if pixels[x, y][3] else None for x in range(picture.width)] for y in range(picture.height)]
 
@@ -91,7 +91,7 @@ def assertSame(got, wanted, who, path):
 
 
 def assertIcons(path, wanted):
-    """That every reader finds these entries, each (picture, bits), in this sequence."""
+    """Checks that every reader finds these entries, each (picture, bits), in this order."""
     sizes = [(len(picture[0]), len(picture), bits) for picture, bits in wanted]
     told = [(entry.width, entry.height, entry.bits) for entry in icons.readEntries(path)]
     assert told == sizes, f'the directory of {path} tells {told}, not {sizes}'
@@ -105,8 +105,8 @@ def assertIcons(path, wanted):
 
 
 def assertCursor(path, picture, bits, hotspot):
-    """The same of a cursor. Pillow does not read the mask, so it sees black where the cursor is transparent. A cursor
-    of 32 bits tells its size as one of 24, which the others may refuse."""
+    """The same for a cursor. Pillow does not read the mask, so it sees black where the cursor is transparent. A cursor
+    of 32 bits states the byte count of 24 bits, which the others may refuse."""
     entry, = icons.readEntries(path)
     assert (entry.planes, entry.bits) == hotspot, entry[:8]
     assert (entry.width, entry.height) == (len(picture[0]), len(picture))
@@ -123,7 +123,7 @@ def assertCursor(path, picture, bits, hotspot):
 
 
 def assertKept(path, before, changed=()):
-    """That the images of the file before stand unchanged in it, apart from those at `changed`."""
+    """Checks that the images of the former file are unchanged, except for those at `changed`."""
     after = icons.readEntries(path)
     assert len(after) == len(before)
     for index, (one, other) in enumerate(zip(after, before)):

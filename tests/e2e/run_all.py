@@ -1,9 +1,10 @@
 #!/usr/bin/python3
-"""Runs every test_* function of every test_*.py here against the built program, each on a desktop of its own.
+"""Runs every test_* function of every test_*.py here against the built program, each on its own desktop.
 
     tests/e2e/run_all.py [--build DIR] [--jobs N] [PART-OF-NAME...]
 
-Several run side by side: each has its own X server, window manager, buses, home and folder. Prints PASS, FAIL or SKIP and the seconds per test; the last line counts them.
+Several run side by side: each has its own X server, window manager, buses, home and folder. Prints PASS, FAIL or SKIP
+and the seconds per test; the last line counts them.
 """
 import argparse
 import concurrent.futures
@@ -16,14 +17,14 @@ import sys
 import time
 
 HERE = os.path.dirname(os.path.realpath(__file__))
-SECONDS_PER_TEST = 900  # on a busy machine
+SECONDS_PER_TEST = 900  # longer than any test needs on a busy machine
 SKIPPED = 77
-JOBS_PER_PROCESSOR = 3  # most of a test's time the program waits for its user, and the test for the program
+JOBS_PER_PROCESSOR = 3  # most of the time the program waits for its user, and the test for the program
 FUNCTION = re.compile(r'^def (test_\w+)\(.*?(?=^\S|\Z)', re.M | re.S)
 
 
 def discover(parts):
-    """(file, function) of each test whose name holds one of `parts`, long ones first."""
+    """(file, function) of each test whose name contains one of `parts`, long tests first."""
     found = []
     for path in sorted(glob.glob(os.path.join(HERE, 'test_*.py'))):
         with open(path, encoding='utf-8') as file:
@@ -36,7 +37,7 @@ def discover(parts):
 
 
 def run(executable, pictures, path, function):
-    """(status, output) of one test in a process group of its own, so that nothing of it is left over."""
+    """(status, output) of one test, which runs in its own process group, so that all of its processes end with it."""
     command = ['dbus-run-session', '--', sys.executable, os.path.join(HERE, 'run_one.py'), executable, path, function, pictures]
     environment = {name: value for name, value in os.environ.items() if name not in ('DISPLAY', 'WAYLAND_DISPLAY')}
     environment.update(PYTHONDONTWRITEBYTECODE='1', PYTHONPATH=HERE)

@@ -1,5 +1,5 @@
-"""Runs one test in this process's session bus: run_one.py EXECUTABLE FILE FUNCTION FOLDER-FOR-PICTURES. Exit status 0
-for passed, 1 for failed, 77 for skipped (the test raised unittest.SkipTest)."""
+"""Runs one test on the session bus of this process: run_one.py EXECUTABLE FILE FUNCTION FOLDER-FOR-PICTURES. Exit
+status 0 for passed, 1 for failed, 77 for skipped (the test raised unittest.SkipTest)."""
 import importlib.util
 import os
 import sys

@@ -1,5 +1,5 @@
-"""A desktop for one test: an X server, a window manager and an accessibility bus that nobody else uses, an empty home,
-and a folder for files. The program runs from a copy in that folder, since it keeps its settings beside itself."""
+"""A desktop for one test: its own X server, window manager and accessibility bus, an empty home, and a folder for
+files. The program runs from a copy in that folder, because it keeps its settings beside itself."""
 import os
 import shutil
 import subprocess
@@ -52,7 +52,8 @@ class Session:
                           QT_LINUX_ACCESSIBILITY_ALWAYS_ON='1')
         self.run('openbox')
         waitUntil(lambda: 'window id' in self.rootProperty('_NET_SUPPORTING_WM_CHECK'), 'the window manager')
-        # Before anybody looks for it: started by a first caller it may answer a program too late, which then stays mute.
+        # Started before the first use: if a caller starts it, it may answer the program too late, which then registers
+        # nothing.
         self.run(ACCESSIBILITY_BUS, '--launch-immediately')
         waitUntil(lambda: 'STRING' in self.rootProperty('AT_SPI_BUS'), 'the accessibility bus')
 
@@ -62,8 +63,8 @@ class Session:
     def startServer(self):
         """Starts an X server and returns the number that it chose."""
         reading, writing = os.pipe()
-        # No auto-repeat (-r): on a busy machine a key is released late and would count as held down. No reset when the last
-        # program leaves: the first question for the window manager would throw it out while it starts.
+        # No auto-repeat (-r): on a busy machine a key is released late and would count as held down. No reset when the
+        # last client leaves: the first request to the window manager would stop the server while the manager starts.
         server = subprocess.Popen(['Xvfb', '-r', '-noreset', '-displayfd', str(writing), '-screen', '0', self.screen,
                                    '-nolisten', 'tcp'],
                                   pass_fds=[writing], stdout=self.log, stderr=self.log)
@@ -92,16 +93,16 @@ class Session:
         return process
 
     def path(self, name=''):
-        """A file in the folder that the test may fill; without a name the folder."""
+        """The path of a file in the folder of the test; without a name, the folder itself."""
         return os.path.join(self.folder, 'files', name)
 
     def settingsPath(self):
         return os.path.join(self.folder, 'program', 'Glimmerpane.ini')
 
     def start(self, *arguments, window=True, within=()):
-        """Starts the program and waits for its main form, or returns at once without one. `within` is a command that
-        becomes the one that follows it."""
-        from program import Program  # not before the accessibility bus runs: importing it would start one
+        """Starts the program and waits for its main form, or returns at once if no form is expected. `within` is a
+        command that runs the command after it."""
+        from program import Program  # not before the accessibility bus runs, because importing it would start one
         program = os.path.join(self.folder, 'program', os.path.basename(self.executable))
         started = Program(self, self.run(*within, program, *arguments))
         if window:
@@ -109,7 +110,7 @@ class Session:
         return started
 
     def output(self):
-        """What the programs of this desktop have printed."""
+        """The output of the programs on this desktop."""
         with open(self.log.name, encoding='utf-8', errors='replace') as file:
             return file.read()
 
@@ -128,7 +129,7 @@ class Session:
         time.sleep(0.1)
 
     def drag(self, points, button=1):
-        """Presses on the first point, moves over the others, releases on the last."""
+        """Presses on the first point, moves over the others and releases on the last one."""
         self.move(points[0])
         self.xdotool('mousedown', button)
         for point in points[1:]:
@@ -137,14 +138,13 @@ class Session:
         time.sleep(0.1)
 
     def isFocusSettled(self):
-        """Whether the keys go to the window that the window manager has made the active one. They do not while it hands
-        the focus on."""
+        """True if the keys go to the active window of the window manager. They do not while it moves the focus."""
         active, focused = (subprocess.run(['xdotool', which], capture_output=True, text=True).stdout.strip()
                            for which in ('getactivewindow', 'getwindowfocus'))
         return bool(active) and active == focused
 
     def keys(self, *names):
-        """Presses keys, wherever they go; names as xdotool has them: "ctrl+s", "Return"."""
+        """Presses keys, whichever window gets them, with the names of xdotool: "ctrl+s", "Return"."""
         self.xdotool('key', '--delay', KEY_DELAY_MS, *names)
         time.sleep(0.1)
 
@@ -155,9 +155,9 @@ class Session:
     # Eyes ------------------------------------------------------------------------------------------------------------
 
     def picture(self):
-        """What is on the screen."""
+        """A picture of the screen."""
         return ImageGrab.grab(xdisplay=os.environ['DISPLAY'])
 
     def colorAt(self, point):
-        """(red, green, blue) of a point of the screen."""
+        """(red, green, blue) of a point on the screen."""
         return self.picture().convert('RGB').getpixel(tuple(map(int, point)))

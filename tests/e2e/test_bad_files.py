@@ -1,4 +1,4 @@
-"""Files that are none, and names that are unusual: each ends in its text, and the program goes on."""
+"""Files that are not icons, and unusual names: each gives its message, and the program continues."""
 import os
 
 import icons
@@ -57,7 +57,7 @@ def test_of_a_huge_file_little_is_read(session):
     program.command('ctrl+o')
     program.chooseFile(session.path('huge.ico'))
     program.wait(lambda: program.dialogs() or program.value('Status 3'), 'an icon or a box')
-    # What is not read costs no time either, on any machine. The dialog takes some of both.
+    # Data that is not read takes no time on any machine. The dialog takes some.
     assert bytesRead(program.process) - read < MOST_BYTES
     assert peakBytes(program.process) - memory < MOST_BYTES
 

@@ -1,5 +1,5 @@
-"""The whole road over real files, copied from the corpus where that stands beside the repository: every picture that was
-not worked on stays as three independent programs read it before."""
+"""The main use cases on real files, copied from the corpus if it is beside the repository: three independent programs
+read every picture that was not changed as before."""
 import os
 import shutil
 import unittest
@@ -30,7 +30,7 @@ class Copies:
         self.letDirectoryLie()
 
     def letDirectoryLie(self):
-        """No real file tells other colours than it has and can be loaded: this one tells 16 where 8 bits stand."""
+        """No real file can be loaded and states a wrong number of colours: this one states 16 colours for 8 bits."""
         entries = [entry._replace(colors=16, bits=4) if entry.bits == 8 else entry for entry in self.entries[LYING]]
         self.lyingBytes = icons.fileOf(entries)
         with open(self.path(LYING), 'wb') as file:
@@ -43,7 +43,7 @@ class Copies:
         return read(self.path(name)) == read(os.path.join(CORPUS, name))
 
     def assertRead(self, path, *wanted):
-        """That each reader sees these pictures in that file, each (name, index of its entry before)."""
+        """Checks that each reader sees these pictures in that file, each (name, index of its former entry)."""
         for who, pictures in readers.PICTURES.items():
             readers.assertSame(pictures(path), [self.pictures[name][who][index] for name, index in wanted], who, path)
         sizes = [(entry.width or 256, entry.height or 256) for entry in icons.readEntries(path)]
@@ -104,7 +104,7 @@ def removeAndReverse(copies, desk):
     desk.openIcons(fourth)
     desk.program.press('Reposition')
     desk.program.wait(lambda: len(desk.refs(SEQUENCE)) == 7, 'the pane')
-    # Ref 4 is a PNG, which cannot be shown and so not be picked: the others move round it.
+    # Ref 4 is a PNG, which cannot be shown and so not be selected: the others move past it.
     desk.shift((7, -6), (6, -5), (5, -4), (1, 3), (2, 2), (3, 1))
     desk.program.press('Proceed')
     desk.program.answerBox(fourth, 'alt+y')
@@ -135,7 +135,7 @@ def salvage(copies, desk):
 
 
 def saveCursors(copies, desk):
-    # The first one has sixteen colours to choose from and uses two.
+    # The first one has a palette of sixteen colours and uses two.
     for name, bits in ((CURSOR, 1), (ALPHA_CURSOR, 32)):
         saved = copies.session.path(f'saved{bits}.cur')
         desk.openCursor(copies.path(name))
@@ -144,7 +144,7 @@ def saveCursors(copies, desk):
         desk.waitForIcon(32, copies.path(name))
         desk.program.menu('File', 'Save As Cursor')
         desk.program.need(HOTSPOT_X, role='combo box')
-        desk.waitForRest(*icons.readEntries(copies.path(name))[0][4:6], 32)  # a click while it blinks does nothing
+        desk.waitForRest(*icons.readEntries(copies.path(name))[0][4:6], 32)  # a click while it blinks has no effect
         desk.session.click(desk.program.pixelPoint(6, 11, 32))
         desk.program.wait(lambda: (desk.held(HOTSPOT_X), desk.held(HOTSPOT_Y)) == ('6', '11'), 'the hot spot')
         desk.program.press('Proceed')

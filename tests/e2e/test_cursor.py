@@ -1,4 +1,4 @@
-"""Cursors: opened, given a hot spot by the mouse and by the lists, shown it, and saved; what cannot be one is refused."""
+"""Cursors: opening, setting the hot spot by mouse and by the lists, showing it, saving; icons that are refused."""
 import os
 
 import icons
@@ -25,7 +25,7 @@ def waitForHotspot(desk, x, y):
 
 
 def seesBlink(desk, x, y, start):
-    """That the pixel turns red after `start`, and at last what it was before."""
+    """Checks that the pixel turns red after `start`, and finally has its former colour."""
     point = desk.program.pixelPoint(x, y, SIZE)
     before = desk.session.colorAt(point)
     assert before not in (HOT_RED, HOT_WHITE)
@@ -58,7 +58,7 @@ def test_a_cursor_is_saved_with_the_hot_spot_that_was_clicked_or_chosen(session)
     seesBlink(desk, 7, 9, lambda: session.click(desk.program.pixelPoint(7, 9, SIZE)))
     waitForHotspot(desk, 7, 9)
     readers.assertCursor(saveCursor(desk, 'clicked.cur'), picture, 4, (7, 9))
-    desk.waitForPixel(7, 9, SIZE, picture[9][7])  # a save leaves the Editing Area as it is
+    desk.waitForPixel(7, 9, SIZE, picture[9][7])  # a save does not change the Editing Area
 
     if not desk.program.find(HOTSPOT_X, role='combo box'):
         openPanel(desk)

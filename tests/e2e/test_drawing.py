@@ -1,12 +1,12 @@
-"""Three pictures drawn with mouse and keyboard. What they must become is worked out here, pixel by pixel, from what each
-tool is for; ovals alone come from the measured pictures in tests/data/gdi."""
+"""Three pictures drawn with mouse and keyboard. The expected pictures are computed here, pixel by pixel, from the
+purpose of each tool; only ovals are taken from the measured pictures in tests/data/gdi."""
 import math
 import os
 
 import icons
 
 SIZE = 32
-GROUND = (192, 192, 192)  # shows through transparent pixels
+GROUND = (192, 192, 192)  # visible through transparent pixels
 GOLDEN = os.path.join(os.path.dirname(os.path.realpath(__file__)), '..', 'data', 'gdi')
 CHART = '16-Color Palette'
 CHART_COLUMNS, CHART_ROWS = 8, 2
@@ -64,7 +64,7 @@ def replace(picture, old, new):
 
 
 def golden(name, **wanted):
-    """Box and rows of the measured case that has these values."""
+    """Box and rows of the measured case with these values."""
     with open(os.path.join(GOLDEN, name), encoding='utf-8') as file:
         lines = file.read().splitlines()
     for number, line in enumerate(lines):
@@ -77,7 +77,7 @@ def golden(name, **wanted):
 
 
 def oval(picture, x, y, color, case):
-    """An oval dragged from (x, y); the corner of the drag to it."""
+    """An oval dragged from (x, y), and the last corner of the drag."""
     (left, top, right, bottom), rows = case
     for row, line in enumerate(rows):
         for column, cell in enumerate(line):
@@ -87,7 +87,7 @@ def oval(picture, x, y, color, case):
 
 
 def cutOut(picture, x1, y1, x2, y2):
-    """The content of a box, which is left transparent."""
+    """Removes the content of a box and returns it; the box becomes transparent."""
     content = [row[x1:x2 + 1] for row in picture[y1:y2 + 1]]
     box(picture, x1, y1, x2, y2, None)
     return content
@@ -114,7 +114,7 @@ def turnedRight(content):
 
 
 def rotated(picture, angle):
-    """Each pixel is the one that a turn round the middle finds in the picture."""
+    """Each pixel is the one that a rotation around the centre finds in the picture."""
     middle, t = SIZE // 2, math.radians(angle)
 
     def source(x, y):
@@ -130,13 +130,13 @@ def shifted(picture, dx, dy):
 
 
 def patchwork():
-    """Like nowhere else in it, whichever way it is turned; transparent in places, black in others."""
+    """A pattern without repetition, even when rotated; transparent in places, black in others."""
     def pixel(x, y):
         if (x * 7 + y * 3) % 11 == 0 or x + y < 3:
             return None
         return icons.COLORS_16[(x * x + 3 * y + x * y // 4) % 16]
     picture = mapped(pixel)
-    replace(picture, GROUND, (255, 255, 255))  # silver is what a copy has for transparent
+    replace(picture, GROUND, (255, 255, 255))  # a copy has silver for transparent pixels
     return picture
 
 
@@ -156,7 +156,7 @@ class Artist:
         return self.left + x * self.cell + self.cell // 2, self.top + y * self.cell + self.cell // 2
 
     def corner(self, x, y):
-        """Just right of and below a corner of the grid, still inside at the end of the area."""
+        """The position just right of and below a corner of the grid, inside the area even at its end."""
         last = self.cell * SIZE - 1
         return self.left + min(x * self.cell + 1, last), self.top + min(y * self.cell + 1, last)
 
@@ -196,19 +196,19 @@ class Artist:
             self.session.xdotool('keyup', held)
 
     def dragCorners(self, x1, y1, x2, y2, held=None):
-        """From a corner of the grid to another."""
+        """Drags from one corner of the grid to another."""
         self.drag([self.corner(x1, y1), self.corner((x1 + x2) // 2, (y1 + y2) // 2), self.corner(x2, y2)], held)
 
     def mark(self, x1, y1, x2, y2):
-        """A region round these pixels, both corners included."""
+        """Selects a region around these pixels, both corners included."""
         self.dragCorners(x1, y1, x2 + 1, y2 + 1)
 
     def moveRegion(self, x, y, dx, dy):
-        """Grabs the region at a corner of the grid well inside."""
+        """Drags the region by a corner of the grid inside it."""
         self.dragCorners(x, y, x + dx, y + dy)
 
     def stroke(self, pixels, color):
-        """Waits for each pixel, as positions that follow too fast make gaps."""
+        """Waits for each pixel, because positions that follow too fast leave gaps."""
         self.session.move(self.middle(*pixels[0]))
         self.session.xdotool('mousedown', 1)
         for x, y in pixels:
@@ -221,7 +221,7 @@ class Artist:
         return mapped(lambda x, y: pixels[self.middle(x, y)])
 
     def expect(self, picture, what):
-        """Until the Editing Area shows the picture."""
+        """Waits until the Editing Area shows the picture."""
         wanted = mapped(lambda x, y: picture[y][x] or GROUND)
         last = []
         def isThere():
@@ -234,7 +234,7 @@ class Artist:
             raise AssertionError(f'{problem}; {len(wrong)} pixels differ (x, y, shown, wanted): {wrong[:8]}') from None
 
     def undoAllAndRedoAll(self, steps):
-        """`steps` are the pictures from the baseline to now."""
+        """Undoes and redoes everything; `steps` are the pictures from the baseline to now."""
         for number in range(len(steps) - 1, 0, -1):
             self.program.command('ctrl+z')
             self.expect(steps[number - 1], f'Undo of step {number}')
@@ -285,7 +285,7 @@ def test_a_picture_that_uses_every_tool(session):
         steps.append(copyOf(picture))
 
     artist.pick('red')
-    artist.press('Clear all tools', 'Paint')  # a new icon starts with one selected
+    artist.press('Clear all tools', 'Paint')  # a new icon starts with a tool selected
     artist.stroke([(2, 2), (3, 2), (4, 2)], COLOR['red'])
     box(picture, 2, 2, 4, 2, COLOR['red'])
     step('a stroke of Paint')
@@ -398,7 +398,7 @@ def test_a_picture_that_uses_every_region_command(session):
     steps = [copyOf(picture)]
 
     def merged(what, x, y):
-        """After a click outside the region, at a corner of the grid."""
+        """Merges the region by a click outside it, at a corner of the grid."""
         artist.expect(picture, what)
         session.click(artist.corner(x, y))
         artist.expect(picture, what + ', merged')

@@ -1,5 +1,5 @@
-"""Relief, button frames and disabled images: looked at in their Panels, given up, applied and undone. What each makes
-of an icon is worked out here, pixel by pixel."""
+"""Relief, button frames and disabled images: previewed in their panels, cancelled, applied and undone. The expected
+results are computed here, pixel by pixel."""
 import icons
 import readers
 from forms import ALPHA_REMINDER
@@ -11,7 +11,7 @@ DARK_BELOW = 153
 TICK = 'Use currently selected color (otherwise black)'
 STYLE = 'Style'
 ROUNDS = 4
-STYLES = '1', '2', '3'  # the first one is chosen at the start
+STYLES = '1', '2', '3'  # the first one is selected at the start
 TOOLBAR_BUTTON = 'Buttonize icon'
 DISABLED_MENU = 'Image For Disabled'
 # Colours of the edge to the top left and to the bottom right.
@@ -29,7 +29,7 @@ def blank(size):
 
 
 def islands(size):
-    """Shapes and single pixels in many colours, up to all four edges, with room between them."""
+    """Shapes and single pixels in many colours, up to all four edges, with gaps between them."""
     def pixel(x, y):
         isPainted = (x // 4 + y // 3) % 3 == 0 or x * y % 13 == 5
         return icons.COLORS_16[(x * x + 3 * y + x * y // 4) % 16] if isPainted else None
@@ -63,7 +63,7 @@ def disabled(picture):
 
 
 def line(picture, x1, y1, x2, y2, color):
-    """To the right or down; it ends one pixel short of its second point."""
+    """Draws a line to the right or down, which ends one pixel before its second point."""
     if y1 == y2:
         picture[y1][x1:x2] = [color] * (x2 - x1)
     else:
@@ -72,7 +72,7 @@ def line(picture, x1, y1, x2, y2, color):
 
 
 def box(picture, first, last, color):
-    """The outline of a square, both corners included."""
+    """Draws the outline of a square, both corners included."""
     for at in range(first, last + 1):
         picture[first][at] = picture[last][at] = picture[at][first] = picture[at][last] = color
 
@@ -130,7 +130,7 @@ def expectUntouched(desk, picture, what):
 
 
 def undoAndRedo(desk, before, after, what):
-    """Both by the keys; the icon is as after the effect then."""
+    """Undoes and redoes by keys; then the icon is as after the effect."""
     desk.expectIcon(after, what)
     assert after != before
     desk.program.command('ctrl+z')

@@ -1,4 +1,4 @@
-"""Open an icon, pick a colour, paint, save under a new name, open that file again: by mouse and keyboard."""
+"""Opening an icon, selecting a colour, painting, saving under a new name, opening that file: by mouse and keyboard."""
 import os
 
 import icons
@@ -9,8 +9,8 @@ CHART_COLUMNS, CHART_ROWS = 8, 2
 RED, RED_CELL = (255, 0, 0), (3, 0)
 NAVY, NAVY_CELL = (0, 0, 128), (7, 1)
 GREEN, GREEN_PIXEL = (0, 128, 0), (8, 4)
-BORDER = 4  # transparent pixels round the picture
-GROUND = (192, 192, 192)  # shows through transparent pixels
+BORDER = 4  # transparent pixels around the picture
+GROUND = (192, 192, 192)  # visible through transparent pixels
 
 
 def checkerboard():
@@ -30,7 +30,7 @@ def writeIcon(session, name, picture):
 
 
 def waitForPixel(program, x, y, color):
-    """Until the Editing Area shows that colour."""
+    """Waits until the Editing Area shows that colour."""
     seen = lambda: program.session.colorAt(program.pixelPoint(x, y, SIZE)) == color
     program.wait(seen, f'pixel {x}, {y} in {color}')
 
@@ -42,7 +42,7 @@ def pick(program, cell, color):
 
 
 def paint(program, picture, cell, color, pixels):
-    """Picks a colour and clicks on pixels; `picture` follows."""
+    """Selects a colour and clicks on pixels; `picture` is changed in the same way."""
     pick(program, cell, color)
     for x, y in pixels:
         program.session.click(program.pixelPoint(x, y, SIZE))

@@ -1,4 +1,4 @@
-"""A disk without room: the command tells that it failed, and the file is the one before."""
+"""A full disk: the command reports that it failed, and the file is unchanged."""
 import os
 import subprocess
 import unittest
@@ -6,16 +6,16 @@ import unittest
 import icons
 from forms import ADD_FACE, Desk, read, write
 
-# A disk of its own that only the program sees, with copies of some files, and full up to the last block.
+# A disk that only the program sees, with copies of some files, filled up to the last block.
 DISK = 'mount -t tmpfs -o size=32k tmpfs "$1" && cp "$2"/* "$1" && { cat /dev/zero > "$1/filler" 2> /dev/null; shift 2; exec "$@"; }'
 NAMESPACE = ['unshare', '--mount'] if os.getuid() == 0 else ['unshare', '--user', '--mount', '--map-current-user', '--keep-caps']
 
-# With the icon of the other file the first one needs a block more.
+# With the icon of the other file, the first one needs one more block.
 TARGET, SINGLE = icons.icons((16, 4), (48, 8)), icons.icons((32, 4))
 
 
 def onFullDisk(session):
-    """The command that lets a program see the folder `files` on such a disk."""
+    """The command that runs a program with the folder `files` on such a disk."""
     seeds = os.path.join(session.folder, 'seeds')
     os.mkdir(seeds)
     write(session, '../seeds/target.ico', TARGET)

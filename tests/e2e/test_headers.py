@@ -1,4 +1,4 @@
-"""Files whose directory tells other things than their images hold: shown side by side, and salvaged."""
+"""Files whose directory contradicts their images: shown side by side, and salvaged."""
 import os
 
 import icons
@@ -12,7 +12,7 @@ BY_BITMAP = 'Base on Bitmap Header'
 
 
 def lyingEntries():
-    """One tells 16 colours where 8 bits stand, one another size, and one the truth."""
+    """One entry states 16 colours for 8 bits, one a wrong size, and one is correct."""
     return [icons.entryOf(icons.motif(32, 8), 8, colors=16)._replace(bits=4),
             icons.entryOf(icons.motif(24, 4), 4)._replace(width=16, height=16), icons.entryOf(icons.motif(16, 4), 4)]
 

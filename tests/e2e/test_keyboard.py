@@ -1,4 +1,4 @@
-"""The first road again, with the keyboard alone: a new icon, a colour typed, pixels painted and erased, saved."""
+"""The first use case with the keyboard only: a new icon, a typed colour, painting, erasing and saving."""
 import os
 
 from PIL import Image
@@ -53,5 +53,5 @@ def test_the_keys_come_back_every_time_a_file_was_replaced(session):
     desk.waitForIcon(32, path)
     for _ in range(ROUNDS):
         desk.program.command('ctrl+t')
-        desk.program.chooseFile(path, replace=True)  # the question and the dialog beneath it close at once
+        desk.program.chooseFile(path, replace=True)  # the question and the dialog under it close at once
         desk.program.waitForNoDialog()

@@ -1,4 +1,4 @@
-"""Files of several icons: what is loaded, replaced, added, removed, moved and written out, by mouse and by keyboard, and
+"""Files of several icons: loading, replacing, adding, removing, moving and saving icons, by mouse and by keyboard, and
 what independent programs read afterwards."""
 import os
 
@@ -24,7 +24,7 @@ def writeIcons(session, name, entries, seed=0):
     return write(session, name, icons.icons(*entries, seed=seed))
 
 
-# The main road ---------------------------------------------------------------------------------------------------
+# Main use cases ---------------------------------------------------------------------------------------------------
 
 def test_of_two_loaded_icons_one_replaces_its_entry_and_the_other_goes_into_another_file(session):
     first, second = writeIcons(session, 'first.ico', FIRST), writeIcons(session, 'second.ico', SECOND, seed=5)
@@ -52,14 +52,14 @@ def test_of_two_loaded_icons_one_replaces_its_entry_and_the_other_goes_into_anot
     pictures[1][0][7][5] = pictures[1][0][0][0] = RED
     desk.replaceIn(first, replace=True)
     desk.program.wait(lambda: read(first) != icons.icons(*FIRST), 'the replaced entry')
-    desk.waitForPixel(5, 7, 32, RED)  # a save leaves the Editing Area as it is
+    desk.waitForPixel(5, 7, 32, RED)  # a save does not change the Editing Area
     readers.assertIcons(first, pictures)
     readers.assertKept(first, before[0], changed=[1])
     assert sorted(os.listdir(session.path())) == ['alone.ico', 'first.ico', 'second.ico']
 
 
 def saveAloneAndAdd(desk, target):
-    """An icon of several is saved as one of its own before it goes into another file."""
+    """An icon from a file of several is saved as a single-icon file before it is added to another file."""
     desk.program.command('ctrl+t')
     desk.program.answerBox('Reminder: The original icon file contains multiple icons.')
     alone = desk.session.path('alone.ico')
@@ -208,7 +208,7 @@ def chooseFolder(desk, name):
 # Refusals --------------------------------------------------------------------------------------------------------
 
 def test_what_would_harm_a_file_is_refused(session):
-    in8Bits = icons.entryOf(icons.motif(32, 4, seed=2), 8, icons.COLORS_16 * 16)  # which count as the 16 colours that they are
+    in8Bits = icons.entryOf(icons.motif(32, 4, seed=2), 8, icons.COLORS_16 * 16)  # which are counted as 16 colours
     alike = write(session, 'alike.ico', icons.fileOf([icons.entryOf(icons.motif(32, 4), 4), in8Bits,
                                                       icons.entryOf(icons.motif(16, 4), 4)]))
     single = writeIcons(session, 'single.ico', [(32, 4)])

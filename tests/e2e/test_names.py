@@ -1,4 +1,4 @@
-"""What a screen reader finds: every control under a name that a person understands."""
+"""What a screen reader finds: every control has a name that a user understands."""
 import icons
 
 CONTAINERS = [f'Container {number}' for number in range(1, 7)]

@@ -1,5 +1,5 @@
-"""Icons brought down to 256, 16 and 2 colours, and saved as bitmaps: what the Panel shows, what becomes of the icon,
-and what independent programs read in the files."""
+"""Icons reduced to 256, 16 and 2 colours, and saved as bitmaps: what the panel shows, what the icon is afterwards, and
+what independent programs read from the files."""
 import collections
 import os
 import re
@@ -18,14 +18,14 @@ CONFINE_TO, THRESHOLD = 'Confine to', 'Threshold: (If averaged color value below
 FIRST_THRESHOLD, LOWEST_THRESHOLD, HIGHEST_THRESHOLD = 128, 1, 354
 HAMMERING = (['Page_Down'] * 9 + ['End'] + ['Page_Up'] * 7 + ['Home', 'End', 'Up', 'Up', 'Down'] * 5
              + ['Page_Down', 'Home'] * 4)
-LEVEL_ENDS = (64, 0), (159, 128), (223, 192), (255, 255)  # which level a channel up to that value is brought to
+LEVEL_ENDS = (64, 0), (159, 128), (223, 192), (255, 255)  # the level of a channel up to that value
 # The shares of an error, in parts of 32: places to the right, rows further, share.
 WEIGHTS = (1, 0, 8), (2, 0, 4), (-2, 1, 2), (-1, 1, 4), (0, 1, 8), (1, 1, 4), (2, 1, 2)
-# From which level of sixteen a pixel is white, by column and by row from the bottom.
+# The level of sixteen from which a pixel is white, by column and by row from the bottom.
 ORDERED = (1, 9, 3, 11), (13, 5, 15, 7), (4, 12, 2, 10), (16, 8, 14, 6)
-# Less than what results without a dither.
+# Less than the result without dithering.
 OPTIMAL_ERROR, DITHERED_ERROR = 2, 12
-PALETTE_STEP = 64  # the widest one between entries of the system's palette
+PALETTE_STEP = 64  # the largest one between entries of the system palette
 Run = collections.namedtuple('Run', 'menu caption methods colors bits')
 RUNS = [Run('Confine Colors To 256', 'Confine Colors To 256-Color Palette', ('Optimal', 'System'), 256, 8),
         Run('Confine Colors To 16', 'Confine Colors To 16-Color Palette', ('Optimaized', 'Nearest', 'Standard VGA'),
@@ -43,7 +43,7 @@ COLORS_IN_CHART = {'white': ((0, 0), WHITE), 'teal': ((6, 1), (0, 128, 128)), 'l
 # What the methods make -----------------------------------------------------------------------------------------------
 
 def shades(size):
-    """Twice as many colours as a palette of 256 has, each on two pixels, on fewer where it is transparent."""
+    """Twice as many colours as a palette of 256 holds, each on two pixels, or fewer where it is transparent."""
     def pixel(x, y):
         isPainted = (x * 7 + y * 3) % 11 != 0 and x + y > 2
         return (x * 8, y // 2 * 16, (x * 5 + y // 2 * 40) % 256) if isPainted else None
@@ -51,12 +51,12 @@ def shades(size):
 
 
 def painted(image, picture):
-    """An image where the picture is painted."""
+    """The image where the picture is painted, transparent elsewhere."""
     return [[color if pixel else None for color, pixel in zip(row, like)] for row, like in zip(image, picture)]
 
 
 def cutOff(picture, threshold):
-    """Black paint where the mean channel is below the threshold, nothing elsewhere."""
+    """Black where the mean of the channels is below the threshold, transparent elsewhere."""
     return [[BLACK if pixel and sum(pixel) / 3 < threshold else None for pixel in row] for row in picture]
 
 
@@ -65,7 +65,7 @@ def nearest(picture):
 
 
 def snapped(color):
-    """One of the sixteen colours by levels, channel by channel."""
+    """One of the sixteen colours, by the level of each channel."""
     r, g, b = (next(level for last, level in LEVEL_ENDS if value <= last) for value in color)
     if (r, g, b) in icons.COLORS_16:
         return r, g, b
@@ -88,7 +88,7 @@ def quotient(number, divisor):
 
 
 def weighted(picture):
-    """Black and white with the error handed on, row by row from the bottom."""
+    """Black and white with error diffusion, row by row from the bottom."""
     rows = [[sum(pixel) // 3 for pixel in row] for row in reversed(imageOf(picture))]
     size = len(rows)
     threshold = sum(map(sum, rows)) // size ** 2
@@ -104,7 +104,7 @@ def weighted(picture):
 
 
 def ordered(picture):
-    """Black and white by a fixed pattern."""
+    """Black and white with a fixed pattern."""
     last = len(picture) - 1
     def pixel(x, y, color):
         return WHITE if sum(color) // 3 // 16 + 1 >= ORDERED[x % 4][(last - y) % 4] else BLACK
@@ -120,20 +120,20 @@ def distance(color, other):
 
 
 def isNearestOfSixteen(picture, result):
-    """Whether each pixel has become that one of the sixteen colours that it is nearest to."""
+    """True if each pixel has become the nearest of the sixteen colours."""
     least = lambda pixel: min(distance(pixel, color) for color in icons.COLORS_16)
     return all(like in icons.COLORS_16 and distance(pixel, like) == least(pixel)
                for pixel, like in pairs(picture, result))
 
 
 def isMatched(picture, result, farthest):
-    """Whether equal pixels have become equal ones, no channel by more than that."""
+    """True if equal pixels are still equal, and no channel has changed by more than the limit."""
     return (len(set(pairs(picture, result))) == len(colorsOf(picture) - {None})
             and max(abs(a - b) for pixel, like in pairs(picture, result) for a, b in zip(pixel, like)) <= farthest)
 
 
 def meanError(picture, other):
-    """How far the means of blocks of 4 x 4 are apart, per channel: a dither keeps them near."""
+    """The difference between the means of blocks of 4 x 4 pixels, per channel: a dither keeps it small."""
     def means(rows):
         return [sum(rows[y + dy][x + dx][channel] for dy in range(4) for dx in range(4)) / 16
                 for y in range(0, len(rows), 4) for x in range(0, len(rows), 4) for channel in range(3)]
@@ -162,7 +162,7 @@ def expectSamples(desk, picture, what):
 
 
 def sampleThat(desk, picture, holds, what):
-    """The picture of the samples once this holds for it."""
+    """The picture of the samples, once the condition holds for it."""
     def seen():
         image, mask = desk.sample('Image', SIZE), desk.sample('Mask', SIZE)
         result = painted(image, picture)
@@ -181,12 +181,12 @@ def expectReducedForGood(desk, result):
     desk.expectIcon(result, 'the reduced icon')
     assert not desk.isPossible('Undo')
     desk.program.command('ctrl+z')
-    desk.program.press('Container 1')  # whatever the key does has been done by then
+    desk.program.press('Container 1')  # the action of the key is finished by then
     desk.expectIcon(result, 'the reduced icon after Undo')
 
 
 def saveAndCorrect(desk, run, path, result):
-    """Saved as true colour first, then with the header entry put right."""
+    """First saved as true colour, then with the header entry corrected."""
     assert len(colorsOf(imageOf(result))) <= run.colors
     desk.save(path)
     readers.assertIcons(path, [(result, 24)])
@@ -327,8 +327,7 @@ def test_clicks_in_quick_succession_on_lists_and_close(session):
 # Bitmaps -------------------------------------------------------------------------------------------------------------
 
 def bitmapByImageMagick(path):
-    """It finds fault with the length that the header tells where there is a palette, and reads on; its opacity is of no
-    meaning then."""
+    """It warns about the length in the header of files with a palette, and continues; its opacity is useless."""
     with tempfile.TemporaryDirectory(prefix='glimmerpane.') as folder:
         picture = os.path.join(folder, 'picture.png')
         done = subprocess.run(['/usr/bin/convert', 'bmp:' + path, 'png24:' + picture], capture_output=True, text=True)
@@ -362,7 +361,7 @@ def test_bitmaps_of_each_depth_are_read_alike(session):
         assert bitsOf(path) == bits
         pillow = readers.open32(path)
         readers.assertSame([bitmapByImageMagick(path)], [pillow], 'ImageMagick', path)
-        if bits == 8:  # it gets a palette of its own
+        if bits == 8:  # it gets its own palette
             assert len(colorsOf(pillow)) <= 256
             assert meanError(pillow, wanted) < OPTIMAL_ERROR
         else:
@@ -374,7 +373,7 @@ def test_bitmaps_of_each_depth_are_read_alike(session):
 def test_a_bitmap_is_given_up_at_the_question_and_in_the_file_dialog_and_named_by_it(session):
     desk = PanelDesk(session)
     desk.start()
-    desk.openContent('a.ico', icons.icons((SIZE, 4)), SIZE)  # opened by the dialog, which comes back to its folder
+    desk.openContent('a.ico', icons.icons((SIZE, 4)), SIZE)  # opened by the dialog, which returns to its folder
     desk.program.menu('File', 'Save As Bitmap')
     desk.program.answerBox(BACKGROUND_QUESTION, 'alt+n')
     desk.program.menu('File', 'Save As Bitmap')

@@ -33,7 +33,7 @@ inline constexpr PixelLook kPixelLooks[] = {
     {'^', kWhite, kWhite},                        // inverts the ground
     {'~', rgb(32, 96, 152), kWhite},              // changes the ground
     {'/', rgb(32, 96, 152), rgb(128, 128, 128)},  // a Mask that is neither black nor white
-    {'-', kBlack, rgb(128, 128, 128)},            // the same, the image blacked out
+    {'-', kBlack, rgb(128, 128, 128)},            // the same with a black image
 };
 
 inline IconImage iconOf(const Rows& rows) {

@@ -23,7 +23,7 @@ inline void makeReadOnly(const std::string& path) {
   std::filesystem::permissions(path, std::filesystem::perms::owner_read);
 }
 
-// What a picture and its Mask look like on the program's ground.
+// How a picture and its mask look on the program's ground.
 inline Surface onGround(const Surface& image, const Surface& mask) {
   Surface icon(image.width(), image.height());
   for (int y = 0; y < icon.height(); ++y)
@@ -39,7 +39,7 @@ class BrowserTest : public FilesTest {
   std::string path;
   int changes = 0, unloads = 0;
 
-  // Shows a file as from container 3 on the edit face.
+  // Shows a file as if opened from container 3, on the edit face.
   MultiIconBrowser& browse(const Bytes& bytes, bool addFace = false) {
     path = folder.write("tools.ico", bytes);
     exchange.gMultiIconFile = path;
@@ -58,7 +58,7 @@ class BrowserTest : public FilesTest {
     return *browser;
   }
   bool listsNothingAndUnloaded() const { return unloads == 1 && browser->lisIcons().empty(); }
-  // Whether the preview shows entry `index` of a file.
+  // True if the preview shows entry `index` of a file.
   bool previews(const Bytes& file, int index) const {
     const Decoded entry = decode(file, index);
     return samePixels(browser->picIconInFile(), onGround(entry.image, entry.mask));

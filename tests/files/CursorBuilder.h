@@ -1,4 +1,4 @@
-// Builds cursor files byte by byte, with every field open to lies. Shares nothing with the program's own writers.
+// Builds cursor files byte by byte; every field can be given a wrong value. Shares no code with the program's writers.
 #pragma once
 
 #include "files/IcoBuilder.h"
@@ -8,13 +8,13 @@ namespace gp::test {
 struct CursorFile {
   Picture picture;
   int hotspotX = 0, hotspotY = 0;
-  int colorCount = 0;  // bColorCount, which readers of cursors must not believe
+  int colorCount = 0;  // bColorCount, which readers of cursors must ignore
   int type = 2;
   int count = 1;
   int width = 32, height = 32;
-  std::uint32_t offset = 22;  // the image follows the entry, or zeros up to here
+  std::uint32_t offset = 22;  // the image follows the entry directly, or zeros up to this offset
   std::optional<std::uint32_t> bytesInRes;
-  std::optional<Bytes> image;  // in place of the picture
+  std::optional<Bytes> image;  // replaces the picture
 };
 
 inline CursorFile cursorOf(const Picture& picture, int hotspotX = 0, int hotspotY = 0) {

@@ -1,4 +1,4 @@
-// Decoding in one call, for tests.
+// Decodes an entry in one call, for tests.
 #pragma once
 
 #include "files/IcoBuilder.h"

@@ -1,5 +1,5 @@
-// The room of files over the real rooms to its left, with scripted ports, a folder of its own, and forms in which the
-// user does what a test says.
+// The files room over the real rooms to its left, with scripted ports, a temporary folder, and forms in which the user
+// does what a test defines.
 #pragma once
 
 #include "document/Containers.h"
@@ -14,7 +14,7 @@
 
 namespace gp::test {
 
-// Without a word the user closes the browser at once.
+// By default the user closes the browser at once.
 class FakeFileForms : public FileForms {
  public:
   std::function<void()> onMultiIcon, onHeaderDiff;
@@ -71,20 +71,20 @@ class FilesTest : public testing::Test {
     files.iconFiles.doOpenIconFileQuietly(path, ok);
     return ok;
   }
-  // Opens a built file without reminders in the way.
+  // Opens a built file with the reminders off.
   std::string given(const Entry& entry, const std::string& name = "given.ico") {
     const std::string path = folder.write(name, build(entry));
     EXPECT_TRUE(openQuietly(path));
     editor.calls.clear();
     return path;
   }
-  // The editor's calls but for those that only enable commands.
+  // The calls of Editor, except those that only update commands.
   std::vector<std::string> callsBesidesEnabling() const {
     std::vector<std::string> calls = editor.calls;
     std::erase(calls, "UpdateCommands");
     return calls;
   }
-  // Whether the current container holds what is on the Editing Area.
+  // True if the current container holds what is on the Editing Area.
   bool panelIsUpToDate() const {
     const auto container = static_cast<std::size_t>(state.mCurContainer);
     return samePixels(state.picPanelImage.at(container), state.picImage) &&

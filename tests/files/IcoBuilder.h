@@ -1,5 +1,5 @@
-// Builds icon files byte by byte for the reading tests, with every field open to lies. Shares nothing with the
-// program's own writers.
+// Builds icon files byte by byte for the tests of readers; every field can be given a wrong value. Shares no code with
+// the program's writers.
 #pragma once
 
 #include "support/TempFolder.h"
@@ -31,14 +31,14 @@ struct Rgb {
   int r = 0, g = 0, b = 0, a = 255;
 };
 
-// A picture by its depth and by what stands at x, y (y from the top).
+// A picture by its depth and its value at x, y (y from the top).
 struct Picture {
   int width = 32, height = 32, bits = 4;
   std::vector<Rgb> palette;
   std::function<int(int, int)> index = [](int, int) { return 0; };
   std::function<Rgb(int, int)> color = [](int, int) { return Rgb{}; };
   std::function<bool(int, int)> transparent = [](int, int) { return false; };
-  // What the bitmap header tells where it is not the truth.
+  // Fields of the bitmap header that are wrong on purpose.
   std::optional<int> headerBits, headerHeight, headerWidth;
   std::uint32_t headerSize = 40, compression = 0, colorsUsed = 0;
 };
@@ -69,7 +69,7 @@ inline Bytes paletteBytes(const Picture& p) {
   return out;
 }
 
-// Rows of `bits` a pixel, bottom row first, padded to 4 bytes.
+// Rows of `bits` per pixel, bottom row first, padded to 4 bytes.
 inline Bytes packedRows(int width, int height, int bits, const std::function<int(int, int)>& value) {
   Bytes out;
   for (int y = height - 1; y >= 0; --y) {
@@ -114,7 +114,7 @@ inline Bytes imageBytes(const Picture& p) {
 struct Entry {
   int width = 32, height = 32, colorCount = 0, bitCount = 0;
   Bytes image;
-  std::optional<std::uint32_t> bytesInRes, offset;  // where they are lies
+  std::optional<std::uint32_t> bytesInRes, offset;  // wrong values, if any
 };
 
 inline Entry entryOf(const Picture& p, int colorCount, int bitCount) {
@@ -126,13 +126,13 @@ inline Entry entryOf(const Picture& p, int colorCount, int bitCount) {
   e.image = imageBytes(p);
   return e;
 }
-// With the directory telling the truth.
+// With a correct directory.
 inline Entry entryOf(const Picture& p) { return entryOf(p, p.bits == 1 ? 2 : p.bits == 4 ? 16 : 0, p.bits); }
 
 struct IcoFile {
   std::vector<Entry> entries;
   int reserved = 0, type = 1;
-  std::optional<int> count;  // where it is a lie
+  std::optional<int> count;  // the wrong value, if any
 };
 
 inline Bytes build(const IcoFile& file) {
@@ -154,7 +154,7 @@ inline Bytes build(const IcoFile& file) {
 }
 inline Bytes build(const Entry& entry) { return build(IcoFile{{entry}, 0, 1, {}}); }
 
-// Pictures for when it does not matter what is on them: every value occurs, no row looks like another.
+// Pictures whose content does not matter: every value occurs, and no two rows are equal.
 inline Picture anyPicture(int size, int bits) {
   Picture p;
   p.width = p.height = size;
@@ -167,7 +167,7 @@ inline Picture anyPicture(int size, int bits) {
 
 inline Entry anyEntry(int size, int bits) { return entryOf(anyPicture(size, bits)); }
 
-// A folder of built files, gone after its test.
+// A folder of built files, removed after its test.
 class IconFolder : public TempFolder {
  public:
   std::string path(const std::string& name) const { return file(name); }

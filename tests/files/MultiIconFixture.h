@@ -10,7 +10,7 @@ namespace gp::test {
 
 inline IcoFile fileOf(std::vector<Entry> entries) { return IcoFile{std::move(entries), 0, 1, {}}; }
 
-// Of a file that an icon in a container came from; its ref counts from 1.
+// The file that the icon in a container came from; its Ref counts from 1.
 inline std::string openedInPanel(int ref) {
   return "File being added to is currently opened in Icons Panel ref " + std::to_string(ref) +
          ".\n\nPlease unload that icon first  (by using \"Clear Container\"\nsubmenu of \"Edit\" main menu).\n";
@@ -19,7 +19,7 @@ inline std::string openedInPanel(int ref) {
 class MultiIconTest : public FilesTest {
  protected:
   const std::string scratch = folder.path("gptmp.ico");
-  // What he does each time the browser comes up; in the end he closes it.
+  // What the user does each time the browser is shown; at the end the browser is closed.
   std::deque<std::function<void()>> user;
 
   MultiIconTest() {
@@ -44,7 +44,7 @@ class MultiIconTest : public FilesTest {
     user.push_back([=, this] { answers(answer); });
   }
 
-  // The entry of a file becomes the Current Icon as after a load through the browser.
+  // The entry of a file becomes the Current Icon, as after a load through the browser.
   std::string givenEntry(const IcoFile& file, int index, const std::string& name = "multi.ico") {
     const std::string path = folder.write(name, build(file));
     holdEntry(path, file, index);
@@ -75,18 +75,18 @@ class MultiIconTest : public FilesTest {
     EXPECT_EQ(state.picImage.GetPixel(3, 3), kWhite) << "the region is part of the icon";
     EXPECT_TRUE(panelIsUpToDate());
   }
-  // Nothing of a command is left beside what the user asked for.
+  // After a command nothing remains but what the user asked for.
   bool scratchIsGone() const { return !std::filesystem::exists(scratch); }
 };
 
-// A true colour picture with one pixel of its own.
+// A true colour picture with a different pixel.
 inline Picture markedPicture(int size, int bits, const Rgb& mark) {
   Picture picture = anyPicture(size, bits);
   picture.color = [color = picture.color, mark](int x, int y) { return x == 1 && y == 0 ? mark : color(x, y); };
   return picture;
 }
 
-// The same with what a file keeps of alpha: none where the picture is transparent.
+// The same with the alpha values that a file keeps: 0 where the picture is transparent.
 inline Picture withSavedAlpha(Picture picture) {
   picture.color = [color = picture.color, transparent = picture.transparent](int x, int y) {
     Rgb c = color(x, y);
@@ -96,7 +96,7 @@ inline Picture withSavedAlpha(Picture picture) {
   return picture;
 }
 
-// All white where it is opaque, and written as such.
+// White wherever it is opaque, and written like that.
 inline Picture whitePicture(int size) {
   Picture picture = blackAndWhitePicture(size);
   picture.index = [](int, int) { return 1; };

@@ -1,5 +1,5 @@
-// The obvious reader of icon images: one byte at a time from a position that moves on, one pixel at a time. The
-// program's row readers must equal it.
+// A simple reader of icon images: one byte at a time, one pixel at a time. The row readers of the program must give the
+// same result.
 #pragma once
 
 #include "files/format/IcoDirectory.h"

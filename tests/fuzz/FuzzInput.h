@@ -1,4 +1,4 @@
-// What the fuzz targets share: files in memory, choices taken from the input, and what must hold.
+// Shared by the fuzz targets: files in memory, choices taken from the input, and assertions.
 #pragma once
 
 #include <cstddef>
@@ -14,13 +14,13 @@ namespace gp::fuzz {
 
 using Bytes = std::vector<std::uint8_t>;
 
-// A broken promise counts like a crash.
+// A failed assertion counts like a crash.
 inline void require(bool holds) {
   if (!holds) __builtin_trap();
 }
 
-// The choices of a run: the last bytes of the input, from the back. They are part of the file under test too, where
-// they stand behind what most files use; so every file of a corpus is an input as it is.
+// The choices of a run: the last bytes of the input, from the end. They are part of the file under test too, after the
+// part that most files use; so every file of a corpus is a valid input.
 class Choices {
  public:
   Choices(std::span<const std::uint8_t> input, std::size_t most) : input_(input), left_(most) {}
@@ -33,7 +33,7 @@ class Choices {
     --left_;
     return byte;
   }
-  // 0 to count - 1.
+  // A number from 0 to count - 1.
   int below(int count) { return next() % count; }
 
  private:
@@ -41,8 +41,8 @@ class Choices {
   std::size_t left_;
 };
 
-// A folder of this process alone, gone with it. In memory where there is some: a disk may take milliseconds for each
-// file that is written again.
+// A folder of this process, removed at its end. In memory if possible: on a disk, each file that is rewritten may take
+// milliseconds.
 class ScratchFolder {
  public:
   ScratchFolder() { std::filesystem::create_directory(folder_); }
@@ -54,7 +54,7 @@ class ScratchFolder {
   ScratchFolder& operator=(const ScratchFolder&) = delete;
 
   std::string path(const std::string& name) const { return folder_ + "/" + name; }
-  // Writes the file anew.
+  // Writes the file again.
   std::string holding(const std::string& name, std::span<const std::uint8_t> content) const {
     std::ofstream(path(name), std::ios::binary)
         .write(reinterpret_cast<const char*>(content.data()), static_cast<std::streamsize>(content.size()));

@@ -1,5 +1,5 @@
-// A user of the forms on icon files whose every answer is taken from the input, and the ports through which the rules
-// under test reach him.
+// A user of the forms on icon files whose answers are taken from the input, and the ports that pass these answers to
+// the code under test.
 #pragma once
 
 #include "../support/FakeClipboard.h"
@@ -36,7 +36,7 @@ class UserBoxes : public MessageBoxes {
   bool agreed_ = false;
 };
 
-// Files are saved under one name, and split into the folder of the file itself.
+// Files are saved under one name, and split into the folder of the file.
 class UserDialogs : public FileDialogs {
  public:
   UserDialogs(Choices& choices, const ScratchFolder& folder) : choices_(choices), folder_(folder) {}
@@ -63,7 +63,7 @@ class NoPump : public MessagePump {
   void wait(int) override {}
 };
 
-// The state of the whole program takes longer to build than a run takes, and the forms on icon files only read it.
+// Creating the state of the whole program takes longer than a run, and the forms on icon files only read it.
 inline EditState& sharedState() {
   static EditState state;
   return state;

@@ -1,4 +1,4 @@
-// Cursor files: the probe's answer, and the picture loaded from what it takes for a cursor and from what it does not.
+// Cursor files: the result of the probe, and the picture decoded, whether the probe accepts the file or not.
 #include "FuzzInput.h"
 #include "files/cursor/CursorLoading.h"
 #include "files/cursor/CursorProbe.h"

@@ -1,4 +1,4 @@
-// Icon files: directory, probe, and every entry decoded by its own size and as 32x32.
+// Icon files: directory, probe, and every entry decoded with its stated size and as 32x32.
 #include "FuzzInput.h"
 #include "files/format/IconDecoder.h"
 #include "files/format/IconProbe.h"
@@ -9,7 +9,7 @@ namespace {
 
 using gp::fuzz::require;
 
-// A file may tell more entries than it is worth decoding.
+// A file may state more entries than are worth decoding.
 constexpr int kMostEntries = 6;
 
 void decodeAs(const gp::IconFile& file, const gp::IconEntry& entry, int width, int height) {

@@ -1,5 +1,5 @@
-// frmGPMultiIcon's rules over a file on disk: every entry clicked, then buttons pressed as the input says. The file
-// changes only after a Yes, and it stays one that can be read.
+// The logic of frmGPMultiIcon on a file on disk: every entry is clicked, then buttons are pressed as the input selects.
+// The file changes only after a Yes, and remains readable.
 #include "FuzzUser.h"
 #include "files/browser/MultiIconBrowser.h"
 #include "files/format/IconArrays.h"
@@ -14,7 +14,7 @@ using gp::fuzz::require;
 using gp::fuzz::User;
 
 constexpr std::size_t kMostChoices = 24;
-constexpr std::size_t kLargestFile = 1 << 14;  // a long one tells no more and costs much
+constexpr std::size_t kLargestFile = 1 << 14;  // a long file finds no more and takes long
 constexpr int kMostClicks = 24;
 constexpr std::size_t kMostSplit = 12;        // files that one split may write
 constexpr std::size_t kLargestSum = 1 << 20;  // of the images, which may share their bytes
@@ -36,7 +36,7 @@ void add(Browser& browser, Choices& choices) {
 }
 
 using Press = void (*)(Browser& browser, Choices& choices);
-// What can be pressed on a face, and what on the pane that hides it.
+// The actions available on a face, and on the pane that covers it.
 constexpr Press kFacePresses[] = {
     [](Browser& browser, Choices&) { browser.cmdRemove(); },
     [](Browser& browser, Choices&) { browser.cmdReposition(); },

@@ -1,5 +1,5 @@
-// frmGPHeaderDiff's rules over a file on disk: every entry clicked by either kind of header, then salvaged to another
-// file. The file itself never changes, and what was salvaged holds the same images.
+// The logic of frmGPHeaderDiff on a file on disk: every entry is clicked with either kind of header, then the file is
+// salvaged to another one. The original file never changes, and the salvaged file holds the same images.
 #include "FuzzUser.h"
 #include "files/browser/HeaderDiff.h"
 #include "files/format/IconArrays.h"
@@ -14,7 +14,7 @@ using gp::fuzz::require;
 using gp::fuzz::User;
 
 constexpr std::size_t kMostChoices = 8;
-constexpr std::size_t kLargestFile = 1 << 14;  // a long one tells no more and costs much
+constexpr std::size_t kLargestFile = 1 << 14;  // a long file finds no more and takes long
 constexpr std::size_t kLargestSum = 1 << 20;   // of the images, which may share their bytes
 constexpr int kMostClicks = 6;
 

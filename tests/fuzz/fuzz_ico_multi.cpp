@@ -1,6 +1,6 @@
-// Files of several icons as arrays: whatever is replaced, put in, taken out, put into another order or repaired, the
-// rest stays as it was, and the file written at the end reads back as what was meant. What was meant is kept beside it
-// in the plainest way.
+// Files of several icons as arrays: when images are replaced, inserted, removed, reordered or salvaged, the others do
+// not change, and the file written at the end reads back as expected. The expected content is kept beside it in a
+// simple form.
 #include "FuzzInput.h"
 #include "files/browser/MultiIconListing.h"
 #include "files/format/DepthTexts.h"
@@ -18,7 +18,8 @@ using gp::fuzz::Choices;
 using gp::fuzz::require;
 
 constexpr std::size_t kMostChoices = 48;
-constexpr std::size_t kLargestMeant = 1 << 18;  // entries may share bytes, so that few bytes tell of large files
+constexpr std::size_t kLargestMeant =
+    1 << 18;  // entries may share bytes, so that a small file can describe a large one
 constexpr std::size_t kDirSize = 6;
 constexpr std::size_t kEntrySize = 16;
 constexpr int kRefsThatRead = 99;
@@ -102,7 +103,7 @@ void reorder(gp::IconArrays& arrays, MeantFile& meant, Choices& choices) {
   meant = std::move(ordered);
 }
 
-// After a repair every image with a bitmap header is told of as that says, and a second one finds nothing to do.
+// After a salvage every image with a bitmap header is described by that header, and a second salvage changes nothing.
 void salvage(gp::IconArrays& arrays, MeantFile& meant, Choices&) {
   gp::salvageEntries(arrays);
   for (std::size_t i = 0; i < meant.size(); ++i) {
@@ -118,7 +119,7 @@ void salvage(gp::IconArrays& arrays, MeantFile& meant, Choices&) {
 constexpr void (*kUpdates[])(gp::IconArrays&, MeantFile&, Choices&) = {removeOne, reorder, replaceOne, insertOne,
                                                                        salvage};
 
-// Images behind one another, in the order of the directory and right after it.
+// The images follow the directory without gaps, in its order.
 void requireLaidOut(const gp::IconArrays& arrays) {
   std::size_t running = kDirSize + arrays.entries.size() * kEntrySize;
   for (const gp::IconEntry& entry : arrays.entries) {

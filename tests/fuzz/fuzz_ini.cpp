@@ -1,4 +1,4 @@
-// Settings files and the texts that come from outside: profile files, paths, filters and typed numbers.
+// Settings files, and other texts from outside: profile files, paths, filters and typed numbers.
 #include "FuzzInput.h"
 #include "platform/dialogs/clsGPDialog.h"
 #include "platform/text/FixedText.h"
@@ -13,7 +13,7 @@
 
 namespace {
 
-// Every option that is saved reads and writes the file again, so a long one costs much and tells no more.
+// Each option that is saved reads and writes the file again, so a long file takes long and finds no more.
 constexpr std::size_t kLargestSettings = 2048;
 
 void useSettings(const std::string& file) {

@@ -1,5 +1,5 @@
-// Stands in for libFuzzer's main: gives each file named on the command line, or found in a folder named there, to the
-// target once.
+// Replaces the main function of libFuzzer: passes each file named on the command line, or found in a folder named
+// there, to the target once.
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>

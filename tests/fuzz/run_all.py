@@ -1,11 +1,12 @@
 #!/usr/bin/python3
-"""Gives every fuzz target its seeds, the public corpus where it is there, and a short run of mutations.
+"""Runs every fuzz target on its seeds, on the public corpus if there is one, and on a short series of mutations.
 
     tests/fuzz/run_all.py FOLDER-WITH-TARGETS
 
-fuzz_<kind>[_more] takes the seeds of its name and of its kind in tests/fuzz/seeds, tests/fuzz/<kind>.dict and the
-corpus folder <kind>.
-The runs start from a fixed seed, so that a failure comes again. Prints PASS or FAIL per target and the counts last.
+fuzz_<kind>[_more] uses the seeds of its name and of its kind in tests/fuzz/seeds, tests/fuzz/<kind>.dict and the corpus
+folder <kind>.
+The mutations start from a fixed seed, so that failures can be reproduced. Prints PASS or FAIL per target; the last
+line counts them.
 """
 import concurrent.futures
 import glob
@@ -17,7 +18,7 @@ import tempfile
 HERE = os.path.dirname(os.path.realpath(__file__))
 CORPUS = os.environ.get('GLIMMERPANE_CORPUS', os.path.join(HERE, '..', '..', '..', 'shared', 'corpus'))
 RUNS = 20000
-SECONDS = 20          # a target that is slower than RUNS in this time has done enough
+SECONDS = 20          # a target that is slower than RUNS stops after this time
 LONGEST_INPUT = 65536
 LARGEST_BLOCK_MB = 64  # no single allocation beyond this for an input below LONGEST_INPUT
 MEMORY_MB = 1024       # includes the sanitizers' own
@@ -26,7 +27,7 @@ GRACE_SECONDS = 60
 
 
 def kind(name):
-    """The kind of files that the target `name` is given."""
+    """The kind of files for the target `name`."""
     return name.split('_')[0]
 
 
@@ -58,7 +59,7 @@ def run(program):
 
 
 def executed(output):
-    """How many inputs the target really saw."""
+    """The number of inputs that the target has run."""
     lines = [line for line in output.splitlines() if 'number_of_executed_units' in line]
     return int(lines[-1].split()[-1]) if lines else 0
 

@@ -10,7 +10,7 @@
 namespace gp::test {
 namespace {
 
-// Writes down what is shown, with the file that it is shown for.
+// Records which form is shown, and for which file.
 class RecordingForms : public FileForms {
  public:
   explicit RecordingForms(MultiIconExchange& exchange) : exchange_(exchange) {}
@@ -56,7 +56,7 @@ TEST_F(EnquiryTest, TheHeadersOfADiscrepantFileAreShown) {
   EXPECT_EQ(pump.pumps, 1);
 }
 
-TEST_F(EnquiryTest, AFileThatIsGoneIsTold) {
+TEST_F(EnquiryTest, AFileThatIsGoneIsReported) {
   makeIcon(folder.file("gone.ico"));
   record().fromMultiIconFile = true;
   for (void (Enquiry::*entry)() : {&Enquiry::showOriginalHeaders, &Enquiry::showIconsInFile}) {

@@ -44,7 +44,7 @@ Bytes joined(std::initializer_list<Bytes> parts) {
   return all;
 }
 
-// Both headers of a file below 256 bytes: size as told, start of the pixels, width, height, bits.
+// Both headers of a file below 256 bytes: its stated size, start of the pixels, width, height, bits.
 Bytes headers(std::uint8_t size, std::uint8_t start, std::uint8_t width, std::uint8_t height, std::uint8_t bits) {
   return joined({{'B', 'M', size, 0, 0, 0, 0, 0, 0, 0, start, 0, 0, 0},
                  {40, 0, 0, 0, width, 0, 0, 0, height, 0, 0, 0, 1, 0, bits, 0},

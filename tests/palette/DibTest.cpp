@@ -9,7 +9,7 @@
 namespace gp {
 namespace {
 
-// Pixels that tell where they stand: red the column, green the row from the top.
+// Pixels that state their place: red is the column, green the row from the top.
 Surface numbered(int width, int height) {
   Surface picture(width, height);
   for (int y = 0; y < height; ++y)

@@ -34,7 +34,7 @@ std::vector<Bytes> indicesOf(const SlowPicture& picture) {
   return rows;
 }
 
-// With this much red it is just nearer to black, with one more nearer to white.
+// With this value of red it is just nearer to black, with one more nearer to white.
 constexpr int kMostRedOfBlack = 127;
 SlowColor yellowish(int red) { return {red, 255, 0}; }
 SlowColor red(int level) { return {level, 0, 0}; }
@@ -57,7 +57,7 @@ TEST(Dithering, ColorsOfThePaletteSpreadNothing) {
 TEST(Dithering, AnErrorOfThreeIsNotSpreadAndOneOfFourIs) {
   EXPECT_EQ(indicesOf({{red(3), yellowish(kMostRedOfBlack)}}), (std::vector<Bytes>{{0, 0}}));
   EXPECT_EQ(indicesOf({{red(4), yellowish(kMostRedOfBlack)}}), (std::vector<Bytes>{{0, 1}}));
-  // The channels count together.
+  // All channels count together.
   EXPECT_EQ(indicesOf({{{3, 0, 1}, yellowish(kMostRedOfBlack)}}), (std::vector<Bytes>{{0, 1}}));
 }
 
@@ -68,10 +68,10 @@ TEST(Dithering, TheNextPixelTakesSevenSixteenthsTruncated) {
 }
 
 TEST(Dithering, TheShareBehindTheFirstPixelIsLost) {
-  // Of 48 the pixel above takes 15; 9 more have no place.
+  // Of 48 the pixel above gets 15; 9 more are discarded.
   EXPECT_EQ(indicesOf({{red(48)}, {yellowish(112)}}), (std::vector<Bytes>{{0}, {0}}));
   EXPECT_EQ(indicesOf({{red(48)}, {yellowish(113)}}), (std::vector<Bytes>{{0}, {1}}));
-  // Nor does the end of the row take them: it gets 9 of the 21 that its neighbour got.
+  // Nor does the end of the row get them: it gets 9 of the 21 that its neighbour got.
   const SlowRow dark(3);
   EXPECT_EQ(indicesOf({{red(48), {}, yellowish(118)}, dark})[0], (Bytes{0, 0, 0}));
   EXPECT_EQ(indicesOf({{red(48), {}, yellowish(119)}, dark})[0], (Bytes{0, 0, 1}));
@@ -79,7 +79,7 @@ TEST(Dithering, TheShareBehindTheFirstPixelIsLost) {
 
 TEST(Dithering, TheRowAboveTakesThreeFiveAndOneSixteenth) {
   const auto above = [](const SlowRow& row) { return indicesOf({{{}, red(48), {}}, row})[1]; };
-  // 48 gives 21 to the right one, and 9, 15 and 3 to those above; the 21 give 3 and 6 to the last two of them.
+  // 48 gives 21 to the right pixel, and 9, 15 and 3 to those above; the 21 give 3 and 6 to the last two of them.
   EXPECT_EQ(above({yellowish(118), {}, {}})[0], 0);
   EXPECT_EQ(above({yellowish(119), {}, {}})[0], 1);
   // 18 and 3 of the 9 before it
@@ -92,7 +92,7 @@ TEST(Dithering, TheRowAboveTakesThreeFiveAndOneSixteenth) {
 
 TEST(Dithering, TheLastRowPassesErrorsOnlyAlongItself) {
   const SlowRow dark(2);
-  // The row below has been done and keeps what it shows.
+  // The row below is finished and does not change.
   EXPECT_EQ(indicesOf({dark, {red(48), yellowish(107)}}), (std::vector<Bytes>{{0, 0}, {0, 1}}));
   EXPECT_EQ(indicesOf({dark, {red(48), yellowish(106)}}), (std::vector<Bytes>{{0, 0}, {0, 0}}));
 }
@@ -124,8 +124,8 @@ TEST(Dithering, AFlatGreyBeginsWithWhiteAndANegativeError) {
   clsGPDIB dib = dibOf(flat(3, 1, 100));
   clsGPPalDither dither;
   dither.DitherToBlackAndWhite(dib, 15);
-  // 100 is not below the mean of 100; -155 passes -29 and -14 on. Of the -29 two thirds make the next one 81, which
-  // passes 15 on, and the third one is left with 100.
+  // 100 is not below the mean of 100; -155 passes on -29 and -14. With two thirds of the -29 the next pixel has 81,
+  // which passes on 15, and the third one is left with 100.
   EXPECT_EQ(bytesOf(dither), (Bytes{0b10100000, 0, 0, 0}));
   EXPECT_EQ(picturesOf(dib), (SlowPicture{{grey(255), grey(0), grey(255)}}));
 }

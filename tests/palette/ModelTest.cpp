@@ -8,7 +8,7 @@
 namespace gp::test {
 namespace {
 
-// Indices packed as rows of a bitmap.
+// Indices packed like rows of a bitmap.
 std::vector<std::uint8_t> packed(const std::vector<std::vector<int>>& indices, int bits) {
   std::vector<std::uint8_t> bytes;
   for (const auto& row : indices) {
@@ -68,7 +68,7 @@ TEST_P(PaletteModel, FewerColorsThanLeavesFoldAsThePlainRulesDo) {
     clsGPPal palette;
     palette.CreateOptimal(dib, colors, 8);
     EXPECT_EQ(colorsOf(palette.PalettePtr()), slowOptimal(picture(), colors)) << colors;
-    // The root is never folded, so that eight colours may remain.
+    // The root is never folded, so eight colours may remain.
     EXPECT_LE(palette.MaxCount(), std::max(colors, 8)) << colors;
   }
 }

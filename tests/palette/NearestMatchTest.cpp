@@ -112,7 +112,7 @@ TEST(NearestMatch, TheTablesOfAPaletteMatchAsThePlatformDoes) {
   }
 }
 
-// Far more colours than are remembered at a time, and all of them met again.
+// Far more colours than the cache holds, each of them twice.
 TEST(NearestMatch, WhatWasMetBeforeDoesNotChangeTheAnswer) {
   std::vector<Color> colors;
   for (int turn = 0; turn < 2; ++turn)

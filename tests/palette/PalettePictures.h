@@ -1,4 +1,4 @@
-// Pictures to be reduced: flat ones, ramps, noise, odd sizes, as many colours as leaves.
+// Pictures to reduce: uniform ones, ramps, noise, odd sizes, as many colours as leaves.
 #pragma once
 
 #include "palette/SlowPalette.h"

@@ -18,7 +18,7 @@ SlowRow filled(const clsGPPal& palette) {
   return colorsOf(palette.PalettePtr().first(static_cast<std::size_t>(palette.MaxCount())));
 }
 
-// Colours of which no two come near each other in the tree.
+// Colours of which no two are near each other in the tree.
 SlowRow loners(int count) {
   SlowRow colors;
   for (int i = 0; i < count; ++i) colors.push_back({0, i % 32 * 8, 8 + i / 32 * 8});
@@ -78,14 +78,14 @@ TEST(Palette, ColorsThatDifferOnlyWithinTheLastSplitShareTheEntryOfTheFirst) {
   EXPECT_EQ(filled(optimal({{1, 50, 60}, {2, 50, 60}})), (SlowRow{{1, 50, 60}, {2, 50, 60}}));
 }
 
-// Two pairs of colours that meet one level above the leaves stand before and behind the loners.
+// Two pairs of colours that meet one level above the leaves, before and after the single ones.
 TEST(Palette, TheLeafTooManyFoldsTheDeepestNodeListedLastAtOnce) {
   SlowRow colors{{3, 0, 0}, {4, 0, 0}};
   const SlowRow between = loners(253);
   colors.insert(colors.end(), between.begin(), between.end());
   SlowRow expected = colors;
   expected.push_back({104, 0, 0});  // 103.5, the even one
-  // The last one reaches the folded node and adds nothing.
+  // The last one reaches the folded node and adds no colour.
   colors.insert(colors.end(), {{103, 0, 0}, {104, 0, 0}, {103, 0, 0}});
   EXPECT_EQ(filled(optimal(colors)), expected);
 }
@@ -143,7 +143,7 @@ TEST(Palette, MatchesAreLookedForInTheChannelsAsTheyAre) {
   EXPECT_EQ(palette.NearestPaletteIndex(250, 10, 20), 9);
   EXPECT_EQ(palette.NearestPaletteIndex(20, 10, 250), 12);
   EXPECT_EQ(palette.NearestPaletteIndex(160, 160, 160), 7);
-  // As far from dark red as from black.
+  // At the same distance from dark red and from black.
   EXPECT_EQ(palette.NearestPaletteIndex(64, 0, 0), 0);
   palette.CreateGrays_256();
   EXPECT_EQ(palette.NearestPaletteIndex(255, 255, 255), 255);

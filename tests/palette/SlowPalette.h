@@ -1,5 +1,5 @@
-// The palette engine worked out a second time, plainly and slowly, straight from its rules: what the real one is
-// compared with. Pixels are (red, green, blue); row 0 is the bottom row, as the engine has it.
+// The palette engine implemented a second time, simple and slow, directly from its rules; the real one is compared with
+// it. Pixels are (red, green, blue); row 0 is the bottom row, as in the engine.
 #pragma once
 
 #include <algorithm>
@@ -21,7 +21,7 @@ using SlowPicture = std::vector<SlowRow>;
 
 // Quantiser -----------------------------------------------------------------------------------------------------------
 
-// Nodes by number, 1 the root, numbers handed out as they are needed and taken back when nodes are freed.
+// Nodes by number; the root is 1. Numbers are assigned on demand and reused when nodes are freed.
 class SlowTree {
  public:
   SlowTree(int maxColors, int levels) : maxColors_(maxColors), levels_(levels) { nodes_[1] = {}; }
@@ -136,7 +136,7 @@ inline int slowNearest(const std::vector<SlowColor>& palette, const SlowColor& c
 inline int coarse(int v) { return static_cast<int>(std::nearbyint(v / 17.0)) * 17; }
 inline int clampByte(int v) { return std::clamp(v, 0, 255); }
 
-// Changes the picture to what it shows afterwards and gives the index of each pixel.
+// Changes the picture to its dithered colours and returns the index of each pixel.
 inline std::vector<std::vector<int>> slowFloydSteinberg(SlowPicture& p, const std::vector<SlowColor>& palette) {
   const int height = static_cast<int>(p.size()), width = static_cast<int>(p[0].size());
   std::map<std::array<int, 3>, int> known;  // the nearest entry of each coarse colour
@@ -166,7 +166,7 @@ struct SlowShare {
   int dx, dy, w;
 };
 
-// Light or dark of each pixel. Errors are kept for the whole picture; `spare` rows at its end take none from above.
+// Light or dark for each pixel. Errors are kept for the whole picture; `spare` rows at its end get none from above.
 inline std::vector<std::vector<bool>> slowMono(const SlowPicture& p, const std::vector<SlowShare>& shares, int weight,
                                                int divisor, int spare) {
   const int height = static_cast<int>(p.size()), width = static_cast<int>(p[0].size());

@@ -1,5 +1,5 @@
-// What commands of drawing, colours and Inquiry need, and what is said and done where it is missing: by the menu, its
-// keys, the toolbar and the tool box alike.
+// The needs of the commands of drawing, colours and Inquiry, and what happens when they are not met: by menu, key,
+// toolbar and tool box alike.
 #include "document/PanelNumbers.h"
 #include "support/ShellFixture.h"
 
@@ -25,7 +25,7 @@ class CommandDispatch : public ShellFixture {
   Drawing& drawing = shell.drawing();
 
   CommandDispatch() { start(); }
-  // Whatever was there is not asked about.
+  // Discards what is unsaved without a question.
   void newIcon() {
     state.current().modified = false;
     click("mnuFileSub", kNewIcon16);
@@ -44,7 +44,7 @@ class CommandDispatch : public ShellFixture {
     drawing.tools.release({kLeftButton, 0, 2 * m, m});
     ASSERT_TRUE(state.mRegionExists);
   }
-  // The icon's colours, kNoColor where it is transparent, of a row or column of two.
+  // The colours of a row or column of two pixels, kNoColor where the icon is transparent.
   std::vector<Color> pixels(std::vector<std::pair<int, int>> places) const {
     std::vector<Color> colors;
     for (const auto& [x, y] : places)
@@ -59,7 +59,7 @@ class CommandDispatch : public ShellFixture {
 
 // Without an icon.
 
-TEST_F(CommandDispatch, CommandsOnAnIconTellThatThereIsNone) {
+TEST_F(CommandDispatch, CommandsOnAnIconSayThatThereIsNone) {
   std::vector<Row> rows = {{"mnuTools", kPicker},
                            {"mnuEditSub", kUndoAll},
                            {"mnuEditSub", kUndo},
@@ -94,7 +94,7 @@ TEST_F(CommandDispatch, CommandsOnAnIconTellThatThereIsNone) {
   EXPECT_EQ(form.multiIcons + form.headerDiffs, 0);
 }
 
-TEST_F(CommandDispatch, TheToolBoxTellsThatThereIsNoIcon) {
+TEST_F(CommandDispatch, TheToolBoxSaysThatThereIsNoIcon) {
   boxes.expectTold(kNoIcon, BoxIcon::None);
   shell.chooseTool(kPaint);
   EXPECT_EQ(drawing.tools.selectedTool(), kNoTool);
@@ -213,7 +213,7 @@ TEST_F(CommandDispatch, CutKeepsTheRegionInTheClipboardAndEraseDoesNot) {
   EXPECT_EQ(clipboard.held->corner.GetPixel(1, 0), 0x00FF00);
 }
 
-TEST_F(CommandDispatch, PasteTellsThatThereIsNoPicture) {
+TEST_F(CommandDispatch, PasteSaysThatThereIsNoPicture) {
   newIcon();
   for (const int index : {kPaste, kPaste + 1}) {
     boxes.expectTold("No image in clipboard yet", BoxIcon::None);
@@ -365,7 +365,7 @@ TEST_F(CommandDispatch, ShowingTheIconsInTheFileCommitsAFloatingRegionFirst) {
     ASSERT_TRUE(state.mPendingPaint);
     state.current().fromMultiIconFile = true;
     state.current().modified = true;
-    // What the user is asked about is the icon with the region in it.
+    // The user is asked about the icon that includes the region.
     boxes.expect("Save current icon to file?", BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Cancel);
     click(row.control, row.index);
     EXPECT_FALSE(state.mPendingPaint);
@@ -408,7 +408,7 @@ TEST_F(CommandDispatch, CommandsOfDrawingLeaveAFloatingRegionFloating) {
 
 class IconSerial : public CommandDispatch {
  protected:
-  // By how much a command raises it.
+  // The number by which a command raises it.
   unsigned raisedBy(const char* control, int index) {
     const unsigned before = state.iconSerial;
     click(control, index);

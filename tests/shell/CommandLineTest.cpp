@@ -54,7 +54,7 @@ TEST_F(CommandLine, AnyOtherEndingIsIgnored) {
   EXPECT_EQ(kindOf("a.icon"), CommandLineKind::Ignored);
 }
 
-TEST_F(CommandLine, AMissingFileIsToldWhateverItsEnding) {
+TEST_F(CommandLine, AMissingFileIsReportedWhateverItsEnding) {
   const CommandLineFile file = readCommandLine("\"" + folder_.file("none.ico") + "\"");
   EXPECT_EQ(file.kind, CommandLineKind::Missing);
   EXPECT_EQ(file.path, folder_.file("none.ico"));
@@ -64,7 +64,7 @@ TEST_F(CommandLine, AMissingFileIsToldWhateverItsEnding) {
   EXPECT_EQ(readCommandLine(folder_.path()).kind, CommandLineKind::Missing);
 }
 
-// The current directory is the process's own: it goes back when the test ends.
+// Changes the current directory of the process, and restores it at the end of the test.
 class InFolder {
  public:
   explicit InFolder(const std::string& folder) : former_(std::filesystem::current_path()) {

@@ -30,13 +30,13 @@ struct Facts {
   bool undoStep = false;
   bool redoStep = false;
   bool clipboardPicture = false;
-  bool largeChart = false;  // the 256-colour chart is up, and no side panel before it
+  bool largeChart = false;  // the 256-colour chart is visible, and no side panel is open
   bool iconsList = false;
   int current = 0;  // container
   std::set<int> used{};
 };
 
-// What brings a state about, by what a user does.
+// Brings the program into a state, by actions of a user.
 struct StateMaker {
   Shell& shell;
   FakeClipboard& clipboard;
@@ -72,7 +72,7 @@ struct StateMaker {
   }
   void holdPicture() {
     clipboard.hold(Surface(8, 8, kWhite));
-    shell.UpdateCommands();  // as the desktop's clipboard asks for
+    shell.UpdateCommands();  // the desktop's clipboard calls this on a change
   }
 };
 
@@ -160,14 +160,14 @@ inline const std::vector<CommandState> kCommandStates{
      {.current = 1, .used = {0}}},
 };
 
-// One thing that a command needs, and what is said where it is missing: an empty text is nothing.
+// One need of a command, and the text of the box if it is not met; an empty text means no box.
 struct Need {
   bool (*isMet)(const Facts& facts, int index);
   const char* text;
 };
 inline constexpr Need kNeedsIcon{[](const Facts& f, int) { return f.icon; }, "No icon in Editing Area yet"};
 
-// What the commands of a control need, in the order in which it is asked for.
+// The needs of the commands of a control, in the order in which they are checked.
 struct CommandNeed {
   std::string_view control;
   std::vector<int> indices;
@@ -229,7 +229,7 @@ inline const std::vector<CommandNeed> kCommandNeeds{
     {"mnuHelpSub", {0, 1}, {}},
 };
 
-// The entries of the pop-up menu that run, and the commands of the menu bar that they are.
+// The entries of the pop-up menu that can run, with the equal commands of the menu bar.
 struct PopUpEntry {
   int index;  // of mnuPopUpSub
   const char* control;
@@ -245,7 +245,7 @@ inline const CommandNeed* findNeed(const Command& row) {
   return found == kCommandNeeds.end() ? nullptr : &*found;
 }
 
-// Why a command cannot run; null when it can. It must have its needs told above.
+// Why a command cannot run; null when it can. Its needs must be listed above.
 inline const char* refusalOf(const Command& row, const Facts& facts) {
   for (const Need& need : findNeed(row)->needs)
     if (!need.isMet(facts, row.index)) return need.text;

@@ -1,5 +1,5 @@
-// Every command in every state: what is enabled, what is said where a command cannot run, and that menu, toolbar and
-// pop-up menu are one road.
+// Every command in every state: whether it is enabled, what is said when it cannot run, and that menu, toolbar and
+// pop-up menu do the same.
 #include "shell/CommandStates.h"
 #include "shell/LoggedPorts.h"
 #include "shell/ShellSnapshot.h"
@@ -51,7 +51,7 @@ class World {
 
 std::string nameOf(const Command& row) { return objectNameOf(row.control, row.index); }
 
-TEST(CommandWalk, TheNeedsOfEveryCommandAreToldOnce) {
+TEST(CommandWalk, TheNeedsOfEveryCommandAreListedOnce) {
   std::multiset<std::string> told, there;
   for (const CommandNeed& need : kCommandNeeds)
     for (const int index : need.indices) told.insert(objectNameOf(need.control, index));
@@ -126,7 +126,7 @@ TEST(CommandWalk, WhatHasNoBodyDoesNothing) {
   }
 }
 
-// What comes of a command by one road, in a program of its own.
+// The result of running a command in one way, in a new program.
 struct Outcome {
   Log log;
   Snapshot snapshot;

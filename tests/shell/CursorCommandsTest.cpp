@@ -1,4 +1,5 @@
-// Cursors in the whole program: opening them, the hot spot's Panel, and what a user may do while the spot blinks.
+// Cursors in the whole program: opening them, the panel for the hot spot, and what a user can do while the hot spot
+// blinks.
 #include "document/PanelNumbers.h"
 #include "files/CursorBuilder.h"
 #include "support/ShellFixture.h"
@@ -18,7 +19,7 @@ bool samePixels(const Surface& a, const Surface& b) {
 
 class CursorCommandsTest : public ShellFixture {
  protected:
-  // All Surfaces on which a mark could be left.
+  // All Surfaces on which a mark could remain.
   struct Pixels {
     Surface image, mask, icon, disp;
     std::array<Surface, kContainerCount> panelImages, panelMasks, panelIcons;
@@ -85,7 +86,7 @@ TEST_F(CursorCommandsTest, TheCursorOfTheCommandLineOpensAndChoosesItsChart) {
   EXPECT_EQ(std::filesystem::current_path(), directory.before());
 }
 
-TEST_F(CursorCommandsTest, ABadCursorOnTheCommandLineIsToldAndTheProgramStartsEmpty) {
+TEST_F(CursorCommandsTest, ABadCursorOnTheCommandLineIsReportedAndTheProgramStartsEmpty) {
   const std::string path = writeCursor(32, 0);
   boxes.expectTold(path + kInvalid, BoxIcon::Exclamation);
   start(path);
@@ -124,7 +125,7 @@ TEST_F(CursorCommandsTest, ACursorThatCannotBeShownLeavesAnEmptyContainerAndTheO
   EXPECT_TRUE(state.mIconRecs[0].isCursor && state.mIconRecs[0].present);
 }
 
-// The Panel.
+// The panel.
 
 TEST_F(CursorCommandsTest, SaveAsCursorOpensThePanelAndShowsTheSpotOnce) {
   startWithCursor(7, 30);
@@ -242,7 +243,7 @@ TEST_F(CursorCommandsTest, ACursorCopiedFromAnotherContainerUnderThePanelBringsI
   EXPECT_EQ(spot(), std::pair(3, 4));
 }
 
-// What ends a blink.
+// Actions that end the blinking.
 
 TEST_F(CursorCommandsTest, ClosingThePanelEndsABlinkEarly) {
   startWithPanel();
@@ -333,7 +334,7 @@ TEST_F(CursorCommandsTest, ASmallerNewIconDuringABlinkCarriesNoMark) {
   EXPECT_EQ(state.picDisp.width(), 16 * state.gMagnification);
 }
 
-// What does not end it, and must not be spoiled by it.
+// Actions that do not end it, and must not be affected by it.
 
 TEST_F(CursorCommandsTest, WhatIsPaintedDuringABlinkStaysAndCanBeUndone) {
   startWithCursor(3, 4);

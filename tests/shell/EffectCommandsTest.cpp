@@ -1,5 +1,5 @@
-// Effects in the whole program: what opens their Panels, what Proceed and Close do, and what a user may do while a
-// Panel is up.
+// Effects in the whole program: what opens their panels, what Proceed and Close do, and what a user can do while a
+// panel is open.
 #include "shell/EffectFixture.h"
 
 #include <array>
@@ -28,7 +28,7 @@ constexpr std::array kOpeners{
 
 class EffectCommandsTest : public EffectFixture {};
 
-// The frame of all Panels.
+// Behaviour common to all panels.
 
 TEST_F(EffectCommandsTest, EachCommandBringsItsPanelUp) {
   startWithNew();
@@ -93,7 +93,7 @@ TEST_F(EffectCommandsTest, ProceedMakesTheIconWhatTheSampleShows) {
     EXPECT_TRUE(samePixels(state.picPanelImage[0], shown.image)) << opener.index;
     EXPECT_TRUE(state.current().modified);
     EXPECT_EQ(panel(), kColorPanel);
-    // Nobody asks about it: the next round starts afresh.
+    // Avoids the question about saving; the next round starts with an unmodified icon.
     state.current().modified = false;
   }
 }
@@ -138,7 +138,7 @@ TEST_F(EffectCommandsTest, CloseWithoutAnIconDoesNotShowOne) {
   EXPECT_FALSE(display.told(DisplayPart::EditingArea));
 }
 
-// The icon under an open Panel.
+// Changes of the icon under an open panel.
 
 TEST_F(EffectCommandsTest, AnIconThatIsDroppedClosesThePanel) {
   startWithNew();
@@ -164,7 +164,7 @@ TEST_F(EffectCommandsTest, ProceedWorksOnTheIconThatIsThereThen) {
   EXPECT_EQ(settings(kReliefPanel).sample().width(), 16);
   const Surface image = state.picImage;
   shell.cmdProceed();
-  // All painted: no edge has room, and the picture lies on top.
+  // A completely painted icon: no edge has room, and the picture covers them.
   EXPECT_EQ(state.picImage.width(), 16);
   EXPECT_TRUE(samePixels(state.picImage, image));
   EXPECT_EQ(panel(), kColorPanel);
@@ -283,7 +283,7 @@ TEST_F(EffectCommandsTest, APanelThatComesUpTakesTheAnimatedCursorsPlace) {
   EXPECT_EQ(status(StatusPanel::Path), state.current().path.trimmed());
   EXPECT_TRUE(display.told(DisplayPart::Pointer));
   EXPECT_FALSE(state.screen.hourglass);
-  // Only where none was up before.
+  // Only if no panel was open before.
   state.screen.aniContainerVisible = true;
   shell.showPanel(kColorPanel);
   EXPECT_TRUE(state.screen.aniContainerVisible);

@@ -1,4 +1,4 @@
-// An icon in the whole program for the Panels of the effects to work on.
+// An icon in the whole program, for the panels of the effects.
 #pragma once
 
 #include "colour/ColorCount.h"
@@ -18,7 +18,7 @@ inline constexpr Color kRed = rgb(255, 0, 0);
 
 class EffectFixture : public ShellFixture {
  protected:
-  // A new icon, all transparent but for what a test sets.
+  // A new icon, transparent except for the pixels that a test sets.
   void startWithNew(int newIcon = kNewIcon32) {
     start();
     click("mnuFileSub", newIcon);
@@ -30,7 +30,7 @@ class EffectFixture : public ShellFixture {
     shell.document().editingArea.ComposeCurrentIcon();
     shell.document().editingArea.UpdatePanelFromCurrent();
   }
-  // More colours than a table of 256 takes: no run says that there are few.
+  // More colours than a table of 256 holds, so that no command reports few colours.
   void paintManyColors() {
     for (int y = 0; y < state.picImage.height(); ++y)
       for (int x = 0; x < state.picImage.width(); ++x) set(x, y, rgb(x * 7, y * 7, x * y % 256));
@@ -43,7 +43,7 @@ class EffectFixture : public ShellFixture {
     shell.drawing().tools.move(ShellFixture::at(toX, toY));
     shell.drawing().tools.release(ShellFixture::at(toX, toY));
   }
-  // What stands at a pixel: its colour, kNoColor where the icon is transparent.
+  // The colour of a pixel, kNoColor where the icon is transparent.
   Color at(int x, int y) const {
     return state.picMask.GetPixel(x, y) == kBlack ? state.picImage.GetPixel(x, y) : kNoColor;
   }

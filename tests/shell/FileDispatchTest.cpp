@@ -1,5 +1,5 @@
-// The commands on icon files from the menu on: which body a row calls, what is committed before it, and what becomes of
-// unsaved work.
+// The commands on icon files, started from the menu: the body that a row calls, what is committed before it, and how
+// unsaved work is handled.
 #include "document/Containers.h"
 #include "document/PanelNumbers.h"
 #include "files/CursorBuilder.h"
@@ -31,7 +31,7 @@ class FileDispatchTest : public ShellFixture {
     EXPECT_TRUE(state.current().fromMultiIconFile);
     return path;
   }
-  // A white square of 4x4 floats at the top left of the icon; its container does not know of it yet.
+  // A white square of 4x4 floats at the top left of the icon and is not yet in its container.
   void floatSquare() {
     clipboard.hold(Surface(4, 4, kWhite));
     click("mnuEditSub", 8);
@@ -46,7 +46,7 @@ class FileDispatchTest : public ShellFixture {
   std::string path() const { return state.current().path.trimmed(); }
 };
 
-// What is committed.
+// Commits.
 
 TEST_F(FileDispatchTest, TheseCommandsCommitWhatIsOpenAndNoOthersDo) {
   const std::set<std::string> expected{
@@ -75,7 +75,7 @@ TEST_F(FileDispatchTest, AFloatingRegionGoesToItsContainerBeforeACommandOnFiles)
     };
     click("mnuFileSub", index);
     EXPECT_TRUE(dialogs.paths.empty()) << index;
-    state.current().modified = false;  // the next new icon asks nothing
+    state.current().modified = false;  // the next new icon asks no question
   }
 }
 
@@ -89,7 +89,7 @@ TEST_F(FileDispatchTest, ARefusedCommandLeavesAFloatingRegionWhereItIs) {
   EXPECT_FALSE(isSquareInContainer());
 }
 
-// The needs are asked for again: what is committed may have been saved to a file of its own.
+// The needs are checked again: committing may have saved the icon to a new file.
 TEST_F(FileDispatchTest, AnIconThatCommittingGaveAFileOfItsOwnIsNotSavedIntoTheOther) {
   start();
   const std::string multi = givenMultiIcon();

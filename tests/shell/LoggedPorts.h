@@ -1,4 +1,4 @@
-// Ports of a user who answers every question with No or Cancel. What was shown is written into a log, in order.
+// Ports of a user who answers every question with No or Cancel. Everything shown is written to a log, in order.
 #pragma once
 
 #include "files/FileForms.h"
@@ -58,7 +58,7 @@ class LoggedForms : public ShellForms, public FileForms {
   Log& log_;
 };
 
-// What is logged when a command cannot run.
+// The log entry for a command that cannot run.
 inline Log logOf(const char* refusal) {
   const Log nothing;
   return *refusal ? Log{std::to_string(static_cast<int>(BoxIcon::None)) + " " + refusal} : nothing;

@@ -1,5 +1,5 @@
-// Reducing colours in the whole program: the runs and their methods, icons of few colours, and what a user may do while
-// a preview lets events in.
+// Reducing colours in the whole program: the commands and their methods, icons of few colours, and what a user can do
+// while a preview lets events in.
 #include "document/ListTables.h"
 #include "shell/EffectFixture.h"
 
@@ -194,7 +194,7 @@ TEST_F(ReductionCommandsTest, TheThresholdOfTheListDecidesAndIsKept) {
   set(0, 0, rgb(100, 100, 100));
   click("mnuEffectsSub3", 2);
   EXPECT_EQ(confine().picture().mask.GetPixel(0, 0), kBlack);
-  // The list's item 99 is 100, which is not above 100.
+  // Item 99 of the list is 100, which is not above 100.
   confine().pickThreshold(99);
   EXPECT_EQ(confine().picture().mask.GetPixel(0, 0), kWhite);
   confine().pickThreshold(100);
@@ -297,7 +297,7 @@ TEST_F(ReductionCommandsTest, CloseAfterThePreviewIsDrawnClosesThePanelToo) {
   click("mnuEffectsSub3", 1);
   EXPECT_EQ(panel(), kColorPanel);
   click("mnuEffectsSub3", 1);
-  // At the second pump of the click, which comes when the samples are drawn.
+  // At the second pump of the click, which happens when the samples are drawn.
   pump.inside = [this] { pump.inside = [this] { shell.cmdCancel(); }; };
   confine().pickMethod(1);
   EXPECT_EQ(panel(), kColorPanel);

@@ -155,7 +155,7 @@ TEST_F(SettingsFile, SavingWritesOnlyWhatDiffersAndKeepsForeignLines) {
   EXPECT_EQ(content(), expected);
 }
 
-TEST_F(SettingsFile, SavingIntoAReadOnlyFileTellsSo) {
+TEST_F(SettingsFile, SavingIntoAReadOnlyFileFails) {
   have("");
   std::filesystem::permissions(file(), std::filesystem::perms::owner_read);
   EXPECT_FALSE(settings_.SaveOptions());

@@ -1,5 +1,5 @@
-// Everything of the program that a command can change, by name, to be compared with itself at another time or with
-// that of another program. Paths in the program's folder stand without it.
+// Everything in the program that a command can change, by name, for comparison with a later snapshot or with that of
+// another program. Paths in the program's folder are written without the folder.
 #pragma once
 
 #include "shell/Shell.h"
@@ -44,7 +44,7 @@ class SnapshotMaker {
     for (std::size_t at = text.find(path); at != std::string::npos; at = text.find(path)) text.erase(at, path.size());
     return text;
   }
-  // The drawing, and the picture to which it returns.
+  // The drawing, and the picture to which it is reset.
   void putSurface(const std::string& name, Surface surface) {
     std::string bytes = std::to_string(surface.width()) + "x" + std::to_string(surface.height());
     for (int round = 0; round < 2; ++round, surface.clearDrawing())
@@ -123,7 +123,7 @@ class SnapshotMaker {
   Snapshot snapshot_;
 };
 
-// What is not the same in both.
+// The names of everything that differs.
 inline std::vector<std::string> differences(const Snapshot& before, const Snapshot& after) {
   std::vector<std::string> names;
   for (const auto& [name, value] : before) {

@@ -202,7 +202,7 @@ TEST_F(ShellTest, ABadFileLeavesTheOtherContainersUntouched) {
   EXPECT_TRUE(std::ranges::equal(state.picPanelImage[0].pixels(), before.pixels()));
 }
 
-// An icon file whose image is no bitmap: it passes every check up to its reading.
+// An icon file whose image is not a bitmap: it passes every check until it is read.
 std::string unreadableIconFile(int size) {
   std::string bytes = plainIconFile(size, 1);
   return bytes.replace(22, 8, "\x89PNG\r\n\x1A\n");
@@ -252,7 +252,7 @@ TEST_F(ShellTest, AnIconDroppedOnAnotherContainerShowsThere) {
   EXPECT_EQ(state.current().path.trimmed(), "Untitled");
 }
 
-TEST_F(ShellTest, HelpTellsThatTheManualIsMissingUntilThereIsOne) {
+TEST_F(ShellTest, HelpSaysThatTheManualIsMissingUntilThereIsOne) {
   start();
   boxes.expectTold("GPHelp.chm missing in current folder.", BoxIcon::Exclamation);
   click("mnuHelpSub", 0);

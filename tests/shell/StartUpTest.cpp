@@ -141,7 +141,7 @@ class FailingSystem : public test::FakeSystem {
   std::string systemDirectory() override { throw std::runtime_error("no such thing"); }
 };
 
-TEST_F(StartUpChecks, AnyOtherErrorIsToldAndEndsTheProgram) {
+TEST_F(StartUpChecks, AnyOtherErrorIsReportedAndEndsTheProgram) {
   FailingSystem failing;
   boxes_.expectTold("Error encountered in main, cannot proceed", BoxIcon::None);
   EXPECT_FALSE(runStartUpChecks(failing, processes_, boxes_, state_, "/opt"));

@@ -36,7 +36,7 @@ TEST(UnsavedQuestion, OneModifiedContainerIsListed) {
             "The following is not saved yet: \n\nIcon Seq 3    /c.ico\n\nProceed to exit still?\n");
 }
 
-TEST(UnsavedQuestion, MoreThanOneAreToldInThePlural) {
+TEST(UnsavedQuestion, MoreThanOneAreReportedInThePlural) {
   EditState state;
   use(state, 0, "/a.ico", true);
   use(state, 5, "/f.ico", true);

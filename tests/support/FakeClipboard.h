@@ -1,4 +1,4 @@
-// A clipboard of this process. What it holds may be withdrawn, or be larger than anything.
+// A clipboard inside this process. Its content can be withdrawn, or claim any size.
 #pragma once
 
 #include "platform/ports/Clipboard.h"

@@ -1,4 +1,4 @@
-// An Editor and a Display that write down what was asked of them, for tests of one subsystem alone.
+// An Editor and a Display that record their calls, for tests of one subsystem alone.
 #pragma once
 
 #include "document/Display.h"
@@ -38,7 +38,7 @@ class FakeEditor : public Editor {
   bool askSaveProceeds = true;
   bool openSucceeds = true;
 
-  // What a test does at each call of that name.
+  // The action of a test at each call with that name.
   void atCall(const std::string& name, std::function<void()> action) { actions_[name] = std::move(action); }
   int count(const std::string& name) const { return static_cast<int>(std::count(calls.begin(), calls.end(), name)); }
 

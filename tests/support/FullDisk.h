@@ -1,4 +1,4 @@
-// Disks that get full. Limits and mounts end with the object.
+// Disks that run full. Limits and mounts end with the object.
 #pragma once
 
 #include <csignal>
@@ -11,7 +11,7 @@
 
 namespace gp::test {
 
-// Lets no file of this process grow beyond a limit, as a full disk does.
+// Limits the size of the files that this process can write, like a full disk.
 class FullDisk {
  public:
   explicit FullDisk(rlim_t bytes) : formerHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
@@ -31,7 +31,7 @@ class FullDisk {
   void (*formerHandler_)(int);
 };
 
-// A real disk of 64 KB over an existing folder, for this process alone. Only root can have one.
+// A real disk of 64 KB, mounted on an existing folder for this process only. Requires root.
 class SmallDisk {
  public:
   explicit SmallDisk(const std::string& folder) : folder_(folder) {
@@ -45,7 +45,7 @@ class SmallDisk {
   SmallDisk& operator=(const SmallDisk&) = delete;
 
   bool isMounted() const { return mounted_; }
-  // Leaves room for no more than so many bytes, which count in blocks of 4 KB.
+  // Leaves room for at most this many bytes, counted in blocks of 4 KB.
   void fillUpTo(std::size_t room) const {
     const auto free = std::filesystem::space(folder_).available;
     if (free <= room) return;

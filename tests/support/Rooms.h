@@ -1,5 +1,5 @@
-// The rooms up to drawing, real and connected as the program connects them, over scripted ports. What lies to their
-// right is written down by the FakeEditor; panels come and go as they do in the program.
+// The rooms up to drawing, real and connected as in the program, over scripted ports. Calls to rooms further right are
+// recorded by the FakeEditor; panels open and close as in the program.
 #pragma once
 
 #include "colour/Colour.h"
@@ -17,7 +17,7 @@
 
 namespace gp::test {
 
-// Calls for colour and drawing reach the rooms, once they are there.
+// Forwards calls for colour and drawing to the rooms, once they exist.
 class RoomsEditor : public FakeEditor {
  public:
   EditState* state = nullptr;

@@ -1,5 +1,5 @@
 // Ports that follow a script: a test lists the boxes and dialogs it expects, in order, with their exact texts and
-// answers. An unexpected one fails the test, and so does one that never came.
+// answers. An unexpected one fails the test, and so does a missing one.
 #pragma once
 
 #include "platform/ports/FileDialogs.h"
@@ -25,7 +25,7 @@ class ScriptedBoxes : public MessageBoxes {
   };
   ~ScriptedBoxes() override { EXPECT_TRUE(script_.empty()) << "box that never came: " << script_.front().text; }
 
-  // An information that is told with one button.
+  // A box with one button.
   void expectTold(const std::string& text, BoxIcon icon) { expect(text, BoxButtons::Ok, icon, BoxAnswer::Ok); }
   void expectAsked(const std::string& text, BoxAnswer answer) {
     expect(text, BoxButtons::YesNo, BoxIcon::Question, answer);
@@ -59,7 +59,7 @@ class ScriptedDialogs : public FileDialogs {
   std::deque<Color> colors;  // kNoColor is a cancel
   int errorOnCancel = 0;
   std::vector<FileDialogRequest> requests;
-  std::function<void()> inside;  // what happens, once, while the next file dialog is up
+  std::function<void()> inside;  // an action, executed once, while the next file dialog is open
 
   bool openFile(const FileDialogRequest& request, std::string& path, int& error) override {
     return answer(request, path, error);
@@ -100,14 +100,14 @@ class ScriptedDialogs : public FileDialogs {
   }
 };
 
-// Gives the picture that a test holds ready, whatever the file.
+// Returns the picture that a test provides, for any file.
 class ScriptedPictures : public PictureLoader {
  public:
   LoadedPicture next;
   LoadedPicture loadPicture(const std::string&, int, int) override { return next; }
 };
 
-// Runs `inside`, once, at the next pump: what a user does in the midst of a work loop.
+// Runs `inside` once, at the next pump: what a user does during a work loop.
 class ScriptedPump : public MessagePump {
  public:
   std::function<void()> inside;

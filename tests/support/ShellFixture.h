@@ -1,4 +1,4 @@
-// The whole program without windows: a Shell over scripted ports and a folder of its own.
+// The whole program without windows: a Shell over scripted ports and a temporary folder.
 #pragma once
 
 #include "shell/Shell.h"
@@ -52,7 +52,7 @@ class ShellFixture : public testing::Test {
   Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures}, display, folder.path()};
 
   ShellFixture() { shell.attach(&form, &form); }
-  // Load and the first Activate, as app/ does them.
+  // Load and the first Activate, in the same order as app/.
   void start(const std::string& commandLine = "") {
     shell.formLoad();
     shell.formActivate(commandLine);
@@ -71,7 +71,7 @@ class ShellFixture : public testing::Test {
   std::string status(StatusPanel panel) const { return state.screen.lblStatusPanel[static_cast<std::size_t>(panel)]; }
 };
 
-// Bytes of a single-icon file of 16 colours, opaque: every pixel has the palette's colour of that index.
+// The bytes of a single-icon file of 16 colours, opaque; every pixel has the palette colour of that index.
 inline std::string plainIconFile(int size, int colorIndex) {
   auto u16 = [](std::string& bytes, int value) { bytes += {static_cast<char>(value), static_cast<char>(value >> 8)}; };
   auto u32 = [&u16](std::string& bytes, int value) { u16(bytes, value & 0xFFFF), u16(bytes, value >> 16); };

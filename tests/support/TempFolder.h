@@ -1,4 +1,4 @@
-// A folder that lives as long as a test, and files in it.
+// A folder, and files in it, that exist for the lifetime of a test.
 #pragma once
 
 #include <atomic>
@@ -11,7 +11,7 @@
 
 namespace gp::test {
 
-// Gives the process its current directory back at the end.
+// Restores the current directory of the process at the end.
 class KeptDirectory {
  public:
   KeptDirectory() = default;
@@ -40,9 +40,9 @@ class TempFolder {
   TempFolder& operator=(const TempFolder&) = delete;
 
   std::string path() const { return path_.native(); }
-  // The path of a name in the folder, whether it is there or not.
+  // The path of a name in the folder, whether the file exists or not.
   std::string file(std::string_view name) const { return path_.native() + "/" + std::string(name); }
-  // Writes a file and tells its path.
+  // Writes a file and returns its path.
   std::string write(std::string_view name, std::string_view content = "x") const {
     std::ofstream(file(name), std::ios::binary) << content;
     return file(name);

@@ -77,7 +77,7 @@ class ColorMixerViewTest : public testing::Test {
   QAbstractButton* adjust(int index) { return find<QAbstractButton>(QString("cmdAdjMix(%1)").arg(index)); }
   QString text(const QString& name) { return find<TextCell>(name)->text(); }
   QWidget* strip() { return find("picMixGradient"); }
-  // Where a pixel of the strip stands on its widget.
+  // The position of a pixel of the strip on its widget.
   QPoint onStrip(int x, int y) {
     return QPoint(x, y) + QPoint(strip()->width() - kMixGradientWidth, strip()->height() - kMixGradientHeight) / 2;
   }
@@ -113,7 +113,7 @@ class ColorMixerViewTest : public testing::Test {
   }
 };
 
-TEST_F(ColorMixerViewTest, EverythingFitsBelowTheChartsAndBearsItsName) {
+TEST_F(ColorMixerViewTest, EverythingFitsBelowTheChartsAndHasItsName) {
   EXPECT_EQ(view->objectName(), "fraColorMixer");
   EXPECT_EQ(view->caption(), "Color Mixer");
   EXPECT_LE(view->minimumSizeHint().width(), kPanelWidth);
@@ -151,7 +151,7 @@ TEST_F(ColorMixerViewTest, ASliderShowsItsMixture) {
   EXPECT_EQ(text("lblRGB(0)"), "255 / FF");
   EXPECT_EQ(text("lblRGB(2)"), "10 / A");
   EXPECT_EQ(shownAt("picMixGradient", onStrip(0, 0)), toRgb(rgb(255, 0, 0)));
-  EXPECT_EQ(shownAt("picMixGradient", onStrip(39, 199)), toRgb(rgb(0, 5, 0)));  // 128 / 26, blue being below 16
+  EXPECT_EQ(shownAt("picMixGradient", onStrip(39, 199)), toRgb(rgb(0, 5, 0)));  // 128 / 26, as blue is below 16
   EXPECT_EQ(state.mCurrentColor, kWhite);
   screenshot("color-mixer");
 }
@@ -309,7 +309,7 @@ TEST_F(ColorMixerViewTest, OfBadPaletteFilesNoMoreIsReadThanAPaletteCanTake) {
   EXPECT_LT(test::bytesRead() - read, kMostRead);
 }
 
-TEST_F(ColorMixerViewTest, ASliderDraggedInTheMidstOfLightenGoesBack) {
+TEST_F(ColorMixerViewTest, ASliderDraggedDuringLightenGoesBack) {
   mix(100, 100, 100);
   pump.inside = [this] { slider(0)->setValue(3); };
   adjust(0)->click();

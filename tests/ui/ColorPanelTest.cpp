@@ -13,7 +13,7 @@ namespace {
 
 class ColorPanelTest : public test::FormFixture {
  protected:
-  // The middle of a chart's cell.
+  // The centre of a cell of the chart.
   QPoint cell(QWidget* chart, int columns, int rows, int column, int row) {
     return {chart->width() / columns * column + chart->width() / columns / 2,
             chart->height() / rows * row + chart->height() / rows / 2};
@@ -24,7 +24,7 @@ class ColorPanelTest : public test::FormFixture {
   void type(const QString& keys) { QTest::keyClicks(text(), keys); }
 };
 
-TEST_F(ColorPanelTest, TheFramesBearTheirCaptionsAndOneChartIsUp) {
+TEST_F(ColorPanelTest, TheFramesHaveTheirCaptionsAndOneChartIsUp) {
   start();
   const QStringList captions = {
       "Brush", "S.Color", "Color", "16-Color Palette", "256-Color Palette", "Direct entry of color value"};

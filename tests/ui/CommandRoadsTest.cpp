@@ -1,5 +1,5 @@
 // Menus, keys, pop-up menu and toolbar of the main form in every state of the program: what they show of a command
-// follows its needs, and each is a road to the same command.
+// follows its needs, and all of them run the same command.
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/PictureButton.h"
 #include "shell/CommandStates.h"
@@ -39,7 +39,7 @@ class FormWorld {
 
   QAction* action(const Command& row) { return found<QAction>(toText(objectNameOf(row.control, row.index))); }
   PictureButton* button(const ToolbarButton& row) { return found<PictureButton>(QString("cmdTB(%1)").arg(row.index)); }
-  // A text field with the focus would take some keys for itself.
+  // A text field with the focus would take some of the keys.
   void pressKey(const Command& row) {
     form_->setFocus();
     QTest::keySequence(form_.get(), QKeySequence(row.key));
@@ -122,7 +122,7 @@ std::string stateNameOf(const testing::TestParamInfo<CommandState>& info) {
 }
 INSTANTIATE_TEST_SUITE_P(With, CommandRoads, testing::ValuesIn(kCommandStates), stateNameOf);
 
-// What comes of a command by one road, in a program of its own.
+// The result of running a command in one way, in a new program.
 struct Outcome {
   Log log;
   Snapshot snapshot;
@@ -163,7 +163,7 @@ TEST_P(OneCommand, IsReachedByItsEntryKeyAndButtonAlike) {
           "pop-up menu");
 }
 
-// The commands to which more than one road leads.
+// The commands that can be run in more than one way.
 std::vector<const Command*> commandsOfManyRoads() {
   std::vector<const Command*> rows;
   for (const Command& row : commandTable()) {

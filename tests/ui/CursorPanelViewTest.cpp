@@ -1,4 +1,4 @@
-// The Panel "Save as cursor" on the main form, worked by mouse and keyboard.
+// The panel "Save as cursor" on the main form, used by mouse and keyboard.
 #include "document/PanelNumbers.h"
 #include "ui/FormFixture.h"
 #include "ui/Screens.h"
@@ -17,7 +17,7 @@ constexpr int kBlinkMilliseconds = 900;
 constexpr int kSize = 32;
 constexpr int kColorIndex = 5;
 
-// A cursor of 16 colours, opaque, all of one colour.
+// An opaque cursor of 16 colours, all pixels of one colour.
 std::string cursorFile(int hotspotX, int hotspotY) {
   constexpr std::size_t kType = 2, kX = 10, kY = 12;
   std::string bytes = test::plainIconFile(kSize, kColorIndex);
@@ -38,7 +38,7 @@ class CursorPanelViewTest : public test::FormFixture {
   QComboBox* list(int index) { return find<QComboBox>(QString("cboCursorHotSpot(%1)").arg(index)); }
   std::pair<int, int> lists() { return {list(0)->currentIndex(), list(1)->currentIndex()}; }
   std::pair<int, int> spot() { return {shell.files().cursorFiles.hotspotX(), shell.files().cursorFiles.hotspotY()}; }
-  // What is told of a list: its own name is what it holds.
+  // The label of a list; its accessible name is its content.
   static QString labelOf(QWidget* control) {
     const auto related = QAccessible::queryAccessibleInterface(control)->relations(QAccessible::Label);
     return related.isEmpty() ? QString() : related.first().first->text(QAccessible::Name);
@@ -107,7 +107,7 @@ TEST_F(CursorPanelViewTest, TheKeyboardChoosesInTheLists) {
 
 TEST_F(CursorPanelViewTest, TheMouseChoosesInTheLists) {
   startWithPanel();
-  // A list takes a release for that of the press which opened it as long as a double click may last.
+  // Within the double click time, a list takes a release for that of the press which opened it.
   const int interval = QApplication::doubleClickInterval();
   QApplication::setDoubleClickInterval(1);
   for (const int index : {0, 1}) {

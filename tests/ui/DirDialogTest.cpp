@@ -1,4 +1,4 @@
-// frmDirDialog, worked by mouse and keyboard.
+// frmDirDialog, used by mouse and keyboard.
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/TextCell.h"
 #include "shell/ui/FolderTree.h"

@@ -207,7 +207,7 @@ TEST_F(EditingAreaViewTest, ThePointerIsThePictureOfTheTool) {
   EXPECT_EQ(view()->cursor().shape(), Qt::ArrowCursor);
 }
 
-// The scale of a screen: the same number of device pixels for each icon pixel, grid lines of one.
+// On a scaled screen: the same number of device pixels for each icon pixel, and grid lines of one device pixel.
 TEST(SurfacePainting, FractionalScalesKeepAllCellsEqualAndGridLinesOnePixelWide) {
   constexpr int kCells = 16, kMagnification = 12;
   Surface grid(kCells * kMagnification, kCells * kMagnification, kWhite);

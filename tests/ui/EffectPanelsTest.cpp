@@ -1,4 +1,4 @@
-// The panels of the effects on the main form, worked by mouse and keyboard.
+// The panels of the effects on the main form, used by mouse and keyboard.
 #include "document/PanelNumbers.h"
 #include "document/ui/SurfacePainting.h"
 #include "effects/ConfinePanel.h"
@@ -55,20 +55,20 @@ class EffectPanelsTest : public test::FormFixture {
   }
   QComboBox* confineList(int index) { return find<QComboBox>(QString("cboConfineColors(%1)").arg(index)); }
   void proceed(int number) { click(inPanel(number, "cmdProceed")); }
-  // Opens a list by a click and picks an item by keys, as a person does.
+  // Opens a list by a click and selects an item by keys.
   void pick(QComboBox* list, int index) {
     list->setFocus();
     QTest::keyClick(list, Qt::Key_Home);
     for (int i = 0; i < index; ++i) QTest::keyClick(list, Qt::Key_Down);
     settle();
   }
-  // The colour of an icon's pixel in a sample.
+  // The colour of an icon pixel in a sample.
   static QRgb sampleAt(QWidget* sample, int x, int y, int size, int room) {
     const int factor = room / size;
     const int margin = (sample->width() - factor * size) / 2;
     return sample->grab().toImage().pixel(margin + factor * x + factor / 2, margin + factor * y + factor / 2);
   }
-  // Panels with a control that hangs over their edge, or whose text is cut.
+  // Panels with a control that extends beyond their edge, or whose text is cut.
   void expectNothingClipped(int number) {
     QWidget* panel = find(QString("fraPanel(%1)").arg(number));
     for (QWidget* child : panel->findChildren<QWidget*>()) {
@@ -247,7 +247,7 @@ TEST_F(EffectPanelsTest, TheThresholdComesAndGoesWithSelectCutoff) {
   threshold->setFocus();
   key(Qt::Key_End);
   EXPECT_EQ(shell.effects().panel<ConfinePanel>().thresholdIndex(), 353);
-  // Above the brightest pixel: all that was painted is black.
+  // Above the brightest pixel: everything painted is black.
   EXPECT_EQ(sampleAt(find("picConfineColors(1)"), 24, 24, 48, 96), qRgb(0, 0, 0));
 }
 

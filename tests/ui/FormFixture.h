@@ -36,7 +36,7 @@ class FormFixture : public testing::Test {
   Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures}, display, folder.path()};
   std::unique_ptr<frmGPEdit> form;
 
-  // Shows the form, as app/ does, and waits for its first Activate.
+  // Shows the form as app/ does, and waits for its first Activate.
   void start(const std::string& commandLine = "") {
     form = std::make_unique<frmGPEdit>(shell, display, commandLine);
     shell.formLoad();
@@ -64,7 +64,7 @@ class FormFixture : public testing::Test {
     QTest::keyClick(focused ? focused : form.get(), static_cast<Qt::Key>(code), modifiers);
     settle();
   }
-  // The middle of an icon pixel on picDisp.
+  // The centre of an icon pixel on picDisp.
   QPoint middleOf(int x, int y) const {
     const int m = state.gMagnification;
     return {x * m + m / 2, y * m + m / 2};

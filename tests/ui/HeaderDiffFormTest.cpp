@@ -32,7 +32,7 @@ using test::Told;
 
 constexpr const char* kNoIcon = "No icon retrieved.";
 
-// The image of a plain icon of 16 colours.
+// The image of a uniform icon of 16 colours.
 std::string imageOf(int size, int colorIndex = 3) { return test::plainIconFile(size, colorIndex).substr(6 + 16); }
 
 const std::vector<Told> kLying{{16, 16, 4, imageOf(16)},    {24, 0, 24, imageOf(24, 9)},
@@ -108,8 +108,8 @@ TEST_F(HeaderDiffForm, ThePreviewStandsInTheMiddleOnTheGround) {
   open();
   const QImage frame = find("lblIconInFile")->grab().toImage();
   const QPoint middle = frame.rect().center();
-  const int cell = static_cast<int>(frame.devicePixelRatio());  // device pixels of one of the icon's
-  EXPECT_EQ(frame.pixelColor(middle), QColor(252, 3, 48));      // the palette stands blue, green, red
+  const int cell = static_cast<int>(frame.devicePixelRatio());  // device pixels per icon pixel
+  EXPECT_EQ(frame.pixelColor(middle), QColor(252, 3, 48));      // palette entries are blue, green, red
   EXPECT_EQ(frame.pixelColor(middle - QPoint(15, 15) * cell), QColor(252, 3, 48));
   EXPECT_EQ(frame.pixelColor(middle - QPoint(18, 0) * cell), QColor(0xC0, 0xC0, 0xC0));
   EXPECT_EQ(frame.pixelColor(middle + QPoint(18, 0) * cell), QColor(0xC0, 0xC0, 0xC0));
@@ -143,7 +143,7 @@ TEST_F(HeaderDiffForm, AnotherBaseListsByTheBitmapHeaders) {
   EXPECT_EQ(list()->item(1)->text(), "2\t24-BPP\tTrue-Color\t24 x 24");
 }
 
-TEST_F(HeaderDiffForm, AFileWithoutIconsIsToldOfAndTheFormStaysEmpty) {
+TEST_F(HeaderDiffForm, AFileWithoutIconsIsReportedAndTheFormStaysEmpty) {
   boxes.expectTold(kNoIcon, BoxIcon::None);
   form = make(folder.write("text.ico", "no icon"));
   EXPECT_TRUE(form->isVisible());

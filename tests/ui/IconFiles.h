@@ -1,4 +1,5 @@
-// Files of several icons for the forms that read them: each entry tells what a test wants, truly or not.
+// Files of several icons for the forms that read them: the fields of each entry are as a test sets them, right or
+// wrong.
 #pragma once
 
 #include <cstddef>
@@ -18,7 +19,7 @@ inline std::string littleEndian(std::size_t value, int bytes) {
   return text;
 }
 
-// The images stand in the order of the directory, right behind it.
+// The images follow the directory directly, in its order.
 inline std::string iconFileOf(const std::vector<Told>& entries) {
   std::string file = littleEndian(0, 2) + littleEndian(1, 2) + littleEndian(entries.size(), 2);
   std::size_t offset = 6 + 16 * entries.size();
@@ -33,7 +34,7 @@ inline std::string iconFileOf(const std::vector<Told>& entries) {
   return file;
 }
 
-// A ball of 32 bits that gets transparent towards its edge; the Mask lets through what is around it.
+// A ball of 32 bits whose alpha decreases towards its edge; the mask is transparent around it.
 inline std::string ballImage(int side) {
   const auto pixels = static_cast<std::size_t>(side) * static_cast<std::size_t>(side);
   const auto maskRow = static_cast<std::size_t>((side + 31) / 32 * 4);

@@ -11,7 +11,7 @@ namespace {
 class IconsPanelViewTest : public test::FormFixture {
  protected:
   QColor labelColor(int container) { return indexed("lblPanelIcon", container)->palette().color(QPalette::Window); }
-  // A drag of files over a container; true when it is taken.
+  // A drag of files over a container; true when it is accepted.
   bool drag(int container, const std::vector<std::string>& files) {
     QMimeData data;
     QList<QUrl> urls;

@@ -12,7 +12,7 @@ namespace {
 
 class MainFormTest : public test::FormFixture {
  protected:
-  // Places on the form of all controls that must never move.
+  // The positions on the form of all controls that must never move.
   std::map<QString, QRect> places() {
     std::map<QString, QRect> result;
     for (const QWidget* widget : form->findChildren<QWidget*>()) {

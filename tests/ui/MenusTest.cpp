@@ -55,7 +55,7 @@ TEST_F(Menus, SeparatorsStandWhereAnIndexIsSkipped) {
             "mnuANIFileCreateOrEdit - mnuANIFileHistory(1) mnuANIFileHistory(2) mnuANIFileHistory(3)");
 }
 
-TEST_F(Menus, AnEntryWithAKeyRunsByItEvenWhileItIsDisabledAndTellsWhyNot) {
+TEST_F(Menus, AnEntryWithAKeyRunsByItEvenWhileItIsDisabledAndSaysWhyNot) {
   start();
   EXPECT_FALSE(find<QAction>("mnuFileSub(12)")->isEnabled());
   boxes.expectTold("No icon in Editing Area yet", BoxIcon::None);

@@ -1,4 +1,4 @@
-// frmGPMultiIcon where it writes or answers: saves, removals, new sequences and the add face.
+// frmGPMultiIcon where it writes or answers: saves, removals, reordering and the add face.
 #include "ui/MultiIconFormFixture.h"
 
 #include <QComboBox>
@@ -111,7 +111,7 @@ TEST_F(MultiIconForm, RepositionListsAllSizesWithTheFirstSelected) {
   EXPECT_EQ(find("picReposition")->size(), QSize(24, 24));
 }
 
-// An entry of 24 bits whose pixels, 0xRRGGBB, are what `colorAt` gives. Its side in the directory is its width, a
+// An entry of 24 bits whose pixels, 0xRRGGBB, are given by `colorAt`. Its side in the directory is its width, a
 // multiple of four.
 using ColorAt = std::function<std::size_t(int x, int y)>;
 Told trueColorEntry(int width, int height, const ColorAt& colorAt) {
@@ -134,7 +134,7 @@ Told quartersEntry(int width, int height) {
 const QColor kRed(255, 0, 0), kGreen(0, 255, 0), kBlue(0, 0, 255), kWhiteQuarter(255, 255, 255);
 const QColor kPreviewGround(0xC0, 0xC0, 0xC0);
 
-// Looks at the preview in the pane, in pixels of the form.
+// The pixels of the preview in the pane, by pixels of the form.
 class PreviewLook {
  public:
   explicit PreviewLook(QWidget* frame) : image_(frame->grab().toImage()) {}

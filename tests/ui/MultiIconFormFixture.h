@@ -42,7 +42,7 @@ inline Told plainEntry(int size, int colorIndex) {
 // Five icons of the sizes that can be edited; the first one of 32 pixels is item 2.
 inline const std::vector<Told> kStandard{
     plainEntry(16, 3), plainEntry(24, 9), plainEntry(32, 5), {32, 0, 32, ballImage(32)}, plainEntry(48, 12)};
-// And two of other sizes, Ref 6 and Ref 7.
+// Two more of other sizes, Ref 6 and Ref 7.
 inline const std::vector<Told> kAllSizes = [] {
   std::vector<Told> entries = kStandard;
   entries.push_back(plainEntry(64, 2));
@@ -50,10 +50,10 @@ inline const std::vector<Told> kAllSizes = [] {
   return entries;
 }();
 
-// Boxes during which a test may look around.
+// Boxes during which a test can act.
 class WatchedBoxes final : public ScriptedBoxes {
  public:
-  std::function<void()> inside;  // once, while the next box is up
+  std::function<void()> inside;  // once, while the next box is shown
 
   BoxAnswer show(const std::string& text, BoxButtons buttons, BoxIcon icon, BoxAnswer suggested) override {
     if (auto action = std::exchange(inside, nullptr)) action();
@@ -105,7 +105,7 @@ class MultiIconFormFixture : public testing::Test {
   TabbedList* others() { return find<TabbedList>("lisOtherIcons"); }
   TabbedList* sequence() { return find<TabbedList>("lisReposition"); }
 
-  // What a key or a click starts runs at once; what an access letter starts, when its button has come up again.
+  // The action of a key or a click runs at once; the action of an access letter runs when its button is released.
   void settle() { QTest::qWait(1); }
   void key(Qt::Key code) {
     QTest::keyClick(form->focusWidget(), code);
@@ -146,7 +146,7 @@ class MultiIconFormFixture : public testing::Test {
       if (button->isEnabled() && button->isVisible()) names << button->objectName();
     return names;
   }
-  // The letters of a pane's buttons and labels, in the alphabet's order.
+  // The access letters of the buttons and labels of a pane, in alphabetical order.
   std::string accessLetters(const char* pane) {
     std::string letters;
     const auto note = [&letters](QString caption) {

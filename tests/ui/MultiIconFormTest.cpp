@@ -1,4 +1,4 @@
-// frmGPMultiIcon, worked by mouse and keyboard on real files.
+// frmGPMultiIcon, used by mouse and keyboard on real files.
 #include "files/ui/frmGPMultiIcon.h"
 #include "ui/MultiIconFormFixture.h"
 
@@ -22,7 +22,7 @@ constexpr const char* kNoBitmap = "\x89PNG\r\n\x1A\n";
 
 using MultiIconForm = test::MultiIconFormFixture;
 
-// Coming up.
+// Opening.
 
 TEST_F(MultiIconForm, ComesUpWithTheDefaultEntryPreviewedAndTheFocusInItsList) {
   open();
@@ -49,7 +49,7 @@ TEST_F(MultiIconForm, AFileThatCannotBeReadShowsNothing) {
   }
 }
 
-TEST_F(MultiIconForm, TheFirstIconThatCannotBeShownIsToldOfOverTheForm) {
+TEST_F(MultiIconForm, TheFirstIconThatCannotBeShownIsReportedOverTheForm) {
   std::vector<Told> entries = kStandard;
   entries[2].image = kNoBitmap;
   boxes.expectTold("Ref 3\nUnable to get this one", BoxIcon::None);
@@ -176,7 +176,7 @@ TEST_F(MultiIconForm, WithoutACurrentContainerThereIsNoneToChoose) {
   EXPECT_FALSE(isShown("lblFileToEdit(3)"));
 }
 
-TEST_F(MultiIconForm, AStrangeBitCountIsToldOfAndTheFormStays) {
+TEST_F(MultiIconForm, AStrangeBitCountIsReportedAndTheFormStays) {
   std::vector<Told> entries = kStandard;
   entries[2].bits = 3;
   open(entries);
@@ -222,7 +222,7 @@ TEST_F(MultiIconForm, EnterOnAButtonPressesThatButton) {
 
 // Buttons.
 
-TEST_F(MultiIconForm, ButtonsBearTheirTextsAndTips) {
+TEST_F(MultiIconForm, ButtonsHaveTheirTextsAndTips) {
   open();
   expectButtons({{"cmdLoad", "Load", "Load highlighted icon (and come back)"},
                  {"cmdEdit", "Load & Exit", "Load highlighted icon and exit"},
@@ -293,7 +293,7 @@ TEST_F(MultiIconForm, TabFollowsTheEye) {
 
 // Other sizes.
 
-// Scaled, the tests' own screen is a small one.
+// When scaled, the offscreen platform's screen is small.
 bool screenHasRoom() { return QGuiApplication::primaryScreen()->availableSize().width() > kOtherSizesShownWidth; }
 
 TEST_F(MultiIconForm, OtherSizesComeUpWithTheFormAndOnlyTheirPictureSwaps) {
@@ -340,7 +340,7 @@ TEST_F(MultiIconForm, ThePictureThatTakesTheOthersPlaceTakesItsFocus) {
 }
 
 TEST_F(MultiIconForm, GrowingKeepsItOnTheScreen) {
-  // What is larger than the screen begins where that does.
+  // A form larger than the screen begins at the corner of the screen.
   const auto expectOn = [&](const QRect& screen) {
     const QRect frame = form->frameGeometry();
     EXPECT_GE(frame.left(), screen.left());
@@ -368,7 +368,7 @@ TEST_F(MultiIconForm, OtherSizesCannotBeSelected) {
   EXPECT_EQ(icons()->selected(), 2);
 }
 
-// For the eye.
+// Screenshots.
 
 constexpr int kLargePoints = 13;
 

@@ -35,7 +35,7 @@ class PictureLoaderTest : public testing::Test {
     return image.convertToFormat(format);
   }
   LoadedPicture load(const std::string& bytes) { return loader.loadPicture(folder.write("a.pal", bytes), kMax, kMax); }
-  // The first file of 100 MB that begins with the bytes; it takes no room on the disk.
+  // A file of 100 MB that begins with these bytes; it is sparse and takes no space on the disk.
   std::string stretched(const std::string& bytes) {
     const std::string path = folder.write("large.pal", bytes);
     std::filesystem::resize_file(path, kHundredMegabytes);
@@ -43,7 +43,7 @@ class PictureLoaderTest : public testing::Test {
   }
 };
 
-// A bitmap's header of 24 bits without its pixels.
+// The header of a bitmap of 24 bits, without its pixels.
 std::string bitmapHeader(int width, int height) {
   std::string bytes = "BM";
   const auto u32 = [&bytes](int value) {
@@ -128,13 +128,13 @@ TEST_F(PictureLoaderTest, OfFilesOf100MegabytesNoMoreIsReadThanAPictureCanTake) 
   EXPECT_EQ(loader.loadPicture(stretched("GIF89a"), kMax, kMax).problem, PictureProblem::Unreadable);
   EXPECT_EQ(loader.loadPicture(stretched("\x89PNG\r\n\x1A\n"), kMax, kMax).problem, PictureProblem::Unreadable);
   EXPECT_EQ(loader.loadPicture(stretched("\xFF\xD8\xFF"), kMax, kMax).problem, PictureProblem::Unreadable);
-  // What stands behind a whole picture does no harm.
+  // Bytes after a complete picture do no harm.
   EXPECT_EQ(loader.loadPicture(stretched(encoded(picture(), "bmp")), kMax, kMax).problem, PictureProblem::None);
   EXPECT_LT(test::bytesRead() - read, 6 * kMostReadOfOne);
   EXPECT_LT(test::peakMemory() - before, 64 * test::kMegabyte);
 }
 
-TEST_F(PictureLoaderTest, FoldersAndPipesAreUnreadableAndNobodyWaits) {
+TEST_F(PictureLoaderTest, FoldersAndPipesAreUnreadableAndNothingWaits) {
   EXPECT_EQ(loader.loadPicture(folder.makeFolder("folder.pal"), kMax, kMax).problem, PictureProblem::Unreadable);
   ASSERT_EQ(mkfifo(folder.file("pipe.pal").c_str(), 0600), 0);
   EXPECT_EQ(loader.loadPicture(folder.file("pipe.pal"), kMax, kMax).problem, PictureProblem::Unreadable);

@@ -20,7 +20,7 @@ constexpr QRgb kInkInTheDark = 0xFFD8DEE9;
 constexpr QRgb kAccent = 0xFF2F7FD8;
 constexpr QRgb kOutline = 0xFFFFFFFF;
 
-// Gives the application a window colour for as long as it lives.
+// Sets a window colour of the application for its own lifetime.
 class WindowColour {
  public:
   explicit WindowColour(const QColor& colour) : before_(QGuiApplication::palette()) {
@@ -198,7 +198,7 @@ struct Pointer {
   QPoint tip;
 };
 
-// One more each way than in the drawing: the outline's margin.
+// One more in each direction than in the drawing: the margin of the outline.
 const Pointer kPointers[] = {{"paint", {3, 18}},      {"erase", {5, 15}},           {"fill", {3, 18}},
                              {"replace", {3, 3}},     {"restore", {3, 18}},         {"color-picker", {3, 18}},
                              {"line", {5, 5}},        {"rectangle", {5, 5}},        {"oval", {5, 5}},
@@ -213,7 +213,7 @@ TEST(PicturePointers, TheHotSpotIsAtTheTipAtEveryScale) {
 
 TEST(PicturePointers, ATipIsAPixelOfThePictureItself) {
   for (const Pointer& pointer : kPointers) {
-    if (std::string_view(pointer.name) == "region") continue;  // A frame: its middle is empty.
+    if (std::string_view(pointer.name) == "region") continue;  // A frame: its centre is empty.
     const QRgb tip = pictureOf(pointer.name).pixel(pointer.tip - QPoint(1, 1));
     EXPECT_GT(qAlpha(tip), 128) << pointer.name;
   }

@@ -1,4 +1,4 @@
-// The ports on the desktop: boxes and dialogs as they come up, the machine, and real processes.
+// The ports on the desktop: boxes and dialogs as they are shown, the machine, and real processes.
 #include "platform/qt/Accessibility.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/ProcessTable.h"
@@ -233,7 +233,7 @@ TEST(QtFileDialogs, StarDotStarAlsoMeansNamesWithoutADot) {
   EXPECT_EQ(dialog.nameFilters(), (QStringList{"All files (*)", "Icons and cursors (*.ico *.cur)"}));
 }
 
-// Saves over a file and answers the question that may come; counts the questions.
+// Saves over a file and answers the question that may follow; counts the questions.
 bool saveOver(const test::TempFolder& folder, const std::string& name, unsigned flags,
               QMessageBox::StandardButton answer, std::string& path, int& questions) {
   questions = 0;
@@ -251,7 +251,7 @@ bool saveOver(const test::TempFolder& folder, const std::string& name, unsigned 
       if (accepted) return dialog->reject();
       accepted = true;
       auto* field = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-      // Not from within the timer, which would not run again under the question.
+      // Not from within the timer, which would not fire again during the question.
       QTimer::singleShot(0, field, [field] { QTest::keyClick(field, Qt::Key_Return); });
     }
   });
@@ -264,7 +264,7 @@ TEST(QtFileDialogs, SaveAsksBeforeAnExistingFileIsReplaced) {
   const test::TempFolder folder;
   std::string path;
   int questions = 0;
-  // The second name is no UTF-8.
+  // The second name is not UTF-8.
   for (const char* name : {"there.ico", "caf\xE9.ico"}) {
     folder.write(name);
     EXPECT_FALSE(saveOver(folder, name, kFileOverwritePrompt, QMessageBox::No, path, questions)) << name;
@@ -377,7 +377,7 @@ TEST(QtProcesses, TheCompanionIsKilledAndThenGone) {
   EXPECT_FALSE(processes.IsProcessRunning("gptest-supp1.exe"));
 }
 
-TEST(QtProcesses, ADeadChildThatNobodyWaitedForDoesNotRun) {
+TEST(QtProcesses, ADeadChildThatNoOneWaitedForDoesNotRun) {
   const test::TempFolder folder;
   const std::string program = folder.file("gptest-zombie.exe");
   std::filesystem::copy_file("/bin/true", program);
@@ -393,7 +393,7 @@ TEST(QtProcesses, ADeadChildThatNobodyWaitedForDoesNotRun) {
 }
 
 TEST(QtProcesses, TheProgramItselfIsNeverFound) {
-  // Other tests of this program may run at the same time: they may be found.
+  // Other tests of this program may run at the same time, and may be found.
   const std::string own = std::filesystem::read_symlink("/proc/self/exe").string();
   EXPECT_NE(findProcess(own), std::optional<int>(getpid()));
 }
@@ -408,7 +408,7 @@ TEST(QtProcesses, StartTellsWhetherTheProgramCouldBeStarted) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(script + ".out"); }, kPatience));
 }
 
-// Another instance: takes the lock, tells what it found, and holds it until it is ended.
+// Another instance: takes the lock, reports what it found, and holds the lock until it is ended.
 class Instance {
  public:
   explicit Instance(const std::string& lock) {
@@ -427,7 +427,7 @@ class Instance {
   }
   ~Instance() { end(); }
   bool foundAnother() const { return answer_ == 'y'; }
-  // As a crash would, with no chance to clean up.
+  // Ends like a crash, without clean-up.
   void end() {
     if (child_ <= 0) return;
     kill(child_, SIGKILL);
@@ -483,7 +483,7 @@ TEST(QtProcesses, ClosingByTitleDoesNothingWithoutAnXServer) {
   }
 }
 
-// ---- What assistive technology is told
+// ---- What assistive technology is given
 
 class ValuePanel : public QLabel, public AccessibleValue {
  public:

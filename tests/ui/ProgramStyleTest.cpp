@@ -1,4 +1,4 @@
-// That controls are seen, whatever the desktop's colours.
+// Checks that controls are visible with all colours of the desktop.
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -16,7 +16,7 @@ namespace gp {
 namespace {
 
 constexpr int kLight = 239, kDark = 42, kBlackest = 0;
-// What outlines of controls need beside their ground to be seen by most people.
+// The contrast with their background at which most people see the outlines of controls.
 constexpr double kLeastContrast = 3;
 
 QPalette paletteOf(int window) {
@@ -37,7 +37,7 @@ double contrast(QColor a, QColor b) {
   return (lighter + 0.05) / (darker + 0.05);
 }
 
-// The greatest contrast of any of the control's pixels with the window that it stands on.
+// The greatest contrast between a pixel of the control and the window behind it.
 double greatestContrast(QWidget& control, int window) {
   control.setPalette(paletteOf(window));
   control.resize(control.sizeHint());
@@ -67,7 +67,7 @@ TEST(ProgramStyle, SlidersAreSeenOnADarkWindow) {
   }
 }
 
-// On a light window boxes look as those of other programs do.
+// On a light window, boxes look like those of other programs.
 TEST(ProgramStyle, NothingChangesOnALightWindow) {
   const auto picture = [](QStyle* style) {
     QCheckBox box;

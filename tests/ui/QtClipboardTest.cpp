@@ -1,5 +1,5 @@
-// The clipboard on Qt's offscreen platform, which keeps what is put there as it is: so a test can offer what other
-// programs would, bytes and all.
+// The clipboard on Qt's offscreen platform, which keeps its content unchanged, so that a test can offer the exact bytes
+// that other programs would.
 #include "platform/qt/PictureCorner.h"
 #include "platform/qt/QtClipboard.h"
 #include "support/ProcessUse.h"
@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kLimit = 48;
 
-// What another program offers.
+// Data that another program offers.
 class OfferedContent : public QMimeData {
  public:
   std::vector<std::pair<QString, QByteArray>> offers;
@@ -41,7 +41,7 @@ class OfferedContent : public QMimeData {
   }
 };
 
-// Every pixel is another one.
+// A picture whose pixels are all different.
 QImage sampleImage(int width, int height) {
   QImage image(width, height, QImage::Format_RGB32);
   for (int y = 0; y < height; ++y)
@@ -71,7 +71,7 @@ QByteArray pngChunk(const QByteArray& typeAndData) {
   return chunk;
 }
 
-// A PNG of that size, opaque red, of which only the first rows are there.
+// A PNG of that size, opaque red, of which only the first rows are present.
 QByteArray hugePng(quint32 width, quint32 height, int rows, char interlace = 0) {
   QByteArray header("IHDR");
   header.append(8, 0);
@@ -159,7 +159,7 @@ TEST_F(QtClipboardTest, AFormatThatKeepsEveryPixelGoesFirst) {
   expectCorner(16, 16);
 }
 
-TEST_F(QtClipboardTest, AFormatThatNobodyReadsIsNoImage) {
+TEST_F(QtClipboardTest, AFormatThatNoOneReadsIsNoImage) {
   offer({{"image/x-strange", "????"}, {"image/svg+xml", "<svg/>"}, {"application/x-color", "red"}});
   EXPECT_FALSE(clipboard.hasImage());
   EXPECT_FALSE(get());
@@ -253,7 +253,7 @@ TEST_F(QtClipboardTest, ClearLeavesNothing) {
   EXPECT_TRUE(system().text().isEmpty());
 }
 
-TEST_F(QtClipboardTest, EachChangeIsToldAndSeen) {
+TEST_F(QtClipboardTest, EachChangeIsReportedAndSeen) {
   int told = 0;
   bool hadImage = false;
   clipboard.onChange = [&] { ++told, hadImage = clipboard.hasImage(); };

@@ -1,4 +1,4 @@
-// The name that the save dialog gives for what is typed, and what it asks before.
+// The name that the save dialog returns for a typed name, and the questions it asks before.
 #include "platform/qt/PathText.h"
 #include "platform/qt/QtFileDialogs.h"
 #include "support/TempFolder.h"
@@ -38,8 +38,8 @@ class SaveDialog : public testing::Test {
  protected:
   using Step = std::function<void(QFileDialog&)>;
 
-  // Opens the dialog and does the steps, each when the dialog has the keys; gives the path, or nothing when the steps
-  // were over and the dialog still stood there. The questions meanwhile get `answer`.
+  // Opens the dialog and does the steps, each when the dialog has the keyboard focus. Returns the path, or nothing if
+  // the dialog is still open after the last step. Questions get `answer`.
   std::optional<std::string> save(const std::vector<Step>& steps,
                                   QMessageBox::StandardButton answer = QMessageBox::Yes) {
     questions.clear();
@@ -58,7 +58,7 @@ class SaveDialog : public testing::Test {
         if (isBusy) return;
         if (done == steps.size()) return leave(*dialog);
         isBusy = true;
-        // Not from within the timer, which would not run again under a question.
+        // Not from within the timer, which would not fire again during a question.
         QTimer::singleShot(0, dialog, [&, dialog] {
           steps[done++](*dialog);
           isBusy = false;
@@ -73,7 +73,7 @@ class SaveDialog : public testing::Test {
     return isSaved ? std::optional(path) : std::nullopt;
   }
 
-  // The path for a name that is typed.
+  // The path for a typed name.
   std::optional<std::string> saveAs(const std::string& name, QMessageBox::StandardButton answer = QMessageBox::Yes) {
     return save({typed(name)}, answer);
   }
@@ -105,7 +105,7 @@ class SaveDialog : public testing::Test {
       emit types->activated(index);
     };
   }
-  // The button takes the keys from the field.
+  // The button takes the focus from the field.
   static Step pressed() {
     return [](QFileDialog& dialog) {
       auto* button = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save);
@@ -120,7 +120,7 @@ class SaveDialog : public testing::Test {
   unsigned flags = kFileOverwritePrompt;
   std::vector<std::string> questions;
   std::string extension = "ico";
-  // The folder, the name and what is selected of it in a dialog that did not close.
+  // The folder, the name, and the selected part of it, in a dialog that did not close.
   std::string leftIn, leftText, leftSelected;
 
  private:
@@ -263,7 +263,7 @@ TEST_F(SaveDialog, AFolderOfTheCurrentDirectoryIsNoFolderElsewhere) {
 }
 
 TEST_F(SaveDialog, TheQuestionBeforeAFileIsReplacedIsForTheCompletedName) {
-  // The second name is no UTF-8.
+  // The second name is not UTF-8.
   for (const char* name : {"py4.0", "caf\xE9.0"}) {
     const std::string file = folder.write(name + std::string(".ico"));
     EXPECT_EQ(saveAs(name, QMessageBox::No), std::nullopt);

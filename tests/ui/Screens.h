@@ -1,4 +1,4 @@
-// Pictures of forms for the eye: build/screens/NAME.png and, in dark colours, NAME-dark.png.
+// Screenshots of forms for inspection: build/screens/NAME.png and, in dark colours, NAME-dark.png.
 #pragma once
 
 #include <QApplication>
@@ -23,7 +23,7 @@ inline void savePicture(QWidget& form, const QString& name) {
   EXPECT_TRUE(form.grab().save(QString(GP_BINARY_DIR "/screens/%1.png").arg(name)));
 }
 
-// `make` builds the form anew for each theme.
+// `make` builds a new form for each theme.
 template <class Make>
 void saveInBothThemes(const QString& name, Make make) {
   const QPalette light = QApplication::palette();

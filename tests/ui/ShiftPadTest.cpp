@@ -12,7 +12,7 @@
 namespace gp {
 namespace {
 
-// The pad, connected as the form connects it.
+// The pad, connected like on the form.
 class ShiftPadTest : public test::ShellFixture {
  protected:
   static constexpr int kSize = 16;
@@ -38,7 +38,7 @@ class ShiftPadTest : public test::ShellFixture {
     });
     return made;
   }
-  // A green pixel at (4, 4) on transparent ground.
+  // A green pixel at (4, 4) on a transparent ground.
   void makeIcon() {
     IconImage icon = transparentIcon(kSize);
     icon.image.SetPixelV(4, 4, 0x00F000);
@@ -118,7 +118,7 @@ TEST_F(ShiftPadTest, QuickClicksAreAsManySteps) {
   makeIcon();
   QTest::mouseClick(tool(), Qt::LeftButton);
   QTest::mouseClick(pad, Qt::LeftButton, {}, middleOf(2, 1));
-  // The second press of a pair comes as a double click.
+  // The second press of a pair is delivered as a double click.
   QTest::mouseDClick(pad, Qt::LeftButton, {}, middleOf(2, 1));
   QTest::mouseRelease(pad, Qt::LeftButton, {}, middleOf(2, 1));
   EXPECT_EQ(pictureAt(), QPoint(6, 4));
@@ -171,7 +171,7 @@ TEST_F(ShiftPadTest, APressWhoseReleaseGoesElsewhereIsForgotten) {
   EXPECT_EQ(pictureAt(), QPoint(4, 4));
 }
 
-TEST_F(ShiftPadTest, WithoutShiftAReleaseTellsToSelectIt) {
+TEST_F(ShiftPadTest, WithoutShiftAReleaseSaysToSelectIt) {
   makeIcon();
   boxes.expectTold("Please select Shift first (middle square)", BoxIcon::None);
   clickCell(1, 0);
@@ -180,7 +180,7 @@ TEST_F(ShiftPadTest, WithoutShiftAReleaseTellsToSelectIt) {
   EXPECT_EQ(pictureAt(), QPoint(4, 4));
 }
 
-TEST_F(ShiftPadTest, WithoutAnIconThePadLooksDimmedAndTellsWhy) {
+TEST_F(ShiftPadTest, WithoutAnIconThePadLooksDimmedAndSaysWhy) {
   EXPECT_TRUE(tool()->isDimmed());
   EXPECT_TRUE(cell(ShiftCell::Left)->isDimmed());
   boxes.expectTold("No icon in Editing Area yet", BoxIcon::None);

@@ -1,4 +1,4 @@
-// The list of texts with tab stops, worked by mouse and keyboard.
+// The list of texts with tab stops, used by mouse and keyboard.
 #include "platform/qt/widgets/TabbedList.h"
 
 #include <QAccessible>
@@ -32,7 +32,7 @@ class TabbedListTest : public testing::Test {
   void clickItem(int item, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers, list.visualItemRect(list.item(item)).center());
   }
-  // What a tab stop is in pixels: whole ones, rounded up.
+  // The width of a tab stop in whole pixels, rounded up.
   int pixels(int units) const {
     const double average =
         QFontMetricsF(list.font()).horizontalAdvance("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz") / 52;
@@ -158,7 +158,7 @@ TEST_F(TabbedListTest, TheFirstKeyAfterNothingChoosesTheFirstItem) {
   EXPECT_EQ(told(), std::vector<int>{0});
 }
 
-TEST_F(TabbedListTest, TheProgramMayGoBackToTheFormerItemWhileItIsTold) {
+TEST_F(TabbedListTest, TheProgramMayGoBackToTheFormerItemDuringTheNotification) {
   fill(3);
   list.setSelected(0);
   const auto back = QObject::connect(&list, &TabbedList::itemChosen, [this] { list.setSelected(0); });
@@ -191,7 +191,7 @@ TEST_F(TabbedListTest, AListForReadingSelectsNothing) {
   EXPECT_EQ(spy.count(), 0);
 }
 
-// The columns that were told are where letters are painted.
+// The letters are painted in the reported columns.
 TEST_F(TabbedListTest, LettersStandInTheirColumns) {
   list.setItems({"\tI\tI"});
   const int row = list.visualItemRect(list.item(0)).height();

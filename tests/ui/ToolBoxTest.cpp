@@ -34,7 +34,7 @@ TEST_F(ToolBoxTest, ASelectedToolIsSunkenAndASecondClickTurnsItOff) {
   EXPECT_EQ(shell.drawing().tools.selectedTool(), kNoTool);
 }
 
-TEST_F(ToolBoxTest, WithoutAnIconTheToolsLookDimmedAndAClickTellsWhy) {
+TEST_F(ToolBoxTest, WithoutAnIconTheToolsLookDimmedAndAClickSaysWhy) {
   start();
   EXPECT_TRUE(tool(kPaint)->isDimmed());
   EXPECT_TRUE(tool(kPaint)->isEnabled());
@@ -46,7 +46,7 @@ TEST_F(ToolBoxTest, WithoutAnIconTheToolsLookDimmedAndAClickTellsWhy) {
   EXPECT_FALSE(tool(kPaint)->isDimmed());
 }
 
-TEST_F(ToolBoxTest, TheColourPickerShowsBesideTheLargeChartOnlyAndMovesNobody) {
+TEST_F(ToolBoxTest, TheColourPickerShowsBesideTheLargeChartOnlyAndMovesNothing) {
   startWithIcon(16);
   click("imgGet16ColorChart");
   const QRect place = tool(kShift)->geometry();

@@ -1,4 +1,4 @@
-"""Proves that the rules can fail: each is fed a small tree that breaks it, and must name the offending line."""
+"""Proves that the rules can fail: each is given a small tree that breaks it, and must name the offending line."""
 import os
 import tempfile
 
@@ -22,10 +22,13 @@ ROOMS = '''| room | what is in it | may use |
 HEADER = '// What it is for.\n#pragma once\n'
 GOOD = {'docs/architecture.md': ROOMS, 'tools/packages.txt': 'build present  reason\n',
         'src/platform/A.h': HEADER + '#include <vector>\n', 'src/document/B.h': HEADER + '#include "platform/A.h"\n',
-        'src/document/ui/C.h': HEADER + '#include <QWidget>\n', 'src/shell/D.h': HEADER}
+        'src/document/ui/C.h': HEADER + '#include <QWidget>\n', 'src/shell/D.h': HEADER,
+        'tests/E.h': HEADER + 'const char* text = "made anew // nobody";\nint told;\n'
+                     '// It stands for one, stands in for one, stands still, stands out. Told well apart, one tells good from bad.\n',
+        'tools/f.py': '"""Tells good from bad apart."""\nTOLD = "# nobody"\n'}
 LONG_FUNCTION = 'void f() {\n' + '  g();\n' * sizes.MAX_FUNCTION_LINES + '}\n'
 
-# rule, file that breaks it, its text, what the complaint must hold
+# rule, file that breaks it, its text, what the message must contain
 BROKEN = [
     (layers.check, 'src/platform/Bad.h', '#include "document/B.h"', 'src/platform/Bad.h:1: platform must not include'),
     (layers.check, 'src/document/Bad.h', '#include <QString>', 'src/document/Bad.h:1: <QString>'),
@@ -37,6 +40,13 @@ BROKEN = [
     (layers.check, 'src/attic/Bad.cpp', '#include "platform/A.h"', 'the room attic'),
     (words.check, 'src/document/Bad.h', '// as told in Part' + ' 3.1', 'src/document/Bad.h:1'),
     (words.check, 'docs/bad.md', 'the file ' + 'specifi' + 'cation', 'docs/bad.md:1'),
+    (words.checkEnglish, 'tests/Bad.h', 'int a = \'"\';\n// Made\n// anew', 'tests/Bad.h:3: "anew"'),
+    (words.checkEnglish, 'tests/Bad.h', 'const char* a = "//"; /* It\nstands here. */', 'tests/Bad.h:2: "stands"'),
+    (words.checkEnglish, 'bench/bad.py', 'def f():\n    """A value.\n\n    Nobody needs it."""\n', 'bench/bad.py:4: "Nobody"'),
+    (words.checkEnglish, 'bench/bad.py', 'a = "#"  # as told', 'bench/bad.py:1: "told"'),
+    (words.checkEnglish, 'tools/bad', '#!/bin/sh\necho  # what becomes of it\n', 'tools/bad:2: "becomes of"'),
+    (words.checkEnglish, 'tests/Bad.cmake', '# It wants more.', 'tests/Bad.cmake:1: "wants"'),
+    (words.checkEnglish, 'docs/bad.md', 'Without it there is\nnobody.', 'docs/bad.md:2: "nobody"'),
     (sizes.checkFiles, 'src/document/Bad.cpp', '\n' * (sizes.MAX_FILE_LINES + 1), 'src/document/Bad.cpp'),
     (sizes.checkFunctions, 'src/document/Bad.cpp', 'namespace gp {\n' + LONG_FUNCTION + '}', 'src/document/Bad.cpp:2: 62'),
     (sizes.checkFunctions, 'src/document/Bad.cpp', 'class A : B<C()> {\n' + LONG_FUNCTION + '};', 'src/document/Bad.cpp:2: 62'),
@@ -44,6 +54,12 @@ BROKEN = [
     (sizes.checkOpenings, 'src/document/Bad.h', '#pragma once\n', 'src/document/Bad.h'),
     (packages.check, 'tools/packages.txt', 'build absent  reason', 'absent'),
 ]
+# One for each stilted word.
+STILTED = ('Nobody asks.', 'It is made anew.', 'a row of such alone', 'The file tells it.', 'as it was told',
+           'It stands there.', 'where it stood', 'It wants a name.', 'There is but one.', 'what becomes of it',
+           "others' business", 'the affair of the caller', 'It is lent a copy.', 'a lie', 'in the midst of it',
+           'It bears a name.', 'by turns', 'no mere news', 'meant so', 'upon it')
+BROKEN += [(words.checkEnglish, 'docs/bad.md', line, 'docs/bad.md:1') for line in STILTED]
 
 
 def write(root, name, text):

@@ -5,16 +5,16 @@ import subprocess
 from tree import Cache, inParallel, isUi
 
 COMPILER = ['g++', '-std=c++20', '-fsyntax-only', '-x', 'c++', '-Wall', '-Wextra', '-Wno-pragma-once-outside-header']
-PRECOMPILED = 'cmake_pch'  # in the command of a source that gets headers without including them
+PRECOMPILED = 'cmake_pch'  # compiler arguments of a source that gets headers without including them
 
 
 def uiFlags(tree):
-    """Qt's flags, from any source of the ui zone in the last build; None before it."""
+    """The flags for Qt, from any source of the ui zone in the last build; None before the first build."""
     return next((tree.compilerFlags(name) for name in tree.commands() if name.startswith('src/') and isUi(name)), None)
 
 
 def provenByBuild(tree):
-    """Headers that the build compiles with nothing before them."""
+    """Headers that the build compiles with no other header before them."""
     proven = set()
     for name, command in tree.commands().items():
         if name.startswith('src/') and tree.has(name) and not any(PRECOMPILED in word for word in command):

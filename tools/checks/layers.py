@@ -1,4 +1,4 @@
-"""Proves from the include lines who knows whom. The row of rooms is the table in docs/architecture.md."""
+"""Checks the include lines against the row of rooms, which is the table in docs/architecture.md."""
 import re
 
 from standard_headers import C_HEADERS, CXX_HEADERS
@@ -48,7 +48,7 @@ def check(tree):
 
 
 def checkBuild(tree, rooms):
-    """The build links the rooms in the same row."""
+    """Checks that the build links the rooms in the same order."""
     if not tree.has('cmake/Rooms.cmake'):
         return []
     built = ROOMS_CMAKE.search(tree.text('cmake/Rooms.cmake')).group(1).split()

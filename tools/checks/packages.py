@@ -1,4 +1,4 @@
-"""The dependencies that docs/architecture.md gives reasons for are those that tools/packages.txt installs."""
+"""Checks that the dependencies explained in docs/architecture.md are those that tools/packages.txt installs."""
 import re
 
 TABLE = 'tools/packages.txt'

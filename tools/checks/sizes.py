@@ -1,23 +1,23 @@
-"""Length of files and functions, and the opening comment of headers."""
+"""Checks the length of files and functions, and the opening comment of headers."""
 import re
 
 MAX_FILE_LINES = 600
 MAX_FUNCTION_LINES = 60
 PLACES = ('src', 'tests', 'bench')
 
-# Comments, raw strings, strings and characters: what a brace in them must not count for.
+# Comments, raw strings, strings and characters, in which a brace does not count.
 NOT_CODE = re.compile(r'//[^\n]*|/\*.*?\*/|R"(\w*)\(.*?\)\1"|"(?:\\.|[^"\\\n])*"|(?<!\w)\'(?:\\.|[^\'\\\n])+\'', re.S)
 SCOPE = re.compile(r'\b(namespace|class|struct|enum|union|extern)\b')
 CONTROL = re.compile(r'^\s*(if|for|while|switch|else|do|try|catch)\b')
 
 
 def blank(match):
-    """Spaces in place of a match, its line breaks kept."""
+    """Replaces a match by spaces and keeps its line breaks."""
     return re.sub(r'[^\n]', ' ', match.group(0))
 
 
 def functions(text):
-    """(line of the opening brace, lines, head) of each outermost function body."""
+    """(line of the opening brace, number of lines, head) of each outermost function body."""
     code = NOT_CODE.sub(blank, text)
     depth, bodyDepth, start, headStart = 0, None, 0, 0
     for at, char in enumerate(code):
@@ -36,7 +36,7 @@ def functions(text):
 
 
 def isScope(head):
-    """A class or namespace whose head has brackets: attributes, alignas, a base's template arguments."""
+    """True for a class or namespace whose head has brackets: attributes, alignas, template arguments of a base."""
     match = SCOPE.search(head)
     return bool(match) and '(' not in head[:match.start()] and not re.search(r'\)\s*(const|noexcept|override)?\s*$', head)
 

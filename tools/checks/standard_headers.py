@@ -10,6 +10,6 @@ syncstream system_error thread tuple type_traits typeindex typeinfo unordered_ma
 variant vector version
 '''.split())
 
-# Their C forms: tolerated beside Qt, not in the core, where the C++ names are used.
+# Their C forms: accepted beside Qt, but not in the core, which uses the C++ names.
 C_HEADERS = frozenset(
     'assert.h ctype.h errno.h float.h limits.h math.h stddef.h stdint.h stdio.h stdlib.h string.h time.h'.split())

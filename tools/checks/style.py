@@ -1,4 +1,4 @@
-"""The layout of the sources is what clang-format makes of them. What was found good is remembered."""
+"""Checks that the sources are laid out as clang-format does. Sources that passed are remembered."""
 import re
 import subprocess
 
@@ -10,7 +10,7 @@ COMPLAINT = re.compile(r'^(.*?):(\d+):\d+: error:', re.M)
 
 
 def problems(tree, names):
-    """{file: its first line that is laid out otherwise}; a tool that fails without naming one stands for all files."""
+    """{file: its first line with another layout}; a tool that fails without naming a line is reported for all files."""
     done = subprocess.run([TOOL, '--dry-run', '-Werror', *map(tree.path, names)], capture_output=True, text=True)
     found = {}
     for path, line in COMPLAINT.findall(done.stderr):

@@ -1,4 +1,4 @@
-"""The source tree as the rules see it: which files there are, what they include, which zone they stand in."""
+"""The source tree as the rules see it: its files, what they include, and their zone."""
 import concurrent.futures
 import hashlib
 import json
@@ -31,7 +31,7 @@ class Tree:
         return os.path.isfile(self.path(relative))
 
     def git(self, *arguments):
-        """Output of git on this tree whoever owns it; None where there is no repository or no git."""
+        """Output of git on this tree, whoever owns it; None without a repository or git."""
         try:
             done = subprocess.run(['git', '-c', 'safe.directory=*', '-C', self.root, *arguments], capture_output=True)
         except FileNotFoundError:
@@ -39,7 +39,7 @@ class Tree:
         return done.stdout.decode('utf-8', 'replace') if done.returncode == 0 else None
 
     def allFiles(self):
-        """Every file that belongs to the project, sorted; in a repository the ignored ones are left out."""
+        """Every file of the project, sorted; in a repository, without the ignored ones."""
         listed = None
         if os.path.exists(self.path('.git')):
             listed = self.git('ls-files', '-z', '--cached', '--others', '--exclude-standard')
@@ -63,12 +63,12 @@ class Tree:
         return self._includes[relative]
 
     def header(self, relative, target):
-        """The project's header that `relative` names `target`; None without one."""
+        """The header of the project that `relative` includes as `target`, or None."""
         places = ('src/' + target, 'tests/' + target, os.path.normpath(os.path.join(os.path.dirname(relative), target)))
         return next((place for place in places if self.has(place)), None)
 
     def closure(self, relative):
-        """The file and every project header it reaches through quoted includes."""
+        """The file and every project header that it includes, directly or indirectly."""
         if relative in self._closures:
             return self._closures[relative]
         seen, waiting = {relative}, [relative]
@@ -94,7 +94,7 @@ class Tree:
         return digest.hexdigest()
 
     def commands(self):
-        """Compiler arguments per source, from the build's compile_commands.json; empty before the first build."""
+        """Compiler arguments per source, from compile_commands.json of the build; empty before the first build."""
         if self._commands is None:
             self._commands = self.readCommands()
         return self._commands
@@ -108,7 +108,7 @@ class Tree:
         return {os.path.relpath(entry['file'], self.root): shlex.split(entry['command']) for entry in entries}
 
     def compilerFlags(self, relative):
-        """Where the build finds headers for a source and what it defines; None when the build does not compile it."""
+        """The include paths and definitions with which the build compiles a source; None if it does not compile it."""
         command = self.commands().get(relative)
         if command is None:
             return None
@@ -122,13 +122,13 @@ class Tree:
 
 
 def isUi(relative):
-    """The zone that may use Qt: every ui/ folder, platform/qt and app."""
+    """True for the zone that may use Qt: every ui/ folder, platform/qt and app."""
     parts = relative.split('/')
     return parts[1:2] == ['app'] or parts[1:3] == ['platform', 'qt'] or 'ui' in parts[2:-1]
 
 
 class Cache:
-    """Remembers fingerprints that were found good, one empty file each, in the build folder."""
+    """Remembers the fingerprints that passed, as one empty file each, in the build folder."""
 
     def __init__(self, tree, name):
         self.folder = os.path.join(tree.build, 'check-cache', name)
@@ -146,6 +146,6 @@ def processors():
 
 
 def inParallel(function, items):
-    """function over items on all processors, results in order."""
+    """Calls the function for each item, on all processors; returns the results in order."""
     with concurrent.futures.ThreadPoolExecutor(processors()) as pool:
         return list(pool.map(function, items))

@@ -1,5 +1,5 @@
-// Turns the SVG pictures into the sheets that are embedded in the program: one file per scale and theme. It needs no
-// display, as it draws on images only.
+// Converts the SVG pictures to the sheets that are embedded in the program: one file per scale and theme. It needs no
+// display, because it draws on images only.
 #include "platform/qt/PictureSheet.h"
 
 #include <QByteArray>
@@ -32,7 +32,7 @@ struct Picture {
   QImage image;
 };
 
-// The two neutrals of the family. The dark theme is the same drawing with each replaced by its counterpart.
+// The two neutral colours of the pictures. The dark theme is the same drawing with each replaced by its counterpart.
 struct Neutral {
   const char* light;
   const char* dark;
@@ -44,7 +44,7 @@ QByteArray darkened(QByteArray svg) {
   return svg;
 }
 
-// An argument is FILE or FILE:SIZE,SIZE...; nothing when it cannot be read.
+// An argument is FILE or FILE:SIZE,SIZE...; nothing if it cannot be parsed.
 std::optional<Source> readSource(const QByteArray& argument) {
   const qsizetype colon = argument.lastIndexOf(':');
   const QByteArray path = colon < 0 ? argument : argument.left(colon);
@@ -71,7 +71,7 @@ QImage render(const QByteArray& svg, int size) {
   return image;
 }
 
-// False when a source cannot be drawn; its name is told.
+// False if a source cannot be drawn; its name is printed.
 bool renderAll(const std::vector<Source>& sources, int scale, bool dark, std::vector<Picture>& pictures) {
   for (const Source& source : sources) {
     const QByteArray svg = dark ? darkened(source.svg) : source.svg;
@@ -104,7 +104,7 @@ QByteArray sheetOf(const std::vector<Picture>& pictures) {
     entry.size = static_cast<std::uint32_t>(picture.image.width());
     entry.offset = static_cast<std::uint32_t>(headSize + pixels.size());
     append(head, entry);
-    // Rows of 32-bit pixels have no padding, so the image is one run of bytes.
+    // Rows of 32-bit pixels have no padding, so the pixels of the image are contiguous.
     pixels.append(reinterpret_cast<const char*>(picture.image.constBits()), picture.image.sizeInBytes());
   }
   return head + pixels;

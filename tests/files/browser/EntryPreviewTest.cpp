@@ -76,7 +76,7 @@ TEST_F(EntryPreviewTest, AlphaValuesStayForWhoeverLoadsTheIcon) {
   EXPECT_EQ(preview.icon().alpha.at(0, 0), 255);
 }
 
-// Alpha values of the icon before must not tint this one, even when the directory tells 32 bits.
+// Alpha values of the previous icon must not change this one, even if the directory states 32 bits.
 TEST_F(EntryPreviewTest, AnIconWithPaletteIsNeverShownWithAlpha) {
   Picture tinted = anyPicture(16, 32);
   tinted.color = [](int, int) { return Rgb{0, 0, 0, 1}; };

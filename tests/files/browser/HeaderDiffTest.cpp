@@ -12,7 +12,7 @@ constexpr const char* kNoIcon = "No icon retrieved.";
 constexpr const char* kSalvaged = "\n\n(per bitmap header entry, irrespective of actual color depth)\n\n";
 constexpr int kFirstImage = 6 + 16;
 
-// Positions in an entry of the directory.
+// Offsets in a directory entry.
 constexpr std::size_t kWidthAt = 0, kHeightAt = 1, kColorsAt = 2, kBitsAt = 6, kBytesAt = 8, kOffsetAt = 12;
 
 std::uint8_t entryByte(const Bytes& file, std::size_t entry, std::size_t at) { return file.at(6 + 16 * entry + at); }
@@ -25,7 +25,7 @@ Entry pngEntry(int size) {
   return entry;
 }
 
-// 256 colours told as 16, with a header that tells the truth.
+// An image of 256 colours whose directory states 16, with a correct header.
 Entry lyingEntry() { return entryOf(anyPicture(32, 8), 16, 4); }
 
 class HeaderDiffTest : public FilesTest {
@@ -44,7 +44,7 @@ class HeaderDiffTest : public FilesTest {
     display.onChanged = [this](DisplayPart part) { changes += part == DisplayPart::ModalForm; };
     diff->activate();
   }
-  // The whole dialogue of a salvage that goes well; tells the bytes written.
+  // All dialogs of a successful salvage; returns the bytes written.
   Bytes salvageTo(const std::string& target, bool isThere) {
     dialogs.paths = {target};
     boxes.expectAsked(
@@ -143,7 +143,7 @@ TEST_F(HeaderDiffTest, LargePreviewsAndOnesThatAreNotSquareAreShown) {
   EXPECT_EQ(diff->picIconInFile().height(), 17);
 }
 
-TEST_F(HeaderDiffTest, AnEntryThatCannotBeShownIsToldOfAndTheOneBeforeComesBack) {
+TEST_F(HeaderDiffTest, AnEntryThatCannotBeShownIsReportedAndTheOneBeforeComesBack) {
   open({entryOf(anyPicture(32, 4)), pngEntry(16)});
   const Texts before = texts();
   boxes.expectTold("Ref 2\nUnable to get this one", BoxIcon::None);
@@ -181,7 +181,7 @@ TEST_F(HeaderDiffTest, WhatIsNoIconFileHasNothingToShow) {
   show(folder.path("missing.ico"));
 }
 
-TEST_F(HeaderDiffTest, AnotherBaseReadsTheFileAnew) {
+TEST_F(HeaderDiffTest, AnotherBaseReadsTheFileAgain) {
   open({entryOf(anyPicture(16, 4))});
   folder.write("lies.ico", build(IcoFile{{entryOf(anyPicture(24, 4)), entryOf(anyPicture(32, 8))}, 0, 1, {}}));
   diff->setBase(HeaderBase::Icon);
@@ -254,7 +254,7 @@ TEST_F(HeaderDiffTest, AnAlphaImageOfFewColorsIsTrueColorAllTheSame) {
 TEST_F(HeaderDiffTest, WithoutAnyAlphaByteColorsAreMeasured) {
   Picture red = anyPicture(32, 32);
   red.color = [](int, int) { return Rgb{255, 0, 0, 0}; };
-  red.transparent = [](int, int) { return true; };  // the Mask behind the rows is no alpha
+  red.transparent = [](int, int) { return true; };  // the mask after the rows is not alpha
   open({entryOf(red)});
   EXPECT_EQ(diff->table().lblActualColor, "16");
   EXPECT_EQ(diff->table().lblActualBPP, "4");
@@ -373,7 +373,7 @@ TEST_F(HeaderDiffTest, AFileThatCannotBeCreatedEndsSilently) {
   EXPECT_EQ(bytesOf(readOnly), (Bytes{1, 2, 3}));
 }
 
-TEST_F(HeaderDiffTest, AWriteThatFailsIsToldAndTheFormerContentStays) {
+TEST_F(HeaderDiffTest, AWriteThatFailsIsReportedAndTheFormerContentStays) {
   open({lyingEntry()});
   const Bytes source = bytesOf(path);
   const Bytes other{1, 2, 3, 4, 5};
@@ -411,7 +411,7 @@ std::uint32_t entryLong(const Bytes& file, std::size_t entry, std::size_t at) {
   return value;
 }
 
-// Each image of a file, by its directory.
+// Each image of a file, located by the directory.
 std::vector<Bytes> imagesOf(const Bytes& file) {
   std::vector<Bytes> images;
   for (std::size_t i = 0; i < file.at(4); ++i) {
@@ -425,7 +425,7 @@ TEST_F(HeaderDiffTest, ImagesThatLieScatteredAreLaidOutInDirectoryOrder) {
   Entry first = lyingEntry(), second = entryOf(anyPicture(16, 4)), third = entryOf(anyPicture(24, 24));
   const auto size = [](const Entry& e) { return static_cast<std::uint32_t>(e.image.size()); };
   const std::uint32_t start = 6 + 3 * 16;
-  // In the file: third, first, second; each entry knows where its own is.
+  // In the file: third, first, second; the entries have the right offsets.
   IcoFile file{{first, second, third}, 0, 1, {}};
   file.entries[0].offset = start + size(third);
   file.entries[1].offset = start + size(third) + size(first);

@@ -1,5 +1,5 @@
-// Icon files that lie, in the browser: what is listed is shown or refused entry by entry, and what is only looked at
-// stays as it was on disk.
+// Defective icon files in the browser: each listed entry is shown or refused, and a file that is only viewed does not
+// change on disk.
 #include "files/BrowserFixture.h"
 #include "support/ProcessUse.h"
 
@@ -53,7 +53,8 @@ TEST_F(HostileBrowsing, CountsOf0AndBeyondTheFileUnload) {
   }
 }
 
-// Four entries are told where three stand: the fourth is read from the first image, and points nowhere.
+// The directory states four entries where there are three: the fourth is read from the first image, and its offset is
+// invalid.
 TEST_F(HostileBrowsing, ADirectoryThatReachesIntoTheImagesUnloads) {
   file.count = 4;
   EXPECT_TRUE(unloadsAtOnce(build(file)));
@@ -117,7 +118,7 @@ TEST_F(HostileBrowsing, DepthsWithoutRowFormatCannotBeShown) {
   }
 }
 
-// Where images are.
+// Offsets.
 
 TEST_F(HostileBrowsing, OffsetsPastTheEndUnload) {
   for (const std::uint32_t offset : {0x10000u, 0x7FFFFFFFu, 0xFFFFFFFFu}) {
@@ -154,12 +155,12 @@ TEST_F(HostileBrowsing, EntriesMayShareTheirImageOrOverlap) {
   const Bytes honest = build(file);
   const std::uint32_t second = parseIconDirectory(honest).entry(1).imageOffset;
   file.entries.push_back(file.entries[1]);
-  file.entries[3].offset = second + 16;  // one more entry stands in the directory
+  file.entries[3].offset = second + 16;  // the directory has one more entry
   const Bytes bytes = build(file);
   EXPECT_TRUE(lists(bytes, 4));
   browser->clickIcon(3);
   EXPECT_TRUE(previews(honest, 1));
-  file.entries[3].offset = second;  // 16 bytes earlier: within the first image
+  file.entries[3].offset = second;  // 16 bytes earlier: inside the first image
   EXPECT_TRUE(lists(build(file), 4));
   browser->clickIcon(3);
   EXPECT_EQ(browser->selectedIcon(), 3);
@@ -233,7 +234,7 @@ TEST_F(HostileBrowsing, FilesCutAnywhereUnloadAndStayAsTheyWere) {
   EXPECT_TRUE(lists(whole, 2));
 }
 
-// The same with sizes that leave every cut readable.
+// The same with sizes for which every truncated file is readable.
 TEST_F(HostileBrowsing, ImagesCutAnywhereAreShown) {
   const Bytes whole = build(anyEntry(16, 4));
   for (std::size_t size = 22; size < whole.size(); ++size) {
@@ -274,7 +275,7 @@ TEST_F(HostileBrowsing, AFileOf65535EntriesWithOneImageCostsNoMoreThanItsSizeAnd
   EXPECT_FALSE(browser->canRearrange());
 }
 
-// 99 images of 4 MB that are one: to write them apart would take more than a file may have.
+// 99 images of 4 MB that are the same bytes: separate copies would exceed the limit on file sizes.
 TEST_F(HostileBrowsing, OverlappingImagesThatWouldFillMoreThanAFileMayHaveAreNotWritten) {
   constexpr std::uint32_t kImageRoom = 4 << 20;
   std::vector<Entry> entries(99, anyEntry(16, 4));

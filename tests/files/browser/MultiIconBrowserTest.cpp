@@ -1,4 +1,4 @@
-// Showing, listing and selecting; what the buttons do has its own files.
+// Showing, listing and selecting. The buttons are tested in other files.
 #include "files/BrowserFixture.h"
 
 namespace gp::test {
@@ -196,7 +196,7 @@ TEST_F(BrowserTest, AnEntryThatCannotBeShownLeavesTheEarlierOneSelected) {
   browser->clickIcon(1);
   EXPECT_EQ(browser->selectedIcon(), 0);
   EXPECT_TRUE(previews(file, 0));
-  EXPECT_GE(changes, 1);  // the list takes its selection back
+  EXPECT_GE(changes, 1);  // the list reverts its selection
   EXPECT_FALSE(state.screen.hourglass);
 }
 

@@ -10,7 +10,7 @@ constexpr const char* kAlphaReminder =
     "alpha effects, or to edit the alpha values, invoke the Alpha Channel screen.\n\n"
     "(To remove Reminder, untick the related Option submenu)";
 
-// 16 colours of 32x32, 256 of 16x16, alpha of 24x24.
+// 32x32 with 16 colours, 16x16 with 256, 24x24 with alpha.
 const IcoFile& mixed() {
   static const IcoFile file =
       fileOf({entryOf(anyPicture(32, 4)), entryOf(anyPicture(16, 8)), entryOf(anyPicture(24, 32))});
@@ -46,7 +46,7 @@ TEST_F(MultiIconCommandsTest, TheBrowserIsToldFileAndContainer) {
   EXPECT_EQ(retrieve(), "");
 }
 
-TEST_F(MultiIconCommandsTest, AFileOfAnyContainerIsToldToBeInThePanelHoweverItIsSpelled) {
+TEST_F(MultiIconCommandsTest, AFileOfAnyContainerIsReportedAsInThePanelHoweverItIsSpelled) {
   std::filesystem::create_symlink(path, folder.path("link.ico"));
   for (const std::string& own : {path, folder.folder() + "/./m.ico", folder.path("link.ico")}) {
     state.mIconRecs[4].path = own;
@@ -182,7 +182,7 @@ TEST_F(MultiIconCommandsTest, MalformedAnswersLoadNothing) {
   }
 }
 
-TEST_F(MultiIconCommandsTest, SizesThatAreNotOfferedAreToldAndLeave) {
+TEST_F(MultiIconCommandsTest, SizesThatAreNotOfferedAreReportedAndLeave) {
   for (const std::string answer : {"1/00/64/64/16/4/16/4", "1/00/32/0/16/4/16/4", "1/00/16/32/16/4/16/4"}) {
     boxes.expectTold("Retrieval failed", BoxIcon::Exclamation);
     userLoads(bytes, 0, answer, true);

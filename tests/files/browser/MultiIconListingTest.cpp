@@ -96,7 +96,7 @@ TEST(MultiIconListing, SidesOfThreeDigitsAreReadAgain) {
   EXPECT_EQ(reading.height, 7);
 }
 
-// Two characters are all that is read.
+// Only two characters are read.
 TEST(MultiIconListing, Ref100ReadsAs10) {
   const ListedEntry entry{.width = 16, .height = 16, .directory = {16, 4}};
   EXPECT_EQ(readItem(itemText(100, entry, true)).index, 9);

@@ -1,4 +1,4 @@
-// What the browser answers: loads on the edit face, positions on the add face.
+// The answers of the browser: loads on the edit face, positions on the add face.
 #include "files/BrowserFixture.h"
 
 namespace gp::test {
@@ -70,7 +70,7 @@ TEST_F(BrowserTest, TheMainFormGetsPictureAndMask) {
   EXPECT_EQ(exchange.chosenIcon.alpha, expected.alpha);
 }
 
-// What an entry answers for its bit count when the directory tells these.
+// The bit count that an entry answers for each bit count in the directory.
 class BrowserBitsTest : public BrowserTest {
  protected:
   std::string answerOf(int colorCount, int bitCount) {
@@ -199,7 +199,7 @@ TEST_F(BrowserTest, PositionsBeyondTheListAreIgnored) {
   EXPECT_EQ(browser->addPosition(), 3);
 }
 
-TEST_F(BrowserTest, AddingWantsAnItemSelectedOrOtherSizes) {
+TEST_F(BrowserTest, AddingRequiresAnItemSelectedOrOtherSizes) {
   browse(threeIcons(), true);
   boxes.expectTold("No icon in file listed", BoxIcon::None);
   browser->cmdSaveAdd(kSaveButton);

@@ -1,4 +1,4 @@
-// Removing and repositioning in the browser. Files are compared byte by byte with what the builder lays out.
+// Removing and repositioning in the browser. Files are compared byte by byte with those that the builder lays out.
 #include "files/BrowserFixture.h"
 #include "support/FullDisk.h"
 
@@ -25,7 +25,7 @@ class BrowserRearrangingTest : public BrowserTest {
   void expectProceedAsked(BoxAnswer answer) {
     boxes.expectAsked(path + "\nProceed to save re-positioned sequence of icons in file?\n", answer);
   }
-  // Reverses a file of three entries on the pane.
+  // Reverses a file of three entries in the pane.
   void reverse() {
     browser->cmdReposition();
     browser->cmdShiftDown(), browser->cmdShiftDown();
@@ -152,7 +152,7 @@ TEST_F(BrowserRearrangingTest, EntryNinetyNineIsRemovedAndNoOther) {
   EXPECT_EQ(bytesOf(path), laidOut(entries));
 }
 
-TEST_F(BrowserRearrangingTest, AFileThatTurnedReadOnlyIsToldAndListedAsItIs) {
+TEST_F(BrowserRearrangingTest, AFileThatTurnedReadOnlyIsReportedAndListedAsItIs) {
   const Bytes file = laidOut({a, b, c});
   browse(file);
   browser->clickIcon(2);
@@ -201,7 +201,7 @@ TEST_F(BrowserRearrangingTest, AClickOnThePanePreviewsThere) {
   EXPECT_EQ(browser->reposition().selected(), 2);
   const Decoded third = decode(file, 2);
   EXPECT_TRUE(samePixels(browser->picReposition(), onGround(third.image, third.mask)));
-  EXPECT_TRUE(previews(file, 1));  // the other picture keeps what is selected there
+  EXPECT_TRUE(previews(file, 1));  // the other list keeps its selection
   for (const int item : {-1, 3}) browser->clickRepositionIcon(item);
   EXPECT_EQ(browser->reposition().selected(), 2);
 }
@@ -310,7 +310,7 @@ TEST_F(BrowserRearrangingTest, AbortTouchesNoFile) {
   EXPECT_EQ(browser->lisIcons().size(), 3u);
 }
 
-// What the pane showed last must not lend its alpha values to what is loaded.
+// The alpha values of the picture that the pane showed last must not be used for the entry that is loaded.
 TEST_F(BrowserRearrangingTest, AnAbortedPaneLeavesTheSelectedIconsAlpha) {
   Picture half = anyPicture(32, 32), other32 = anyPicture(32, 32);
   half.color = [](int, int) { return Rgb{1, 2, 3, 128}; };
@@ -337,13 +337,13 @@ TEST_F(BrowserRearrangingTest, RepositioningIsRefusedForOneIconAndForAFileInACon
   EXPECT_FALSE(browser->showsReposition());
 }
 
-TEST_F(BrowserRearrangingTest, ShiftingWantsASelection) {
+TEST_F(BrowserRearrangingTest, ShiftingRequiresASelection) {
   browse({a, b});
   boxes.expectTold("No title selected yet", BoxIcon::None);
   browser->cmdShiftUp();
   boxes.expectTold("No title selected yet", BoxIcon::None);
   browser->cmdShiftDown();
-  browser->cmdRepositionProceed();  // an empty list: nothing
+  browser->cmdRepositionProceed();  // an empty list: no effect
 }
 
 TEST_F(BrowserRearrangingTest, AFileThatTurnedReadOnlyIsError1) {
@@ -373,7 +373,7 @@ TEST_F(BrowserRearrangingTest, AWriteThatFailsIsError3AndTheFormerFileIsListed) 
   EXPECT_EQ(unloads, 0);
 }
 
-TEST_F(BrowserRearrangingTest, AFileThatVanishedOnThePaneIsWrittenAnew) {
+TEST_F(BrowserRearrangingTest, AFileThatVanishedOnThePaneIsWrittenAgain) {
   browse({a, b, c});
   reverse();
   std::filesystem::remove(path);

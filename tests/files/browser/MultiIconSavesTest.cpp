@@ -1,4 +1,4 @@
-// The browser's saves of single entries. Files are compared byte by byte.
+// Saving single entries from the browser. Files are compared byte by byte.
 #include "files/BrowserFixture.h"
 #include "support/FullDisk.h"
 
@@ -10,7 +10,7 @@ namespace fs = std::filesystem;
 constexpr const char* kReadOnly =
     "File is read-only\n\nYou may save it under a different file name or reset the file attributes.";
 
-// Lets a test look around whenever the pointer changes, as it does at the end of each save.
+// Lets a test act whenever the pointer changes, which it does at the end of each save.
 class WatchedDisplay : public RecordingDisplay {
  public:
   std::function<void()> inside;
@@ -21,7 +21,7 @@ class WatchedDisplay : public RecordingDisplay {
 
 class BrowserSavesTest : public BrowserTest {
  protected:
-  // Saves what is selected under a name; gives the name that was proposed.
+  // Saves the selected entry under a name; returns the proposed name.
   std::string save(const std::string& name) {
     dialogs.paths.push_back(name.empty() ? name : folder.path(name));
     browser->cmdSaveSingle();
@@ -72,7 +72,7 @@ TEST_F(BrowserSavesTest, ProposesBitsForTrueColorAndColorsOtherwise) {
   }
 }
 
-TEST_F(BrowserSavesTest, ASaveOverTheFileItselfByAnotherNameListsItAnew) {
+TEST_F(BrowserSavesTest, ASaveOverTheFileItselfByAnotherNameListsItAgain) {
   browse({anyEntry(16, 4), anyEntry(32, 8)});
   fs::create_symlink(browser->file(), folder.path("link.ico"));
   save("link.ico");
@@ -85,7 +85,7 @@ TEST_F(BrowserSavesTest, ACancelWritesNothing) {
   EXPECT_EQ(std::distance(fs::directory_iterator(folder.folder()), {}), 1);
 }
 
-// Header 0, 1, 1; the entry as it was, apart from its offset; the image as it was.
+// Header 0, 1, 1; the entry unchanged except for its offset; the image unchanged.
 TEST_F(BrowserSavesTest, EntryAndImageAreCopiedWithTheirLies) {
   Bytes file = build(iconFile({anyEntry(16, 4), entryOf(anyPicture(32, 8), 77, 8)}));
   file[0] = 9;           // idReserved
@@ -101,7 +101,7 @@ TEST_F(BrowserSavesTest, EntryAndImageAreCopiedWithTheirLies) {
 
 TEST_F(BrowserSavesTest, AnImageHasTheBytesThatItsEntryTells) {
   Entry longer = anyEntry(32, 4), shorter = anyEntry(16, 4);
-  longer.bytesInRes = static_cast<std::uint32_t>(longer.image.size() + 20);  // reaches into the next image
+  longer.bytesInRes = static_cast<std::uint32_t>(longer.image.size() + 20);  // extends into the next image
   shorter.bytesInRes = 50;
   const Bytes file = build(iconFile({longer, shorter}));
   browse(file);
@@ -114,7 +114,7 @@ TEST_F(BrowserSavesTest, AnImageHasTheBytesThatItsEntryTells) {
   EXPECT_EQ(fs::file_size(folder.path("short.ico")), 22u + 50u);
 }
 
-TEST_F(BrowserSavesTest, AReadOnlyTargetIsToldAndKept) {
+TEST_F(BrowserSavesTest, AReadOnlyTargetIsReportedAndKept) {
   browse({anyEntry(16, 4), anyEntry(32, 8)});
   makeReadOnly(folder.write("one.ico", {1, 2, 3}));
   boxes.expectTold(kReadOnly, BoxIcon::Exclamation);
@@ -122,7 +122,7 @@ TEST_F(BrowserSavesTest, AReadOnlyTargetIsToldAndKept) {
   EXPECT_EQ(bytesOf(folder.path("one.ico")), (Bytes{1, 2, 3}));
 }
 
-TEST_F(BrowserSavesTest, AFullDiskIsTold) {
+TEST_F(BrowserSavesTest, AFullDiskIsReported) {
   browse({anyEntry(16, 4), anyEntry(32, 8)});
   boxes.expectTold("Failed to save this icon", BoxIcon::Exclamation);
   const FullDisk full(1000);
@@ -224,7 +224,7 @@ TEST_F(BrowserSavesTest, NoAnswerOtherThanYesSplits) {
   split(2, BoxAnswer::No);
   EXPECT_TRUE(namesSplit().empty());
   dialogs.paths.push_back("");
-  browser->cmdSplitSave();  // no folder, no question
+  browser->cmdSplitSave();  // without a folder there is no question
 }
 
 TEST_F(BrowserSavesTest, AFolderThatEndsWithASeparatorGetsNoSecondOne) {

@@ -31,7 +31,7 @@ class CursorFilesTest : public FilesTest {
   std::string write(const CursorFile& file, const std::string& name = "given.cur") {
     return folder.write(name, build(file));
   }
-  // A cursor of 16 colours, opened.
+  // Opens a cursor of 16 colours.
   std::string givenCursor(int hotspotX, int hotspotY) {
     const std::string path = write(cursorOf(anyPicture(32, 4), hotspotX, hotspotY));
     EXPECT_TRUE(openCursor(path));
@@ -215,7 +215,7 @@ TEST_F(CursorFilesTest, TheListsHoldZeroTo31AndTellTheView) {
   EXPECT_EQ(spot(), std::pair(31, 17));
 }
 
-// Another icon under the Panel.
+// Another icon while the Panel is open.
 
 TEST_F(CursorFilesTest, AnotherCursorUnderThePanelStartsTheListsAtItsOwnHotSpotAndTellsTheView) {
   givenCursor(7, 30);
@@ -255,7 +255,7 @@ TEST_F(CursorFilesTest, AnIconUnderThePanelIsSavedWithTheHotSpotAtZero) {
   EXPECT_EQ(Bytes(file.begin() + 10, file.begin() + 14), (Bytes{0, 0, 0, 0}));
 }
 
-// A container may hold what no file could bring in.
+// A container can hold values that no file contains.
 TEST_F(CursorFilesTest, AHotSpotOutsideOfAnIconThatCameUpUnderThePanelCountsAsZero) {
   givenCursor(7, 30);
   cursor.openPanel();
@@ -384,7 +384,7 @@ TEST_F(CursorFilesTest, SavingACursorLeavesTheIconWhatItWas) {
   EXPECT_EQ(saver.lastSavedFile(), folder.path("saved.cur"));
 }
 
-TEST_F(CursorFilesTest, AReadOnlyFileIsToldSo) {
+TEST_F(CursorFilesTest, AReadOnlyFileIsReported) {
   givenCursor(1, 2);
   state.picImage.fill(0x123456);
   const std::string path = folder.write("kept.cur", {1, 2, 3});
@@ -397,7 +397,7 @@ TEST_F(CursorFilesTest, AReadOnlyFileIsToldSo) {
   EXPECT_FALSE(panelIsUpToDate()) << "nothing was saved";
 }
 
-TEST_F(CursorFilesTest, AnyOtherFailureIsToldInItsOwnSpelling) {
+TEST_F(CursorFilesTest, AnyOtherFailureIsReportedInItsOwnSpelling) {
   givenCursor(1, 2);
   dialogs.paths = {folder.path("no/such.cur")};
   boxes.expectTold("Failed to save curosr", BoxIcon::Exclamation);

@@ -103,7 +103,7 @@ TEST(CursorProbe, TheByteCountPlaysNoPart) {
 
 TEST(CursorProbe, AFileCutAnywhereIsAnsweredByTheBytesThatItHas) {
   const Bytes whole = build(plain());
-  constexpr std::size_t kOffsetEnds = 19, kBitsBegin = 36;  // the offset's high bytes are zero anyway
+  constexpr std::size_t kOffsetEnds = 19, kBitsBegin = 36;  // the high bytes of the offset are zero anyway
   for (std::size_t size = 0; size <= whole.size(); ++size) {
     const Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size));
     const char* expected = size < kOffsetEnds ? "0/0/0" : size <= kBitsBegin ? "1/-1/0" : "1/16/4";

@@ -94,7 +94,7 @@ TEST(CursorReading, OtherTypesSizesAndPngPicturesAreRefused) {
   EXPECT_EQ(load(png).defect, IconDefect::PngImage);
 }
 
-// What is cut away reads as zeros: the same as if the file had gone on with them.
+// Missing bytes read as zero: the result is the same as if the file continued with zeros.
 TEST(CursorReading, AFileCutAnywhereReadsAsIfItWentOnWithZeros) {
   for (const int bits : {1, 8, 32}) {
     const Bytes whole = build(cursorOf(anyPicture(32, bits), 3, 3));
@@ -137,7 +137,7 @@ TEST(CursorReading, WithoutAlphaValuesOfTheSizeA32BitCursorCountsAs24Bits) {
   EXPECT_FALSE(record.hasAlpha);
 }
 
-// The corpus of real and made cursor files, where it stands beside the repository.
+// The corpus of real and generated cursor files, if it is beside the repository.
 
 struct Measured {
   std::string file, probe;

@@ -14,7 +14,7 @@ namespace {
 constexpr Color kRed = 0x0000FF;
 constexpr int kX = 3, kY = 5;
 
-// Keeps PicIcon whenever it is magnified onto the Editing Area.
+// Keeps a copy of PicIcon whenever it is magnified onto the Editing Area.
 class WatchingDisplay : public RecordingDisplay {
  public:
   explicit WatchingDisplay(const EditState& state) : state_(state) {}
@@ -28,7 +28,7 @@ class WatchingDisplay : public RecordingDisplay {
   const EditState& state_;
 };
 
-// Lets a test look on at every wait.
+// Lets a test act at every wait.
 class WatchingPump : public MessagePump {
  public:
   std::vector<int> waits;  // milliseconds

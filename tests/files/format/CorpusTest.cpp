@@ -1,5 +1,5 @@
-// Decodes every entry of an icon size in the corpus of real and made icon files, where the corpus stands beside the
-// repository, and compares it with what others measured.
+// Decodes every entry of an icon size in the corpus of real and generated icon files, if the corpus is beside the
+// repository, and compares it with independent measurements.
 #include "document/IconContainerRec.h"
 #include "files/Decoding.h"
 #include "files/format/IconProbe.h"
@@ -51,7 +51,7 @@ std::string maskHash(const Surface& surface) {
 
 enum Difference { kNothing = 0, kPicture = 1, kMask = 2, kRefused = 4 };
 
-// The only entries that may differ from what was measured, which went by the bitmap header, and why.
+// The only entries that may differ from the measurements, which followed the bitmap header, with the reason.
 struct Known {
   const char* entry;
   int difference;
@@ -113,7 +113,8 @@ TEST(Corpus, EveryEntryOfAnIconSizeDecodesToTheMeasuredPixels) {
   EXPECT_GT(pictures, 300);
 }
 
-// The alpha measured is what the file holds; ours has 255 where the file has 0. Where the file has no 0 both are equal.
+// The measured alpha values are those of the file; ours are 255 where the file has 0. Without a 0 in the file, both are
+// equal.
 TEST(Corpus, AlphaIsTheMeasuredOneWhereNoPixelHasAnAlphaOfZero) {
   const std::string corpus = std::string(GP_SOURCE_DIR) + "/../shared/corpus/";
   if (!std::filesystem::is_directory(corpus)) GTEST_SKIP() << "no corpus in " << corpus << ": nothing was checked";

@@ -1,5 +1,5 @@
-// One test for each way in which icon files are known to lie. The builders say in words what is wrong. What must hold
-// everywhere: an answer without a crash, no memory for what is not there, and no harm to other images.
+// One test for each known kind of defect in icon files. The parameters of the builders say what is wrong. Expected
+// everywhere: a result without a crash, no memory allocated for missing data, and no effect on other images.
 #include "files/Decoding.h"
 #include "files/format/IconProbe.h"
 
@@ -20,7 +20,7 @@ bool sameIcon(const Decoded& a, const Decoded& b) {
   return a.defect == IconDefect::None && samePixels(a.image, b.image) && samePixels(a.mask, b.mask);
 }
 
-// The picture as it should be, but with lies in its bitmap header.
+// A correct picture with wrong values in its bitmap header.
 template <class F>
 Decoded withHeader(int size, int bits, F lie) {
   Picture p = anyPicture(size, bits);
@@ -197,7 +197,7 @@ TEST(HostileBitmap, ColorsUsedPlaysNoPart) {
 }
 
 TEST(HostileBitmap, AnIndexBehindAShortPaletteTakesWhatStandsThere) {
-  // A palette of 3 colours in a file of 8 bits: the reader takes 256 entries all the same.
+  // A palette of 3 colours in a file of 8 bits: the reader still reads 256 entries.
   Picture p = anyPicture(16, 8);
   p.colorsUsed = 3;
   const Decoded d = decode(build(entryOf(p)));
@@ -299,12 +299,12 @@ TEST(HostileBitmap, OtherPictureFilesUnderTheNameOfAnIconAreNoIconFile) {
   const Bytes others[] = {{'B', 'M', 0x36, 0x0C, 0, 0, 0, 0, 0, 0, 0x36, 0, 0, 0},
                           {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n', 0, 0, 0, 13, 'I', 'H', 'D', 'R'},
                           {'G', 'I', 'F', '8', '9', 'a', 32, 0, 32, 0},
-                          {1, 0, 0, 0, 32, 0, 32, 0, 4, 0, 0, 0},  // an icon of the first Windows
+                          {1, 0, 0, 0, 32, 0, 32, 0, 4, 0, 0, 0},  // an icon from the first version of Windows
                           {'M', 'Z', 0x90, 0}};
   for (const Bytes& other : others) EXPECT_EQ(probe(other), kNoIcon);
 }
 
-// C3: PNG inside. All are recognised by their signature and refused, whatever else they tell.
+// C3: PNG inside. All are recognised by their signature and refused, whatever their other fields are.
 
 Entry pngEntry(int size, const Bytes& behindSignature) {
   Entry entry;

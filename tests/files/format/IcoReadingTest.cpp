@@ -64,7 +64,7 @@ TEST(IcoReading, PalettePicturesLeaveTheAlphaValuesAlone) {
 }
 
 TEST(IcoReading, TheDirectoryDecidesHowManyBytesAPixelHas) {
-  // The file holds 24 bits, the directory says 32: the second pixel begins with what is the next one's blue.
+  // The file holds 24 bits, the directory states 32: the second pixel begins with the blue of the next one.
   Picture p = anyPicture(16, 24);
   p.color = [](int x, int) { return Rgb{3 * x + 2, 3 * x + 1, 3 * x}; };
   const Decoded d = decode(build(entryOf(p, 0, 32)));
@@ -78,7 +78,8 @@ TEST(IcoReading, AZeroDirectoryOverATrueColorImageGivesAWrongPictureOf256Colors)
   const Bytes file = build(entryOf(p, 0, 0));
   const Decoded d = decode(file);
   EXPECT_EQ(d.defect, IconDefect::None);
-  // The bottom left pixel is the byte 1024 behind the palette's start, as an index into the picture's own bytes.
+  // The bottom left pixel is the byte 1024 after the start of the palette, used as an index into the picture's own
+  // bytes.
   const std::size_t palette = 22 + 40;
   const std::size_t entry = palette + 4u * file[palette + 1024];
   EXPECT_EQ(d.image.GetPixel(0, 31), rgb(file[entry + 2], file[entry + 1], file[entry]));
@@ -132,7 +133,7 @@ TEST(IcoReading, AnEntryWithoutWidthOrHeightIsRefused) {
   EXPECT_EQ(decode(build(entry)).defect, IconDefect::SizeNotOffered);
 }
 
-// The bytes hold rows of 32 pixels: read as others, they are cut into other rows.
+// The bytes hold rows of 32 pixels; with another width they are divided into other rows.
 TEST(IcoReading, TheIconHasTheSizeThatItIsReadAtAndNotThatOfItsEntry) {
   const IconFile file = iconFileOf(build(entryOf(anyPicture(32, 32))));
   const DecodedIcon decoded = decodeEntry(file, file.entry(0), 20, 10);

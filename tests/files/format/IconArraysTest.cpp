@@ -126,7 +126,7 @@ TEST_F(IconArraysTest, EveryFieldOfHeaderAndEntriesIsWrittenAsItWasRead) {
 TEST_F(IconArraysTest, ScatteredImagesAreWrittenOneBehindTheOther) {
   IcoFile scattered = threeIcons();
   const auto sizeOf = [&](std::size_t i) { return static_cast<std::uint32_t>(scattered.entries[i].image.size()); };
-  // Last image first, and garbage behind the end.
+  // Images in reverse order, and unused bytes at the end.
   const std::uint32_t start = 6 + 3 * 16;
   scattered.entries[0].offset = start + sizeOf(2) + sizeOf(1);
   scattered.entries[1].offset = start + sizeOf(2);

@@ -28,7 +28,7 @@ class IconFileReading : public testing::Test {
     stream.seekp(static_cast<std::streamoff>(at));
     stream.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
   }
-  // Entries of 32x32, of which the one of each index has its image at offsetOf(index), and no images.
+  // Entries of 32x32 without images; the image of each index is at offsetOf(index).
   template <class OffsetOf>
   static Bytes directoryOf(std::uint32_t count, OffsetOf offsetOf) {
     Bytes bytes{0, 0, 1, 0};

@@ -18,7 +18,7 @@ Bytes header(int width, int height, int bits) {
   return bitmapHeader(picture);
 }
 
-// Arrays of their own bytes, as they are read from a file.
+// Arrays that own their bytes, as if read from a file.
 IconArrays arraysOf(const std::vector<Entry>& entries) {
   IconArrays arrays;
   EXPECT_EQ(takeIconArrays(iconFileOf(build(IcoFile{entries, 0, 1, {}})), ReservedField::Any, arrays),

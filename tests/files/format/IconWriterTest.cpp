@@ -192,7 +192,7 @@ TEST(IconWriter, TheAlphaChannelThatTheRecordStatesIsWrittenInTrueColorOnly) {
 }
 
 TEST(IconWriter, APictureThatNeedsMoreThan256EntriesIsWrittenInTrueColor) {
-  // 255 colours, neither black nor white among them, pass as 256 colours but need 257 entries.
+  // 255 colours without black and white are counted as 256 colours but need 257 entries.
   const Surface image = painted(32, 32, [](int x, int y) { return 0x100000 + std::min(y * 32 + x, 254); });
   const IconImage icon{image, Surface(32, 32, kBlack), {}};
   const ColorDepth depth = depthToWrite(icon, recordOf({256, 8}));

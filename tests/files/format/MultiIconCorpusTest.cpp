@@ -1,5 +1,5 @@
-// Takes every icon file of the corpus, where it stands beside the repository, as arrays of entries and images: written
-// unchanged, split, shortened, put into another order and repaired. Decodes nothing but what is split out.
+// Takes every icon file of the corpus, if it is beside the repository, as arrays of entries and images: written
+// unchanged, split, shortened, reordered and repaired. Only split images are decoded.
 #include "document/IconContainerRec.h"
 #include "files/Decoding.h"
 #include "files/format/IconArrays.h"
@@ -26,7 +26,7 @@ struct CorpusFile {
   IconArrays arrays;
 };
 
-// The only files that are refused as a whole, and why.
+// The only files that are refused as a whole, with the reason.
 const std::map<std::string, const char*> kRefused = {
     {"gdk-pixbuf-tests__bug778204.ico", "a cursor's type, and no entry of the 79 told"},
     {"gdk-pixbuf-tests__bug779012.ico", "its image begins far behind the end"},
@@ -35,7 +35,7 @@ const std::map<std::string, const char*> kRefused = {
     {"made__empty.ico", "no entries"},
     {"zoneminder__favicon.ico", "a PNG picture by another name"},
 };
-// An entry that tells fewer bytes than its picture takes. In its file the reader goes on behind them.
+// An entry that states fewer bytes than its picture needs. In its file, the reader continues after them.
 constexpr const char* kTooFewBytesTold = "made__bytes_in_res_too_small.ico";
 
 class MultiIconCorpus : public testing::Test {
@@ -64,7 +64,7 @@ std::vector<Bytes> imagesOf(const IconArrays& arrays) {
   return images;
 }
 
-// Directory, then image after image in its order, then nothing.
+// The directory, then the images in its order, then the end.
 bool isCanonical(const IconArrays& arrays) {
   std::size_t running = kDirSize + arrays.entries.size() * kEntrySize;
   for (const IconEntry& entry : arrays.entries) {
@@ -124,7 +124,7 @@ TEST_F(MultiIconCorpus, AFileThatIsWrittenUnchangedIsByteIdenticalWhereItIsLaidO
   EXPECT_GT(identical, 100);
 }
 
-// Of sizes that icons do not have the reader may take rows from behind the image, which are not there any more.
+// For sizes that icons do not have, the reader may use rows after the image, which no longer exist.
 bool isReadWithinItself(const CorpusFile& file, const IconEntry& entry) {
   return isIconSize(entry.width) && entry.width == entry.height && !file.path.ends_with(kTooFewBytesTold);
 }

@@ -79,7 +79,7 @@ TEST_F(IconOpeningTest, AMultiIconFileWithOneUsableEntryStillCountsAsOne) {
   EXPECT_TRUE(record().fromMultiIconFile);
 }
 
-TEST_F(IconOpeningTest, ASingleEntryOf16By32IsToldItsSizes) {
+TEST_F(IconOpeningTest, ASingleEntryOf16By32IsReportedWithItsSizes) {
   Entry entry = entryOf(anyPicture(32, 4));
   entry.width = 16;
   boxes.expectTold("Width and height are different:   16 by 32\nPlease try to use Open Bitmap File menu instead.",
@@ -138,7 +138,7 @@ TEST_F(IconOpeningTest, OpeningEndsTheRegionShowsChoosesTheChartAndRecordsInThis
   EXPECT_EQ(rooms.drawing.history.undoCount(), 1) << "the icon as it was opened is the baseline";
 }
 
-TEST_F(IconOpeningTest, OpeningOverAnIconWithStepsAndARegionBeginsAnew) {
+TEST_F(IconOpeningTest, OpeningOverAnIconWithStepsAndARegionStartsAgain) {
   given(entryOf(anyPicture(32, 4)));
   rooms.clipboard.hold(Surface(4, 4, kWhite));
   rooms.drawing.clipboardCommands.doPaste(true);

@@ -23,13 +23,13 @@ struct Depth {
   std::uint32_t bytesInRes;
 };
 constexpr Depth kDepths[] = {
-    {1, 2, 2, 48 + 128 + 128},       // header and palette, rows, Mask
+    {1, 2, 2, 48 + 128 + 128},       // header and palette, rows, mask
     {4, 16, 16, 104 + 512 + 128},    //
     {8, 256, 0, 1064 + 1024 + 128},  //
     {24, -1, 0, 40 + 3072 + 128},    //
 };
 
-// Black, white, then colours in the order in which the scan from the top left meets them; zeros behind.
+// Black, white, then colours in the order of the scan from the top left; then zeros.
 std::vector<Rgb> scannedPalette(int colors) {
   std::vector<Rgb> palette(256);
   palette[1] = {255, 255, 255};
@@ -43,7 +43,7 @@ std::vector<Rgb> paletteOf(int bits) {
   return bits == 8 ? scannedPalette(200) : std::vector<Rgb>{};
 }
 
-// A picture whose file is the one that the writer must come to.
+// A picture, and the file that the writer must produce for it.
 Picture writtenPicture(int bits) {
   Picture p = anyPicture(32, bits);
   p.palette = paletteOf(bits);

@@ -24,7 +24,7 @@ class IconSaverTest : public FilesTest {
     saver.AskSaveCurrent(message, proceed);
     return proceed;
   }
-  // The name that Save As offers for a path.
+  // The name that Save As proposes for a path.
   std::string offered(const std::string& path, SaveMode mode) {
     record().path = path;
     return saver.proposedName(mode);
@@ -113,7 +113,7 @@ TEST_F(IconSaverTest, ASavedIconIsUnchangedAndFreeOfItsOrigin) {
   EXPECT_EQ(callsBesidesEnabling(), std::vector<std::string>{"AddHistory " + path});
 }
 
-TEST_F(IconSaverTest, AReadOnlyFileIsToldSoAndTheIconStaysModified) {
+TEST_F(IconSaverTest, AReadOnlyFileIsReportedAndTheIconStaysModified) {
   const std::string path = given(entryOf(anyPicture(32, 4)));
   const Bytes before = bytesOf(path);
   fs::permissions(path, fs::perms::owner_read);
@@ -125,7 +125,7 @@ TEST_F(IconSaverTest, AReadOnlyFileIsToldSoAndTheIconStaysModified) {
   EXPECT_EQ(bytesOf(path), before);
 }
 
-TEST_F(IconSaverTest, AnyOtherFailureIsToldAndTheIconStaysModified) {
+TEST_F(IconSaverTest, AnyOtherFailureIsReportedAndTheIconStaysModified) {
   const std::string before = given(entryOf(anyPicture(32, 4)));
   record().modified = true;
   boxes.expectTold("Failed to save this icon", BoxIcon::Exclamation);
@@ -229,7 +229,7 @@ TEST_F(IconSaverTest, SaveAsBitmapPutsTheCurrentColorBehindAndKeepsSilver) {
   EXPECT_EQ(bitmapPixel(folder.path("a.bmp"), 4, 2), kBlack) << "the dithers know colours by steps of 17 only";
 }
 
-// The depth is that of the colours, and each has its palette.
+// The depth follows from the colours, and each depth has its palette.
 TEST_F(IconSaverTest, BitmapsHaveTheDepthThatTheirColorsNeed) {
   given(entryOf(anyPicture(16, 4)));
   struct Case {
@@ -306,7 +306,7 @@ TEST_F(IconSaverTest, TheMaskOfAnIconWithHardlyATransparentPixelIsSavedAsItIs) {
   }
 }
 
-TEST_F(IconSaverTest, ABitmapThatCannotBeWrittenIsTold) {
+TEST_F(IconSaverTest, ABitmapThatCannotBeWrittenIsReported) {
   given(entryOf(anyPicture(16, 4)));
   dialogs.paths = {folder.path("no/such.bmp")};
   boxes.expectTold("Failed to save this file.", BoxIcon::Exclamation);

@@ -18,7 +18,7 @@ std::string sameIcon(const std::string& what) {
          "Multi-icon file cannot have two icons of identical\nsize and color depth.";
 }
 
-// A true colour icon of 16x16 is the current one; the file holds one of 32x32 and one of 48x48.
+// The Current Icon is a true colour icon of 16x16; the file holds one of 32x32 and one of 48x48.
 class MultiIconAddTest : public MultiIconTest {
  protected:
   const Entry icon = entryOf(anyPicture(16, 24));
@@ -205,7 +205,7 @@ TEST_F(MultiIconAddTest, FilesWithoutIconsAreRefused) {
   }
 }
 
-TEST_F(MultiIconAddTest, FilesThatDoNotHoldWhatTheyTellAreRefused) {
+TEST_F(MultiIconAddTest, FilesThatDoNotHoldWhatTheyStateAreRefused) {
   Bytes cut = build(two);
   cut.pop_back();
   Bytes reserved = build(two);
@@ -235,7 +235,7 @@ TEST_F(MultiIconAddTest, TheSameSizeInAnotherDepthIsTaken) {
   EXPECT_EQ(bytesOf(target), build(expected));
 }
 
-TEST_F(MultiIconAddTest, AFileThatChangesInTheBrowserIsTold) {
+TEST_F(MultiIconAddTest, AFileThatChangesInTheBrowserIsReported) {
   struct Case {
     std::function<void()> change;
     std::string text;
@@ -316,7 +316,7 @@ TEST_F(MultiIconAddTest, SaveAsCanBeCancelled) {
   EXPECT_TRUE(record().modified);
 }
 
-TEST_F(MultiIconAddTest, SaveAsThatCannotBeWrittenIsTold) {
+TEST_F(MultiIconAddTest, SaveAsThatCannotBeWrittenIsReported) {
   const std::string readOnly = folder.write("other.ico", {'o'});
   fs::permissions(readOnly, fs::perms::owner_read);
   expectFailure(kReadOnly);
@@ -329,7 +329,7 @@ TEST_F(MultiIconAddTest, SaveAsThatCannotBeWrittenIsTold) {
   EXPECT_TRUE(record().modified);
 }
 
-TEST_F(MultiIconAddTest, AReadOnlyTargetIsToldWithoutAFullStop) {
+TEST_F(MultiIconAddTest, AReadOnlyTargetIsReportedWithoutAFullStop) {
   fs::permissions(target, fs::perms::owner_read);
   expectFailure(kReadOnly);
   add("1/1");

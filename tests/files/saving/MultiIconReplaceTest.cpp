@@ -39,7 +39,7 @@ class MultiIconReplaceTest : public MultiIconTest {
   const IcoFile three = fileOf({entryOf(anyPicture(32, 4)), entryOf(anyPicture(16, 24)), entryOf(anyPicture(48, 8))});
 
   ~MultiIconReplaceTest() override { EXPECT_TRUE(scratchIsGone()); }
-  // What three becomes with another second entry.
+  // The file of `three` with another second entry.
   Bytes threeWith(const Entry& second) const {
     IcoFile file = three;
     file.entries[1] = second;
@@ -92,7 +92,7 @@ TEST_F(MultiIconReplaceTest, ALargerImageMovesTheLaterOnesUp) {
   EXPECT_EQ(bytesOf(path), build(three));
 }
 
-TEST_F(MultiIconReplaceTest, AnIconPaintedAbove256ColorsIsWrittenAndToldAsTrueColor) {
+TEST_F(MultiIconReplaceTest, AnIconPaintedAbove256ColorsIsWrittenAndReportedAsTrueColor) {
   const std::string path = givenEntry(three, 2);
   Picture wanted = anyPicture(48, 24);
   wanted.color = [](int x, int y) { return Rgb{x, y, 1}; };
@@ -242,14 +242,14 @@ TEST_F(MultiIconReplaceTest, NoEndsBeforeAnyDialog) {
   EXPECT_EQ(bytesOf(path), build(three));
 }
 
-TEST_F(MultiIconReplaceTest, AFileThatIsGoneIsTold) {
+TEST_F(MultiIconReplaceTest, AFileThatIsGoneIsReported) {
   const std::string path = givenSecond();
   fs::remove(path);
   expectFailure(path + "\nfile can no longer be found!");
   replace();
 }
 
-TEST_F(MultiIconReplaceTest, AFileThatIsNoIconFileAnyMoreIsTold) {
+TEST_F(MultiIconReplaceTest, AFileThatIsNoIconFileAnyMoreIsReported) {
   const std::string path = givenSecond();
   Bytes reserved = build(three);
   reserved[0] = 1;
@@ -266,7 +266,9 @@ TEST_F(MultiIconReplaceTest, AFileThatIsNoIconFileAnyMoreIsTold) {
 
 TEST_F(MultiIconReplaceTest, Ref3WithSizeAndColorsOfRef5IsRefusedWithItsOwnItIsNot) {
   Picture third = anyPicture(32, 8);
-  third.index = [](int x, int y) { return (x * 7 + y * 13) % 100; };  // what a palette surely has room for
+  third.index = [](int x, int y) {
+    return (x * 7 + y * 13) % 100;
+  };  // a number of colours that always fits into a palette
   const IcoFile five = fileOf({entryOf(anyPicture(16, 4)), entryOf(anyPicture(16, 8)), entryOf(third),
                                entryOf(anyPicture(48, 4)), entryOf(anyPicture(32, 24))});
   const std::string path = givenEntry(five, 2);
@@ -302,7 +304,7 @@ TEST_F(MultiIconReplaceTest, AnEntryWithoutBitCountIsNeverTheSame) {
   EXPECT_EQ(bytesOf(path), build(file));
 }
 
-TEST_F(MultiIconReplaceTest, AFileThatLostTheEntryIsToldToHaveChangedUnlessAnotherIsTheSame) {
+TEST_F(MultiIconReplaceTest, AFileThatLostTheEntryIsReportedAsChangedUnlessAnotherIsTheSame) {
   const std::string path = givenEntry(three, 2);
   folder.write("multi.ico", build(fileOf({three.entries[0], three.entries[1]})));
   boxes.expectAsked(question(3), BoxAnswer::Yes);
@@ -328,7 +330,7 @@ TEST_F(MultiIconReplaceTest, AFileThatChangesWhileTheNameIsAskedForIsNotWritten)
   EXPECT_TRUE(record().modified);
 }
 
-TEST_F(MultiIconReplaceTest, AFileThatGoesWhileTheNameIsAskedForIsTold) {
+TEST_F(MultiIconReplaceTest, AFileThatGoesWhileTheNameIsAskedForIsReported) {
   const std::string path = givenSecond();
   dialogs.inside = [&] { fs::remove(path); };
   boxes.expectAsked(question(2), BoxAnswer::Yes);
@@ -338,7 +340,7 @@ TEST_F(MultiIconReplaceTest, AFileThatGoesWhileTheNameIsAskedForIsTold) {
   EXPECT_FALSE(fs::exists(path));
 }
 
-TEST_F(MultiIconReplaceTest, AReadOnlyFileIsToldWithAFullStop) {
+TEST_F(MultiIconReplaceTest, AReadOnlyFileIsReportedWithAFullStop) {
   const std::string path = givenSecond();
   fs::permissions(path, fs::perms::owner_read);
   boxes.expectAsked(question(2), BoxAnswer::Yes);
@@ -406,7 +408,7 @@ TEST_F(MultiIconReplaceTest, AnIconFromTheScratchFileItselfIsNotLost) {
   fs::remove(path);
 }
 
-// Larger than any scratch file, so that only the last step finds no room.
+// Larger than any scratch file, so that only the last step runs out of space.
 IcoFile largeFile() {
   return fileOf({entryOf(anyPicture(48, 32)), entryOf(anyPicture(48, 1)), entryOf(anyPicture(32, 32)),
                  entryOf(anyPicture(32, 24)), entryOf(anyPicture(24, 24))});

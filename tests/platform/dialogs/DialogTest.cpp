@@ -152,7 +152,7 @@ TEST_F(Dialog, TheFolderChooserAnswersAFolder) {
   EXPECT_EQ(dialog_.chooseFolder("*.ICO", "/home"), "");
 }
 
-// Remembers what the printer dialog was asked.
+// Records the request to the printer dialog.
 class PrinterDialogs : public test::ScriptedDialogs {
  public:
   bool accepted = true;

@@ -7,7 +7,7 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-// A bitmap of 3 x 2 pixels, worked out by hand.
+// A bitmap of 3 x 2 pixels, computed by hand.
 const Bytes kSmall = {'B', 'M', 78, 0, 0, 0, 0, 0, 0, 0, 54, 0, 0, 0,                                  //
                       40,  0,   0,  0, 3, 0, 0, 0, 2, 0, 0,  0, 1, 0, 24, 0, 0, 0, 0, 0, 24, 0, 0, 0,  //
                       0,   0,   0,  0, 0, 0, 0, 0, 0, 0, 0,  0, 0, 0, 0,  0,                           //

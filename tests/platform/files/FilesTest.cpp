@@ -13,7 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A pipe that would hang whoever opens it.
+// A named pipe; opening it would block.
 void makePipe(const std::string& path) { ASSERT_EQ(std::system(("mkfifo '" + path + "'").c_str()), 0); }
 
 std::string textOf(const std::optional<FileBytes>& bytes) {
@@ -225,7 +225,7 @@ TEST_F(Files, ARewritingWithoutRoomToGrowLeavesTheFileAsItWas) {
   }
 }
 
-TEST_F(Files, ARewritingThatFailsInTheMidstPutsTheFormerContentBack) {
+TEST_F(Files, ARewritingThatFailsMidwayPutsTheFormerContentBack) {
   const std::string old(100000, 'o');
   const std::string path = folder_.write("a", old);
   const test::FullDisk full(50000);
@@ -233,7 +233,7 @@ TEST_F(Files, ARewritingThatFailsInTheMidstPutsTheFormerContentBack) {
   EXPECT_TRUE(folder_.read("a") == old);
 }
 
-TEST_F(Files, ARewritingThatFailsInTheMidstOfAnUnknownContentLeavesNone) {
+TEST_F(Files, ARewritingThatFailsWithAnUnknownContentLeavesNone) {
   const std::string path = folder_.write("a", std::string(100000, 'o'));
   const test::FullDisk full(50000);
   EXPECT_FALSE(rewriteWith(path, std::string(80000, 'n'), ""));

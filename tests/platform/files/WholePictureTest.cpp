@@ -20,7 +20,7 @@ void expectWholeOnlyAtItsEnd(Judge isWhole, const std::string& whole) {
   for (std::size_t cut = 0; cut < whole.size(); ++cut) EXPECT_FALSE(judge(isWhole, whole.substr(0, cut))) << cut;
 }
 
-// Two pixels, with a comment before them; without the file's last byte, which says only that no picture follows.
+// Two pixels, with a comment before them; without the last byte of the file, which only says that no picture follows.
 const std::string kGif = "GIF89a\2\0\1\0\x80\0\0\xFF\0\0\0\0\xFF"s +  // screen with two colours
                          "!\xFE\3abc\0"s +                            // comment
                          ",\0\0\0\0\2\0\1\0\x80\1\2\3\4\5\6\2"s +     // picture with two colours of its own
@@ -31,7 +31,7 @@ TEST(WholePicture, AGifIsWholeWithTheLastBlockOfItsFirstPicture) { expectWholeOn
 TEST(WholePicture, AGifWithoutAPictureIsNotWhole) { EXPECT_FALSE(judge(isWholeGif, kGif.substr(0, 26) + ";")); }
 
 TEST(WholePicture, AJpegIsWholeWithTheMarkBehindItsScans) {
-  // The first segment holds a preview with an end mark of its own.
+  // The first segment holds a preview with its own end mark.
   expectWholeOnlyAtItsEnd(isWholeJpeg,
                           "\xFF\xD8"s + "\xFF\xE1\0\6\xFF\xD9\1\2"s + "\xFF\xFF\xDA\0\2\1\2\xFF\0\xFF\xD9"s);
 }

@@ -29,7 +29,7 @@ Surface labelled(const GoldenCase& c, std::size_t firstRow) {
   return s;
 }
 
-// The whole picture over and over, until nothing changes any more.
+// Scans the whole picture repeatedly until nothing changes.
 void slowFill(Surface& s, int x, int y, Color from) {
   std::vector<std::pair<int, int>> inside = {{x, y}};
   std::vector<bool> isInside(static_cast<std::size_t>(s.width()) * s.height());

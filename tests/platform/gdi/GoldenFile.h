@@ -1,4 +1,4 @@
-// Reads the pictures in tests/data/gdi; their form is told in the README there.
+// Reads the pictures in tests/data/gdi; the README there describes their format.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -22,7 +22,7 @@ struct GoldenCase {
   const std::string& text(const std::string& key) const { return values.at(key); }
   int number(const std::string& key) const { return std::stoi(values.at(key)); }
   double real(const std::string& key) const { return std::stod(values.at(key)); }
-  // A position told as x,y.
+  // A position written as x,y.
   std::pair<int, int> position(const std::string& key) const {
     const std::string& v = values.at(key);
     return {std::stoi(v), std::stoi(v.substr(v.find(',') + 1))};
@@ -74,11 +74,11 @@ inline Surface hexPicture(const GoldenCase& c) {
   return s;
 }
 
-// The colours that stand for the cells of the line drawings.
+// The characters for the colours of the line drawings.
 inline constexpr Color kPenCell = 0x0000FF;
 inline constexpr Color kBrushCell = 0xFF0000;
 
-// A Surface written the same way as the line drawings.
+// A Surface written like the line drawings.
 inline std::vector<std::string> cellsOf(const Surface& s) {
   std::vector<std::string> rows;
   for (int y = 0; y < s.height(); ++y) {

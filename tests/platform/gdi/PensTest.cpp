@@ -101,7 +101,7 @@ TEST(DrawBox, SolidFillModeFillsTheInsideWithTheFillColour) {
   EXPECT_EQ(countOf(s, kBlack), 12);
 }
 
-// The pictures tell the middle, radius and aspect that their boxes were rounded from.
+// The pictures state the centre, radius and aspect from which their boxes were rounded.
 TEST(DrawEllipse, EqualsThePlatformsPixelsFromMiddleRadiusAndAspect) {
   int checked = 0;
   for (const GoldenCase& c : test::readGoldenFile("ellipses_hollow.txt")) {

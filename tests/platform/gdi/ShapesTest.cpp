@@ -1,4 +1,4 @@
-// The platform's shapes against pictures of the platform's own drawing.
+// Compares our shapes with pictures of the platform's own drawing.
 #include "platform/gdi/GoldenFile.h"
 #include "platform/gdi/Shapes.h"
 
@@ -31,7 +31,7 @@ Surface canvasFor(const GoldenCase& c) {
   return s;
 }
 
-// Each of these sends brush colour sideways at its tips; see the README of the pictures.
+// Each of these has brush colour outside its tips; see the README of the pictures.
 bool spillsBrush(const GoldenCase& c) {
   for (const char* number : {"filled_080", "filled_081", "filled_082", "filled_083"})
     if (c.startsWith(number)) return true;
@@ -139,7 +139,7 @@ TEST(Shapes, SlenderEllipsesEqualThePlatformsOutlineWhereItSpillsBrushColour) {
   EXPECT_EQ(checked, 8);
 }
 
-// What a slanting line may have too much or too little of.
+// Pixels that a slanted line has too many or too few.
 struct Difference {
   int pixels = 0, missing = 0, extra = 0, far = 0;
 };
@@ -165,7 +165,7 @@ Difference differenceOf(const std::vector<std::string>& drawn, const std::vector
   return d;
 }
 
-// The platform turns a wide line into a polygon with corners on whole pixels, which shifts its edges by up to a pixel
+// The platform converts a wide line to a polygon with corners on whole pixels, which shifts its edges by up to a pixel
 // and makes the same line look different in different directions. Ours is a round nib moved along the thin line: each
 // pixel that only one of them has must touch the other, and over all lines of a width the areas must agree.
 TEST(Shapes, WideLinesCoverThePlatformsAreaButForSinglePixelsAtTheEdge) {

@@ -23,7 +23,7 @@ Surface noise(int width, int height, unsigned seed) {
   return s;
 }
 
-// Whole pictures of `files` in the modes 1 and 3; the source stands before its results.
+// Whole pictures of `files` in the modes 1 and 3; the source precedes its results.
 int expectWholePictures(const std::string& file) {
   int checked = 0;
   Surface source;
@@ -70,8 +70,8 @@ TEST(Stretch, MirroredPicturesEqualThePlatformsPixels) {
   EXPECT_EQ(checked, 80);
 }
 
-// The plain rule for one pixel: the last source column, or the first source row, whose centre falls into it; where none
-// does, the one under its centre.
+// The simple rule for one pixel: the last source column, or the first source row, whose centre falls into it; if there
+// is none, the one under its centre.
 int slowSource(int i, int target, int source, bool first) {
   int found = -1;
   for (int s = 0; s < source; ++s) {
@@ -100,7 +100,8 @@ TEST(Stretch, KeepOrDropEqualsThePixelLoopForManySizesAndDirections) {
       }
 }
 
-// What one channel of halftone must be, with real numbers: the weight of source pixel s in target pixel i of one axis.
+// The expected value of one halftone channel, in real numbers: the weight of source pixel s in target pixel i of one
+// axis.
 double slowWeight(int i, int s, int target, int source) {
   if (target < source) {
     const double begin = std::max<double>(s, 1.0 * i * source / target);
@@ -131,7 +132,7 @@ TEST(Stretch, HalftoneAveragesWhenReducingAndInterpolatesWhenEnlarging) {
     for (int y = 0; y < th; ++y)
       for (int x = 0; x < tw; ++x)
         for (const auto channel : {redOf, greenOf, blueOf})
-          // Rounded to the nearest, and a hair more for the sums of reals.
+          // Rounding to the nearest, and a small tolerance for the sums of real numbers.
           ASSERT_NEAR(channel(to.GetPixel(x, y)), slowHalftone(from, x, y, tw, th, channel), 0.5 + 1e-6);
   }
 }
