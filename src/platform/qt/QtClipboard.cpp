@@ -19,7 +19,7 @@ struct OfferedFormat {
   const char* reader;
 };
 
-// The first one that is offered is taken: those that keep every pixel, and take little room, come first.
+// The first offered format is used: lossless and compact formats come first.
 constexpr std::array<OfferedFormat, 7> kFormats = {{{"image/png", "png"},
                                                     {"image/bmp", "bmp"},
                                                     {"image/x-bmp", "bmp"},
@@ -37,7 +37,7 @@ const OfferedFormat* formatOf(const QMimeData& content) {
 
 const QMimeData* contentNow() { return QGuiApplication::clipboard()->mimeData(); }
 
-// Our own copy needs no decoding.
+// The program's own picture needs no decoding.
 bool readOurImage(const QMimeData& content, int limit, ClipboardImage& image) {
   const auto whole = qvariant_cast<QImage>(content.imageData());
   if (whole.isNull()) return false;
