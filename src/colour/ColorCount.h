@@ -1,14 +1,14 @@
-// How many colours a picture counts as, which decides the depth it is saved with.
+// Counts the colours of a picture. The count determines the depth with which the picture is saved.
 #pragma once
 
 #include "platform/gdi/Surface.h"
 
 namespace gp {
 
-// 2 when all pixels are black or white, 16 when all are among the sixteen standard colours, 256 when a table of 256
-// takes them, otherwise -1.
+// Sets `count` to 2 when all pixels are black or white, to 16 when all are standard colours, to 256 when the colours
+// fit into a table of 256, otherwise to -1.
 void GetColorBitCount_Image(const Surface& surface, int& count);
-// The bits per pixel of such a count: 1, 4, 8, and 24 for anything else.
+// Returns the bits per pixel for such a count: 1, 4, 8, and 24 for any other value.
 int convBPP_Upto24(int colors);
 
 }  // namespace gp

@@ -6,7 +6,7 @@
 namespace gp {
 namespace {
 
-// A bitmap's header tells the bytes of its pixels in a signed number.
+// A bitmap header stores the size of its pixels in bytes as a signed 32-bit number.
 constexpr std::int64_t kMostPixels = std::numeric_limits<std::int32_t>::max() / std::int64_t{sizeof(DibPixel)};
 
 }  // namespace
