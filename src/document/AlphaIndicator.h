@@ -1,4 +1,4 @@
-// The "Alpha" indicator of the status bar, which flashes when an icon with an alpha channel comes up.
+// The "Alpha" indicator of the status bar, which flashes when an icon with an alpha channel is shown.
 #pragma once
 
 #include "document/Display.h"
@@ -7,7 +7,7 @@
 
 namespace gp {
 
-// Flashes twice and ends shown. Pumps messages while it waits, for 400 ms in all.
+// Flashes the indicator twice and leaves it shown. Takes 400 ms and processes events meanwhile.
 void flashAlphaIndicator(EditState& state, Display& display, MessagePump& pump);
 
 }  // namespace gp

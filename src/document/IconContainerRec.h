@@ -1,5 +1,5 @@
-// What is known of the icon in one of the six containers. The fields keep the order in which commands clear them in
-// runs; a record is empty (not used), held by a loader (used, not present) or loaded (both).
+// The description of the icon in one of the six containers. The fields are in the order in which commands clear them. A
+// record is empty (not used), reserved by a loader (used, not present) or loaded (both).
 #pragma once
 
 #include "document/IconSizes.h"
@@ -10,9 +10,9 @@
 namespace gp {
 
 inline constexpr int kContainerCount = 6;
-// dirColors and bihColors of a true colour icon.
+// The value of dirColors and bihColors for a true colour icon.
 inline constexpr int kTrueColor = -1;
-// bitCount of a true colour icon.
+// The values of bitCount for a true colour icon.
 inline constexpr int kBitsWithAlpha = 32;
 inline constexpr int kBitsWithoutAlpha = 24;
 
@@ -36,10 +36,10 @@ struct IconContainerRec {
   bool neverSaved = false;
   bool modified = false;
 
-  // True when the directory of the original file and its bitmap header tell different things.
+  // Returns true when the original file's directory and bitmap header differ in colours or depth.
   bool isDiscrepant() const { return dirColors != bihColors || bitCount != bihBitCount; }
   bool isTrueColor() const { return dirColors == kTrueColor; }
-  // fromMultiIconFile up to and including modified become zero.
+  // Sets the fields from fromMultiIconFile to modified to zero.
   void clearOrigin();
 };
 

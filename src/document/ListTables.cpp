@@ -8,7 +8,7 @@
 namespace gp {
 namespace {
 
-// How the numbers of a list are written. A row counts in units of the last decimal: tenths or hundredths.
+// The text form of a list's numbers. The numbers of a row are in units of the last decimal: tenths or hundredths.
 enum class NumberForm { Whole, TenthsAsShort, HundredthsInFull };
 
 struct NumberRow {
@@ -71,7 +71,7 @@ constexpr int kHundredths = 100;
 
 std::string twoDigits(int value) { return value < kTenths ? "0" + std::to_string(value) : std::to_string(value); }
 
-// All rows with decimals are of numbers from 0 upwards.
+// Rows with decimals contain no negative numbers.
 std::string textOf(int number, NumberForm form) {
   switch (form) {
     case NumberForm::HundredthsInFull:

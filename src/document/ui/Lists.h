@@ -1,4 +1,4 @@
-// Drop-down lists as the tables of lists fill them.
+// Combo boxes filled from the list tables.
 #pragma once
 
 #include <QString>
@@ -8,10 +8,10 @@ class QWidget;
 
 namespace gp {
 
-// A list that may be picked from, with the entries that the tables give it by its objectName.
+// Returns a combo box that cannot be edited, with the entries that the tables have for its objectName.
 QComboBox* makeList(QWidget* parent, const QString& objectName, const QString& accessibleName);
 
-// The same where no label stands beside it: screen readers find its name in a label that is not shown.
+// The same for a list without a visible label: screen readers read its name from a hidden label.
 QComboBox* makeUnlabelledList(QWidget* parent, const QString& objectName, const QString& accessibleName);
 
 }  // namespace gp
