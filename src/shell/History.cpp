@@ -8,7 +8,7 @@
 namespace gp {
 namespace {
 
-// In a caption a single "&" would mark an access letter.
+// In a caption a single "&" would mark an access key.
 std::string withPlainAmpersands(const std::string& text) {
   std::string result;
   for (const char c : text) result += c == '&' ? std::string("&&") : std::string(1, c);

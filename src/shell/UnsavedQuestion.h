@@ -1,4 +1,4 @@
-// The question before the program ends with icons that are not saved.
+// The question shown when the program is closed with unsaved icons.
 #pragma once
 
 #include "document/EditState.h"
@@ -7,7 +7,7 @@
 
 namespace gp {
 
-// The question, with a line for each container that counts as unsaved; empty when there is none.
+// Returns the question, with a line for each unsaved container; empty when there is none.
 std::string unsavedQuestion(const EditState& state);
 
 }  // namespace gp

@@ -1,5 +1,5 @@
-// Tells the views which part of the screen changed. It exists before the form and outlives it; until the views have
-// said what they want to hear, it tells nobody.
+// Notifies the views of changed parts of the screen. It is created before the form and outlives it; until a view
+// subscribes, changes are dropped.
 #pragma once
 
 #include "document/Display.h"
@@ -12,7 +12,7 @@ namespace gp {
 
 class QtDisplay final : public Display {
  public:
-  // What the main form does for those requests that are no mere news.
+  // Requests that need an action of the main form, not a refresh.
   struct Requests {
     std::function<void(int x, int y, int width, int height)> repaintEditingArea;
     std::function<void()> showPopUpMenu;
@@ -22,7 +22,7 @@ class QtDisplay final : public Display {
 
   void listen(DisplayPart part, std::function<void()> listener);
   Requests& requests() { return requests_; }
-  // Before the form goes: nobody is told any more.
+  // Removes all listeners and requests. Must be called before the form is destroyed.
   void forgetAll();
 
   void changed(DisplayPart part) override;
