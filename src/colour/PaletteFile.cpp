@@ -43,14 +43,14 @@ PaletteFile::PaletteFile(const Context& context, clsGPDialog& dialog, PictureLoa
                          std::string folder)
     : context_(context), dialog_(dialog), loader_(loader), mixer_(mixer), folder_(std::move(folder)) {}
 
-void PaletteFile::bringForward() {
+void PaletteFile::prepareDialog() {
   context_.editor.closePanels();
   std::error_code ignored;
   std::filesystem::current_path(folder_, ignored);
 }
 
 void PaletteFile::imgLoadPalette() {
-  bringForward();
+  prepareDialog();
   OpenOptions options;
   options.filter = kOpenFilter;
   options.initialFolder = folder_;
@@ -68,7 +68,7 @@ void PaletteFile::load(const std::string& path) {
 }
 
 void PaletteFile::imgSavePalette() {
-  bringForward();
+  prepareDialog();
   SaveOptions options;
   options.filter = kSaveFilter;
   options.initialFolder = folder_;

@@ -25,7 +25,7 @@ class PaletteFile {
   void imgSavePalette();
 
  private:
-  void bringForward();
+  void prepareDialog();
   void load(const std::string& path);
 
   Context context_;

@@ -101,7 +101,7 @@ FilledList fillFonts(std::span<const std::string> fonts) {
       kFontControl, {fonts.begin(), fonts.end()}, found == fonts.end() ? 0 : static_cast<int>(found - fonts.begin())};
 }
 
-constexpr bool eachListStandsOnce() {
+constexpr bool hasNoDuplicates() {
   std::array<std::string_view, std::size(kNumberRows) + std::size(kTextRows) + 1> controls{kFontControl};
   auto next = controls.begin() + 1;
   for (const NumberRow& row : kNumberRows) *next++ = row.control;
@@ -109,7 +109,7 @@ constexpr bool eachListStandsOnce() {
   std::ranges::sort(controls);
   return std::ranges::adjacent_find(controls) == controls.end();
 }
-static_assert(eachListStandsOnce());
+static_assert(hasNoDuplicates());
 
 }  // namespace
 

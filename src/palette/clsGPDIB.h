@@ -52,8 +52,8 @@ class clsGPDIB {
 
  private:
   std::size_t start(int y) const { return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_); }
-  Surface shown() const;
-  void takeOver(const Surface& picture);
+  Surface toSurface() const;
+  void copyFrom(const Surface& picture);
 
   int width_ = 0;
   int height_ = 0;

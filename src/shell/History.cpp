@@ -29,7 +29,7 @@ void History::load() {
 }
 
 void History::add(const std::string& path) {
-  if (!canStandInIni(path)) return;
+  if (!fitsInIni(path)) return;
   const std::string top = ReadIniString(section_, keyOf(1), "", file_);
   if (top == path) return;
   if (trim(top).empty())

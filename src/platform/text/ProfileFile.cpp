@@ -150,7 +150,7 @@ void setValue(std::string& text, std::string_view section, std::string_view key,
 
 }  // namespace
 
-bool canStandInIni(std::string_view value) {
+bool fitsInIni(std::string_view value) {
   return value.size() <= kMaxValueBytes && value.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos;
 }
 
@@ -168,7 +168,7 @@ std::string ReadIniString(std::string_view section, std::string_view key, std::s
 }
 
 bool WriteIniString(std::string_view section, std::string_view key, std::string_view value, const std::string& file) {
-  auto text = canStandInIni(value) ? load(file) : std::nullopt;
+  auto text = fitsInIni(value) ? load(file) : std::nullopt;
   if (!text) return false;
   setValue(*text, section, key, value);
   return !isTooLarge(text->size()) && store(file, *text);

@@ -16,7 +16,7 @@ std::string ReadIniString(std::string_view section, std::string_view key, std::s
 // The same, but returns nullopt for an absent key.
 std::optional<std::string> findIniString(std::string_view section, std::string_view key, const std::string& file);
 // Returns true when a value fits on a line: it has no line break or NUL, and at most 2047 bytes.
-bool canStandInIni(std::string_view value);
+bool fitsInIni(std::string_view value);
 // Writes a value; creates a missing section or file. Blanks or quotes around the value are not read back. Returns false
 // and changes nothing when the file cannot be written or the value does not fit on a line.
 bool WriteIniString(std::string_view section, std::string_view key, std::string_view value, const std::string& file);

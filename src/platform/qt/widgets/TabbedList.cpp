@@ -129,14 +129,14 @@ TabbedColumns TabbedList::columnsOf(const QString& text) const {
   TabbedColumns columns;
   const QStringList pieces = text.split(kTab);
   for (const QString& piece : pieces) {
-    const int begin = columns.begins.empty() ? 0 : stopBehind(columns.end);
+    const int begin = columns.begins.empty() ? 0 : stopAfter(columns.end);
     columns.begins.push_back(begin);
     columns.end = begin + fontMetrics().horizontalAdvance(withoutTrailingBlanks(piece));
   }
   return columns;
 }
 
-int TabbedList::stopBehind(int position) const {
+int TabbedList::stopAfter(int position) const {
   const double average = QFontMetricsF(font()).horizontalAdvance(kLetters) / static_cast<double>(kLetters.size());
   const double unit = average / kUnitsPerCharacter;
   const auto pixels = [unit](int units) { return static_cast<int>(std::ceil(units * unit)); };

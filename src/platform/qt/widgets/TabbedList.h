@@ -53,7 +53,7 @@ class TabbedList final : public QListWidget {
 
  private:
   void reportChoice();
-  int stopBehind(int position) const;
+  int stopAfter(int position) const;
   int widestItem() const;
 
   std::vector<int> tabStops_;
