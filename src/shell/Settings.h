@@ -45,6 +45,7 @@ class Settings {
 
   // Returns the folder of the last file dialog; empty when none is stored or it no longer exists.
   std::string GetLastFolder() const;
+  // Returns false when the file cannot be written. The same holds for SaveScreenPos, whose values are in twips.
   bool SaveLastFolder(const std::string& folder) const;
 
   // Changes only the members for which the file has a value.

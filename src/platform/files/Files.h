@@ -70,6 +70,7 @@ bool isSameFile(const std::string& first, const std::string& second);
 bool HasFileAttribute(const std::string& path);
 // Returns the names of the regular files directly in a folder that match a pattern, sorted by name, case ignored.
 std::vector<std::string> filesInFolder(const std::string& folder, const std::string& pattern);
+// Returns the names of the folders directly in a folder, sorted in the same way.
 std::vector<std::string> foldersInFolder(const std::string& folder);
 
 // Returns the folder of the program's settings files, without a trailing separator: the executable's folder if it is

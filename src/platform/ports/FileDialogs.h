@@ -48,6 +48,7 @@ class FileDialogs {
   virtual bool saveFile(const FileDialogRequest& request, std::string& path, int& error) = 0;
   // `color` is the initial colour and, on true, the chosen one.
   virtual bool chooseColor(Color& color) = 0;
+  // `request` is the initial setting and, on true, the accepted one.
   virtual bool choosePrinter(PrinterRequest& request) = 0;
   // Shows the program's own folder chooser. Returns the folder, empty on Cancel. `pattern` is "*.ICO" or similar.
   virtual std::string chooseFolder(const std::string& pattern, const std::string& startFolder) = 0;
