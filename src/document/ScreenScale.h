@@ -11,7 +11,7 @@ class ScreenScale {
   // `cells` icon pixels of `magnification` picDisp pixels each, on a screen with `ratio` >= 1 device pixels per pixel.
   ScreenScale(int cells, int magnification, double ratio);
 
-  // Device pixels per icon pixel, and in all.
+  // Device pixels per icon pixel, and in total.
   int cellSize() const { return cellSize_; }
   int deviceSize() const { return cells_ * cellSize_; }
   // Returns the picDisp position shown at a device position; positions outside are extrapolated.

@@ -12,7 +12,7 @@ namespace {
 // The number of digits affects how pixels are rounded.
 constexpr double kPi = 3.14159265359;
 constexpr double kFullCircle = 360;
-// Added before truncation: moves a fractional coordinate to the next pixel and keeps a whole one.
+// Added before rounding down: moves a fractional coordinate to the next pixel and keeps a whole one.
 constexpr double kAlmostOne = 0.999;
 // A picture's middle is rounded: its far corner can be this much further away.
 constexpr int kReserve = 2;

@@ -2,8 +2,8 @@
 // release draws the shape on picImage and picMask. One object handles all five tools; the selected one determines what
 // the drag draws.
 //
-// A drag belongs to the icon on which it started. When the icon is replaced, or when a panel, a region or Shift starts
-// meanwhile, the shape is discarded.
+// A drag belongs to the icon on which it started. When the icon is replaced, or when the panel, the region or Shift
+// changes meanwhile, the shape is discarded.
 #pragma once
 
 #include "document/Context.h"

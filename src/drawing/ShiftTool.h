@@ -24,7 +24,7 @@ class ShiftTool : public DrawingTool {
   ShiftTool(const Context& context, EditingArea& editingArea, UndoHistory& history, Tools& tools);
 
   void selected() override { turnOn(); }
-  // imgTool(15) Click has selected the tool: starts Undo again and copies the picture.
+  // imgTool(15) Click has selected the tool: starts the Undo history again and copies the picture.
   void turnOn();
 
   // imgShiftDirBase MouseDown and MouseUp.

@@ -76,8 +76,7 @@ class Shell final : public Editor {
   template <class Handler>
   void guarded(const std::string& name, Handler handler);
 
-  // The main form's life cycle. Load places it; the first Activate reads the settings and opens the command line's
-  // file.
+  // The main form's life cycle. Load places it; the first Activate reads settings and opens the command line's file.
   void formLoad();
   void formActivate(const std::string& commandLine);
   // Sets the size of picDispContainer after the form was resized.

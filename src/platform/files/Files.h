@@ -55,7 +55,7 @@ struct WriteOutcome {
   bool whole = false;
   operator bool() const { return whole; }
 };
-// Like replaceFile, for content in pieces of 256 MB in all at most. A file that cannot grow to the new size keeps its
+// Like replaceFile, for content in pieces, 256 MB in total at most. A file that cannot grow to the new size keeps its
 // content. After any other failure `former` is written back; when `former` is empty, which means that the former
 // content is unknown, the file is removed.
 [[nodiscard]] WriteOutcome rewriteFile(const std::string& path, std::span<const std::span<const std::uint8_t>> pieces,
