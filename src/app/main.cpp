@@ -1,4 +1,4 @@
-// The desktop program: creates the ports, the shell and the main form.
+// The desktop program: makes the ports, the shell and the main form, and nothing else.
 #include "platform/files/Files.h"
 #include "platform/qt/Accessibility.h"
 #include "platform/qt/ProgramStyle.h"

@@ -1,4 +1,4 @@
-// Counts the colours of a picture. The count determines the depth with which the picture is saved.
+// How many colours a picture counts as, which decides the depth it is saved with.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -8,7 +8,7 @@ namespace gp {
 // Sets `count` to 2 when all pixels are black or white, to 16 when all are standard colours, to 256 when the colours
 // fit into a table of 256, otherwise to -1.
 void GetColorBitCount_Image(const Surface& surface, int& count);
-// Returns the bits per pixel for such a count: 1, 4, 8, and 24 for any other value.
+// The bits per pixel of such a count: 1, 4, 8, and 24 for anything else.
 int convBPP_Upto24(int colors);
 
 }  // namespace gp

@@ -7,7 +7,7 @@
 
 namespace gp {
 
-// Flashes the indicator twice and leaves it shown. Takes 400 ms and processes events meanwhile.
+// Flashes twice and ends shown. Pumps messages while it waits, for 400 ms in all.
 void flashAlphaIndicator(EditState& state, Display& display, MessagePump& pump);
 
 }  // namespace gp

@@ -10,9 +10,9 @@
 namespace gp {
 
 inline constexpr int kContainerCount = 6;
-// The value of dirColors and bihColors for a true colour icon.
+// dirColors and bihColors of a true colour icon.
 inline constexpr int kTrueColor = -1;
-// The values of bitCount for a true colour icon.
+// bitCount of a true colour icon.
 inline constexpr int kBitsWithAlpha = 32;
 inline constexpr int kBitsWithoutAlpha = 24;
 
@@ -36,10 +36,10 @@ struct IconContainerRec {
   bool neverSaved = false;
   bool modified = false;
 
-  // Returns true when the original file's directory and bitmap header differ in colours or depth.
+  // True when the directory of the original file and its bitmap header tell different things.
   bool isDiscrepant() const { return dirColors != bihColors || bitCount != bihBitCount; }
   bool isTrueColor() const { return dirColors == kTrueColor; }
-  // Sets the fields from fromMultiIconFile to modified to zero.
+  // fromMultiIconFile up to and including modified become zero.
   void clearOrigin();
 };
 

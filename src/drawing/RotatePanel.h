@@ -44,7 +44,7 @@ class RotatePanel {
 
   // Proceed: rotates the icon, which keeps its size and loses the corners outside it. A full turn changes nothing.
   void doRotateProceed();
-  // Called when the list, the slider or the sample has changed.
+  // What the view redraws when list, slider or sample changed.
   std::function<void()> onChange;
 
  private:

@@ -1,4 +1,4 @@
-// The life cycle of the main form: Load, the first Activate, Resize and QueryUnload.
+// The life of the main form: Load, the first Activate, Resize and QueryUnload.
 #include "document/Containers.h"
 #include "document/Display.h"
 #include "platform/ports/MessageBoxes.h"

@@ -1,5 +1,5 @@
-// fraPanel(4): angle, slider, Antialias and the sample for rotating by any angle. It keeps no state and shows the
-// values of RotatePanel after each change. RotatePanel must outlive it.
+// fraPanel(4): angle, slider, Antialias and the sample of rotating by any angle. It keeps nothing: it shows what the
+// panel's logic holds, each time that it tells of a change. It must go before the logic does.
 #pragma once
 
 #include "platform/qt/widgets/PanelFrame.h"

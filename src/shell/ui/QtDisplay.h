@@ -1,5 +1,5 @@
-// Notifies the views of changed parts of the screen. It is created before the form and outlives it; until a view
-// subscribes, changes are dropped.
+// Tells the views which part of the screen changed. It exists before the form and outlives it; until the views have
+// said what they want to hear, it tells nobody.
 #pragma once
 
 #include "document/Display.h"
@@ -12,7 +12,7 @@ namespace gp {
 
 class QtDisplay final : public Display {
  public:
-  // Requests that need an action of the main form, not a refresh.
+  // What the main form does for those requests that are no mere news.
   struct Requests {
     std::function<void(int x, int y, int width, int height)> repaintEditingArea;
     std::function<void()> showPopUpMenu;
@@ -22,7 +22,7 @@ class QtDisplay final : public Display {
 
   void listen(DisplayPart part, std::function<void()> listener);
   Requests& requests() { return requests_; }
-  // Removes all listeners and requests. Must be called before the form is destroyed.
+  // Before the form goes: nobody is told any more.
   void forgetAll();
 
   void changed(DisplayPart part) override;

@@ -41,14 +41,14 @@ constexpr int kToolColumnWidth = ShiftPad::kSide;
 int pixelsOf(int twips) { return twips / kTwipsPerPixel; }
 int twipsOf(int pixels) { return pixels * kTwipsPerPixel; }
 
-// Converts Qt's modifiers to the bits of the tools.
+// Qt's modifiers as the tools count them.
 int modifierBits(Qt::KeyboardModifiers modifiers) {
   return (modifiers & Qt::ShiftModifier ? kShiftKey : 0) | (modifiers & Qt::ControlModifier ? kCtrlKey : 0) |
          (modifiers & Qt::AltModifier ? kAltKey : 0);
 }
 
 MouseInput mouseInput(QPointF position, Qt::KeyboardModifiers modifiers, Qt::MouseButton button = Qt::NoButton) {
-  // The button numbers are the same as the tools', see the assertion below.
+  // The numbers of left, right and middle button are the tools' own.
   return {static_cast<int>(button), modifierBits(modifiers), static_cast<float>(position.x()),
           static_cast<float>(position.y())};
 }
