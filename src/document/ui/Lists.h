@@ -11,7 +11,7 @@ namespace gp {
 // Returns a combo box that cannot be edited, with the entries that the tables have for its objectName.
 QComboBox* makeList(QWidget* parent, const QString& objectName, const QString& accessibleName);
 
-// The same for a list without a visible label: screen readers read its name from a hidden label.
+// The same where no label stands beside it: screen readers find its name in a label that is not shown.
 QComboBox* makeUnlabelledList(QWidget* parent, const QString& objectName, const QString& accessibleName);
 
 }  // namespace gp
