@@ -10,14 +10,14 @@ endif()
 
 find_program(CCACHE ccache)
 if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  # What ccache asks for before it keeps what is compiled with precompiled headers. None of our sources asks the time.
+  # ccache requires these before it caches compilations with precompiled headers. No source uses the time macros.
   set(CMAKE_CXX_COMPILER_LAUNCHER /usr/bin/env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
   set(CMAKE_C_COMPILER_LAUNCHER ${CCACHE})
 endif()
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion)
-# Warnings are errors with the compiler that the program is built with; clang builds only the fuzz targets.
+# Warnings are errors with g++, which builds the program; clang builds only the fuzz targets.
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
-  # -Wrestrict of g++ 12 accuses std::string's own assignment of a literal.
+  # In g++ 12, -Wrestrict warns wrongly about assigning a literal to std::string.
   add_compile_options(-Werror -Wno-restrict)
 endif()

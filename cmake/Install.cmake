@@ -1,4 +1,4 @@
-# Where the programs and the files that make them known to the desktop go.
+# Installs the programs and the files that register them with the desktop.
 include(GNUInstallDirs)
 
 foreach(program glimmerpane gpicon)

@@ -1,10 +1,10 @@
-# The pictures are drawn as SVG and rasterised here, once for each scale and theme, into raw sheets that are embedded
-# uncompressed: the program opens no picture file and knows no picture format.
+# Rasterises the SVG pictures, once for each scale and theme, into raw sheets and embeds these uncompressed. So the
+# program opens no picture files and needs no decoder for them.
 enable_language(ASM)
 
 set(GP_PICTURE_TEMPLATE ${CMAKE_CURRENT_LIST_DIR}/PictureSheets.S.in)
 
-# gp_embed_pictures(target): the sheets of resources/pictures and resources/app become part of the target.
+# gp_embed_pictures(target): adds the sheets of resources/pictures and resources/app to the target.
 function(gp_embed_pictures target)
   if(NOT TARGET rasterize)
     add_subdirectory(${CMAKE_SOURCE_DIR}/tools/rasterize ${CMAKE_BINARY_DIR}/tools/rasterize)

@@ -1,5 +1,5 @@
-# Headers that many sources include are compiled once per kind of target. Only headers of the compiler and of libraries
-# stand here: a change of ours must not compile one of these lists again.
+# Headers that many sources include are compiled once per kind of target. These lists contain only headers of the
+# compiler and of libraries: a change of the program must not cause them to be compiled again.
 set(GP_STANDARD_HEADERS
     <algorithm> <array> <cstdint> <filesystem> <functional> <memory> <optional> <span> <string> <string_view> <utility>
     <vector>)
@@ -9,11 +9,11 @@ set(GP_QT_HEADERS
 set(GP_TEST_HEADERS
     ${GP_STANDARD_HEADERS} <fstream> <limits> <map> <random> <set> <sstream> <gtest/gtest.h>)
 
-# gp_precompile_sources(): gives them to the libraries of src/.
+# gp_precompile_sources(): sets them for the libraries of src/.
 #
-# The core has none in an ordinary build. So that build proves that each source of the core, and the header which it
-# includes first, include what they use; tools/check headers compiles only the other headers alone. The fuzz targets,
-# which clang compiles apart from that, have them for the core too.
+# In an ordinary build the core has none. So that build checks that each source of the core, and the header that it
+# includes first, include what they use; tools/check headers only compiles the other headers on their own. The fuzz
+# targets, which clang compiles separately, use them for the core too.
 function(gp_precompile_sources)
   if(TARGET glimmerpane_ui)
     target_precompile_headers(glimmerpane_ui PRIVATE ${GP_STANDARD_HEADERS} ${GP_QT_HEADERS})
@@ -33,7 +33,7 @@ function(gp_precompile_sources)
   endif()
 endfunction()
 
-# gp_precompile_tests(TARGET): gives them to a test program; all of them share those of the first one.
+# gp_precompile_tests(TARGET): sets them for a test program; all test programs share those of the first one.
 function(gp_precompile_tests target)
   get_property(first GLOBAL PROPERTY gp_first_test)
   if(first)

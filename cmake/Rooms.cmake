@@ -1,9 +1,9 @@
-# A room is one folder of src/. Its logic is a static library that sees the rooms to its left and the standard
-# library; its ui/ folder goes into glimmerpane_ui. ROOMS is the row, left to right.
+# A room is one folder of src/. Its logic is a static library that uses only the rooms to its left and the standard
+# library; its ui/ folder is part of glimmerpane_ui. ROOMS lists the rooms from left to right.
 set(ROOMS platform document colour palette drawing files alpha effects animation incoming extraction output shell)
 
-# gp_core_rooms(): one library per room that has sources, each linking the nearest one to its left, and the
-# interface library glimmerpane_core over all of them.
+# gp_core_rooms(): creates one library per room with sources, each linked to the nearest one on its left, and the
+# interface library glimmerpane_core, which links all of them.
 function(gp_core_rooms)
   add_library(glimmerpane_core INTERFACE)
   set(left "")
@@ -22,7 +22,7 @@ function(gp_core_rooms)
   target_link_libraries(glimmerpane_core INTERFACE ${left})
 endfunction()
 
-# gp_ui_sources(OUT): every ui/ folder and platform/qt.
+# gp_ui_sources(OUT): sets OUT to the sources of all ui/ folders and of platform/qt.
 function(gp_ui_sources out)
   set(all "")
   foreach(room IN LISTS ROOMS)

@@ -22,7 +22,7 @@
 
 namespace {
 
-// A file name need not be text, so it is taken as the system gave it.
+// File names may be any bytes, so the argument is used unchanged.
 std::string commandLineOf(int argc, char** argv) { return argc > 1 ? argv[1] : ""; }
 
 int run(QApplication& application, const std::string& commandLine) {
@@ -55,7 +55,7 @@ int run(QApplication& application, const std::string& commandLine) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // The menu bar stands in the form on every desktop; asking for another place costs a round trip at start.
+  // The menu bar is part of the form on every desktop; querying for a native one costs a round trip at start-up.
   QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   QApplication application(argc, argv);
   QApplication::setApplicationName(gp::kProgramName);

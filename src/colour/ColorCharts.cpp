@@ -61,7 +61,7 @@ Surface CreateColorChart16(int cellWidth, int cellHeight) {
 
 int chartCellAt(ChartKind chart, double x, double y) {
   const ChartShape shape = shapeOf(chart);
-  // The lower border still belongs to the last row; the right one to nothing.
+  // The lower border belongs to the last row; the right border to no cell.
   if (x < 0 || y < 0 || x >= shape.columns || y > shape.rows) return -1;
   const int column = Fix(x);
   const int row = std::min(Fix(y), shape.rows - 1);

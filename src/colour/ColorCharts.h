@@ -1,5 +1,4 @@
-// The two colour charts: their pictures, and which cell a position means. Positions are in chart units: a cell is 1
-// x 1.
+// The two colour charts: their pictures, and the cell at a position. Positions are in chart units; a cell is 1 x 1.
 #pragma once
 
 #include "colour/ColorTables.h"
@@ -18,15 +17,15 @@ struct ChartShape {
 };
 ChartShape shapeOf(ChartKind chart);
 
-// The picture of a chart with cells of the given size in pixels.
+// Return the picture of a chart whose cells have the given size in pixels.
 Surface CreateColorChart256(int cellWidth, int cellHeight);
 Surface CreateColorChart16(int cellWidth, int cellHeight);
 
-// The table entry at a position; the border below the last row still counts to it. -1 outside.
+// Returns the table index at a position, -1 outside. The border below the last row belongs to that row.
 int chartCellAt(ChartKind chart, double x, double y);
 Color chartColor(ChartKind chart, int cell);
-// The name of a colour of the small chart; "8080FFh  RGB(255, 128, 128) " with stars for a standard colour in the
-// large.
+// Returns the name of a small chart's colour; for the large chart "8080FFh  RGB(255, 128, 128) ", with stars for a
+// standard colour.
 std::string chartText(ChartKind chart, int cell);
 
 }  // namespace gp

@@ -10,12 +10,12 @@ namespace {
 
 constexpr int kTableSize = 256;
 
-// The table of the count test. It is searched one entry beyond the colours it has, where a zero stands, and its first
-// new colour overwrites entry 0: black is free, and the corner's colour counts only if it comes again. Kept as it is.
+// The table of the colour count. Intended quirks: the search includes one entry past the colours, which is zero, so
+// black is not counted; the first new colour overwrites entry 0, so the corner's colour counts only if it occurs again.
 class ColorTable {
  public:
   explicit ColorTable(std::uint32_t corner) { entries_[0] = corner; }
-  // False when the table is full.
+  // Returns false when the table is full.
   bool take(std::uint32_t color) {
     const auto end = entries_.begin() + count_ + 1;
     if (std::find(entries_.begin(), end, color) != end) return true;
@@ -37,7 +37,7 @@ bool fitsColorTable(const Surface& surface) {
   for (int x = 0; x < width; ++x) {
     for (int y = 0; y < surface.height(); ++y) {
       const std::uint32_t color = pixels[static_cast<std::size_t>(y) * width + x] & kColorBits;
-      if (color == previous) continue;  // it has just been found
+      if (color == previous) continue;  // the same as the previous pixel
       previous = color;
       if (!table.take(color)) return false;
     }

@@ -6,8 +6,8 @@
 
 namespace gp {
 
-// 2 when all pixels are black or white, 16 when all are among the sixteen standard colours, 256 when a table of 256
-// takes them, otherwise -1.
+// Sets `count` to 2 when all pixels are black or white, to 16 when all are standard colours, to 256 when the colours
+// fit into a table of 256, otherwise to -1.
 void GetColorBitCount_Image(const Surface& surface, int& count);
 
 }  // namespace gp

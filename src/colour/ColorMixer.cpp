@@ -17,11 +17,11 @@ namespace {
 
 using Channels = std::array<int, kMixChannels>;
 
-// White, which cannot get lighter.
+// White, which cannot be lightened further.
 constexpr Channels kFirstValues = {255, 255, 255};
 constexpr int kFirstIntervalIndex = 12;
 
-// The strip runs through five stops, with a quarter of its rows from each to the next.
+// The strip has five stops, with a quarter of its rows between each two.
 constexpr int kQuarterRows = 25;
 constexpr int kRowHeight = kMixGradientHeight / kMixGradientRows;
 constexpr int kStepsOfQuarter = 26;
@@ -29,15 +29,15 @@ constexpr int kStepsOfQuarter = 26;
 Channels channelsOf(Color color) { return {redOf(color), greenOf(color), blueOf(color)}; }
 Color colorOf(const Channels& channels) { return rgb(channels[0], channels[1], channels[2]); }
 
-// The channel alone.
+// The colour with the value in one channel and 0 in the others.
 Color swatchOf(int channel, int value) {
   Channels channels{};
   channels.at(static_cast<std::size_t>(channel)) = value;
   return colorOf(channels);
 }
 
-// The strip reads a swatch by pairs of hexadecimal digits. A channel below 16 gives an odd number of digits and is
-// black to it: that is intended.
+// Intended: a swatch's colour is read as pairs of hexadecimal digits, so one with an odd number of digits is read as
+// black.
 Channels stopOf(Color swatch) { return channelsOf(Hex(swatch).size() % 2 == 0 ? swatch : kBlack); }
 
 Channels largerOf(const Channels& a, const Channels& b) {
@@ -90,7 +90,7 @@ void ColorMixer::setSlider(int channel, int value) {
 
 void ColorMixer::moveSlider(int channel, int value) {
   if (state_.mInLoad || movesSliders_) {
-    showMixer();  // the slider on the screen goes back
+    showMixer();  // resets the slider on the screen
     return;
   }
   setSlider(channel, value);
@@ -162,7 +162,7 @@ void ColorMixer::paintGradient() {
   const std::array<Channels, 5> stops = {first, largerOf(first, middle), middle, largerOf(middle, last), last};
   for (int row = 0; row < kMixGradientRows; ++row) {
     const auto quarter = static_cast<std::size_t>(row / kQuarterRows);
-    // The first quarter begins at its stop, the others one step behind it.
+    // The first quarter starts at its stop, the others one step after it.
     const int step = row % kQuarterRows + (quarter == 0 ? 0 : 1);
     FillBox(picMixGradient_, 0, row * kRowHeight, kMixGradientWidth - 1, (row + 1) * kRowHeight - 1,
             between(stops[quarter], stops[quarter + 1], step));

@@ -1,6 +1,6 @@
-// The colour mixer: three sliders that mix one colour, the swatches of their channels, and a strip that runs through
-// them. Owns what fraColorMixer shows; views read it here. Only taking a colour, or lightening and darkening, changes
-// the current colour: the sliders do not.
+// The colour mixer: three sliders that mix a colour, the swatches of their channels, and a strip with a gradient
+// between the swatches. Owns the state that fraColorMixer shows. The sliders do not change the current colour; only
+// choosing a colour, lightening and darkening do.
 #pragma once
 
 #include "document/Context.h"
@@ -14,12 +14,12 @@ namespace gp {
 inline constexpr int kMixChannels = 3;  // red, green, blue
 inline constexpr int kMostOfChannel = 255;
 
-// The client size of picMixGradient, in pixels: two for each of its 100 rows.
+// The client size of picMixGradient in pixels; each of its 100 rows is two pixels high.
 inline constexpr int kMixGradientWidth = 40;
 inline constexpr int kMixGradientHeight = 200;
 inline constexpr int kMixGradientRows = 100;
 
-// cboIntervalColor holds the numbers from 5 to 30.
+// cboIntervalColor contains the numbers from 5 to 30.
 inline constexpr int kFirstInterval = 5;
 inline constexpr int kLastInterval = 30;
 
@@ -32,44 +32,44 @@ class ColorMixer {
  public:
   ColorMixer(const Context& context, ColorSelection& colors);
 
-  // What is shown.
+  // The values to display.
   int HsrRGB(int channel) const { return sliders_.at(static_cast<std::size_t>(channel)); }
   Color PicRGB(int channel) const { return swatches_.at(static_cast<std::size_t>(channel)); }
   Color PicRGBMix() const { return mixed_; }
-  // The text of a slider's value, "10 / A".
+  // The text for a slider's value, such as "10 / A".
   std::string lblRGB(int channel) const;
-  // The colour under the pointer on the strip, "RGB: 1, 2, 3", or nothing.
+  // The colour under the pointer on the strip, such as "RGB: 1, 2, 3"; empty elsewhere.
   const std::string& lblMix() const { return lblMix_; }
   const Surface& picMixGradient() const { return picMixGradient_; }
-  // The top of the marker on the strip, in its pixels, so much above the pointer; kNoMarker until that has been there.
+  // The top of the marker on the strip, in its pixels: kMarkerRise above the pointer. kNoMarker before the first one.
   static constexpr int kMarkerRise = 2;
   static constexpr int kNoMarker = -100;
   int markerTop() const { return markerTop_; }
   bool isEnabled(MixChange change) const;
   int intervalIndex() const { return intervalIndex_; }
 
-  // A slider was moved to a value. Nothing while the form is being made or the mixer itself moves the sliders.
+  // Handles a slider moved by the user. Does nothing while the form is loaded or the mixer itself moves the sliders.
   void moveSlider(int channel, int value);
   void cmdAdjMix(MixChange change);
-  // An entry of cboIntervalColor was chosen, by its list index.
+  // Handles the choice of an entry of cboIntervalColor, given by its list index.
   void cboIntervalColor(int index);
 
-  // A button was released on a channel's swatch, or on the mixed colour.
+  // A mouse button was released on a channel's swatch, or on the mixed colour: it becomes the current colour.
   void swatchRelease(int channel);
   void mixRelease();
-  // The pointer is over the mixed colour. Gives its tooltip.
+  // The pointer is over the mixed colour. Returns its tooltip.
   std::string mixHover();
 
-  // The strip, at a position in its pixels. Its lower border counts to the last row; outside nothing happens.
+  // Positions on the strip are in its pixels. The lower border belongs to the last row; positions outside are ignored.
   void gradientPress(int x, int y);
   void gradientMove(int x, int y);
   void gradientRelease(int x, int y);
-  // The pointer came onto the frame itself.
+  // The pointer is on the frame outside the controls.
   void leaveControls();
 
-  // Paints the strip from the swatches and lets pending events through.
+  // Paints the strip from the swatches, then processes pending events.
   void rebuildMixGradient();
-  // The strip takes a loaded picture, at its top left corner. It stands until a slider moves.
+  // Copies a loaded picture to the strip's top left corner. It remains until a slider moves.
   void takeGradient(const Surface& picture);
 
  private:

@@ -39,8 +39,8 @@ void ColorSelection::chartRelease(ChartKind chart, double x, double y) {
   if (cell >= 0) setCurrentColor(chartColor(chart, cell));
 }
 
-// The HTML figure is that of the colour last hovered over, which may be another than the one selected.
-void ColorSelection::tellCurrentColor() {
+// Intended: the HTML value is that of the colour last hovered over, which can differ from the selected one.
+void ColorSelection::showCurrentColor() {
   const Color color = state_.mCurrentColor;
   const std::string gap = "\n\n";
   context_.boxes.tell("Currently selected color:      " + gap + std::to_string(color) + " / h" + Hex(color) + gap +

@@ -1,5 +1,5 @@
-// How a colour becomes the current one: the charts, direct entry, the colour dialog and the picker; and which frame of
-// the colour panel is up. Owns mCurrentColor and the state of the picker.
+// Sets the current colour: by the charts, direct entry, the colour dialog and the picker. Selects the visible frame of
+// the colour panel. Owns mCurrentColor and the state of the picker.
 #pragma once
 
 #include "colour/ColorCharts.h"
@@ -17,24 +17,24 @@ class ColorSelection {
  public:
   ColorSelection(const Context& context, clsGPDialog& dialog);
 
-  // Remembers a colour that the pointer is over, which need not be the one selected: mHoverR, mHoverG, mHoverB.
+  // Stores the colour under the pointer, which need not be the selected one: mHoverR, mHoverG, mHoverB.
   void examine(Color color) { hover_ = color; }
-  // Makes a colour the current one, shown by picColorToUse.
+  // Sets the current colour, which picColorToUse shows.
   void setCurrentColor(Color color);
 
-  // The pointer is over a chart, at a position in chart units. Gives the tooltip, which may be empty.
+  // The pointer is over a chart, at a position in chart units. Returns the tooltip, which may be empty.
   std::string chartHover(ChartKind chart, double x, double y);
-  // A button was released on a chart: its colour becomes the current one. Nothing outside.
+  // A button was released on a chart: the colour there becomes the current one. Ignored outside the cells.
   void chartRelease(ChartKind chart, double x, double y);
-  // picColorToUse release: the box that tells of the current colour.
-  void tellCurrentColor();
+  // picColorToUse was clicked: shows a message box with the current colour.
+  void showCurrentColor();
 
   void imgGet16ColorChart();
   void imgGet256ColorChart();
   void imgReturnTo256ColorChart();
   void imgGetDirectEntryColor();
   void imgPopColorChart();
-  // The chart that fits the Current Icon: large for true colour and for counts below 1 or from 256 on.
+  // Shows the chart for the Current Icon: large for true colour and for counts below 1 or from 256 on.
   void chooseColorChart();
 
   void imgColorPicker();
@@ -42,12 +42,12 @@ class ColorSelection {
   void deselectPicker();
 
   const DirectEntry& directEntry() const { return directEntry_; }
-  // What the user types; keys have passed the filter.
+  // Sets the typed text; its keys have passed the filter.
   void setDirectEntryText(const std::string& text) { directEntry_.setText(text); }
   void ckbAsHexColorValue();
   void cmdDirectEntryColorValue();
 
-  // Tooltip of PicIcon and lblIcon.
+  // Returns the tooltip of PicIcon and lblIcon.
   std::string picIconTooltip() const;
 
  private:

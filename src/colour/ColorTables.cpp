@@ -4,7 +4,7 @@
 
 namespace gp {
 
-// Each row of this table is one run of six entries: two columns of the chart.
+// Each line contains six entries: two columns of the chart.
 const std::array<Color, 48> mChartColors256 = {
     0xFFFFFF, 0xE0E0E0, 0xC0C0C0, 0x808080, 0x404040, 0x000000,  //
     0xC0C0F0, 0x8080FF, 0x0000FF, 0x0000DD, 0x0000AA, 0x000080,  //

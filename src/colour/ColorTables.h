@@ -1,4 +1,4 @@
-// The two fixed colour tables behind the charts.
+// The two fixed colour tables of the charts.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -13,14 +13,14 @@ struct NamedColor {
   const char* name;
 };
 
-// 48 colours in 16 columns and 3 rows; entry k stands in column k \ 3, row k mod 3.
+// 48 colours in 16 columns and 3 rows; entry k is in column k \ 3, row k mod 3.
 extern const std::array<Color, 48> mChartColors256;
-// 16 colours in 8 columns and 2 rows; entry k stands in column k mod 8, row k \ 8.
+// 16 colours in 8 columns and 2 rows; entry k is in column k mod 8, row k \ 8.
 extern const std::array<NamedColor, 16> mChartColors16;
 
-// True for exactly the 16 colours of mChartColors16.
+// Returns true for the 16 colours of mChartColors16.
 bool isStandardColor(Color color);
-// Two upper-case hexadecimal digits for each channel, in the order given.
+// Returns two upper-case hexadecimal digits for each channel, in the order of the parameters.
 std::string hexHtmlColor(int r, int g, int b);
 
 }  // namespace gp

@@ -1,5 +1,4 @@
-// The face of the room: makes the charts, the mixer and the palette files, and hands them to the rooms to the right. It
-// decides nothing.
+// The room's interface: creates the charts, the mixer and the palette files for the rooms to the right.
 #pragma once
 
 #include "colour/ColorMixer.h"
@@ -12,7 +11,7 @@
 namespace gp {
 
 struct Colour {
-  // `folder` is the program's folder, where the dialogs on palette files begin.
+  // `folder` is the program's folder, the initial folder of the palette file dialogs.
   Colour(const Context& context, clsGPDialog& dialog, PictureLoader& pictures, std::string folder)
       : selection(context, dialog),
         mixer(context, selection),

@@ -9,8 +9,8 @@ namespace {
 
 constexpr const char* kLargestHex = "FFFFFF";
 
-// The digits as the parser's hexadecimal number, corrected to a colour. The upper bound is judged by the number that
-// the text begins with in decimal, so that "FFFFFF" (0 in decimal) passes it.
+// Corrects a hexadecimal text to a valid colour. Intended: the upper bound is checked against the decimal number at the
+// start of the text, so "FFFFFF" (0 in decimal) passes.
 std::string correctedHex(const std::string& text) {
   if (valueOfHex(text) < 0) return "0";
   if (Val(text) > kLargestColor) return kLargestHex;

@@ -1,5 +1,5 @@
 // The typed colour value: the text of txbDirectEntryColorValue in hexadecimal or decimal, its key filter and its
-// corrections. Wrong input is never reported, only corrected.
+// corrections. Invalid input is corrected without a message.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -14,22 +14,22 @@ inline constexpr Color kLargestColor = 0xFFFFFF;
 class DirectEntry {
  public:
   const std::string& text() const { return text_; }
-  // Takes typed text, cut to maxLength().
+  // Stores typed text, truncated to maxLength().
   void setText(const std::string& text);
   // ckbAsHexColorValue.
   bool isHex() const { return hexTicked_; }
   int maxLength() const { return hexTicked_ ? 6 : 8; }
-  // The key that goes into the text, 0 for a dropped one.
+  // Returns the key to insert, 0 to drop it.
   int filterKey(int keyCode) const;
-  // The tick of ckbAsHexColorValue changed: the text is converted to the other base.
+  // Handles a change of ckbAsHexColorValue: converts the text to the other base.
   void toggleHex();
-  // cmdDirectEntryColorValue: the colour, with the text corrected; nothing for an empty text.
+  // Handles cmdDirectEntryColorValue: corrects the text and returns its colour; nullopt for an empty or negative text.
   std::optional<Color> proceed();
 
  private:
   std::string text_;
   bool hexTicked_ = true;
-  bool mDirectEntryHex = true;  // base of the text as it stands
+  bool mDirectEntryHex = true;  // the base of the current text
 };
 
 }  // namespace gp

@@ -15,10 +15,9 @@ namespace gp {
 
 namespace {
 
-// So much larger than the strip a picture may be in each direction.
+// Pixels by which a picture may exceed the strip in each direction.
 constexpr int kTolerance = 2;
-// A picture that is refused is looked at up to this size, so that one that is cut short is told from one that is only
-// too large.
+// Pictures up to this size are read before they are refused, to tell an incomplete picture from one too large.
 constexpr int kLargestRead = 1024;
 
 constexpr const char* kExtension = "pal";
@@ -29,7 +28,7 @@ constexpr const char* kTooSmall = "Not a valid pal file for Glimmerpane (1)";
 constexpr const char* kTooLarge = "Not a valid pal file for Glimmerpane (2)";
 constexpr const char* kInvalid = "Invalid pal for Glimmerpane";
 
-// The box that refuses a picture, or nothing.
+// Returns the message that refuses a picture, null when it is accepted.
 const char* refusalOf(const LoadedPicture& picture) {
   if (picture.problem == PictureProblem::Unreadable) return kInvalid;
   if (picture.width < kMixGradientWidth || picture.height < kMixGradientHeight) return kTooSmall;
@@ -44,14 +43,14 @@ PaletteFile::PaletteFile(const Context& context, clsGPDialog& dialog, PictureLoa
                          std::string folder)
     : context_(context), dialog_(dialog), loader_(loader), mixer_(mixer), folder_(std::move(folder)) {}
 
-void PaletteFile::bringForward() {
+void PaletteFile::prepareDialog() {
   context_.editor.closePanels();
   std::error_code ignored;
   std::filesystem::current_path(folder_, ignored);
 }
 
 void PaletteFile::imgLoadPalette() {
-  bringForward();
+  prepareDialog();
   OpenOptions options;
   options.filter = kOpenFilter;
   options.initialFolder = folder_;
@@ -69,7 +68,7 @@ void PaletteFile::load(const std::string& path) {
 }
 
 void PaletteFile::imgSavePalette() {
-  bringForward();
+  prepareDialog();
   SaveOptions options;
   options.filter = kSaveFilter;
   options.initialFolder = folder_;

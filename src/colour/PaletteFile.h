@@ -1,5 +1,5 @@
-// Palette files: the mixer's strip saved as a plain bitmap under the extension "pal", and any picture of the strip's
-// size loaded back into it. Only the size is checked. Nothing is kept between calls.
+// Palette files: saves the mixer's strip as a bitmap with the extension "pal", and loads any picture of the strip's
+// size back into it. Only the size is checked.
 #pragma once
 
 #include "document/Context.h"
@@ -14,17 +14,18 @@ class clsGPDialog;
 
 class PaletteFile {
  public:
-  // `folder` is the program's folder, where the dialogs begin.
+  // `folder` is the program's folder, the initial folder of the dialogs.
   PaletteFile(const Context& context, clsGPDialog& dialog, PictureLoader& loader, ColorMixer& mixer,
               std::string folder);
 
-  // The user chooses a file; the strip takes its picture, or a box tells why not. Sliders and current colour stay.
+  // Lets the user choose a file and copies its picture to the strip, or shows a message that refuses it. The sliders
+  // and the current colour do not change.
   void imgLoadPalette();
-  // The user chooses a name; a file that cannot be written ends in a box.
+  // Lets the user choose a name and saves the strip; shows a message when the file cannot be written.
   void imgSavePalette();
 
  private:
-  void bringForward();
+  void prepareDialog();
   void load(const std::string& path);
 
   Context context_;

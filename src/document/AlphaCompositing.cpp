@@ -9,7 +9,7 @@ constexpr double kFullAlpha = 255.0;
 constexpr int kFullPercent = 100;
 constexpr int kGroundChannel = redOf(kGround);
 
-// Both steps truncate: an alpha of 128 counts as 50 percent.
+// Intended: this step and the conversion to percent both truncate; an alpha of 128 counts as 50 percent.
 int blendChannel(int channel, int percent) {
   return divide((kFullPercent - percent) * kGroundChannel + percent * channel, kFullPercent);
 }

@@ -1,4 +1,4 @@
-// The look of an icon with alpha on the program's ground: for saving as a bitmap and for the alpha views.
+// Composes an icon with alpha over the program's ground, for saving it as a bitmap and for the alpha views.
 #pragma once
 
 #include "document/AlphaMatrix.h"
@@ -6,8 +6,8 @@
 
 namespace gp {
 
-// Blends every opaque pixel (black in `mask`) of `image` over the ground by its alpha value and writes it to `target`;
-// transparent pixels of `target` stay. All four must have the same size.
+// Blends each opaque pixel (black in `mask`) of `image` over the ground by its alpha value and writes it to `target`.
+// Other pixels of `target` do not change. All four must have the same size.
 void composeAlpha(const Surface& mask, const Surface& image, const AlphaMatrix& alpha, Surface& target);
 
 }  // namespace gp

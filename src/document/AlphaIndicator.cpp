@@ -11,7 +11,7 @@ constexpr int kFlashes = 2;
 constexpr int kFlashMilliseconds = 100;
 constexpr const char* kAlphaText = "Alpha";
 
-// Another icon may have come up while messages were pumped: its own alpha decides.
+// Processing events may have changed the Current Icon, so its alpha channel is checked each time.
 void showIndicator(EditState& state, Display& display, bool wanted) {
   const bool shown = wanted && state.current().hasAlpha;
   state.screen.imgAlphaOnStatusPanel = shown;

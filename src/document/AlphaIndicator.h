@@ -1,4 +1,4 @@
-// The "Alpha" indicator of the status bar, which flashes when an icon with an alpha channel comes up.
+// The "Alpha" indicator of the status bar, which flashes when an icon with an alpha channel is shown.
 #pragma once
 
 namespace gp {

@@ -1,5 +1,5 @@
-// The alpha values of one icon: one byte per pixel, 0 transparent to 255 opaque. An icon without alpha has a matrix of
-// 1 x 1.
+// The alpha values of one icon: one byte per pixel, from 0 transparent to 255 opaque. The matrix of an icon without
+// alpha has the size 1 x 1.
 #pragma once
 
 #include <cstdint>

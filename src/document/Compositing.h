@@ -1,14 +1,14 @@
-// The look of an icon on the program's ground: the ground where the Mask is white, inverted by a picture that is not
-// black there, and the picture where the Mask is black.
+// Composes an icon over the program's ground. Where the Mask is black, the image's pixel is shown. Where the Mask is
+// white, the ground is shown, inverted by image pixels that are not black.
 #pragma once
 
 #include "platform/gdi/Surface.h"
 
 namespace gp {
 
-// Draws the icon on target's back colour, from its top left corner, as its new picture. target keeps its size.
+// Draws the icon over target's back colour, at its top left corner, as its new picture. target keeps its size.
 void composeIcon(const Surface& image, const Surface& mask, Surface& target);
-// The same on a Surface of the image's size with kGround behind.
+// Returns the icon over kGround on a Surface of the image's size.
 Surface composedIcon(const Surface& image, const Surface& mask);
 
 }  // namespace gp

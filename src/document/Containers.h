@@ -1,5 +1,5 @@
-// What may be done with a record as a whole: clearing it, making it a new icon, and moving alpha values between the
-// Current Icon and its container. Pure data operations; the views learn of them from the callers.
+// Operations on records as a whole: clearing one, making it a new icon, and copying alpha values between the Current
+// Icon and its container. They change data only; callers notify the views.
 #pragma once
 
 #include "document/IconContainerRec.h"
@@ -12,19 +12,18 @@ struct IconImage;
 // Empties the current container: its Surfaces, and the record from `used` through `present`; size 32, no path. The
 // fields from fromMultiIconFile on stay: who reuses the record sets them.
 void ClearContainer(EditState& state);
-// The record of a new, unsaved icon. Its size follows from the icon's image.
+// Returns the record of a new, unsaved icon. SetRecord sets its size.
 IconContainerRec NewRecord();
-// Describes the icon that a container receives: the record but for its number, `used` and `size`, which are set here,
-// and the icon's alpha values. An icon that counts as one with alpha but has no value for each pixel becomes one of 24
-// bits without alpha.
+// Sets a container's record and alpha values for an icon it receives. The record keeps its number; `used` and `size`
+// are set here. An icon described as one with alpha, but without a value for each pixel, becomes one of 24 bits.
 void SetRecord(EditState& state, int container, const IconImage& icon, const IconContainerRec& record);
 
-// Makes the alpha matrix of the current container: 1 x 1, or size x size for a true colour icon with alpha whose values
-// are in gAlphaValues; true in the second case. Does nothing while the form loads.
+// Creates the alpha matrix of the current container. Returns true and creates size x size values for a true colour icon
+// with alpha whose values are in gAlphaValues; otherwise creates a 1 x 1 matrix. Does nothing while the form is loaded.
 bool PrepareAlphaRec(EditState& state);
-// True when the current container holds an icon with alpha and a matrix of its size.
+// Returns true when the current container has an icon with alpha and a matrix of its size.
 bool AlphaRecIsReady(const EditState& state);
-// gAlphaValues to the container's matrix, and back. False when a size does not fit or there is no icon.
+// Copy gAlphaValues to the container's matrix, and back. Return false when a size differs or there is no icon.
 bool StoreAlphaToRec(EditState& state);
 bool LoadAlphaFromRec(EditState& state);
 

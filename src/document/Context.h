@@ -1,5 +1,5 @@
-// What every subsystem works with: the shared state, the operations of subsystems to its right, the screen, and the
-// two ports that nearly all of them use. All five outlive the subsystems; a Context is copied freely.
+// What every subsystem uses: the shared state, the operations of subsystems to its right, the screen, and the two ports
+// that nearly all of them need. All five must outlive the subsystems; a Context can be copied freely.
 #pragma once
 
 namespace gp {

@@ -1,4 +1,4 @@
-// Whether the Current Icon may be replaced: the one question before a command brings up another icon.
+// Asks whether the Current Icon may be replaced. Every command calls this before it shows another icon.
 #pragma once
 
 #include "document/Context.h"
@@ -7,8 +7,8 @@
 
 namespace gp {
 
-// True when the Current Icon holds nothing unsaved, or the user agreed to save it or to lose it. `message` is added to
-// the question.
+// Returns true when the Current Icon has no unsaved changes, or when the user agreed to save or to lose them. `message`
+// is added to the question.
 [[nodiscard]] bool mayCurrentIconGo(const Context& context, const std::string& message = {});
 
 }  // namespace gp

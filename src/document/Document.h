@@ -1,5 +1,5 @@
-// The face of the room: makes what shows and holds the Current Icon and the six containers, and hands it to the rooms
-// to the right. It decides nothing.
+// The room's interface: creates the objects that show and store the Current Icon and the six containers, for the rooms
+// to the right. Contains no logic.
 #pragma once
 
 #include "document/EditingArea.h"

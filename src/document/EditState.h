@@ -22,10 +22,10 @@ struct EditState {
   int mCurContainer = 0;
   IconContainerRec& current() { return mIconRecs.at(static_cast<std::size_t>(mCurContainer)); }
   const IconContainerRec& current() const { return mIconRecs.at(static_cast<std::size_t>(mCurContainer)); }
-  // True when the Current Icon would be lost by replacing it.
+  // True when replacing the Current Icon would lose changes.
   bool IsIconChanged() const { return current().present && (current().modified || current().neverSaved); }
 
-  // The identity of the Current Icon: raised whenever another icon, or none, comes to the Editing Area.
+  // Identifies the Current Icon: incremented whenever another icon, or none, is shown in the Editing Area.
   unsigned iconSerial = 0;
 
   AlphaMatrix gAlphaValues;
@@ -37,7 +37,7 @@ struct EditState {
   Surface PicIcon{32, 32, kGround};
   Surface picDisp{384, 384, kGround};
   Surface PicGrid{384, 384, kWhite};
-  // Each container's own copy.
+  // Each container's copy of its icon.
   std::array<Surface, kContainerCount> picPanelImage;
   std::array<Surface, kContainerCount> picPanelMask;
   std::array<Surface, kContainerCount> picPanelIcon;
@@ -45,12 +45,12 @@ struct EditState {
   int gMagnification = 12;  // pixels of picDisp per icon pixel
   Color gGridColor = 0x606060;
 
-  Color mCurrentColor = kWhite;  // what all tools paint with, shown by picColorToUse
+  Color mCurrentColor = kWhite;  // the colour with which the tools paint, shown by picColorToUse
 
-  bool mRegionActive = false;  // a region floats or is selected: it keeps commands waiting
-  bool mRegionExists = false;  // a region box stands on the Editing Area
+  bool mRegionActive = false;  // a region is selected or floating, which disables some commands
+  bool mRegionExists = false;  // the Editing Area shows a region's box
   bool mPendingPaint = false;  // a tool action is open and must be committed before the container changes
-  bool mInLoad = false;        // the main form is being made: no layout, no alpha work
+  bool mInLoad = false;        // the main form is being created: no layout, no alpha work
 };
 
 }  // namespace gp

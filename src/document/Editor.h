@@ -1,5 +1,5 @@
-// The operations that a subsystem may ask of those to its right in the row of rooms, which it cannot name. What stands
-// to its left is passed to it by reference instead. shell/ implements this by forwarding each call to its owner.
+// The operations that a subsystem may call in the rooms to its right, which it cannot include. Rooms to its left are
+// passed to it by reference instead. shell/ implements this interface by forwarding each call to its owner.
 #pragma once
 
 #include "document/Tool.h"
@@ -13,7 +13,7 @@ class Editor {
   virtual ~Editor() = default;
 
   // Colour.
-  // Shows the chart that fits the Current Icon: 256 colours for true colour and for many, 16 otherwise.
+  // Shows the chart for the Current Icon: 256 colours for true colour and for 256 colours and more, otherwise 16.
   virtual void chooseColorChart() = 0;
   virtual void showChart16() = 0;
 
@@ -21,17 +21,17 @@ class Editor {
   virtual void clearAllTools() = 0;
   virtual Tool selectedTool() const = 0;
   virtual void clearRegion() = 0;
-  // Draws the region's box again on an Editing Area that was rebuilt.
+  // Draws the region's box again after the Editing Area was rebuilt.
   virtual void redrawRegion() = 0;
   virtual void recordUndo() = 0;
   virtual void clearUndoHistory() = 0;
 
   // Files.
-  // Opens the file into the current container without any question; false when it cannot be opened.
+  // Opens the file into the current container without questions; `ok` is false when it cannot be opened.
   virtual void doOpenIconFileQuietly(const std::string& path, bool& ok) = 0;
-  // Offers to save the Current Icon; `proceed` is false when the caller must not go on.
+  // Offers to save the Current Icon; `proceed` is false when the caller must not continue.
   virtual void AskSaveCurrent(const std::string& message, bool& proceed) = 0;
-  // A click on the Editing Area while the cursor panel is up, in icon pixels.
+  // A click on the Editing Area while the cursor panel is shown, in icon pixels.
   virtual void setHotspotByClick(int x, int y) = 0;
 
   // Shell.

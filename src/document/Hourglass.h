@@ -1,4 +1,5 @@
-// The hourglass pointer for as long as a piece of work lasts. It may be nested: the pointer returns with the outermost.
+// Shows the hourglass pointer for the lifetime of this object, then restores the former one, so that uses can be
+// nested.
 #pragma once
 
 #include "document/Context.h"

@@ -25,7 +25,7 @@ void IconArrival::fillContainer(int container, const IconImage& icon, const Icon
 void IconArrival::showCurrentContainer() {
   Editor& editor = context_.editor;
   const auto container = static_cast<std::size_t>(state_.mCurContainer);
-  // A region of the former icon ends before the Surfaces change.
+  // The region of the former icon must end before the Surfaces change.
   editor.clearRegion();
   ++state_.iconSerial;
   editingArea_.SizeEditSurfaces(state_.current().size);
@@ -33,7 +33,7 @@ void IconArrival::showCurrentContainer() {
   BitbltPic(state_.picPanelMask.at(container), state_.picMask);
   state_.gAlphaValues = state_.mAlphaRecs.at(container);
   editingArea_.ComposeCurrentIcon();
-  // Views that follow the Current Icon were last told before it was another.
+  // Views that follow the Current Icon have not been notified since it changed.
   context_.display.changed(DisplayPart::IconsPanel);
   editingArea_.ShowCurrentIcon();
   editor.chooseColorChart();

@@ -1,5 +1,5 @@
-// What is known of the icon in one of the six containers. The fields keep the order in which commands clear them in
-// runs; a record is empty (not used), held by a loader (used, not present) or loaded (both).
+// The description of the icon in one of the six containers. The fields are in the order in which commands clear them. A
+// record is empty (not used), reserved by a loader (used, not present) or loaded (both).
 #pragma once
 
 #include "document/ColorDepth.h"

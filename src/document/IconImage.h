@@ -1,6 +1,6 @@
-// The pixels of one icon by value: what decoders, previews and the browser return and what arrives on the Editing Area.
-// Where the Mask is black the icon is painted with the image's pixel; where it is white it is transparent and the image
-// black. An icon without an alpha channel has an alpha matrix of 1 x 1.
+// The pixels of one icon by value: the result of decoders, previews and the browser, and the input of IconArrival.
+// Where the Mask is black, the icon is opaque; where it is white, the icon is transparent and the image black. An icon
+// without an alpha channel has an alpha matrix of 1 x 1.
 #pragma once
 
 #include "document/AlphaMatrix.h"
@@ -16,11 +16,11 @@ struct IconImage {
   int width() const { return image.width(); }
   int height() const { return image.height(); }
   bool isEmpty() const { return width() == 0 || height() == 0; }
-  // True when there is one alpha value for each pixel.
+  // Returns true when there is one alpha value for each pixel.
   bool hasAlphaValues() const { return alpha.width() == width() && alpha.height() == height(); }
 };
 
-// An icon without a painted pixel, of size x size.
+// Returns an icon of size x size without an opaque pixel.
 inline IconImage transparentIcon(int size) {
   return {Surface(size, size, kBlack), Surface(size, size, kWhite), AlphaMatrix()};
 }

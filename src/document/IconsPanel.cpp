@@ -42,7 +42,7 @@ void IconsPanel::CommitPendingPaint() {
   if (state_.current().used && state_.mPendingPaint) SwitchContainer(state_.mCurContainer);
 }
 
-// Keeps what was painted before another container is shown. False when the user wants to stay.
+// Stores unsaved changes before another container is shown. Returns false when the user cancels.
 bool IconsPanel::leaveCurrent() {
   if (!state_.IsIconChanged()) return true;
   if (state_.options.promptToSave && !mayCurrentIconGo(context_, kReminderHint)) return false;
@@ -60,7 +60,7 @@ void IconsPanel::SwitchContainer(int container) {
 
   state_.mCurContainer = container;
   context_.display.changed(DisplayPart::IconsPanel);
-  // In the Icons List the icon is only chosen; its display waits.
+  // The Icons List only selects the container; its icon is shown later.
   if (screen.mActivePanel == kIconsListPanel) return;
   showCurrentContainer();
 }
@@ -111,7 +111,7 @@ void IconsPanel::PanelDrop(int container, const std::vector<std::string>& files)
   CommitPendingPaint();
   if (state_.screen.mActivePanel != kColorPanel && !state_.screen.aniContainerVisible) context_.editor.closePanels();
 
-  // What is on the Editing Area belongs to the former container, which the loader does not know of.
+  // The Editing Area shows the former container, of which the loader does not know.
   const int former = state_.mCurContainer;
   if (state_.IsIconChanged()) editingArea_.UpdatePanelFromCurrent();
   const unsigned formerIcon = state_.iconSerial;

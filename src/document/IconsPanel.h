@@ -1,5 +1,4 @@
-// The row of six containers beside the Editing Area: switching between them, the right click, and files dropped on
-// them.
+// The six containers beside the Editing Area: switching between them, the right click, and files dropped on them.
 #pragma once
 
 #include "document/Context.h"
@@ -18,18 +17,18 @@ class IconsPanel {
 
   // Makes a container current: picPanelIcon(i) and lblPanelIcon(i) Click and DblClick.
   void SwitchContainer(int container);
-  // A right click on a container: ends the Icons List view where it is up.
+  // A right click on a container: closes the Icons List if it is open and switches to the container.
   void PanelRightClick(int container);
-  // True when a drop of these file names is taken: the first ends in ".ICO".
+  // Returns true when dropping these files is accepted: the first name ends in ".ICO".
   bool PanelDragOver(const std::vector<std::string>& files) const;
-  // Opens the first file into the container, without questions. A failure leaves the current container as it was.
+  // Opens the first file into the container, without questions. A failure does not change the current container.
   void PanelDrop(int container, const std::vector<std::string>& files);
-  // imgUpdIconsPanel: the icon's present state goes to its container and becomes the baseline of Undo.
+  // imgUpdIconsPanel: copies the icon's current state to its container and makes it the baseline of Undo.
   void updateFromCurrent();
 
-  // Commits an open tool action by a click on the current container.
+  // Commits an open tool action like a click on the current container.
   void CommitPendingPaint();
-  // Ends a tool action: overlay, region and read-out go.
+  // Ends a tool action: removes overlay, region and read-out.
   void EndToolAction();
   // Empties the current container and shows the empty Editing Area.
   void showEmptyContainer();

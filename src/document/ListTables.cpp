@@ -8,7 +8,7 @@
 namespace gp {
 namespace {
 
-// How the numbers of a list are written. A row counts in units of the last decimal: tenths or hundredths.
+// The text form of a list's numbers. The numbers of a row are in units of the last decimal: tenths or hundredths.
 enum class NumberForm { Whole, TenthsAsShort, HundredthsInFull };
 
 struct NumberRow {
@@ -71,7 +71,7 @@ constexpr int kHundredths = 100;
 
 std::string twoDigits(int value) { return value < kTenths ? "0" + std::to_string(value) : std::to_string(value); }
 
-// All rows with decimals are of numbers from 0 upwards.
+// Rows with decimals contain no negative numbers.
 std::string textOf(int number, NumberForm form) {
   switch (form) {
     case NumberForm::HundredthsInFull:
@@ -101,7 +101,7 @@ FilledList fillFonts(std::span<const std::string> fonts) {
       kFontControl, {fonts.begin(), fonts.end()}, found == fonts.end() ? 0 : static_cast<int>(found - fonts.begin())};
 }
 
-constexpr bool eachListStandsOnce() {
+constexpr bool hasNoDuplicates() {
   std::array<std::string_view, std::size(kNumberRows) + std::size(kTextRows) + 1> controls{kFontControl};
   auto next = controls.begin() + 1;
   for (const NumberRow& row : kNumberRows) *next++ = row.control;
@@ -109,7 +109,7 @@ constexpr bool eachListStandsOnce() {
   std::ranges::sort(controls);
   return std::ranges::adjacent_find(controls) == controls.end();
 }
-static_assert(eachListStandsOnce());
+static_assert(hasNoDuplicates());
 
 }  // namespace
 

@@ -7,12 +7,12 @@ namespace gp {
 
 inline constexpr const char* kReminderHint = "(To remove Reminder, untick the related Option submenu)";
 
-// Behind the path of an icon's file that the command wants to read again.
+// Appended to the path of an icon's file that a command must read again but cannot find.
 inline constexpr const char* kFileGone = "\nfile can no longer be found!";
 
-// What every command says that needs an icon and finds none.
+// Shown by each command that requires an icon when there is none.
 inline constexpr const char* kNoIconYet = "No icon in Editing Area yet";
-// What pasting says without a picture.
+// Shown by Paste when there is no picture.
 inline constexpr const char* kNoClipboardImage = "No image in clipboard yet";
 
 }  // namespace gp

@@ -1,4 +1,4 @@
-// The numbers of the side panels fraPanel(n) that several rooms name. An effect has its own.
+// The numbers of the side panels fraPanel(n) that several rooms use. Each effect defines its own number.
 #pragma once
 
 namespace gp {

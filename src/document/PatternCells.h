@@ -1,5 +1,5 @@
-// The cells that a patterned grid lays under the icon: small fixed pictures, exact to the pixel, never scaled. They
-// belong to the program for as long as it runs; callers only look at them.
+// The cells of a patterned grid under the icon: small fixed pictures, exact to the pixel and never scaled. They live as
+// long as the program.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -9,8 +9,8 @@ namespace gp {
 inline constexpr int kPatternCellCount = 3;
 inline constexpr int kPatternCellSize = 8;
 
-// `picTileSource(index)`: 0 has a gray ground, 1 a light blue one, 2 a turquoise one. An index outside gives the gray
-// cell.
+// Returns `picTileSource(index)`: 0 has a gray ground, 1 a light blue one, 2 a turquoise one. Any other index returns
+// the gray cell.
 const Surface& patternCell(int index);
 
 }  // namespace gp

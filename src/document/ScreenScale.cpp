@@ -22,7 +22,7 @@ int ScreenScale::sourceOf(int device) const {
   const int cell = floorDivide(device, cellSize_);
   const int within = device - cell * cellSize_;
   if (within == 0) return cell * magnification_;
-  // The first pixel of a cell may be a grid line, which only one device pixel may show.
+  // The first pixel of a cell may be a grid line, which must be shown on one device pixel only.
   return cell * magnification_ + std::max(std::min(1, magnification_ - 1), within * magnification_ / cellSize_);
 }
 

@@ -1,5 +1,5 @@
-// How picDisp comes onto a screen whose pixels are smaller than the program's: every icon pixel gets the same whole
-// number of device pixels, and a grid line stays one device pixel wide.
+// Maps picDisp to a screen with smaller pixels: each icon pixel covers the same integer number of device pixels, and a
+// grid line remains one device pixel wide.
 #pragma once
 
 #include <vector>
@@ -8,15 +8,15 @@ namespace gp {
 
 class ScreenScale {
  public:
-  // `cells` icon pixels of `magnification` picDisp pixels each, on a screen of `ratio` device pixels a pixel (>= 1).
+  // `cells` icon pixels of `magnification` picDisp pixels each, on a screen with `ratio` >= 1 device pixels per pixel.
   ScreenScale(int cells, int magnification, double ratio);
 
-  // Device pixels per icon pixel, and over all.
+  // Device pixels per icon pixel, and in total.
   int cellSize() const { return cellSize_; }
   int deviceSize() const { return cells_ * cellSize_; }
-  // The picDisp position that a device position shows; positions outside go on in the same measure.
+  // Returns the picDisp position shown at a device position; positions outside are extrapolated.
   int sourceOf(int device) const;
-  // The first device position that shows a picDisp position or one behind it.
+  // Returns the first device position that shows a picDisp position or a later one.
   int deviceOf(int source) const;
 
  private:

@@ -83,7 +83,7 @@ void ClipboardCommands::doCopyRegion() {
   context_.editor.UpdateCommands();
 }
 
-// Transparency is not carried: it arrives as the ground behind it.
+// The clipboard carries no transparency: transparent pixels are copied in the colour kGround.
 Surface ClipboardCommands::pictureOfRegion() const {
   const Surface& image = regions_.content().image;
   const Surface& mask = regions_.content().mask;
@@ -105,7 +105,7 @@ void ClipboardCommands::clearClipboard() {
 
 void ClipboardCommands::doPaste(bool opaque) {
   ClipboardImage image;
-  // The picture is read before anything changes: its owner may have withdrawn it since it was offered.
+  // The picture is read before anything changes, because its owner may have withdrawn it.
   if (!fetch(image)) {
     context_.boxes.tell(kNoClipboardImage);
     return;
@@ -114,7 +114,7 @@ void ClipboardCommands::doPaste(bool opaque) {
   const unsigned icon = state_.iconSerial;
   history_.clearUndoHistory();
   history_.recordUndo();
-  // Recording pumps messages: a picture meant for one icon does not go into another.
+  // Recording processes events, so the current icon may be another one now; the picture is not pasted into that.
   if (state_.iconSerial != icon || !makeRoomFor(image)) return;
   const int width = std::min(image.corner.width(), state_.picImage.width());
   const int height = std::min(image.corner.height(), state_.picImage.height());
@@ -129,7 +129,7 @@ bool ClipboardCommands::fetch(ClipboardImage& image) {
   return image.width > 0 && image.height > 0 && image.corner.width() > 0 && image.corner.height() > 0;
 }
 
-// An icon for the picture: the current one, or a new one. False when the user refuses.
+// Ensures that there is an icon to paste into: the current one or a new one. Returns false when the user refuses.
 bool ClipboardCommands::makeRoomFor(const ClipboardImage& image) {
   const int size = state_.current().size;
   if (state_.current().used) {
@@ -142,7 +142,7 @@ bool ClipboardCommands::makeRoomFor(const ClipboardImage& image) {
   return makeNewIcon(iconSizeFor(image.width, image.height));
 }
 
-// Showing an icon pumps messages: false when another icon, or none, is shown after it.
+// Showing an icon processes events. Returns false when the new icon is no longer the current one.
 bool ClipboardCommands::makeNewIcon(int size) {
   const unsigned arriving = state_.iconSerial + 1;
   document_.arrival.arrive(transparentIcon(size), NewRecord());

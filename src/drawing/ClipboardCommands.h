@@ -1,5 +1,5 @@
-// Cut, Erase, Copy, Paste and Clear Clipboard of the Edit menu. The desktop's clipboard is a port; what comes from it
-// is a stranger's, and is used only as far as it fits an icon.
+// Cut, Erase, Copy, Paste and Clear Clipboard of the Edit menu. The desktop's clipboard is a port; its content is
+// untrusted and is used only as far as it fits an icon.
 #pragma once
 
 #include "document/Context.h"
@@ -21,12 +21,12 @@ class ClipboardCommands {
   ClipboardCommands(const Context& context, Document& document, UndoHistory& history, Regions& regions, Tools& tools,
                     Clipboard& clipboard);
 
-  // mnuEditSub(4) with copyFirst, and (5): blanks the region, or takes a floating one away from what lies beneath. The
-  // user is told of a region without sides.
+  // mnuEditSub(4) with copyFirst, and (5): makes the region transparent, or removes a floating region without changing
+  // the pixels below. Shows a message when the region is empty.
   void doCutRegion(bool copyFirst);
-  // mnuEditSub(6): the region, or the whole icon, with silver where it is transparent.
+  // mnuEditSub(6): copies the region, or the whole icon; transparent pixels have the colour kGround.
   void doCopyRegion();
-  // mnuEditSub(7) and (8): the clipboard's picture becomes a floating region, in a new icon where there is none.
+  // mnuEditSub(7) and (8): the clipboard's picture becomes a floating region, in a new icon if none is loaded.
   void doPaste(bool opaque);
   // mnuEditSub(9).
   void clearClipboard();

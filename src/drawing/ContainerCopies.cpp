@@ -22,7 +22,7 @@ IconContainerRec copyOf(const IconContainerRec& source) {
   return record;
 }
 
-// Why an icon may not be copied; empty when it may.
+// Returns the message that refuses to copy an icon, empty when it can be copied.
 std::string refusal(const IconContainerRec& record, const std::string& icon) {
   if (record.fromMultiIconFile) return icon + " originates from a multi-icon file," + kNotAllowed;
   if (record.hasAlpha) return icon + " is with alpha channel," + kNotAllowed;
@@ -73,7 +73,7 @@ void ContainerCopies::doClearContainer() {
   if (!mayCurrentIconGo(context_) || !context_.boxes.ask("Clear current icon from container.  Proceed?\n")) return;
   regions_.clearRegion();
   ClearContainer(state_);
-  // Showing a container that is empty resets its Surfaces.
+  // Switching to an empty container resets its Surfaces.
   document_.iconsPanel.SwitchContainer(state_.mCurContainer);
 }
 

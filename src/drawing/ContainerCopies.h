@@ -1,5 +1,5 @@
-// Copying an icon from one container to another, and clearing a container: commands of the Edit menu. Only icons that
-// are whole in one container may be copied: not those of a file with several icons, and not those with alpha.
+// Copying an icon to or from another container, and clearing a container: commands of the Edit menu. Icons from files
+// with several icons and icons with alpha cannot be copied.
 #pragma once
 
 #include "document/Context.h"
@@ -13,11 +13,11 @@ class ContainerCopies {
  public:
   ContainerCopies(const Context& context, Document& document, Regions& regions);
 
-  // The current icon replaces that of another container, 0 to 5, and counts as never saved there.
+  // Replaces the icon of another container, 0 to 5, with the current one, which counts as never saved there.
   void mnuEditSubCopyToContainer(int target);
-  // The icon that a container holds, 0 to 5, replaces the current one; a new baseline of Undo.
+  // Replaces the current icon with that of a container, 0 to 5; Undo starts again.
   void mnuEditSubCopyFromContainer(int source);
-  // mnuEditSub(13): empties the current container, after asking.
+  // mnuEditSub(13): empties the current container after asking the user.
   void doClearContainer();
 
  private:

@@ -1,10 +1,10 @@
-// What the tools share while the mouse is down: the rectangle that is being drawn in three measures, and which stroke
-// is under way. Tools owns it and hands it to each tool.
+// State that the tools share while the mouse is down: the rectangle being drawn, in three measures, and the active
+// stroke. Tools owns it and passes it to each tool.
 #pragma once
 
 namespace gp {
 
-// Opposite corners, in any order while a drag lasts. Whole numbers, but for the region box during an edge drag.
+// Opposite corners, in any order during a drag. Integers, except for the region box while an edge is dragged.
 struct DrawRect {
   double x1 = 0;
   double y1 = 0;
@@ -13,7 +13,7 @@ struct DrawRect {
 };
 
 struct DrawState {
-  // A stroke runs from press to release; a nested event finds the flags as they are.
+  // A stroke lasts from press to release; nested events see the flags unchanged.
   bool mPainting = false;
   bool mErasing = false;
   bool mRestoring = false;

@@ -1,5 +1,5 @@
-// The face of the room: makes the tools and commands of drawing, ties each tool to its place in the tool box, and hands
-// them to the rooms to the right. It decides nothing.
+// The room's interface: creates the drawing tools and commands for the rooms to the right, and assigns each tool its
+// place in the tool box. Contains no logic.
 #pragma once
 
 #include "drawing/ClipboardCommands.h"
@@ -27,7 +27,7 @@ class Drawing {
  public:
   Drawing(const Context& context, Document& document, ColorSelection& colors, Clipboard& clipboard);
 
-  // What is being drawn while the mouse is down.
+  // The rectangle and stroke while the mouse is down.
   DrawState drawState;
   UndoHistory history;
   Regions regions;

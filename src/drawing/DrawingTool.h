@@ -1,5 +1,5 @@
-// One tool's share of the mouse handlers of picDisp. Tools has done the common steps when it calls: an icon is present,
-// the tool is selected, the position has become a pixel, and at a release the icon is marked as modified.
+// The mouse handling of one tool on picDisp. Tools has done the common steps before each call: an icon is present, the
+// tool is selected, the position is converted to a pixel, and on a release the icon is marked as modified.
 #pragma once
 
 #include "document/Tool.h"
@@ -7,15 +7,15 @@
 namespace gp {
 
 struct ToolMouse {
-  Tool tool = kNoTool;  // the selected one
-  int pixelX = 0;       // icon pixel; at a release it may lie outside the icon
+  Tool tool = kNoTool;  // the selected tool
+  int pixelX = 0;       // icon pixel; can lie outside the icon on a release
   int pixelY = 0;
   float x = 0;  // Editing Area pixels
   float y = 0;
   int modifiers = 0;  // kShiftKey, kCtrlKey, kAltKey
 };
 
-// What pointer() gives for a tool that is shown by its own picture.
+// The result of pointer() for a tool with a pointer picture of its own name.
 inline constexpr int kOwnPicture = 0;
 
 class DrawingTool {
@@ -24,11 +24,11 @@ class DrawingTool {
   virtual void press(const ToolMouse& /*mouse*/) {}
   virtual void move(const ToolMouse& /*mouse*/) {}
   virtual void release(const ToolMouse& /*mouse*/) {}
-  // The tool has just been selected.
+  // Called after the tool has been selected.
   virtual void selected() {}
-  // The tool is about to be deselected: what is under way is finished or dropped, whole.
+  // Called before the tool is deselected: finishes or discards the current operation as a whole.
   virtual void cancel() {}
-  // The pointer over a position, in Editing Area pixels: kOwnPicture, or one of the pointers that ScreenState tells.
+  // Returns the pointer for a position in Editing Area pixels: kOwnPicture, or a pointer listed in ScreenState.
   virtual int pointer(float /*x*/, float /*y*/) const { return kOwnPicture; }
 };
 

@@ -9,7 +9,7 @@ namespace gp {
 
 namespace {
 
-// What marks an area whose own colour the current one may be.
+// Colours that mark a filled area when the current colour equals its own.
 constexpr Color kMark = 0x0000FF;
 constexpr Color kOtherMark = 0x00FFFF;
 
@@ -38,7 +38,7 @@ void setPixelsWhere(EditState& state, const PixelPair& pixel, const Condition& c
       if (condition(x, y)) setPixel(state, x, y, pixel);
 }
 
-// A copy of what the user sees with the area around a pixel filled.
+// A copy of the visible picture with the area around a pixel filled.
 class FilledCopy {
  public:
   FilledCopy(const Surface& seen, int x, int y, Color color) : seen_(seen), filled_(seen) {
@@ -72,7 +72,7 @@ void FillTool::fill(int x, int y) {
   const Color color = state_.mCurrentColor;
   const bool fromTransparent = isTransparent(state_, x, y);
   const FilledCopy filled(state_.PicIcon, x, y, color);
-  // Tells a transparent area even where the current colour is that of the ground, so that the fill does not show.
+  // The mark makes a transparent area visible even where the current colour is that of the ground.
   const FilledCopy marked(state_.PicIcon, x, y, kMark);
   setPixelsWhere(state_, opaquePixel(color), [&](int i, int j) {
     const bool isReached = filled.differsAt(i, j) || (fromTransparent && marked.differsAt(i, j));
@@ -91,8 +91,8 @@ void FillTool::fillTransparent(int x, int y) {
 
 void ReplaceTool::release(const ToolMouse& mouse) {
   const Color target = state_.PicIcon.GetPixel(mouse.pixelX, mouse.pixelY);
-  // Where the ground's colour is clicked, the icon's top left pixel, not the pixel clicked, decides whether opaque or
-  // transparent pixels are meant.
+  // Intended: when the ground's colour is clicked, the icon's top left pixel, not the clicked one, determines whether
+  // opaque or transparent pixels are replaced.
   const Color wantedMask = state_.picMask.GetPixel(0, 0) == kWhite ? kBlack : kWhite;
   const PixelPair pixel = mouse.modifiers == 0 ? opaquePixel(state_.mCurrentColor) : kTransparentPixel;
   setPixelsWhere(state_, pixel, [&, isGround = target == kGround](int x, int y) {

@@ -1,7 +1,7 @@
-// Fill and Replace. What hangs together is judged by what the user sees, on PicIcon, where transparent pixels show the
-// ground; what changes is picImage and picMask, and only pixels of the kind, transparent or opaque, that was clicked.
-// Both work at the release; any modifier makes pixels transparent instead of painting them. A click outside the icon
-// finds nothing.
+// Fill and Replace. Areas are determined by what the user sees: PicIcon, where transparent pixels have the ground's
+// colour. Both change picImage and picMask on the release; any modifier key makes pixels transparent instead of
+// painting them. Fill changes only pixels of the clicked kind, transparent or opaque. Clicks outside the icon are
+// ignored.
 #pragma once
 
 #include "document/Context.h"
@@ -12,7 +12,7 @@ namespace gp {
 class EditingArea;
 class UndoHistory;
 
-// The area around the pixel.
+// Fills the area around the clicked pixel.
 class FillTool : public DrawingTool {
  public:
   FillTool(const Context& context, EditingArea& editingArea, UndoHistory& history)
@@ -28,7 +28,7 @@ class FillTool : public DrawingTool {
   UndoHistory& history_;
 };
 
-// All pixels of the icon that show the same colour.
+// Replaces all pixels of the icon that show the clicked colour.
 class ReplaceTool : public DrawingTool {
  public:
   ReplaceTool(const Context& context, EditingArea& editingArea, UndoHistory& history)

@@ -36,7 +36,7 @@ void FreehandTool::press(const ToolMouse& mouse) {
   editingArea_.showChangedIcon();
 }
 
-// Stamps where the pointer is; nothing is interpolated, so a fast drag leaves gaps.
+// Stamps at the pointer's position without interpolation, so a fast drag leaves gaps.
 void FreehandTool::move(const ToolMouse& mouse) {
   if (!stroke(mouse.tool)) return;
   context_.pump.pump();
@@ -48,7 +48,7 @@ void FreehandTool::move(const ToolMouse& mouse) {
 
 void FreehandTool::release(const ToolMouse& /*mouse*/) {
   editingArea_.showChangedIcon();
-  // Messages are pumped last, by the recording: what arrives there finds the stroke recorded.
+  // Recording processes events last, so these find the stroke recorded.
   history_.recordUndo();
 }
 
@@ -58,7 +58,7 @@ void FreehandTool::cancel() {
   history_.recordUndo();
 }
 
-// The brush hangs from its top left pixel and is cut at the right and bottom edges of the icon.
+// The pointer is at the brush's top left pixel. The brush is cut at the right and bottom edges of the icon.
 void FreehandTool::stamp(const ToolMouse& mouse) {
   const int last = state_.current().size - 1;
   drawState_.draw = {static_cast<double>(mouse.pixelX), static_cast<double>(mouse.pixelY),
@@ -70,7 +70,7 @@ void FreehandTool::stamp(const ToolMouse& mouse) {
   FillBox(state_.picMask, square.x1, square.y1, square.x2, square.y2, erase ? kWhite : kBlack);
 }
 
-// The square on picDisp spares the grid lines to its left and top, and may run past the right and bottom edge.
+// On picDisp the square does not cover the grid lines to its left and top, and can exceed the right and bottom edges.
 void FreehandTool::showStamp(Tool tool) {
   const int m = state_.gMagnification;
   const int reach = 1 + state_.screen.brushIndex;

@@ -1,5 +1,5 @@
-// The freehand tools: Paint and Erase stamp the brush wherever the pointer is, Restore takes pixels from the icon that
-// the container holds. A stroke runs from press to release; whatever ends it, icon and Mask agree.
+// The freehand tools: Paint and Erase stamp the brush at the pointer's position; Restore takes pixels from the
+// container's copy of the icon. A stroke lasts from press to release; however it ends, icon and Mask match.
 #pragma once
 
 #include "document/Context.h"
@@ -11,7 +11,7 @@ class EditingArea;
 class UndoHistory;
 struct DrawState;
 
-// Paint and Erase, by the tool that is selected.
+// Paint and Erase, depending on the selected tool.
 class FreehandTool : public DrawingTool {
  public:
   FreehandTool(const Context& context, EditingArea& editingArea, UndoHistory& history, DrawState& drawState);
@@ -19,11 +19,11 @@ class FreehandTool : public DrawingTool {
   void press(const ToolMouse& mouse) override;
   void move(const ToolMouse& mouse) override;
   void release(const ToolMouse& mouse) override;
-  // A stroke under way is finished as a step of its own.
+  // Records the current stroke as an Undo step.
   void cancel() override;
 
  private:
-  // True while a stroke of that tool is under way.
+  // The flag that is true during a stroke of that tool.
   bool& stroke(Tool tool);
   void stamp(const ToolMouse& mouse);
   void showStamp(Tool tool);
@@ -35,7 +35,7 @@ class FreehandTool : public DrawingTool {
   DrawState& drawState_;
 };
 
-// One pixel at a time, whatever the brush. Its strokes are recorded with the next step only.
+// Restores one pixel at a time, independent of the brush. Undo records its strokes only with the next step.
 class RestoreTool : public DrawingTool {
  public:
   RestoreTool(const Context& context, EditingArea& editingArea, DrawState& drawState);

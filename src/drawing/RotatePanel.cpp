@@ -17,13 +17,13 @@ namespace gp {
 
 namespace {
 
-// What the sample shows around the picture at the ends of its diagonal.
+// Pixels that the sample shows around the picture at both ends of its diagonal together.
 constexpr int kSampleMargin = 2;
 
 bool isWholeTurn(double angle) { return angle == 0 || angle == kLargestAngle || angle == -kLargestAngle; }
 
-// The work Surface is as wide as the diagonal, rounded to the nearest pixel, and the offset truncated: so the middle of
-// the icon stays where it is.
+// The work Surface has the width of the diagonal, rounded to the nearest pixel, and the offset is truncated, so that
+// the middle of the icon does not move.
 void rotate(Surface& picture, double angle, Color background) {
   const int side = diagonalOf(picture.width(), picture.height());
   Surface work(side, side, background);
@@ -95,7 +95,7 @@ void RotatePanel::doRotateProceed() {
   }
   rotateIcon(angle);
   context_.editor.closePanels();
-  // It pumps messages, and so comes when the Panel can no longer be used.
+  // Recording processes events, so it is the last step: the Panel must be closed by then.
   history_.recordUndo();
 }
 

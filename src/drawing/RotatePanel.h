@@ -1,5 +1,5 @@
-// The Panel that rotates the icon by any angle: its list of angles, its slider and its sample. The three follow each
-// other; the view shows what is here. The sample is smooth where Antialias is on, the icon itself never is.
+// The Panel that rotates the icon by any angle: its list of angles, its slider and its sample, which are kept in step.
+// The view shows these values. Antialias smooths the sample only; the icon is never smoothed.
 #pragma once
 
 #include "document/Context.h"
@@ -11,9 +11,9 @@
 namespace gp {
 
 inline constexpr int kLargestAngle = 360;
-// Items of cboRotateImageAngle: index i is the angle i - 360.
+// Items of cboRotateImageAngle: index i is the angle i - 360 in degrees.
 inline constexpr int kAngleCount = 2 * kLargestAngle + 1;
-// The side of picRotateImageSample: the largest icon fits in it at any angle.
+// The side of picRotateImageSample in pixels: the largest icon fits into it at any angle.
 inline constexpr int kRotateSampleSide = 70;
 
 class EditingArea;
@@ -24,14 +24,14 @@ class RotatePanel {
  public:
   RotatePanel(const Context& context, EditingArea& editingArea, UndoHistory& history, Regions& regions);
 
-  // Brings the Panel forward with its sample.
+  // Shows the Panel with its sample.
   void open();
   static std::string angleText(int index);
 
-  // cboRotateImageAngle: an item was picked, or a text typed. An index outside is ignored.
+  // cboRotateImageAngle: an item was chosen, or a text typed. An index out of range is ignored.
   void pickAngle(int index);
   void setAngleText(const std::string& text);
-  // hsrRotateImageAngle, -360 to 360; values beyond are limited.
+  // hsrRotateImageAngle, -360 to 360 degrees; other values are limited to this range.
   void setSlider(int angle);
   // ckbRotateImageAntiAlias.
   void setAntialias(bool antialias);
@@ -41,7 +41,7 @@ class RotatePanel {
   bool ckbRotateImageAntiAlias() const { return antialias_; }
   const Surface& picRotateImageSample() const { return sample_; }
 
-  // Proceed: turns the icon, which keeps its size and loses the corners that leave it. A whole turn changes nothing.
+  // Proceed: rotates the icon, which keeps its size and loses the corners outside it. A full turn changes nothing.
   void doRotateProceed();
 
  private:

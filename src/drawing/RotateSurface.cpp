@@ -9,12 +9,12 @@ namespace gp {
 
 namespace {
 
-// The rounding of pixels depends on its digits.
+// The number of digits affects how pixels are rounded.
 constexpr double kPi = 3.14159265359;
 constexpr double kFullCircle = 360;
-// What turns a coordinate that is not whole to the next pixel, and leaves a whole one where it is.
+// Added before rounding down: moves a fractional coordinate to the next pixel and keeps a whole one.
 constexpr double kAlmostOne = 0.999;
-// The middle of a picture is rounded: its far corner may lie this much farther from it.
+// A picture's middle is rounded: its far corner can be this much further away.
 constexpr int kReserve = 2;
 
 struct Turn {
@@ -34,7 +34,7 @@ class Rotation {
   }
 
  private:
-  // One angle serves four pixels, a quarter turn apart.
+  // One angle applies to four pixels, a quarter turn apart.
   void turnQuarters(int x, int y) {
     const double a = x == 0 ? kPi / 2 : std::atan(static_cast<double>(y) / x);
     const double r = std::sqrt(static_cast<double>(x * x + y * y));
@@ -63,7 +63,7 @@ class Rotation {
   const int targetY_ = settings_.centerY == 0 ? dst_.height() / 2 : settings_.centerY;
 };
 
-// Of two colours of which one lies outside the picture the other counts alone: nothing of what is no colour comes in.
+// Returns the mixture of two colours; when one of them lies outside the picture, returns the other one.
 Color mixInside(Color a, Color b, double weightB) {
   if (a == kNoColor) return b;
   if (b == kNoColor) return a;

@@ -1,4 +1,4 @@
-// Turning a picture about its middle by any angle, by nearest pixel or smoothly. Pure functions on Surfaces.
+// Rotates a picture about its middle by any angle, by nearest pixel or smoothed. Pure functions on Surfaces.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -6,26 +6,26 @@
 namespace gp {
 
 struct RotateSettings {
-  double angleDegrees = 0;      // positive turns against the clock
+  double angleDegrees = 0;      // positive angles turn counter-clockwise
   bool skipBackground = false;  // pixels of the background colour are not written
   Color backgroundColor = kBlack;
   bool antialias = false;
-  int centerX = 0;  // where in the target the middle of the source goes; 0 for the target's own middle
+  int centerX = 0;  // the position in the target of the source's middle; 0 for the target's middle
   int centerY = 0;
 };
 
-// Writes the turned picture over dst, which must be another Surface. Pixels of dst that nothing is turned to stay.
+// Writes the rotated picture over dst, which must be another Surface. Pixels of dst outside the picture are unchanged.
 void rotateSurface(const Surface& src, Surface& dst, const RotateSettings& settings);
 
-// The colour at a position between pixels, from up to four of them; a whole coordinate needs one. Pixels outside do not
-// count; kNoColor when all of them are.
+// Returns the colour at a position between pixels, interpolated from up to four of them. Pixels outside are ignored;
+// kNoColor when all are outside.
 Color sampleBilinear(const Surface& surface, double x, double y);
-// The same along column x alone.
+// The same along column x only.
 Color sampleColumn(const Surface& surface, double x, double y);
-// The two colours by their weights, channel by channel, each sum rounded to the nearest.
+// Returns the weighted sum of two colours per channel, each rounded to the nearest integer.
 Color mixColors(Color a, double weightA, Color b, double weightB);
 
-// The side of a square that a picture fits in at any angle, in pixels.
+// Returns the side in pixels of a square into which a picture fits at any angle.
 int diagonalOf(int width, int height);
 
 }  // namespace gp

@@ -20,9 +20,9 @@ namespace gp {
 namespace {
 
 constexpr int kConstrainKeys = kShiftKey | kCtrlKey | kAltKey;
-// The width of Filled Oval's pen, whatever the brush.
+// The pen width of Filled Oval, independent of the brush.
 constexpr int kFilledOvalPen = 2;
-// Where the two arcs of an oval meet again, in radians: a whole turn as a whole number.
+// The angle in radians at which the two arcs of an oval meet: a full turn, truncated to an integer.
 constexpr double kArcEnd = 6;
 
 struct Corners {
@@ -44,7 +44,7 @@ ShapeBox unite(const ShapeBox& a, const ShapeBox& b) {
   return {std::min(a.left, b.left), std::min(a.top, b.top), std::max(a.right, b.right), std::max(a.bottom, b.bottom)};
 }
 
-// A Surface's pen for one shape. It leaves the pen at the width it had, solid, and without filling.
+// Sets a Surface's pen for one shape. Afterwards the pen has its former width, is solid and does not fill.
 class ShapePen {
  public:
   ShapePen(Surface& surface, int width, FillMode fillMode, Color fillColor)
@@ -71,7 +71,7 @@ class ShapePen {
 void drawLine(Surface& surface, const DrawRect& rect, Color color) {
   const Corners c = wholeCorners(rect);
   DrawLine(surface, c.x1, c.y1, c.x2, c.y2, color);
-  // A thin pen leaves out the end; a wider one has an end of its own.
+  // A thin pen does not draw the end pixel; a wider pen does.
   if (surface.penWidth == 1) surface.SetPixelV(c.x2, c.y2, color);
 }
 
@@ -80,8 +80,8 @@ void drawBox(Surface& surface, const DrawRect& rect, Color color) {
   DrawBox(surface, c.x1, c.y1, c.x2, c.y2, color);
 }
 
-// Two arcs, the second of which goes on where the first ends. Wider pens close the outline; a thin one misses a pixel
-// between them at most sizes, as it does on the platform.
+// Draws two arcs; the second one starts where the first one ends. Wider pens close the outline; a thin pen misses a
+// pixel between the arcs at most sizes, as on the platform.
 void drawOval(Surface& surface, const DrawRect& rect, Color color) {
   OvalGeometry oval;
   if (ovalGeometry(rect, oval) == 0) return;
@@ -102,7 +102,7 @@ struct ShapeRow {
   FillMode fillMode;
   bool isBox;    // the band has a box
   bool isOval;   // the band has an ellipse
-  int penWidth;  // 0: that of the brush
+  int penWidth;  // 0: the width of the brush
 };
 
 constexpr std::array<ShapeRow, 5> kShapes = {{
@@ -134,18 +134,20 @@ ShapeTool::ShapeTool(const Context& context, EditingArea& editingArea, UndoHisto
       tools_(tools),
       drawState_(drawState) {}
 
-ShapeTool::Ground ShapeTool::ground() const {
+ShapeTool::DragTarget ShapeTool::currentTarget() const {
   return {state_.iconSerial, state_.screen.mActivePanel, state_.mRegionExists, tools_.selectedTool() == kShift};
 }
 
-bool ShapeTool::isStillOn(const Ground& ground) const { return state_.current().present && ground == this->ground(); }
+bool ShapeTool::isCurrent(const DragTarget& target) const {
+  return state_.current().present && target == currentTarget();
+}
 
-bool ShapeTool::isDragging() const { return dragged_ && drawState_.mPainting && isStillOn(dragGround_); }
+bool ShapeTool::isDragging() const { return dragged_ && drawState_.mPainting && isCurrent(dragTarget_); }
 
 void ShapeTool::press(const ToolMouse& mouse) {
   drawState_.mPainting = true;
   dragged_ = true;
-  dragGround_ = ground();
+  dragTarget_ = currentTarget();
   follow(mouse);
   drawState_.draw.x1 = drawState_.draw.x2;
   drawState_.draw.y1 = drawState_.draw.y2;
@@ -153,7 +155,7 @@ void ShapeTool::press(const ToolMouse& mouse) {
   drawState_.band.y1 = drawState_.band.y2;
 }
 
-// The second corner goes where the pointer is.
+// Moves the second corner to the pointer.
 void ShapeTool::follow(const ToolMouse& mouse) {
   const int m = state_.gMagnification;
   drawState_.draw.x2 = mouse.pixelX;
@@ -163,7 +165,7 @@ void ShapeTool::follow(const ToolMouse& mouse) {
 }
 
 void ShapeTool::move(const ToolMouse& mouse) {
-  // A drag that ended elsewhere leaves nothing for a release to draw.
+  // A drag that has ended otherwise must leave nothing for a release to draw.
   if (!isDragging()) {
     cancel();
     return;
@@ -202,16 +204,16 @@ void ShapeTool::clearBand() {
 }
 
 void ShapeTool::release(const ToolMouse& mouse) {
-  // The second button of a drag, or one that no press belongs to, finds nothing to draw.
-  const bool mayDraw = dragged_ && isStillOn(dragGround_);
+  // There is nothing to draw on the second button's release, or on a release without a press.
+  const bool mayDraw = dragged_ && isCurrent(dragTarget_);
   cancel();
   const ShapeRow* row = findShape(mouse.tool);
   if (!mayDraw || row == nullptr) return;
-  // A nested press begins a drag of its own: what is drawn here is settled before.
+  // A nested press starts another drag, so the values of this one are copied first.
   const DrawRect corners = drawState_.draw;
-  const Ground before = dragGround_;
+  const DragTarget target = dragTarget_;
   if (row->isOval) context_.pump.pump();
-  if (!isStillOn(before)) return;
+  if (!isCurrent(target)) return;
   const int penWidth = row->penWidth != 0 ? row->penWidth : state_.screen.brushIndex + 1;
   drawOn(state_.picImage, *row, penWidth, corners, state_.mCurrentColor);
   drawOn(state_.picMask, *row, penWidth, corners, kBlack);

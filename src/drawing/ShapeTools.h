@@ -1,9 +1,9 @@
-// Line, Rectangle, Filled Rectangle, Oval and Filled Oval. A drag shows a rubber band over the Editing Area and nothing
-// else; the release draws the shape on picImage and picMask. One object serves all five: the drag is theirs together,
-// and the tool that is selected says what it draws.
+// Line, Rectangle, Filled Rectangle, Oval and Filled Oval. A drag only shows a rubber band over the Editing Area; the
+// release draws the shape on picImage and picMask. One object handles all five tools; the selected one determines what
+// the drag draws.
 //
-// A drag belongs to the icon it began on. When that has gone, or a panel, a region or Shift works on it meanwhile, the
-// shape is dropped whole.
+// A drag belongs to the icon on which it started. When the icon is replaced, or when the panel, the region or Shift
+// changes meanwhile, the shape is discarded.
 #pragma once
 
 #include "document/Context.h"
@@ -24,23 +24,23 @@ class ShapeTool : public DrawingTool {
 
   void press(const ToolMouse& mouse) override;
   void move(const ToolMouse& mouse) override;
-  // Draws what the last move left; the position of the release is not used. Pumps messages for an oval.
+  // Draws the shape of the last move; the position of the release is not used. For an oval it processes events first.
   void release(const ToolMouse& mouse) override;
-  // Ends a drag without drawing anything and takes its band away.
+  // Ends a drag without drawing and removes its band.
   void cancel() override;
 
  private:
-  // What a drag draws on.
-  struct Ground {
+  // Identifies the icon and the state in which a drag draws.
+  struct DragTarget {
     unsigned icon;  // iconSerial
     int panel;
     bool hasRegion;
     bool isShifting;
-    bool operator==(const Ground&) const = default;
+    bool operator==(const DragTarget&) const = default;
   };
 
-  Ground ground() const;
-  bool isStillOn(const Ground& ground) const;
+  DragTarget currentTarget() const;
+  bool isCurrent(const DragTarget& target) const;
   bool isDragging() const;
   void follow(const ToolMouse& mouse);
   void showBand(Tool tool);
@@ -53,9 +53,9 @@ class ShapeTool : public DrawingTool {
   const Tools& tools_;
   DrawState& drawState_;
 
-  bool dragged_ = false;  // a press began what the next release draws
-  Ground dragGround_{};
-  ShapeBox shownBand_;  // where a band stands on the Editing Area
+  bool dragged_ = false;  // a press has started the shape that the next release draws
+  DragTarget dragTarget_{};
+  ShapeBox shownBand_;  // the area of the Editing Area that shows the band
 };
 
 }  // namespace gp

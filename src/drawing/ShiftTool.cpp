@@ -29,11 +29,11 @@ struct Change {
   int x;
   int y;
 };
-// What each cell adds to the offsets, by its index.
+// The change of the offsets for each cell, by its index.
 constexpr std::array<Change, kShiftPictureCount> kChanges = {
     {{0, 0}, {1, 1}, {0, 1}, {-1, 1}, {1, 0}, {-1, 0}, {1, -1}, {0, -1}, {-1, -1}}};
 
-// A picture that has left the icon comes in from the other side.
+// A picture that has left the icon enters it again at the opposite side.
 int moved(int offset, int change, int size) {
   const int last = size - 1;
   if (change > 0 && offset >= last) offset = -size;
@@ -54,14 +54,14 @@ ShiftCell shiftCellAt(double x, double y, double side) {
 ShiftTool::ShiftTool(const Context& context, EditingArea& editingArea, UndoHistory& history, Tools& tools)
     : context_(context), state_(context.state), editingArea_(editingArea), history_(history), tools_(tools) {}
 
-// The history gets two like entries: the first is the baseline that an Undo during Shift returns to.
+// Records two equal entries: the first is the baseline to which Undo returns during Shift.
 void ShiftTool::turnOn() {
   kept_ = {state_.picImage, state_.picMask, {}};
   keptFrom_ = state_.iconSerial;
   mShiftX_ = mShiftY_ = 0;
   history_.clearUndoHistory();
   history_.recordUndo();
-  // Recording pumps messages, in which Shift may have been ended again.
+  // Recording processes events, which may have ended Shift.
   if (tools_.selectedTool() == kShift) history_.recordUndo();
 }
 
@@ -88,7 +88,7 @@ void ShiftTool::shift(ShiftCell cell) {
   redraw();
 }
 
-// Pixels that invert what is behind them are written as opaque, and so become plain colours.
+// Pixels that invert the background are written as opaque, so they become plain colours.
 void ShiftTool::redraw() {
   const int size = state_.current().size;
   FillBox(state_.picImage, 0, 0, size - 1, size - 1, kBlack);

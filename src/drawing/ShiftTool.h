@@ -1,6 +1,6 @@
-// Shift: moves the whole picture by single pixels, wrapping after the icon's size. Owns the offsets; the picture as it
-// was when Shift was turned on is kept, so that pixels pushed over the edge come back. Shift does nothing on the
-// Editing Area itself: it is worked with the pad.
+// Shift: moves the whole picture by single pixels, with wrap-around at the icon's size. Owns the offsets and a copy of
+// the picture from when Shift was turned on, so that pixels pushed over the edge return. Shift is controlled with the
+// pad, not on the Editing Area.
 #pragma once
 
 #include "document/Context.h"
@@ -9,10 +9,10 @@
 
 namespace gp {
 
-// The cells of imgShiftDirBase, by the index of their picture imgShiftDir; Rest is the pad without a press.
+// The cells of imgShiftDirBase, by the index of their picture imgShiftDir. Rest is the pad that is not pressed.
 enum class ShiftCell { Rest = 0, TopLeft, Top, TopRight, Left, Right, BottomLeft, Bottom, BottomRight };
 inline constexpr int kShiftPictureCount = 9;
-// The cell at a position on a pad of that side, in its own pixels. The middle one, and what lies outside, is Rest.
+// Returns the cell at a position on a pad with that side, in its pixels. Rest for the middle cell and outside.
 ShiftCell shiftCellAt(double x, double y, double side);
 
 class EditingArea;
@@ -24,16 +24,16 @@ class ShiftTool : public DrawingTool {
   ShiftTool(const Context& context, EditingArea& editingArea, UndoHistory& history, Tools& tools);
 
   void selected() override { turnOn(); }
-  // imgTool(15) Click has selected the tool: a new baseline of Undo, then the picture is kept.
+  // imgTool(15) Click has selected the tool: starts the Undo history again and copies the picture.
   void turnOn();
 
   // imgShiftDirBase MouseDown and MouseUp.
   void padPress(ShiftCell cell);
   void padRelease(ShiftCell cell);
-  // Index of the imgShiftDir picture that the pad shows.
+  // Returns the index of the imgShiftDir picture that the pad shows.
   int shownPicture() const { return static_cast<int>(shown_); }
 
-  // Moves the picture one pixel towards a cell. Nothing for Rest.
+  // Moves the picture by one pixel towards a cell. Does nothing for Rest.
   void shift(ShiftCell cell);
   int mShiftX() const { return mShiftX_; }
   int mShiftY() const { return mShiftY_; }
@@ -50,7 +50,7 @@ class ShiftTool : public DrawingTool {
   IconImage kept_;         // the picture when Shift was turned on
   unsigned keptFrom_ = 0;  // the iconSerial of its icon
   ShiftCell shown_ = ShiftCell::Rest;
-  // The picture is drawn at minus these values: a positive mShiftX has moved it left.
+  // The picture is drawn at the negated offset: a positive mShiftX has moved it left.
   int mShiftX_ = 0;
   int mShiftY_ = 0;
 };

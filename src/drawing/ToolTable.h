@@ -1,4 +1,4 @@
-// The table of tools. Index, picture, tooltip and menu entry of a tool belong together by the index of imgTool.
+// The table of tools: the index of imgTool, tooltip and picture of each tool.
 #pragma once
 
 #include "document/Tool.h"
@@ -17,9 +17,9 @@ struct ToolRow {
 inline constexpr Tool kFirstTool = kPaint;
 inline constexpr Tool kLastTool = kShift;
 const std::array<ToolRow, 12>& toolTable();
-// Throws std::out_of_range for a number that is no tool.
+// Throws std::out_of_range for an index without a tool.
 const ToolRow& toolRow(int index);
-// A tool's tooltip up to its first bracket: the name a person knows it by.
+// Returns a tool's tooltip up to its first bracket: the name that users know.
 std::string toolName(int index);
 
 }  // namespace gp

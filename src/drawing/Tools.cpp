@@ -161,7 +161,7 @@ void Tools::selectTool(Tool tool) {
   toolsChanged();
 }
 
-// What the tool has under way ends first, so that nothing half done is left behind.
+// Cancels the tool's current operation, so that nothing remains half done.
 void Tools::deselect() {
   DrawingTool* former = worker(std::exchange(selected_, kNoTool));
   if (former) former->cancel();
@@ -196,7 +196,7 @@ void Tools::clearAllTools() {
 }
 
 void Tools::imgClearAllTools() {
-  // The key may come in the midst of a drag: the step is what that leaves.
+  // The key can be pressed during a drag, which ends first; the recorded step includes its result.
   deselect();
   if (state_.current().present && state_.mRegionExists) history_.recordUndo();
   clearAllTools();

@@ -1,6 +1,6 @@
-// The tool box and the three mouse handlers of picDisp. Turns a position on the magnified Editing Area into a pixel of
-// the Current Icon and hands it to the selected tool. Owns which tool is selected, the brush, the read-outs and the
-// pointer over the Editing Area; what the tools do is their own business.
+// The tool box and the three mouse handlers of picDisp. Converts a position on the magnified Editing Area to a pixel of
+// the Current Icon and passes it to the selected tool. Owns the selected tool, the brush, the read-outs and the pointer
+// over the Editing Area.
 #pragma once
 
 #include "document/Context.h"
@@ -22,7 +22,7 @@ inline constexpr int kBrushSizes = 6;
 
 struct MouseInput {
   int button = 0;     // the button of the event; 0 for a move
-  int modifiers = 0;  // bits above
+  int modifiers = 0;  // bits kShiftKey, kCtrlKey and kAltKey
   float x = 0;        // Editing Area pixels
   float y = 0;
 };
@@ -39,7 +39,7 @@ class Tools {
   Tools(const Context& context, IconsPanel& iconsPanel, ColorSelection& colors, UndoHistory& history, Regions& regions,
         DrawState& drawState);
 
-  // Says who does the work of a tool; it must outlive the tools. A tool without one cannot be selected.
+  // Sets the object that implements a tool; it must outlive this object. A tool without one cannot be selected.
   void attach(Tool tool, DrawingTool& worker);
   bool isAvailable(Tool tool) const { return worker(tool) != nullptr; }
 
@@ -47,24 +47,24 @@ class Tools {
   void press(const MouseInput& mouse);
   void move(const MouseInput& mouse);
   void release(const MouseInput& mouse);
-  // The pointer left picDisp.
+  // The pointer has left picDisp.
   void leave();
 
-  // True when the tools are shown and one is selected.
+  // Returns true when the tools are shown and one is selected.
   bool isToolActive() const;
   Tool selectedTool() const { return selected_; }
-  // "RGB: 0, 128, 0" of a pixel of the Current Icon, "N/A" of a transparent one. It must lie inside.
+  // Returns "RGB: 0, 128, 0" for a pixel of the Current Icon, "N/A" for a transparent one. The pixel must exist.
   std::string pixelText(int x, int y) const;
-  // imgTool Click: selects a tool; a second click turns it off.
+  // imgTool Click: selects a tool; a second click deselects it.
   void selectTool(Tool tool);
-  // mnuTools Click: a tool by its index, the colour picker, Clear Tools. The pointer takes its new shape at once.
+  // mnuTools Click: a tool by its index, the colour picker, Clear Tools. They update the pointer's shape at once.
   void selectFromMenu(int tool);
   void pickColorFromMenu();
   void clearFromMenu();
   void clearAllTools();
-  // imgClearAllTools Click: a region is merged as a step of its own.
+  // imgClearAllTools Click: also merges a region as an Undo step.
   void imgClearAllTools();
-  // cboBrushSize or mnuBrushSize: list index 0 to 5.
+  // cboBrushSize or mnuBrushSize: sets the brush by its list index, 0 to 5.
   void setBrush(int index);
 
  private:
@@ -93,12 +93,12 @@ class Tools {
   Tool selected_ = kNoTool;
   int mPixelX = 0;
   int mPixelY = 0;
-  float lastX_ = 0;  // where the pointer was last, Editing Area pixels
+  float lastX_ = 0;  // the pointer's last position, Editing Area pixels
   float lastY_ = 0;
 };
 
 enum class SnapMode { CellCentre = 1, NearestCorner = 2 };
-// Maps an Editing Area position to the centre of its cell, or to the nearest grid corner (the half goes up).
+// Maps an Editing Area position to the centre of its cell, or to the nearest grid corner (halves are rounded up).
 int snapToCell(double position, SnapMode mode, int magnification);
 
 }  // namespace gp

@@ -73,7 +73,7 @@ void Transforms::bringColorPanelForward() {
   if (state_.screen.mActivePanel != kColorPanel) context_.editor.showPanel(kColorPanel);
 }
 
-// A turn exchanges width and height.
+// `turns`: the transformation exchanges width and height.
 void Transforms::transform(Transform transformPixels, bool turns) {
   if (!endShift()) return;
   bringColorPanelForward();

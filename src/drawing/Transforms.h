@@ -1,4 +1,4 @@
-// Flips and quarter turns of the Current Icon, or of the region where one stands, and the commands of the Rotate menu.
+// Flips and quarter turns of the Current Icon, or of the region if there is one, and the commands of the Rotate menu.
 #pragma once
 
 #include "document/Context.h"
@@ -17,14 +17,14 @@ class Transforms {
   Transforms(const Context& context, EditingArea& editingArea, UndoHistory& history, Regions& regions, Tools& tools,
              RotatePanel& rotatePanel);
 
-  // The commands of the Rotate menu. Each asks to end a Shift first and does nothing when the user keeps it.
-  // Left and right, or top and bottom, change places.
+  // The commands of the Rotate menu. During a Shift, each asks to end it first and does nothing when the user refuses.
+  // Mirror left and right, or top and bottom.
   void RotateFlipHoriz();
   void RotateFlipVertical();
-  // Against the clock and with it. A region changes its shape and keeps its top left corner.
+  // Turn counter-clockwise and clockwise. A region changes its shape; its top left corner stays in place.
   void RotateLeft();
   void RotateRight();
-  // Opens the panel that rotates the icon by any angle.
+  // Opens the Panel that rotates the icon by any angle.
   void rotateAtAnyAngle();
 
  private:

@@ -17,7 +17,7 @@ UndoCommands::UndoCommands(const Context& context, EditingArea& editingArea, Und
 void UndoCommands::doUndo() {
   if (!history_.canUndo()) return;
   bringColorPanelForward();
-  // A shift is taken back as a whole, not by one nudge: the history began anew when it was turned on.
+  // A shift is undone as a whole, not step by step: the history started again when Shift was turned on.
   const bool wholeShift = tools_.selectedTool() == kShift;
   if (wholeShift)
     tools_.clearAllTools();

@@ -1,4 +1,4 @@
-// The Undo, Redo and Undo All commands: what ends before a step is taken back, and what is shown after it.
+// The Undo, Redo and Undo All commands. They end a region or Shift before a step and update the Editing Area after it.
 #pragma once
 
 #include "document/Context.h"
@@ -14,7 +14,7 @@ class UndoCommands {
  public:
   UndoCommands(const Context& context, EditingArea& editingArea, UndoHistory& history, Regions& regions, Tools& tools);
 
-  // mnuEditSub(1), (0) and (2). Nothing happens when there is no step.
+  // mnuEditSub(1), (0) and (2). They do nothing when there is no step.
   void doUndo();
   void doUndoAll();
   void doRedo();

@@ -14,7 +14,7 @@ namespace gp {
 
 namespace {
 
-constexpr std::size_t kMaxEntries = kMaxUndoSteps + 1;  // the baseline is none of the steps
+constexpr std::size_t kMaxEntries = kMaxUndoSteps + 1;  // the baseline is not a step
 
 void moveLast(std::vector<Surface>& from, std::vector<Surface>& to) {
   to.push_back(std::move(from.back()));
@@ -31,7 +31,7 @@ UndoHistory::UndoHistory(const Context& context, EditingArea& editingArea)
 void UndoHistory::recordUndo() {
   clearRedoStack();
   if (mUndoSeq < std::numeric_limits<std::int16_t>::max()) ++mUndoSeq;
-  // The oldest entry makes room for the newest, which reuses its memory.
+  // The newest entry replaces the oldest one and reuses its memory.
   Surface memory;
   if (mUndoStack.size() == kMaxEntries) {
     memory = std::move(mUndoStack.front());
@@ -78,11 +78,11 @@ bool UndoHistory::fitsIcon(const Surface& snapshot) const {
   return snapshot.width() == 2 * state_.picImage.width() && snapshot.height() == state_.picImage.height();
 }
 
-// The icon now. `picUndo` is memory that is no longer needed.
+// Returns a snapshot of the icon. `picUndo` is memory to reuse.
 Surface UndoHistory::snapshot(Surface picUndo) const {
   const int width = state_.picImage.width();
   const int height = state_.picImage.height();
-  // Every pixel is written below: at its size already, picUndo need not be emptied first.
+  // Every pixel is written below, so a picUndo of the right size need not be cleared.
   if (!fitsIcon(picUndo)) MakePicSize(picUndo, 2 * width, height);
   BitBlt(picUndo, 0, 0, width, height, state_.picImage, 0, 0, RasterOp::SRCCOPY);
   BitBlt(picUndo, width, 0, width, height, state_.picMask, 0, 0, RasterOp::SRCCOPY);

@@ -1,6 +1,6 @@
-// The Undo and Redo history of the Current Icon: snapshots of picImage and picMask, one after each finished step. Owns
-// both stacks; there is one history, which a new icon in the Editing Area starts afresh. A snapshot that does not fit
-// the icon's size is never applied.
+// The Undo and Redo history of the Current Icon: snapshots of picImage and picMask, one after each completed step. Owns
+// both stacks. There is one history, which starts again with each new icon in the Editing Area. A snapshot whose size
+// does not match the icon is never applied.
 #pragma once
 
 #include "document/Context.h"
@@ -21,21 +21,21 @@ class UndoHistory {
  public:
   UndoHistory(const Context& context, EditingArea& editingArea);
 
-  // Pushes the state now on picImage and picMask, which ends the redo chain. Pumps messages, last of all.
+  // Pushes a snapshot of picImage and picMask and clears the redo stack. Then processes events, as its last step.
   void recordUndo();
   void clearRedoStack();
   void clearUndoHistory();
-  // One step back, or to the oldest state there is, which cannot be redone. False, and nothing done, when there is no
-  // step to take back. The Editing Area is the caller's to redraw; the same for restoreRedo.
+  // Goes back one step, or to the baseline, which cannot be redone. Returns false and changes nothing when there is no
+  // step to undo. The caller must redraw the Editing Area; the same holds for restoreRedo.
   bool restoreUndo(UndoMode mode);
   bool restoreRedo();
 
-  // Entries of mUndoStack, the baseline included, and of mRedoStack.
+  // The number of entries of mUndoStack, including the baseline, and of mRedoStack.
   int undoCount() const { return static_cast<int>(mUndoStack.size()); }
   int redoCount() const { return static_cast<int>(mRedoStack.size()); }
   bool canUndo() const { return undoCount() > 1; }
   bool canRedo() const { return redoCount() > 0; }
-  // Counts the steps recorded since the baseline.
+  // The number of snapshots recorded since the history was cleared, including the baseline.
   int undoSeq() const { return mUndoSeq; }
 
  private:
@@ -47,10 +47,10 @@ class UndoHistory {
   EditState& state_;
   EditingArea& editingArea_;
 
-  // Pictures of double width: picImage to the left, picMask to the right. The last one is the state now on the icon,
-  // the first the baseline.
+  // Pictures of double width: picImage on the left, picMask on the right. The last one is the icon's current state, the
+  // first one the baseline.
   std::vector<Surface> mUndoStack;
-  std::vector<Surface> mRedoStack;  // the one undone last at the end
+  std::vector<Surface> mRedoStack;  // the step undone last is at the end
   std::int16_t mUndoSeq = 0;
 };
 

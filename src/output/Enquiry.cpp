@@ -26,7 +26,7 @@ void Enquiry::showOriginalHeaders() {
 
 void Enquiry::showIconsInFile() {
   context_.pump.pump();
-  // A save gives the icon a file of its own.
+  // The path is read first: a save may give the icon another file.
   const std::string path = state_.current().path.trimmed();
   if (!mayCurrentIconGo(context_) || !originalIsThere(path)) return;
   bool ok = false;

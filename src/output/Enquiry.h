@@ -1,4 +1,4 @@
-// The Inquiry menu: what the program states about the Current Icon. It changes nothing of the icon itself.
+// The Inquiry menu: information about the Current Icon. It does not change the icon.
 #pragma once
 
 #include "document/Context.h"
@@ -13,11 +13,11 @@ class Enquiry {
  public:
   Enquiry(const Context& context, Files& files);
 
-  // The headers of the file that the icon came from, beside its pixels.
+  // Shows the headers of the icon's original file.
   void showOriginalHeaders();
-  // The icons in the multi-icon file that the icon came from.
+  // Shows the icons in the multi-icon file from which the icon was loaded.
   void showIconsInFile();
-  // The hot spot of the cursor that the icon came from.
+  // Reveals the hot spot of the cursor from which the icon was loaded.
   void revealHotspot();
 
  private:

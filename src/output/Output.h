@@ -1,4 +1,4 @@
-// The face of the room: what the program states about an icon. It decides nothing.
+// The room's interface: creates the objects that give information about icons. Contains no logic.
 #pragma once
 
 #include "output/Enquiry.h"

@@ -13,10 +13,10 @@ constexpr int kEntries = 256;
 
 using Steps = std::array<std::int32_t, kSteps>;
 
-// The step nearest to a channel's value; a width that is odd has no ties.
+// Returns the step nearest to a channel's value; the odd step width excludes ties.
 constexpr std::size_t stepOf(std::uint8_t channel) { return (channel + kStepWidth / 2) / kStepWidth; }
 
-// The squared distance of a channel to each step, times the room that an entry's index takes.
+// Returns the squared distance of a channel to each step, shifted left to make room for an entry's index.
 Steps distances(int channel) {
   Steps squares;
   for (int i = 0; i < kSteps; ++i) {
@@ -31,7 +31,7 @@ struct EntryDistances {
   std::int32_t index;
 };
 
-// An entry that repeats an earlier one is never the first among equals.
+// Repeated entries are left out, because they are never the first among equals.
 std::vector<EntryDistances> distancesOf(std::span<const Color> palette) {
   std::vector<EntryDistances> entries;
   for (std::size_t i = 0; i < palette.size(); ++i) {
@@ -43,7 +43,7 @@ std::vector<EntryDistances> distancesOf(std::span<const Color> palette) {
   return entries;
 }
 
-// One line of the cube along red. Distance and index are one number, so that the least one is the first among equals.
+// Computes one line of the cube along red. Distance and index form one number: its minimum is the first among equals.
 Steps nearestAlongRed(const std::vector<EntryDistances>& entries, std::size_t green, std::size_t blue) {
   Steps least;
   least.fill(std::numeric_limits<std::int32_t>::max());

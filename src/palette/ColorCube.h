@@ -1,5 +1,5 @@
-// A palette's nearest entries for a coarse cube of colours, sixteen steps to a channel: what the dithers look every
-// pixel up in instead of searching the palette.
+// The nearest palette entries for a coarse cube of colours, with sixteen steps per channel. The dithers look each pixel
+// up here instead of searching the palette.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -12,10 +12,10 @@ namespace gp {
 
 class ColorCube {
  public:
-  // 1 to 256 colours; the first one wins among equally near ones.
+  // Takes 1 to 256 colours; among equally near ones the first one is used.
   explicit ColorCube(std::span<const Color> palette);
 
-  // The entry for a colour, by the step nearest to each channel.
+  // Returns the index of the entry for a colour, by the step nearest to each channel.
   std::uint8_t at(std::uint8_t red, std::uint8_t green, std::uint8_t blue) const;
 
  private:

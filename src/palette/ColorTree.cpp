@@ -16,15 +16,15 @@ constexpr int kChannels = 3;
 constexpr int kSplits = 8;
 constexpr std::uint32_t kHalfBits = 7;
 
-// The number nearest to the middle of two, the even one of two equally near.
+// Returns the integer nearest to the middle of two; the even one when two are equally near.
 constexpr int midpoint(int min, int max) {
   const int sum = min + max;
   const int below = sum / 2;
   return sum % 2 != 0 && below % 2 != 0 ? below + 1 : below;
 }
 
-// Which half of each box a channel's value falls into, the first box in the lowest bit, with room between the bits for
-// the other two channels. 0 is the lower half, which has the midpoint.
+// Returns which half of each box a channel's value is in, the first box in the lowest bit, with gaps for the bits of
+// the other two channels. 0 is the lower half, which includes the midpoint.
 constexpr std::uint32_t halvesOf(int value) {
   std::uint32_t halves = 0;
   int min = 0;
@@ -76,7 +76,7 @@ void ColorTree::list(int node, int level) {
   at(node).nextLink = std::exchange(mReducible[static_cast<std::size_t>(level)], node);
 }
 
-// A leaf takes its first colour only.
+// A leaf stores only its first colour.
 void ColorTree::addSample(ColorTreeNodeRec& leaf, int red, int green, int blue) {
   if (leaf.pixelCount != 0) return;
   ++mLeafCount;

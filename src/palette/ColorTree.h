@@ -1,6 +1,7 @@
-// The colour tree that makes an optimal palette. It splits the colour cube at the midpoints of ever smaller boxes; the
-// boxes of the last level are its leaves, and the first colour to reach a leaf stands for all that follow. When there
-// are too many leaves, the node listed last on the deepest level is folded into one. It owns its nodes, in one array.
+// The colour tree that computes an optimal palette. It splits the colour cube at the midpoints of ever smaller boxes.
+// The boxes of the last level are its leaves; the first colour that reaches a leaf represents all later ones. When
+// there are too many leaves, the node listed last on the deepest level becomes a leaf. The tree owns its nodes, in one
+// array.
 #pragma once
 
 #include <array>
@@ -13,21 +14,21 @@ struct ColorTreeNodeRec {
   bool isLeaf = false;
   bool inReducible = false;
   int sumR = 0, sumG = 0, sumB = 0;
-  int pixelCount = 0;             // samples of a leaf, children of an inner node
-  std::array<int, 8> children{};  // by halves: bit 0 red, bit 1 green, bit 2 blue; 0 for none
-  int nextLink = 0;               // on a list of reducible or of free nodes
+  int pixelCount = 0;             // samples of a leaf, or children of an inner node
+  std::array<int, 8> children{};  // by halves: bit 0 red, bit 1 green, bit 2 blue; 0 for no child
+  int nextLink = 0;               // the next node on a list of reducible or free nodes
 };
 
 class ColorTree {
  public:
-  // 1 to 8 levels; others are limited to these.
+  // Takes 1 to 8 levels; other values are limited to this range.
   explicit ColorTree(int levels);
 
   void AddColor(std::uint8_t red, std::uint8_t green, std::uint8_t blue);
-  // Folds one node. False when there is none to fold.
+  // Folds one node. Returns false when there is none to fold.
   bool ReduceTree();
   int leafCount() const { return mLeafCount; }
-  // All nodes, those that are not in use included; node 0 is none and node 1 the root. Palettes follow this order.
+  // Returns all nodes, including unused ones; node 0 is none and node 1 the root. Palettes have this order.
   const std::vector<ColorTreeNodeRec>& nodes() const { return mTree; }
 
  private:

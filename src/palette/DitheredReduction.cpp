@@ -22,7 +22,7 @@ void ditherToStandard(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither) 
 
 void ditherToMono(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither) {
   palette.CreatePalette2();
-  // The Mask of an opaque icon has hardly a white pixel: under a threshold of 0 all of it would become white.
+  // The Mask of an opaque icon has hardly a white pixel: with a threshold of 0 all pixels would become white.
   if (meanBrightness(dib) == 0)
     dither.TakeBlackAndWhite(dib);
   else

@@ -1,5 +1,5 @@
-// The reductions with dithering that saving bitmaps and reducing an icon's colours share. The palette is filled, the
-// dither keeps the rows, and the bitmap shows the result.
+// The dithered reductions that are shared by saving bitmaps and reducing an icon's colours. Each fills the palette,
+// stores the packed rows in `dither` and the dithered picture in `dib`.
 #pragma once
 
 #include "palette/clsGPDIB.h"
@@ -8,11 +8,11 @@
 
 namespace gp {
 
-// To 256 colours that are chosen for the picture.
+// Reduces to 256 colours computed from the picture.
 void ditherToOptimal(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither);
-// To the sixteen standard colours.
+// Reduces to the sixteen standard colours.
 void ditherToStandard(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither);
-// To black and white. A picture whose mean rounds to black is not dithered; what is not black in it counts as white.
+// Reduces to black and white. With a mean brightness of 0 the picture is not dithered: all but black becomes white.
 void ditherToMono(clsGPDIB& dib, clsGPPal& palette, clsGPPalDither& dither);
 
 }  // namespace gp

@@ -7,12 +7,12 @@
 namespace gp {
 namespace {
 
-// The system colours are the sixteen standard ones, in halves, and two more next to each half.
+// The system colours are the two halves of the sixteen standard colours, and two more colours next to each half.
 constexpr std::size_t kHalf = kStandardPalette.size() / 2;
-constexpr std::array kBehindTheDark{rgb(192, 220, 192), rgb(166, 202, 240)};
-constexpr std::array kBeforeTheBright{rgb(255, 251, 240), rgb(160, 160, 164)};
+constexpr std::array kAfterDark{rgb(192, 220, 192), rgb(166, 202, 240)};
+constexpr std::array kBeforeBright{rgb(255, 251, 240), rgb(160, 160, 164)};
 
-// The cube has 8 steps of red and green and 4 of blue; red varies fastest.
+// The cube has 8 steps of red and of green and 4 of blue; red varies fastest.
 constexpr int kSteps = 8;
 constexpr int kStepWidth = 32;
 constexpr int kBlueStepWidth = 64;
@@ -27,9 +27,9 @@ constexpr std::array<Color, 256> halftonePalette() {
   for (std::size_t i = 0; i < palette.size(); ++i) palette[i] = cubeColor(static_cast<int>(i));
   const auto middle = kStandardPalette.begin() + kHalf;
   const auto behind = std::copy(kStandardPalette.begin(), middle, palette.begin());
-  std::copy(kBehindTheDark.begin(), kBehindTheDark.end(), behind);
+  std::copy(kAfterDark.begin(), kAfterDark.end(), behind);
   const auto bright = std::copy_backward(middle, kStandardPalette.end(), palette.end());
-  std::copy_backward(kBeforeTheBright.begin(), kBeforeTheBright.end(), bright);
+  std::copy_backward(kBeforeBright.begin(), kBeforeBright.end(), bright);
   return palette;
 }
 

@@ -1,5 +1,5 @@
-// The platform's halftone palette: the twenty system colours, half of them at each end, and between them the part of a
-// cube of colours that they leave free. It is what pictures are matched to when no palette of their own is wanted.
+// The platform's halftone palette: ten of the twenty system colours at each end, and between them a part of a colour
+// cube. Pictures are matched to it when no other palette is requested.
 #pragma once
 
 #include "platform/gdi/Surface.h"

@@ -30,7 +30,7 @@ DibPixel mono(bool light) {
   return {level, level, level, 0};
 }
 
-// What each share of each possible error comes to, so that no pixel costs a division.
+// Returns each share of each possible error, so that no pixel needs a division.
 std::vector<int> shareTable(const DiffusionKernel& kernel) {
   std::vector<int> table;
   for (int error = -kLight; error <= kLight; ++error)
@@ -38,7 +38,7 @@ std::vector<int> shareTable(const DiffusionKernel& kernel) {
   return table;
 }
 
-// The errors of the row in work and of those behind it.
+// The errors of the current row and of the following rows.
 class ErrorRows {
  public:
   ErrorRows(int width, int height, const DiffusionKernel& kernel)

@@ -1,5 +1,5 @@
-// Black and white by spreading each pixel's error over those that follow, with the picture's mean brightness as the
-// threshold; and by a fixed matrix of thresholds. All work on a bitmap in place and go from its bottom row upward.
+// Conversion to black and white: by diffusing each pixel's error to the following pixels, with the mean brightness as
+// threshold; or by a fixed matrix of thresholds. All change a bitmap in place, from its bottom row upwards.
 #pragma once
 
 #include "palette/clsGPDIB.h"
@@ -8,7 +8,7 @@
 
 namespace gp {
 
-// One pixel that takes a share of the error: weight / divisor of it.
+// A pixel that receives weight / divisor of the error.
 struct DiffusionShare {
   int dx, dy, weight;
 };
@@ -16,23 +16,23 @@ struct DiffusionShare {
 struct DiffusionKernel {
   std::span<const DiffusionShare> shares;
   int divisor;
-  // Rows below the picture's end that the shares of each row need: a row that lacks them is left out.
+  // Rows that must follow a target row inside the picture; otherwise the row receives no errors.
   int spareRows;
 };
 extern const DiffusionKernel kStucki;
 extern const DiffusionKernel kBurkes;
 
-// What the program spreads errors with: two thirds of each go on.
+// The damping that the program uses: two thirds of each error are diffused.
 inline constexpr int kMonoDamping = 15;
 
-// The mean over all pixels of a third of their channels' sum, without its fraction: the threshold of both diffusions.
-// 0 for an empty bitmap.
+// Returns the mean brightness of all pixels, truncated; a pixel's brightness is the mean of its channels. It is the
+// threshold of both diffusions. 0 for an empty bitmap.
 int meanBrightness(const clsGPDIB& dib);
 
-// Channels become all 0 or all 255. `damping` is what an error is divided by after being taken times ten; not 0.
+// Sets all channels to 0 or 255. An error is multiplied by 10 and divided by `damping`, which must not be 0.
 void diffuseToMono(clsGPDIB& dib, const DiffusionKernel& kernel, int damping);
 
-// The mono choices of the reduction of colours.
+// The two mono conversions of the colour reduction.
 void ditherWeighted(clsGPDIB& dib);
 void ditherOrdered(clsGPDIB& dib);
 

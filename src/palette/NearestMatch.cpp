@@ -8,44 +8,44 @@
 namespace gp {
 namespace {
 
-// The search through a palette is long and pictures repeat their colours: what was found for a colour is kept until
-// another one needs its place.
-class MetColors {
+// A cache of matches: searching the palette is slow and pictures repeat their colours. A match is kept until another
+// colour needs its slot.
+class MatchCache {
  public:
-  explicit MetColors(std::span<const Color> palette) : palette_(palette), met_(kPlaces) {}
+  explicit MatchCache(std::span<const Color> palette) : palette_(palette), matches_(kSlots) {}
 
   DibPixel nearest(Color color) {
-    Met& met = met_[placeOf(color)];
-    if (met.color != color) met = {color, find(color)};
-    return met.entry;
+    Match& match = matches_[slotOf(color)];
+    if (match.color != color) match = {color, find(color)};
+    return match.entry;
   }
 
  private:
-  static constexpr int kPlaceBits = 12;
-  static constexpr std::size_t kPlaces = std::size_t{1} << kPlaceBits;
-  // Knuth's multiplier: near colours get places far from each other.
+  static constexpr int kSlotBits = 12;
+  static constexpr std::size_t kSlots = std::size_t{1} << kSlotBits;
+  // Knuth's multiplier, which maps similar colours to distant slots.
   static constexpr std::uint32_t kScatter = 2654435761U;
 
-  struct Met {
+  struct Match {
     Color color = kNoColor;
     DibPixel entry;
   };
 
-  static std::size_t placeOf(Color color) { return static_cast<std::uint32_t>(color) * kScatter >> (32 - kPlaceBits); }
+  static std::size_t slotOf(Color color) { return static_cast<std::uint32_t>(color) * kScatter >> (32 - kSlotBits); }
   DibPixel find(Color color) const {
     return dibPixel(palette_[static_cast<std::size_t>(GetNearestPaletteIndex(palette_, color))]);
   }
 
   std::span<const Color> palette_;
-  std::vector<Met> met_;
+  std::vector<Match> matches_;
 };
 
 }  // namespace
 
 void matchToPalette(clsGPDIB& dib, std::span<const Color> palette) {
   if (palette.empty()) return;
-  MetColors met(palette);
-  for (DibPixel& pixel : dib.DIBBitsPtr()) pixel = met.nearest(colorOf(pixel));
+  MatchCache matches(palette);
+  for (DibPixel& pixel : dib.DIBBitsPtr()) pixel = matches.nearest(colorOf(pixel));
 }
 
 }  // namespace gp

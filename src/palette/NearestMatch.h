@@ -1,4 +1,4 @@
-// Brings a picture down to the colours of a palette without dithering: every pixel becomes the entry nearest to it.
+// Reduces a picture to the colours of a palette without dithering: each pixel becomes its nearest entry.
 #pragma once
 
 #include "palette/clsGPDIB.h"
@@ -7,7 +7,7 @@
 
 namespace gp {
 
-// The entry with the least squared distance, the first among equals. A palette of no entry leaves the bitmap alone.
+// Uses the entry with the least squared distance, the first one among equals. An empty palette changes nothing.
 void matchToPalette(clsGPDIB& dib, std::span<const Color> palette);
 
 }  // namespace gp

@@ -6,7 +6,7 @@
 namespace gp {
 namespace {
 
-// A bitmap's header tells the bytes of its pixels in a signed number.
+// A bitmap header stores the size of its pixels in bytes as a signed 32-bit number.
 constexpr std::int64_t kMostPixels = std::numeric_limits<std::int32_t>::max() / std::int64_t{sizeof(DibPixel)};
 
 }  // namespace
@@ -21,10 +21,10 @@ bool clsGPDIB::CreateBlankDIB(int width, int height) {
 }
 
 void clsGPDIB::CreateDIBFromPic(const Surface& picture) {
-  if (CreateBlankDIB(picture.width(), picture.height())) takeOver(picture);
+  if (CreateBlankDIB(picture.width(), picture.height())) copyFrom(picture);
 }
 
-void clsGPDIB::takeOver(const Surface& picture) {
+void clsGPDIB::copyFrom(const Surface& picture) {
   for (int y = 0; y < height_; ++y)
     std::ranges::transform(picture.row(height_ - 1 - y), row(y).begin(),
                            [](std::uint32_t pixel) { return dibPixel(static_cast<Color>(pixel & kColorBits)); });
@@ -32,15 +32,15 @@ void clsGPDIB::takeOver(const Surface& picture) {
 
 void clsGPDIB::PaintToDIB(const Surface& source, int sourceX, int sourceY, int width, int height, RasterOp operation) {
   if (isEmpty()) return;
-  Surface painted = shown();
+  Surface painted = toSurface();
   BitBlt(painted, 0, 0, width < 0 ? width_ : width, height < 0 ? height_ : height, source, sourceX, sourceY, operation);
-  takeOver(painted);
+  copyFrom(painted);
 }
 
 void clsGPDIB::PaintFromDIB(Surface& target, int targetX, int targetY, int width, int height, int sourceX, int sourceY,
                             RasterOp operation) const {
-  BitBlt(target, targetX, targetY, width < 0 ? width_ : width, height < 0 ? height_ : height, shown(), sourceX, sourceY,
-         operation);
+  BitBlt(target, targetX, targetY, width < 0 ? width_ : width, height < 0 ? height_ : height, toSurface(), sourceX,
+         sourceY, operation);
 }
 
 void clsGPDIB::ClearUp() {
@@ -56,7 +56,7 @@ std::span<const DibPixel> clsGPDIB::row(int y) const {
   return std::span(bits_).subspan(start(y), static_cast<std::size_t>(width_));
 }
 
-Surface clsGPDIB::shown() const {
+Surface clsGPDIB::toSurface() const {
   Surface surface(width_, height_);
   for (int y = 0; y < height_; ++y)
     std::ranges::transform(row(height_ - 1 - y), surface.rowForWriting(y, 0, width_),

@@ -1,6 +1,6 @@
-// One device-independent bitmap of 32 bits a pixel, the working buffer of every palette conversion: a picture is copied
-// in, palette and dither work on its pixels in place, and the result is copied out. It owns the pixels. Rows run from
-// the bottom of the picture upward and have no padding.
+// A device-independent bitmap with 32 bits per pixel, the working buffer of every palette conversion: a picture is
+// copied in, palette and dither process its pixels in place, and the result is copied out. It owns the pixels. Rows run
+// from the bottom of the picture upwards and have no padding.
 #pragma once
 
 #include "platform/gdi/RasterOps.h"
@@ -12,7 +12,7 @@
 
 namespace gp {
 
-// The bytes of a pixel and of a palette entry, in their order.
+// The bytes of a pixel and of a palette entry, in file order.
 struct DibPixel {
   std::uint8_t blue = 0;
   std::uint8_t green = 0;
@@ -29,13 +29,13 @@ constexpr Color colorOf(DibPixel pixel) { return rgb(pixel.red, pixel.green, pix
 
 class clsGPDIB {
  public:
-  // A black bitmap; what was held before is gone. False, and then it is empty, for a side below 1 or more than 2 GB.
+  // Creates a black bitmap; the former content is lost. Returns false and stays empty for a side below 1 or above 2 GB.
   bool CreateBlankDIB(int width, int height);
-  // A bitmap of the picture's size that shows it; empty for a picture without pixels.
+  // Creates a bitmap with the picture's size and pixels; empty for a picture without pixels.
   void CreateDIBFromPic(const Surface& picture);
-  // Copies a part of `source` to the top left corner. A negative width or height means the bitmap's own.
+  // Copies a part of `source` to the top left corner. A negative width or height means that of the bitmap.
   void PaintToDIB(const Surface& source, int sourceX, int sourceY, int width, int height, RasterOp operation);
-  // Copies a part of the bitmap to `target`; sizes as above.
+  // Copies a part of the bitmap to `target`; sizes as for PaintToDIB.
   void PaintFromDIB(Surface& target, int targetX, int targetY, int width, int height, int sourceX, int sourceY,
                     RasterOp operation) const;
   void ClearUp();
@@ -43,17 +43,17 @@ class clsGPDIB {
   bool isEmpty() const { return bits_.empty(); }
   int DIBWidth() const { return width_; }
   int DIBHeight() const { return height_; }
-  // All pixels. They move when the size changes.
+  // All pixels. The span becomes invalid when the size changes.
   std::span<DibPixel> DIBBitsPtr() { return bits_; }
   std::span<const DibPixel> DIBBitsPtr() const { return bits_; }
-  // Row 0 is the bottom one; y must lie inside.
+  // Row 0 is the bottom row; y must lie inside.
   std::span<DibPixel> row(int y);
   std::span<const DibPixel> row(int y) const;
 
  private:
   std::size_t start(int y) const { return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_); }
-  Surface shown() const;
-  void takeOver(const Surface& picture);
+  Surface toSurface() const;
+  void copyFrom(const Surface& picture);
 
   int width_ = 0;
   int height_ = 0;

@@ -55,7 +55,7 @@ void clsGPPal::CreateGrays_256() {
   setColors(grays);
 }
 
-// Entries stand in the order of the tree's nodes, not of the colours.
+// Entries are in the order of the tree's nodes, which is not the order of the colours.
 void clsGPPal::CreateOptimal(const clsGPDIB& dib, int maxColors, int levels) {
   ColorTree tree(levels);
   addPicture(dib, maxColors, tree);
@@ -80,7 +80,7 @@ std::uint8_t clsGPPal::NearestPaletteIndex(std::uint8_t red, std::uint8_t green,
 }
 
 bool clsGPPal::IsGreyScale() const {
-  // A fixed table made since may be shorter.
+  // A fixed table created after CreateOptimal may be shorter.
   const auto filled = std::span(mPalette).first(static_cast<std::size_t>(std::min(maxCount_, Count())));
   return !filled.empty() && std::ranges::all_of(filled, [](DibPixel entry) {
     return entry.red == entry.green && entry.green == entry.blue;

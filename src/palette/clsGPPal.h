@@ -1,6 +1,6 @@
-// One colour table of up to 256 entries, and the ways to fill it: the fixed tables and the optimal one of a picture. It
-// owns the table and the palette that matches are looked for in, which is made with the table and follows no later
-// change of an entry.
+// A colour table of up to 256 entries and the ways to fill it: the fixed tables, and the optimal table for a picture.
+// It owns the table and a copy that NearestPaletteIndex searches. The copy is made when the table is created and does
+// not follow later changes of an entry.
 #pragma once
 
 #include "palette/clsGPDIB.h"
@@ -20,25 +20,25 @@ inline constexpr std::array<Color, 16> kStandardPalette{
 
 class clsGPPal {
  public:
-  // 256 black entries; none counts as filled. The palette for matches stays as it was.
+  // Sets 256 black entries, none of which counts as filled. The colours for matching do not change.
   void InitializePalette();
   void ClearUp();
 
   void CreatePalette2();
   void CreatePalette16();
   void CreateGrays_256();
-  // Colours that stand for those of the picture, at most maxColors (8 to 256; with fewer, up to 8 may remain) by a tree
-  // of 1 to 8 levels. The rest of the 256 entries is black.
+  // Computes colours that represent those of the picture, with a tree of 1 to 8 levels: at most maxColors (8 to 256;
+  // with smaller values up to 8 can remain). The other entries of the 256 are black.
   void CreateOptimal(const clsGPDIB& dib, int maxColors, int levels);
 
   int Count() const { return static_cast<int>(mPalette.size()); }
-  // How many entries CreateOptimal has filled. The fixed tables leave the number as it is.
+  // The number of entries that CreateOptimal has filled. The fixed tables do not change it.
   int MaxCount() const { return maxCount_; }
   std::span<const DibPixel> PalettePtr() const { return mPalette; }
-  // The colours that matches are looked for in; empty before a table was made.
+  // The colours that NearestPaletteIndex searches; empty before a table was created.
   std::span<const Color> hPal() const { return hPal_; }
 
-  // Channels of an entry, which must be in the table.
+  // The channels of an entry, which must exist.
   std::uint8_t rgbR(std::uint8_t index) const { return mPalette.at(index).red; }
   std::uint8_t rgbG(std::uint8_t index) const { return mPalette.at(index).green; }
   std::uint8_t rgbB(std::uint8_t index) const { return mPalette.at(index).blue; }
@@ -46,9 +46,9 @@ class clsGPPal {
   void setRgbG(std::uint8_t index, std::uint8_t value) { mPalette.at(index).green = value; }
   void setRgbB(std::uint8_t index, std::uint8_t value) { mPalette.at(index).blue = value; }
 
-  // The entry nearest to a colour, the first among equals; 0 before a table was made.
+  // Returns the index of the entry nearest to a colour, the first one among equals; 0 before a table was created.
   std::uint8_t NearestPaletteIndex(std::uint8_t red, std::uint8_t green, std::uint8_t blue) const;
-  // Whether all filled entries are greys. False when CreateOptimal has filled none, greys or not.
+  // Returns true when all filled entries are greys; false when CreateOptimal has filled none.
   bool IsGreyScale() const;
 
  private:

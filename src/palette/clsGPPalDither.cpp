@@ -15,7 +15,7 @@ constexpr int kBitsPerByte = 8;
 constexpr int kHalfByte = 4;
 constexpr int kLargestChannel = 255;
 
-// Errors whose channels come to no more than this are not spread.
+// An error whose absolute channels sum up to this value or less is not diffused.
 constexpr int kSmallError = 3;
 constexpr int kErrorDivisor = 16;
 
@@ -42,19 +42,19 @@ void addShare(DibPixel& pixel, const ColorError& error, int weight) {
   pixel.red = withShare(pixel.red, error.red, weight);
 }
 
-// The row in work and the next one, which is empty behind the last.
+// The current row and the next one, which is empty after the last row.
 using TwoRows = std::array<std::span<DibPixel>, 2>;
 
 void spread(const TwoRows& rows, std::size_t x, const ColorError& error) {
   for (const Neighbour& neighbour : kFloydSteinberg) {
     const std::span<DibPixel> row = rows[neighbour.row];
-    // A place before the first pixel wraps to one behind all rows.
+    // For a position before the first pixel, x + dx wraps to a value past every row.
     const std::size_t to = x + neighbour.dx;
     if (to < row.size()) addShare(row[to], error, neighbour.weight);
   }
 }
 
-// Tells the index of each pixel of the row in work.
+// Dithers the current row and stores the palette index of each of its pixels.
 void ditherRow(const TwoRows& rows, const ColorCube& cube, std::span<const DibPixel> entries,
                std::span<std::uint8_t> indices) {
   for (std::size_t x = 0; x < indices.size(); ++x) {
@@ -75,7 +75,7 @@ void clsGPPalDither::InitializePalID(int width, int height, int bits) {
   rows_.assign(stride_ * static_cast<std::size_t>(std::max(0, height)), 0);
 }
 
-// The leftmost pixel of a byte stands in its highest bits.
+// The leftmost pixel of a byte is in its highest bits.
 void clsGPPalDither::storeRow(int y, int bits, std::span<const std::uint8_t> indices) {
   std::uint8_t* byte = rows_.data() + static_cast<std::size_t>(y) * stride_;
   int shift = kBitsPerByte;

@@ -1,5 +1,5 @@
-// Turns the pixels of a bitmap into palette indices, packed as rows of 1, 4 or 8 bits a pixel, and rewrites the bitmap
-// so that it shows the dithered picture. It owns the rows. An empty bitmap is left alone.
+// Converts the pixels of a bitmap to palette indices, packed in rows of 1, 4 or 8 bits per pixel, and changes the
+// bitmap to the dithered picture. It owns the rows. An empty bitmap is left unchanged.
 #pragma once
 
 #include "palette/clsGPDIB.h"
@@ -13,17 +13,17 @@ namespace gp {
 
 class clsGPPalDither {
  public:
-  // Makes the rows anew, all zero, each padded to a multiple of 4 bytes. `bits` is 1, 4 or 8.
+  // Creates the rows, all zero, each padded to a multiple of 4 bytes. `bits` is 1, 4 or 8.
   void InitializePalID(int width, int height, int bits);
-  // The rows one behind the other, the picture's bottom row first, as a bitmap file has them.
+  // The rows one after another, the picture's bottom row first, as in a bitmap file.
   std::span<const std::uint8_t> PalID() const { return rows_; }
 
-  // Black and white by Stucki's kernel on the mean brightness. Errors are spread by 10 / divisor of their size; the
-  // divisor must not be 0.
+  // Dithers to black and white with Stucki's kernel and the mean brightness as threshold. Errors are diffused at 10 /
+  // divisor of their size; the divisor must not be 0.
   void DitherToBlackAndWhite(clsGPDIB& dib, int divisor);
-  // The rows of a bitmap that is black and white already; other colours count as white. The bitmap stays.
+  // Stores the rows of a bitmap that is black and white already; other colours count as white. `dib` does not change.
   void TakeBlackAndWhite(const clsGPDIB& dib);
-  // Floyd and Steinberg's kernel. A palette of no entry, or of more than 16 or 256, is refused: nothing happens.
+  // Dither with Floyd and Steinberg's kernel. Do nothing for an empty palette or one with more than 16 or 256 entries.
   void DitherToPalette16(clsGPDIB& dib, const clsGPPal& palette);
   void DitherToPalette256(clsGPDIB& dib, const clsGPPal& palette);
 

@@ -19,7 +19,7 @@ bool isDithered(int bits) { return bits == 1 || bits == 4 || bits == 8; }
 
 void writeHeaders(const clsGPDIB& dib, std::size_t paletteBytes, std::size_t pixelBytes, int bits, ByteWriter& out) {
   out.text("BM");
-  // The size that is told leaves the file header out.
+  // Intended: the file size in the header does not include the file header.
   out.u32(static_cast<std::uint32_t>(pixelBytes + dib::kHeaderSize + paletteBytes));
   out.u32(0);  // reserved
   out.u32(static_cast<std::uint32_t>(kHeaders + paletteBytes));

@@ -1,4 +1,4 @@
-// Writes a bitmap file of 1, 4, 8 or 24 bits a pixel.
+// Writes a bitmap file with 1, 4, 8 or 24 bits per pixel.
 #pragma once
 
 #include "palette/clsGPDIB.h"
@@ -13,11 +13,10 @@ namespace gp {
 
 class clsGPPalSave {
  public:
-  // With 1, 4 or 8 bits the rows are the dither's and the colours the palette's; with 24 bits the bitmap's own pixels
-  // are written; other depths up to 32 get rows of zeros. The table in the file always has 2 to the power of `bits`
-  // entries; those behind the palette's are black. An existing file is replaced. False when it cannot be written, for
-  // an empty bitmap, for rows of another size than the bitmap's, and for depths below 1 or above 32; then nothing is
-  // touched.
+  // With 1, 4 or 8 bits, writes the rows of `dither` and the colours of `palette`; with 24 bits, the pixels of `dib`;
+  // with other depths, rows of zeros. The colour table in the file has 2 to the power of `bits` entries up to 8 bits;
+  // missing entries are black. Replaces an existing file. Returns false for an empty bitmap, rows of a different size,
+  // and depths below 1 or above 32, without touching the file, and when the file cannot be written.
   [[nodiscard]] bool Save_BMP(const std::string& path, const clsGPDIB& dib, const clsGPPal& palette,
                               const clsGPPalDither& dither, int bits) const;
 };

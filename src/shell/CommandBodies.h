@@ -1,5 +1,5 @@
-// How a row of the command table names its body: call<&IconSaver::doFileSave>, with fixed arguments
-// call<&IconSaver::doNewIcon, 32>, or with the index of its control callWithIndex<&Tools::setBrush>.
+// Templates that name the body of a command table row: call<&IconSaver::doFileSave>, with fixed arguments
+// call<&IconSaver::doNewIcon, 32>, or with the control's index callWithIndex<&Tools::setBrush>.
 #pragma once
 
 #include "effects/ConfinePanel.h"
@@ -9,7 +9,7 @@
 
 namespace gp::bodies {
 
-// The object whose method a command calls.
+// Returns the object whose method a command calls.
 inline Shell& ownerIn(Shell& shell, std::type_identity<Shell>) { return shell; }
 inline EditingAreaOptions& ownerIn(Shell& shell, std::type_identity<EditingAreaOptions>) {
   return shell.document().areaOptions;
@@ -52,7 +52,7 @@ void call(Shell& shell, int /*index*/) {
   (ownerOf<kMethod>(shell).*kMethod)(kArguments...);
 }
 
-// Calls the method with the index of the control.
+// Calls the method with the control's index.
 template <auto kMethod>
 void callWithIndex(Shell& shell, int index) {
   (ownerOf<kMethod>(shell).*kMethod)(index);
@@ -60,7 +60,7 @@ void callWithIndex(Shell& shell, int index) {
 
 inline void confineColors(Shell& shell, int index) { shell.effects().panel<ConfinePanel>().doConfineColors(index); }
 
-// Under a side panel the frame would not be seen.
+// Closes an open side panel first, which would hide the frame.
 template <auto kShowFrame>
 void showColorFrame(Shell& shell, int index) {
   shell.closePanels();

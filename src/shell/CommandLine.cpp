@@ -29,7 +29,7 @@ std::string withoutQuotes(std::string_view text) {
   return result;
 }
 
-// A path of nothing but an ending names no icon.
+// A path that consists of an ending alone does not name an icon.
 CommandLineKind kindOf(const std::string& path) {
   if (countCharacters(path) <= kEndingCharacters) return CommandLineKind::Ignored;
   for (const Ending& ending : kEndings)
@@ -37,7 +37,7 @@ CommandLineKind kindOf(const std::string& path) {
   return CommandLineKind::Ignored;
 }
 
-// In full: the current directory changes while the program runs.
+// Returns the absolute path, because the current directory changes while the program runs.
 std::string fullPath(const std::string& path) {
   std::error_code error;
   const auto full = std::filesystem::absolute(path, error);

@@ -1,5 +1,5 @@
-// What the program makes of its command line: one path, by its ending an icon, a cursor or an animated cursor. Looks
-// whether the file is there and opens nothing.
+// Interprets the program's command line: one path, whose ending means an icon, a cursor or an animated cursor. Checks
+// that the file exists and opens nothing.
 #pragma once
 
 #include <string>
@@ -9,11 +9,11 @@ namespace gp {
 
 enum class CommandLineKind {
   None,     // no command line
-  Missing,  // there is no such file: the user is told
+  Missing,  // there is no such file; the user is informed
   Ico,
   Cur,
   Ani,
-  Ignored,  // some other ending: nothing happens, without a word
+  Ignored,  // another ending; ignored without a message
 };
 
 struct CommandLineFile {
@@ -21,10 +21,10 @@ struct CommandLineFile {
   CommandLineKind kind = CommandLineKind::None;
 };
 
-// The path of a file that is there comes out in full. Double quotes are taken out of the text, unless they belong to
-// the name of a file that is there.
+// Returns an existing file's absolute path. Double quotes are removed from the text, unless only the text with the
+// quotes names an existing file.
 CommandLineFile readCommandLine(std::string_view commandLine);
-// What the user is told of a missing file.
+// Returns the message for a missing file.
 std::string fileNotFoundText(std::string_view path);
 
 }  // namespace gp

@@ -16,7 +16,7 @@ constexpr int kCursorSize = 32;
 
 const IconContainerRec& record(const Shell& shell) { return shell.state().current(); }
 
-// For what an icon must have: without an icon that is said first.
+// For needs of an icon: without an icon, returns the message for that first.
 const char* iconWith(const Shell& shell, bool isMet, const char* refusal = kQuietly) {
   if (!record(shell).present) return kNoIconYet;
   return isMet ? kMet : refusal;

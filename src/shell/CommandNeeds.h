@@ -1,5 +1,5 @@
-// What commands need, one function for each kind of need: null when it is met, otherwise the text of the box that says
-// why not, which is empty where nothing is said. Menus and toolbar show a command whose need is not met as disabled.
+// The needs of commands, one function for each kind. Each returns null when the need is met, otherwise the message that
+// explains it, empty for no message. Menus and toolbar disable a command whose need is not met.
 #pragma once
 
 namespace gp {

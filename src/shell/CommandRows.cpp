@@ -1,4 +1,4 @@
-// The data of the command table.
+// The rows of the command table.
 #include "shell/CommandBodies.h"
 #include "shell/CommandNeeds.h"
 #include "shell/CommandTable.h"
@@ -20,7 +20,7 @@ constexpr TopMenu kTopMenus[] = {
     {"mnuAlpha", "&Alpha", true},     {"mnuHelp", "&Help", true},
 };
 
-// A row without a body is a sub-menu, or a command whose subsystem is not part of the program yet.
+// A row without a body is a sub-menu, or a command that is not implemented yet.
 // clang-format off
 constexpr Command kCommands[] = {
     // File

@@ -8,7 +8,7 @@ namespace gp {
 
 namespace {
 
-// The entries of a history menu: its control, and which history stands behind it.
+// Returns the history that a history menu's entries show; null for other commands.
 const History* historyOf(const Command& command, const Shell& shell) {
   const std::string_view control = command.control;
   if (control == "mnuFileHistory") return &shell.fileHistory();

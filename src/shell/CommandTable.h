@@ -1,5 +1,5 @@
-// Every command of the program: one row per menu entry, from which menus, keys, toolbar, enabling and tests come.
-// Adding a command is one row in CommandRows.cpp.
+// The command table: one row per menu entry. Menus, keys, toolbar, enabling and tests are generated from it. To add a
+// command, add a row in CommandRows.cpp.
 #pragma once
 
 #include <span>
@@ -10,21 +10,21 @@ namespace gp {
 
 class Shell;
 
-// Whether what is open on the Editing Area is committed before the command runs.
+// Whether an open tool action is committed before the command runs.
 enum class Commits : bool { No, Yes };
 
 struct Command {
-  const char* control;  // "mnuFileSub"
-  int index;            // its index, kNoIndex for a control that is no array
-  const char* parent;   // objectName of the menu it stands in: "mnuFile", "mnuFileSub(0)"
-  const char* caption;  // with "&"; empty for history entries, whose captions come at run time
-  const char* key;      // "Ctrl+N", empty for none
+  const char* control;  // such as "mnuFileSub"
+  int index;            // index of the control, kNoIndex for a control that is not an array
+  const char* parent;   // objectName of its menu, such as "mnuFile" or "mnuFileSub(0)"
+  const char* caption;  // with "&"; empty for history entries, whose captions are set at run time
+  const char* key;      // such as "Ctrl+N", empty for none
   const char* picture;  // name of its picture, empty for none
-  // Why the command cannot run: null when it can, a text for a box, or an empty text where nothing is said.
+  // Returns null when the command can run; otherwise the message that explains why not, empty for no message.
   const char* (*unmet)(const Shell& shell, int index);
   Commits commits;
-  bool (*checked)(const Shell& shell, int index);  // null for an entry that bears no tick
-  void (*run)(Shell& shell, int index);            // null for a sub-menu, and for what the program cannot do yet
+  bool (*checked)(const Shell& shell, int index);  // null for an entry without a tick
+  void (*run)(Shell& shell, int index);            // null for a sub-menu and for a command that is not implemented
 };
 
 inline constexpr int kNoIndex = -1;
@@ -38,7 +38,7 @@ struct TopMenu {
 struct ToolbarButton {
   int index;  // of cmdTB
   const char* tooltip;
-  const char* control;  // the command it calls
+  const char* control;  // the control of the command that it runs
   int commandIndex;
   bool separatorBefore;
 };
@@ -47,14 +47,14 @@ std::span<const TopMenu> topMenus();
 std::span<const Command> commandTable();
 std::span<const ToolbarButton> toolbarTable();
 
-// "mnuFileSub(2)", or the bare control for kNoIndex.
+// Returns "mnuFileSub(2)", or the control alone for kNoIndex.
 std::string objectNameOf(std::string_view control, int index);
-// The row of a command; null when there is none.
+// Returns the row of a command; null when there is none.
 const Command* findCommand(std::string_view control, int index);
-// True when rows stand under this one.
+// Returns true when other rows have this one as parent.
 bool isSubMenu(const Command& command);
 
-// The state of a row now. A sub-menu is enabled with any of its entries; a row without a handler never is.
+// The current state of a row. A sub-menu is enabled if one of its entries is.
 bool isEnabled(const Command& command, const Shell& shell);
 bool isChecked(const Command& command, const Shell& shell);
 bool isVisible(const Command& command, const Shell& shell);

@@ -1,4 +1,4 @@
-// Which menu entries bear a tick, one function for each kind of entry.
+// The conditions for ticks of menu entries, one function for each kind of entry.
 #pragma once
 
 namespace gp {

@@ -22,7 +22,7 @@ std::string currentDirectory() {
   return error ? kRoot : path.native();
 }
 
-// Without "." and "..", and with no separator at its end.
+// Returns the absolute path without "." and ".." and without a trailing separator.
 std::string cleanPath(const std::string& folder) {
   std::error_code error;
   const fs::path path = fs::absolute(folder, error).lexically_normal();

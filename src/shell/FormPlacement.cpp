@@ -10,7 +10,7 @@ constexpr int kLeastScreenHeight = 600 * kTwipsPerPixel;
 
 int startLength(int stored, int screen, int smallest) { return std::max(std::min(stored, screen), smallest); }
 
-// Beyond three quarters of the screen too little of the form would show.
+// A position beyond three quarters of the screen would show too little of the form.
 int startPosition(int stored, int screen) { return stored < 0 || stored > screen * 3LL / 4 ? 0 : stored; }
 
 }  // namespace

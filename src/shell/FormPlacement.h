@@ -1,4 +1,4 @@
-// Where the main form comes up and how large it may be: pure rules over twips. The form itself is moved by the caller.
+// The position and size of the main form at start-up: pure functions on twips. The caller moves the form.
 #pragma once
 
 #include "shell/Settings.h"
@@ -7,15 +7,15 @@
 namespace gp {
 
 inline constexpr int kTwipsPerPixel = 15;
-// Size of the form at start, in twips, which is also the smallest it can have.
+// Size of the form at start, in twips, which is also its minimum size.
 inline constexpr int kFormWidth = 11895;
 inline constexpr int kFormHeight = 8640;
 
 // The values of the start screen option.
 enum class StartScreen { DefaultSize = 0, DefaultUnlessMaximized = 1, PerLastSession = 2 };
 
-// Where the form starts. Its size at first is always kFormWidth x kFormHeight; the start size counts only for
-// applyStartScreen.
+// The start position of the form. Its initial size is always kFormWidth x kFormHeight; mStartWidth and mStartHeight are
+// used only by applyStartScreen.
 struct FormStart {
   int left = 0;
   int top = 0;
@@ -26,10 +26,10 @@ struct FormStart {
   FormPlace place() const { return {left, top, kFormWidth, kFormHeight, false, false}; }
 };
 
-// The start for what was stored and a screen of that size in twips.
+// Returns the start for a stored place and a screen size in twips.
 FormStart startOfForm(const StoredPlace& stored, int screenWidth, int screenHeight);
 
-// The place that the start screen option gives to the form when it comes up; a minimised form stays as it is.
+// Returns the form's place after applying the start screen option; a minimised form does not change.
 FormPlace applyStartScreen(const FormPlace& place, StartScreen option, const FormStart& start);
 
 }  // namespace gp

@@ -8,7 +8,7 @@
 namespace gp {
 namespace {
 
-// In a caption a single "&" would mark an access letter.
+// In a caption a single "&" would mark an access key.
 std::string withPlainAmpersands(const std::string& text) {
   std::string result;
   for (const char c : text) result += c == '&' ? std::string("&&") : std::string(1, c);
@@ -29,7 +29,7 @@ void History::load() {
 }
 
 void History::add(const std::string& path) {
-  if (!canStandInIni(path)) return;
+  if (!fitsInIni(path)) return;
   const std::string top = ReadIniString(section_, keyOf(1), "", file_);
   if (top == path) return;
   if (trim(top).empty())

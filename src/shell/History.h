@@ -1,5 +1,5 @@
-// A list of the files opened last, kept in the settings file: one for icons, one for animated cursors. History owns the
-// list as it was last read; the menus take their entries from it.
+// A list of recently opened files, stored in the settings file: one for icons, one for animated cursors. History owns
+// the list as last read; the menus show it.
 #pragma once
 
 #include <string>
@@ -18,19 +18,18 @@ class History {
   History(std::string section, int limit, std::string file)
       : section_(std::move(section)), file_(std::move(file)), limit_(limit) {}
 
-  // Reads the list. Without a file it stays as it is.
+  // Reads the list. Without a file the list does not change.
   void load();
-  // Puts a path on top, unless it stands there already, and lets the oldest fall off. Duplicates further down are not
-  // looked for: a path opened again stands twice. A path that the settings file cannot hold is not remembered.
+  // Adds a path at the top, unless it is the top already, and drops the oldest one. Intended: duplicates further down
+  // remain, so a path can be listed twice. A path that the settings file cannot store is ignored.
   void add(const std::string& path);
 
   int limit() const { return limit_; }
   int count() const { return static_cast<int>(paths_.size()); }
-  // The path and the caption of the menu entry with that index, from 1; empty where there is no entry. Index 0 is the
-  // separator.
+  // Return the path and the caption of the menu entry with an index from 1; empty without an entry. 0 is the separator.
   std::string path(int index) const;
   std::string caption(int index) const;
-  // Whether the menu entry with that index shows; the separator does with any entry.
+  // Returns true when the menu entry with that index is shown; the separator is shown with any entry.
   bool isVisible(int index) const;
 
  private:

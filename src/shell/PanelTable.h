@@ -1,4 +1,4 @@
-// The side panels fraPanel(0) to fraPanel(21): one row each, in the order of their numbers.
+// The table of the side panels fraPanel(0) to fraPanel(21), in the order of their numbers.
 #pragma once
 
 #include "document/PanelNumbers.h"
@@ -11,15 +11,15 @@ class Shell;
 
 struct PanelRow {
   int number;
-  const char* caption;            // written like a menu's, with && for &
-  void (*proceed)(Shell& shell);  // what Proceed does; null for nothing
-  // The command whose needs must be met again at Proceed; null where Proceed asks itself.
+  const char* caption;            // a menu caption, with && for &
+  void (*proceed)(Shell& shell);  // the action of Proceed; null for none
+  // The command whose needs must also be met at Proceed; null when `proceed` checks by itself.
   const char* command = nullptr;
   int commandIndex = 0;
 };
 
 std::span<const PanelRow> panelTable();
-// The row of a panel; null for a number that no panel has.
+// Returns the row of a panel; null for an unused number.
 const PanelRow* findPanel(int number);
 
 }  // namespace gp

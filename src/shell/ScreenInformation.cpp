@@ -13,7 +13,7 @@ constexpr Depth kDepths[] = {
     {24, "24 BPP (True color)"}, {32, "32 BPP (True color)"},
 };
 
-// Depths that have no name of their own, such as 30, are told by their number.
+// Depths without a name, such as 30, are shown as a number.
 std::string depthText(int bits) {
   for (const Depth& depth : kDepths)
     if (depth.bits == bits) return depth.text;

@@ -1,4 +1,4 @@
-// What the about screen tells of the machine.
+// The about screen's information about the machine.
 #pragma once
 
 #include "platform/ports/SystemInfo.h"
@@ -7,7 +7,7 @@
 
 namespace gp {
 
-// The lines of the screen information box, joined by line breaks.
+// Returns the lines of the screen information box, separated by line breaks.
 std::string screenInformation(SystemInfo& system);
 
 }  // namespace gp

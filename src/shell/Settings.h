@@ -1,5 +1,5 @@
-// The user's settings in the program's profile file. Settings changes the Options that it was given and owns no file:
-// each call reads or writes it. A file that is absent or damaged yields the defaults.
+// The user's settings in the program's profile file. Settings changes the given Options and keeps no copy of the file:
+// each call reads or writes it. An absent or damaged file yields the defaults.
 #pragma once
 
 #include "document/Options.h"
@@ -12,7 +12,7 @@ namespace gp {
 
 inline constexpr const char* kSettingsFileName = "Glimmerpane.ini";
 
-// The window's place in twips as it was stored; what was absent has no value.
+// The window's stored place in twips; absent values are empty.
 struct StoredPlace {
   std::optional<int> left, top, width, height;
   std::optional<bool> maximized;
@@ -20,14 +20,14 @@ struct StoredPlace {
   bool isComplete() const { return left && top && width && height; }
 };
 
-// One option that is on or off: its entry of mnuOptionsSub, its key and where it lives.
+// A boolean option: its entry of mnuOptionsSub, its key and its member of Options.
 struct BooleanOption {
   int menuIndex;
   const char* key;
   bool Options::*member;
 };
 std::span<const BooleanOption> booleanOptions();
-// The option behind an entry of mnuOptionsSub; null for entries that are no such option.
+// Returns the option of an entry of mnuOptionsSub; null for other entries.
 const BooleanOption* findBooleanOption(int menuIndex);
 
 class Settings {
@@ -37,17 +37,18 @@ class Settings {
 
   const std::string& file() const { return file_; }
 
-  // Takes the options from the file. False when there is no file: the options stay and there is no history to show.
+  // Reads the options. Returns false when there is no file: the options do not change and there is no history to load.
   bool LoadOptions();
-  // Writes the options that differ from the file. False when one of them could not be written.
+  // Writes the options that differ from the file. Returns false when one could not be written.
   bool SaveOptions() const;
   void resetToDefaults() { options_ = Options(); }
 
-  // The folder of the last file dialog; empty when none is stored or it is no folder any more.
+  // Returns the folder of the last file dialog; empty when none is stored or it no longer exists.
   std::string GetLastFolder() const;
+  // Returns false when the file cannot be written. The same holds for SaveScreenPos, whose values are in twips.
   bool SaveLastFolder(const std::string& folder) const;
 
-  // Each member changes only if the file has a value for it.
+  // Changes only the members for which the file has a value.
   void GetScreenPos(StoredPlace& place) const;
   bool SaveScreenPos(int left, int top, int width, int height, bool maximized) const;
 

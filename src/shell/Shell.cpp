@@ -10,7 +10,7 @@ namespace gp {
 
 namespace {
 
-// Of commands on files with several icons; it exists only between two of their steps.
+// The temporary file of commands on multi-icon files; it exists only between two of their steps.
 constexpr const char* kScratchFileName = "gptmp.ico";
 
 }  // namespace
@@ -54,7 +54,7 @@ bool Shell::prepare(const Command& command) {
   if (!mayRun(command)) return false;
   if (command.commits == Commits::No) return true;
   document_.iconsPanel.CommitPendingPaint();
-  // Committing may have saved the icon to a file of its own.
+  // Committing may have saved the icon, which can change what the command needs.
   return mayRun(command);
 }
 
@@ -69,17 +69,17 @@ void Shell::runToolbar(const ToolbarButton& button) {
   state_.picDisp.clearDrawing();
   display_.changed(DisplayPart::EditingArea);
   if (const Command* command = findCommand(button.control, button.commandIndex)) run(*command);
-  // A region that the command left standing is seen again.
+  // The toolbar removed the overlay, so a region that still exists is drawn again.
   if (state_.mRegionExists) redrawRegion();
 }
 
 void Shell::ShowRunTimeError(const std::string& name, const std::string& description) {
-  // The number is the platform's general one: the causes are told by the description.
+  // The number is always the platform's general error; the description states the cause.
   constexpr int kGeneralError = 5;
   ports_.boxes.tell(name + "\n" + std::to_string(kGeneralError) + "     " + description, BoxIcon::Exclamation);
 }
 
-// The Editor's calls, each handed to its owner.
+// Editor: each call is forwarded to its owner.
 
 void Shell::chooseColorChart() { colour_.selection.chooseColorChart(); }
 void Shell::showChart16() { colour_.selection.imgGet16ColorChart(); }
@@ -99,7 +99,7 @@ void Shell::setHotspotByClick(int x, int y) { files_.cursorFiles.setHotspotByCli
 void Shell::UpdateCommands() { display_.changed(DisplayPart::Commands); }
 
 void Shell::showPanel(int panel) {
-  // Nothing could be done with a region while a side panel is up.
+  // A region cannot be used while a side panel is open, so it is merged.
   if (panel == kColorPanel)
     drawing_.tools.clearAllTools();
   else

@@ -1,5 +1,5 @@
-// The whole program without its windows: composes the subsystems, implements Editor by handing each call to its owner,
-// and runs commands and the life-cycle of the main form. The forms forward their events here.
+// The whole program without its windows: creates the subsystems, implements Editor by forwarding each call to its
+// owner, and handles commands and the life cycle of the main form. The forms forward their events to it.
 #pragma once
 
 #include "colour/Colour.h"
@@ -28,7 +28,7 @@ class PictureLoader;
 struct EditState;
 struct ScreenState;
 
-// The ports that the program uses; app/ and the tests make them.
+// The ports of the program; app/ and the tests create them.
 struct Ports {
   MessageBoxes& boxes;
   FileDialogs& dialogs;
@@ -41,11 +41,11 @@ struct Ports {
 
 class Shell final : public Editor {
  public:
-  // `folder` is the program's folder: settings, help file and companion are looked for there.
+  // `folder` is the program's folder, which contains settings, help file and companion program.
   Shell(EditState& state, const Ports& ports, Display& display, std::string folder);
   ~Shell() override;
 
-  // The main form, or null when it goes. Without it, commands that need a window do nothing.
+  // Sets the main form; null before it is destroyed. Without a form, commands that need a window do nothing.
   void attach(ShellForms* form, FileForms* fileForms);
 
   EditState& state() { return state_; }
@@ -67,25 +67,24 @@ class Shell final : public Editor {
   const Ports& ports() const { return ports_; }
   const std::string& folder() const { return folder_; }
 
-  // Runs a command, whether it comes from a menu, a key, the toolbar or the pop-up menu: asks what it needs and tells
-  // the user why not, commits what is open where the command says so, then calls its body. Errors end in a box. Nothing
-  // for a row without a body.
+  // Runs a command of a menu, a key, the toolbar or the pop-up menu: checks its need and shows the message if it is not
+  // met, commits an open tool action if the row requires it, then calls the body. Errors are shown in a box. Does
+  // nothing for a row without a body.
   void run(const Command& command);
-  // True when what a command needs is there; otherwise the user is told why not.
+  // Returns true when a command's need is met; otherwise shows the message.
   bool mayRun(const Command& command);
-  // A toolbar button: the overlay of the Editing Area goes first.
+  // Runs a toolbar button's command after removing the overlay of the Editing Area.
   void runToolbar(const ToolbarButton& button);
-  // Runs any handler under the guard that reports run-time errors under the given name.
+  // Runs a handler and reports its exceptions as run-time errors under the given name.
   template <class Handler>
   void guarded(const std::string& name, Handler handler);
 
-  // The life of the main form. Load places it; the first Activate reads settings and opens the file of the command
-  // line.
+  // The main form's life cycle. Load places it; the first Activate reads settings and opens the command line's file.
   void formLoad();
   void formActivate(const std::string& commandLine);
-  // The room of picDispContainer after the form got another size.
+  // Sets the size of picDispContainer after the form was resized.
   void formResize(int dispContainerWidth, int dispContainerHeight);
-  // False when the form must stay.
+  // Returns false when the form must stay open.
   bool queryUnload();
 
   // Command bodies of the shell itself.
@@ -94,9 +93,9 @@ class Shell final : public Editor {
   void chooseTool(Tool tool);
   void chooseColorPicker();
   void shiftTowards(ShiftCell cell);
-  // Proceed of the side panel that is up; nothing where it has none.
+  // Proceed of the open side panel; does nothing for a panel without an action.
   void cmdProceed();
-  // Its Close: nothing of it is kept.
+  // Close of the open side panel, which discards its settings.
   void cmdCancel();
   void openHelp();
   void switchToCustomSize();
@@ -104,7 +103,7 @@ class Shell final : public Editor {
   void selectStartScreen(int index);
   void resetToDefault();
   void confirmReset();
-  // Esc ends what is open: a side panel, otherwise the region, which is merged.
+  // Esc closes what is open: a side panel, or else the region, which is merged.
   void escapeKey();
   void exitProgram();
   void showAbout();
@@ -128,7 +127,7 @@ class Shell final : public Editor {
   void ShowRunTimeError(const std::string& name, const std::string& description) override;
 
  private:
-  // False, and nothing but a box has come of it, when the command cannot run.
+  // Returns false when the command cannot run; then at most a message was shown.
   bool prepare(const Command& command);
   bool isMet(const char* refusal);
   std::string settingsPath() const;

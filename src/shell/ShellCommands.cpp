@@ -1,4 +1,4 @@
-// The command bodies that belong to the shell itself: history, options, help and the companion program.
+// The command bodies of the shell itself: history, options, help and the companion program.
 #include "document/CurrentIconGuard.h"
 #include "document/Display.h"
 #include "document/EditState.h"
@@ -101,7 +101,7 @@ void Shell::confirmReset() {
 void Shell::cmdProceed() {
   const PanelRow* panel = findPanel(state_.screen.mActivePanel);
   if (!panel || !panel->proceed) return;
-  // Another icon may have come up under the panel.
+  // The Current Icon may have changed while the panel was open.
   const Command* command = panel->command ? findCommand(panel->command, panel->commandIndex) : nullptr;
   if (!command || mayRun(*command)) panel->proceed(*this);
 }

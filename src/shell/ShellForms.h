@@ -1,9 +1,9 @@
-// What the shell asks of the main form as a window. The main form implements it.
+// The window operations that the shell requires. The main form implements them.
 #pragma once
 
 namespace gp {
 
-// Window geometry in twips (15 to a pixel), as the settings file keeps it.
+// Window geometry in twips (15 per pixel), as stored in the settings file.
 struct FormPlace {
   int left = 0;
   int top = 0;
@@ -21,7 +21,7 @@ class ShellForms {
   virtual void maximize() = 0;
   // Shows frmGPAbout modally.
   virtual void showAbout() = 0;
-  // Closes the form, which asks queryUnload first.
+  // Closes the form, which calls queryUnload first.
   virtual void unload() = 0;
 };
 

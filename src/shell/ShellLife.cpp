@@ -98,7 +98,7 @@ bool Shell::queryUnload() {
   if (!question.empty() && !ports_.boxes.ask(question)) return false;
   files_.cursorFiles.mark().cancel();
   if (form_) saveScreenPos(form_->place());
-  // Before the first Activate nothing but defaults is known of the options.
+  // Before the first Activate the options are only the defaults and must not be saved.
   if (!mFirstActivate) settings_.SaveOptions();
   settings_.SaveLastFolder(state_.process.mLastFolder);
   return true;

@@ -1,5 +1,5 @@
-// The checks before anything of the program shows: a second instance, the companion program, the screen, the system's
-// folders. What they find out goes into the edit state; windows are the caller's.
+// The checks before the first window is shown: a second instance, the companion program, the screen, the system's
+// folders. Their results are stored in the edit state; the caller creates the windows.
 #pragma once
 
 #include "platform/files/Files.h"
@@ -15,10 +15,10 @@ struct EditState;
 
 // Title of the about screen, by which a second instance finds and closes it.
 inline constexpr const char* kAboutTitle = "Glimmerpane By Zorvex Lattice";
-// The companion program, which handles icons of odd sizes.
+// The companion program, which handles icons of custom sizes.
 inline constexpr const char* kCompanionProgram = "gpsupp1.exe";
 
-// Runs the checks in their order. False when the process must end; the user has been told why. Fills the screen depth
+// Runs the checks in order. Returns false when the program must end, after informing the user. Sets the screen depth
 // and the folders of `state.process` and makes gAlphaValues 1 x 1. `folder` is the program's folder.
 [[nodiscard]] bool runStartUpChecks(SystemInfo& system, Processes& processes, MessageBoxes& boxes, EditState& state,
                                     const std::string& folder = programFolder());

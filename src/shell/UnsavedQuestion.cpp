@@ -5,7 +5,7 @@
 namespace gp {
 namespace {
 
-// Meant so: a never-saved icon in the current container makes every used container count, not only its own.
+// Intended: a never-saved icon in the current container makes every used container count as unsaved.
 bool isUnsaved(const IconContainerRec& record, const EditState& state) {
   return record.used && (record.modified || state.current().neverSaved);
 }

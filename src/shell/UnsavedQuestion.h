@@ -1,4 +1,4 @@
-// The question before the program ends with icons that are not saved.
+// The question shown when the program is closed with unsaved icons.
 #pragma once
 
 #include <string>

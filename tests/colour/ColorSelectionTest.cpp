@@ -114,7 +114,7 @@ TEST_F(ColorSelectionTest, TheBoxTellsOfTheSelectedColourButGivesTheHtmlFigureOf
   colors.chartHover(ChartKind::Chart256, 0.5, 1.5);
   boxes.expectTold("Currently selected color:      \n\n33023 / h80FF\n\nRGB(255, 128, 0) \n\nHTML #E0E0E0",
                    BoxIcon::Information);
-  colors.tellCurrentColor();
+  colors.showCurrentColor();
 }
 
 // The colour of the pixel with this number.

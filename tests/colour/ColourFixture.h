@@ -43,7 +43,7 @@ class ColourFixture : public testing::Test {
     state.mCurrentColor = kBlack;
     boxes.expectTold("Currently selected color:      \n\n0 / h0\n\nRGB(0, 0, 0) \n\nHTML #" + html,
                      BoxIcon::Information);
-    colors.tellCurrentColor();
+    colors.showCurrentColor();
     state.mCurrentColor = current;
   }
 };

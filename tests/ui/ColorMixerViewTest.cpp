@@ -210,7 +210,7 @@ TEST_F(ColorMixerViewTest, HoveringTheMixedColourTellsIt) {
   EXPECT_EQ(find("PicRGBMix")->toolTip(), "80FFh  RGB(255, 128, 0)");
   boxes.expectTold("Currently selected color:      \n\n16777215 / hFFFFFF\n\nRGB(255, 255, 255) \n\nHTML #FF8000",
                    BoxIcon::Information);
-  colour.selection.tellCurrentColor();
+  colour.selection.showCurrentColor();
 }
 
 TEST_F(ColorMixerViewTest, TheStripIsTakenByPressAndByRelease) {

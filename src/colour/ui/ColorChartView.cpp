@@ -21,7 +21,7 @@ struct Look {
 };
 
 const Look& lookOf(ChartKind chart) {
-  // In the order of ChartKind.
+  // Ordered like ChartKind.
   static constexpr std::array<Look, 2> kLooks = {
       {{"256-Color Palette", CreateColorChart256}, {"16-Color Palette", CreateColorChart16}}};
   return kLooks.at(static_cast<std::size_t>(chart));

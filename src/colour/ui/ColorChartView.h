@@ -1,5 +1,5 @@
-// picColorChart(0) and (1): a chart on the screen, used by mouse or keyboard. Tells in chart units where the pointer is
-// and where a button was released.
+// picColorChart(0) and (1): a chart on the screen, usable by mouse and keyboard. Reports the pointer's position and
+// button releases in chart units.
 #pragma once
 
 #include "colour/ColorCharts.h"
@@ -35,7 +35,7 @@ class ColorChartView : public QWidget, public AccessibleValue {
   QPointF unitsAt(const QPointF& position) const;
   QPointF cursorUnits() const { return QPointF(cursor_) + QPointF(0.5, 0.5); }
   bool moveCursor(int key);
-  // One cell in device pixels, and the whole chart: whole cells only.
+  // The size of one cell in device pixels; all cells are equal.
   QSize cellSize() const;
 
   const ChartKind chart_;

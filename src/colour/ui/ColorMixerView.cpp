@@ -25,7 +25,7 @@ constexpr int kButtonSide = 28;
 constexpr int kChannelHeight = 24;
 constexpr int kSwatchWidth = 28;
 constexpr const char* kWidestValue = "000 / DD";
-constexpr int kSlack = 2;  // widths of letters are no whole pixels
+constexpr int kSlack = 2;  // letter widths are not whole pixels
 constexpr int kSliderPage = 16;
 
 constexpr std::array<const char*, kMixChannels> kChannelNames = {"Red", "Green", "Blue"};
@@ -35,7 +35,7 @@ struct AdjustButton {
   const char* tooltip;
 };
 
-// In the order of MixChange.
+// Ordered like MixChange.
 constexpr std::array<AdjustButton, 3> kAdjustButtons = {
     {{"lighten", "To lighten"}, {"darken", "To darken"}, {"copy-color", "Copy currently selected color"}}};
 
@@ -52,7 +52,7 @@ constexpr std::array<FileButton, 2> kFileButtons = {
 
 QString indexed(const char* control, int index) { return QString("%1(%2)").arg(control).arg(index); }
 
-// The members of a group lie on the frame itself, so that the pointer between them is on the frame.
+// Tracks the mouse, so that the frame notices the pointer in the gaps between the row's widgets.
 QHBoxLayout* makeRow(QWidget* row) {
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -115,7 +115,7 @@ QWidget* ColorMixerView::makeChannel(int channel) {
 MixSwatch* ColorMixerView::makeMixed() {
   PicRGBMix_ = new MixSwatch(this, "PicRGBMix", "Mixed color");
   PicRGBMix_->setToolTip("Dithered Color");
-  // As high as the strip leaves room for, so that both columns end together.
+  // Fills the height that the strip leaves, so that both columns have the same height.
   PicRGBMix_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   connect(PicRGBMix_, &MixSwatch::hovered, this, [this] { PicRGBMix_->setToolTip(toText(mixer_.mixHover())); });
   connect(PicRGBMix_, &MixSwatch::clicked, this, [this] { mixer_.mixRelease(), refresh(); });

@@ -1,5 +1,5 @@
-// fraColorMixer: sliders, swatches and strip of the mixer, the buttons that lighten, darken and copy, and those of the
-// palette file. It keeps nothing: it shows what the mixer tells, at refresh() and after each event.
+// fraColorMixer: the mixer's sliders, swatches and strip, the buttons that lighten, darken and copy, and the palette
+// file buttons. It keeps no state and shows the mixer's values, on refresh() and after each event.
 #pragma once
 
 #include "platform/qt/widgets/CaptionFrame.h"

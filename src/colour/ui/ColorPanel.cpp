@@ -43,7 +43,7 @@ CaptionFrame* makeFrame(QWidget* parent, int index) {
   return new CaptionFrame(parent, frameName(index), kFrameCaptions.at(static_cast<std::size_t>(index)));
 }
 
-// Puts one widget into a frame.
+// Puts a widget into a frame and returns the frame.
 CaptionFrame* framed(CaptionFrame* frame, QWidget* content) {
   auto* layout = new QHBoxLayout(frame);
   layout->setContentsMargins(frame->frameMargins());
@@ -67,7 +67,7 @@ constexpr std::array<ChartButton, 5> kChartButtons = {{
     {"imgPopColorChart", "color-dialog", "Select color from color dialog", &ColorSelection::imgPopColorChart},
 }};
 
-// picColorToUse: a button that is nothing but its colour.
+// picColorToUse: a button that shows only its colour.
 class ColorSwatch : public QAbstractButton {
  public:
   ColorSwatch(QWidget* parent, const Color& shown) : QAbstractButton(parent), shown_(shown) {
@@ -113,7 +113,7 @@ ColorPanel::ColorPanel(QWidget* parent, const EditState& state, ColorSelection& 
   frames_ = new QStackedLayout(place);
   frameDirect_ =
       new DirectEntryView(place, frameName(static_cast<int>(ColorFrame::DirectEntry)), kFrameCaptions.back(), colors_);
-  // In the order of ColorFrame.
+  // Ordered like ColorFrame.
   frames_->addWidget(makeChartFrame(ChartKind::Chart16));
   frames_->addWidget(makeChartFrame(ChartKind::Chart256));
   frames_->addWidget(frameDirect_);
@@ -141,14 +141,14 @@ QWidget* ColorPanel::makeTopRow() {
 QWidget* ColorPanel::makeColorFrame() {
   CaptionFrame* frame = makeFrame(this, kColorFrame);
   picColorToUse_ = new ColorSwatch(frame, state_.mCurrentColor);
-  connect(picColorToUse_, &QAbstractButton::clicked, this, [this] { colors_.tellCurrentColor(); });
+  connect(picColorToUse_, &QAbstractButton::clicked, this, [this] { colors_.showCurrentColor(); });
   return framed(frame, picColorToUse_);
 }
 
 QWidget* ColorPanel::makeScreenColorFrame() {
   CaptionFrame* frame = makeFrame(this, kScreenColorFrame);
   auto* button = new PictureButton(frame, "imgScreenColor", {"screen-color", "Screen Color", kSwatchHeight});
-  // Waits for the copy of the screen that it takes its colour from.
+  // Disabled: there is no copy of the screen from which it could take a colour.
   button->setEnabled(false);
   button->setFocusPolicy(Qt::TabFocus);
   return framed(frame, button);

@@ -1,5 +1,5 @@
 // fraPanel(0), the colour panel: current colour, screen colour, brush, and one of the two charts or the direct entry.
-// All frames keep their places, so that changing between the charts moves nothing.
+// All frames have fixed positions, so changing the chart moves nothing.
 #pragma once
 
 #include <QWidget>
@@ -24,7 +24,7 @@ class ColorPanel : public QWidget {
  public:
   ColorPanel(QWidget* parent, const EditState& state, ColorSelection& colors, ColorMixer& mixer, PaletteFile& palette);
 
-  // Frames, current colour, direct entry and brush.
+  // Updates the frames, the current colour, the direct entry and the brush.
   void refresh();
   void focusColorValue();
 
@@ -49,7 +49,7 @@ class ColorPanel : public QWidget {
   QStackedLayout* frames_ = nullptr;
   DirectEntryView* frameDirect_ = nullptr;
   QWidget* mixerPlace_ = nullptr;
-  ColorMixerView* fraColorMixer_ = nullptr;  // made when it is first shown
+  ColorMixerView* fraColorMixer_ = nullptr;  // created when it is first shown
 };
 
 }  // namespace gp

@@ -16,8 +16,8 @@ namespace {
 
 constexpr int kButtonSide = 26;
 
-// Lets only those characters into the text that the key filter lets pass, in the form it gives them, and no more than
-// there is room for. Pasted text goes the same way, so that "#12AB34" loses its sign and not its last digit.
+// Accepts only characters that the key filter accepts, in the form that it returns, up to the maximum length. Pasted
+// text is filtered in the same way, so that "#12AB34" loses its "#" and not its last digit.
 class KeyFilter : public QValidator {
  public:
   KeyFilter(QObject* parent, const DirectEntry& entry) : QValidator(parent), entry_(entry) {}

@@ -1,4 +1,4 @@
-// The frame for typing a colour value: text, "Hex" and the button that takes it.
+// The frame for typing a colour value: text, "Hex" and the button that applies it.
 #pragma once
 
 #include "platform/qt/widgets/CaptionFrame.h"

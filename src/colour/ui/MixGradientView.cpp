@@ -13,7 +13,7 @@
 namespace gp {
 namespace {
 
-constexpr int kFrame = 2;  // around the strip, and seen whole while it has the focus
+constexpr int kFrame = 2;  // around the strip; visible as a whole while the strip has the focus
 constexpr int kMarkerHeight = 4;
 constexpr int kDarkGray = 128;
 
@@ -49,7 +49,7 @@ MixGradientView::MixGradientView(QWidget* parent, const ColorMixer& mixer) : QWi
   setFocusPolicy(Qt::TabFocus);
 }
 
-// Where the marker is; the keyboard goes on from where the pointer was.
+// Returns the marker's position, from which keys start.
 QPoint MixGradientView::cursor() const {
   const int row = mixer_.markerTop() == ColorMixer::kNoMarker ? 0 : mixer_.markerTop() + ColorMixer::kMarkerRise;
   return {kMixGradientWidth / 2, std::clamp(row, 0, kMixGradientHeight - 1)};

@@ -1,5 +1,5 @@
-// picMixGradient on the screen: the mixer's strip with its marker, used by mouse or keyboard. The arrow keys move the
-// marker row by row, Enter and Space take the colour there.
+// picMixGradient on the screen: the mixer's strip with its marker, usable by mouse and keyboard. The arrow keys move
+// the marker row by row; Enter and Space select the colour there.
 #pragma once
 
 #include "platform/qt/Accessibility.h"

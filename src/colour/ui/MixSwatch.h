@@ -1,4 +1,4 @@
-// A swatch of the mixer: a button that is nothing but its colour and whose click takes it. Any mouse button works.
+// A swatch of the mixer: a button that shows only its colour. Any mouse button selects the colour.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -17,7 +17,7 @@ class MixSwatch : public QAbstractButton {
   Color color() const { return color_; }
 
  signals:
-  // The pointer moved over it, or the keyboard came to it.
+  // The pointer moved over the swatch, or the swatch got the keyboard focus.
   void hovered();
 
  protected:

@@ -6,7 +6,7 @@
 namespace gp {
 namespace {
 
-constexpr int kSide = 48 + 2;  // the largest icon and an outline, pixels
+constexpr int kSide = 48 + 2;  // the largest icon with an outline, pixels
 
 }  // namespace
 

@@ -1,4 +1,4 @@
-// PicIcon: the Current Icon as others will see it, one device-independent pixel for each of its own.
+// PicIcon: the Current Icon at its real size, one device-independent pixel per icon pixel.
 #pragma once
 
 #include <QWidget>

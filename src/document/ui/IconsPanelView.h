@@ -1,5 +1,5 @@
 // The column of the six containers with their labels, and the button that copies the Current Icon to its container.
-// Tells of clicks, right clicks and dropped files; what they do is others' business.
+// Reports clicks, right clicks and dropped files.
 #pragma once
 
 #include "document/IconContainerRec.h"
@@ -66,7 +66,7 @@ class IconsPanelView : public QWidget {
  public:
   IconsPanelView(QWidget* parent, const EditState& state, const IconsPanel& panel);
 
-  // The containers' icons or the current one changed.
+  // Updates the view after the icon of a container or the current container has changed.
   void refresh();
 
  signals:

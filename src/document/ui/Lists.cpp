@@ -26,7 +26,7 @@ QComboBox* makeList(QWidget* parent, const FilledList& list, const QString& acce
   return combo;
 }
 
-// A list's own name is the entry it shows; what it is for is told by its label alone.
+// The accessible name of a combo box is its current entry; only a label states its purpose.
 QComboBox* makeUnlabelledList(QWidget* parent, const QString& objectName, const QString& accessibleName) {
   QComboBox* combo = makeList(parent, objectName, accessibleName);
   auto* label = new QLabel(accessibleName, parent);

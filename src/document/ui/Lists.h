@@ -1,4 +1,4 @@
-// Drop-down lists as the tables of lists fill them.
+// Combo boxes filled from the list tables.
 #pragma once
 
 #include "document/ListTables.h"
@@ -10,7 +10,7 @@ class QWidget;
 
 namespace gp {
 
-// A list that may be picked from, with the entries that the tables give it by its objectName.
+// Returns a combo box that cannot be edited, with the entries that the tables have for its objectName.
 QComboBox* makeList(QWidget* parent, const QString& objectName, const QString& accessibleName);
 
 // The same with entries that the caller has; the list's control is its objectName.

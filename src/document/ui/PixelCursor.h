@@ -1,4 +1,4 @@
-// The position that the keyboard moves over the Editing Area: one icon pixel, never outside the icon.
+// The position that the keyboard moves over the Editing Area: one icon pixel, always inside the icon.
 #pragma once
 
 #include <QPoint>
@@ -7,16 +7,16 @@
 
 namespace gp {
 
-// The step of a key over a grid of cells: arrows by one, Home and End along the row, Page Up and Page Down along the
-// column, further than any grid is wide; nothing for any other key.
+// Returns the step of a key on a grid of cells: arrow keys move by one, Home and End along the row, Page Up and Page
+// Down along the column, by more than any grid's size; nullopt for other keys.
 std::optional<QPoint> cellStep(int key);
 
 class PixelCursor {
  public:
   const QPoint& position() const { return position_; }
-  // A key moves the cursor by its cellStep(). False for any other key.
+  // Moves the cursor by a key's cellStep(). Returns false for other keys.
   bool move(int key, int size);
-  // Keeps the cursor inside an icon of that size.
+  // Moves the cursor inside an icon of that size.
   void confine(int size);
   void place(const QPoint& position, int size);
 

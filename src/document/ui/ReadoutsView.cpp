@@ -10,7 +10,7 @@ namespace {
 
 struct Cell {
   const char* name;
-  const char* widest;  // the longest text it shows; the last cell takes the rest of the row
+  const char* widest;  // the longest text of the cell; the last cell fills the rest of the row
 };
 
 constexpr std::array<Cell, kReadoutCount> kCells = {

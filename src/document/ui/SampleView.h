@@ -1,5 +1,5 @@
-// The square in which a side panel shows a picture: as large as whole factors allow, in the middle. It keeps no pixels:
-// the Surface, which must outlive it, may get another size or content at any time; refresh() shows it.
+// A square in which a side panel shows a picture, centred and enlarged by the largest integer factor that fits. It
+// keeps no pixels. The Surface must outlive it and can change at any time; refresh() shows the change.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -11,13 +11,13 @@ namespace gp {
 
 class SampleView : public QWidget, public AccessibleValue {
  public:
-  // `room` is the side of the largest picture, in pixels of the desktop.
+  // `room` is the side of the largest picture, in device-independent pixels.
   SampleView(QWidget* parent, const QString& objectName, const QString& accessibleName, const Surface& picture,
              int room);
 
-  // The picture has another content or size.
+  // Must be called after the picture's content or size has changed.
   void refresh();
-  // What a screen reader speaks of the picture: its size until another text is given.
+  // Sets the picture's accessible text, which otherwise is its size.
   void setValueText(const QString& text);
 
   QString accessibleValue() const override;

@@ -15,7 +15,7 @@ constexpr int kProgressWidth = 104;
 constexpr int kProgressHeight = 14;
 constexpr int kEdge = 4;
 constexpr int kVertical = 2;
-// A text that fills a panel at its widest; the first panel takes what is left.
+// The widest text of each panel; the first panel fills the rest.
 constexpr std::array<const char*, kStatusPanelCount> kWidest = {"", " * ", "MIF", "48 x 48", "Alpha"};
 
 }  // namespace

@@ -1,5 +1,5 @@
-// picStatusBar: the five panels, the alpha indicator and the progress of long work. Every panel has its place whether
-// it is filled or not.
+// picStatusBar: the five panels, the alpha indicator and the progress of long operations. Every panel has a fixed
+// position, whether it is filled or not.
 #pragma once
 
 #include "document/ScreenState.h"
@@ -33,7 +33,7 @@ class StatusBarView : public QWidget {
   std::array<TextCell*, kStatusPanelCount> lblStatusPanel_{};
   QWidget* imgAlpha_ = nullptr;
   QWidget* progressPlace_ = nullptr;
-  QProgressBar* progress_ = nullptr;  // made when the first long work begins
+  QProgressBar* progress_ = nullptr;  // created by the first long operation
 };
 
 }  // namespace gp

@@ -14,7 +14,7 @@ namespace {
 constexpr QRgb kOpaque = 0xFF000000;
 constexpr int kRedShift = 16;
 
-// 0x00BBGGRR to 0xffRRGGBB.
+// Converts 0x00BBGGRR to 0xffRRGGBB.
 QRgb swapped(std::uint32_t pixel) {
   return kOpaque | (pixel & 0xFF) << kRedShift | (pixel & 0xFF00) | (pixel >> kRedShift & 0xFF);
 }

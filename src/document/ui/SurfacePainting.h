@@ -1,5 +1,5 @@
-// How Surfaces come onto widgets: straight from their pixels, a whole number of device pixels for each of theirs, never
-// smoothed. Nothing is kept between two paint events.
+// Paints Surfaces on widgets directly from their pixels, at an integer number of device pixels per Surface pixel, never
+// smoothed. Keeps no state between paint events.
 #pragma once
 
 #include "document/ScreenScale.h"
@@ -11,30 +11,30 @@
 
 namespace gp {
 
-// A painter whose unit is the device pixel, with the widget's corner on a whole one.
+// A painter in units of device pixels, with the widget's corner at an integer device pixel.
 class DevicePainter : public QPainter {
  public:
   explicit DevicePainter(QWidget* widget);
 
-  // The part of the widget that must be painted, and the whole widget, in device pixels.
+  // Converts a rectangle from the widget's pixels to device pixels, rounded outwards.
   QRect toDevice(const QRect& logical) const;
 
  private:
   double ratio_;
 };
 
-// How far the corner of a widget is moved, in its own pixels, to come onto a whole device pixel.
+// Returns the offset, in the widget's pixels, that moves its corner to an integer device pixel.
 QPointF deviceShift(const QWidget* widget);
-// The device pixel of a widget under a position in its own pixels.
+// Returns the device pixel of a widget at a position in the widget's pixels.
 QPoint devicePointAt(const QWidget* widget, const QPointF& position);
 
 QRgb toRgb(Color color);
 
-// A part of what a Surface looks like through a scale; `part` is in device pixels and must lie inside.
+// Returns a part of a Surface seen through a scale; `part` is in device pixels and must lie inside.
 QImage imageOf(const Surface& surface, const ScreenScale& scale, const QRect& part);
 
-// Paints a Surface of one pixel a cell in the middle of an area, as large as whole factors allow. `area` is in
-// device pixels; what does not fit is cut off evenly.
+// Paints a Surface in the middle of an area, each pixel enlarged to an integer number of device pixels by `ratio`.
+// `area` is in device pixels; a Surface that does not fit is cut off evenly.
 void paintCentred(DevicePainter& painter, const Surface& surface, const QRect& area, double ratio);
 
 }  // namespace gp

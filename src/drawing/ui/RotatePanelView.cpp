@@ -21,11 +21,11 @@ namespace {
 constexpr int kRowGap = 8;
 constexpr int kSampleScale = 2;
 constexpr int kAngleLetters = 6;
-constexpr int kLongestAngle = 24;  // characters that can be typed
+constexpr int kLongestAngle = 24;  // the largest number of characters that can be typed
 constexpr int kSliderPage = 15;
 constexpr int kVisibleAngles = 12;
 
-// Gives each text when it is asked for, as hardly any of them ever is.
+// Creates each text on request, because few of them are ever shown.
 class AngleList : public QAbstractListModel {
  public:
   using QAbstractListModel::QAbstractListModel;
@@ -67,7 +67,7 @@ QWidget* RotatePanelView::makeAngleRow() {
   angle->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   angle->setMaxVisibleItems(kVisibleAngles);
   angle->setModel(new AngleList(angle));
-  // It would make "30" of a typed "3".
+  // The completer would change a typed "3" to "30".
   angle->setCompleter(nullptr);
   angle->lineEdit()->setMaxLength(kLongestAngle);
   angle->lineEdit()->setAccessibleName("Angle");
@@ -121,13 +121,13 @@ void RotatePanelView::refresh() {
   picRotateImageSample_->setValueText(QString("%1 degrees").arg(panel_.hsrRotateImageAngle()));
 }
 
-// The text may be one that is being typed: it stays as it is, and so does the place in it.
+// Keeps a text that is being typed, and the cursor's position in it.
 void RotatePanelView::refreshAngle() {
   const QSignalBlocker quiet(cboRotateImageAngle_);
   QLineEdit* typed = cboRotateImageAngle_->lineEdit();
   const int place = typed->cursorPosition();
   const QString text = toText(panel_.cboRotateImageAngle());
-  // The arrow keys go on from this item.
+  // The arrow keys continue from this item.
   const int index = panel_.hsrRotateImageAngle() + kLargestAngle;
   if (cboRotateImageAngle_->currentIndex() != index) cboRotateImageAngle_->setCurrentIndex(index);
   if (typed->text() == text) return;

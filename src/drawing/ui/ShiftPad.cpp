@@ -24,7 +24,7 @@ struct CellLook {
   const char* name;
 };
 
-// Row by row; the middle one is the tool.
+// Row by row; the middle cell is the tool.
 constexpr std::array<CellLook, kCellsAcross* kCellsAcross> kCells = {{
     {ShiftCell::TopLeft, "shift-nw", "Shift up left"},
     {ShiftCell::Top, "shift-n", "Shift up"},
@@ -69,7 +69,7 @@ PictureButton* ShiftPad::makeTool() {
   return imgTool_;
 }
 
-// A key that is let go elsewhere is no click, and only takes the pressed look back.
+// A key released outside the button is not a click, but must reset the pressed look.
 PictureButton* ShiftPad::makeDirection(ShiftCell cell) {
   const CellLook& look = lookOf(cell);
   auto* button =
@@ -88,7 +88,7 @@ void ShiftPad::press(ShiftCell cell) {
   refresh();
 }
 
-// The look comes first: what follows may show a message, and ends only when that is closed.
+// The look is reset first, because the slots may show a message and return only when it is closed.
 void ShiftPad::release(ShiftCell cell) {
   press(ShiftCell::Rest);
   emit directionReleased(cell);
@@ -120,7 +120,7 @@ void ShiftPad::mousePressEvent(QMouseEvent* event) {
   press(shiftCellAt(event->position().x(), event->position().y(), kSide));
 }
 
-// Quick clicks are as many steps.
+// Each click of a quick series is a step.
 void ShiftPad::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
 
 void ShiftPad::mouseReleaseEvent(QMouseEvent* event) {
@@ -134,7 +134,7 @@ void ShiftPad::hideEvent(QHideEvent* event) {
   QWidget::hideEvent(event);
 }
 
-// A press whose release goes to another window does nothing.
+// When the release goes to another window, the press has no effect.
 bool ShiftPad::event(QEvent* event) {
   if (event->type() == QEvent::WindowDeactivate || event->type() == QEvent::WindowBlocked) letGo();
   return QWidget::event(event);

@@ -1,6 +1,6 @@
-// imgShiftDirBase, the pad of 3 x 3 cells that moves the whole picture: eight directions round imgTool(15), which turns
-// Shift on and off. The cells are buttons for the keyboard; the mouse works the pad as a whole, so that a press may end
-// over another cell. Looks dimmed while there is nothing to draw on, but still takes clicks.
+// imgShiftDirBase, the pad of 3 x 3 cells that moves the whole picture: eight directions around imgTool(15), which
+// turns Shift on and off. The cells are buttons for the keyboard; the mouse uses the pad as a whole, so that a press
+// can end over another cell. The pad looks dimmed while there is nothing to draw on, but still accepts clicks.
 #pragma once
 
 #include "drawing/ShiftTool.h"
@@ -49,9 +49,9 @@ class ShiftPad : public QWidget {
   ShiftTool& shift_;
   RovingFocus* focus_;
   PictureButton* imgTool_ = nullptr;
-  // imgShiftDir, by the index of ShiftCell; the first is not used.
+  // imgShiftDir, by the index of ShiftCell; the first entry is unused.
   std::array<PictureButton*, kShiftPictureCount> imgShiftDir_{};
-  bool held_ = false;  // by the mouse
+  bool held_ = false;  // with the mouse
 };
 
 }  // namespace gp

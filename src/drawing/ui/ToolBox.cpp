@@ -28,7 +28,7 @@ ToolBox::ToolBox(QWidget* parent, const ScreenState& screen, const Tools& tools,
   grid_->setContentsMargins(0, 0, 0, 0);
   grid_->setSpacing(0);
   for (const ToolRow& row : toolTable()) {
-    if (row.index == kShift) continue;  // stands in the middle of its pad
+    if (row.index == kShift) continue;  // shown on the ShiftPad
     PictureButton* button = add(QString("imgTool(%1)").arg(row.index), {row.picture, toText(row.tooltip), kButtonSide});
     button->setAccessibleName(toText(toolName(row.index)));
     button->setCheckable(true);

@@ -1,6 +1,6 @@
 // The tool box: imgTool(4..14), the colour picker and the button that clears all tools, in two columns. It shows the
-// state of Tools and forwards clicks; while there is nothing to draw on it looks dimmed but still takes them. Shift has
-// its place on the ShiftPad.
+// state of Tools and forwards clicks. While there is nothing to draw on, it looks dimmed but still accepts clicks.
+// Shift is on the ShiftPad.
 #pragma once
 
 #include "drawing/ToolTable.h"

@@ -47,7 +47,7 @@ FileDialogRequest requestOf(const Options& options, unsigned flags) {
           flags};
 }
 
-// The text up to the next NUL, which is taken off with it.
+// Returns the text up to the next NUL and removes it, with the NUL, from `text`.
 std::string takeUpToNul(std::string_view& text) {
   const std::size_t end = std::min(text.find(kNul), text.size());
   std::string taken(text.substr(0, end));
@@ -94,7 +94,7 @@ std::string clsGPDialog::chooseFolder(const std::string& pattern, const std::str
   return dialogs_.chooseFolder(pattern, startFolder);
 }
 
-// A colon in a description separates too: descriptions have none.
+// Filter descriptions contain no colon, so a colon is always a separator.
 std::string separateFilter(std::string_view filter) {
   std::string separated(filter);
   std::replace_if(

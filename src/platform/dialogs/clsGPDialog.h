@@ -1,5 +1,5 @@
-// The one dialog object of the program: a thin layer over the desktop's common dialogs that composes their flag words
-// and takes filter texts apart.
+// The program's single dialog object: a thin layer over the desktop's common dialogs. It composes their flag words and
+// parses filter texts.
 #pragma once
 
 #include "platform/ports/FileDialogs.h"
@@ -35,16 +35,16 @@ class clsGPDialog {
  public:
   explicit clsGPDialog(FileDialogs& dialogs) : dialogs_(dialogs) {}
 
-  // The chosen path, or empty.
+  // Returns the chosen path, empty after a cancel or an error. The same holds for ShowSave.
   std::string ShowOpen(const OpenOptions& options);
   std::string ShowSave(const SaveOptions& options);
-  // True when a colour was chosen; only then `color` changes.
+  // Returns true when the user chose a colour; `color` changes only then.
   bool ShowColor(Color& color);
-  // True when accepted; only then `copies` changes. `pageRange` offers page numbers instead of a selection.
+  // Returns true when the user accepted; only then `copies` changes. `pageRange` offers page numbers, not a selection.
   bool ShowPrinter(bool pageRange, int& copies);
   std::string chooseFolder(const std::string& pattern, const std::string& startFolder);
 
-  // The error of the last call; 0 after a success or a cancel.
+  // The error code of the last call; 0 after a success or a cancel.
   int extendedError() const { return extendedError_; }
 
  private:
@@ -52,10 +52,10 @@ class clsGPDialog {
   int extendedError_ = 0;
 };
 
-// A filter text with every ":" and "|" turned into NUL, ended by two NULs.
+// Returns a filter text with each ":" and "|" replaced by NUL, followed by two NULs.
 std::string separateFilter(std::string_view filter);
-// The descriptions and patterns in a filter text, up to its first empty description. A description without a pattern is
-// dropped.
+// Returns the descriptions and patterns in a filter text, up to the first empty description. A description without a
+// pattern is dropped.
 std::vector<FileFilter> parseFilter(std::string_view filter);
 
 }  // namespace gp

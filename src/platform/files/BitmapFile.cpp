@@ -50,13 +50,13 @@ void writeRow(std::span<const std::uint32_t> row, ByteWriter& out) {
   out.zeros(dib::rowStride(width, kBits) - dib::rowBytes(width, kBits));
 }
 
-// Bytes of all pixels of a bitmap whose header begins where `header` does.
+// Returns the size in bytes of all pixels of the bitmap whose header starts at the first byte of `header`.
 std::uint64_t statedPixelBytes(ByteReader header) {
   const std::uint32_t compression = header.u32At(dib::kHeaderCompression);
   if (compression != kUncompressed && compression != kBitFields) return header.u32At(dib::kHeaderSizeImage);
   const std::int32_t width = header.i32At(dib::kHeaderWidth);
   if (width <= 0) return kEndless;
-  // A negative height turns the order of the rows round. With so few bits the product cannot wrap.
+  // A negative height reverses the row order. With at most kMostBits bits per pixel the product cannot wrap.
   const auto rows = static_cast<std::uint64_t>(std::llabs(header.i32At(dib::kHeaderHeight)));
   return rows * dib::rowStride(width, std::min<int>(header.u16At(dib::kHeaderBitCount), kMostBits));
 }

@@ -1,4 +1,4 @@
-// Bitmap files: writing a Surface as a plain one, and telling whether one is all there. Nothing is kept between calls.
+// Bitmap files: writes a Surface as an uncompressed bitmap, and checks whether a bitmap file is complete.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -10,13 +10,13 @@
 
 namespace gp {
 
-// The plain bitmap file of a Surface: 24 bits per pixel, bottom row first, no compression.
+// Returns a bitmap file with the pixels of a Surface: 24 bits per pixel, bottom row first, no compression.
 std::vector<std::uint8_t> composeBitmap(const Surface& surface);
-// Replaces an existing file. False when it cannot be written.
+// Writes that file, replacing an existing one. Returns false when it cannot be written.
 [[nodiscard]] bool writeBitmap(const Surface& surface, const std::string& path);
 
-// True when the bytes are a bitmap file of which no pixel is missing. A compressed one is judged by the size that it
-// states for itself, and one with a header of another kind than the usual is taken as it is.
+// Returns true when the bytes are a bitmap file without missing pixels. A compressed bitmap is checked against the
+// image size in its header; a bitmap with a header shorter than BITMAPINFOHEADER is accepted unchecked.
 bool isWholeBitmap(std::span<const std::uint8_t> bytes);
 
 }  // namespace gp

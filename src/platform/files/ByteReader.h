@@ -1,5 +1,5 @@
-// Reads little-endian values out of foreign bytes. It does not own them: the span must outlive the reader. It refuses
-// nothing and never leaves the span; bytes behind the end read as zero and raise beyondEnd().
+// Reads little-endian values from untrusted bytes. The reader does not own the bytes: the span must outlive it. Reading
+// never fails and never leaves the span: missing bytes read as zero and set beyondEnd().
 #pragma once
 
 #include <algorithm>
@@ -17,14 +17,14 @@ class ByteReader {
   constexpr explicit ByteReader(std::span<const std::uint8_t> bytes, Position position = 0)
       : bytes_(bytes), position_(position) {}
 
-  // Values at an absolute position; the reader's own position stays.
+  // Values at an absolute position; the reader's current position does not change.
   constexpr std::uint8_t u8At(Position at) { return static_cast<std::uint8_t>(read(at, 1)); }
   constexpr std::uint16_t u16At(Position at) { return static_cast<std::uint16_t>(read(at, 2)); }
   constexpr std::uint32_t u32At(Position at) { return read(at, 4); }
   constexpr std::int16_t i16At(Position at) { return static_cast<std::int16_t>(u16At(at)); }
   constexpr std::int32_t i32At(Position at) { return static_cast<std::int32_t>(u32At(at)); }
 
-  // Values one after the other.
+  // Values at the current position, which advances past them.
   constexpr std::uint8_t u8() { return static_cast<std::uint8_t>(next(1)); }
   constexpr std::uint16_t u16() { return static_cast<std::uint16_t>(next(2)); }
   constexpr std::uint32_t u32() { return next(4); }
@@ -32,22 +32,22 @@ class ByteReader {
   constexpr std::int32_t i32() { return static_cast<std::int32_t>(u32()); }
 
   constexpr void seek(Position position) { position_ = position; }
-  // A step that would wrap stays at the largest position.
+  // Advances by `count`; stops at the largest position instead of wrapping.
   constexpr void skip(Position count) { position_ = sum(position_, count); }
   constexpr Position position() const { return position_; }
   constexpr Position size() const { return bytes_.size(); }
   constexpr Position remaining() const { return position_ < size() ? size() - position_ : 0; }
 
-  // True when [at, at + count) lies inside.
+  // Returns true when [at, at + count) lies inside the bytes.
   constexpr bool contains(Position at, Position count) const { return at <= size() && count <= size() - at; }
-  // The part of [at, at + count) that lies inside; a shorter span than asked for raises beyondEnd().
+  // Returns the part of [at, at + count) that lies inside the bytes. Sets beyondEnd() when that is not all of it.
   constexpr std::span<const std::uint8_t> bytesAt(Position at, Position count) {
     if (!contains(at, count)) beyondEnd_ = true;
     const Position first = std::min(at, size());
     return bytes_.subspan(first, std::min(count, size() - first));
   }
 
-  // True once anything behind the end has been asked for.
+  // True when a byte behind the end has been requested.
   constexpr bool beyondEnd() const { return beyondEnd_; }
 
  private:

@@ -1,5 +1,4 @@
-// Builds a file in memory, value after value, little-endian. It owns the bytes until take() hands them out; nothing is
-// refused.
+// Builds a file in memory from little-endian values. The writer owns the bytes until take() returns them.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +12,7 @@ namespace gp {
 class ByteWriter {
  public:
   ByteWriter() = default;
-  // Room for so many bytes is reserved at once.
+  // Reserves memory for `expectedSize` bytes; more can be written.
   explicit ByteWriter(std::size_t expectedSize) { bytes_.reserve(expectedSize); }
 
   void u8(std::uint8_t value) { bytes_.push_back(value); }
@@ -24,7 +23,7 @@ class ByteWriter {
   void bytes(std::span<const std::uint8_t> values) { bytes_.insert(bytes_.end(), values.begin(), values.end()); }
   void text(std::string_view characters) { bytes_.insert(bytes_.end(), characters.begin(), characters.end()); }
   void zeros(std::size_t count) { bytes_.resize(bytes_.size() + count); }
-  // Changes a value written before, such as a size known only at the end; [at, at + 4) must have been written.
+  // Overwrites a value written earlier, such as a size known only at the end. [at, at + 4) must have been written.
   void setU32(std::size_t at, std::uint32_t value) {
     for (int i = 0; i < 4; ++i) bytes_.at(at + i) = static_cast<std::uint8_t>(value >> (i * kBitsPerByte));
   }

@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Above any icon file and nearly any program, and still read in a fraction of a second.
+// Larger than any icon file and nearly any program, and still read in a fraction of a second.
 constexpr std::uintmax_t kMaxFileBytes = std::uintmax_t{256} << 20;
 
 bool isRegularFile(const fs::path& path) {
@@ -26,7 +26,7 @@ std::optional<std::uintmax_t> sizeOf(const fs::path& path) {
   return error ? std::nullopt : std::optional(size);
 }
 
-// Zeros that the system gives only when they are touched. Nothing without the room for them.
+// Memory filled with zeros, which the system allocates only when it is touched. Null when there is not enough.
 FileBytes::Memory zeros(std::size_t size) {
   return FileBytes::Memory(static_cast<std::uint8_t*>(std::calloc(std::max<std::size_t>(size, 1), 1)));
 }
@@ -42,7 +42,7 @@ std::optional<FileBytes> readBytes(const fs::path& path, std::size_t size, std::
     stream.read(reinterpret_cast<char*>(bytes.get()) + begin, static_cast<std::streamsize>(wanted));
     if (stream.bad()) return std::nullopt;
     const auto read = static_cast<std::size_t>(stream.gcount());
-    if (read < wanted) return FileBytes(std::move(bytes), begin + read);  // shortened meanwhile
+    if (read < wanted) return FileBytes(std::move(bytes), begin + read);  // the file was shortened meanwhile
   }
   return FileBytes(std::move(bytes), size);
 }
@@ -83,7 +83,7 @@ std::uintmax_t totalSize(Pieces pieces) {
   return size;
 }
 
-// The bytes [begin, end) of the content go to the same place of the file.
+// Writes the bytes [begin, end) of the content at the same positions of the file. Returns false when writing fails.
 bool writeRange(std::fstream& stream, Pieces pieces, std::uintmax_t begin, std::uintmax_t end) {
   stream.seekp(static_cast<std::streamoff>(begin));
   std::uintmax_t start = 0;
@@ -103,7 +103,7 @@ bool cutTo(const fs::path& path, std::uintmax_t size) {
   return !error;
 }
 
-// A byte that could not be written was not lost either, so that writing the former ones again makes the file whole.
+// Restores the former content. That needs no free space: bytes that could not be written were not overwritten either.
 void putBack(const fs::path& path, Piece former) {
   std::error_code ignored;
   if (former.empty()) {
@@ -116,7 +116,7 @@ void putBack(const fs::path& path, Piece former) {
   cutTo(path, former.size());
 }
 
-// The file grows first: when there is no room for that, nothing of the former content has been touched yet.
+// Extends the file first: when the disk is full, this fails before any former content is overwritten.
 WriteOutcome overwrite(const fs::path& path, Pieces pieces, Piece former, std::uintmax_t formerSize) {
   constexpr WriteOutcome kNotWhole{.opened = true, .whole = false};
   std::fstream stream(path, std::ios::in | std::ios::out | std::ios::binary);

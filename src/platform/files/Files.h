@@ -1,5 +1,5 @@
-// The file system as the program uses it: files are read whole and written once from memory. Paths are UTF-8 or
-// whatever bytes the system has. Only regular files are ever opened, so that a pipe or a device cannot hang a reader.
+// File access: files are read whole and written at once from memory. Paths are UTF-8 or any other bytes that the system
+// allows. Only regular files are opened, so a pipe or a device cannot block a reader.
 #pragma once
 
 #include <cstddef>
@@ -13,7 +13,7 @@
 
 namespace gp {
 
-// The bytes of one file.
+// The bytes of one file, owned.
 class FileBytes {
  public:
   struct Free {
@@ -31,51 +31,53 @@ class FileBytes {
   std::size_t size_ = 0;
 };
 
-// The places [begin, end) of a file.
+// The bytes [begin, end) of a file.
 struct FileRange {
   std::uint64_t begin = 0;
   std::uint64_t end = 0;
 };
 
-// The whole file; nothing when it is no regular file, cannot be read, or has more than 256 MB.
+// Returns the whole file; nullopt when it is not a regular file, cannot be read, or exceeds 256 MB.
 std::optional<FileBytes> readFile(const std::string& path);
-// The first `count` bytes of a file, or fewer if it is shorter; nothing as above.
+// Returns the first `count` bytes of a file, fewer if the file is shorter and 256 MB at most. nullopt when it is not a
+// regular file or cannot be read.
 std::optional<FileBytes> readFileStart(const std::string& path, std::size_t count);
-// A file up to the end of the last range, of which only the ranges are read; they are in ascending order and apart from
-// each other. What lies between them is zero and takes no memory. Shorter if the file is; nothing as above.
+// Reads only the given ranges, which must be ascending and disjoint. Returns the bytes up to the end of the last range
+// or of the file; unread bytes are zero and use no memory. nullopt as for readFileStart.
 std::optional<FileBytes> readFileRanges(const std::string& path, std::span<const FileRange> ranges);
-// Writes a file in place of an existing one, whose permissions and links it keeps. False when the old one is read-only
-// (no write permission for its owner) or no regular file, and then it stays as it is; false too when the new one cannot
-// be written whole, and then neither is left.
+// Writes a file, replacing the content of an existing one; permissions and links are kept. Returns false, without
+// touching the file, when it is not a regular file, is read-only (no write permission for its owner) or cannot be
+// opened. Returns false after removing the file when writing fails.
 [[nodiscard]] bool replaceFile(const std::string& path, std::span<const std::uint8_t> bytes);
-// How the writing of a file went; it counts as true when all was written.
+// The result of writing a file; converts to true when all bytes were written.
 struct WriteOutcome {
-  bool opened = false;  // false: what stood there stays as it was
+  bool opened = false;  // false: the existing file was not touched
   bool whole = false;
   operator bool() const { return whole; }
 };
-// Like replaceFile, with a content that stands in pieces, of 256 MB at most. When there is no room for more than the
-// file already has, it stays as it is. After any other failure the former content is put back; an empty one stands for
-// one that is not known, and then no file is left.
+// Like replaceFile, for content in pieces, 256 MB in total at most. A file that cannot grow to the new size keeps its
+// content. After any other failure `former` is written back; when `former` is empty, which means that the former
+// content is unknown, the file is removed.
 [[nodiscard]] WriteOutcome rewriteFile(const std::string& path, std::span<const std::span<const std::uint8_t>> pieces,
                                        std::span<const std::uint8_t> former);
 
-// True when the path is a regular file that can be opened for reading.
+// Returns true when the path is a regular file that can be opened for reading.
 bool FileExists(const std::string& path);
 bool directoryExists(const std::string& path);
-// True when both paths are there and lead to one file, links included.
+// Returns true when both paths exist and refer to the same file, links resolved.
 bool isSameFile(const std::string& first, const std::string& second);
-// True when the file is there and is read-only (no write permission for its owner), hidden, or a directory.
+// Returns true when the file exists and is read-only (no write permission for its owner), hidden, or a directory.
 bool HasFileAttribute(const std::string& path);
-// Names of the regular files directly in a folder that match a pattern, sorted by name with case ignored.
+// Returns the names of the regular files directly in a folder that match a pattern, sorted by name, case ignored.
 std::vector<std::string> filesInFolder(const std::string& folder, const std::string& pattern);
+// Returns the names of the folders directly in a folder, sorted in the same way.
 std::vector<std::string> foldersInFolder(const std::string& folder);
 
-// The folder of the program's own files, with no trailing separator: the executable's folder if it can be written to,
-// otherwise "$XDG_CONFIG_HOME/Glimmerpane" (or "~/.config/Glimmerpane"), made on first need.
+// Returns the folder of the program's settings files, without a trailing separator: the executable's folder if it is
+// writable, otherwise "$XDG_CONFIG_HOME/Glimmerpane" (or "~/.config/Glimmerpane"), created if missing.
 std::string programFolder();
-// The same choice among given folders, an empty one standing for an unset variable. The executable's folder when there
-// is no other. Makes the folder that it tells.
+// Makes the same choice among given folders; an empty folder means an unset variable. Without an absolute configuration
+// folder it returns the executable's folder. Creates the folder that it returns.
 std::string chooseProgramFolder(const std::string& executableFolder, const std::string& configHome,
                                 const std::string& home);
 

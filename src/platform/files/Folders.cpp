@@ -22,7 +22,7 @@ bool isFolder(const fs::directory_entry& entry) {
   return entry.is_directory(error);
 }
 
-// By name with case ignored; names that differ in case alone keep one order, whatever the disk tells.
+// Sorts by name, case ignored. Names that differ only in case are ordered by bytes, so the order is always the same.
 void sortNames(std::vector<std::string>& names) {
   std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
     return std::pair(lowerCase(a), std::string_view(a)) < std::pair(lowerCase(b), std::string_view(b));

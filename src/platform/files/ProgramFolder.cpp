@@ -23,7 +23,7 @@ std::string executableFolder() {
   return fs::read_symlink("/proc/self/exe", error).parent_path().native();
 }
 
-// Permissions alone do not tell: the file system may be mounted read-only. So it is tried.
+// Creates a probe file: permissions do not show that a file system is mounted read-only.
 bool canWriteIn(const fs::path& folder) {
   std::error_code error;
   if (!fs::is_directory(folder, error)) return false;
@@ -33,7 +33,7 @@ bool canWriteIn(const fs::path& folder) {
   return made;
 }
 
-// Only absolute folders count in these variables.
+// Relative folders in these variables are ignored.
 fs::path configFolder(const fs::path& configHome, const fs::path& home) {
   if (configHome.is_absolute()) return configHome;
   return home.is_absolute() ? home / ".config" : fs::path();

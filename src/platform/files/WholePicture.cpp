@@ -20,13 +20,13 @@ constexpr int kScreenFlags = 10;
 constexpr int kHeaderSize = 13;
 constexpr int kExtension = 0x21;
 constexpr int kPicture = 0x2C;
-constexpr int kPictureFlags = 8;  // from behind the block's first byte
+constexpr int kPictureFlags = 8;  // counted from the byte after the block's first one
 constexpr int kPictureHeaderSize = 9;
 }  // namespace gif
 
 namespace png {
 constexpr int kSignatureSize = 8;
-constexpr int kChunkExtra = 8;  // type and check sum
+constexpr int kChunkExtra = 8;  // type and checksum
 constexpr std::uint32_t kEnd = 0x49454E44;
 }  // namespace png
 
@@ -36,7 +36,7 @@ std::uint32_t bigEndian(ByteReader& reader, int bytes) {
   return value;
 }
 
-// Bytes of the colour table that the flags of a screen or a picture announce.
+// Returns the size in bytes of the colour table that a screen's or picture's flags announce, 0 for none.
 ByteReader::Position colorTableSize(int flags) {
   constexpr int kHasTable = 0x80;
   constexpr int kSizeBits = 7;
@@ -57,7 +57,7 @@ bool isWholeJpeg(std::span<const std::uint8_t> bytes) {
     while (reader.u8At(reader.position()) == jpeg::kMark) reader.skip(1);
     const int kind = reader.u8();
     if (kind == jpeg::kStartOfScan) break;
-    // The length counts its own two bytes.
+    // The length includes its own two bytes.
     reader.skip(std::max(bigEndian(reader, 2), 2U) - 2);
   }
   const auto scans = bytes.subspan(std::min(reader.position(), reader.size()));
@@ -72,7 +72,7 @@ bool isWholeGif(std::span<const std::uint8_t> bytes) {
     if (block != gif::kExtension && block != gif::kPicture) return false;
     if (block == gif::kPicture)
       reader.skip(gif::kPictureHeaderSize + colorTableSize(reader.u8At(reader.position() + gif::kPictureFlags)));
-    reader.skip(1);  // the kind of an extension, the code size of a picture
+    reader.skip(1);  // the type of an extension, or the code size of a picture
     skipBlocks(reader);
     if (block == gif::kPicture) break;
   }

@@ -1,5 +1,5 @@
-// Tells whether the bytes of a picture file reach as far as its own structure says. Readers of pictures tend to fill up
-// what is missing, which is no use for pictures that are data. Nothing is decoded, and nothing is kept.
+// Checks that the bytes of a picture file reach the end that its structure states. Picture readers tend to fill missing
+// data in silently, which would falsify pictures used as data. Nothing is decoded.
 #pragma once
 
 #include <cstdint>
@@ -7,11 +7,11 @@
 
 namespace gp {
 
-// Up to the mark behind the scans; marks inside an embedded preview do not count.
+// True when the end marker follows the scans. Markers inside an embedded preview do not count.
 bool isWholeJpeg(std::span<const std::uint8_t> bytes);
-// Up to the end of the first picture, its last block included.
+// True when the first picture is complete, with its last block.
 bool isWholeGif(std::span<const std::uint8_t> bytes);
-// Up to the end of the last chunk.
+// True when the last chunk is complete.
 bool isWholePng(std::span<const std::uint8_t> bytes);
 
 }  // namespace gp

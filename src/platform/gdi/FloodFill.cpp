@@ -27,7 +27,7 @@ class Filler {
 
   void fillSpan(Seed seed) {
     const std::uint32_t* pixels = surface_.row(seed.y).data();
-    // Another span may have reached the seed in the meantime.
+    // Another span may have filled the seed already.
     if (!isOpen(pixels[seed.x])) return;
     int left = seed.x;
     int right = seed.x + 1;
@@ -39,7 +39,7 @@ class Filler {
     if (seed.y + 1 < surface_.height()) seedRuns(left, right, seed.y + 1);
   }
 
-  // One seed for each run of open pixels in the row next to a span.
+  // Adds one seed for each run of open pixels in a row adjacent to a span.
   void seedRuns(int left, int right, int y) {
     const std::uint32_t* pixels = surface_.row(y).data();
     bool inRun = false;
@@ -59,7 +59,7 @@ class Filler {
 
 bool ExtFloodFill(Surface& surface, int x, int y, Color surfaceColor) {
   if (!surface.contains(x, y) || surface.GetPixel(x, y) != surfaceColor) return false;
-  // Filling with the same colour would never run out of open pixels.
+  // Filled pixels must not look open, or filling would not end.
   if (storedForm(surface.fillColor) != storedForm(surfaceColor)) Filler(surface, surfaceColor).run(x, y);
   return true;
 }

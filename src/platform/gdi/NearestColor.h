@@ -1,4 +1,4 @@
-// Matching a colour against the entries of a palette, as the platform does it.
+// Matches a colour against the entries of a palette, as the platform does.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -7,8 +7,8 @@
 
 namespace gp {
 
-// The index of the entry with the least squared distance in red, green and blue, the first among equals; -1 for an
-// empty palette.
+// Returns the index of the entry with the least squared distance in red, green and blue, the first one among equals; -1
+// for an empty palette.
 int GetNearestPaletteIndex(std::span<const Color> palette, Color color);
 
 }  // namespace gp

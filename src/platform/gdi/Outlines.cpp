@@ -9,13 +9,13 @@ namespace {
 
 int signOf(int v) { return (v > 0) - (v < 0); }
 
-// How far the lesser coordinate has come after step of `steps` steps, of `distance` in all, in the direction of sign.
+// The lesser coordinate's offset after `step` of `steps` steps, when it changes by sign * distance in all of them.
 int slant(std::int64_t step, std::int64_t steps, std::int64_t distance, int sign) {
   return sign * static_cast<int>((2 * step * distance + steps - (sign > 0 ? 1 : 0)) / (2 * steps));
 }
 
-// The lower right quadrant, from its right end downwards. The outline goes on to the pixel, of the next column, row or
-// both, that keeps the error between the two thresholds.
+// The lower right quadrant, from its right end downwards. Each step goes to the next column, row or both, whichever
+// keeps the error between the two thresholds.
 PixelPath lowerRightQuadrant(const ShapeBox& box) {
   const std::int64_t a = box.width() - 1;
   const std::int64_t b = box.height() - 1;
@@ -60,8 +60,8 @@ PixelPath wholePath(const ShapeBox& box, const PixelPath& quadrant) {
   return path;
 }
 
-// The place in the whole path where the direction (x, y) from the middle meets it; y goes upwards. In two quadrants a
-// pixel exactly in that direction lies behind the place, in the other two before it.
+// The index in the whole path at which the direction (x, y) from the middle meets it; y points upwards. In two
+// quadrants a pixel exactly in that direction comes after the index, in the other two before it.
 std::int64_t placeOnPath(const PixelPath& quadrant, Pixel middle, std::int64_t x, std::int64_t y) {
   const bool right = x >= 0;
   const auto meets = [&](Pixel p) {
@@ -99,7 +99,7 @@ PixelPath rectanglePath(const ShapeBox& box) {
   PixelPath path;
   for (int x = box.left; x < right; ++x) path.push_back({x, box.top});
   for (int y = box.top; y < bottom; ++y) path.push_back({right, y});
-  // A box of one row or column is gone over only once.
+  // A box of one row or column is traversed only once.
   if (box.height() > 1)
     for (int x = right; x > box.left; --x) path.push_back({x, bottom});
   if (box.width() > 1)
@@ -116,11 +116,11 @@ PixelPath ellipsePath(const ShapeBox& box) {
 PixelPath arcPath(const ShapeBox& box, Pixel start, Pixel end, ArcDirection direction) {
   if (box.isEmpty()) return {};
   PixelPath quadrant = lowerRightQuadrant(box);
-  // In a box one pixel wide the platform's arcs know the middle only.
+  // In a box one pixel wide the platform's arcs contain only the middle.
   if (box.width() == 1) quadrant.resize(1);
   const PixelPath whole = wholePath(box, quadrant);
   const Pixel middle = {(box.left + box.right) / 2, (box.top + box.bottom) / 2};
-  // A clockwise arc is the counter-clockwise one upside down.
+  // A clockwise arc is the counter-clockwise arc mirrored vertically.
   const int upwards = direction == ArcDirection::CounterClockwise ? 1 : -1;
   const auto placeOf = [&](Pixel p) {
     return placeOnPath(quadrant, middle, std::int64_t{p.x} - middle.x, upwards * (std::int64_t{middle.y} - p.y));

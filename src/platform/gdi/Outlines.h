@@ -1,7 +1,7 @@
-// The pixels under the tip of a pen on its way round the platform's shapes, in order. Plain values, no Surface.
+// The pixels that a pen visits along the outlines of the platform's shapes, in order. Independent of any Surface.
 //
-// An ellipse is walked with an integer error term, one quadrant for all four. Boxes of shapes are half open: right and
-// bottom are one behind the last pixel.
+// An ellipse is computed with an integer error term for one quadrant and mirrored. Shape boxes are half open: right and
+// bottom are one past the last pixel.
 #pragma once
 
 #include <vector>
@@ -24,20 +24,20 @@ struct ShapeBox {
 
 enum class ArcDirection { CounterClockwise, Clockwise };
 
-// From (x1, y1) to (x2, y2), both included. A position half way between two pixels takes the upper or left one.
+// Returns the pixels of a line, both ends included. Positions halfway between two pixels become the upper or left one.
 PixelPath linePath(Pixel from, Pixel to);
 
-// Once round a box that is not empty, clockwise from its top left pixel, which is not repeated.
+// Returns the outline of a non-empty box, clockwise from its top left pixel, which is not repeated.
 PixelPath rectanglePath(const ShapeBox& box);
 
-// Once round the ellipse that fills a box, counter-clockwise from the right end of its upper half. Pixels on the axes
-// stand in it twice in succession; in boxes a pixel or two wide or high, others may as well. The tips of very slender
-// upright ellipses are missing, as on the platform.
+// Returns the outline of the ellipse that fills a box, counter-clockwise from the right end of its upper half. It
+// contains the pixels on the axes twice in succession, and in boxes one or two pixels wide or high possibly others. The
+// tips of very narrow upright ellipses are missing, as on the platform. Empty for an empty box.
 PixelPath ellipsePath(const ShapeBox& box);
 
-// The part of the ellipse's path from the direction of start to that of end, seen from the middle of the box; the
-// whole path, beginning there, when both directions meet the same pixel. Its last pixel is the end, which a thin pen
-// leaves out. In a box one pixel wide only the pixels around the middle belong to it.
+// Returns the part of the ellipse's path between the directions of `start` and `end`, seen from the middle of the box;
+// the whole path, from there, when both directions meet the same pixel. A thin pen does not draw its last pixel. In a
+// box one pixel wide only the pixels around the middle belong to it.
 PixelPath arcPath(const ShapeBox& box, Pixel start, Pixel end, ArcDirection direction);
 
 }  // namespace gp

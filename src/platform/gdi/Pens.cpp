@@ -9,7 +9,7 @@
 namespace gp {
 namespace {
 
-// The nearest pixel, halves upwards; nothing for what no pen reaches.
+// Returns the nearest pixel, halves rounded upwards; nullopt beyond kMaxPenPosition.
 std::optional<int> toPixel(double v) {
   const double rounded = std::floor(v + 0.5);
   if (!(std::abs(rounded) < kMaxPenPosition)) return std::nullopt;
@@ -23,7 +23,7 @@ std::optional<Pixel> toPixel(double x, double y) {
   return Pixel{*column, *row};
 }
 
-// An ellipse by its middle and half axes.
+// An ellipse given by its centre and half axes.
 struct Oval {
   double centerX, centerY, radiusX, radiusY;
 
@@ -49,7 +49,7 @@ struct Oval {
   static ShapeBox boxFrom(Pixel first, Pixel last) { return {first.x, first.y, last.x + 1, last.y + 1}; }
 };
 
-// Gives a Surface the pen of the bands while it lives.
+// Sets the band pen on a Surface for the lifetime of this object.
 class BandPen {
  public:
   explicit BandPen(Surface& surface)
@@ -92,9 +92,9 @@ void DrawLine(Surface& surface, int x1, int y1, int x2, int y2, Color color) {
 
 void DrawBox(Surface& surface, int x1, int y1, int x2, int y2, Color color) {
   const ShapeBox corners = {std::min(x1, x2), std::min(y1, y2), std::max(x1, x2), std::max(y1, y2)};
-  // One behind a corner must still be a number; no pen reaches that far anyway.
+  // The position one past a corner must not overflow; pens do not reach that far anyway.
   if (corners.right >= kMaxPenPosition || corners.bottom >= kMaxPenPosition) return;
-  // The platform's rectangle of one pixel would be nothing: the step of one pixel to its right draws it.
+  // The platform draws nothing for a rectangle of one pixel. A line one pixel to the right draws that pixel.
   if (x1 == x2 && y1 == y2 && surface.penWidth <= 1)
     LineTo(surface, {x1, y1}, {x1 + 1, y1}, color);
   else

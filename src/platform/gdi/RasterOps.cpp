@@ -6,12 +6,12 @@
 namespace gp {
 namespace {
 
-// One axis of a copy: length pixels from source to target. 64 bits, so that no sum of positions overflows.
+// One axis of a copy: `length` pixels from source to target. 64 bits, so that sums of positions cannot overflow.
 struct Range {
   std::int64_t target, source, length;
 };
 
-// The pixels of the axis that exist on both sides.
+// Returns the part of the range that lies inside both Surfaces.
 Range clipped(Range r, int targetSize, int sourceSize) {
   const std::int64_t cut = std::max<std::int64_t>({0, -r.target, -r.source});
   r.target += cut;

@@ -1,5 +1,5 @@
-// Copying a rectangle from one Surface to another, plainly or combined bit by bit with what is there. Nothing is kept
-// or owned; parts outside either Surface are left out on both sides together.
+// Copies a rectangle from one Surface to another, directly or combined bitwise with the target. A rectangle is clipped
+// to both Surfaces.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -8,7 +8,7 @@
 
 namespace gp {
 
-// The values are the platform's own.
+// The values are the platform's raster operation codes.
 enum class RasterOp : std::uint32_t {
   SRCCOPY = 0xCC0020,
   SRCAND = 0x8800C6,
@@ -17,16 +17,16 @@ enum class RasterOp : std::uint32_t {
 };
 
 // Combines the rectangle of source at (sourceX, sourceY) into target at (x, y), all 32 bits of each pixel. A negative
-// width or height takes the pixels up to and including the given position, on both sides. Where the rectangle leaves
-// the source, the target keeps its pixels. source and target may be the same Surface, overlapping as they like. True
-// unless the code is none of the four; an empty rectangle is a success that changes nothing.
+// width or height covers the pixels up to and including the given position, on both sides. Where the rectangle exceeds
+// the source, the target is unchanged. source and target may be the same Surface, with overlap. Returns false only for
+// an unknown code; an empty rectangle is a success that changes nothing.
 bool BitBlt(Surface& target, int x, int y, int width, int height, const Surface& source, int sourceX, int sourceY,
             RasterOp op);
 
-// Whether the code is one of the four.
+// Returns true for one of the four codes.
 bool isKnown(RasterOp op);
 
-// The same for count pixels in a row, which must not overlap, by one of the four codes.
+// Combines `count` pixels of two rows, which must not overlap. op must be one of the four codes.
 void combineRow(std::uint32_t* target, const std::uint32_t* source, int count, RasterOp op);
 
 }  // namespace gp

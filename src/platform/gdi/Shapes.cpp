@@ -19,13 +19,13 @@ ShapeBox ordered(const ShapeBox& box) {
           std::max(box.top, box.bottom)};
 }
 
-// A thin pen that comes back to where it started without having moved leaves no pixel.
+// A thin pen draws nothing when the outline is a single pixel.
 bool isDrawn(const Surface& surface, const ShapeBox& box) {
   const bool isSinglePixel = box.width() == 1 && box.height() == 1;
   return !box.isEmpty() && (!isSinglePixel || surface.penWidth > 1);
 }
 
-// A thin pen stops short of the end, which may stand there more than once.
+// A thin pen does not draw the end pixel, which the path may repeat.
 PixelPath withoutEnd(PixelPath path) {
   if (path.empty()) return path;
   const Pixel last = path.back();
@@ -34,7 +34,7 @@ PixelPath withoutEnd(PixelPath path) {
   return path;
 }
 
-// The rows of an outline from its leftmost to its rightmost pixel.
+// Covers each row from the leftmost to the rightmost pixel of the outline with the brush.
 void fillInside(Stroke& stroke, const ShapeBox& box, const PixelPath& outline) {
   const std::size_t rows = static_cast<std::size_t>(box.height());
   std::vector<std::pair<int, int>> spans(rows, {box.right, box.left - 1});
@@ -78,7 +78,7 @@ void Arc(Surface& surface, ShapeBox box, Pixel start, Pixel end, Color color, Ar
   if (!isReachable(box) || !isReachable(start) || !isReachable(end) || box.isEmpty()) return;
   Stroke stroke(surface, box);
   const PixelPath path = arcPath(box, start, end, direction);
-  // A pen that is put down and never moved draws nothing, however wide.
+  // A pen that does not move draws nothing, whatever its width.
   if (path.size() < 2) return;
   stroke.pen(stroke.isWide() ? path : withoutEnd(path), false);
   stroke.draw(color);

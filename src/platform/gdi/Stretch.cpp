@@ -16,7 +16,7 @@ constexpr std::uint32_t kChannelMask = 0xFF;
 using Cells = std::vector<StretchCell>;
 using Row = std::vector<std::uint32_t>;
 
-// Makes the target rows of one stretch, each from the source rows of its cell.
+// Computes the target rows of one stretch, each from the source rows of its cell.
 class RowMaker {
  public:
   RowMaker(const Surface& source, const Cells& columns, StretchMode mode)
@@ -27,7 +27,7 @@ class RowMaker {
     }
   }
 
-  // The row made of the source rows in the cell. Enlarging asks for the same one many times in succession.
+  // Returns the target row for a cell of source rows. Enlarging requests the same cell many times in succession.
   const Row& make(const StretchCell& rows) {
     if (made_ && rows == madeOf_) return row_;
     if (mode_ == StretchMode::KeepOrDrop)
@@ -62,7 +62,7 @@ class RowMaker {
     for (std::size_t i = 0; i < row_.size(); ++i) row_[i] = mixedPixel(columns_[i], rowWeight);
   }
 
-  // The weighted sums down each source column that is needed, channel by channel.
+  // Computes the weighted sums of each required source column, per channel.
   void sumColumns(const StretchCell& rows) {
     sums_.assign(static_cast<std::size_t>(right_ - left_) * kChannels, 0);
     for (int y = rows.first; y <= rows.last; ++y) {

@@ -13,24 +13,24 @@ std::int64_t ceilDivide(std::int64_t a, std::int64_t b) { return -floorDivide(-a
 
 int lowestOf(int position, int length) { return length < 0 ? position + length + 1 : position; }
 
-// So far out that no rectangle reaches a Surface from there, and that sums of positions stay small.
+// Returns true when no rectangle reaches a Surface from this position. Nearer positions can be added without overflow.
 bool isFarOutside(int position) { return position < -kFarPosition || position > kFarPosition; }
 
 StretchCell cellOf(std::int64_t first, std::int64_t last) { return {static_cast<int>(first), static_cast<int>(last)}; }
 
-// The last source pixel whose centre lies in target pixel i or before it, i may be -1.
+// Returns the last source pixel whose centre lies in or before target pixel i, which may be -1.
 std::int64_t lastOfGroup(std::int64_t i, std::int64_t source, std::int64_t target) {
   return floorDivide(2 * (i + 1) * source - target, 2 * target);
 }
 
-// The whole group of source pixels of target pixel i; enlarging, the one under its centre.
+// Returns the group of source pixels of target pixel i; when enlarging, the source pixel under its centre.
 StretchCell groupCell(std::int64_t i, std::int64_t source, std::int64_t target) {
   if (target < source) return cellOf(lastOfGroup(i - 1, source, target) + 1, lastOfGroup(i, source, target));
   const std::int64_t under = ceilDivide((2 * i + 1) * source, 2 * target) - 1;
   return cellOf(under, under);
 }
 
-// Target pixel i covers [i * source, (i + 1) * source) where a source pixel is target long.
+// Target pixel i covers [i * source, (i + 1) * source) in units in which a source pixel has the length `target`.
 StretchCell averageCell(std::int64_t i, std::int64_t source, std::int64_t target) {
   const std::int64_t begin = i * source;
   const std::int64_t end = begin + source;
@@ -41,7 +41,7 @@ StretchCell averageCell(std::int64_t i, std::int64_t source, std::int64_t target
   return cell;
 }
 
-// The centre of target pixel i, counted in 1 / (2 * target) of a source pixel from the centre of the first one.
+// The centre of target pixel i is computed in units of 1 / (2 * target) source pixels from the first pixel's centre.
 StretchCell mixedCell(std::int64_t i, std::int64_t source, std::int64_t target) {
   const std::int64_t unit = 2 * target;
   const std::int64_t centre = std::clamp<std::int64_t>((2 * i + 1) * source - target, 0, (source - 1) * unit);
@@ -60,7 +60,7 @@ StretchCell cellFor(std::int64_t i, std::int64_t source, std::int64_t target, St
   return cell;
 }
 
-// Moves a cell to its place on the Surface and takes off what lies outside. False when nothing is left.
+// Moves a cell by `offset` and clips it to the Surface. Returns false when nothing is left.
 bool placeCell(StretchCell& cell, int offset, int size) {
   const StretchCell whole = {cell.first + offset, cell.last + offset, cell.firstWeight, cell.middleWeight,
                              cell.lastWeight};

@@ -1,5 +1,5 @@
-// Which source pixels each target pixel of a stretched row or column is made of: the arithmetic behind StretchBlt, for
-// one axis. Plain values, nothing is kept.
+// Computes which source pixels each target pixel of a stretched row or column consists of: the arithmetic behind
+// StretchBlt, for one axis.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -9,7 +9,7 @@
 
 namespace gp {
 
-// The source pixels first to last that make one target pixel, and how much each counts. All weights are above 0.
+// The source pixels first to last that make one target pixel, and their weights. All weights are above 0.
 struct StretchCell {
   int first = 0, last = 0;
   std::int64_t firstWeight = 1, middleWeight = 1, lastWeight = 1;
@@ -21,17 +21,17 @@ struct StretchCell {
   bool operator==(const StretchCell&) const = default;
 };
 
-// One axis of a stretch as the caller gives it, negative lengths included, and the sizes of the two Surfaces.
+// One axis of a stretch as given by the caller, with possibly negative lengths, and the sizes of the two Surfaces.
 struct StretchAxis {
   int target, targetLength, source, sourceLength;
   int targetSize, sourceSize;
 };
 
-// Of several pixels that fall together in keep-or-drop mode the first row or the last column stays.
+// Which of several source pixels keep-or-drop mode keeps: the first one for rows, the last one for columns.
 enum class KeptPixel { First, Last };
 
-// The cells of the target pixels from start on. All of them lie inside both Surfaces; target pixels that would get
-// nothing are left out. No length may exceed kMaxStretchLength.
+// The cells of consecutive target pixels, from `start`. They lie inside both Surfaces; target pixels without a source
+// are omitted. No length may exceed kMaxStretchLength.
 struct StretchCells {
   int start = 0;
   std::vector<StretchCell> cells;

@@ -9,12 +9,12 @@
 namespace gp {
 namespace {
 
-// Pixels of the dotted pen and of its gaps.
+// Length in pixels of a dot, and of the gap after it.
 constexpr std::size_t kDotLength = 3;
 
-// Two nibs one diagonal step apart leave notches between them. The platform's pen closes these pixels, told from the
-// left one of the two; the next width needs other ones. There is one list for steps falling and one for steps rising
-// to the right. Wider nibs leave no notches to speak of.
+// Two nibs one diagonal step apart leave notches between them, which the platform's pen fills. Pixels are relative to
+// the left nib, with one row per width and one table each for steps falling and rising to the right. Wider nibs leave
+// no noticeable notches.
 constexpr int kFirstNotchedWidth = 2;
 constexpr int kMaxNotches = 3;
 struct Notches {
@@ -36,8 +36,8 @@ std::span<const Pixel> notchesFor(int width, bool falling) {
   return std::span<const Pixel>(table[row].pixels).first(static_cast<std::size_t>(table[row].count));
 }
 
-// The pixels under a round pen that stands on (0, 0): the platform's own circle of that width. An even width cannot be
-// centred and hangs over to the left and upwards.
+// The pixels under a round pen at (0, 0): the platform's circle of that width. An even width cannot be centred and
+// extends one pixel further to the left and upwards.
 PixelPath nibOf(int width) {
   const int from = -(width / 2);
   PixelPath nib;
@@ -46,8 +46,8 @@ PixelPath nibOf(int width) {
   return nib;
 }
 
-// The first of `count` bytes from i on that is not 0, or count. Outlines leave most of their box uncovered, so that it
-// is looked at in words.
+// Returns the index of the first byte from i on that is not 0, or `count`. Outlines leave most of their box uncovered,
+// so zeros are skipped a word at a time.
 int nextCovered(const void* covers, int i, int count) {
   constexpr int kWord = sizeof(std::uint64_t);
   const auto* bytes = static_cast<const unsigned char*>(covers);

@@ -1,5 +1,5 @@
-// One drawing operation with a Surface's pen and brush. It first collects which pixels the pen and the brush cover and
-// then draws each of them once, so that overlapping parts do not undo each other in invert mode.
+// One drawing operation with a Surface's pen and brush. It first collects the pixels that pen and brush cover and then
+// draws each of them once, so that overlapping parts do not cancel each other in invert mode.
 #pragma once
 
 #include "platform/gdi/Outlines.h"
@@ -12,18 +12,18 @@ namespace gp {
 
 class Stroke {
  public:
-  // For shapes within the given box; the pen may reach over its edges. Refers to surface while it lives.
+  // For shapes within the given box; the pen may reach over its edges. The surface must outlive the stroke.
   Stroke(Surface& surface, const ShapeBox& box);
 
-  // Whether the pen is wider than one pixel: it then covers ends and single pixels that a thin one leaves out.
+  // True when the pen is wider than one pixel: it then draws end pixels and single pixels that a thin pen does not.
   bool isWide() const { return width_ > 1; }
 
-  // Moves the pen along a path; a closed one leads back to its first pixel.
+  // Moves the pen along a path; a closed path returns to its first pixel.
   void pen(const PixelPath& path, bool closed);
-  // Covers the pixels x1 to x2 of row y with the brush where the pen does not.
+  // Covers the pixels x1 to x2 of row y with the brush, except those that the pen covers.
   void brush(int y, int x1, int x2);
 
-  // Draws everything: the pen in the given colour, the brush in the fill colour.
+  // Draws all covered pixels: those of the pen in the given colour, those of the brush in the fill colour.
   void draw(Color penColor);
 
  private:
@@ -37,12 +37,12 @@ class Stroke {
 
   Surface& surface_;
   const int width_;
-  // The part of the Surface that may be reached.
+  // The part of the Surface that the stroke can reach.
   ShapeBox area_;
   std::vector<Cover> covers_;
 };
 
-// The box that reaches from one position to the other, both included.
+// Returns the smallest box that contains both pixels.
 ShapeBox boxAround(Pixel a, Pixel b);
 
 }  // namespace gp

@@ -70,7 +70,7 @@ void Surface::touch(int x1, int y1, int x2, int y2) {
 }
 
 void Surface::clearToBackColor() {
-  // A new back colour changes pixels that nobody drew on.
+  // A changed back colour also affects pixels that were never drawn.
   if (groundColor_ != backColor) {
     clearPicture();
     return;

@@ -1,6 +1,6 @@
-// The port for the desktop's clipboard, as far as it holds pictures. Its content belongs to whatever program put it
-// there, which may withdraw it at any time: a reader must look at what getImage() says. However large the picture is,
-// only the part that the caller has use for is handed over.
+// The port for pictures on the desktop's clipboard. The content belongs to the program that put it there, which may
+// withdraw it at any time: callers must check the result of getImage(). Only the requested corner of a picture is
+// returned, however large the picture is.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -8,20 +8,20 @@
 namespace gp {
 
 struct ClipboardImage {
-  int width = 0;  // of the whole picture, pixels
+  int width = 0;  // width of the whole picture, pixels
   int height = 0;
-  Surface corner;  // its top left part, at most as large as was asked for
+  Surface corner;  // its top left part, at most as large as requested
 };
 
 class Clipboard {
  public:
   virtual ~Clipboard() = default;
-  // True when a picture is offered. Text and the like count as none.
+  // Returns true when a picture is offered; text and other formats do not count.
   virtual bool hasImage() = 0;
-  // The size of the picture and its corner of at most limit x limit pixels. False, with `image` as it was, when there
-  // is none, when it cannot be read or was withdrawn meanwhile.
+  // Gets the size of the picture and its corner of at most limit x limit pixels. Returns false and leaves `image`
+  // unchanged when there is no picture or it cannot be read.
   virtual bool getImage(ClipboardImage& image, int limit) = 0;
-  // Offers a copy of a picture to other programs. False when the clipboard does not take it.
+  // Offers a copy of a picture to other programs. Returns false when the clipboard refuses it.
   virtual bool setImage(const Surface& image) = 0;
   virtual void clear() = 0;
 };

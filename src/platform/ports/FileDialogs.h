@@ -1,5 +1,4 @@
-// The port for the desktop's dialogs. clsGPDialog (platform/dialogs) speaks to it; the rest of the program speaks to
-// clsGPDialog.
+// The port for the desktop's dialogs. Only clsGPDialog (platform/dialogs) calls it; the rest of the program uses that.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -25,8 +24,8 @@ inline constexpr unsigned kFileMustExist = 0x1000;
 
 struct FileDialogRequest {
   std::string title;
-  std::string fileName;  // proposed name
-  std::string folder;    // where to start; empty: the current directory
+  std::string fileName;  // the proposed name
+  std::string folder;    // the initial folder; empty: the current directory
   std::vector<FileFilter> filters;
   std::string defaultExtension;
   unsigned flags = 0;  // the flag word of the platform's dialog, see clsGPDialog
@@ -44,13 +43,14 @@ struct PrinterRequest {
 class FileDialogs {
  public:
   virtual ~FileDialogs() = default;
-  // True with `path` set when the user chose one. On false `error` is 0 for a cancel, otherwise the dialog's error.
+  // Returns true and sets `path` when the user chose a file. On false, `error` is the error code, 0 for a cancel.
   virtual bool openFile(const FileDialogRequest& request, std::string& path, int& error) = 0;
   virtual bool saveFile(const FileDialogRequest& request, std::string& path, int& error) = 0;
-  // `color` in and out.
+  // `color` is the initial colour and, on true, the chosen one.
   virtual bool chooseColor(Color& color) = 0;
+  // `request` is the initial setting and, on true, the accepted one.
   virtual bool choosePrinter(PrinterRequest& request) = 0;
-  // The program's own folder chooser: the folder, empty on Cancel. `pattern` is such as "*.ICO" or "*.*".
+  // Shows the program's own folder chooser. Returns the folder, empty on Cancel. `pattern` is "*.ICO" or similar.
   virtual std::string chooseFolder(const std::string& pattern, const std::string& startFolder) = 0;
 };
 

@@ -1,4 +1,4 @@
-// The port through which long work lets pending events through.
+// The port through which long operations process pending events.
 #pragma once
 
 namespace gp {
@@ -6,9 +6,9 @@ namespace gp {
 class MessagePump {
  public:
   virtual ~MessagePump() = default;
-  // Handles all pending events.
+  // Processes all pending events.
   virtual void pump() = 0;
-  // Waits, pumping all the while.
+  // Waits for a time and processes events meanwhile.
   virtual void wait(int milliseconds) = 0;
 };
 

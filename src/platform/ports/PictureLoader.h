@@ -1,5 +1,5 @@
-// The port that reads picture files of the formats the platform knows. It is bounded: no file, however large or
-// hostile, costs more time or memory than the largest picture that its caller takes.
+// The port that reads picture files of the formats that the platform supports. Its cost is bounded: no file uses more
+// time or memory than the largest picture that the caller accepts.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -8,23 +8,23 @@
 
 namespace gp {
 
-// TooLarge: the file begins like a picture that exceeds the caller's limits; its pixels were not looked at.
+// TooLarge: the file starts like a picture that exceeds the caller's limits; its pixels were not read.
 enum class PictureProblem { None, Unreadable, TooLarge };
 
 struct LoadedPicture {
   PictureProblem problem = PictureProblem::Unreadable;
-  // The size that the file states, in pixels; 0 x 0 when it is unreadable.
+  // The size stated in the file, in pixels; 0 x 0 when it is unreadable.
   int width = 0;
   int height = 0;
-  // Without a problem the whole picture, its transparent parts white.
+  // The whole picture when there is no problem; transparent parts are white.
   Surface picture{0, 0};
 };
 
 class PictureLoader {
  public:
   virtual ~PictureLoader() = default;
-  // The picture in a file, whose format its content tells and not its name; the first where there are several. A file
-  // that is no picture, is cut short, or is no regular file is unreadable.
+  // Reads the first picture of a file. The content determines the format, not the name. The result is Unreadable when
+  // the file is not a picture, is incomplete, or is not a regular file.
   virtual LoadedPicture loadPicture(const std::string& path, int maxWidth, int maxHeight) = 0;
 };
 

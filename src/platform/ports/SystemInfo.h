@@ -1,4 +1,4 @@
-// The port for what the program asks of the machine: the screen, folders, memory and other processes.
+// The ports for facts about the machine: the screen, folders, memory and other processes.
 #pragma once
 
 #include <string>
@@ -23,16 +23,16 @@ class SystemInfo {
 class Processes {
  public:
   virtual ~Processes() = default;
-  // True when another instance of this program runs.
+  // Returns true when another instance of this program runs.
   virtual bool IsPrevInstance() = 0;
-  // Asks the window of that title to close; nothing when there is none.
+  // Asks the window with that title to close; does nothing when there is none.
   virtual void CloseWindowByTitle(const std::string& title) = 0;
-  // Compares the right-hand end of each process's executable with the name, case ignored.
+  // Compares the end of each process's executable path with the name, case ignored.
   virtual bool IsProcessRunning(const std::string& executable) = 0;
   virtual void TerminateProcessByName(const std::string& executable) = 0;
-  // Starts a program and does not wait for it. False when it cannot be started.
+  // Starts a program without waiting for it. Returns false when it cannot be started.
   virtual bool start(const std::string& path) = 0;
-  // Opens a document with the desktop's program for it. False when there is none.
+  // Opens a document with the desktop's default program. Returns false when there is none.
   virtual bool openDocument(const std::string& path) = 0;
 };
 

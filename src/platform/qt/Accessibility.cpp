@@ -8,7 +8,7 @@
 namespace gp {
 namespace {
 
-// A read-only text: the whole value, with a caret that stays at its start.
+// The accessible interface of a read-only text: the whole value, with a caret that stays at the start.
 class ValueInterface final : public QAccessibleWidget, public QAccessibleTextInterface {
  public:
   ValueInterface(QWidget* shown, const AccessibleValue& value)
@@ -57,7 +57,7 @@ class ValueInterface final : public QAccessibleWidget, public QAccessibleTextInt
   }
 
  private:
-  // Asked anew each time: while a widget is being destroyed its value goes before its interface does.
+  // Queried on each call: while a widget is being destroyed, its value is gone before its interface.
   QString value() const {
     const auto* shown = dynamic_cast<const AccessibleValue*>(object());
     return shown ? shown->accessibleValue() : QString();

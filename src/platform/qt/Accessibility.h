@@ -1,6 +1,6 @@
-// What the program's own widgets tell assistive technology. A widget class that paints its content inherits
-// AccessibleValue beside QWidget: its accessible name stays what setAccessibleName gave it, and its content is offered
-// both as text and as description. Nothing of this runs while no assistive technology is there.
+// Accessibility of the program's own widgets. A widget class that paints its content inherits AccessibleValue besides
+// QWidget: its accessible name is the one set with setAccessibleName, and its content is reported both as text and as
+// description. None of this code runs while no assistive technology is active.
 #pragma once
 
 #include <QAccessible>
@@ -13,15 +13,15 @@ namespace gp {
 class AccessibleValue {
  public:
   virtual ~AccessibleValue() = default;
-  // What the widget shows at this moment, in words.
+  // Returns what the widget currently shows, in words.
   virtual QString accessibleValue() const = 0;
   virtual QAccessible::Role accessibleRole() const { return QAccessible::StaticText; }
 };
 
-// Once, before the first window.
+// Must be called once, before the first window is created.
 void installAccessibility();
 
-// The value of a widget that inherits AccessibleValue is another one now. Does nothing when nobody listens.
+// Reports that the value of a widget with AccessibleValue has changed. Does nothing without assistive technology.
 void accessibleValueChanged(QWidget* widget);
 
 }  // namespace gp

@@ -1,6 +1,6 @@
-// The window that a dialog stands over, for as long as the dialog lives: made before the dialog, so that it outlives
-// it. When two dialogs close at once, or a box closed over one, a desktop may hand the focus to the one that is just
-// going and leave no window active: then the owner asks for it.
+// The parent window of a dialog. Create it before the dialog, so that it is destroyed after it. When two dialogs close
+// at once, or a box closes over a dialog, a desktop may give the focus to a closing window and leave none active: so
+// the destructor activates the parent window.
 #pragma once
 
 #include <QApplication>
@@ -18,12 +18,12 @@ class DialogOwner {
   DialogOwner(const DialogOwner&) = delete;
   DialogOwner& operator=(const DialogOwner&) = delete;
 
-  // Null when there was none.
+  // Null when there is none.
   QWidget* window() const { return window_; }
 
  private:
-  // The modal window that is up, which the desktop need not have made the active one yet; else the active one; else the
-  // main form, which is inactive while the desktop hands the focus on.
+  // The open modal window, which the desktop may not have activated yet; otherwise the active window; otherwise the
+  // main form, which is inactive while the desktop moves the focus.
   static QWidget* present() {
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
     if (QWidget* active = QApplication::activeWindow()) return active;

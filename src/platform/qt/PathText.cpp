@@ -7,7 +7,7 @@
 namespace gp {
 namespace {
 
-constexpr char16_t kByteSurrogate = 0xDC00;  // + the byte, 0x80 to 0xFF
+constexpr char16_t kByteSurrogate = 0xDC00;  // plus the byte, 0x80 to 0xFF
 constexpr int kFirstByte = 0x80;
 constexpr int kLastByte = 0xFF;
 

@@ -1,6 +1,6 @@
-// Paths between the program, where they are the file system's bytes, and Qt, where they are UTF-16. Bytes that are no
-// UTF-8 become the lone surrogates U+DC80 to U+DCFF and come back as the same bytes, so that a name survives a round
-// trip through a widget. A widget shows such a byte as a replacement sign.
+// Converts paths between the program, where they are the file system's bytes, and Qt, where they are UTF-16. Bytes that
+// are not UTF-8 are mapped to the lone surrogates U+DC80 to U+DCFF and back, so that a name survives a round trip
+// through a widget. Widgets show these bytes as replacement characters.
 #pragma once
 
 #include <QString>
@@ -13,7 +13,7 @@ namespace gp {
 QString pathToText(std::string_view path);
 std::string textToPath(QStringView text);
 
-// A text of the program (UTF-8) for a widget. Bytes that are no UTF-8 are kept as in a path.
+// Returns a text of the program (UTF-8) for a widget. Bytes that are not UTF-8 are kept as in a path.
 inline QString toText(std::string_view text) { return pathToText(text); }
 
 }  // namespace gp

@@ -15,7 +15,7 @@
 namespace gp {
 namespace {
 
-// What a picture may take, decoded, when it can only be read whole.
+// The memory limit for decoding a picture that can only be read whole.
 constexpr int kLargestMegabytes = 48;
 
 using Bytes = std::span<const std::uint8_t>;
@@ -36,8 +36,8 @@ bool isWhole(const QByteArray& bytes, const QByteArray& format) {
 }
 
 namespace png {
-constexpr int kHeaderType = 12;   // offset of the header chunk's type, where its check sum begins
-constexpr int kHeaderWords = 17;  // bytes under the check sum
+constexpr int kHeaderType = 12;   // offset of the header chunk's type, the first byte under the checksum
+constexpr int kHeaderWords = 17;  // number of bytes under the checksum
 constexpr int kHeight = 20;
 constexpr int kInterlace = 28;
 constexpr int kCheckSum = 29;
@@ -54,8 +54,8 @@ std::uint32_t checkSum(const char* bytes, int count) {
   return ~sum;
 }
 
-// The rows stand one after another from the top, unless they are interlaced: when the header tells of fewer, the reader
-// stops after those.
+// Unless they are interlaced, the rows follow one another from the top. With a smaller height in the header, the reader
+// stops after those rows.
 QByteArray withFewerRows(const QByteArray& bytes, int rows) {
   if (bytes.size() < kHeaderEnd || bytes[kInterlace] != 0) return bytes;
   QByteArray fewer = bytes;
@@ -65,7 +65,7 @@ QByteArray withFewerRows(const QByteArray& bytes, int rows) {
 }
 }  // namespace png
 
-// A reader of bytes that must stay where they are.
+// A reader of bytes in memory, with the memory limit set.
 class BytesReader : public QImageReader {
  public:
   BytesReader(const QByteArray& bytes, const QByteArray& format) {

@@ -1,5 +1,5 @@
-// The size of a picture that comes from somewhere else, and its top left corner. However large the picture is, it takes
-// no more memory than the corner's rows, or than a fixed limit where its format does not let itself be read in part.
+// Reads the size and the top left corner of an untrusted picture. Memory use is limited to the corner's rows, or to a
+// fixed limit for formats that cannot be read in part.
 #pragma once
 
 #include "platform/ports/Clipboard.h"
@@ -8,8 +8,8 @@
 
 namespace gp {
 
-// `format` is the name that Qt's reader of it has: "png", "bmp", "gif" or "jpeg". Transparent pixels take the colour of
-// the ground. False, with `image` as it was, for what is another format, is cut short or is too large to be read.
+// `format` is the name of Qt's reader: "png", "bmp", "gif" or "jpeg". Transparent pixels have the colour kGround.
+// Returns false and leaves `image` unchanged when the bytes have another format, are incomplete or are too large.
 bool readPictureCorner(const QByteArray& bytes, const QByteArray& format, int limit, ClipboardImage& image);
 
 }  // namespace gp

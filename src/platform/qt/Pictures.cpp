@@ -28,7 +28,7 @@ struct Sheet {
   const unsigned char* dark;
 };
 
-// In the order of kSheetScales.
+// Ordered like kSheetScales.
 constexpr Sheet kSheets[] = {{gp_sheet_100_light, gp_sheet_100_dark},
                              {gp_sheet_150_light, gp_sheet_150_dark},
                              {gp_sheet_200_light, gp_sheet_200_dark}};
@@ -36,8 +36,8 @@ constexpr Sheet kSheets[] = {{gp_sheet_100_light, gp_sheet_100_dark},
 constexpr int kDarkLightness = 128;
 constexpr qreal kDisabledOpacity = 0.35;
 
-// Where a pointer points: the pixel of the drawing's grid that holds the picture's tip. What is not here points with
-// its centre.
+// The hot spot of a pointer: the pixel of the drawing's grid at the tip of the picture. Pictures that are not listed
+// have their hot spot at the centre.
 struct HotSpot {
   std::string_view name;
   int x, y;
@@ -65,14 +65,14 @@ struct ByName {
   bool operator()(std::string_view name, const SheetEntry& entry) const { return name < entry.name; }
 };
 
-// All sizes of one picture in a sheet, smallest first.
+// Returns all sizes of one picture in a sheet, smallest first.
 std::span<const SheetEntry> entriesOf(const unsigned char* sheet, std::string_view name) {
   const std::span<const SheetEntry> all = entriesOf(sheet);
   const auto [first, last] = std::equal_range(all.begin(), all.end(), name, ByName());
   return {first, last};
 }
 
-// The pixels where they stand: no copy.
+// An image that refers to the sheet's pixels without copying them.
 QImage viewOf(const unsigned char* sheet, const SheetEntry& entry) {
   const int size = static_cast<int>(entry.size);
   const auto rowBytes = static_cast<qsizetype>(sizeof(QRgb)) * size;
@@ -83,7 +83,7 @@ struct Choice {
   const unsigned char* sheet = nullptr;
   const SheetEntry* entry = nullptr;
 
-  // The exact size is best, then the smallest that is larger, then the largest.
+  // The exact size is best, then the smallest larger one, then the largest.
   bool isBetterThan(const Choice& other, std::uint32_t wanted) const {
     if (!other.entry) return true;
     const bool enough = entry->size >= wanted, otherEnough = other.entry->size >= wanted;
@@ -101,13 +101,13 @@ Choice choose(std::string_view name, int pixels, Theme theme) {
       const Choice choice{sheet, &entry};
       if (choice.isBetterThan(best, wanted)) best = choice;
     }
-    // A larger scale's sheet need not be touched then.
+    // The sheets of larger scales are not needed, so they are not read from the disk.
     if (best.entry && best.entry->size == wanted) break;
   }
   return best;
 }
 
-// A picture of pixels x pixels; null for an unknown name.
+// Returns a picture of pixels x pixels; null for an unknown name.
 QImage imageOf(std::string_view name, int pixels, Theme theme) {
   const Choice choice = choose(name, pixels, theme);
   if (!choice.entry || pixels <= 0) return {};
@@ -129,7 +129,7 @@ QImage faded(const QImage& image) {
   return result;
 }
 
-// Draws at the size that is asked for, in the theme of the moment, so that one icon serves every screen and palette.
+// Draws at the requested size in the current theme, so that one icon works for every screen and palette.
 class PictureEngine : public QIconEngine {
  public:
   explicit PictureEngine(std::string_view name) : name_(name) {}
@@ -179,8 +179,8 @@ class PictureEngine : public QIconEngine {
   QPixmap pixmap_;
 };
 
-// The picture's own shape in white, one unit wider all round, with the picture on it. The result is larger than the
-// picture by `margin` pixels on each side.
+// Returns the picture over a white outline of its shape, one unit wide. The result is larger than the picture by
+// `margin` pixels on each side.
 QImage withOutline(const QImage& picture, int margin) {
   QImage shape = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
   {
@@ -219,7 +219,7 @@ QCursor Pictures::cursor(std::string_view name, qreal devicePixelRatio) {
   QPixmap pixmap = QPixmap::fromImage(withOutline(image, margin));
   pixmap.setDevicePixelRatio(devicePixelRatio);
   const HotSpot spot = hotSpotOf(name);
-  // The outline's margin is one unit, so it moves the spot by one.
+  // The outline's margin of one unit moves the hot spot by one.
   return QCursor(pixmap, spot.x + 1, spot.y + 1);
 }
 

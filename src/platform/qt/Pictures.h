@@ -1,5 +1,5 @@
-// The program's own pictures by name: toolbar, tools, pointers, logo and the program's icon. The pixels are part of the
-// program and are used where they stand; nothing is loaded or parsed. A name that is not there gives an empty picture.
+// The program's own pictures by name: toolbar, tools, pointers, logo and program icon. The pixels are embedded in the
+// executable and used in place; no file is loaded or parsed. An unknown name returns an empty picture.
 #pragma once
 
 #include <QCursor>
@@ -12,23 +12,23 @@ namespace gp {
 
 class Pictures {
  public:
-  // The width and height of all pictures but the logo and the program's icon, in device-independent pixels.
+  // Width and height of all pictures except the logo and the program icon, in device-independent pixels.
   static constexpr int kSize = 20;
   static constexpr int kLogoSize = 64;
 
   static bool has(std::string_view name);
 
-  // A picture at any size and scale. It follows the application's palette, light or dark, each time it is painted, and
-  // has a faded look for QIcon::Disabled. Null for an unknown name.
+  // Returns a picture for any size and scale. It uses the application's palette, light or dark, at the time of
+  // painting, and is faded for QIcon::Disabled. Null for an unknown name.
   static QIcon icon(std::string_view name);
 
-  // `size` is in device-independent pixels; the pixmap carries the ratio. It is exact for 100, 150 and 200 % of the
-  // size that a picture is drawn for, and scaled from the nearest larger one otherwise. The theme is the one that the
-  // application's palette has at this moment. Null for an unknown name.
+  // `size` is in device-independent pixels; the pixmap has the given ratio. It is exact for 100, 150 and 200 % of the
+  // size for which a picture is drawn, and otherwise scaled from the nearest larger one. The theme is that of the
+  // application's palette at the time of the call. Null for an unknown name.
   static QPixmap pixmap(std::string_view name, qreal devicePixelRatio, int size = kSize);
 
-  // A mouse pointer with its hot spot at the picture's tip and an outline that shows on any ground. It does not change
-  // with the theme, as the Editing Area does not. An arrow for an unknown name.
+  // Returns a mouse pointer with its hot spot at the picture's tip, and with an outline so that it is visible on any
+  // background. Like the Editing Area, it does not change with the theme. An arrow for an unknown name.
   static QCursor cursor(std::string_view name, qreal devicePixelRatio);
 };
 

@@ -18,7 +18,7 @@ constexpr const char* kProcesses = "/proc/";
 constexpr std::string_view kDeletedMark = " (deleted)";
 constexpr char kZombie = 'Z';
 
-// What "/proc/N/stat" begins with: "number (name) state". The name may hold brackets itself.
+// The start of "/proc/N/stat": "number (name) state". The name itself may contain brackets.
 struct Status {
   std::string name;
   bool alive = false;
@@ -62,7 +62,7 @@ std::string firstArgument(int process) {
   return line.substr(0, line.find('\0'));
 }
 
-// The file alone would not find a script, nor a program that runs under an emulator.
+// The executable's path alone does not identify a script or a program that runs under an emulator.
 bool isProcessOf(int process, const std::string& executable) {
   const Status status = statusOf(process);
   return status.alive &&

@@ -6,8 +6,8 @@
 
 namespace gp {
 
-// The first process, by number, whose executable's path or name ends with a name, case ignored: its number. The calling
-// process and dead ones that wait for their parent are never it; an empty name is nobody's.
+// Returns the lowest process number whose executable's path or name ends with `executable`, case ignored. Skips the
+// calling process and terminated ones that wait for their parent. nullopt for an empty name.
 std::optional<int> findProcess(const std::string& executable);
 
 }  // namespace gp

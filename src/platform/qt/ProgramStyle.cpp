@@ -7,14 +7,14 @@
 namespace gp {
 namespace {
 
-// A colour three quarters of the way from the window's to that of its text.
+// Returns the colour three quarters of the way from the window's colour to the colour of its text.
 QColor nearText(const QColor& window, const QColor& text) {
   const auto mixed = [](int from, int to) { return (from + 3 * to) / 4; };
   return {mixed(window.red(), text.red()), mixed(window.green(), text.green()), mixed(window.blue(), text.blue())};
 }
 
-// Outlines are drawn a third darker than the window, which nobody sees on a dark one: there they are drawn as on a
-// lighter one.
+// Qt draws outlines a third darker than the window, which is invisible on a dark window. There the outline is computed
+// from a lighter window colour.
 template <class Option>
 Option withVisibleOutline(const Option& option) {
   Option visible = option;

@@ -1,11 +1,11 @@
-// The desktop's style but for two things: a list drops down as a list, with as many entries as it was told to show and
-// a scroll bar, and not as a menu that may cover the whole screen; and tick boxes and sliders are seen on a dark
-// window, too.
+// The desktop's style with two changes: a combo box opens as a list of at most its maxVisibleItems entries with a
+// scroll bar, not as a menu that can cover the whole screen; and check boxes, radio buttons and sliders are visible on
+// a dark window.
 #pragma once
 
 namespace gp {
 
-// Once, after the application was made.
+// Must be called once, after the application has been created.
 void installProgramStyle();
 
 }  // namespace gp

@@ -19,7 +19,7 @@ struct OfferedFormat {
   const char* reader;
 };
 
-// The first one that is offered is taken: those that keep every pixel, and take little room, come first.
+// The first offered format is used: lossless and compact formats come first.
 constexpr std::array<OfferedFormat, 7> kFormats = {{{"image/png", "png"},
                                                     {"image/bmp", "bmp"},
                                                     {"image/x-bmp", "bmp"},
@@ -35,9 +35,9 @@ const OfferedFormat* formatOf(const QMimeData& content) {
   return found == kFormats.end() ? nullptr : found;
 }
 
-const QMimeData* contentNow() { return QGuiApplication::clipboard()->mimeData(); }
+const QMimeData* currentContent() { return QGuiApplication::clipboard()->mimeData(); }
 
-// Our own copy needs no decoding.
+// The program's own picture needs no decoding.
 bool readOurImage(const QMimeData& content, int limit, ClipboardImage& image) {
   const auto whole = qvariant_cast<QImage>(content.imageData());
   if (whole.isNull()) return false;
@@ -59,14 +59,14 @@ void QtClipboard::changed() {
 
 bool QtClipboard::hasImage() {
   if (!hasImage_) {
-    const QMimeData* content = contentNow();
+    const QMimeData* content = currentContent();
     hasImage_ = content && (content == ours_ || formatOf(*content));
   }
   return *hasImage_;
 }
 
 bool QtClipboard::getImage(ClipboardImage& image, int limit) {
-  const QMimeData* content = contentNow();
+  const QMimeData* content = currentContent();
   if (!content) return false;
   if (content == ours_) return readOurImage(*content, limit, image);
   const OfferedFormat* format = formatOf(*content);
@@ -79,7 +79,7 @@ bool QtClipboard::setImage(const Surface& image) {
   content->setImageData(opaqueImageOf(image));
   ours_ = content;
   QGuiApplication::clipboard()->setMimeData(content);
-  return contentNow() == ours_;
+  return currentContent() == ours_;
 }
 
 void QtClipboard::clear() { QGuiApplication::clipboard()->clear(); }

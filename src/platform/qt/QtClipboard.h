@@ -1,6 +1,6 @@
-// The desktop's clipboard, as far as it holds pictures. What another program offers is asked for in the formats of a
-// fixed list and is decoded only in part; a copy of our own is offered in all formats that the desktop knows. The
-// pictures stay the property of Qt's clipboard, and go with the program unless the desktop keeps them.
+// The desktop's clipboard, for pictures. Pictures of other programs are requested in a fixed list of formats, and only
+// their corner is decoded. The program's own pictures are offered in all formats that Qt can write; Qt's clipboard owns
+// them, and they are lost at exit unless the desktop keeps them.
 #pragma once
 
 #include "platform/ports/Clipboard.h"
@@ -17,23 +17,23 @@ namespace gp {
 
 class QtClipboard : public Clipboard {
  public:
-  // There must be a QGuiApplication, and it must outlive the clipboard.
+  // Requires a QGuiApplication, which must outlive the clipboard.
   QtClipboard();
 
-  // Asks the owner once for each content, as it may be slow to answer.
+  // Queries the owner once for each content, because the owner may be slow to answer.
   bool hasImage() override;
   bool getImage(ClipboardImage& image, int limit) override;
   bool setImage(const Surface& image) override;
   void clear() override;
 
-  // The content is another one now, whoever changed it.
+  // Called after the content has changed, whichever program changed it.
   std::function<void()> onChange;
 
  private:
   void changed();
 
   std::optional<bool> hasImage_;
-  QPointer<QMimeData> ours_;  // while our own copy is offered
+  QPointer<QMimeData> ours_;  // set while the program's own picture is offered
   QObject listener_;
 };
 

@@ -26,13 +26,13 @@ constexpr const char* kAllFiles = "*.*";
 
 bool meansAllFiles(const std::string& pattern) { return pattern.empty() || pattern == kAllFiles; }
 
-// A pattern list such as "*.ico;*.cur" as Qt takes it; "*.*" means names without a dot too.
+// Converts a pattern list such as "*.ico;*.cur" to Qt's form; "*.*" includes names without a dot.
 QString qtPatterns(const std::string& pattern) {
   if (meansAllFiles(pattern)) return QStringLiteral("*");
   return toText(pattern).replace(u';', u' ');
 }
 
-// Qt reads the patterns out of the last brackets, where descriptions have them anyway: "Icon files (*.ico)".
+// Qt takes the patterns from the last brackets, where descriptions repeat them: "Icon files (*.ico)".
 QString qtFilter(const FileFilter& filter) {
   QString description = toText(filter.description);
   const qsizetype bracket = description.lastIndexOf(u'(');
@@ -55,8 +55,8 @@ void prepare(QFileDialog& dialog, const FileDialogRequest& request) {
   if (!request.fileName.empty()) dialog.selectFile(pathToText(request.fileName));
 }
 
-// Completes the name that is typed, so that the chosen file type lists the file later. Qt itself takes whatever stands
-// behind a dot for an extension, and looks for folders of that name in the current directory only.
+// Completes the typed name with an extension that the chosen file type lists. Qt by itself accepts any text after a dot
+// as an extension, and looks for folders with that name in the current directory only.
 class SaveDialog final : public QFileDialog {
  public:
   // The request must outlive the dialog.
@@ -73,7 +73,7 @@ class SaveDialog final : public QFileDialog {
   }
 
  private:
-  // The name that was proposed is meant for a file, even beside a folder that has it.
+  // The proposed name means a file, even if there is a folder with that name.
   bool isProposed(const QFileInfo& file) const {
     const QString proposed = pathToText(request_.fileName);
     return nameField()->text() == proposed && file.fileName() == proposed;
@@ -87,20 +87,20 @@ class SaveDialog final : public QFileDialog {
   QLineEdit* nameField() const { return findChild<QLineEdit*>(QStringLiteral("fileNameEdit")); }
   QItemSelectionModel* selection() const { return findChild<QListView*>(QStringLiteral("listView"))->selectionModel(); }
 
-  // `path` is what Qt makes of the text in the field.
+  // `path` is Qt's interpretation of the text in the field.
   void completeName(const QString& path) {
-    // Qt takes what stands in quotes and drops what follows them.
+    // Qt uses the quoted part and drops the text after it.
     QString text = nameField()->text().contains(u'"') ? path : nameField()->text();
     if (!lacksExtension(QFileInfo(text).fileName())) return;
     if (text.endsWith(u'.')) text.chop(1);
-    selection()->clear();  // a file of the name as it was typed goes before the text
+    selection()->clear();  // a selected file takes precedence over the text
     nameField()->setText(text + u'.' + toText(request_.defaultExtension));
   }
 
   bool lacksExtension(const QString& name) const {
     if (request_.defaultExtension.empty()) return false;
     const std::string pattern = chosenPattern();
-    // Among all files one without an extension may be picked in the list.
+    // With all files listed, the user may select one without an extension.
     if (meansAllFiles(pattern)) return !name.contains(u'.') && !selection()->hasSelection();
     QStringList endings = toText(pattern).split(u';');
     endings << QStringLiteral("*.") + toText(request_.defaultExtension);
@@ -117,7 +117,7 @@ class SaveDialog final : public QFileDialog {
   const FileDialogRequest& request_;
 };
 
-// Qt asks before it replaces a file, but does not find one whose name is no UTF-8.
+// Qt asks before it replaces a file, except when the name is not UTF-8.
 bool mayReplace(QFileDialog& dialog, const FileDialogRequest& request, const std::string& path) {
   const bool qtAsked = QFile::encodeName(pathToText(path)).toStdString() == path;
   if (!(request.flags & kFileOverwritePrompt) || qtAsked || !FileExists(path)) return true;

@@ -1,5 +1,5 @@
-// The common dialogs, Qt's own on every desktop so that they look, read and act alike everywhere. The folder chooser is
-// a form of the program and is handed in.
+// The common dialogs. They are Qt's own on every desktop, so that they look and behave the same and are accessible
+// everywhere. The folder chooser is a form of the program and is passed in.
 #pragma once
 
 #include "platform/ports/FileDialogs.h"
@@ -15,7 +15,7 @@ namespace gp {
 
 class QtFileDialogs final : public FileDialogs {
  public:
-  // Given a pattern and a start folder, gives the chosen folder or an empty text.
+  // Takes a pattern and a start folder; returns the chosen folder or an empty text.
   using FolderChooser = std::function<std::string(const std::string& pattern, const std::string& startFolder)>;
 
   explicit QtFileDialogs(FolderChooser folderChooser);
@@ -27,10 +27,10 @@ class QtFileDialogs final : public FileDialogs {
   bool choosePrinter(PrinterRequest& request) override;
   std::string chooseFolder(const std::string& pattern, const std::string& startFolder) override;
 
-  // The printer that was accepted last; null before the first.
+  // The printer that was accepted last; null if none was.
   QPrinter* printer() const { return printer_.get(); }
 
-  // Dress a file dialog for a request without showing it.
+  // Set up a file dialog for a request without showing it.
   static void prepareOpen(QFileDialog& dialog, const FileDialogRequest& request);
   static void prepareSave(QFileDialog& dialog, const FileDialogRequest& request);
 

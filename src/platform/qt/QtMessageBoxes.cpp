@@ -11,7 +11,7 @@
 namespace gp {
 namespace {
 
-// What Qt's box wants of the screen beside its text: it leaves 480 pixels free, and has its picture and margins.
+// Pixels of the screen's width that a box needs besides its text: 480 that Qt leaves free, the picture and the margins.
 constexpr int kBesideText = 600;
 
 QMessageBox::StandardButtons standardButtons(BoxButtons buttons) {
@@ -48,14 +48,14 @@ QMessageBox::Icon standardIcon(BoxIcon icon) {
       return QMessageBox::Question;
     case BoxIcon::Exclamation:
       return QMessageBox::Warning;
-    // Every box bears an icon; one that names none only informs.
+    // Every box has an icon; a box without one is informational.
     case BoxIcon::None:
       break;
   }
   return QMessageBox::Information;
 }
 
-// What Escape and the window's close button mean.
+// Returns the answer for Escape and the window's close button.
 BoxAnswer escapeAnswer(BoxButtons buttons) {
   switch (buttons) {
     case BoxButtons::YesNo:
@@ -75,14 +75,13 @@ BoxAnswer answerOf(int button, BoxButtons buttons) {
   return escapeAnswer(buttons);
 }
 
-// A word that does not fit into a line, such as a long file name, may be broken every so often: Qt would cut it off.
+// Allows breaks inside very long words such as file names, which Qt would otherwise cut off.
 QString breakable(QString text) {
   static const QRegularExpression longWord(QStringLiteral("(\\S{50})(?=\\S{50})"));
   return text.replace(longWord, QStringLiteral("\\1\u200B"));
 }
 
-// Texts are written in lines, which stay whole where the screen is wide enough; Qt alone would break those beyond half
-// a screen once more.
+// Keeps the text's own lines unbroken when the screen is wide enough; Qt would break lines longer than half the screen.
 void setLines(QMessageBox& box, const QString& text) {
   box.setText(breakable(text));
   auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));

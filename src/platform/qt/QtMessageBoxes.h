@@ -1,5 +1,5 @@
-// Message boxes on the desktop. Works from the moment a QApplication exists, with or without a main form; a box stands
-// over the modal window that is up, else over the active one.
+// Message boxes on the desktop. They require a QApplication and no main form. The parent of a box is the open modal
+// window, otherwise the active window.
 #pragma once
 
 #include "platform/ports/MessageBoxes.h"
@@ -12,7 +12,7 @@ class QtMessageBoxes final : public MessageBoxes {
  public:
   BoxAnswer show(const std::string& text, BoxButtons buttons, BoxIcon icon, BoxAnswer suggested) override;
 
-  // Dresses a box without showing it.
+  // Sets up a box without showing it.
   static void prepare(QMessageBox& box, const std::string& text, BoxButtons buttons, BoxIcon icon, BoxAnswer suggested);
 };
 

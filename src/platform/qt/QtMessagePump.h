@@ -1,4 +1,4 @@
-// Lets pending events of the desktop through while the program works or waits.
+// Processes pending events of the desktop while the program works or waits.
 #pragma once
 
 #include "platform/ports/MessagePump.h"

@@ -15,26 +15,26 @@ namespace gp {
 namespace {
 
 constexpr std::size_t kBytesPerPixel = 4;
-// What a file may hold beside its pixels: profiles, previews, texts.
+// Bytes that a file may contain besides its pixels: profiles, previews, texts.
 constexpr std::size_t kOtherBytes = std::size_t{16} << 20;
 constexpr std::size_t kBytesPerMegabyte = std::size_t{1} << 20;
-// Room for the reader's own rows and tables.
+// Memory for the reader's own rows and tables.
 constexpr std::size_t kSpareMegabytes = 16;
 
 using Bytes = std::span<const std::uint8_t>;
 
 struct Format {
   const char* name;
-  // Some readers fill up what is missing and call it a success.
+  // Some readers fill missing data in silently and report success.
   bool (*isWhole)(Bytes bytes);
 };
 
-bool leftToTheReader(Bytes) { return true; }
+bool assumeWhole(Bytes) { return true; }
 
 constexpr std::array<Format, 7> kFormats = {{{"bmp", isWholeBitmap},
-                                             {"cur", leftToTheReader},
+                                             {"cur", assumeWhole},
                                              {"gif", isWholeGif},
-                                             {"ico", leftToTheReader},
+                                             {"ico", assumeWhole},
                                              {"jpeg", isWholeJpeg},
                                              {"jpg", isWholeJpeg},
                                              {"png", isWholePng}}};
@@ -45,7 +45,7 @@ const Format* formatOf(const QImageReader& reader) {
   return found == kFormats.end() ? nullptr : found;
 }
 
-// Decodes a picture of a size that has been looked at.
+// Decodes a picture whose size has been checked.
 LoadedPicture decode(QImageReader& reader, QSize size) {
   QImage image;
   if (!reader.read(&image) || image.size() != size) return {};

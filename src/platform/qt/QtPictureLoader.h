@@ -1,5 +1,5 @@
-// Reads pictures with Qt's readers of a fixed list of formats. The file is read whole up to a limit that follows from
-// the largest picture asked for, and the size is looked at before any pixel is decoded.
+// Reads pictures with Qt's readers for a fixed list of formats. The file is read up to a limit that depends on the
+// largest picture requested, and the size is checked before any pixel is decoded.
 #pragma once
 
 #include "platform/ports/PictureLoader.h"

@@ -36,7 +36,7 @@ std::string QtProcesses::userLockFile() {
 
 QtProcesses::QtProcesses(std::string lockFile) : lockFile_(std::move(lockFile)) {}
 
-// The file stays: removing it would let two instances hold locks on two files of one name.
+// The lock file is not removed: two instances could then hold locks on two files with the same name.
 QtProcesses::~QtProcesses() {
   if (lock_ >= 0) close(lock_);
 }

@@ -1,5 +1,5 @@
-// Other processes and their windows. The instance that asks first holds a file lock for as long as it lives; the system
-// drops the lock with the process, however it ends, so that none is ever left behind by a crash.
+// Other processes and their windows. The first instance holds a file lock until it ends; the system releases the lock
+// with the process, so a crash leaves none behind.
 #pragma once
 
 #include "platform/ports/SystemInfo.h"
@@ -15,12 +15,12 @@ class QtProcesses final : public Processes {
   QtProcesses(const QtProcesses&) = delete;
   QtProcesses& operator=(const QtProcesses&) = delete;
 
-  // One per user: in $XDG_RUNTIME_DIR, or with the user's number in the folder of temporary files.
+  // One file per user: in $XDG_RUNTIME_DIR, or with the user's number in the folder of temporary files.
   static std::string userLockFile();
 
-  // Where no lock can be made at all, there is no other instance.
+  // Returns false when no lock can be created.
   bool IsPrevInstance() override;
-  // Knows the windows of an X server only.
+  // Finds only windows of an X server.
   void CloseWindowByTitle(const std::string& title) override;
   bool IsProcessRunning(const std::string& executable) override;
   void TerminateProcessByName(const std::string& executable) override;

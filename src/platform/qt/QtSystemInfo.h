@@ -1,5 +1,5 @@
-// The machine as the desktop reports it. Sizes are in device-independent pixels of the primary screen, the measure in
-// which windows are placed; the depth is rounded up to 4, 8, 16, 24 or 32.
+// Facts about the machine as the desktop reports them. Sizes are in device-independent pixels of the primary screen, as
+// for window positions; the depth is rounded up to 4, 8, 16, 24 or 32.
 #pragma once
 
 #include "platform/ports/SystemInfo.h"
@@ -15,7 +15,7 @@ class QtSystemInfo final : public SystemInfo {
   long long totalMemoryKb() override;
   std::string windowsDirectory() override;
   std::string systemDirectory() override;
-  // With a separator at its end.
+  // Ends with a separator.
   std::string tempDirectory() override;
   std::string desktopDirectory() override;
 };

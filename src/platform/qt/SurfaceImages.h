@@ -1,4 +1,4 @@
-// Surfaces from Qt's images and back, pixel for pixel. Both directions copy.
+// Converts between Surfaces and Qt's images, pixel for pixel. Both directions copy.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -7,9 +7,9 @@
 
 namespace gp {
 
-// What shows through transparent pixels takes the colour of `ground`.
+// Blends transparent pixels with the colour `ground`.
 Surface surfaceOf(const QImage& image, Color ground);
-// An image without transparency.
+// Returns an image without transparency.
 QImage opaqueImageOf(const Surface& surface);
 
 }  // namespace gp

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::uint32_t kTitleWords = 1024;  // of four bytes
 constexpr std::uint8_t kFormat32 = 32;
-constexpr int kMaximumDepth = 4;  // a window manager's frames stand between the root and a program's window
+constexpr int kMaximumDepth = 4;  // window managers insert frames between the root and a program's window
 
 struct Freed {
   void operator()(void* reply) const { std::free(reply); }
@@ -60,7 +60,7 @@ class TitleCloser {
             static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
   }
 
-  // A window manager's frame carries the title too, but only the program's own window can be asked to close.
+  // A window manager's frame has the title too, but cannot be asked to close.
   bool isTitled(xcb_window_t window) const {
     if (property(window, protocols_).empty()) return false;
     return property(window, name_) == title_ || property(window, XCB_ATOM_WM_NAME) == title_;

@@ -5,7 +5,7 @@
 
 namespace gp {
 
-// Asks every window of exactly that title to close, as its own close button would. Nothing without an X server.
+// Asks every window with exactly that title to close, as its own close button would. Does nothing without an X server.
 void closeWindowsTitled(const std::string& title);
 
 }  // namespace gp

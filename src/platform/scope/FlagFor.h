@@ -1,4 +1,4 @@
-// A flag that is up for as long as a piece of work lasts. It may be nested: the outermost takes it down.
+// Sets a flag for the lifetime of this object and then restores its former value, so that uses can be nested.
 #pragma once
 
 #include <utility>
@@ -7,7 +7,7 @@ namespace gp {
 
 class FlagFor {
  public:
-  // The flag must outlive this.
+  // The flag must outlive this object.
   explicit FlagFor(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
   ~FlagFor() { flag_ = before_; }
   FlagFor(const FlagFor&) = delete;

@@ -1,5 +1,5 @@
-// A text field of fixed length, blank-padded as record fields are. It counts characters, not bytes, never cuts inside
-// a character, and is read through trimmed().
+// A text field of fixed length, padded with blanks. The length counts characters, not bytes; text is never cut inside a
+// character. trimmed() returns the content.
 #pragma once
 
 #include "platform/text/Utf8.h"
@@ -18,9 +18,9 @@ class FixedText {
     text_ = trimRight(firstCharacters(text, Length));
     return *this;
   }
-  // The text without the padding and without leading blanks.
+  // Returns the text without padding and leading blanks.
   std::string trimmed() const { return trim(text_); }
-  // The whole field, padded with blanks to its length in characters.
+  // Returns the whole field, padded with blanks to its length in characters.
   std::string padded() const { return text_ + std::string(Length - countCharacters(text_), ' '); }
   bool operator==(const FixedText&) const = default;
 

@@ -18,7 +18,7 @@ bool isDigit(int c) { return c >= '0' && c <= '9'; }
 bool isLetter(int c, char first, char last) { return c >= first && c <= last; }
 bool isHexDigit(char c) { return isDigit(c) || isLetter(c, 'A', 'F') || isLetter(c, 'a', 'f'); }
 
-// The reader of the library would take "inf" and "nan" for numbers.
+// std::from_chars would accept "inf" and "nan" as numbers.
 bool beginsLikeNumber(std::string_view text) {
   if (!text.empty() && (text.front() == '+' || text.front() == '-')) text.remove_prefix(1);
   return !text.empty() && (isDigit(text.front()) || text.front() == '.');

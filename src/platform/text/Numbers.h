@@ -1,4 +1,4 @@
-// The one place where reals become integers and texts become numbers, with the program's rounding and reading rules.
+// Converts reals to integers and texts to numbers, with the program's rounding and parsing rules.
 #pragma once
 
 #include <cmath>
@@ -9,7 +9,7 @@
 
 namespace gp {
 
-// The integer that a whole real stands for, limited to the range of int; 0 for what is no number.
+// Returns a whole real as an integer, limited to the range of int; 0 for NaN.
 inline int limitToInteger(double whole) {
   constexpr double kLeast = std::numeric_limits<int>::min();
   constexpr double kMost = std::numeric_limits<int>::max();
@@ -18,29 +18,29 @@ inline int limitToInteger(double whole) {
          : whole < kLeast                  ? std::numeric_limits<int>::min()
                                            : 0;
 }
-// Nearest integer, ties to even.
+// Returns the nearest integer, ties to even.
 inline int roundToInteger(double value) { return limitToInteger(std::nearbyint(value)); }
 // The same, limited to 0..255.
 int roundToByte(double value);
 // Int rounds down, Fix truncates toward zero.
 inline int Int(double value) { return limitToInteger(std::floor(value)); }
 inline int Fix(double value) { return limitToInteger(std::trunc(value)); }
-// Truncating division and its remainder, which keeps the sign of the dividend. The divisor must not be 0.
+// Truncating division and its remainder, which has the sign of the dividend. The divisor must not be 0.
 constexpr int divide(int dividend, int divisor) { return dividend / divisor; }
 constexpr int Mod(int dividend, int divisor) { return dividend % divisor; }
 
-// The number a text begins with after blanks (sign, digits, point, exponent); 0 if none, or if it is too large to hold.
+// Parses the number at the start of a text, after blanks (sign, digits, point, exponent). Returns 0 if there is none or
+// it is out of range.
 double Val(std::string_view text);
-// Upper-case hexadecimal digits of the 32-bit value, without leading zeros; "0" for 0.
+// Returns the upper-case hexadecimal digits of the 32-bit value, without leading zeros; "0" for 0.
 std::string Hex(std::int32_t value);
-// What the numeric parser makes of "&H" and the given digits: up to four digits are a signed 16-bit value ("FFFF" is
-// -1), up to eight a signed 32-bit value. Reading stops at the first character that is no digit, and after eight; 0 if
-// none.
+// Returns the value of "&H" followed by the given digits: up to four digits are a signed 16-bit value ("FFFF" is -1),
+// up to eight a signed 32-bit value. Stops at the first other character and after eight digits; 0 without digits.
 std::int32_t valueOfHex(std::string_view digits);
 
-// Key filters: the key code that passes, 0 for a dropped one. Backspace (8) always passes.
+// Key filters: return the key code that is accepted, 0 to drop the key. Backspace (8) is always accepted.
 int DigitsOnlyKey(int keyCode);
-// Letters a to f are turned to upper case.
+// Converts the letters a to f to upper case.
 int HexDigitsOnlyKey(int keyCode);
 
 }  // namespace gp

@@ -17,22 +17,22 @@ struct Parts {
   bool hasFolder = false;
 };
 
-bool isTakenApart(std::string_view path) {
+bool isParsable(std::string_view path) {
   return !path.empty() && path.front() != '$' && path.front() != ' ' && countCharacters(path) <= kMaxPathCharacters;
 }
 
 std::size_t lastSeparator(std::string_view path) {
   const auto found = std::find_if(path.rbegin(), path.rend(), isSeparator);
-  return static_cast<std::size_t>(path.rend() - found);  // 0 for none, otherwise one behind it
+  return static_cast<std::size_t>(path.rend() - found);  // 0 without a separator, otherwise the position after it
 }
 
-// A dot that ends the name begins no extension.
+// A dot at the end of the name does not start an extension.
 std::size_t extensionStart(std::string_view name) {
   if (name.size() < 2) return name.size();
   return std::min(name.rfind('.', name.size() - 2), name.size());
 }
 
-Parts takeApart(std::string_view path) {
+Parts parse(std::string_view path) {
   Parts parts;
   if (path.size() >= kDriveSize && path[1] == ':') parts.drive = path.substr(0, kDriveSize);
   path.remove_prefix(parts.drive.size());
@@ -57,8 +57,8 @@ bool equalFolded(std::string_view a, std::string_view b) { return a == b || equa
 }  // namespace
 
 std::string ParseFileName(std::string_view path, PathPart part) {
-  if (!isTakenApart(path)) return {};
-  const Parts parts = takeApart(path);
+  if (!isParsable(path)) return {};
+  const Parts parts = parse(path);
   switch (part) {
     case PathPart::DriveAndFolder:
     case PathPart::Folder:
@@ -68,7 +68,7 @@ std::string ParseFileName(std::string_view path, PathPart part) {
     case PathPart::Drive:
       return std::string(parts.drive);
     case PathPart::NameWithExtension:
-      // A bare file name has no name with extension: an old habit that callers count on.
+      // Intended: a bare file name has no "name with extension"; callers rely on it.
       return parts.hasFolder ? joined({parts.bareName, parts.extension}) : std::string();
     case PathPart::BareName:
       return std::string(parts.bareName);
@@ -87,7 +87,7 @@ std::string ShortenPath(std::string_view path) {
   return joined({start, separator, kShortened, separator, ParseFileName(path, PathPart::NameWithExtension)});
 }
 
-// Goes back to the last "*" only, which is enough, and keeps the time at name length times pattern length.
+// Backtracks to the last "*" only, which is sufficient and limits the time to name length times pattern length.
 bool matchesPattern(std::string_view name, std::string_view pattern) {
   if (pattern == "*.*") return true;
   std::size_t n = 0, p = 0;

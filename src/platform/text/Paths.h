@@ -1,4 +1,4 @@
-// Taking paths apart as text. Nothing here touches the disk. A separator is '\' or '/'.
+// Parses paths as text, without accessing the disk. A separator is '\' or '/'.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@ namespace gp {
 
 constexpr bool isSeparator(char c) { return c == '\\' || c == '/'; }
 
-// What ParseFileName returns.
+// The parts that ParseFileName returns.
 enum class PathPart {
   DriveAndFolder = 0,
   WithoutExtension = 1,
@@ -19,17 +19,17 @@ enum class PathPart {
   Extension = 6,
 };
 
-// One part of a path; empty when the path has more than 255 characters or begins with "$" or a blank. The folder keeps
-// its trailing separator, the extension its dot. Without any separator the rest counts as the bare name, the folder
-// stays empty and so does the name with extension: callers live with that.
+// Returns one part of a path; empty when the path has more than 255 characters or starts with "$" or a blank. The
+// folder includes its trailing separator, the extension its dot. Without a separator, folder and name with extension
+// are empty, while bare name and extension are returned; callers rely on it.
 std::string ParseFileName(std::string_view path, PathPart part);
 
-// A path for a menu: with four separators or more, everything between the second one and the file name becomes
-// "\.....\" (or "/...../").
+// Returns a path for a menu: with four separators or more, everything between the second separator and the file name is
+// replaced by "\.....\" (or "/...../").
 std::string ShortenPath(std::string_view path);
 
-// True when a file name matches a pattern such as "*.ico" or "*.*" ("*" any run, "?" one character), case ignored.
-// "*.*" matches every name.
+// Returns true when a file name matches a pattern such as "*.ico" ("*" matches any run, "?" one character), case
+// ignored. "*.*" matches every name.
 bool matchesPattern(std::string_view name, std::string_view pattern);
 
 }  // namespace gp

@@ -12,7 +12,7 @@ namespace gp {
 namespace {
 
 constexpr std::size_t kMaxProfileBytes = std::size_t{1} << 20;
-constexpr std::size_t kMaxValueBytes = 2047;  // a buffer of 2048 with its end mark
+constexpr std::size_t kMaxValueBytes = 2047;  // a buffer of 2048 bytes with its terminator
 constexpr std::string_view kWhite = " \t\v\f\r";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
@@ -28,7 +28,7 @@ std::string_view withoutQuotes(std::string_view value) {
   return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
-// The name when a line opens a section.
+// Returns the name of the section that a line starts, nullopt for other lines.
 std::optional<std::string_view> sectionOf(std::string_view line) {
   if (line.empty() || line.front() != '[') return std::nullopt;
   return trimWhite(line.substr(1, line.find(']') - 1));
@@ -44,13 +44,13 @@ std::optional<KeyAndValue> keyAndValueOf(std::string_view line) {
   return KeyAndValue{trimWhite(line.substr(0, equals)), withoutQuotes(trimWhite(line.substr(equals + 1)))};
 }
 
-// One line of the text: its content trimmed, and its bytes with the line end.
+// One line of the text: its trimmed content, and the range of its bytes including the line end.
 struct Line {
   std::string_view content;
   std::size_t start, end;
 };
 
-// Takes the line that starts at a position.
+// Returns the line that starts at a position.
 Line lineAt(std::string_view text, std::size_t start) {
   const std::size_t lineFeed = text.find('\n', start);
   const std::size_t end = lineFeed == std::string_view::npos ? text.size() : lineFeed + 1;
@@ -58,11 +58,11 @@ Line lineAt(std::string_view text, std::size_t start) {
   return {trimWhite(text.substr(start, contentEnd - start)), start, end};
 }
 
-// Where a section or a key stands, as far as it is there.
+// The position of a section and a key in the text, as far as they exist.
 struct Place {
   bool hasSection = false;
-  std::size_t sectionEnd = 0;  // behind the last line of the section that is not blank
-  std::optional<Line> line;    // that of the key
+  std::size_t sectionEnd = 0;  // after the section's last line that is not blank
+  std::optional<Line> line;    // the line of the key
   std::string_view value;
 };
 
@@ -70,7 +70,7 @@ std::size_t textStart(std::string_view text) {
   return text.substr(0, kByteOrderMark.size()) == kByteOrderMark ? kByteOrderMark.size() : 0;
 }
 
-// The first section of that name counts, as with the platform's routines.
+// Only the first section with that name is searched, as in the platform's functions.
 Place find(std::string_view text, std::string_view section, std::string_view key) {
   Place place;
   for (std::size_t start = textStart(text); start < text.size();) {
@@ -93,7 +93,7 @@ Place find(std::string_view text, std::string_view section, std::string_view key
 
 bool isTooLarge(std::size_t size) { return size > kMaxProfileBytes; }
 
-// Nothing for a file that is there and is no profile file; an absent file is an empty text.
+// Returns an empty text for an absent file, nullopt for a file that is too large to be a profile file.
 std::optional<std::string> load(const std::string& file) {
   const auto bytes = readFileStart(file, kMaxProfileBytes + 1);
   if (!bytes) return std::string();
@@ -106,7 +106,7 @@ bool store(const std::string& file, const std::string& text) {
   return replaceFile(file, {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
 }
 
-// A file keeps the line end of its first line.
+// Returns the line end of the file's first line, which added lines use as well.
 std::string_view lineEndOf(std::string_view text) {
   const std::size_t lineFeed = text.find('\n');
   return lineFeed != std::string_view::npos && lineFeed > 0 && text[lineFeed - 1] == '\r' ? "\r\n" : "\n";
@@ -114,7 +114,7 @@ std::string_view lineEndOf(std::string_view text) {
 
 void append(std::string& target, std::string_view part) { target.append(part.data(), part.size()); }
 
-// Puts a line at a position that is the start of a line or the end of the text.
+// Inserts a line at a position that is the start of a line or the end of the text.
 void insertLine(std::string& text, std::size_t at, const std::string& line) {
   const std::string lineEnd(lineEndOf(text));
   const bool isOpen = at > textStart(text) && text[at - 1] != '\n';
@@ -150,7 +150,7 @@ void setValue(std::string& text, std::string_view section, std::string_view key,
 
 }  // namespace
 
-bool canStandInIni(std::string_view value) {
+bool fitsInIni(std::string_view value) {
   return value.size() <= kMaxValueBytes && value.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos;
 }
 
@@ -168,7 +168,7 @@ std::string ReadIniString(std::string_view section, std::string_view key, std::s
 }
 
 bool WriteIniString(std::string_view section, std::string_view key, std::string_view value, const std::string& file) {
-  auto text = canStandInIni(value) ? load(file) : std::nullopt;
+  auto text = fitsInIni(value) ? load(file) : std::nullopt;
   if (!text) return false;
   setValue(*text, section, key, value);
   return !isTooLarge(text->size()) && store(file, *text);

@@ -6,7 +6,7 @@
 namespace gp {
 namespace {
 
-// What the first byte of a well-formed sequence tells: its length, and the bounds of the second byte, which rule out
+// The first bytes of well-formed sequences: the sequence's length, and the bounds of its second byte, which exclude
 // overlong forms, surrogates and values beyond U+10FFFF.
 struct Lead {
   std::uint8_t first, last;

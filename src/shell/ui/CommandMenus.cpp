@@ -17,12 +17,12 @@ namespace {
 
 constexpr std::string_view kHistoryEnding = "History";
 
-// The entry with index 0 of a history is its separator.
+// The history entry with index 0 is its separator.
 bool isHistorySeparator(const Command& command) {
   return command.index == 0 && std::string_view(command.control).ends_with(kHistoryEnding);
 }
 
-// Separators hold an index of their array; another array or control is another group.
+// Each separator occupies an index of its array; another control also starts a group.
 bool startsGroup(const Command& before, const Command& command) {
   if (isHistorySeparator(command)) return false;
   if (std::string_view(before.control) != command.control) return true;
@@ -80,14 +80,14 @@ void CommandMenus::addEntry(QMenu* menu, const Command& command) {
   action->setObjectName(nameOf(command));
   if (*command.picture) action->setIcon(Pictures::icon(command.picture));
   if (*command.key) {
-    // For show and for assistive technology: the key itself is a QShortcut, which does not depend on the entry.
+    // For display and assistive technology only: a QShortcut, which is independent of the entry, handles the key.
     action->setShortcut(QKeySequence(command.key));
     action->setShortcutContext(Qt::WidgetShortcut);
   }
   entries_.push_back({&command, action});
 }
 
-// A key works as long as the top-level menu does, even while the entry is disabled: the command then tells why not.
+// A key works even while its entry is disabled: the command then shows why it cannot run.
 void CommandMenus::addKey(const Command& command, QWidget* form) {
   if (!*command.key || !command.run) return;
   auto* key = new QShortcut(QKeySequence(command.key), form);

@@ -1,5 +1,5 @@
-// The menu bar and the pop-up menu, made from the command table, and the keys of the commands. Captions, enabling and
-// ticks are pulled from the table; nobody pushes them.
+// The menu bar and the pop-up menu, created from the command table, and the commands' keys. refresh() reads captions,
+// enabling and ticks from the table.
 #pragma once
 
 #include "shell/CommandTable.h"
@@ -21,11 +21,11 @@ class CommandMenus : public QObject {
   Q_OBJECT
 
  public:
-  // Menus and keys belong to `form`.
+  // `form` owns menus and keys.
   CommandMenus(QWidget* form, QMenuBar* bar, Shell& shell);
 
   QMenu* popUpMenu() const { return popUp_; }
-  // Brings all entries up to date with the state.
+  // Updates all entries.
   void refresh();
 
  signals:

@@ -10,13 +10,13 @@ namespace gp {
 namespace {
 
 constexpr int kPathRole = Qt::UserRole;
-constexpr int kIndentation = 14;  // pixels a level
+constexpr int kIndentation = 14;  // pixels per level
 
 QTreeWidgetItem* makeItem(const FolderRow& row, const QIcon& icon) {
   auto* item = new QTreeWidgetItem({toText(row.name)});
   item->setIcon(0, icon);
   item->setData(0, kPathRole, pathToText(row.path));
-  // Rich text would swallow what looks like a tag in a name.
+  // Escaped, because rich text would drop parts of a name that look like a tag.
   item->setToolTip(0, pathToText(row.path).toHtmlEscaped());
   return item;
 }
@@ -51,7 +51,7 @@ void FolderTree::setRows(const std::vector<FolderRow>& rows) {
   setCurrentItem(innermost);
 }
 
-// The view would pass Enter on to the form's default button.
+// The view would forward Enter to the form's default button.
 void FolderTree::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Return:

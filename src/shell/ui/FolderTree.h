@@ -1,5 +1,5 @@
-// DirListBox1: the folders on the way to the chosen one, itself, and the folders in it. A double click or Enter asks to
-// open a folder, Backspace to go up.
+// DirListBox1: the folders on the path to the chosen one, the chosen one, and the folders in it. A double click or
+// Enter requests to open a folder, Backspace to go up.
 #pragma once
 
 #include "shell/DirChooser.h"
@@ -25,7 +25,7 @@ class FolderTree final : public QTreeWidget {
   void upRequested();
 
  protected:
-  // No signs for opening and closing: every row stays where it is.
+  // Draws no expand signs, because rows cannot be collapsed.
   void drawBranches(QPainter*, const QRect&, const QModelIndex&) const override {}
   void keyPressEvent(QKeyEvent* event) override;
 

@@ -47,7 +47,7 @@ QWidget* makeCursorPanel(QWidget* parent, Shell& shell, QtDisplay& display) {
   return panel;
 }
 
-// The samples of an effect follow the icon and the current colour: others may come while the panel is up.
+// An effect's samples depend on the icon and the current colour, which can change while the panel is open.
 QWidget* makeEffectPanel(int number, QWidget* parent, Shell& shell, QtDisplay& display) {
   EffectPanelView* view = makeEffectView(number, parent, shell.effects());
   if (!view) return nullptr;
@@ -62,7 +62,7 @@ struct PanelWidget {
   QWidget* (*make)(QWidget* parent, Shell& shell, QtDisplay& display);
 };
 
-// Title, Proceed and Close come from the table of panels.
+// Sets title and actions of Proceed and Close from the table of panels.
 void completeFrame(PanelFrame* panel, int number, Shell& shell) {
   panel->setTitle(findPanel(number)->caption);
   QObject::connect(panel, &PanelFrame::proceed, panel,
@@ -77,7 +77,7 @@ constexpr std::array kPanelWidgets = {
     PanelWidget{kRotatePanel, makeRotatePanel},
 };
 
-// Null for a panel that the program does not have yet.
+// Returns null for a panel that is not implemented yet.
 QWidget* makePanel(int number, QWidget* parent, Shell& shell, QtDisplay& display) {
   const auto* row = std::ranges::find(kPanelWidgets, number, &PanelWidget::number);
   return row == kPanelWidgets.end() ? makeEffectPanel(number, parent, shell, display)
@@ -105,11 +105,11 @@ QWidget* PanelStack::panel(int number) {
 void PanelStack::showPanel(int number) {
   QWidget* widget = panel(number);
   if (!widget) return;
-  // The form's own focus: during a drop the keys are with another program.
+  // The form's own focus widget: during a drop another program has the keyboard focus.
   const bool hadFocus = stack_->currentWidget() && stack_->currentWidget()->isAncestorOf(window()->focusWidget());
   const bool closes = number == kColorPanel && stack_->currentWidget() != widget;
   stack_->setCurrentWidget(widget);
-  // A side panel is worked with the keyboard at once; the colour panel leaves the focus where it is.
+  // A side panel takes the keyboard focus at once; the colour panel does not take it.
   if (auto* frame = qobject_cast<PanelFrame*>(widget)) frame->focusFirstControl();
   if (closes && hadFocus) emit focusGivenBack();
 }

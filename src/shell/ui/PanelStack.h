@@ -1,5 +1,5 @@
-// The right column: exactly one of the panels fraPanel(n) at a time, all of one size. A panel's widget is made when it
-// is first shown; which widget that is stands in the table of PanelStack.cpp, for effects in that of EffectViews.cpp.
+// The right column: shows one of the panels fraPanel(n) at a time, all of the same size. A panel's widget is created
+// when it is first shown, from the table in PanelStack.cpp or, for effects, in EffectViews.cpp.
 #pragma once
 
 #include <QWidget>
@@ -19,11 +19,11 @@ class PanelStack : public QWidget {
  public:
   PanelStack(QWidget* parent, Shell& shell, QtDisplay& display);
 
-  // Brings a panel up. One that has no widget yet leaves the column as it is.
+  // Shows a panel. Does nothing for a panel without a widget.
   void showPanel(int number);
 
  signals:
-  // A side panel that had the focus has closed: something else is to take it.
+  // A side panel with the focus has closed: another widget must take the focus.
   void focusGivenBack();
 
  private:

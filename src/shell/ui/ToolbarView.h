@@ -1,4 +1,4 @@
-// picToolbar: the buttons cmdTB(0..26), made from the toolbar's table.
+// picToolbar: the buttons cmdTB(0..26), created from the toolbar table.
 #pragma once
 
 #include "shell/CommandTable.h"

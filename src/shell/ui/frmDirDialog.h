@@ -1,5 +1,4 @@
-// The program's own folder chooser. Its rules are those of a DirChooser; the form shows them and forwards what is
-// pressed.
+// The program's own folder chooser. DirChooser contains its logic; the form shows its state and forwards events.
 #pragma once
 
 #include "shell/DirChooser.h"
@@ -23,14 +22,14 @@ class frmDirDialog final : public QDialog {
   Q_OBJECT
 
  public:
-  // `pattern` is such as "*.ICO" or "*.*". The boxes must outlive the form.
+  // `pattern` is, for example, "*.ICO" or "*.*". The boxes must outlive the form.
   frmDirDialog(const std::string& pattern, const std::string& startFolder, MessageBoxes& boxes,
                QWidget* parent = nullptr);
 
-  // Shows the form modally over the active window: the chosen folder, empty on Cancel.
+  // Shows the form modally over the active window. Returns the chosen folder, empty on Cancel.
   static std::string choose(const std::string& pattern, const std::string& startFolder, MessageBoxes& boxes);
 
-  // The chosen folder once the form was accepted; otherwise empty.
+  // The chosen folder after the form was accepted; otherwise empty.
   const std::string& result() const { return gFolderResult; }
 
  private:

@@ -17,7 +17,7 @@ namespace {
 constexpr const char* kLogo = "logo";
 constexpr int kMargin = 24;        // pixels
 constexpr int kGap = 20;           // between logo and words
-constexpr qreal kNameScale = 1.8;  // of the font of everything else
+constexpr qreal kNameScale = 1.8;  // relative to all other text
 
 QLabel* makeLabel(const char* objectName, const QString& text, QWidget* parent) {
   auto* label = new QLabel(text, parent);

@@ -1,5 +1,5 @@
-// The about screen: the picture that stands while the program starts, and the modal form that tells about program and
-// machine. Both have the title by which a second instance finds and closes them.
+// The about screen: the picture shown while the program starts, and the modal form with information about the program
+// and the machine. Both have the title by which a second instance finds and closes them.
 #pragma once
 
 #include <QDialog>
@@ -15,10 +15,10 @@ class frmGPAbout final : public QDialog {
  public:
   // The start-up picture, without buttons.
   frmGPAbout();
-  // The form; the ports must outlive it.
+  // The modal form; the ports must outlive it.
   frmGPAbout(SystemInfo& system, MessageBoxes& boxes, QWidget* parent);
 
-  // Shows the start-up picture without a modal state, painted before this returns where the desktop allows it.
+  // Shows the start-up picture non-modally, painted before this returns where the desktop allows it.
   void showAtStart();
 
  private:

@@ -151,7 +151,7 @@ void frmGPEdit::connectIconsPanel() {
   connect(iconsPanel_, &IconsPanelView::updateRequested, this, [this] {
     shell_.guarded("imgUpdIconsPanel_Click", [&] { shell_.document().iconsPanel.updateFromCurrent(); });
   });
-  // Queued: the file manager must not wait for what is asked about the file.
+  // Queued, so that the file manager need not wait for questions about the file.
   connect(
       iconsPanel_, &IconsPanelView::filesDropped, this,
       [this](int container, const std::vector<std::string>& files) {
@@ -207,7 +207,7 @@ void frmGPEdit::setRequests() {
   };
 }
 
-// A stroke tells of changed commands at every step: they are looked at once, when the events are through.
+// A stroke reports changed commands at every step: they are refreshed once, after pending events.
 void frmGPEdit::refreshCommandsSoon() { commandsTimer_->start(0); }
 
 void frmGPEdit::refreshCommands() {
@@ -265,7 +265,7 @@ void frmGPEdit::unload() { close(); }
 
 void frmGPEdit::closeEvent(QCloseEvent* event) { event->setAccepted(shell_.queryUnload()); }
 
-// Keys that no control had a use for.
+// Handles keys that no control has handled.
 void frmGPEdit::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape)
     shell_.guarded("Form_KeyDown", [this] { shell_.escapeKey(); });
@@ -277,7 +277,7 @@ void frmGPEdit::keyPressEvent(QKeyEvent* event) {
 
 bool frmGPEdit::event(QEvent* event) {
   const bool handled = QMainWindow::event(event);
-  // The form is seen before anything is read or opened.
+  // Settings and files are read only after the form has been painted.
   if (event->type() == QEvent::Paint && !activated_) {
     activated_ = true;
     QTimer::singleShot(0, this, &frmGPEdit::activate);

@@ -1,5 +1,5 @@
-// The main form. It places the views, forwards their events to the subsystems and tells the views what changed; it
-// decides nothing and holds no state of the document.
+// The main form. It arranges the views, forwards their events to the subsystems and notifies the views of changes. It
+// makes no decisions and has no document state.
 #pragma once
 
 #include "files/FileForms.h"
@@ -32,7 +32,7 @@ class frmGPEdit final : public QMainWindow, public ShellForms, public FileForms 
   Q_OBJECT
 
  public:
-  // The shell and the display must outlive the form. `commandLine` is opened once the form has been seen.
+  // The shell and the display must outlive the form. `commandLine` is opened after the form was first painted.
   frmGPEdit(Shell& shell, QtDisplay& display, std::string commandLine);
   ~frmGPEdit() override;
 

@@ -1,5 +1,5 @@
-// A frame with a caption over it, for a labelled group of controls. The caption is painted only: the controls inside
-// carry their own names.
+// A frame with a caption above it, for a labelled group of controls. The caption is only painted: the controls inside
+// have their own accessible names.
 #pragma once
 
 #include <QWidget>
@@ -13,7 +13,7 @@ class CaptionFrame : public QWidget {
   CaptionFrame(QWidget* parent, const QString& objectName, const QString& caption);
 
   const QString& caption() const { return caption_; }
-  // The margins of a layout inside the frame.
+  // Returns the margins for a layout inside the frame.
   QMargins frameMargins() const;
 
  protected:

@@ -19,7 +19,7 @@ QPushButton* makeButton(QWidget* parent, const char* objectName, const QString& 
   button->setObjectName(objectName);
   button->setIconSize(QSize(Pictures::kSize, Pictures::kSize));
   button->setFixedHeight(kButtonHeight);
-  // Enter on a button presses that one, not the default.
+  // Enter on a button presses that button, not the default one.
   button->setAutoDefault(true);
   return button;
 }
@@ -67,7 +67,7 @@ void PanelFrame::addButtons() {
   setFirstControl(cmdProceed_);
 }
 
-// As if by a key, so that it is seen where the keys go.
+// The reason of the Tab key makes the focus visible.
 void PanelFrame::focusFirstControl() { firstControl_->setFocus(Qt::TabFocusReason); }
 
 QWidget* PanelFrame::proceedButton() const { return cmdProceed_; }

@@ -1,6 +1,6 @@
-// The frame that the panels of the right column share: title on top, the panel's own rows, and at the bottom Proceed
-// and Close. Enter anywhere in it is Proceed, unless a control has a use of its own for it, and Esc is Close. What the
-// two do is told by whoever handles the signals.
+// The common frame of the panels in the right column: a title at the top, the panel's own rows, and Proceed and Close
+// at the bottom. Enter presses Proceed, unless the focused control handles it, and Esc presses Close. The owner
+// connects the signals to their actions.
 #pragma once
 
 #include <QWidget>
@@ -18,15 +18,15 @@ class PanelFrame : public QWidget {
   // `number` is the index of fraPanel.
   PanelFrame(QWidget* parent, int number);
 
-  // Written like a menu's caption, with && for &.
+  // Takes a menu caption, with && for &.
   void setTitle(const QString& title);
 
-  // Where the panel puts its rows, from the top.
+  // The layout for the panel's rows, from the top.
   QVBoxLayout* rows() const { return rows_; }
-  // Called once, after the rows, so that Tab comes to the buttons last.
+  // Must be called once, after the rows, so that the buttons are last in the Tab order.
   void addButtons();
-  // What takes the focus when the panel comes up: Proceed, until another control is named after addButtons. It is no
-  // focus proxy, with which the frame itself would tell that it has the focus.
+  // Sets the control that gets the focus when the panel opens; addButtons() sets Proceed. It is not a focus proxy,
+  // which would make the frame itself report the focus.
   void setFirstControl(QWidget* control) { firstControl_ = control; }
   void focusFirstControl();
   QWidget* proceedButton() const;

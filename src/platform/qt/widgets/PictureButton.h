@@ -1,5 +1,4 @@
-// A flat button with one of the program's pictures. Its tooltip is also the name that assistive technology speaks,
-// unless it is given another.
+// A flat button with one of the program's pictures. Its tooltip is also its accessible name, unless another one is set.
 #pragma once
 
 #include <QToolButton>
@@ -20,7 +19,7 @@ class PictureButton : public QToolButton {
  public:
   PictureButton(QWidget* parent, const QString& objectName, const PictureButtonLook& look);
 
-  // Looks disabled, but still takes clicks: what they do is told by whoever handles them.
+  // A dimmed button looks disabled, but still accepts clicks; its owner decides what they do.
   void setDimmed(bool dimmed);
   bool isDimmed() const { return dimmed_; }
 

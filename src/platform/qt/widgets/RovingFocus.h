@@ -1,5 +1,5 @@
-// One Tab stop for a group of buttons: Tab reaches the group, the arrow keys, Home and End move within it. The group
-// remembers where it was left. It owns no widget; members must outlive it or be its owner's children.
+// One Tab stop for a group of buttons: Tab reaches the group; the arrow keys, Home and End move within it. The group
+// remembers its last position. It does not own the members, which must outlive it or be children of its owner.
 #pragma once
 
 #include <QObject>
@@ -15,7 +15,7 @@ class RovingFocus : public QObject {
   Q_OBJECT
 
  public:
-  // The members stand in rows of `columns`; a group of one row has as many columns as members.
+  // The members are in rows of `columns`; for a group of one row, pass the number of members.
   RovingFocus(QWidget* owner, int columns);
 
   void add(QWidget* member);

@@ -14,10 +14,10 @@ namespace gp {
 namespace {
 
 constexpr double kUnitsPerCharacter = 4;
-// What an average character is taken from: fonts tell an average over all their signs, which suits no text.
+// The letters for the average character width: a font's own average includes all its signs and does not suit text.
 constexpr QLatin1String kLetters("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
 constexpr int kMargin = 4;      // left and right of a text, pixels
-constexpr int kRowLeading = 4;  // between the lines
+constexpr int kRowLeading = 4;  // between two lines
 constexpr int kLeastColumnGap = 2;
 constexpr int kLeastRows = 5;
 
@@ -44,7 +44,7 @@ QRect columnRect(const QRect& item, const TabbedColumns& columns, std::size_t co
   return item.adjusted(kMargin + columns.begins[column], 0, 0, 0);
 }
 
-// The style paints ground and focus, the columns are painted here.
+// The style paints background and focus; this class paints the columns.
 class ColumnsDelegate final : public QStyledItemDelegate {
  public:
   explicit ColumnsDelegate(TabbedList* list) : QStyledItemDelegate(list), list_(*list) {}
@@ -61,7 +61,7 @@ class ColumnsDelegate final : public QStyledItemDelegate {
     paintColumns(*painter, option.rect, text);
   }
 
-  // The list is as wide as it needs to be: no item asks for more.
+  // Width 1: the list itself is as wide as its widest item.
   QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
     return {1, list_.fontMetrics().height() + kRowLeading};
   }
@@ -78,7 +78,7 @@ class ColumnsDelegate final : public QStyledItemDelegate {
   const TabbedList& list_;
 };
 
-// The desktop's size in the lists' own family, where that is installed.
+// The desktop's font size in the lists' own family, where that is installed.
 QFont listFont() {
   QFont font = QApplication::font();
   font.setFamilies({QStringLiteral("Tahoma"), font.family()});
@@ -129,14 +129,14 @@ TabbedColumns TabbedList::columnsOf(const QString& text) const {
   TabbedColumns columns;
   const QStringList pieces = text.split(kTab);
   for (const QString& piece : pieces) {
-    const int begin = columns.begins.empty() ? 0 : stopBehind(columns.end);
+    const int begin = columns.begins.empty() ? 0 : stopAfter(columns.end);
     columns.begins.push_back(begin);
     columns.end = begin + fontMetrics().horizontalAdvance(withoutTrailingBlanks(piece));
   }
   return columns;
 }
 
-int TabbedList::stopBehind(int position) const {
+int TabbedList::stopAfter(int position) const {
   const double average = QFontMetricsF(font()).horizontalAdvance(kLetters) / static_cast<double>(kLetters.size());
   const double unit = average / kUnitsPerCharacter;
   const auto pixels = [unit](int units) { return static_cast<int>(std::ceil(units * unit)); };
@@ -169,20 +169,20 @@ QSize TabbedList::minimumSizeHint() const {
 
 void TabbedList::keyPressEvent(QKeyEvent* event) {
   QListWidget::keyPressEvent(event);
-  tellChoice();
+  reportChoice();
 }
 
 void TabbedList::mousePressEvent(QMouseEvent* event) {
   QListWidget::mousePressEvent(event);
-  tellChoice();
+  reportChoice();
 }
 
 void TabbedList::mouseMoveEvent(QMouseEvent* event) {
   QListWidget::mouseMoveEvent(event);
-  tellChoice();
+  reportChoice();
 }
 
-// The view would make its first item the current one, and the first key would then pass it over.
+// Qt would make the first item the current one, and the first key press would then skip it.
 void TabbedList::focusInEvent(QFocusEvent* event) {
   QListWidget::focusInEvent(event);
   if (known_ < 0 && selectionMode() == SingleSelection) selectionModel()->clearCurrentIndex();
@@ -195,11 +195,11 @@ void TabbedList::changeEvent(QEvent* event) {
   updateGeometry();
 }
 
-// Assistive technology selects past the events. While a key is at work the selection comes before the current item,
-// so the news waits until all is in its place.
+// Assistive technology selects without key or mouse events. During a key press the selection changes before the current
+// item, so the report is queued until both have changed.
 void TabbedList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
   QListWidget::selectionChanged(selected, deselected);
-  QMetaObject::invokeMethod(this, &TabbedList::tellChoice, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(this, &TabbedList::reportChoice, Qt::QueuedConnection);
 }
 
 QItemSelectionModel::SelectionFlags TabbedList::selectionCommand(const QModelIndex& index, const QEvent*) const {
@@ -207,7 +207,7 @@ QItemSelectionModel::SelectionFlags TabbedList::selectionCommand(const QModelInd
   return selects ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
 }
 
-void TabbedList::tellChoice() {
+void TabbedList::reportChoice() {
   if (selected() == known_) return;
   if (selected() < 0) return setSelected(known_);
   known_ = selected();

@@ -1,6 +1,6 @@
-// A list of one-line texts with tabs in them, which stand in columns at tab stops. One item can be selected, by mouse
-// or keyboard, and there is no way to select none again; a list for reading only lets nothing be selected. It owns its
-// texts. Assistive technology hears an item's columns with commas between them.
+// A list of one-line texts with tabs, shown in columns at tab stops. One item can be selected by mouse or keyboard, and
+// the user cannot clear the selection; in a read-only list nothing can be selected. The list owns its texts. Assistive
+// technology gets an item's columns separated by commas.
 #pragma once
 
 #include <QListWidget>
@@ -10,7 +10,7 @@
 
 namespace gp {
 
-// Where the columns of an item begin, and where the last one ends, in pixels.
+// The start of each column of an item and the end of the last one, in pixels.
 struct TabbedColumns {
   std::vector<int> begins;
   int end = 0;
@@ -20,26 +20,26 @@ class TabbedList final : public QListWidget {
   Q_OBJECT
 
  public:
-  // Tab stops are in dialog units: quarters of the font's average letter. They rise; after the last one more follow
-  // at the distance of the last two.
+  // Tab stops are in dialog units, quarters of the font's average letter width, in ascending order. After the last one,
+  // more stops follow at the distance of the last two.
   TabbedList(QWidget* parent, const QString& objectName, const QString& accessibleName, std::vector<int> tabStops);
 
-  // Texts are UTF-8. Other texts than before come with nothing selected, equal ones change nothing.
+  // Texts are UTF-8. Changed texts clear the selection; equal texts change nothing.
   void setItems(const std::vector<std::string>& texts);
-  // -1 selects nothing, as does an item that is not there.
+  // -1 or an index out of range clears the selection.
   void setSelected(int item);
   int selected() const;  // -1 for none
-  // For reading only: the keyboard moves through it, nothing gets selected.
+  // In a read-only list the keyboard moves through the items without selecting them.
   void setReadOnly(bool readOnly);
 
-  // A column that reaches the next stop pushes what follows to the one after; blanks at its end count for nothing.
+  // A column that reaches the next stop moves the following columns to later stops; blanks at its end are ignored.
   TabbedColumns columnsOf(const QString& text) const;
 
   QSize sizeHint() const override;         // as wide as the widest item
-  QSize minimumSizeHint() const override;  // as wide, and some items high
+  QSize minimumSizeHint() const override;  // the same width, and a few items high
 
  signals:
-  // The user has selected another item. Never sent for what the program selects.
+  // The user has selected another item. Not emitted for setSelected().
   void itemChosen(int item);
 
  protected:
@@ -52,13 +52,13 @@ class TabbedList final : public QListWidget {
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
 
  private:
-  void tellChoice();
-  int stopBehind(int position) const;
+  void reportChoice();
+  int stopAfter(int position) const;
   int widestItem() const;
 
   std::vector<int> tabStops_;
   std::vector<std::string> texts_;
-  int known_ = -1;  // the selected item as the program knows it
+  int known_ = -1;  // the selected item that was last set or reported
   mutable int widest_ = -1;
 };
 

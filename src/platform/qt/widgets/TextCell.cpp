@@ -8,9 +8,9 @@ namespace gp {
 namespace {
 
 constexpr int kLeading = 4;
-constexpr int kSlack = 2;  // widths of letters are no whole pixels
+constexpr int kSlack = 2;  // letter widths are not whole pixels
 
-// Control characters and bytes that are no text show as a replacement sign.
+// Control characters and bytes that are not text are shown as replacement characters.
 QString printable(QString line) {
   for (qsizetype i = 0; i < line.size(); ++i) {
     const bool pair = line[i].isHighSurrogate() && i + 1 < line.size() && line[i + 1].isLowSurrogate();
@@ -55,7 +55,7 @@ void TextCell::paintEvent(QPaintEvent*) {
 bool TextCell::event(QEvent* event) {
   if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && shownText() != text_) {
     const auto* help = static_cast<QHelpEvent*>(event);
-    // Rich text would swallow what looks like a tag in a name.
+    // Escaped, because rich text would drop parts of a name that look like a tag.
     QToolTip::showText(help->globalPos(), text_.toHtmlEscaped(), this);
     return true;
   }

@@ -1,5 +1,5 @@
-// One line of text in a place of fixed size: changing it lays nothing out anew. A text that is too long is elided, and
-// the tooltip then shows it whole. Assistive technology gets the text as the value of the cell.
+// One line of text in a fixed area, so that a new text causes no new layout. A long text is elided, and the tooltip
+// then shows it whole. Assistive technology gets the text as the value of the cell.
 #pragma once
 
 #include "platform/qt/Accessibility.h"
