@@ -50,7 +50,6 @@ void Regions::liftRegion(bool blankSource) {
   setLifted();
   setRegionLimits();
   startDragAtBox();
-  buildDragSurfaces();
 }
 
 void Regions::setLifted() {
@@ -93,7 +92,6 @@ void Regions::placePicture(const Surface& picture, bool opaque) {
   keepIconBeneath();
   setLifted();
   state_.current().modified = true;
-  buildDragSurfaces();
   renderRegion();
 }
 
@@ -111,10 +109,6 @@ void Regions::maskPicture() {
   image.makePersistent();
 }
 
-void Regions::buildDragSurfaces() {
-  if (state_.options.updateOnlyEditingArea) dragView_.build(beneath_, content_);
-}
-
 void Regions::renderRegion() {
   regionToPixels();
   unrendered_ = false;
@@ -123,11 +117,7 @@ void Regions::renderRegion() {
   BitbltPic(beneath_.mask, state_.picMask);
   mergeContent();
   state_.current().modified = true;
-  // What lies beneath the region is as it was.
-  const bool ready = dragView_.isReady();
-  editingArea_.ComposeCurrentIcon();
-  editingArea_.MagnifyIcon();
-  dragView_.setReady(ready);
+  editingArea_.showChangedIcon();
 }
 
 void Regions::mergeContent() {
@@ -151,7 +141,7 @@ void Regions::renderRegionFast() {
   if (!isLifted()) return;
   regionToPixels();
   DrawRect former = shown_;
-  if (!dragView_.isReady()) {
+  if (!dragView_.isBuilt()) {
     // A redraw shows the content where the icon has it, which is not where the box was drawn.
     dragView_.build(beneath_, content_);
     former = {0, 0, static_cast<double>(state_.picDisp.width()), static_cast<double>(state_.picDisp.height())};
@@ -169,7 +159,6 @@ void Regions::replaceContent(IconImage content) {
     setRegionLimits();
   }
   setFloating(true);
-  buildDragSurfaces();
   renderRegion();
 }
 

@@ -19,11 +19,7 @@ int drawnSide(double position, int length) {
 }  // namespace
 
 Regions::Regions(const Context& context, EditingArea& editingArea, DrawState& draw)
-    : context_(context),
-      state_(context.state),
-      editingArea_(editingArea),
-      draw_(draw),
-      dragView_(context, editingArea) {}
+    : context_(context), state_(context.state), editingArea_(editingArea), draw_(draw), dragView_(context) {}
 
 RegionScale Regions::scale() const {
   return {state_.gMagnification, state_.picDisp.width(), state_.picDisp.height(), state_.PicIcon.width(),
@@ -146,7 +142,7 @@ void Regions::setLabel(const std::string& text) {
 void Regions::redrawRegion() {
   if (!exists() || !state_.mRegionActive) return;
   state_.picDisp.clearDrawing();
-  dragView_.makeStale();
+  dragView_.forget();
   if (magnification_ != state_.gMagnification) {
     // Positions of the mouse no longer mean what they did: a drag ends here, and its release writes it.
     draw_.mRegionDown = drag_.mEdgeDrag = false;

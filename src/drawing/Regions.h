@@ -97,7 +97,6 @@ class Regions {
   void maskPicture();
   void mergeContent();
   void startDragAtBox();
-  void buildDragSurfaces();
   bool isLifted() const;
   void setLabel(const std::string& text);
   void repaintBox();
