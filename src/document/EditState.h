@@ -95,9 +95,8 @@ struct EditState {
 
   Color mCurrentColor = kWhite;  // what all tools paint with, shown by picColorToUse
 
-  bool mRegionActive = false;  // a region floats or is selected: it keeps commands waiting
-  bool mRegionExists = false;  // a region box stands on the Editing Area
-  bool mPendingPaint = false;  // a tool action is open and must be committed before the container changes
+  bool mRegionExists = false;  // a region stands on the Editing Area; written by Regions
+  bool mPendingPaint = false;  // its content floats and must be committed before the container changes; by Regions
   bool mInLoad = false;        // the main form is being made: no layout, no alpha work
 };
 

@@ -132,7 +132,7 @@ void EditingArea::RefreshStatusBar() {
   if (state_.mPendingPaint) {
     context_.editor.clearUndoHistory();
     context_.editor.clearAllTools();
-    state_.mPendingPaint = false;
+    context_.editor.clearRegion();
   }
   const IconContainerRec& record = state_.current();
   ScreenState& screen = state_.screen;

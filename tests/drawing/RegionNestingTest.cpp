@@ -213,7 +213,7 @@ TEST_P(RegionNesting, AnEventInTheMidstLeavesIconMaskHistoryAndRegionInAgreement
     EXPECT_TRUE(arrived);
     // The button comes up at last, whatever became of the work.
     release(cells(3), cells(3));
-    EXPECT_FALSE(draw.mRegionDown);
+    EXPECT_FALSE(regions.isDragged());
     expectAgreement();
     state.screen.mActivePanel = 0;
     tools.clearAllTools();
