@@ -21,7 +21,7 @@ class EditingArea {
   // The same for the current container's three Surfaces.
   void SizePanelSurfaces(int size);
 
-  // PicIcon becomes Mask and image composed over its back colour.
+  // Composes Mask and image in PicIcon, over its back colour.
   void ComposeCurrentIcon();
   // Copies the Current Icon to its container's Surfaces.
   void UpdatePanelFromCurrent();

@@ -5,7 +5,7 @@
 namespace gp {
 namespace {
 
-// '.' is the ground, 'o' the mark on it. The marks differ, so that the cells can be told apart without their colours.
+// '.' is the ground, 'o' the mark on it. The marks differ, so that the cells are distinguishable without colours.
 struct PatternDrawing {
   Color ground;
   Color mark;

@@ -1,5 +1,5 @@
 // The cells that a patterned grid lays under the icon: small fixed pictures, exact to the pixel, never scaled. They
-// belong to the program for as long as it runs; callers only look at them.
+// live as long as the program.
 #pragma once
 
 #include "platform/gdi/Surface.h"

@@ -1,5 +1,5 @@
-// How picDisp comes onto a screen whose pixels are smaller than the program's: every icon pixel gets the same whole
-// number of device pixels, and a grid line stays one device pixel wide.
+// Maps a magnified icon to a screen of another pixel density: every icon pixel gets the same whole number of device
+// pixels, and a grid line stays one device pixel wide.
 #pragma once
 
 #include <vector>
@@ -14,7 +14,7 @@ class ScreenScale {
   // Device pixels per icon pixel, and over all.
   int cellSize() const { return cellSize_; }
   int deviceSize() const { return cells_ * cellSize_; }
-  // The picDisp position that a device position shows; positions outside go on in the same measure.
+  // The picDisp position that a device position shows. Positions outside continue in the same measure.
   int sourceOf(int device) const;
   // The first device position that shows a picDisp position or one behind it.
   int deviceOf(int source) const;

@@ -1,4 +1,4 @@
-// PicIcon: the Current Icon as others will see it, one device-independent pixel for each of its own.
+// PicIcon: the Current Icon at its own size, one device-independent pixel for each of its pixels.
 #pragma once
 
 #include "document/EditState.h"

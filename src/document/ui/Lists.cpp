@@ -24,7 +24,7 @@ QComboBox* makeList(QWidget* parent, const QString& objectName, const QString& a
   return combo;
 }
 
-// A list's own name is the entry it shows; what it is for is told by its label alone.
+// The accessible name of a list is the entry it shows. Its purpose is stated only by its label.
 QComboBox* makeUnlabelledList(QWidget* parent, const QString& objectName, const QString& accessibleName) {
   QComboBox* combo = makeList(parent, objectName, accessibleName);
   auto* label = new QLabel(accessibleName, parent);

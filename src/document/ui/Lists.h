@@ -1,4 +1,4 @@
-// Drop-down lists as the tables of lists fill them.
+// Drop-down lists, filled from the tables of lists.
 #pragma once
 
 #include <QString>
@@ -8,10 +8,10 @@ class QWidget;
 
 namespace gp {
 
-// A list that may be picked from, with the entries that the tables give it by its objectName.
+// A list that cannot be edited, with the entries that the tables have for its objectName.
 QComboBox* makeList(QWidget* parent, const QString& objectName, const QString& accessibleName);
 
-// The same where no label stands beside it: screen readers find its name in a label that is not shown.
+// The same without a visible label: screen readers find its name in a hidden one.
 QComboBox* makeUnlabelledList(QWidget* parent, const QString& objectName, const QString& accessibleName);
 
 }  // namespace gp

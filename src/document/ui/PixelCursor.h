@@ -1,4 +1,4 @@
-// The position that the keyboard moves over the Editing Area: one icon pixel, never outside the icon.
+// The position that the keyboard moves over a magnified icon: one icon pixel, never outside the icon.
 #pragma once
 
 #include <QPoint>
@@ -7,14 +7,14 @@
 
 namespace gp {
 
-// The step of a key over a grid of cells: arrows by one, Home and End along the row, Page Up and Page Down along the
-// column, further than any grid is wide; nothing for any other key.
+// The step of a key over a grid of cells. Arrows step by one; Home and End along the row, Page Up and Page Down along
+// the column, by more than any grid has cells. Nothing for any other key.
 std::optional<QPoint> cellStep(int key);
 
 class PixelCursor {
  public:
   const QPoint& position() const { return position_; }
-  // A key moves the cursor by its cellStep(). False for any other key.
+  // Moves the cursor by the cellStep() of a key. False for a key without a step. Sizes are in icon pixels, at least 1.
   bool move(int key, int size);
   // Keeps the cursor inside an icon of that size.
   void confine(int size);

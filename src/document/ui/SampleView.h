@@ -15,9 +15,9 @@ class SampleView : public QWidget, public AccessibleValue {
   SampleView(QWidget* parent, const QString& objectName, const QString& accessibleName, const Surface& picture,
              int room);
 
-  // The picture has another content or size.
+  // Shows the picture again after it got another content or size.
   void refresh();
-  // What a screen reader speaks of the picture: its size until another text is given.
+  // Sets what a screen reader speaks; until then it is the size of the picture.
   void setValueText(const QString& text);
 
   QString accessibleValue() const override;

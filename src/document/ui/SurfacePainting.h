@@ -1,5 +1,5 @@
-// How Surfaces come onto widgets: straight from their pixels, a whole number of device pixels for each of theirs, never
-// smoothed. Nothing is kept between two paint events.
+// Paints Surfaces on widgets directly from their pixels: each pixel becomes a whole number of device pixels, without
+// smoothing. Keeps nothing between two paint events.
 #pragma once
 
 #include "document/ScreenScale.h"
@@ -23,18 +23,18 @@ class DevicePainter : public QPainter {
   double ratio_;
 };
 
-// How far the corner of a widget is moved, in its own pixels, to come onto a whole device pixel.
+// The distance from the corner of a widget to the nearest whole device pixel, in the widget's own pixels.
 QPointF deviceShift(const QWidget* widget);
 // The device pixel of a widget under a position in its own pixels.
 QPoint devicePointAt(const QWidget* widget, const QPointF& position);
 
 QRgb toRgb(Color color);
 
-// A part of what a Surface looks like through a scale; `part` is in device pixels and must lie inside.
+// A part of a Surface as a scale shows it. `part` is in device pixels and must lie inside.
 QImage imageOf(const Surface& surface, const ScreenScale& scale, const QRect& part);
 
-// Paints a Surface of one pixel a cell in the middle of an area, as large as whole factors allow. `area` is in
-// device pixels; what does not fit is cut off evenly.
+// Paints a Surface of one pixel per cell in the middle of an area, with `ratio` device pixels per pixel, rounded down.
+// `area` is in device pixels; what does not fit is cut off evenly.
 void paintCentred(DevicePainter& painter, const Surface& surface, const QRect& area, double ratio);
 
 }  // namespace gp
