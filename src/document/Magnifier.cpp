@@ -5,6 +5,7 @@
 #include "platform/gdi/SurfaceOps.h"
 
 #include <algorithm>
+#include <span>
 #include <vector>
 
 namespace gp {
@@ -50,6 +51,7 @@ class RowMaker {
   }
 
  private:
+  // Without a pattern all rows of a cell are the same until the horizontal line is added to the first one.
   void makeRow(int row, std::uint32_t* to, const std::uint32_t* above) const {
     if (above && groundHeight_ == 1) {
       std::copy_n(above, width_, to);
