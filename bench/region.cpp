@@ -12,7 +12,7 @@ using namespace gp;
 struct Scene : bench::BenchRooms {
   static constexpr int kRegionSize = 40;
 
-  RegionTool tool{context, drawing.drawState, drawing.history, drawing.regions, drawing.tools};
+  RegionTool tool{context, drawing.history, drawing.regions, drawing.tools};
 
   Scene(bool editingAreaOnly, int grid) {
     state.options.updateOnlyEditingArea = editingAreaOnly;

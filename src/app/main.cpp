@@ -1,4 +1,5 @@
 // The desktop program: makes the ports, the shell and the main form, and nothing else.
+#include "document/EditState.h"
 #include "document/ui/QtDisplay.h"
 #include "platform/files/Files.h"
 #include "platform/qt/Accessibility.h"

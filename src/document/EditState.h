@@ -14,43 +14,44 @@
 namespace gp {
 
 struct EditState {
-  ProcessValues process;
-  Options options;
+  ProcessValues process;  // start-up and the file dialogs
+  Options options;        // Settings reads and saves them
   ScreenState screen;
 
-  std::array<IconContainerRec, kContainerCount> mIconRecs;
-  int mCurContainer = 0;
+  std::array<IconContainerRec, kContainerCount> mIconRecs;  // IconArrival; commands mark changes
+  int mCurContainer = 0;                                    // IconsPanel
   IconContainerRec& current() { return mIconRecs.at(static_cast<std::size_t>(mCurContainer)); }
   const IconContainerRec& current() const { return mIconRecs.at(static_cast<std::size_t>(mCurContainer)); }
   // True when replacing the Current Icon would lose changes.
   bool IsIconChanged() const { return current().present && (current().modified || current().neverSaved); }
 
-  // Identifies the Current Icon: incremented whenever another icon, or none, is shown in the Editing Area.
+  // Identifies the Current Icon: incremented whenever another icon, or none, is shown in the Editing Area. IconArrival.
   unsigned iconSerial = 0;
 
+  // The alpha values of the Current Icon and of each container. IconArrival.
   AlphaMatrix gAlphaValues;
   std::array<AlphaMatrix, kContainerCount> mAlphaRecs;
 
-  // The Current Icon, 1:1: image, Mask and composite; the Editing Area and its grid.
+  // The Current Icon, 1:1: image and Mask, which drawing and effects change, and the composite of both. The Editing Area
+  // and its grid. EditingArea composes and magnifies.
   Surface picImage{32, 32, kBlack};
   Surface picMask{32, 32, kWhite};
   Surface PicIcon{32, 32, kGround};
   Surface picDisp{384, 384, kGround};
   Surface PicGrid{384, 384, kWhite};
-  // Each container's copy of its icon.
+  // Each container's copy of its icon. EditingArea.
   std::array<Surface, kContainerCount> picPanelImage;
   std::array<Surface, kContainerCount> picPanelMask;
   std::array<Surface, kContainerCount> picPanelIcon;
 
-  int gMagnification = 12;  // pixels of picDisp per icon pixel
-  Color gGridColor = 0x606060;
+  int gMagnification = 12;      // pixels of picDisp per icon pixel; EditingArea
+  Color gGridColor = 0x606060;  // EditingAreaOptions
 
-  Color mCurrentColor = kWhite;  // the colour with which the tools paint, shown by picColorToUse
+  Color mCurrentColor = kWhite;  // the colour with which the tools paint, shown by picColorToUse; ColorSelection
 
-  bool mRegionActive = false;  // a region is selected or floating, which disables some commands
-  bool mRegionExists = false;  // the Editing Area shows a region's box
-  bool mPendingPaint = false;  // a tool action is open and must be committed before the container changes
-  bool mInLoad = false;        // the main form is being created: no layout, no alpha work
+  bool mRegionExists = false;  // a region is on the Editing Area, which disables some commands; written by Regions
+  bool mPendingPaint = false;  // its content floats and must be committed before the container changes; by Regions
+  bool mInLoad = false;        // the main form is being created: no layout, no alpha work; Shell
 };
 
 }  // namespace gp

@@ -5,15 +5,11 @@
 #include "document/EditState.h"
 #include "document/Editor.h"
 #include "document/IconImage.h"
-#include "document/PatternCells.h"
+#include "document/IconSizes.h"
+#include "document/Magnifier.h"
 #include "platform/gdi/Pens.h"
-#include "platform/gdi/RasterOps.h"
-#include "platform/gdi/Stretch.h"
 #include "platform/gdi/SurfaceOps.h"
 #include "platform/ports/MessagePump.h"
-
-#include <algorithm>
-#include <array>
 
 namespace gp {
 
@@ -21,30 +17,8 @@ namespace {
 
 constexpr int kEnlargedRoom = 520;  // pixels of picDispContainer from which the enlarged factors fit
 constexpr int kLargestSmallIcon = 32;
-constexpr int kFirstPattern = -1;
-constexpr Color kPatternLines = 0x606060;
-
-constexpr std::array<Color, kGridCount> kGridColors = {0x606060, 0x000000, 0x800000, -1, -2, -3, kNoGrid};
-constexpr Color kDottedGrid = kGridColors[2];
-
-struct Extent {
-  int width;
-  int height;
-};
-
-// The icon's size as PicIcon has it; anything odd counts as 32.
-Extent iconExtent(const Surface& icon) {
-  if (isIconSize(icon.width()) && isIconSize(icon.height())) return {icon.width(), icon.height()};
-  return {kDefaultIconSize, kDefaultIconSize};
-}
-
-void stretchWhole(Surface& target, const Surface& source, const Extent& from, RasterOp op) {
-  StretchBlt(target, 0, 0, target.width(), target.height(), source, 0, 0, from.width, from.height, op);
-}
 
 }  // namespace
-
-Color gridColorOf(int index) { return kGridColors.at(static_cast<std::size_t>(index)); }
 
 EditingArea::EditingArea(const Context& context) : context_(context), state_(context.state), display_(context.display) {
   for (Surface& image : state_.picPanelImage) image.backColor = kBlack;
@@ -113,71 +87,27 @@ void EditingArea::sizePicDisp(int width, int height) {
 
 void EditingArea::BuildGrid() {
   if (!state_.current().present) return;
-  const int width = state_.PicIcon.width() * state_.gMagnification;
-  const int height = state_.PicIcon.height() * state_.gMagnification;
-  MakePicSize(state_.PicGrid, width, height);
-  // What is shown stays when there is no other size: a save only refreshes the status bar.
-  if (SurfaceSizeDiffers(state_.picDisp, state_.PicGrid)) sizePicDisp(width, height);
+  fitPicDisp();
   context_.pump.pump();
-
-  if (state_.gGridColor == kNoGrid) return;
-  if (state_.gGridColor < 0) {
-    // The pump may have let the form get another size, and the grid with it.
-    tilePattern(state_.PicGrid.width(), state_.PicGrid.height());
-    drawGridLines(kPatternLines);
-  } else if (state_.gGridColor == kDottedGrid) {
-    drawGridDots(state_.gGridColor);
-  } else {
-    drawGridLines(state_.gGridColor);
-  }
+  // The messages may have given the Editing Area another size.
+  state_.PicGrid =
+      gridAlone(state_.picImage.width(), state_.picImage.height(), state_.gMagnification, gridOf(state_.gGridColor));
 }
 
-void EditingArea::drawGridLines(Color color) {
-  Surface& grid = state_.PicGrid;
-  const int step = state_.gMagnification;
-  for (int x = step; x < grid.width(); x += step) FillBox(grid, x, 0, x, grid.height() - 1, color);
-  for (int y = step; y < grid.height(); y += step) FillBox(grid, 0, y, grid.width() - 1, y, color);
-}
-
-void EditingArea::drawGridDots(Color color) {
-  Surface& grid = state_.PicGrid;
-  const int step = state_.gMagnification;
-  for (int y = step; y < grid.height(); y += step)
-    for (int x = step; x < grid.width(); x += step) grid.SetPixelV(x, y, color);
-}
-
-void EditingArea::tilePattern(int width, int height) {
-  for (Surface& tile : picTile_) MakePicSize(tile, width, height);
-  TilePicture(patternCell(kFirstPattern - state_.gGridColor), picTile_[0]);
-  picTile_[0].makePersistent();
+// At the same size the pixels stay: a save refreshes only the status bar.
+void EditingArea::fitPicDisp() {
+  const int width = state_.picImage.width() * state_.gMagnification;
+  const int height = state_.picImage.height() * state_.gMagnification;
+  if (state_.picDisp.width() != width || state_.picDisp.height() != height) sizePicDisp(width, height);
 }
 
 void EditingArea::MagnifyIcon() {
-  const Extent icon = iconExtent(state_.PicIcon);
-  state_.picDisp.clearPicture();
-  stretchWhole(state_.picDisp, state_.PicIcon, icon, RasterOp::SRCCOPY);
-  overlayGrid();
+  fitPicDisp();
+  drawMagnified(state_.picImage, state_.picMask, state_.gMagnification, gridOf(state_.gGridColor), state_.picDisp);
   state_.picDisp.makePersistent();
   if (state_.mRegionExists) context_.editor.redrawRegion();
   display_.changed(DisplayPart::EditingArea);
   context_.editor.UpdateCommands();
-}
-
-void EditingArea::overlayGrid() {
-  if (state_.gGridColor == kNoGrid) return;
-  if (state_.gGridColor < 0) overlayPattern();
-  Surface& disp = state_.picDisp;
-  BitBlt(disp, 0, 0, disp.width(), disp.height(), state_.PicGrid, 0, 0, RasterOp::SRCAND);
-}
-
-// On a patterned grid the pattern, not the ground, shows through transparent pixels.
-void EditingArea::overlayPattern() {
-  const Extent icon = iconExtent(state_.PicIcon);
-  Surface& ground = picTile_[1];
-  BitbltPic(picTile_[0], ground);
-  stretchWhole(ground, state_.picMask, icon, RasterOp::SRCAND);
-  stretchWhole(ground, state_.picImage, icon, RasterOp::SRCINVERT);
-  BitBlt(state_.picDisp, 0, 0, ground.width(), ground.height(), ground, 0, 0, RasterOp::SRCCOPY);
 }
 
 void EditingArea::ShowCurrentIcon() {
@@ -202,7 +132,7 @@ void EditingArea::RefreshStatusBar() {
   if (state_.mPendingPaint) {
     context_.editor.clearUndoHistory();
     context_.editor.clearAllTools();
-    state_.mPendingPaint = false;
+    context_.editor.clearRegion();
   }
   const IconContainerRec& record = state_.current();
   ScreenState& screen = state_.screen;

@@ -1,5 +1,5 @@
-// The options that change how the Editing Area shows the icon: its grid and its magnification. Both first commit what
-// is open on it.
+// The options that change how the Editing Area shows the icon: its grid and its magnification. Both first commit
+// floating content.
 #pragma once
 
 #include "document/Context.h"
@@ -17,7 +17,7 @@ class EditingAreaOptions {
   void SetGrid(int index);
   // Chooses the magnification again after the option or the room changed.
   void ApplyEnlargedOption();
-  // The client size of picDispContainer, in pixels, after a new layout.
+  // Takes the client size of picDispContainer, in pixels, after a new layout.
   void setRoom(int width, int height);
 
  private:

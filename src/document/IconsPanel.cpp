@@ -31,8 +31,6 @@ void IconsPanel::EndToolAction() {
   context_.editor.clearRegion();
   state_.picDisp.clearDrawing();
   state_.screen.lblDispXY.at(static_cast<std::size_t>(Readout::Region)).clear();
-  state_.mPendingPaint = false;
-  state_.mRegionActive = false;
   context_.display.changed(DisplayPart::EditingArea);
   context_.display.changed(DisplayPart::Readouts);
   context_.editor.UpdateCommands();

@@ -1,5 +1,5 @@
-// State that the tools share while the mouse is down: the rectangle being drawn, in three measures, and the active
-// stroke. Tools owns it and passes it to each tool.
+// What the tools share while the mouse is down: the rectangle being drawn, in three measures, and the freehand stroke
+// under way. Tools and Regions write it.
 #pragma once
 
 namespace gp {
@@ -17,13 +17,12 @@ struct DrawState {
   bool mPainting = false;
   bool mErasing = false;
   bool mRestoring = false;
-  bool mRegionDown = false;
 
   DrawRect draw;    // mDrawX1, mDrawY1, mDrawX2, mDrawY2: icon pixels, both corners included
   DrawRect band;    // mBandX1 and so on: the same in Editing Area pixels, at the centres of cells
   DrawRect region;  // mRegionLeft, mRegionTop, mRegionRight, mRegionBottom: Editing Area pixels
 
-  bool isStroke() const { return mPainting || mErasing || mRestoring || mRegionDown; }
+  bool isStroke() const { return mPainting || mErasing || mRestoring; }
 };
 
 }  // namespace gp

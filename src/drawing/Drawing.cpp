@@ -19,7 +19,7 @@ Drawing::Drawing(const Context& context, Document& document, ColorSelection& col
       fill_(context, document.editingArea, history),
       replace_(context, document.editingArea, history),
       shapes_(context, document.editingArea, history, tools, drawState),
-      region_(context, drawState, history, regions, tools) {
+      region_(context, history, regions, tools) {
   const struct {
     Tool tool;
     DrawingTool& worker;

@@ -22,7 +22,7 @@ constexpr Band kFirstSidePointer = {8, 2};   // left and top
 constexpr Band kSecondSidePointer = {2, 8};  // right and bottom
 constexpr Band kPress = {4, 8};
 
-// A corner off the grid, as the limit of squares leaves it, belongs to the nearest grid line.
+// A corner off the grid, which the limit of squares can leave, belongs to the nearest grid line.
 double cellOf(double position, int magnification) { return roundToInteger(position / magnification); }
 
 double lastCell(double first, double last, double firstPixel, const RegionScale& scale, int dispLength,

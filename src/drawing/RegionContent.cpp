@@ -1,4 +1,6 @@
-// What is in a region: lifting it from the icon, merging it back, and showing it while it moves.
+#include "document/EditState.h"
+
+// The content of a region: lifts it from the icon, merges it back, and shows it while it moves.
 #include "document/EditingArea.h"
 #include "drawing/Regions.h"
 #include "platform/gdi/Pens.h"
@@ -19,14 +21,15 @@ void copyPicture(const Surface& source, Surface& target) {
 
 }  // namespace
 
-// What was lifted belongs to the icon that it was lifted from, at the size that it had.
-bool Regions::isLifted() const {
-  return mRegionLifted && liftedFrom_ == state_.iconSerial && !SurfaceSizeDiffers(beneath_.image, state_.picImage);
+bool Regions::isOfCurrentIcon() const {
+  return liftedFrom_ == state_.iconSerial && !SurfaceSizeDiffers(beneath_.image, state_.picImage);
 }
 
 void Regions::keepIconBeneath() {
   copyPicture(state_.picImage, beneath_.image);
   copyPicture(state_.picMask, beneath_.mask);
+  liftedFrom_ = state_.iconSerial;
+  dragView_.forget();
 }
 
 void Regions::liftRegion(bool blankSource) {
@@ -47,15 +50,7 @@ void Regions::liftRegion(bool blankSource) {
   content_.mask.makePersistent();
   FillBox(beneath_.image, x1, y1, x1 + width - 1, y1 + height - 1, kBlack);
   FillBox(beneath_.mask, x1, y1, x1 + width - 1, y1 + height - 1, kWhite);
-  setLifted();
   setRegionLimits();
-  startDragAtBox();
-  buildDragSurfaces();
-}
-
-void Regions::setLifted() {
-  mRegionLifted = true;
-  liftedFrom_ = state_.iconSerial;
 }
 
 void Regions::liftOpaquePixels() {
@@ -81,23 +76,23 @@ void Regions::liftBlock(int width, int height) {
 
 void Regions::placePicture(const Surface& picture, bool opaque) {
   setRegionFromPicture(picture, 0, 0);
-  setRegionLimits();
   copyPicture(picture, content_.image);
   MakeSameSize(picture, content_.mask);
   content_.mask.fill(kBlack);
-  mPasteOpaque = opaque;
   if (!opaque) maskPicture();
   content_.mask.makePersistent();
-  setFloating(true);
-  setExists();
   keepIconBeneath();
-  setLifted();
-  state_.current().modified = true;
-  buildDragSurfaces();
+  floatWith(opaque);
   renderRegion();
 }
 
-// The ground behind transparent pixels is what a copied icon shows there: such pixels are transparent again.
+void Regions::floatWith(bool opaque) {
+  floating_ = true;
+  opaque_ = opaque;
+  enter(RegionPhase::Standing);
+}
+
+// A copied icon shows the ground in its transparent pixels: these become transparent again.
 void Regions::maskPicture() {
   const Color transparent = state_.PicIcon.backColor;
   Surface& image = content_.image;
@@ -111,23 +106,13 @@ void Regions::maskPicture() {
   image.makePersistent();
 }
 
-void Regions::buildDragSurfaces() {
-  if (state_.options.updateOnlyEditingArea) dragView_.build(beneath_, content_);
-}
-
 void Regions::renderRegion() {
-  regionToPixels();
-  unrendered_ = false;
-  if (!isLifted()) return;
+  if (!isOfCurrentIcon()) return;
   BitbltPic(beneath_.image, state_.picImage);
   BitbltPic(beneath_.mask, state_.picMask);
   mergeContent();
   state_.current().modified = true;
-  // What lies beneath the region is as it was.
-  const bool ready = dragView_.isReady();
-  editingArea_.ComposeCurrentIcon();
-  editingArea_.MagnifyIcon();
-  dragView_.setReady(ready);
+  editingArea_.showChangedIcon();
 }
 
 void Regions::mergeContent() {
@@ -137,7 +122,7 @@ void Regions::mergeContent() {
   const Surface& mask = content_.mask;
   const int width = image.width();
   const int height = image.height();
-  if (mPasteOpaque) {
+  if (opaque_) {
     BitBlt(state_.picMask, x, y, width, height, mask, 0, 0, RasterOp::SRCCOPY);
     BitBlt(state_.picImage, x, y, width, height, image, 0, 0, RasterOp::SRCCOPY);
     return;
@@ -148,28 +133,23 @@ void Regions::mergeContent() {
 }
 
 void Regions::renderRegionFast() {
-  if (!isLifted()) return;
-  regionToPixels();
+  if (!isOfCurrentIcon()) return;
   DrawRect former = shown_;
-  if (!dragView_.isReady()) {
-    // A redraw shows the content where the icon has it, which is not where the box was drawn.
+  if (!dragView_.isBuilt()) {
+    // picDisp shows the content where the icon has it, which need not be where the box was drawn.
     dragView_.build(beneath_, content_);
     former = {0, 0, static_cast<double>(state_.picDisp.width()), static_cast<double>(state_.picDisp.height())};
   }
   dragView_.moveContent(former, draw_.region);
   drawRegionBox();
-  unrendered_ = true;
 }
 
 void Regions::replaceContent(IconImage content) {
   content_ = std::move(content);
   if (content_.width() != roundToInteger(draw_.draw.x2 - draw_.draw.x1) + 1 ||
-      content_.height() != roundToInteger(draw_.draw.y2 - draw_.draw.y1) + 1) {
+      content_.height() != roundToInteger(draw_.draw.y2 - draw_.draw.y1) + 1)
     setRegionFromPicture(content_.image, roundToInteger(draw_.draw.x1), roundToInteger(draw_.draw.y1));
-    setRegionLimits();
-  }
-  setFloating(true);
-  buildDragSurfaces();
+  floatWith(opaque_);
   renderRegion();
 }
 

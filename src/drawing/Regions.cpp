@@ -1,8 +1,13 @@
+#include "document/EditState.h"
+
+// The phases of a region: what each event does in each of them.
 #include "drawing/Regions.h"
 
 #include "document/Display.h"
+#include "document/EditingArea.h"
 #include "document/Editor.h"
-#include "platform/gdi/Pens.h"
+#include "drawing/ShapeGeometry.h"
+#include "drawing/Tools.h"
 #include "platform/gdi/SurfaceOps.h"
 #include "platform/text/Numbers.h"
 
@@ -10,35 +15,203 @@ namespace gp {
 
 namespace {
 
-// A side on the far edge of the Editing Area is drawn one pixel in, where it can be seen.
-int drawnSide(double position, int length) {
-  const int side = roundToInteger(position);
-  return side == length ? side - 1 : side;
+constexpr int kConstrainingKeys = kShiftKey | kCtrlKey | kAltKey;
+
+bool isResize(RegionPointer pointer) {
+  return pointer == RegionPointer::HorizontalResize || pointer == RegionPointer::VerticalResize;
+}
+
+bool isHorizontal(RegionEdge edge) { return edge == RegionEdge::Left || edge == RegionEdge::Right; }
+
+// The coordinate of a side; null for None.
+double* sideOf(DrawRect& box, RegionEdge edge) {
+  switch (edge) {
+    case RegionEdge::Left:
+      return &box.x1;
+    case RegionEdge::Right:
+      return &box.x2;
+    case RegionEdge::Top:
+      return &box.y1;
+    case RegionEdge::Bottom:
+      return &box.y2;
+    case RegionEdge::None:
+      break;
+  }
+  return nullptr;
 }
 
 }  // namespace
 
 Regions::Regions(const Context& context, EditingArea& editingArea, DrawState& draw)
-    : context_(context),
-      state_(context.state),
-      editingArea_(editingArea),
-      draw_(draw),
-      dragView_(context, editingArea) {}
+    : context_(context), state_(context.state), editingArea_(editingArea), draw_(draw), dragView_(context) {}
 
-RegionScale Regions::scale() const {
-  return {state_.gMagnification, state_.picDisp.width(), state_.picDisp.height(), state_.PicIcon.width(),
-          state_.PicIcon.height()};
+void Regions::enter(RegionPhase phase) {
+  phase_ = phase;
+  if (phase != RegionPhase::Sizing) pulledEdge_ = RegionEdge::None;
+  if (!exists()) floating_ = opaque_ = false;
+  state_.mRegionExists = exists();
+  state_.mPendingPaint = floating_;
+}
+
+// The mouse.
+
+bool Regions::press(double x, double y) {
+  finishDrag();
+  const Point corner = snapped(x, y);
+  if (!exists()) {
+    beginBox(corner);
+  } else if (isResize(pointerAt(x, y))) {
+    pullEdge(x, y);
+  } else if (isInBox(draw_.region, corner.x, corner.y)) {
+    grab_ = {draw_.region.x1 - corner.x, draw_.region.y1 - corner.y};
+    enter(RegionPhase::Moving);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void Regions::move(double x, double y, int modifiers) {
+  switch (phase_) {
+    case RegionPhase::None:
+    case RegionPhase::Standing:
+      return;
+    case RegionPhase::Drawing:
+      return extendBox(snapped(x, y), modifiers);
+    case RegionPhase::Moving:
+    case RegionPhase::MovingView:
+      return moveTo(snapped(x, y));
+    case RegionPhase::Sizing:
+      return moveEdge(x, y);
+  }
+}
+
+void Regions::release() {
+  if (phase_ == RegionPhase::Drawing)
+    finishBox();
+  else if (phase_ == RegionPhase::Sizing)
+    finishEdge();
+  else
+    finishDrag();
+}
+
+// Drawing a box.
+
+void Regions::beginBox(const Point& corner) {
+  clearRegion();
+  enter(RegionPhase::Drawing);
+  draw_.region = {corner.x, corner.y, corner.x, corner.y};
+  regionToPixels();
+  drawRegionBox();
+}
+
+void Regions::extendBox(const Point& corner, int modifiers) {
+  wipeRegionBox();
+  draw_.region.x2 = corner.x;
+  draw_.region.y2 = corner.y;
+  if (modifiers & kConstrainingKeys) constrainToSquare(draw_, state_.current().size, state_.gMagnification);
+  regionToPixels();
+  drawRegionBox();
+}
+
+void Regions::finishBox() {
+  if (isFlatBox(draw_.region)) return clearRegion();
+  if (normalizeRegion()) updateRegionLabel();
+  liftRegion(true);
+  enter(RegionPhase::Standing);
+}
+
+// Moving a side.
+
+void Regions::pullEdge(double x, double y) {
+  enter(RegionPhase::Sizing);
+  pulledEdge_ = edgeUnderPress(draw_.region, x, y);
+  mEdgeMouse_ = isHorizontal(pulledEdge_) ? x : y;
+}
+
+void Regions::moveEdge(double x, double y) {
+  wipeRegionBox();
+  if (double* side = sideOf(draw_.region, pulledEdge_)) {
+    const double position = isHorizontal(pulledEdge_) ? x : y;
+    *side += position - mEdgeMouse_;
+    mEdgeMouse_ = position;
+  }
+  drawRegionBox();
+}
+
+void Regions::finishEdge() {
+  if (double* side = sideOf(draw_.region, pulledEdge_))
+    *side = static_cast<double>(Fix(*side / state_.gMagnification)) * state_.gMagnification;
+  if (isFlatBox(draw_.region)) return finishDrag();
+  enter(RegionPhase::Standing);
+  normalizeRegion();
+  liftRegion(true);
+  wipeRegionBox();
+  drawRegionBox();
+}
+
+// Moving the region.
+
+void Regions::moveTo(const Point& corner) {
+  DrawRect& box = draw_.region;
+  const double left = grab_.x + corner.x;
+  const double top = grab_.y + corner.y;
+  if (!limits_.allow(left, top) || (left == box.x1 && top == box.y1)) return;
+  box = {left, top, left + (box.x2 - box.x1), top + (box.y2 - box.y1)};
+  regionToPixels();
+  if (!state_.options.updateOnlyEditingArea) return renderRegion();
+  enter(RegionPhase::MovingView);
+  renderRegionFast();
 }
 
 // Ending.
 
+void Regions::cancel() {
+  if (phase_ == RegionPhase::Drawing)
+    clearRegion();
+  else
+    finishDrag();
+}
+
+void Regions::finishDrag() {
+  const RegionPhase ending = phase_;
+  if (!exists()) return;
+  enter(RegionPhase::Standing);
+  if (ending == RegionPhase::Sizing) {
+    wipeRegionBox();
+    pixelsToRegion();
+    drawRegionBox();
+  } else if (ending == RegionPhase::MovingView) {
+    renderRegion();
+  }
+}
+
+void Regions::settleAtNewMagnification() {
+  // Positions of the mouse have another meaning now, so that a drag ends here.
+  const bool unwritten = phase_ == RegionPhase::MovingView;
+  enter(RegionPhase::Standing);
+  pixelsToRegion();
+  setRegionLimits();
+  if (unwritten)
+    renderRegion();
+  else
+    drawRegionBox();
+}
+
+void Regions::redrawRegion() {
+  if (!exists()) return;
+  state_.picDisp.clearDrawing();
+  dragView_.forget();
+  if (magnification_ != state_.gMagnification)
+    settleAtNewMagnification();
+  else
+    drawRegionBox();
+}
+
 void Regions::clearRegion() {
   draw_.draw = draw_.region = {};
-  draw_.mPainting = draw_.mErasing = draw_.mRestoring = draw_.mRegionDown = false;
-  state_.mRegionExists = state_.mRegionActive = false;
-  setFloating(false);
-  mPasteOpaque = mRegionLifted = unrendered_ = false;
-  drag_ = {};
+  draw_.mPainting = draw_.mErasing = draw_.mRestoring = false;
+  enter(RegionPhase::None);
   shown_ = {};
   dragView_.forget();
   state_.picDisp.clearDrawing();
@@ -50,111 +223,11 @@ void Regions::clearRegion() {
 }
 
 void Regions::dropContent() {
-  const bool lifted = isLifted();
+  const bool restores = exists() && isOfCurrentIcon();
   clearRegion();
-  if (!lifted) return;
+  if (!restores) return;
   BitbltPic(beneath_.image, state_.picImage);
   BitbltPic(beneath_.mask, state_.picMask);
-}
-
-void Regions::finishDrag() {
-  if (!exists()) return;
-  if (drag_.mEdgeDrag) {
-    drag_.mEdgeDrag = false;
-    wipeRegionBox();
-    pixelsToRegion();
-    drawRegionBox();
-  }
-  if (unrendered_) renderRegion();
-}
-
-void Regions::setExists() { state_.mRegionExists = state_.mRegionActive = true; }
-
-void Regions::setFloating(bool floating) {
-  mRegionFloating = floating;
-  state_.mPendingPaint = floating;
-}
-
-// The box.
-
-RegionPointer Regions::pointerAt(double x, double y) const {
-  return exists() ? pointerOverRegion(draw_.region, mRegionFloating, x, y) : RegionPointer::Cross;
-}
-
-void Regions::regionToPixels() { draw_.draw = pixelsOfRegion(draw_.region, scale()); }
-
-void Regions::pixelsToRegion() { draw_.region = boxOfPixels(draw_.draw, state_.gMagnification); }
-
-bool Regions::normalizeRegion() {
-  const bool swapped = normalizeBox(draw_.region);
-  regionToPixels();
-  return swapped;
-}
-
-void Regions::setRegionLimits() {
-  limits_ = limitsOfRegion(draw_.region, scale());
-  magnification_ = state_.gMagnification;
-}
-
-// The box goes around the whole picture, so that box, label and content tell the same size.
-void Regions::setRegionFromPicture(const Surface& picture, int x, int y) {
-  draw_.draw = {static_cast<double>(x), static_cast<double>(y), static_cast<double>(x + picture.width() - 1),
-                static_cast<double>(y + picture.height() - 1)};
-  pixelsToRegion();
-  startDragAtBox();
-  drag_.mRegionGrabX = drag_.mRegionGrabY = 0;
-}
-
-void Regions::startDragAtBox() {
-  drag_.mRegionStartX = draw_.region.x1;
-  drag_.mRegionStartY = draw_.region.y1;
-}
-
-void Regions::drawRegionBox() {
-  const int width = state_.picDisp.width();
-  const int height = state_.picDisp.height();
-  const DrawRect& box = draw_.region;
-  BandBox(state_.picDisp, drawnSide(box.x1, width), drawnSide(box.y1, height), drawnSide(box.x2, width),
-          drawnSide(box.y2, height));
-  shown_ = box;
-  repaintBox();
-  updateRegionLabel();
-}
-
-void Regions::wipeRegionBox() {
-  state_.picDisp.clearDrawing();
-  repaintBox();
-}
-
-void Regions::repaintBox() {
-  DrawRect box = shown_;
-  normalizeBox(box);
-  const int left = roundToInteger(box.x1) - 1;
-  const int top = roundToInteger(box.y1) - 1;
-  context_.display.repaintEditingArea(left, top, roundToInteger(box.x2) - left + 1, roundToInteger(box.y2) - top + 1);
-}
-
-void Regions::updateRegionLabel() { setLabel(drag_.mEdgeDrag ? "" : regionLabel(draw_.region, draw_.draw)); }
-
-void Regions::setLabel(const std::string& text) {
-  std::string& label = state_.screen.lblDispXY.at(static_cast<std::size_t>(Readout::Region));
-  if (label == text) return;
-  label = text;
-  context_.display.changed(DisplayPart::Readouts);
-}
-
-void Regions::redrawRegion() {
-  if (!exists() || !state_.mRegionActive) return;
-  state_.picDisp.clearDrawing();
-  dragView_.makeStale();
-  if (magnification_ != state_.gMagnification) {
-    // Positions of the mouse no longer mean what they did: a drag ends here, and its release writes it.
-    draw_.mRegionDown = drag_.mEdgeDrag = false;
-    pixelsToRegion();
-    setRegionLimits();
-    startDragAtBox();
-  }
-  drawRegionBox();
 }
 
 }  // namespace gp

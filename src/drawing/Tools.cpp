@@ -85,7 +85,7 @@ void Tools::leave() {
 }
 
 void Tools::release(const MouseInput& mouse) {
-  drawState_.mPainting = drawState_.mErasing = drawState_.mRestoring = drawState_.mRegionDown = false;
+  drawState_.mPainting = drawState_.mErasing = drawState_.mRestoring = false;
   if (!state_.current().present) return;
   locate(mouse);
   if (state_.screen.mActivePanel == kCursorPanel) {
@@ -120,7 +120,7 @@ void Tools::writeReadouts() {
 }
 
 std::string Tools::pixelRgbText() const {
-  if (drawState_.isStroke()) return {};
+  if (drawState_.isStroke() || regions_.isDragged()) return {};
   return pixelText(mPixelX, mPixelY);
 }
 

@@ -45,7 +45,7 @@ const char* colorPicker(const Shell& shell, int) {
 }
 
 const char* region(const Shell& shell, int) { return quietly(record(shell).present && shell.state().mRegionExists); }
-const char* noRegion(const Shell& shell, int) { return quietly(!shell.state().mRegionActive); }
+const char* noRegion(const Shell& shell, int) { return quietly(!shell.state().mRegionExists); }
 const char* undoStep(const Shell& shell, int) { return iconWith(shell, shell.drawing().history.canUndo()); }
 const char* redoStep(const Shell& shell, int) { return iconWith(shell, shell.drawing().history.canRedo()); }
 

@@ -68,7 +68,7 @@ void Shell::switchToCustomSize() {
 }
 
 void Shell::toggleOption(int index) {
-  if (index == kUpdateOnlyOption && state_.mRegionActive) return;
+  if (index == kUpdateOnlyOption && state_.mRegionExists) return;
   bool& option = state_.options.*findBooleanOption(index)->member;
   option = !option;
   if (index == kEnlargedOption) document_.areaOptions.ApplyEnlargedOption();

@@ -13,21 +13,31 @@
 
 namespace gp::test {
 
-// A FakeEditor whose quiet loader does what a test says.
+// A FakeEditor whose quiet loader does what a test says, and for which a region ends when it is asked to.
 class DocumentEditor : public FakeEditor {
  public:
+  explicit DocumentEditor(EditState& state) : state_(state) {}
+
   std::function<bool()> quietLoader;
+
+  void clearRegion() override {
+    FakeEditor::clearRegion();
+    state_.mRegionExists = state_.mPendingPaint = false;
+  }
 
   void doOpenIconFileQuietly(const std::string& path, bool& ok) override {
     FakeEditor::doOpenIconFileQuietly(path, ok);
     if (quietLoader) ok = quietLoader();
   }
+
+ private:
+  EditState& state_;
 };
 
 class DocumentFixture : public testing::Test {
  protected:
   EditState state;
-  DocumentEditor editor;
+  DocumentEditor editor{state};
   RecordingDisplay display;
   ScriptedBoxes boxes;
   ScriptedPump pump;

@@ -138,12 +138,12 @@ TEST_F(IconsPanelTest, EndingAToolActionClearsOverlayReadoutAndFlags) {
   state.picDisp.makePersistent();
   state.picDisp.SetPixelV(5, 5, 0x00FF00);
   state.screen.lblDispXY[2] = "Region";
-  state.mPendingPaint = state.mRegionActive = true;
+  state.mPendingPaint = state.mRegionExists = true;
   panel.EndToolAction();
   EXPECT_NE(state.picDisp.GetPixel(5, 5), 0x00FF00);
   EXPECT_EQ(readout(Readout::Region), "");
   EXPECT_FALSE(state.mPendingPaint);
-  EXPECT_FALSE(state.mRegionActive);
+  EXPECT_FALSE(state.mRegionExists);
 }
 
 TEST_F(IconsPanelTest, EndingAToolActionDoesNothingInAnEmptyContainer) {

@@ -72,7 +72,6 @@ TEST_F(ClipboardTest, CutAndCopyKeepsTheContentInTheClipboard) {
 
 TEST_F(ClipboardTest, CutOfABoxWithoutSidesSaysSo) {
   makeIcon(16, {"a"});
-  regions.setExists();
   boxes.expectTold("No picture region yet", BoxIcon::None);
   commands.doCutRegion(false);
   EXPECT_EQ(icon(), Rows{"a"});

@@ -4,6 +4,18 @@
 
 #include "drawing/DrawingRooms.h"
 
+#include <ostream>
+
+namespace gp {
+
+// How GoogleTest prints a phase.
+inline std::ostream& operator<<(std::ostream& out, RegionPhase phase) {
+  const char* const names[] = {"None", "Drawing", "Standing", "Moving", "MovingView", "Sizing"};
+  return out << names[static_cast<int>(phase)];
+}
+
+}  // namespace gp
+
 namespace gp::test {
 
 inline constexpr Color kColorA = 0x0000F0;
@@ -131,7 +143,7 @@ class RegionFixture : public DrawingRooms {
 
   // Icon, mask, composite, region and history are consistent. The region may end in this check.
   void expectAgreement() {
-    EXPECT_EQ(state.mRegionActive, state.mRegionExists);
+    EXPECT_EQ(regions.exists(), state.mRegionExists);
     EXPECT_EQ(state.mPendingPaint, regions.isFloating());
     EXPECT_FALSE(state.screen.hourglass);
     expectCompositeFits();
@@ -169,7 +181,7 @@ class RegionFixture : public DrawingRooms {
       }
   }
   void expectRegionFits() {
-    EXPECT_FALSE(regions.drag().mEdgeDrag);
+    EXPECT_EQ(regions.phase(), RegionPhase::Standing);
     EXPECT_EQ(regions.content().width(), draw.draw.x2 - draw.draw.x1 + 1);
     EXPECT_EQ(regions.content().height(), draw.draw.y2 - draw.draw.y1 + 1);
     EXPECT_EQ(draw.region.x1, draw.draw.x1 * state.gMagnification);
@@ -205,7 +217,7 @@ class RegionFixture : public DrawingRooms {
     EXPECT_EQ(draw.region.x1, 0);
     EXPECT_EQ(draw.region.x2, 0);
     EXPECT_EQ(label(), "");
-    EXPECT_FALSE(draw.mRegionDown);
+    EXPECT_EQ(regions.phase(), RegionPhase::None);
   }
   // A step recorded now can be undone and redone.
   void expectHistoryFits() {

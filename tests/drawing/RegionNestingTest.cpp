@@ -213,7 +213,7 @@ TEST_P(RegionNesting, AnEventDuringTheWorkLeavesIconMaskHistoryAndRegionInAgreem
     EXPECT_TRUE(arrived);
     // The button is released at the end, whatever the work did.
     release(cells(3), cells(3));
-    EXPECT_FALSE(draw.mRegionDown);
+    EXPECT_FALSE(regions.isDragged());
     expectAgreement();
     state.screen.mActivePanel = 0;
     tools.clearAllTools();

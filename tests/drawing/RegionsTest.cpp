@@ -259,13 +259,12 @@ TEST_F(RegionsTest, ANewMagnificationTakesTheBoxWithIt) {
   EXPECT_EQ(draw.region.x2, 60);
   EXPECT_EQ(boxInPixels(), (Rows{"0,0", "3,3"}));
   // Selecting Region would end the region.
-  RegionTool tool(context, drawing.drawState, history, regions, tools);
+  RegionTool tool(context, history, regions, tools);
   const auto mouse = [this](int column) {
     return ToolMouse{kRegion, column, 2, static_cast<float>(cells(column)), static_cast<float>(cells(2))};
   };
   tool.press(mouse(2));
   tool.move(mouse(6));
-  drawing.drawState.mRegionDown = false;
   tool.release(mouse(6));
   EXPECT_EQ(icon(), Rows(4, "....aaaa"));
   expectAgreement();
@@ -275,7 +274,7 @@ TEST_P(Dragging, ASideIsPulledAndTheContentLiftedAgain) {
   makeIcon(16, {"aaaaaa", "aaaaab", "aaaaab", "aaaaaa"});
   mark(0, 0, 3, 3);
   press(cells(4), cells(2));
-  EXPECT_TRUE(regions.drag().mEdgeDrag);
+  EXPECT_EQ(regions.phase(), RegionPhase::Sizing);
   move(cells(4) + 20, cells(2));
   EXPECT_EQ(draw.region.x2, 68);
   EXPECT_EQ(label(), "") << "no size is told while a side moves";
@@ -312,8 +311,8 @@ TEST_P(Dragging, APressInThePointersBandBesideThePressBandPullsNoSide) {
   makeIcon(16, Rows(8, "aaaaaaaa"));
   mark(4, 4, 7, 7);
   press(cells(4) - 7, cells(6));
-  EXPECT_TRUE(regions.drag().mEdgeDrag);
-  EXPECT_EQ(regions.drag().mEdgeIndex, RegionEdge::None);
+  EXPECT_EQ(regions.phase(), RegionPhase::Sizing);
+  EXPECT_EQ(regions.pulledEdge(), RegionEdge::None);
   move(cells(2), cells(6));
   release(cells(2), cells(6));
   EXPECT_EQ(boxInPixels(), (Rows{"4,4", "7,7"}));

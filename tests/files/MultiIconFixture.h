@@ -70,7 +70,7 @@ class MultiIconTest : public FilesTest {
     state.screen.mActivePanel = kIconsListPanel;
   }
   void expectNothingOpen() {
-    EXPECT_FALSE(state.mRegionExists || state.mRegionActive || state.mPendingPaint);
+    EXPECT_FALSE(state.mRegionExists || state.mPendingPaint);
     EXPECT_EQ(state.screen.mActivePanel, kColorPanel);
     EXPECT_EQ(state.picImage.GetPixel(3, 3), kWhite) << "the region is part of the icon";
     EXPECT_TRUE(panelIsUpToDate());

@@ -100,8 +100,8 @@ class SnapshotMaker {
     put("colour", state_.mCurrentColor);
     put("undo", drawing.history.undoCount(), drawing.history.redoCount(), drawing.history.undoSeq());
     const DrawRect& at = drawing.regions.pixels();
-    put("region", state_.mRegionActive, state_.mRegionExists, state_.mPendingPaint, drawing.regions.isFloating(), at.x1,
-        at.y1, at.x2, at.y2);
+    put("region", static_cast<int>(drawing.regions.phase()), state_.mRegionExists, state_.mPendingPaint,
+        drawing.regions.isFloating(), at.x1, at.y1, at.x2, at.y2);
     putSurface("region's image", drawing.regions.content().image);
     putSurface("region's mask", drawing.regions.content().mask);
   }

@@ -1,5 +1,6 @@
 #include "files/saving/CurrentIcon.h"
 
+#include "document/EditState.h"
 #include "files/format/IconWriter.h"
 
 namespace gp {

@@ -1,12 +1,13 @@
 // Saves the Current Icon: passes it from the shared state to the writers, and updates its record.
 #pragma once
 
-#include "document/EditState.h"
 #include "document/IconImage.h"
 
 #include <string>
 
 namespace gp {
+
+struct EditState;
 
 // The pixels and alpha values of the Current Icon.
 IconImage currentIcon(const EditState& state);

@@ -1,5 +1,6 @@
 #include "files/saving/PanelFiles.h"
 
+#include "document/EditState.h"
 #include "platform/files/Files.h"
 
 #include <algorithm>

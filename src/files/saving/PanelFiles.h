@@ -1,12 +1,14 @@
 // Finds the files that the icons in the six containers were loaded from. Two paths to the same file are equal.
 #pragma once
 
-#include "document/EditState.h"
+#include "document/IconContainerRec.h"
 
 #include <optional>
 #include <string>
 
 namespace gp {
+
+struct EditState;
 
 bool isFileOf(const IconContainerRec& record, const std::string& path);
 // The first container whose icon was loaded from the file.
