@@ -1,6 +1,5 @@
 #include "drawing/RegionTool.h"
 
-#include "document/EditState.h"
 #include "drawing/Regions.h"
 #include "drawing/Tools.h"
 #include "drawing/UndoHistory.h"

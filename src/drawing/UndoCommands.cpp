@@ -1,9 +1,7 @@
 #include "drawing/UndoCommands.h"
 
-#include "document/EditState.h"
 #include "document/EditingArea.h"
 #include "document/Editor.h"
-#include "document/PanelNumbers.h"
 #include "drawing/Regions.h"
 #include "drawing/Tools.h"
 #include "drawing/UndoHistory.h"
@@ -16,7 +14,7 @@ UndoCommands::UndoCommands(const Context& context, EditingArea& editingArea, Und
 
 void UndoCommands::doUndo() {
   if (!history_.canUndo()) return;
-  bringColorPanelForward();
+  context_.editor.closePanels();
   // A shift is undone as a whole, not step by step: the history started again when Shift was turned on.
   const bool wholeShift = tools_.selectedTool() == kShift;
   if (wholeShift)
@@ -28,20 +26,16 @@ void UndoCommands::doUndo() {
 
 void UndoCommands::doUndoAll() {
   if (!history_.canUndo()) return;
-  bringColorPanelForward();
+  context_.editor.closePanels();
   regions_.clearRegion();
   if (history_.restoreUndo(UndoMode::Baseline)) editingArea_.MagnifyIcon();
 }
 
 void UndoCommands::doRedo() {
   if (!history_.canRedo()) return;
-  bringColorPanelForward();
+  context_.editor.closePanels();
   regions_.clearRegion();
   if (history_.restoreRedo()) editingArea_.MagnifyIcon();
-}
-
-void UndoCommands::bringColorPanelForward() {
-  if (context_.state.screen.mActivePanel != kColorPanel) context_.editor.showPanel(kColorPanel);
 }
 
 }  // namespace gp

@@ -20,8 +20,6 @@ class UndoCommands {
   void doRedo();
 
  private:
-  void bringColorPanelForward();
-
   Context context_;
   EditingArea& editingArea_;
   UndoHistory& history_;

@@ -30,6 +30,8 @@ bool EffectFrame::mayApply() {
   return !record.hasAlpha;
 }
 
+bool EffectFrame::hasIcon() const { return state_.current().present; }
+
 IconImage EffectFrame::currentIcon() const { return {state_.picImage, state_.picMask, {}}; }
 
 void EffectFrame::applyTemps(const IconImage& result) {

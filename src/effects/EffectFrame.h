@@ -19,6 +19,8 @@ class EffectFrame {
   bool mayApply();
   // Whether fraPanel(panel) is visible.
   bool isUp(int panel) const;
+  // Whether there is a Current Icon.
+  bool hasIcon() const;
   // The pixels of the Current Icon, without alpha values.
   IconImage currentIcon() const;
 

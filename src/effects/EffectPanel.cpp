@@ -3,7 +3,6 @@
 #include "document/Compositing.h"
 #include "document/Display.h"
 #include "document/Document.h"
-#include "document/EditState.h"
 #include "document/Editor.h"
 #include "document/Hourglass.h"
 #include "drawing/UndoHistory.h"
@@ -22,11 +21,10 @@ void EffectPanel::show() {
 }
 
 void EffectPanel::preview() {
-  const EditState& state = frame_.state();
   if (!frame_.isUp(number_)) return;
   {
     const Hourglass hourglass(frame_.context());
-    picture_ = state.current().present ? apply(frame_.currentIcon()) : IconImage{};
+    picture_ = frame_.hasIcon() ? apply(frame_.currentIcon()) : IconImage{};
     sample_ = composedIcon(picture_.image, picture_.mask);
   }
   frame_.context().display.changed(DisplayPart::SidePanel);
@@ -34,7 +32,6 @@ void EffectPanel::preview() {
 
 void EffectPanel::proceed() {
   if (!mayProceed()) return;
-  EditState& state = frame_.state();
   {
     const Hourglass hourglass(frame_.context());
     frame_.document().iconsPanel.EndToolAction();

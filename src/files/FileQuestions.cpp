@@ -1,7 +1,7 @@
 #include "files/FileQuestions.h"
 
 #include "document/CurrentIconGuard.h"
-#include "document/EditState.h"
+#include "document/ProcessValues.h"
 #include "platform/dialogs/clsGPDialog.h"
 #include "platform/text/Paths.h"
 
@@ -9,7 +9,7 @@ namespace gp {
 namespace {
 
 std::string remembered(FilesContext& context, const std::string& path) {
-  if (!path.empty()) context.state.process.mLastFolder = ParseFileName(path, PathPart::DriveAndFolder);
+  if (!path.empty()) context.process.mLastFolder = ParseFileName(path, PathPart::DriveAndFolder);
   return path;
 }
 
@@ -18,7 +18,7 @@ std::string remembered(FilesContext& context, const std::string& path) {
 std::string askToOpen(FilesContext& context, const char* filter) {
   OpenOptions options;
   options.filter = filter;
-  options.initialFolder = context.state.process.mLastFolder;
+  options.initialFolder = context.process.mLastFolder;
   return remembered(context, context.dialog.ShowOpen(options));
 }
 
@@ -29,7 +29,7 @@ std::string askToSave(FilesContext& context, const std::string& proposedName, co
   options.filter = filter;
   options.defaultExtension = extension;
   options.overwritePrompt = question == OverwriteQuestion::ByDialog;
-  options.initialFolder = folder.empty() ? context.state.process.mLastFolder : folder;
+  options.initialFolder = folder.empty() ? context.process.mLastFolder : folder;
   return remembered(context, context.dialog.ShowSave(options));
 }
 
@@ -39,7 +39,7 @@ void openChosenFile(FilesContext& context, const char* filter, const OpenFile& o
   if (path.empty()) return;
   bool ok = false;
   open(path, ok);
-  if (ok) context.state.process.mCommandFile = path;
+  if (ok) context.process.mCommandFile = path;
 }
 
 }  // namespace gp

@@ -1,10 +1,12 @@
 #include "files/Files.h"
 
+#include "document/EditState.h"
+
 namespace gp {
 
 Files::Files(const Context& context, Document& document, Drawing& drawing, clsGPDialog& dialog,
              const std::string& scratchFile)
-    : context_{context, document, drawing, dialog, exchange_, forms_},
+    : context_{context, context.state.process, document, drawing, dialog, exchange_, forms_},
       multiIcon(context_, scratchFile),
       iconFiles(context_, multiIcon),
       cursorFiles(context_),

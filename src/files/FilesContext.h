@@ -10,8 +10,10 @@ class FileForms;
 class clsGPDialog;
 struct Document;
 struct MultiIconExchange;
+struct ProcessValues;
 
 struct FilesContext : Context {
+  ProcessValues& process;  // of the state: the folders of dialogs, the screen's depth
   Document& document;
   Drawing& drawing;
   clsGPDialog& dialog;

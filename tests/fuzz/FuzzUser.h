@@ -86,7 +86,7 @@ struct User {
   Drawing drawing{rooms, document, colors, clipboard};
   MultiIconExchange exchange;
   FileForms* forms = nullptr;
-  const FilesContext context{rooms, document, drawing, dialog, exchange, forms};
+  const FilesContext context{rooms, state.process, document, drawing, dialog, exchange, forms};
 };
 
 }  // namespace gp::fuzz

@@ -2,7 +2,6 @@
 
 #include "colour/ColorCount.h"
 #include "document/Display.h"
-#include "document/EditState.h"
 #include "document/Hourglass.h"
 #include "files/FileQuestions.h"
 #include "files/browser/MultiIconExchange.h"

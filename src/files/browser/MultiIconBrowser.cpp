@@ -1,8 +1,8 @@
 #include "files/browser/MultiIconBrowser.h"
 
 #include "document/Display.h"
-#include "document/EditState.h"
 #include "document/Hourglass.h"
+#include "document/ProcessValues.h"
 #include "files/browser/MultiIconExchange.h"
 #include "files/opening/IconMessages.h"
 #include "platform/ports/MessageBoxes.h"
@@ -179,7 +179,7 @@ bool MultiIconBrowser::isLoadable(const ListedEntry& entry) {
     context_.boxes.tell(bits < kPaletteDepth.bits ? kStrangePaletteBits : kStrangeTrueColorBits);
     return false;
   }
-  if (!isTrueColorBitCount(bits) || context_.state.process.gScreenBPP >= kManyColorsScreenBits) return true;
+  if (!isTrueColorBitCount(bits) || context_.process.gScreenBPP >= kManyColorsScreenBits) return true;
   return ConfirmTrueColorOnLowScreen(context_.boxes);
 }
 

@@ -1,5 +1,6 @@
+#include "document/ProcessValues.h"
+
 // Commands of the browser that save single entries.
-#include "document/EditState.h"
 #include "document/Hourglass.h"
 #include "files/FileQuestions.h"
 #include "files/browser/MultiIconBrowser.h"
@@ -47,7 +48,7 @@ void MultiIconBrowser::cmdSaveSingle() {
 
 void MultiIconBrowser::cmdSplitSave() {
   if (!isIcon(selected_)) return;
-  const std::string folder = context_.dialog.chooseFolder(kFolderPattern, context_.state.process.mLastFolder);
+  const std::string folder = context_.dialog.chooseFolder(kFolderPattern, context_.process.mLastFolder);
   if (folder.empty()) return;
   const std::string stem = joined(folder, ParseFileName(file(), PathPart::BareName));
   const std::string question = "Single-icon files will be saved as " + stem + "_(Size)_(Color), ...\nTotally " +

@@ -1,5 +1,4 @@
 // Commands of the browser that change its own file: removing an entry, and reordering all of them.
-#include "document/EditState.h"
 #include "document/Hourglass.h"
 #include "files/browser/MultiIconBrowser.h"
 #include "files/browser/MultiIconExchange.h"

@@ -1,6 +1,5 @@
 #include "files/ui/frmGPMultiIcon.h"
 
-#include "document/EditState.h"
 #include "document/ui/QtDisplay.h"
 #include "files/ui/BrowserFaceView.h"
 #include "files/ui/BrowserLists.h"

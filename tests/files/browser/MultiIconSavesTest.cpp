@@ -181,6 +181,7 @@ TEST_F(BrowserSavesTest, EachItemIsSelectedAndPreviewedWhenItIsSaved) {
   browse(file);
   WatchedDisplay watched;
   const FilesContext context{{state, editor, watched, boxes, pump},
+                             state.process,
                              rooms.document,
                              rooms.drawing,
                              rooms.dialog,
