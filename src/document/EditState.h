@@ -95,10 +95,10 @@ struct EditState {
 
   Color mCurrentColor = kWhite;  // the colour with which the tools paint, shown by picColorToUse
 
-  bool mRegionActive = false;  // a region is selected or floating, which disables some commands
-  bool mRegionExists = false;  // the Editing Area shows a region's box
+  bool mRegionActive = false;  // a region floats or is selected: it keeps commands waiting
+  bool mRegionExists = false;  // a region box stands on the Editing Area
   bool mPendingPaint = false;  // a tool action is open and must be committed before the container changes
-  bool mInLoad = false;        // the main form is being created: no layout, no alpha work
+  bool mInLoad = false;        // the main form is being made: no layout, no alpha work
 };
 
 }  // namespace gp

@@ -1,5 +1,5 @@
-// Maps picDisp to a screen with smaller pixels: each icon pixel covers the same integer number of device pixels, and a
-// grid line remains one device pixel wide.
+// Maps a magnified icon to a screen of another pixel density: every icon pixel gets the same whole number of device
+// pixels, and a grid line stays one device pixel wide.
 #pragma once
 
 #include <vector>
@@ -14,7 +14,7 @@ class ScreenScale {
   // Device pixels per icon pixel, and in total.
   int cellSize() const { return cellSize_; }
   int deviceSize() const { return cells_ * cellSize_; }
-  // Returns the picDisp position shown at a device position; positions outside are extrapolated.
+  // The picDisp position that a device position shows. Positions outside continue in the same measure.
   int sourceOf(int device) const;
   // Returns the first device position that shows a picDisp position or a later one.
   int deviceOf(int source) const;

@@ -1,5 +1,5 @@
-// State that the tools share while the mouse is down: the rectangle being drawn, in three measures, and the active
-// stroke. Tools owns it and passes it to each tool.
+// What the tools share while the mouse is down: the rectangle that is being drawn in three measures, and which stroke
+// is under way. Tools owns it and hands it to each tool.
 #pragma once
 
 namespace gp {
