@@ -5,7 +5,7 @@
 namespace gp {
 namespace {
 
-// '.' is the ground, 'o' the mark. The marks have different shapes, so that the cells differ not only in colour.
+// '.' is the ground, 'o' the mark on it. The marks differ, so that the cells are distinguishable without colours.
 struct PatternDrawing {
   Color ground;
   Color mark;

@@ -1,5 +1,5 @@
-// The cells of a patterned grid under the icon: small fixed pictures, exact to the pixel and never scaled. They live as
-// long as the program.
+// The cells that a patterned grid lays under the icon: small fixed pictures, exact to the pixel, never scaled. They
+// live as long as the program.
 #pragma once
 
 #include "platform/gdi/Surface.h"

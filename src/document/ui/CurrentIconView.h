@@ -1,4 +1,4 @@
-// PicIcon: the Current Icon at its real size, one device-independent pixel per icon pixel.
+// PicIcon: the Current Icon at its own size, one device-independent pixel for each of its pixels.
 #pragma once
 
 #include <QWidget>

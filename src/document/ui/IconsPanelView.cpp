@@ -18,7 +18,7 @@ namespace gp {
 namespace {
 
 constexpr int kIconSide = 48;
-constexpr int kOutline = 3;  // the space around each icon for outline and focus, pixels
+constexpr int kOutline = 3;  // around each icon, pixels; other containers than the current one show a quarter of it
 constexpr int kContainerSide = kIconSide + 2 * kOutline;
 constexpr int kGap = 4;
 constexpr int kButtonSide = 26;
@@ -29,7 +29,7 @@ std::vector<std::string> localFiles(const QMimeData* data) {
   std::vector<std::string> files;
   for (const QUrl& url : data->urls()) {
     if (!url.isLocalFile()) continue;
-    // Decoded from the raw URL, because a file name may be any bytes.
+    // Decoded here, since a file name need not be valid text.
     files.push_back(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString());
   }
   return files;

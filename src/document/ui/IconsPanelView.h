@@ -1,5 +1,5 @@
 // The column of the six containers with their labels, and the button that copies the Current Icon to its container.
-// Reports clicks, right clicks and dropped files.
+// Reports clicks, right clicks and dropped files by signals.
 #pragma once
 
 #include "document/IconContainerRec.h"

@@ -26,7 +26,7 @@ QComboBox* makeList(QWidget* parent, const FilledList& list, const QString& acce
   return combo;
 }
 
-// The accessible name of a combo box is its current entry; only a label states its purpose.
+// The accessible name of a list is the entry it shows. Its purpose is stated only by its label.
 QComboBox* makeUnlabelledList(QWidget* parent, const QString& objectName, const QString& accessibleName) {
   QComboBox* combo = makeList(parent, objectName, accessibleName);
   auto* label = new QLabel(accessibleName, parent);

@@ -1,4 +1,4 @@
-// Combo boxes filled from the list tables.
+// Drop-down lists, filled from the tables of lists.
 #pragma once
 
 #include "document/ListTables.h"
@@ -10,7 +10,7 @@ class QWidget;
 
 namespace gp {
 
-// Returns a combo box that cannot be edited, with the entries that the tables have for its objectName.
+// A list that cannot be edited, with the entries that the tables have for its objectName.
 QComboBox* makeList(QWidget* parent, const QString& objectName, const QString& accessibleName);
 
 // The same with entries that the caller has; the list's control is its objectName.

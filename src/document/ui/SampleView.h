@@ -15,9 +15,9 @@ class SampleView : public QWidget, public AccessibleValue {
   SampleView(QWidget* parent, const QString& objectName, const QString& accessibleName, const Surface& picture,
              int room);
 
-  // Must be called after the picture's content or size has changed.
+  // Shows the picture again after it got another content or size.
   void refresh();
-  // Sets the picture's accessible text, which otherwise is its size.
+  // Sets what a screen reader speaks; until then it is the size of the picture.
   void setValueText(const QString& text);
 
   QString accessibleValue() const override;

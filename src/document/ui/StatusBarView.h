@@ -1,5 +1,5 @@
-// picStatusBar: the five panels, the alpha indicator and the progress of long operations. Every panel has a fixed
-// position, whether it is filled or not.
+// picStatusBar: the five panels, the alpha indicator and the progress of long work. An empty panel keeps its
+// place.
 #pragma once
 
 #include "document/ScreenState.h"

@@ -1,5 +1,5 @@
-// Paints Surfaces on widgets directly from their pixels, at an integer number of device pixels per Surface pixel, never
-// smoothed. Keeps no state between paint events.
+// Paints Surfaces on widgets directly from their pixels: each pixel becomes a whole number of device pixels, without
+// smoothing. Keeps nothing between two paint events.
 #pragma once
 
 #include "document/ScreenScale.h"
@@ -23,18 +23,18 @@ class DevicePainter : public QPainter {
   double ratio_;
 };
 
-// Returns the offset, in the widget's pixels, that moves its corner to an integer device pixel.
+// The distance from the corner of a widget to the nearest whole device pixel, in the widget's own pixels.
 QPointF deviceShift(const QWidget* widget);
 // Returns the device pixel of a widget at a position in the widget's pixels.
 QPoint devicePointAt(const QWidget* widget, const QPointF& position);
 
 QRgb toRgb(Color color);
 
-// Returns a part of a Surface seen through a scale; `part` is in device pixels and must lie inside.
+// A part of a Surface as a scale shows it. `part` is in device pixels and must lie inside.
 QImage imageOf(const Surface& surface, const ScreenScale& scale, const QRect& part);
 
-// Paints a Surface in the middle of an area, each pixel enlarged to an integer number of device pixels by `ratio`.
-// `area` is in device pixels; a Surface that does not fit is cut off evenly.
+// Paints a Surface of one pixel per cell in the middle of an area, with `ratio` device pixels per pixel, rounded down.
+// `area` is in device pixels; what does not fit is cut off evenly.
 void paintCentred(DevicePainter& painter, const Surface& surface, const QRect& area, double ratio);
 
 }  // namespace gp
