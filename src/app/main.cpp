@@ -1,4 +1,4 @@
-// The desktop program: makes the ports, the shell and the main form, and nothing else.
+// The desktop program: creates the ports, the shell and the main form.
 #include "document/EditState.h"
 #include "document/ui/QtDisplay.h"
 #include "platform/files/Files.h"

@@ -1,4 +1,4 @@
-// How many colours a picture counts as, which decides the depth that it is saved with.
+// Counts the colours of a picture. The count determines the depth with which the picture is saved.
 #pragma once
 
 #include "document/ColorDepth.h"

@@ -7,7 +7,7 @@ class Display;
 class MessagePump;
 struct EditState;
 
-// Flashes twice and ends shown. Pumps messages while it waits, for 400 ms in all.
+// Flashes the indicator twice and leaves it shown. Takes 400 ms and processes events meanwhile.
 void flashAlphaIndicator(EditState& state, Display& display, MessagePump& pump);
 
 }  // namespace gp

@@ -9,8 +9,8 @@ namespace gp {
 struct EditState;
 struct IconImage;
 
-// Empties the current container: its Surfaces, and the record from `used` through `present`; size 32, no path. The
-// fields from fromMultiIconFile on stay: who reuses the record sets them.
+// Empties the current container: its Surfaces, and the record's fields from `used` to `path`; the size becomes 32. The
+// fields from fromMultiIconFile on do not change: callers that reuse the record set them.
 void ClearContainer(EditState& state);
 // Returns the record of a new, unsaved icon. SetRecord sets its size.
 IconContainerRec NewRecord();

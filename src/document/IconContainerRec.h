@@ -41,7 +41,7 @@ struct IconContainerRec {
   bool isTrueColor() const { return depth().isTrueColor(); }
   // True for an icon with an alpha channel.
   bool isAlphaIcon() const { return used && hasAlpha && depth().hasAlpha(); }
-  // fromMultiIconFile up to and including modified become zero.
+  // Sets the fields from fromMultiIconFile to modified to zero.
   void clearOrigin();
 };
 

@@ -1,5 +1,5 @@
-// What the tools share while the mouse is down: the rectangle being drawn, in three measures, and the freehand stroke
-// under way. Tools and Regions write it.
+// State that the tools share while the mouse is down: the rectangle being drawn, in three measures, and the freehand
+// stroke under way. Tools and Regions write it.
 #pragma once
 
 namespace gp {

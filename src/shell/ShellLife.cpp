@@ -1,8 +1,7 @@
-#include "document/EditState.h"
-
-// The life of the main form: Load, the first Activate, Resize and QueryUnload.
+// The life cycle of the main form: Load, the first Activate, Resize and QueryUnload.
 #include "document/Containers.h"
 #include "document/Display.h"
+#include "document/EditState.h"
 #include "platform/ports/MessageBoxes.h"
 #include "platform/ports/MessagePump.h"
 #include "shell/CommandLine.h"

@@ -7,7 +7,7 @@ namespace gp {
 
 struct EditState;
 
-// The question, with a line for each container that counts as unsaved; empty when there is none.
+// Returns the question, with a line for each unsaved container; empty when there is none.
 std::string unsavedQuestion(const EditState& state);
 
 }  // namespace gp

@@ -18,7 +18,7 @@ namespace gp {
 namespace {
 
 constexpr int kIconSide = 48;
-constexpr int kOutline = 3;  // around each icon, pixels; other containers than the current one show a quarter of it
+constexpr int kOutline = 3;  // the space around each icon for outline and focus, pixels
 constexpr int kContainerSide = kIconSide + 2 * kOutline;
 constexpr int kGap = 4;
 constexpr int kButtonSide = 26;
