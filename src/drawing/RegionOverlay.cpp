@@ -1,5 +1,6 @@
 // The box of a region: its two measures, its limits, and how it is drawn and described on the screen.
 #include "document/Display.h"
+#include "document/EditState.h"
 #include "drawing/Regions.h"
 #include "drawing/Tools.h"
 #include "platform/gdi/Pens.h"

@@ -2,7 +2,7 @@
 results are computed here, pixel by pixel."""
 import icons
 import readers
-from forms import ALPHA_REMINDER
+from forms import ALPHA_REMINDER, write
 from panels import BLACK, BUTTONIZE, DISABLED, GREY, SHADES, WHITE, PanelDesk
 
 RED, RED_CELL = (255, 0, 0), (3, 0)
@@ -234,8 +234,11 @@ def test_a_disabled_image_is_given_up_applied_undone_and_saved(session):
 
 def openAlpha(desk, name):
     picture = icons.motif(32, 32)
-    path = desk.openContent(name, icons.fileOf([icons.entryOf(picture, 32)]), 32)
+    path = write(desk.session, name, icons.fileOf([icons.entryOf(picture, 32)]))
+    desk.program.command('ctrl+o')
+    desk.program.chooseFile(path)  # the reminder follows, so the main form need not take keys in between
     desk.program.answerBox(ALPHA_REMINDER)
+    desk.waitForIcon(32, path)
     return path, desk.shown(32)
 
 

@@ -5,8 +5,9 @@ import tempfile
 import layers
 import packages
 import sizes
+import tidy
 import words
-from tree import Tree
+from tree import Tree, processors
 
 ROOMS = '''| room | what is in it | may use |
 |---|---|---|
@@ -61,6 +62,24 @@ STILTED = ('Nobody asks.', 'It is made anew.', 'a row of such alone', 'The file 
            'It bears a name.', 'by turns', 'no mere news', 'meant so', 'upon it')
 BROKEN += [(words.checkEnglish, 'docs/bad.md', line, 'docs/bad.md:1') for line in STILTED]
 
+TIDY_SETTINGS = "Checks: '-*,modernize-use-nullptr,misc-unused-using-decls'\nHeaderFilterRegex: '/src/'\n"
+HELPER = 'namespace {\nint helper() { return 1; }\n}\n'
+THING = '#pragma once\nnamespace other {\nstruct Thing {};\n}\n'
+FAULT = 'int* fault() { return 0; }\n'
+
+# a header, two sources of one batch, and where exactly the tool must find something
+TIDY = [
+    ('', 'int* a() { return nullptr; }', 'int* b() { return nullptr; }', []),
+    ('', 'int a() { return 1; }', 'int b() { return 1; }\n' + FAULT, ['second.cpp:2']),
+    ('', FAULT, 'int b() { return 1; }', ['first.cpp:1']),
+    ('#pragma once\ninline ' + FAULT, '#include "platform/A.h"', '#include "platform/A.h"', ['A.h:2']),
+    ('', HELPER, HELPER, []),
+    ('', HELPER, HELPER + FAULT, ['second.cpp:4']),
+    ('', HELPER + FAULT, HELPER, ['first.cpp:4']),
+    ('', 'int a() { return 1; }', 'int b() { return 1 + unknownName; }', ['second.cpp:1']),
+    (THING, '#include "platform/A.h"\nusing other::Thing;', '#include "platform/A.h"\nusing other::Thing;\nThing b;', ['first.cpp:2']),
+]
+
 
 def write(root, name, text):
     path = os.path.join(root, name)
@@ -76,8 +95,19 @@ def complaints(rule, files):
         return rule(Tree(root))
 
 
+def tidyProblem(header, first, second, places):
+    """What is wrong with what the tool finds in two sources, empty if nothing."""
+    # Of as many sources as there are processors each begins a batch of its own, and the next one goes behind the first.
+    others = {f'src/platform/other{number:04}.cpp': f'int f{number}();' for number in range(processors() - 1)}
+    found = complaints(tidy.check, {'.clang-tidy': TIDY_SETTINGS, 'src/platform/A.h': header, **others,
+                                    'src/platform/first.cpp': first, 'src/platform/second.cpp': second})
+    wanted = [f'src/platform/{place}:' for place in places]
+    good = len(found) == len(wanted) and all(line.startswith(place) for line, place in zip(found, wanted))
+    return '' if good else f'tidy finds {found} and not {wanted} in {first!r} and {second!r}'
+
+
 def check(_):
-    problems = []
+    problems = [problem for row in TIDY if (problem := tidyProblem(*row))]
     for rule, name, text, expected in BROKEN:
         if not any(expected in line for line in complaints(rule, {**GOOD, name: text})):
             problems.append(f'{rule.__module__} does not name {name} that holds {text.strip()[:40]!r}')
