@@ -1,5 +1,6 @@
 #include "drawing/RegionTool.h"
 
+#include "document/ScreenState.h"
 #include "drawing/Regions.h"
 #include "drawing/Tools.h"
 #include "drawing/UndoHistory.h"

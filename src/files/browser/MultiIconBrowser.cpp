@@ -2,6 +2,7 @@
 
 #include "document/Display.h"
 #include "document/Hourglass.h"
+#include "document/IconContainerRec.h"
 #include "document/ProcessValues.h"
 #include "files/browser/MultiIconExchange.h"
 #include "files/opening/IconMessages.h"
