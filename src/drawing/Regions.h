@@ -1,5 +1,5 @@
 // The region: a rectangle of the Current Icon whose content is lifted, so that it can be moved over the rest. Owns the
-// box, the phase and the content. While a region stands, picImage and picMask have its content merged at its place, so
+// box, the phase and the content. While a region exists, picImage and picMask have its content merged at its place, so
 // that ending a region loses nothing; only a drag whose mouse button is still down can be dropped.
 //
 // Other rooms read state.mRegionExists and, for floating content, state.mPendingPaint. Only this class writes them.

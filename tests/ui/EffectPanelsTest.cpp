@@ -19,7 +19,7 @@ namespace {
 
 constexpr Color kRed = rgb(255, 0, 0);
 constexpr int kButtonizePanel = 7, kReliefPanel = 13, kDisabledPanel = 15;
-constexpr int kTopLeftSquare = 8;  // pixels of the square that stands on the icon
+constexpr int kTopLeftSquare = 8;  // pixels of the square that is on the icon
 
 class EffectPanelsTest : public test::FormFixture {
  protected:

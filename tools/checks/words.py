@@ -28,9 +28,6 @@ STILTED = {
     r'meant so': 'intended',
     r'hereby|thereof|whence|aught|seldom|upon': 'a common word',
 }
-# Files and folders whose comments are not checked yet.
-NOT_YET = ('src/', 'cmake/', 'tools/checks/tidy.py', 'docs/how-to-add.md', 'tests/effects/',
-           'tests/ui/EffectPanelsTest.cpp')
 
 
 def pattern():
@@ -73,8 +70,6 @@ def checkEnglish(tree):
     found = {re.compile(rf'\b(?:{word})\b', re.I): better for word, better in STILTED.items()}
     problems = []
     for name in tree.allFiles():
-        if name.startswith(NOT_YET):
-            continue
         text = tree.text(name)
         for number, line in commentsOf(name, text) if '\0' not in text else []:
             problems += [f'{name}:{number}: "{match.group(0)}", write "{better}": {line.strip()[:100]}'

@@ -16,7 +16,7 @@ QComboBox* makeList(QWidget* parent, const QString& objectName, const QString& a
 // The same with entries that the caller has; the list's control is its objectName.
 QComboBox* makeList(QWidget* parent, const FilledList& list, const QString& accessibleName);
 
-// The same where no label stands beside it: screen readers find its name in a label that is not shown.
+// The same without a visible label: screen readers find its name in a hidden one.
 QComboBox* makeUnlabelledList(QWidget* parent, const QString& objectName, const QString& accessibleName);
 
 }  // namespace gp
