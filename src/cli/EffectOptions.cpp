@@ -80,7 +80,7 @@ std::string optionText(const Setting& setting) {
 }
 
 std::string helpOf(const Setting& setting) {
-  const std::string text = optionText(setting) + "  " + setting.help;
+  std::string text = optionText(setting) + "  " + setting.help;
   if (!takesValue(setting)) return text;
   return text + " (" + allowedValues(setting) + ", without it " + textOfValue(setting, setting.first) + ")";
 }
