@@ -14,7 +14,7 @@ constexpr std::size_t kMostRead = 64 * kMegabyte;
 constexpr std::uint32_t kLargestDirectory = 6 + 16 * 65535;
 constexpr std::size_t kFirstLook = 256 * 1024 + kLargestDirectory;
 
-class IconFileReading : public testing::Test {
+class IconFileBytes : public testing::Test {
  protected:
   TempFolder folder;
   std::string path = folder.file("large.ico");
@@ -46,7 +46,7 @@ class IconFileReading : public testing::Test {
   }
 };
 
-TEST_F(IconFileReading, ImagesAreReadWhereverTheyStandInAHugeFile) {
+TEST_F(IconFileBytes, ImagesAreReadWhereverTheyStandInAHugeFile) {
   const Bytes image = anyEntry(32, 8).image;
   constexpr std::uint32_t kMiddle = 500'000'000, kEnd = kGigabyte - 2216;
   ASSERT_EQ(image.size(), 2216U);
@@ -67,14 +67,14 @@ TEST_F(IconFileReading, ImagesAreReadWhereverTheyStandInAHugeFile) {
   EXPECT_LT(peakMemory() - memory, 4 * kMegabyte);
 }
 
-TEST_F(IconFileReading, AnImageThatEntriesShareIsReadOnce) {
+TEST_F(IconFileBytes, AnImageThatEntriesShareIsReadOnce) {
   write(directoryOf(65535, [](std::uint32_t) { return 1U << 29; }), kGigabyte);
   const std::size_t before = bytesRead();
   ASSERT_TRUE(readIconFile(path));
   EXPECT_LT(bytesRead() - before, kFirstLook + kLargestDirectory + kMegabyte);
 }
 
-TEST_F(IconFileReading, OfImagesAllOverAHugeFileTheFirst64MegabytesAreRead) {
+TEST_F(IconFileBytes, OfImagesAllOverAHugeFileTheFirst64MegabytesAreRead) {
   const Bytes directory = directoryOf(65535, [](std::uint32_t i) { return kLargestDirectory + i * 60'000; });
   write(directory, 4 * kGigabyte);
   const std::uint64_t last = kMostRead - 1, behind = kMostRead;
@@ -90,7 +90,7 @@ TEST_F(IconFileReading, OfImagesAllOverAHugeFileTheFirst64MegabytesAreRead) {
   EXPECT_LE(peakMemory() - memory, kFirstLook + kMostRead + 8 * kMegabyte);
 }
 
-TEST_F(IconFileReading, AnythingElseIsReadNoFurtherThanItTakesToKnow) {
+TEST_F(IconFileBytes, AnythingElseIsReadNoFurtherThanItTakesToKnow) {
   write({'h', 'e', 'l', 'l', 'o', ' '}, kGigabyte);
   const auto file = readIconFile(path);
   ASSERT_TRUE(file);
@@ -98,7 +98,7 @@ TEST_F(IconFileReading, AnythingElseIsReadNoFurtherThanItTakesToKnow) {
   EXPECT_FALSE(file->isIcon() || file->isCursor());
 }
 
-TEST_F(IconFileReading, ASmallFileIsReadWhole) {
+TEST_F(IconFileBytes, ASmallFileIsReadWhole) {
   const Bytes bytes = build(anyEntry(48, 24));
   write(bytes, bytes.size());
   for (const auto& file : {readIconFile(path), readWholeIconFile(path)}) {
@@ -110,14 +110,14 @@ TEST_F(IconFileReading, ASmallFileIsReadWhole) {
   }
 }
 
-TEST_F(IconFileReading, WhatIsNoRegularFileIsNotRead) {
+TEST_F(IconFileBytes, WhatIsNoRegularFileIsNotRead) {
   for (const std::string& other : {folder.file("none.ico"), folder.path(), std::string("/dev/zero")}) {
     EXPECT_FALSE(readIconFile(other)) << other;
     EXPECT_FALSE(readWholeIconFile(other)) << other;
   }
 }
 
-TEST_F(IconFileReading, TheBytesOfAHugeFileThatNoImageCanReachAreReadOnlyWithTheWholeFile) {
+TEST_F(IconFileBytes, TheBytesOfAHugeFileThatNoImageCanReachAreReadOnlyWithTheWholeFile) {
   Bytes bytes = build(anyEntry(32, 8));
   bytes.resize(4 * kMegabyte);
   bytes.back() = 7;
