@@ -3,7 +3,8 @@
 
     tests/e2e/run_all.py [--build DIR] [--jobs N] [PART-OF-NAME...]
 
-Several run side by side: each has its own X server, window manager, buses, home and folder. Prints PASS, FAIL or SKIP and the seconds per test; the last line counts them.
+Several run side by side: each has its own X server, window manager, buses, home and folder. Prints PASS, FAIL or SKIP
+and the seconds per test; the last line counts them.
 """
 import argparse
 import concurrent.futures
