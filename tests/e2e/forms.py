@@ -1,8 +1,9 @@
 """The forms of icon files as a user works with them: controls are found by the names that a screen reader speaks."""
 import os
+import time
 
 EDIT_FACE, ADD_FACE = 'Edit Icon In Multi-Icon File', 'Add Icon To Existing Icon File'
-POLLS_AT_REST = 5  # longer than a phase of the blinking
+REST_SECONDS = 0.5  # longer than a phase of the blinking
 CHART = '16-Color Palette'
 HEADER_DIFF = 'Header Entry Diff'
 ICONS, SEQUENCE, CONTAINER, POSITION = 'Icons in file', 'Icons in their new sequence', 'Load to container ref', 'Add to position ref'
@@ -146,14 +147,16 @@ class Desk:
 
     def waitForRest(self, x, y, size):
         """Waits until a pixel has stopped blinking, and returns its colour."""
-        seen, point = [], self.program.pixelPoint(x, y, size)
+        point, seen = self.program.pixelPoint(x, y, size), []
 
         def rests():
-            seen.append(self.session.colorAt(point))
-            return len(seen) >= POLLS_AT_REST and len(set(seen[-POLLS_AT_REST:])) == 1
+            color, now = self.session.colorAt(point), time.monotonic()
+            if not seen or seen[0] != color:
+                seen[:] = [color, now]
+            return now - seen[1] > REST_SECONDS
 
         self.program.wait(rests, f'pixel {x}, {y} to rest')
-        return seen[-1]
+        return seen[0]
 
     def replaceIn(self, path, **how):
         """Save As Multi-Icon File, up to the end of the file dialog."""

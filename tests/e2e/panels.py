@@ -1,15 +1,11 @@
 """The side panels that change an icon, as a user works with them. Their samples are read from the screen, one colour
 for each pixel of the icon. A picture is as in icons.py: rows of (red, green, blue), None where it is transparent."""
-import time
-
 from forms import CHART, Desk, read, write
 
 BLACK, GREY, WHITE = (0, 0, 0), (128, 128, 128), (255, 255, 255)
 GROUND = (192, 192, 192)  # visible through transparent pixels
 CHART_SHAPE = (8, 2)
 SAMPLE_FRAME = 1
-# A list that has just opened ignores a click that may be the second one of a double click.
-DOUBLE_CLICK_SECONDS = 0.5
 WHEEL_DOWN, MOST_WHEEL_TURNS = 5, 20
 
 SHADES, BUTTONIZE = 'Effects - shades', 'Buttonize'
@@ -143,10 +139,6 @@ class PanelDesk(Desk):
             self.program.press(button)
         self.waitForNoPanel(title)
 
-    def dropList(self, name):
-        self.openList(name)
-        time.sleep(DOUBLE_CLICK_SECONDS)
-
     def entryPoint(self, entry):
         """The position of an entry of the open drop-down list."""
         left, top, _, height = self.program.box(self.program.need(entry, role='list item'))
@@ -154,13 +146,19 @@ class PanelDesk(Desk):
 
     def pickEntry(self, name, entry):
         """Selects an entry of a drop-down list by mouse, scrolling if necessary."""
-        self.dropList(name)
+        self.openList(name)
         for _ in range(MOST_WHEEL_TURNS):
             if self.program.find(entry, role='list item'):
                 break
             self.session.click(self.program.centre(self.dropDown(name)), button=WHEEL_DOWN)
-        self.session.click(self.entryPoint(entry))
+        self.program.wait(lambda: self.closesAt(name, entry), f'the list of "{name}" to close')
         self.program.wait(lambda: self.held(name) == entry, f'"{entry}" to be picked')
+
+    def closesAt(self, name, entry):
+        """Clicks on an entry; whether the list has taken it. At first it does not: the click may be the second one of a
+        double click on the closed list."""
+        self.session.click(self.entryPoint(entry))
+        return not self.dropDown(name)
 
     def clickAtOnce(self, *points):
         """Clicks on one point after another, possibly faster than the program can follow."""

@@ -8,8 +8,7 @@ import pyatspi
 START_SECONDS = 60
 WAIT_SECONDS = 30
 ANSWER_MS = 10000  # for one request on the accessibility bus
-POLL_SECONDS = 0.1
-STILL_POLLS = 4
+POLL_SECONDS = 0.05
 DIALOG_ROLES = ('dialog', 'alert', 'file chooser', 'message box')
 FILE_FIELD, BOX_TITLE = 'File name:', 'Glimmerpane'
 TEXT_ROLES = ('label', 'static', 'text')
@@ -69,25 +68,19 @@ class Program:
             windows = [f'{window.getRoleName()} {window.name!r}' + ' (active)' * self.isActive(window) for window in self.windows()]
         except Exception as problem:
             windows = repr(problem)
-        return f'windows: {windows}; focus settled: {self.session.isFocusSettled()}'
+        return f'windows: {windows}; focus settled: {self.session.screen.isFocusSettled()}'
 
     def waitForMainForm(self):
         """The main form, once the window manager has placed it and it, or a dialog over it, has the keyboard focus."""
         self.wait(self.mainForm, 'the main form', START_SECONDS)
-        places = []
-
-        def stays():
-            places.append(self.box(self.mainForm()))
-            return len(places) >= STILL_POLLS and len(set(places[-STILL_POLLS:])) == 1
-
-        self.wait(stays, 'the main form to keep its place')
         self.waitForKeys()
+        self.session.screen.settle()
         return self.mainForm()
 
     def formWithKeys(self):
         """The form with the keyboard focus: a dialog if there is one, otherwise the main form. None while the window
         manager moves the focus, or if it has activated none of them."""
-        if not self.session.isFocusSettled():
+        if not self.session.screen.isFocusSettled():
             return None
         return next((form for form in self.dialogs() or [self.mainForm()] if form and self.isActive(form)), None)
 

@@ -8,10 +8,13 @@ import time
 
 from PIL import ImageGrab
 
-SCREEN = '1280x1024x24'
+from screen import Screen
+
+SCREEN_SIZE = '1280x1024x24'
 KEY_DELAY_MS = 12
 START_SECONDS = 60
 POLL_SECONDS = 0.1
+WINDOW_MANAGER_SETTINGS = os.path.join(os.path.dirname(os.path.realpath(__file__)), 'openbox.xml')
 ACCESSIBILITY_BUS = '/usr/libexec/at-spi-bus-launcher'
 
 
@@ -24,8 +27,8 @@ def waitUntil(question, what):
 
 
 class Session:
-    def __init__(self, executable, screen=SCREEN):
-        self.executable, self.screen = executable, screen
+    def __init__(self, executable):
+        self.executable = executable
         self.processes = []
 
     def __enter__(self):
@@ -50,7 +53,8 @@ class Session:
         os.environ.update(HOME=home, XDG_CONFIG_HOME=os.path.join(home, '.config'), LANG='C.UTF-8',
                           XDG_RUNTIME_DIR=os.path.join(self.folder, 'run'), QT_QPA_PLATFORM='xcb',
                           QT_LINUX_ACCESSIBILITY_ALWAYS_ON='1')
-        self.run('openbox')
+        self.screen = Screen()
+        self.run('openbox', '--config-file', WINDOW_MANAGER_SETTINGS)
         waitUntil(lambda: 'window id' in self.rootProperty('_NET_SUPPORTING_WM_CHECK'), 'the window manager')
         # Started before the first use: if a caller starts it, it may answer the program too late, which then registers
         # nothing.
@@ -65,7 +69,7 @@ class Session:
         reading, writing = os.pipe()
         # No auto-repeat (-r): on a busy machine a key is released late and would count as held down. No reset when the
         # last client leaves: the first request to the window manager would stop the server while the manager starts.
-        server = subprocess.Popen(['Xvfb', '-r', '-noreset', '-displayfd', str(writing), '-screen', '0', self.screen,
+        server = subprocess.Popen(['Xvfb', '-r', '-noreset', '-displayfd', str(writing), '-screen', '0', SCREEN_SIZE,
                                    '-nolisten', 'tcp'],
                                   pass_fds=[writing], stdout=self.log, stderr=self.log)
         self.processes.append(server)
@@ -121,12 +125,11 @@ class Session:
 
     def move(self, point):
         self.xdotool('mousemove', *map(int, point))
-        time.sleep(0.03)
+        self.screen.settle()
 
     def click(self, point, button=1):
-        self.move(point)
-        self.xdotool('click', button)
-        time.sleep(0.1)
+        self.xdotool('mousemove', *map(int, point), 'click', button)
+        self.screen.settle()
 
     def drag(self, points, button=1):
         """Presses on the first point, moves over the others and releases on the last one."""
@@ -135,22 +138,16 @@ class Session:
         for point in points[1:]:
             self.move(point)
         self.xdotool('mouseup', button)
-        time.sleep(0.1)
-
-    def isFocusSettled(self):
-        """True if the keys go to the active window of the window manager. They do not while it moves the focus."""
-        active, focused = (subprocess.run(['xdotool', which], capture_output=True, text=True).stdout.strip()
-                           for which in ('getactivewindow', 'getwindowfocus'))
-        return bool(active) and active == focused
+        self.screen.settle()
 
     def keys(self, *names):
         """Presses keys, whichever window gets them, with the names of xdotool: "ctrl+s", "Return"."""
         self.xdotool('key', '--delay', KEY_DELAY_MS, *names)
-        time.sleep(0.1)
+        self.screen.settle()
 
     def type(self, text):
         self.xdotool('type', '--delay', KEY_DELAY_MS, '--', text)
-        time.sleep(0.1)
+        self.screen.settle()
 
     # Eyes ------------------------------------------------------------------------------------------------------------
 
@@ -160,4 +157,4 @@ class Session:
 
     def colorAt(self, point):
         """(red, green, blue) of a point on the screen."""
-        return self.picture().convert('RGB').getpixel(tuple(map(int, point)))
+        return self.screen.colorAt(point)

@@ -289,7 +289,7 @@ def test_clicks_in_quick_succession_change_nothing_and_a_double_click_on_proceed
     desk.waitForPanel(BUTTONIZE)
     style = desk.program.centre(desk.program.need(STYLE, role='combo box'))
     close = desk.program.centre(desk.program.need('Close'))
-    desk.dropList(STYLE)
+    desk.openList(STYLE)
     entries = [desk.entryPoint(entry) for entry in STYLES]
     session.keys('Escape')
     for _ in range(ROUNDS):

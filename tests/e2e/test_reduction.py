@@ -313,7 +313,7 @@ def test_clicks_in_quick_succession_on_lists_and_close(session):
     bringUp(desk, TO_16)
     methods = desk.program.centre(desk.program.need(CONFINE_TO, role='combo box'))
     close = desk.program.centre(desk.program.need('Close'))
-    desk.dropList(CONFINE_TO)
+    desk.openList(CONFINE_TO)
     entries = [desk.entryPoint(entry) for entry in TO_16.methods]
     session.keys('Escape')
     for run in (TO_MONO, TO_16, TO_256):
