@@ -1,4 +1,5 @@
 // Measures one paint move on a 48-pixel icon: from the mouse event to the repainted Editing Area of the real form.
+#include "document/ui/QtDisplay.h"
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtFileDialogs.h"
 #include "platform/qt/QtMessageBoxes.h"
@@ -7,7 +8,6 @@
 #include "platform/qt/QtProcesses.h"
 #include "platform/qt/QtSystemInfo.h"
 #include "shell/Shell.h"
-#include "document/ui/QtDisplay.h"
 #include "shell/ui/frmGPEdit.h"
 
 #include <QApplication>

@@ -32,8 +32,8 @@ struct EditState {
   AlphaMatrix gAlphaValues;
   std::array<AlphaMatrix, kContainerCount> mAlphaRecs;
 
-  // The Current Icon, 1:1: image and Mask, which drawing and effects change, and the composite of both. The Editing Area
-  // and its grid. EditingArea composes and magnifies.
+  // The Current Icon, 1:1: image and Mask, which drawing and effects change, and the composite of both. The Editing
+  // Area and its grid. EditingArea composes and magnifies.
   Surface picImage{32, 32, kBlack};
   Surface picMask{32, 32, kWhite};
   Surface PicIcon{32, 32, kGround};

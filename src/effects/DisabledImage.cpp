@@ -1,5 +1,6 @@
 // The grey, etched look of a toolbar button that cannot be pressed: the dark painted pixels in grey with a white edge
-// to the bottom right. Colours with a channel of 153 or more drop out; an icon made only of these colours becomes empty.
+// to the bottom right. Colours with a channel of 153 or more drop out; an icon made only of these colours becomes
+// empty.
 #include "effects/EffectTable.h"
 #include "effects/PaintedPixels.h"
 

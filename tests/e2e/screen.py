@@ -43,8 +43,8 @@ class Screen:
         return list(eldest.values())
 
     def settle(self):
-        """Waits until every program on the screen has taken the events that were sent before: each answers a ping, which
-        stands behind them. A program that ends needs not answer."""
+        """Waits until every program on the screen has taken the events that were sent before: each answers a ping
+        that was sent after them. A program that ends need not answer."""
         end = time.monotonic() + WAIT_SECONDS
         while not self.isAnswered(self.eldestWindows()):
             if time.monotonic() > end:

@@ -1,11 +1,11 @@
 // Menus, keys, pop-up menu and toolbar of the main form in every state of the program: what they show of a command
 // follows its needs, and all of them run the same command.
+#include "document/ui/QtDisplay.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/PictureButton.h"
 #include "shell/CommandStates.h"
 #include "shell/LoggedPorts.h"
 #include "shell/ShellSnapshot.h"
-#include "document/ui/QtDisplay.h"
 #include "shell/ui/frmGPEdit.h"
 #include "support/FakeMachine.h"
 #include "support/ScriptedPorts.h"

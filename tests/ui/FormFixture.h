@@ -1,9 +1,9 @@
 // The main form over scripted ports, on Qt's offscreen platform.
 #pragma once
 
+#include "document/ui/QtDisplay.h"
 #include "platform/qt/PathText.h"
 #include "shell/Shell.h"
-#include "document/ui/QtDisplay.h"
 #include "shell/ui/frmGPEdit.h"
 #include "support/FakeClipboard.h"
 #include "support/FakeMachine.h"
