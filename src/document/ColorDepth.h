@@ -18,7 +18,7 @@ struct ColorDepth {
   int colors = 0;  // 2, 16, 256 or kTrueColor; what a file states may be another number
   int bits = 0;    // per pixel: 1, 4, 8, 24 or 32; likewise
 
-  auto operator<=>(const ColorDepth&) const = default;
+  auto operator<=>(const ColorDepth&) const = default;  // NOLINT(modernize-use-nullptr): there is no null pointer
   constexpr bool isTrueColor() const { return colors == kTrueColor; }
   constexpr bool hasPalette() const { return colors > 0; }
   constexpr bool hasAlpha() const { return isTrueColor() && bits == kBitsWithAlpha; }

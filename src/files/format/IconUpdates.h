@@ -20,7 +20,7 @@ struct IconTraits {
   int width = 0;
   int height = 0;
   ColorDepth depth;
-  auto operator<=>(const IconTraits&) const = default;
+  auto operator<=>(const IconTraits&) const = default;  // NOLINT(modernize-use-nullptr): as for ColorDepth
 };
 
 // The traits of an icon as depthToWrite writes it.
