@@ -3,6 +3,7 @@
 // program's table of effects.
 #pragma once
 
+#include "document/EditState.h"
 #include "document/PanelNumbers.h"
 #include "effects/EffectTable.h"
 #include "files/CursorBuilder.h"

@@ -1,5 +1,6 @@
 // Every command in every state: whether it is enabled, what is said when it cannot run, and that menu, toolbar and
 // pop-up menu do the same.
+#include "document/EditState.h"
 #include "shell/CommandStates.h"
 #include "shell/LoggedPorts.h"
 #include "shell/ShellSnapshot.h"

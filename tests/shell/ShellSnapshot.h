@@ -2,6 +2,7 @@
 // another program. Paths in the program's folder are written without the folder.
 #pragma once
 
+#include "document/EditState.h"
 #include "shell/Shell.h"
 #include "support/FakeClipboard.h"
 #include "support/TempFolder.h"

@@ -1,6 +1,7 @@
 // The whole program without windows: a Shell over scripted ports and a temporary folder.
 #pragma once
 
+#include "document/EditState.h"
 #include "shell/Shell.h"
 #include "support/FakeClipboard.h"
 #include "support/FakeEditor.h"

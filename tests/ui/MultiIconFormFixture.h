@@ -2,6 +2,7 @@
 #pragma once
 
 #include "colour/Colour.h"
+#include "document/EditState.h"
 #include "document/ui/QtDisplay.h"
 #include "drawing/Drawing.h"
 #include "files/Files.h"

@@ -1,3 +1,4 @@
+#include "document/EditState.h"
 #include "document/IconContainerRec.h"
 #include "files/CursorBuilder.h"
 #include "files/Decoding.h"
