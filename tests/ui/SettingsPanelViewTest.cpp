@@ -88,6 +88,9 @@ class SettingsPanelViewTest : public testing::Test, protected test::Rooms {
   SettingsPanelView view{nullptr, panel};
 
   SettingsPanelViewTest() {
+    display.onChanged = [this](DisplayPart part) {
+      if (part == DisplayPart::SidePanel) view.refreshAll();
+    };
     document.arrival.arrive(transparentIcon(16), NewRecord());
     panel.open(test::kMadeUp);
     view.show();
