@@ -1,6 +1,5 @@
-#include "document/EditState.h"
-
 // The content of a region: lifts it from the icon, merges it back, and shows it while it moves.
+#include "document/EditState.h"
 #include "document/EditingArea.h"
 #include "drawing/Regions.h"
 #include "platform/gdi/Pens.h"

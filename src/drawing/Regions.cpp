@@ -1,10 +1,10 @@
-#include "document/EditState.h"
-
 // The phases of a region: what each event does in each of them.
+#include "drawing/Regions.h"
+
 #include "document/Display.h"
+#include "document/EditState.h"
 #include "document/EditingArea.h"
 #include "document/Editor.h"
-#include "drawing/Regions.h"
 #include "drawing/ShapeGeometry.h"
 #include "drawing/Tools.h"
 #include "platform/gdi/SurfaceOps.h"

@@ -1,7 +1,6 @@
-#include "document/ProcessValues.h"
-
 // Commands of the browser that save single entries.
 #include "document/Hourglass.h"
+#include "document/ProcessValues.h"
 #include "files/FileQuestions.h"
 #include "files/browser/MultiIconBrowser.h"
 #include "files/format/DepthTexts.h"
