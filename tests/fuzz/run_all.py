@@ -5,11 +5,13 @@
 
 fuzz_<kind>[_more] uses the seeds of its name and of its kind in tests/fuzz/seeds, tests/fuzz/<kind>.dict and the corpus
 folder <kind>.
-The mutations start from a fixed seed, so that failures can be reproduced. Prints PASS or FAIL per target; the last
-line counts them.
+The mutations start from a fixed seed, so that failures can be reproduced. A target that has passed is not run again
+until it, its inputs or this script changes, because it would try the same inputs. Prints PASS or FAIL per target; the
+last line counts them.
 """
 import concurrent.futures
 import glob
+import hashlib
 import os
 import subprocess
 import sys
@@ -24,6 +26,7 @@ LARGEST_BLOCK_MB = 64  # no single allocation beyond this for an input below LON
 MEMORY_MB = 1024       # includes the sanitizers' own
 SLOWEST_INPUT_SECONDS = 5
 GRACE_SECONDS = 60
+SLOW_TARGETS = ('fuzz_ico', 'fuzz_ini')
 
 
 def kind(name):
@@ -36,6 +39,31 @@ def inputs(name):
     names = dict.fromkeys([name, kind(name)])
     folders = [*(os.path.join(HERE, 'seeds', n) for n in names), os.path.join(CORPUS, kind(name))]
     return [folder for folder in folders if os.path.isdir(folder)]
+
+
+def mark(program, name):
+    """A file that exists if the target has passed in this form with these inputs."""
+    digest = hashlib.sha256()
+    for folder in [program, os.path.realpath(__file__), os.path.join(HERE, kind(name) + '.dict'), *inputs(name)]:
+        for path in [folder] if os.path.isfile(folder) else sorted(glob.glob(os.path.join(folder, '**'), recursive=True)):
+            if os.path.isfile(path):
+                with open(path, 'rb') as file:
+                    digest.update(path.encode() + b'\0' + file.read())
+    return os.path.join(os.path.dirname(program), 'passed', name + '-' + digest.hexdigest())
+
+
+def runChanged(program):
+    """(target, whether it passed, output). The output is empty for a target that has passed before."""
+    target = os.path.basename(program)
+    passed = mark(program, target.removeprefix('fuzz_'))
+    if os.path.isfile(passed):
+        return target, True, ''
+    _, good, output = run(program)
+    good = good and executed(output) > 0
+    if good:
+        os.makedirs(os.path.dirname(passed), exist_ok=True)
+        open(passed, 'w').close()
+    return target, good, output
 
 
 def run(program):
@@ -65,7 +93,9 @@ def executed(output):
 
 
 def main():
-    programs = sorted(p for p in glob.glob(os.path.join(os.path.abspath(sys.argv[1]), 'fuzz_*')) if os.access(p, os.X_OK) and os.path.isfile(p))
+    # The targets that take longest come first, so that all processors end together.
+    programs = sorted((p for p in glob.glob(os.path.join(os.path.abspath(sys.argv[1]), 'fuzz_*')) if os.access(p, os.X_OK) and os.path.isfile(p)),
+                      key=lambda p: (os.path.basename(p) not in SLOW_TARGETS, p))
     sources = glob.glob(os.path.join(HERE, 'fuzz_*.cpp'))
     if not os.path.isdir(CORPUS):
         print('The public corpus is not here: fuzzing starts from the seeds in tests/fuzz alone.')
@@ -74,9 +104,9 @@ def main():
         print(f'FAIL {name} was not built')
     passed = 0
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count() or 1) as pool:
-        for target, good, output in pool.map(run, programs):
-            good = good and executed(output) > 0
-            print(f'{"PASS" if good else "FAIL"} {target}: {executed(output)} inputs', flush=True)
+        for target, good, output in pool.map(runChanged, programs):
+            tried = f'{executed(output)} inputs' if output else 'passed before, and nothing has changed'
+            print(f'{"PASS" if good else "FAIL"} {target}: {tried}', flush=True)
             if good:
                 passed += 1
             else:
