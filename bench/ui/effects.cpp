@@ -3,14 +3,11 @@
 #include "effects/Effects.h"
 
 #include "../BenchRooms.h"
-#include "effects/ButtonizePanel.h"
+#include "document/ui/QtDisplay.h"
 #include "effects/ConfinePanel.h"
-#include "effects/DisabledImagePanel.h"
-#include "effects/ShadesPanel.h"
-#include "effects/ui/ButtonizePanelView.h"
+#include "effects/SettingsPanel.h"
 #include "effects/ui/ConfinePanelView.h"
-#include "effects/ui/DisabledImagePanelView.h"
-#include "effects/ui/ShadesPanelView.h"
+#include "effects/ui/SettingsPanelView.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -45,18 +42,25 @@ class Panels {
           scene_.state.picImage.SetPixelV(x, y, rgb(x * 5, y * 5, x * y % 256));
           scene_.state.picMask.SetPixelV(x, y, kBlack);
         }
+    scene_.display.form = &display_;
   }
   Effects& effects() { return effects_; }
+  // Lets a view follow its panel, as on the main form.
+  void connect(EffectPanelView& view) {
+    display_.listen(DisplayPart::SidePanel, &view, [&view] { view.refreshAll(); });
+  }
 
  private:
   bench::IconScene scene_;
+  QtDisplay display_;
   Effects effects_{scene_.context, scene_.document, scene_.drawing.history};
 };
 
 // `change` changes the setting for one iteration.
 template <class View, class Panel, class Change>
-void measure(benchmark::State& state, Panel& panel, Change change) {
+void measure(benchmark::State& state, Panels& panels, Panel& panel, Change change) {
   View view(nullptr, panel);
+  panels.connect(view);
   view.resize(kPanelWidth, kPanelHeight);
   view.show();
   PaintWatcher watcher;
@@ -71,38 +75,31 @@ void measure(benchmark::State& state, Panel& panel, Change change) {
   }
 }
 
-void relief(benchmark::State& state, int command) {
+// Goes through the choices of the effect's first setting; an effect without settings is previewed again.
+void effectOf(benchmark::State& state, const EffectRow& effect) {
   Panels panels;
-  ShadesPanel& panel = panels.effects().panel<ShadesPanel>();
-  panel.open(command);
-  measure<ShadesPanelView>(state, panel, [&](int turn) { panel.setUseSelectedColor(turn % 2 == 0); });
+  SettingsPanel& panel = *panels.effects().settingsPanel(effect.panel.number);
+  panel.open(effect);
+  measure<SettingsPanelView>(state, panels, panel, [&](int turn) {
+    if (effect.settings.empty()) return panel.preview();
+    const Setting& setting = effect.settings.front();
+    panel.choose(setting, turn % choiceCount(setting));
+  });
 }
-BENCHMARK_CAPTURE(relief, embossed, 11)->UseRealTime()->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(relief, engraved, 12)->UseRealTime()->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(relief, raised, 13)->UseRealTime()->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(relief, shadowed, 14)->UseRealTime()->Unit(benchmark::kMillisecond);
 
-void buttonStyles(benchmark::State& state) {
-  Panels panels;
-  ButtonizePanel& panel = panels.effects().panel<ButtonizePanel>();
-  panel.open(ButtonizePanel::kCommands.front());
-  measure<ButtonizePanelView>(state, panel, [&](int turn) { panel.pickPattern(turn % kButtonPatterns); });
+void addEffects() {
+  for (const EffectRow* effect : effectTable())
+    if (effect->apply)
+      benchmark::RegisterBenchmark(effect->name, [effect](benchmark::State& state) { effectOf(state, *effect); })
+          ->UseRealTime()
+          ->Unit(benchmark::kMillisecond);
 }
-BENCHMARK(buttonStyles)->UseRealTime()->Unit(benchmark::kMillisecond);
-
-void disabledButton(benchmark::State& state) {
-  Panels panels;
-  DisabledImagePanel& panel = panels.effects().panel<DisabledImagePanel>();
-  panel.open(DisabledImagePanel::kCommands.front());
-  measure<DisabledImagePanelView>(state, panel, [&](int) { panel.preview(); });
-}
-BENCHMARK(disabledButton)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 void reduction(benchmark::State& state, int run, int method) {
   Panels panels;
   ConfinePanel& panel = panels.effects().panel<ConfinePanel>();
   panel.doConfineColors(run);
-  measure<ConfinePanelView>(state, panel, [&](int) { panel.pickMethod(method); });
+  measure<ConfinePanelView>(state, panels, panel, [&](int) { panel.pickMethod(method); });
 }
 BENCHMARK_CAPTURE(reduction, optimal, 0, 0)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(reduction, system, 0, 1)->UseRealTime()->Unit(benchmark::kMillisecond);
@@ -118,6 +115,7 @@ BENCHMARK_CAPTURE(reduction, ordered, 2, 2)->UseRealTime()->Unit(benchmark::kMil
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   benchmark::Initialize(&argc, argv);
+  addEffects();
   benchmark::RunSpecifiedBenchmarks();
   return 0;
 }

@@ -1,4 +1,5 @@
 // Measures one paint move on a 48-pixel icon: from the mouse event to the repainted Editing Area of the real form.
+#include "document/EditState.h"
 #include "document/ui/QtDisplay.h"
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtFileDialogs.h"
