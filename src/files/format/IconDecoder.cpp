@@ -166,7 +166,6 @@ Surface readRows(const std::uint8_t* rows, std::size_t stride, int width, int he
   std::uint32_t* out = surface.rowsForWriting(0, height, 0, width);
   for (int y = 0; y < height; ++y, out += width)
     readRow(rows + static_cast<std::size_t>(height - 1 - y) * stride, palette, out, width);
-  surface.makePersistent();
   return surface;
 }
 

@@ -24,14 +24,13 @@ std::uint32_t* Surface::rowsForWriting(int y1, int y2, int x1, int x2) {
 void Surface::resize(int width, int height) {
   width_ = std::max(width, 0);
   height_ = std::max(height, 0);
-  pixels_.resize(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_));
   clearPicture();
 }
 
 void Surface::clearPicture() {
   hasPicture_ = false;
   groundColor_ = backColor;
-  std::fill(pixels_.begin(), pixels_.end(), storedForm(backColor));
+  pixels_.assign(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_), storedForm(backColor));
   forgetChanges();
 }
 
