@@ -48,7 +48,7 @@ BROKEN = [
     (words.checkEnglish, 'tools/bad', '#!/bin/sh\necho  # what becomes of it\n', 'tools/bad:2: "becomes of"'),
     (words.checkEnglish, 'tests/Bad.cmake', '# It wants more.', 'tests/Bad.cmake:1: "wants"'),
     (words.checkEnglish, 'docs/bad.md', 'Without it there is\nnobody.', 'docs/bad.md:2: "nobody"'),
-    (sizes.checkFiles, 'src/document/Bad.cpp', '\n' * (sizes.MAX_FILE_LINES + 1), 'src/document/Bad.cpp'),
+    (sizes.checkFiles, 'src/document/Bad.cpp', '\n' * (sizes.MAX_FILE_LINES['src'] + 1), 'src/document/Bad.cpp'),
     (sizes.checkFunctions, 'src/document/Bad.cpp', 'namespace gp {\n' + LONG_FUNCTION + '}', 'src/document/Bad.cpp:2: 62'),
     (sizes.checkFunctions, 'src/document/Bad.cpp', 'class A : B<C()> {\n' + LONG_FUNCTION + '};', 'src/document/Bad.cpp:2: 62'),
     (sizes.checkFunctions, 'src/document/Bad.cpp', 'A::A() : a{1}, b("}") ' + LONG_FUNCTION[9:], 'src/document/Bad.cpp:1: 62'),
