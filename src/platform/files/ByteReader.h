@@ -21,7 +21,6 @@ class ByteReader {
   constexpr std::uint8_t u8At(Position at) { return static_cast<std::uint8_t>(read(at, 1)); }
   constexpr std::uint16_t u16At(Position at) { return static_cast<std::uint16_t>(read(at, 2)); }
   constexpr std::uint32_t u32At(Position at) { return read(at, 4); }
-  constexpr std::int16_t i16At(Position at) { return static_cast<std::int16_t>(u16At(at)); }
   constexpr std::int32_t i32At(Position at) { return static_cast<std::int32_t>(u32At(at)); }
 
   // Values at the current position, which advances past them.
