@@ -8,6 +8,7 @@
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
+#include "document/IconImage.h"
 #include "drawing/Drawing.h"
 #include "platform/dialogs/clsGPDialog.h"
 #include "platform/ports/Clipboard.h"
@@ -111,6 +112,18 @@ struct BenchRooms {
 
 inline constexpr int kIconSize = 48;
 inline constexpr int kRoom = 600;  // pixels of picDisp on a large screen
+
+// An icon of 48 pixels of many colours, every fifth of which is transparent.
+inline IconImage colourfulIcon() {
+  IconImage icon = transparentIcon(kIconSize);
+  for (int y = 0; y < kIconSize; ++y)
+    for (int x = 0; x < kIconSize; ++x) {
+      if ((x + y) % 5 == 0) continue;
+      icon.image.SetPixelV(x, y, rgb(x * 5, y * 5, 99));
+      icon.mask.SetPixelV(x, y, kBlack);
+    }
+  return icon;
+}
 
 // A transparent icon of 48 pixels on an Editing Area with grid lines, and its history.
 struct IconScene : BenchRooms {

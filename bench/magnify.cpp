@@ -11,14 +11,7 @@ using namespace gp;
 struct Scene : bench::BenchRooms {
   explicit Scene(int grid) {
     state.screen.dispContainerWidth = state.screen.dispContainerHeight = 520;
-    IconImage icon = transparentIcon(bench::kIconSize);
-    for (int y = 0; y < bench::kIconSize; ++y)
-      for (int x = 0; x < bench::kIconSize; ++x) {
-        if ((x + y) % 5 == 0) continue;
-        icon.image.SetPixelV(x, y, rgb(x * 5, y * 5, 99));
-        icon.mask.SetPixelV(x, y, kBlack);
-      }
-    document.arrival.arrive(icon, NewRecord());
+    document.arrival.arrive(bench::colourfulIcon(), NewRecord());
     document.areaOptions.SetGrid(grid);
   }
 };

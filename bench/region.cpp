@@ -16,14 +16,7 @@ struct Scene : bench::BenchRooms {
 
   Scene(bool editingAreaOnly, int grid) {
     state.options.updateOnlyEditingArea = editingAreaOnly;
-    IconImage icon = transparentIcon(bench::kIconSize);
-    for (int y = 0; y < bench::kIconSize; ++y)
-      for (int x = 0; x < bench::kIconSize; ++x) {
-        if ((x + y) % 5 == 0) continue;
-        icon.image.SetPixelV(x, y, rgb(x * 5, y * 5, 99));
-        icon.mask.SetPixelV(x, y, kBlack);
-      }
-    document.arrival.arrive(icon, NewRecord());
+    document.arrival.arrive(bench::colourfulIcon(), NewRecord());
     document.areaOptions.SetGrid(grid);
     drawing.tools.selectTool(kRegion);
     tool.press(at(0));

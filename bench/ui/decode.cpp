@@ -31,8 +31,8 @@ gp::IconFile fileOf(const QByteArray& bytes) {
 }
 
 std::string corpusFolder() {
-  const char* told = std::getenv("GLIMMERPANE_CORPUS");
-  return std::string(told ? told : GP_SOURCE_DIR "/../shared/corpus") + "/ico";
+  const char* folder = std::getenv("GLIMMERPANE_CORPUS");
+  return std::string(folder ? folder : GP_SOURCE_DIR "/../shared/corpus") + "/ico";
 }
 
 QByteArray bytesOf(const std::filesystem::path& path) {

@@ -73,21 +73,21 @@ void findOtherDepth(const Inspection& image, const DiscrepancySink& tell) {
   const std::string colors = depth ? text(depth->colors) : kNothingTold;
   const std::string bits = depth ? text(depth->bits) : kNothingTold;
   if (!sameColors) {
-    const int told = ColorsForEntry(image.entry, image.entry.bitCount);
-    tell({image.index, "colors", text(told), text(headerColors), colors});
+    const int stated = ColorsForEntry(image.entry, image.entry.bitCount);
+    tell({image.index, "colors", text(stated), text(headerColors), colors});
   }
   if (!sameBits) tell({image.index, "bits", text(image.entry.bitCount), text(headerBits), bits});
 }
 
 void findMissingBytes(const Inspection& image, const DiscrepancySink& tell) {
-  const std::uint32_t told = image.entry.bytesInRes;
-  if (told < ico::kBitmapHeaderSize || !image.header) {
-    if (told < ico::kBitmapHeaderSize) tell({image.index, "bytes", text(told), text(ico::kBitmapHeaderSize)});
+  const std::uint32_t stated = image.entry.bytesInRes;
+  if (stated < ico::kBitmapHeaderSize || !image.header) {
+    if (stated < ico::kBitmapHeaderSize) tell({image.index, "bytes", text(stated), text(ico::kBitmapHeaderSize)});
   } else if (image.header->isPng) {
-    const auto picture = ByteReader(image.file.span()).bytesAt(image.entry.imageOffset, told);
-    if (!isWholePng(picture)) tell({image.index, "bytes", text(told), kNothingTold, "incomplete"});
-  } else if (const auto needed = image.header->bytesNeeded(image.header->paletteTold()); told < needed) {
-    tell({image.index, "bytes", text(told), text(needed)});
+    const auto picture = ByteReader(image.file.span()).bytesAt(image.entry.imageOffset, stated);
+    if (!isWholePng(picture)) tell({image.index, "bytes", text(stated), kNothingTold, "incomplete"});
+  } else if (const auto needed = image.header->bytesNeeded(image.header->paletteTold()); stated < needed) {
+    tell({image.index, "bytes", text(stated), text(needed)});
   }
 }
 

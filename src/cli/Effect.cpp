@@ -8,8 +8,7 @@ namespace {
 int makeEffect(const EffectRow& effect, const EffectValues& values, const ImageArguments& arguments) {
   const auto loaded = loadImageForEffect(arguments);
   if (!loaded) return kRefused;
-  const IconImage opaque{loaded->icon.image, loaded->icon.mask, {}};
-  return writeIcon(effect.apply(opaque, values), loaded->record, arguments.output);
+  return writeIcon(effect.apply(loaded->icon, values), loaded->record, arguments.output);
 }
 
 }  // namespace

@@ -33,7 +33,7 @@ std::optional<DecodedImage> decodeCursor(const IconFile& file, const IconEntry& 
 std::optional<IconFile> openImageFile(const std::string& path) { return openFile(path, true); }
 std::optional<IconFile> openIconFile(const std::string& path) { return openFile(path, false); }
 
-int sideOf(int told) { return told == 0 ? kSideOfZero : told; }
+int sideOf(int side) { return side == 0 ? kSideOfZero : side; }
 
 bool isUsableImage(const IconFile& file, int index) {
   if (!file.isCursor()) return isUsableEntry(file, file.entry(index));

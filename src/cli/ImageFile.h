@@ -14,7 +14,7 @@ std::optional<IconFile> openImageFile(const std::string& path);
 std::optional<IconFile> openIconFile(const std::string& path);
 
 // A side in pixels from its byte in a directory: 0 means 256.
-int sideOf(int told);
+int sideOf(int side);
 
 // True when the editor can show the image.
 bool isUsableImage(const IconFile& file, int index);

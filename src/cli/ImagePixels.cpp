@@ -50,11 +50,11 @@ unsigned highestIndexInRow(std::span<const std::uint8_t> row, int width, int bit
 std::optional<ColorDepth> measureDepth(const IconFile& file, const IconEntry& entry, const ImageHeader& header) {
   const bool isFull = paletteWritten(entry, header) == header.paletteForBits();
   if (!isReadable(header) || !depthOfBits(header.bits).isShown() || !isFull) return std::nullopt;
-  IconEntry told = entry;
-  told.colorCount = 0;
-  told.bitCount = header.bits;
+  IconEntry described = entry;
+  described.colorCount = 0;
+  described.bitCount = header.bits;
   const int width = static_cast<int>(header.width), height = static_cast<int>(header.rows / 2);
-  const DecodedIcon decoded = decodeEntry(file, told, width, height);
+  const DecodedIcon decoded = decodeEntry(file, described, width, height);
   if (!decoded.isRead()) return std::nullopt;
   int colors = 0;
   GetColorBitCount_Image(decoded.icon.image, colors);

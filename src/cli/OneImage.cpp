@@ -12,30 +12,30 @@ enum ImageArgument { kInput, kIndex, kOutput, kArgumentCount };
 }  // namespace
 
 int takeImageArguments(const std::string& command, const std::string& needed, const Arguments& arguments,
-                       std::size_t more, ImageArguments& told) {
+                       std::size_t more, ImageArguments& given) {
   const Split split = splitOptions(arguments);
   if (!split.options.empty()) return badUsage(command + ": unknown option " + split.options.front());
   if (split.files.size() != kArgumentCount + more) return badUsage(command + ": " + needed + " is needed");
-  if (!parseNumber(split.files[kIndex], told.index)) return badUsage(command + ": the index is no number");
-  told.input = split.files[kInput];
-  told.output = split.files[kOutput];
-  told.more.assign(split.files.begin() + kArgumentCount, split.files.end());
+  if (!parseNumber(split.files[kIndex], given.index)) return badUsage(command + ": the index is no number");
+  given.input = split.files[kInput];
+  given.output = split.files[kOutput];
+  given.more.assign(split.files.begin() + kArgumentCount, split.files.end());
   return kDone;
 }
 
-std::optional<LoadedIcon> loadImage(const ImageArguments& told) {
-  const auto file = openIconFile(told.input);
+std::optional<LoadedIcon> loadImage(const ImageArguments& given) {
+  const auto file = openIconFile(given.input);
   if (!file) return std::nullopt;
   IconDefect defect = IconDefect::None;
-  auto loaded = loadEntry(*file, told.index, told.input, defect);
-  if (!loaded) complain(told.input, describe(defect));
+  auto loaded = loadEntry(*file, given.index, given.input, defect);
+  if (!loaded) complain(given.input, describe(defect));
   return loaded;
 }
 
-std::optional<LoadedIcon> loadImageForEffect(const ImageArguments& told) {
-  auto loaded = loadImage(told);
+std::optional<LoadedIcon> loadImageForEffect(const ImageArguments& given) {
+  auto loaded = loadImage(given);
   if (!loaded || !loaded->record.hasAlpha) return loaded;
-  complain(told.input, kIconIsWithAlpha);
+  complain(given.input, kIconIsWithAlpha);
   return std::nullopt;
 }
 

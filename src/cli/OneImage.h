@@ -21,12 +21,12 @@ struct ImageArguments {
 // Parses arguments from which the options of the command have been removed. `needed` describes the arguments in an
 // error message, `more` is the number of those after OUT. Returns kDone, or kBadUsage after an error message.
 int takeImageArguments(const std::string& command, const std::string& needed, const Arguments& arguments,
-                       std::size_t more, ImageArguments& told);
+                       std::size_t more, ImageArguments& given);
 
 // Loads the image as the editor does when it opens a file. Empty after an error message.
-std::optional<LoadedIcon> loadImage(const ImageArguments& told);
+std::optional<LoadedIcon> loadImage(const ImageArguments& given);
 // The same for an effect, which refuses icons with alpha.
-std::optional<LoadedIcon> loadImageForEffect(const ImageArguments& told);
+std::optional<LoadedIcon> loadImageForEffect(const ImageArguments& given);
 
 // Returns kDone if the output has been written, otherwise kRefused after an error message.
 int answerToWriting(bool isWritten, const std::string& output);

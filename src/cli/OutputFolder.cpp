@@ -26,15 +26,15 @@ std::string OutputNames::nameFor(const std::string& bare) {
 
 std::string stemOf(const std::string& path) { return std::filesystem::path(path).stem().string(); }
 
-int takeFolderArguments(const std::string& command, Arguments arguments, FolderArguments& told) {
-  if (!takeOption(arguments, "-d", told.folder) || told.folder.empty())
+int takeFolderArguments(const std::string& command, Arguments arguments, FolderArguments& given) {
+  if (!takeOption(arguments, "-d", given.folder) || given.folder.empty())
     return badUsage(command + ": one -d DIR is needed");
   const Split split = splitOptions(arguments);
   if (!split.options.empty()) return badUsage(command + ": unknown option " + split.options.front());
   if (split.files.empty()) return badUsage(command + ": no file given");
-  told.files = split.files;
-  if (makeFolder(told.folder)) return kDone;
-  complain(told.folder, "not a folder, and cannot be made");
+  given.files = split.files;
+  if (makeFolder(given.folder)) return kDone;
+  complain(given.folder, "not a folder, and cannot be made");
   return kRefused;
 }
 

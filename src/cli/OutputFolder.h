@@ -31,6 +31,6 @@ struct FolderArguments {
 };
 // Parses the arguments and creates the folder if necessary. Returns kDone, or another exit status after an error
 // message.
-int takeFolderArguments(const std::string& command, Arguments arguments, FolderArguments& told);
+int takeFolderArguments(const std::string& command, Arguments arguments, FolderArguments& given);
 
 }  // namespace gp::cli

@@ -61,29 +61,29 @@ bool addTo(const std::string& path, const NewIcon& icon, const Place& place, con
 }  // namespace
 
 int runReplace(const Arguments& arguments) {
-  const auto told = parseUpdate("replace", arguments, PositionOption::None);
+  const auto given = parseUpdate("replace", arguments, PositionOption::None);
   int index = 0;
-  if (!told) return kBadUsage;
-  if (told->files.size() != kReplaceArguments) return badUsage("replace: FILE INDEX ICON.ico is needed");
-  if (!parseNumber(told->files[kIndex], index)) return badUsage("replace: the index is no number");
-  auto icon = loadNewIcon(told->files[kIcon]);
-  return icon && replaceIn(told->files[kFile], index, std::move(*icon), told->output) ? kDone : kRefused;
+  if (!given) return kBadUsage;
+  if (given->files.size() != kReplaceArguments) return badUsage("replace: FILE INDEX ICON.ico is needed");
+  if (!parseNumber(given->files[kIndex], index)) return badUsage("replace: the index is no number");
+  auto icon = loadNewIcon(given->files[kIcon]);
+  return icon && replaceIn(given->files[kFile], index, std::move(*icon), given->output) ? kDone : kRefused;
 }
 
 int runAdd(const Arguments& arguments) {
-  const auto told = parseUpdate("add", arguments, PositionOption::At);
-  if (!told) return kBadUsage;
+  const auto given = parseUpdate("add", arguments, PositionOption::At);
+  if (!given) return kBadUsage;
   Place place;
-  place.isGiven = !told->position.empty();
-  if (told->files.size() < 2) return badUsage("add: FILE... ICON.ico is needed");
-  if (place.isGiven && !parseNumber(told->position, place.ref)) return badUsage("add: --at takes a number");
-  if (!told->output.empty() && told->files.size() != 2) return badUsage("add: -o goes with one FILE only");
+  place.isGiven = !given->position.empty();
+  if (given->files.size() < 2) return badUsage("add: FILE... ICON.ico is needed");
+  if (place.isGiven && !parseNumber(given->position, place.ref)) return badUsage("add: --at takes a number");
+  if (!given->output.empty() && given->files.size() != 2) return badUsage("add: -o goes with one FILE only");
 
-  const auto icon = loadNewIcon(told->files.back());
+  const auto icon = loadNewIcon(given->files.back());
   if (!icon) return kRefused;
   int status = kDone;
-  for (std::size_t i = 0; i + 1 < told->files.size(); ++i)
-    if (!addTo(told->files[i], *icon, place, told->output)) status = kRefused;
+  for (std::size_t i = 0; i + 1 < given->files.size(); ++i)
+    if (!addTo(given->files[i], *icon, place, given->output)) status = kRefused;
   return status;
 }
 

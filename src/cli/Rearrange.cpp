@@ -77,28 +77,28 @@ int salvageTo(const std::string& path, const std::string& output) {
 }  // namespace
 
 int runRemove(const Arguments& arguments) {
-  const auto told = parseUpdate("remove", arguments, PositionOption::None);
+  const auto given = parseUpdate("remove", arguments, PositionOption::None);
   int index = 0;
-  if (!told) return kBadUsage;
-  if (told->files.size() != 2) return badUsage("remove: FILE INDEX is needed");
-  if (!parseNumber(told->files[1], index)) return badUsage("remove: the index is no number");
-  return removeFrom(told->files[0], index, told->output);
+  if (!given) return kBadUsage;
+  if (given->files.size() != 2) return badUsage("remove: FILE INDEX is needed");
+  if (!parseNumber(given->files[1], index)) return badUsage("remove: the index is no number");
+  return removeFrom(given->files[0], index, given->output);
 }
 
 int runReorder(const Arguments& arguments) {
-  const auto told = parseUpdate("reorder", arguments, PositionOption::None);
+  const auto given = parseUpdate("reorder", arguments, PositionOption::None);
   std::vector<int> order;
-  if (!told) return kBadUsage;
-  if (told->files.size() != 2) return badUsage("reorder: FILE 3,1,2 is needed");
-  if (!parseOrder(told->files[1], order)) return badUsage("reorder: the sequence is not of numbers and commas");
-  return reorderIn(told->files[0], order, told->output);
+  if (!given) return kBadUsage;
+  if (given->files.size() != 2) return badUsage("reorder: FILE 3,1,2 is needed");
+  if (!parseOrder(given->files[1], order)) return badUsage("reorder: the sequence is not of numbers and commas");
+  return reorderIn(given->files[0], order, given->output);
 }
 
 int runSalvage(const Arguments& arguments) {
-  const auto told = parseUpdate("salvage", arguments, PositionOption::None);
-  if (!told) return kBadUsage;
-  if (told->files.size() != 1 || told->output.empty()) return badUsage("salvage: FILE -o OUT is needed");
-  return salvageTo(told->files[0], told->output);
+  const auto given = parseUpdate("salvage", arguments, PositionOption::None);
+  if (!given) return kBadUsage;
+  if (given->files.size() != 1 || given->output.empty()) return badUsage("salvage: FILE -o OUT is needed");
+  return salvageTo(given->files[0], given->output);
 }
 
 }  // namespace gp::cli

@@ -51,10 +51,10 @@ bool hasFewColors(const IconImage& icon, int most, const std::string& path) {
   return isFew;
 }
 
-int reduceTo(const Method& method, const ReductionSettings& settings, const ImageArguments& told) {
-  const auto loaded = loadImageForEffect(told);
-  if (!loaded || hasFewColors(loaded->icon, method.colors, told.input)) return kRefused;
-  return writeIcon(reduceColors(loaded->icon.image, loaded->icon.mask, settings), loaded->record, told.output);
+int reduceTo(const Method& method, const ReductionSettings& settings, const ImageArguments& given) {
+  const auto loaded = loadImageForEffect(given);
+  if (!loaded || hasFewColors(loaded->icon, method.colors, given.input)) return kRefused;
+  return writeIcon(reduceColors(loaded->icon.image, loaded->icon.mask, settings), loaded->record, given.output);
 }
 
 }  // namespace
@@ -62,7 +62,7 @@ int reduceTo(const Method& method, const ReductionSettings& settings, const Imag
 int runReduce(const Arguments& arguments) {
   Arguments rest = arguments;
   ReduceOptions options;
-  ImageArguments told;
+  ImageArguments given;
   if (!takeOptions(rest, options)) return badUsage("reduce: --to, --method and --threshold take one value each");
   if (options.to.empty() || options.method.empty()) return badUsage("reduce: --to and --method are needed");
   const Method* const method = findMethod(options);
@@ -72,9 +72,9 @@ int runReduce(const Arguments& arguments) {
     return badUsage("reduce: --threshold goes with cutoff only");
   if (!options.threshold.empty() && !parseNumber(options.threshold, settings.threshold))
     return badUsage("reduce: --threshold takes a number");
-  if (const int status = takeImageArguments("reduce", "IN.ico INDEX OUT.ico", rest, 0, told); status != kDone)
+  if (const int status = takeImageArguments("reduce", "IN.ico INDEX OUT.ico", rest, 0, given); status != kDone)
     return status;
-  return reduceTo(*method, settings, told);
+  return reduceTo(*method, settings, given);
 }
 
 }  // namespace gp::cli

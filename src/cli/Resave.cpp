@@ -4,11 +4,11 @@
 namespace gp::cli {
 
 int runResave(const Arguments& arguments) {
-  ImageArguments told;
-  if (const int status = takeImageArguments("resave", "IN.ico INDEX OUT.ico", arguments, 0, told); status != kDone)
+  ImageArguments given;
+  if (const int status = takeImageArguments("resave", "IN.ico INDEX OUT.ico", arguments, 0, given); status != kDone)
     return status;
-  const auto loaded = loadImage(told);
-  return loaded ? writeIcon(loaded->icon, loaded->record, told.output) : kRefused;
+  const auto loaded = loadImage(given);
+  return loaded ? writeIcon(loaded->icon, loaded->record, given.output) : kRefused;
 }
 
 }  // namespace gp::cli

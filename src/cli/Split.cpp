@@ -17,13 +17,13 @@ namespace fs = std::filesystem;
 constexpr std::uint64_t kMostBytes = std::uint64_t{256} << 20;
 
 // An input file in the output folder must not be overwritten: its name is reserved.
-void keepOffInputs(const FolderArguments& told, OutputNames& names) {
+void keepOffInputs(const FolderArguments& given, OutputNames& names) {
   std::map<fs::path, bool> isOutput;
-  for (const std::string& path : told.files) {
+  for (const std::string& path : given.files) {
     const fs::path above = fs::path(path).parent_path();
     const auto [known, isUnknown] = isOutput.try_emplace(above, false);
     std::error_code error;
-    if (isUnknown) known->second = fs::equivalent(above.empty() ? fs::path(".") : above, told.folder, error);
+    if (isUnknown) known->second = fs::equivalent(above.empty() ? fs::path(".") : above, given.folder, error);
     if (known->second) names.keepOff(stemOf(path));
   }
 }
@@ -90,13 +90,13 @@ bool splitFile(const std::string& path, const std::string& folder, OutputNames& 
 }  // namespace
 
 int runSplit(const Arguments& arguments) {
-  FolderArguments told;
-  if (const int status = takeFolderArguments("split", arguments, told); status != kDone) return status;
+  FolderArguments given;
+  if (const int status = takeFolderArguments("split", arguments, given); status != kDone) return status;
   OutputNames names;
-  keepOffInputs(told, names);
+  keepOffInputs(given, names);
   int status = kDone;
-  for (const std::string& path : told.files)
-    if (!splitFile(path, told.folder, names)) status = kRefused;
+  for (const std::string& path : given.files)
+    if (!splitFile(path, given.folder, names)) status = kRefused;
   return status;
 }
 

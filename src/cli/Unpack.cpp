@@ -77,12 +77,12 @@ bool unpackFile(const std::string& path, const std::string& prefix) {
 }  // namespace
 
 int runUnpack(const Arguments& arguments) {
-  FolderArguments told;
-  if (const int status = takeFolderArguments("unpack", arguments, told); status != kDone) return status;
+  FolderArguments given;
+  if (const int status = takeFolderArguments("unpack", arguments, given); status != kDone) return status;
   OutputNames names;
   int status = kDone;
-  for (const std::string& path : told.files)
-    if (!unpackFile(path, told.folder + "/" + names.nameFor(stemOf(path)))) status = kRefused;
+  for (const std::string& path : given.files)
+    if (!unpackFile(path, given.folder + "/" + names.nameFor(stemOf(path)))) status = kRefused;
   return status;
 }
 

@@ -25,12 +25,12 @@ bool isOrdinary(const std::string& path) {
 }  // namespace
 
 std::optional<UpdateArguments> parseUpdate(const std::string& command, Arguments arguments, PositionOption position) {
-  UpdateArguments told;
-  if (!takeOption(arguments, "-o", told.output)) {
+  UpdateArguments given;
+  if (!takeOption(arguments, "-o", given.output)) {
     badUsage(command + ": one -o OUT is all it takes");
     return std::nullopt;
   }
-  if (position == PositionOption::At && !takeOption(arguments, "--at", told.position)) {
+  if (position == PositionOption::At && !takeOption(arguments, "--at", given.position)) {
     badUsage(command + ": one --at N is all it takes");
     return std::nullopt;
   }
@@ -39,8 +39,8 @@ std::optional<UpdateArguments> parseUpdate(const std::string& command, Arguments
     badUsage(command + ": unknown option " + split.options.front());
     return std::nullopt;
   }
-  told.files = std::move(split.files);
-  return told;
+  given.files = std::move(split.files);
+  return given;
 }
 
 bool readForUpdate(const std::string& path, IconArrays& arrays) {

@@ -1,4 +1,4 @@
-// What the logic asks of the screen. The views hold no state of their own: when a part of the screen changes, they read
+// What the logic asks of the screen. The views store no state: when a part of the screen changes, they read
 // the state of their subsystem again.
 #pragma once
 

@@ -15,7 +15,7 @@ struct ToolMouse {
   int modifiers = 0;  // kShiftKey, kCtrlKey, kAltKey
 };
 
-// The result of pointer() for a tool with a pointer picture of its own name.
+// The result of pointer() for a tool whose pointer is the picture with the name of the tool.
 inline constexpr int kOwnPicture = 0;
 
 class DrawingTool {

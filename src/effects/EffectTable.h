@@ -25,7 +25,7 @@ struct EffectPanelPlace {
   const char* sampleLabel = "";  // objectName of the label that shows the title; empty for the plain label "Sample"
 };
 
-// The side panel of effects that need no panel of their own.
+// The side panel of effects that do not name another one.
 inline constexpr EffectPanelPlace kSharedPanel{13, "picEffectsSample", "lblEffectsSample"};
 
 // Returns the icon with the effect. `values` are those of the row's settings; the result has the size of `icon`.

@@ -7,7 +7,7 @@
 
 namespace gp {
 
-// Panels of a class of their own come first; those of settings follow from the table of effects.
+// Panels with their own class come first; panels of settings follow from the table of effects.
 Effects::Effects(const Context& context, Document& document, UndoHistory& history)
     : frame_(context, document, history) {
   panels_.push_back(std::make_unique<ConfinePanel>(frame_));

@@ -21,7 +21,7 @@ class Effects {
   // Runs Proceed of the panel of that number; does nothing when that is no panel of an effect.
   void proceed(int number);
 
-  // The panel of a class of its own.
+  // A panel that has its own class.
   template <class Panel>
   Panel& panel() const {
     return static_cast<Panel&>(*find(Panel::kNumber));

@@ -111,7 +111,7 @@ constexpr Command kCommands[] = {
     {"mnuRotateSubmenu", 2, "mnuRotate", "Rotate &Left 90 Degree", "", "rotate-left", needs::icon, Commits::No, nullptr, call<&Transforms::RotateLeft>},
     {"mnuRotateSubmenu", 3, "mnuRotate", "Rotate &Right 90 Degree", "", "rotate-right", needs::icon, Commits::No, nullptr, call<&Transforms::RotateRight>},
     {"mnuRotateSubmenu", 4, "mnuRotate", "Rotate At Any &Selected Angle ....", "", "", needs::icon, Commits::No, nullptr, call<&Transforms::rotateAtAnyAngle>},
-    // Effects; those with a side panel of their own come from the table of effects
+    // Effects; those with a side panel come from the table of effects
     {"mnuEffectsSub", 26, "mnuEffects", "Expand Si&ze", "", "", needs::always, Commits::No, nullptr, nullptr},
     {"mnuEffectsSub1", 0, "mnuEffectsSub(26)", "Expand To &24x24 ....", "", "", needs::icon, Commits::No, nullptr, nullptr},
     {"mnuEffectsSub1", 1, "mnuEffectsSub(26)", "Expand To &32x32 ....", "", "", needs::icon, Commits::No, nullptr, nullptr},

@@ -91,11 +91,11 @@ TEST_F(GpiconCheck, AWrongSizeInTheDirectoryIsReported) {
 }
 
 TEST_F(GpiconCheck, AHeaderWithoutTheMaskUpsideDownOrOddIsReported) {
-  for (const auto& [height, told] : {std::pair{32, "16"}, std::pair{-64, "-32"}, std::pair{65, "32.5"},
-                                     std::pair{0, "0"}, std::pair{-65, "-32.5"}}) {
+  for (const auto& [height, stated] : {std::pair{32, "16"}, std::pair{-64, "-32"}, std::pair{65, "32.5"},
+                                       std::pair{0, "0"}, std::pair{-65, "-32.5"}}) {
     Picture p = anyPicture(32, 4);
     p.headerHeight = height;
-    EXPECT_EQ(linesOf(p), "0\theight\t32\t" + std::string(told) + "\t-\n");
+    EXPECT_EQ(linesOf(p), "0\theight\t32\t" + std::string(stated) + "\t-\n");
   }
 }
 

@@ -66,7 +66,7 @@ TEST_F(ColorMixerTest, MovingASliderMixesItsColourAndChangesNotTheCurrentOne) {
   EXPECT_EQ(mixer.lblRGB(1), "10 / A");
   EXPECT_EQ(mixer.lblRGB(2), "255 / FF");
   EXPECT_EQ(state.mCurrentColor, 0x123456);
-  EXPECT_TRUE(display.told(DisplayPart::ColorPanel));
+  EXPECT_TRUE(display.hasChanged(DisplayPart::ColorPanel));
   EXPECT_EQ(pump.pumps, 2);
 }
 
@@ -291,7 +291,7 @@ TEST_F(ColorMixerTest, ASliderMovedDuringLightenIsSentBack) {
   pump.inside = [this] {
     display.parts.clear();
     mixer.moveSlider(0, 3);
-    EXPECT_TRUE(display.told(DisplayPart::ColorPanel));
+    EXPECT_TRUE(display.hasChanged(DisplayPart::ColorPanel));
   };
   mixer.cmdAdjMix(MixChange::Lighten);
   EXPECT_EQ(sliders(), (Triple{117, 117, 117}));

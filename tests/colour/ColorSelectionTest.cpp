@@ -10,7 +10,7 @@ TEST_F(ColorSelectionTest, AReleaseOnAChartSelectsItsColour) {
   EXPECT_EQ(state.mCurrentColor, 0x0000FF);
   colors.chartRelease(ChartKind::Chart256, 15.2, 2.9);
   EXPECT_EQ(state.mCurrentColor, 0x800000);
-  EXPECT_TRUE(display.told(DisplayPart::ColorPanel));
+  EXPECT_TRUE(display.hasChanged(DisplayPart::ColorPanel));
 }
 
 TEST_F(ColorSelectionTest, AReleaseBeyondTheLastColumnIsIgnored) {

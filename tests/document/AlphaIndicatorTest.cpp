@@ -36,7 +36,7 @@ TEST(AlphaIndicator, FlashesTwiceAndEndsShown) {
   EXPECT_EQ(pump.waits, (std::vector<int>{100, 100, 100, 100}));
   EXPECT_TRUE(state.screen.imgAlphaOnStatusPanel);
   EXPECT_EQ(state.screen.lblStatusPanel[4], "Alpha");
-  EXPECT_TRUE(display.told(DisplayPart::StatusBar));
+  EXPECT_TRUE(display.hasChanged(DisplayPart::StatusBar));
 }
 
 TEST(AlphaIndicator, StaysAwayFromAnIconWithoutAlphaThatCameUpMeanwhile) {
@@ -63,7 +63,7 @@ TEST(Hourglass, LastsAsLongAsTheOutermostGuard) {
     EXPECT_TRUE(state.screen.hourglass);
   }
   EXPECT_FALSE(state.screen.hourglass);
-  EXPECT_TRUE(display.told(DisplayPart::Pointer));
+  EXPECT_TRUE(display.hasChanged(DisplayPart::Pointer));
 }
 
 }  // namespace

@@ -151,7 +151,7 @@ TEST_F(IconArrivalTest, TheSurfacesShowTheIconPixelByPixel) {
   EXPECT_EQ(state.picDisp.GetPixel(15 * m + m / 2, m / 2), kBlack);
   EXPECT_EQ(state.picDisp.GetPixel(m / 2, 15 * m + m / 2), kWhite ^ kGround);
   EXPECT_EQ(state.picDisp.GetPixel(8 * m, 8 * m), kGround);
-  EXPECT_TRUE(display.told(DisplayPart::EditingArea));
+  EXPECT_TRUE(display.hasChanged(DisplayPart::EditingArea));
 }
 
 TEST_F(IconArrivalTest, EverySizeIsShownAtItsOwnMagnification) {
@@ -170,7 +170,7 @@ TEST_F(IconArrivalTest, TheContainerGetsItsOwnCopy) {
   EXPECT_TRUE(same(state.picPanelImage[5], drawnIcon().image));
   EXPECT_TRUE(same(state.picPanelMask[5], drawnIcon().mask));
   EXPECT_TRUE(same(state.picPanelIcon[5], state.PicIcon));
-  EXPECT_TRUE(display.told(DisplayPart::IconsPanel));
+  EXPECT_TRUE(display.hasChanged(DisplayPart::IconsPanel));
   state.picImage.fill(kBlue);
   EXPECT_EQ(state.picPanelImage[5].GetPixel(0, 0), kRed);
 }
@@ -183,7 +183,7 @@ TEST_F(IconArrivalTest, ToolsStatusBarAndCommandsFollow) {
   EXPECT_TRUE(state.screen.fraTools[1]);
   EXPECT_EQ(status(StatusPanel::Path), "Untitled");
   EXPECT_EQ(state.screen.progressPercent, -1);
-  EXPECT_TRUE(display.told(DisplayPart::StatusBar));
+  EXPECT_TRUE(display.hasChanged(DisplayPart::StatusBar));
 }
 
 TEST_F(IconArrivalTest, ViewsThatFollowTheCurrentIconAreNotifiedOnceItIsTheNewOne) {

@@ -277,7 +277,7 @@ TEST_P(Dragging, ASideIsPulledAndTheContentLiftedAgain) {
   EXPECT_EQ(regions.phase(), RegionPhase::Sizing);
   move(cells(4) + 20, cells(2));
   EXPECT_EQ(draw.region.x2, 68);
-  EXPECT_EQ(label(), "") << "no size is told while a side moves";
+  EXPECT_EQ(label(), "") << "no size is shown while a side moves";
   move(cells(6) + 7, cells(2));
   release(cells(6) + 7, cells(2));
   EXPECT_EQ(boxInPixels(), (Rows{"0,0", "5,3"}));

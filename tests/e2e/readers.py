@@ -93,8 +93,8 @@ def assertSame(got, wanted, who, path):
 def assertIcons(path, wanted):
     """Checks that every reader finds these entries, each (picture, bits), in this order."""
     sizes = [(len(picture[0]), len(picture), bits) for picture, bits in wanted]
-    told = [(entry.width, entry.height, entry.bits) for entry in icons.readEntries(path)]
-    assert told == sizes, f'the directory of {path} tells {told}, not {sizes}'
+    stated = [(entry.width, entry.height, entry.bits) for entry in icons.readEntries(path)]
+    assert stated == sizes, f'the directory of {path} states {stated}, not {sizes}'
     listed = listByIcotool(path)
     assert listed == [('icon', *size, None) for size in sizes], f'icotool lists {listed}'
     assert sizesByImageMagick(path, 'ico') == [size[:2] for size in sizes]

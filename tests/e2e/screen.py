@@ -1,4 +1,4 @@
-"""The X server of a test, asked over a connection of the test's own: which window takes keys, whether the programs have
+"""The X server of a test, over the test's own connection: which window has the focus, whether the programs have
 taken the events that were sent to them, and the colour of a point."""
 import select
 import time
@@ -27,26 +27,25 @@ class Screen:
         return list(found.value) if found else []
 
     def isFocusSettled(self):
-        """Whether the keys go to the window that the window manager has made the active one. They do not while it hands
-        the focus on."""
+        """True if the active window of the window manager has the focus. It does not while the focus moves."""
         active = self.property(self.root, '_NET_ACTIVE_WINDOW')
         focus = self.display.get_input_focus().focus
         return bool(active and active[0]) and getattr(focus, 'id', focus) == active[0]
 
-    def eldestWindows(self):
-        """For each program on the screen the window that it has longest."""
-        eldest = {}
+    def oldestWindows(self):
+        """The oldest window of each program on the screen."""
+        oldest = {}
         for number in self.property(self.root, '_NET_CLIENT_LIST'):
             owner = self.property(self.display.create_resource_object('window', number), '_NET_WM_PID')
             if owner:
-                eldest.setdefault(owner[0], number)
-        return list(eldest.values())
+                oldest.setdefault(owner[0], number)
+        return list(oldest.values())
 
     def settle(self):
         """Waits until every program on the screen has taken the events that were sent before: each answers a ping
         that was sent after them. A program that ends need not answer."""
         end = time.monotonic() + WAIT_SECONDS
-        while not self.isAnswered(self.eldestWindows()):
+        while not self.isAnswered(self.oldestWindows()):
             if time.monotonic() > end:
                 raise AssertionError('a program takes no events')
 

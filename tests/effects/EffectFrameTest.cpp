@@ -32,7 +32,7 @@ TEST_F(EffectFrameTest, EachColorCountsOnce) {
 
 TEST_F(EffectFrameTest, CountingShowsTheHourglassAndTakesItAwayAgain) {
   frame.countMaskColors(Surface(2, 2));
-  EXPECT_TRUE(display.told(DisplayPart::Pointer));
+  EXPECT_TRUE(display.hasChanged(DisplayPart::Pointer));
   EXPECT_FALSE(state.screen.hourglass);
 }
 

@@ -6,7 +6,7 @@
 fuzz_<kind>[_more] uses the seeds of its name and of its kind in tests/fuzz/seeds, tests/fuzz/<kind>.dict and the corpus
 folder <kind>.
 The mutations start from a fixed seed, so that failures can be reproduced. A target that has passed is not run again
-until it, its inputs or this script changes, because it would try the same inputs. Prints PASS or FAIL per target; the
+until it, its seeds or this script changes: the series of mutations would be the same. Prints PASS or FAIL per target; the
 last line counts them.
 """
 import concurrent.futures
@@ -48,7 +48,7 @@ def mark(program, name):
         for path in [folder] if os.path.isfile(folder) else sorted(glob.glob(os.path.join(folder, '**'), recursive=True)):
             if os.path.isfile(path):
                 with open(path, 'rb') as file:
-                    digest.update(path.encode() + b'\0' + file.read())
+                    digest.update(os.fsencode(path) + b'\0' + file.read())
     return os.path.join(os.path.dirname(program), 'passed', name + '-' + digest.hexdigest())
 
 

@@ -1,12 +1,7 @@
 // Every command in every state: whether it is enabled, what is said when it cannot run, and that menu, toolbar and
 // pop-up menu do the same.
-#include "document/EditState.h"
-#include "shell/CommandStates.h"
-#include "shell/LoggedPorts.h"
-#include "shell/ShellSnapshot.h"
+#include "shell/LoggedProgram.h"
 #include "support/FakeEditor.h"
-#include "support/FakeMachine.h"
-#include "support/ScriptedPorts.h"
 
 #include <gtest/gtest.h>
 #include <set>
@@ -15,50 +10,28 @@ namespace gp::test {
 namespace {
 
 // The program in one of the states.
-class World {
+class World : public LoggedProgram<RecordingDisplay> {
  public:
   explicit World(const CommandState& state) : name_(state.name) {
     shell.attach(&forms_, &forms_);
     shell.formLoad();
     shell.formActivate("");
-    StateMaker maker{shell, clipboard_, folder_};
-    state.make(maker);
+    make(state);
     log.clear();
   }
-  Snapshot snapshot() { return SnapshotMaker(shell, clipboard_, folder_).make(); }
   const std::string& name() const { return name_; }
-
-  Log log;  // boxes, dialogs and forms, in order
 
  private:
   const std::string name_;
-  KeptDirectory directory_;
-  TempFolder folder_;
-  LoggedBoxes boxes_{log};
-  CancelledDialogs dialogs_{log};
-  ScriptedPump pump_;
-  FakeSystem system_;
-  FakeProcesses processes_;
-  FakeClipboard clipboard_;
-  ScriptedPictures pictures_;
-  RecordingDisplay display_;
-  LoggedForms forms_{log};
-  EditState state_;
-
- public:
-  Shell shell{state_, Ports{boxes_, dialogs_, pump_, system_, processes_, clipboard_, pictures_}, display_,
-              folder_.path()};
 };
 
-std::string nameOf(const Command& row) { return objectNameOf(row.control, row.index); }
-
 TEST(CommandWalk, TheNeedsOfEveryCommandAreListedOnce) {
-  std::multiset<std::string> told, there;
+  std::multiset<std::string> listed, there;
   for (const CommandNeed& need : kCommandNeeds)
-    for (const int index : need.indices) told.insert(objectNameOf(need.control, index));
+    for (const int index : need.indices) listed.insert(objectNameOf(need.control, index));
   for (const Command& row : commandTable())
     if (row.run) there.insert(nameOf(row));
-  EXPECT_EQ(told, there);
+  EXPECT_EQ(listed, there);
 }
 
 TEST(CommandWalk, EachStateIsWhatItsFactsTell) {

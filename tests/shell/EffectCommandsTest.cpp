@@ -135,7 +135,7 @@ TEST_F(EffectCommandsTest, CloseWithoutAnIconDoesNotShowOne) {
   shell.cmdCancel();
   EXPECT_EQ(panel(), kColorPanel);
   EXPECT_EQ(display.repaints, 0);
-  EXPECT_FALSE(display.told(DisplayPart::EditingArea));
+  EXPECT_FALSE(display.hasChanged(DisplayPart::EditingArea));
 }
 
 // Changes of the icon under an open panel.
@@ -281,7 +281,7 @@ TEST_F(EffectCommandsTest, APanelThatComesUpTakesTheAnimatedCursorsPlace) {
   shell.showPanel(kReliefPanel);
   EXPECT_FALSE(state.screen.aniContainerVisible);
   EXPECT_EQ(status(StatusPanel::Path), state.current().path.trimmed());
-  EXPECT_TRUE(display.told(DisplayPart::Pointer));
+  EXPECT_TRUE(display.hasChanged(DisplayPart::Pointer));
   EXPECT_FALSE(state.screen.hourglass);
   // Only if no panel was open before.
   state.screen.aniContainerVisible = true;

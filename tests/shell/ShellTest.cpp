@@ -225,8 +225,8 @@ TEST_F(ShellTest, AFileThatFailsToLoadLeavesAnEmptyEditingAreaWithoutTools) {
   EXPECT_FALSE(state.screen.fraTools[1]);
   EXPECT_EQ(shell.selectedTool(), 0);
   for (const std::string& text : state.screen.lblStatusPanel) EXPECT_EQ(text, "");
-  EXPECT_TRUE(display.told(DisplayPart::EditingArea));
-  EXPECT_TRUE(display.told(DisplayPart::IconsPanel));
+  EXPECT_TRUE(display.hasChanged(DisplayPart::EditingArea));
+  EXPECT_TRUE(display.hasChanged(DisplayPart::IconsPanel));
 }
 
 TEST_F(ShellTest, AFailedDropOnAnotherContainerLeavesANewIconOnTheEditingArea) {

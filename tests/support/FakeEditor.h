@@ -28,7 +28,7 @@ class RecordingDisplay : public Display {
   void nudgeMousePointer() override { ++nudges; }
   void focusColorValue() override { ++colorValueFocuses; }
   int count(DisplayPart part) const { return static_cast<int>(std::count(parts.begin(), parts.end(), part)); }
-  bool told(DisplayPart part) const { return count(part) > 0; }
+  bool hasChanged(DisplayPart part) const { return count(part) > 0; }
 };
 
 class FakeEditor : public Editor {

@@ -3,12 +3,8 @@
 #include "document/ui/QtDisplay.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/PictureButton.h"
-#include "shell/CommandStates.h"
-#include "shell/LoggedPorts.h"
-#include "shell/ShellSnapshot.h"
+#include "shell/LoggedProgram.h"
 #include "shell/ui/frmGPEdit.h"
-#include "support/FakeMachine.h"
-#include "support/ScriptedPorts.h"
 
 #include <QAction>
 #include <QKeySequence>
@@ -21,7 +17,7 @@ namespace gp::test {
 namespace {
 
 // The program with its main form, in one of the states.
-class FormWorld {
+class FormWorld : public LoggedProgram<QtDisplay> {
  public:
   explicit FormWorld(const CommandState& state) {
     shell.formLoad();
@@ -29,12 +25,10 @@ class FormWorld {
     EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
     settle();
     shell.attach(form_.get(), &forms_);
-    StateMaker maker{shell, clipboard_, folder_};
-    state.make(maker);
+    make(state);
     settle();
     log.clear();
   }
-  Snapshot snapshot() { return SnapshotMaker(shell, clipboard_, folder_).make(); }
   void settle() { QTest::qWait(1); }
 
   QAction* action(const Command& row) { return found<QAction>(toText(objectNameOf(row.control, row.index))); }
@@ -46,8 +40,6 @@ class FormWorld {
     settle();
   }
 
-  Log log;  // boxes, dialogs and forms, in order
-
  private:
   template <class Object>
   Object* found(const QString& name) {
@@ -56,28 +48,9 @@ class FormWorld {
     return object;
   }
 
-  KeptDirectory directory_;
-  TempFolder folder_;
-  LoggedBoxes boxes_{log};
-  CancelledDialogs dialogs_{log};
-  ScriptedPump pump_;
-  FakeSystem system_;
-  FakeProcesses processes_;
-  FakeClipboard clipboard_;
-  ScriptedPictures pictures_;
-  LoggedForms forms_{log};
-  EditState state_;
-  QtDisplay display_;
-
- public:
-  Shell shell{state_, Ports{boxes_, dialogs_, pump_, system_, processes_, clipboard_, pictures_}, display_,
-              folder_.path()};
-
- private:
   std::unique_ptr<frmGPEdit> form_ = std::make_unique<frmGPEdit>(shell, display_, "");
 };
 
-std::string nameOf(const Command& row) { return objectNameOf(row.control, row.index); }
 bool canRun(const Command& row, const Facts& facts) { return row.run && !refusalOf(row, facts); }
 
 class CommandRoads : public testing::TestWithParam<CommandState> {

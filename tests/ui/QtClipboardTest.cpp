@@ -254,28 +254,28 @@ TEST_F(QtClipboardTest, ClearLeavesNothing) {
 }
 
 TEST_F(QtClipboardTest, EachChangeIsReportedAndSeen) {
-  int told = 0;
+  int changes = 0;
   bool hadImage = false;
-  clipboard.onChange = [&] { ++told, hadImage = clipboard.hasImage(); };
+  clipboard.onChange = [&] { ++changes, hadImage = clipboard.hasImage(); };
   offer({{"image/png", encoded(sampleImage(16, 16), "png")}});
-  EXPECT_EQ(told, 1);
+  EXPECT_EQ(changes, 1);
   EXPECT_TRUE(hadImage);
   system().setText("text");
-  EXPECT_EQ(told, 2);
+  EXPECT_EQ(changes, 2);
   EXPECT_FALSE(hadImage);
   clipboard.setImage(Surface(16, 16));
-  EXPECT_EQ(told, 3);
+  EXPECT_EQ(changes, 3);
   EXPECT_TRUE(hadImage);
 }
 
 TEST_F(QtClipboardTest, AClipboardThatHasGoneIsToldNothing) {
-  int told = 0;
+  int changes = 0;
   {
     QtClipboard gone;
-    gone.onChange = [&told] { ++told; };
+    gone.onChange = [&changes] { ++changes; };
   }
   system().setText("later");
-  EXPECT_EQ(told, 0);
+  EXPECT_EQ(changes, 0);
 }
 
 }  // namespace

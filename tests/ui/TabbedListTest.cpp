@@ -40,7 +40,7 @@ class TabbedListTest : public testing::Test {
     while (whole < units * average / 4) ++whole;
     return whole;
   }
-  std::vector<int> told() const {
+  std::vector<int> chosen() const {
     std::vector<int> items;
     for (const auto& signal : spy) items.push_back(signal.first().toInt());
     return items;
@@ -125,7 +125,7 @@ TEST_F(TabbedListTest, AClickChoosesOnce) {
   clickItem(2);
   clickItem(2);
   QApplication::processEvents();
-  EXPECT_EQ(told(), std::vector<int>{2});
+  EXPECT_EQ(chosen(), std::vector<int>{2});
   EXPECT_EQ(list.selected(), 2);
 }
 
@@ -143,7 +143,7 @@ TEST_F(TabbedListTest, KeysMoveAndChoose) {
   list.setSelected(0);
   for (const Qt::Key code : {Qt::Key_Down, Qt::Key_End, Qt::Key_Up, Qt::Key_Home, Qt::Key_Home}) key(code);
   QApplication::processEvents();
-  EXPECT_EQ(told(), (std::vector<int>{1, 39, 38, 0}));
+  EXPECT_EQ(chosen(), (std::vector<int>{1, 39, 38, 0}));
   key(Qt::Key_PageDown);
   EXPECT_GT(list.selected(), 1);
   key(Qt::Key_PageUp);
@@ -155,7 +155,7 @@ TEST_F(TabbedListTest, TheFirstKeyAfterNothingChoosesTheFirstItem) {
   list.clearFocus();
   list.setFocus(Qt::TabFocusReason);
   key(Qt::Key_Down);
-  EXPECT_EQ(told(), std::vector<int>{0});
+  EXPECT_EQ(chosen(), std::vector<int>{0});
 }
 
 TEST_F(TabbedListTest, TheProgramMayGoBackToTheFormerItemDuringTheNotification) {
@@ -165,7 +165,7 @@ TEST_F(TabbedListTest, TheProgramMayGoBackToTheFormerItemDuringTheNotification) 
   key(Qt::Key_Down);
   clickItem(2);
   QApplication::processEvents();
-  EXPECT_EQ(told(), (std::vector<int>{1, 2}));
+  EXPECT_EQ(chosen(), (std::vector<int>{1, 2}));
   EXPECT_EQ(list.selected(), 0);
   EXPECT_EQ(list.currentRow(), 0);
   QObject::disconnect(back);
@@ -178,7 +178,7 @@ TEST_F(TabbedListTest, AssistiveTechnologyCanChoose) {
   list.setSelected(0);
   list.selectionModel()->setCurrentIndex(list.model()->index(2, 0), QItemSelectionModel::ClearAndSelect);
   QApplication::processEvents();
-  EXPECT_EQ(told(), std::vector<int>{2});
+  EXPECT_EQ(chosen(), std::vector<int>{2});
 }
 
 TEST_F(TabbedListTest, AListForReadingSelectsNothing) {

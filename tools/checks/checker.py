@@ -97,7 +97,7 @@ def complaints(rule, files):
 
 def tidyProblem(header, first, second, places):
     """What is wrong with what the tool finds in two sources, empty if nothing."""
-    # Of as many sources as there are processors each begins a batch of its own, and the next one goes behind the first.
+    # Each processor has a batch. With one more source than processors, first.cpp and second.cpp share a batch.
     others = {f'src/platform/other{number:04}.cpp': f'int f{number}();' for number in range(processors() - 1)}
     found = complaints(tidy.check, {'.clang-tidy': TIDY_SETTINGS, 'src/platform/A.h': header, **others,
                                     'src/platform/first.cpp': first, 'src/platform/second.cpp': second})

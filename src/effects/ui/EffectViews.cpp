@@ -22,7 +22,7 @@ constexpr ViewRow kRowOf{Panel::kNumber, [](QWidget* parent, const Effects& effe
                            return new View(parent, effects.panel<Panel>());
                          }};
 
-// Panels of a class of their own.
+// Panels that have their own class.
 constexpr std::array kViews{kRowOf<ConfinePanelView, ConfinePanel>};
 
 }  // namespace

@@ -54,8 +54,8 @@ int sideOf(int byte) { return byte == 0 ? kLargestSide : byte; }
 bool hasAlphaBytes(ImageBytes image, const HeaderFacts& facts) {
   if (facts.bits != kBitsWithAlpha || image.size() <= ico::kBitmapHeaderSize) return false;
   const ImageBytes rows = image.subspan(ico::kBitmapHeaderSize);
-  const std::size_t told = static_cast<std::size_t>(sideOf(facts.width)) * sideOf(facts.height);
-  const std::size_t pixels = std::min(told, rows.size() / kPixelBytes);
+  const std::size_t stated = static_cast<std::size_t>(sideOf(facts.width)) * sideOf(facts.height);
+  const std::size_t pixels = std::min(stated, rows.size() / kPixelBytes);
   for (std::size_t i = 0; i < pixels; ++i)
     if (rows[i * kPixelBytes + kAlphaByte] != 0) return true;
   return false;

@@ -8,12 +8,12 @@ namespace gp {
 namespace {
 
 void setImage(IconArrays& arrays, int index, NewImage image) {
-  const IconEntry& told = image.entry;
+  const IconEntry& source = image.entry;
   IconEntry& entry = arrays.entries.at(static_cast<std::size_t>(index));
-  entry.width = told.width;
-  entry.height = told.height;
-  entry.colorCount = told.colorCount;
-  entry.bitCount = told.bitCount;
+  entry.width = source.width;
+  entry.height = source.height;
+  entry.colorCount = source.colorCount;
+  entry.bitCount = source.bitCount;
   entry.bytesInRes = static_cast<std::uint32_t>(image.bytes.size());
   arrays.images.at(static_cast<std::size_t>(index)) = arrays.added.emplace_back(std::move(image.bytes));
 }

@@ -1,4 +1,4 @@
-// Saves one entry of an icon file as a file of its own. The image is copied without decoding, so entries that the
+// Saves one entry of an icon file as a separate file. The image is copied without decoding, so entries that the
 // editor cannot show can be saved too.
 #pragma once
 

@@ -110,13 +110,13 @@ TEST(IconSalvage, EntriesWithoutABitmapHeaderStayAsTheyAre) {
   IconArrays arrays = arraysOf({entryOfImage(kPng, 48, 48, 32), entryOfImage({1, 2, 3}, 16, 24, 4),
                                 entryOfImage({}, 24, 16, 8), entryOfImage(header(32, 64, 8), 16, 16, 4)});
   salvageEntries(arrays);
-  const auto told = [&](std::size_t i) {
+  const auto statedSize = [&](std::size_t i) {
     return std::vector<int>{arrays.entries[i].width, arrays.entries[i].height, arrays.entries[i].bitCount};
   };
-  EXPECT_EQ(told(0), (std::vector<int>{48, 48, 32}));
-  EXPECT_EQ(told(1), (std::vector<int>{16, 24, 4}));
-  EXPECT_EQ(told(2), (std::vector<int>{24, 16, 8}));
-  EXPECT_EQ(told(3), (std::vector<int>{32, 32, 8}));
+  EXPECT_EQ(statedSize(0), (std::vector<int>{48, 48, 32}));
+  EXPECT_EQ(statedSize(1), (std::vector<int>{16, 24, 4}));
+  EXPECT_EQ(statedSize(2), (std::vector<int>{24, 16, 8}));
+  EXPECT_EQ(statedSize(3), (std::vector<int>{32, 32, 8}));
 }
 
 TEST(IconSalvage, AnEntryAbove128RefusesTheWholeFileWhateverItsHeaderSays) {
