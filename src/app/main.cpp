@@ -1,7 +1,8 @@
 // The desktop program: creates the ports, the shell and the main form.
 #include "document/EditState.h"
 #include "document/ui/QtDisplay.h"
-#include "platform/files/Files.h"
+#include "platform/files/FileWriting.h"
+#include "platform/files/ProgramFolders.h"
 #include "platform/qt/Accessibility.h"
 #include "platform/qt/ProgramStyle.h"
 #include "platform/qt/QtClipboard.h"
@@ -36,15 +37,15 @@ int run(QApplication& application, const std::string& commandLine) {
   gp::QtProcesses processes;
   gp::QtClipboard clipboard;
   gp::QtPictureLoader pictures;
-  const std::string folder = gp::programFolder();
+  const gp::ProgramFolders folders = gp::programFolders();
 
   gp::EditState state;
-  if (!gp::runStartUpChecks(system, processes, boxes, state, folder)) return 0;
+  if (!gp::runStartUpChecks(system, processes, boxes, state, folders.settings)) return 0;
 
   gp::frmGPAbout startUpPicture;
   startUpPicture.showAtStart();
   gp::QtDisplay display;
-  gp::Shell shell(state, {boxes, dialogs, pump, system, processes, clipboard, pictures}, display, folder);
+  gp::Shell shell(state, {boxes, dialogs, pump, system, processes, clipboard, pictures}, display, folders);
   gp::frmGPEdit form(shell, display, commandLine);
   clipboard.onChange = [&shell] { shell.UpdateCommands(); };
   shell.formLoad();
@@ -56,6 +57,7 @@ int run(QApplication& application, const std::string& commandLine) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  gp::ignoreWriteSignals();
   // The menu bar is part of the form on every desktop; querying for a native one costs a round trip at start-up.
   QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   QApplication application(argc, argv);

@@ -17,8 +17,8 @@ std::optional<IconFile> openWholeFile(const std::string& path) {
 
 void print(const std::string& path, const Discrepancy& discrepancy) {
   const std::string index = discrepancy.index < 0 ? kNothingTold : std::to_string(discrepancy.index);
-  std::printf("%s\t%s\t%s\t%s\t%s\t%s\n", path.c_str(), index.c_str(), discrepancy.what, discrepancy.directory.c_str(),
-              discrepancy.header.c_str(), discrepancy.pixels.c_str());
+  std::printf("%s\t%s\t%s\t%s\t%s\t%s\n", printable(path).c_str(), index.c_str(), discrepancy.what,
+              discrepancy.directory.c_str(), discrepancy.header.c_str(), discrepancy.pixels.c_str());
 }
 
 bool checkFile(const std::string& path) {

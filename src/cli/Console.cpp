@@ -9,6 +9,16 @@ namespace {
 
 bool isBlank(char c) { return c == ' ' || c == '\n'; }
 
+// In UTF-8 the control characters from 0x80 up are two bytes, the first of them 0xC2.
+bool isControl(unsigned char before, unsigned char byte) {
+  return byte < 0x20 || byte == 0x7F || (before == 0xC2 && byte < 0xA0);
+}
+
+std::string escaped(unsigned char byte) {
+  static constexpr char kDigits[] = "0123456789ABCDEF";
+  return {'\\', 'x', kDigits[byte >> 4], kDigits[byte & 15]};
+}
+
 std::string oneLine(std::string_view text) {
   std::string line;
   for (auto at = text.begin(); at != text.end();) {
@@ -25,12 +35,23 @@ std::string oneLine(std::string_view text) {
 
 }  // namespace
 
+std::string printable(std::string_view text) {
+  std::string line;
+  unsigned char before = 0;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    line += isControl(before, byte) ? escaped(byte) : std::string(1, c);
+    before = byte;
+  }
+  return line;
+}
+
 void complain(const std::string& file, const std::string& reason) {
-  std::fprintf(stderr, "gpicon: %s: %s\n", file.c_str(), oneLine(reason).c_str());
+  std::fprintf(stderr, "gpicon: %s: %s\n", printable(file).c_str(), printable(oneLine(reason)).c_str());
 }
 
 int badUsage(const std::string& text) {
-  std::fprintf(stderr, "gpicon: %s (see gpicon --help)\n", text.c_str());
+  std::fprintf(stderr, "gpicon: %s (see gpicon --help)\n", printable(text).c_str());
   return kBadUsage;
 }
 

@@ -12,6 +12,8 @@ enum ExitStatus { kDone = 0, kRefused = 1, kBadUsage = 2 };
 
 using Arguments = std::vector<std::string>;
 
+// The text with control characters written as "\x0A", so that one line stays one line.
+std::string printable(std::string_view text);
 // Prints "gpicon: FILE: REASON" on stderr. Line breaks of a message box become single blanks.
 void complain(const std::string& file, const std::string& reason);
 // Prints "gpicon: TEXT" and a hint to the help on stderr; returns kBadUsage.

@@ -43,9 +43,9 @@ ImageRow rowOf(const IconFile& file, int index) {
 }
 
 void printText(const std::string& path, const ImageRow& row) {
-  std::printf("%s\t%d\t%dx%d\t%d\t%d\t%d\t%d\t%u\t%u\t%s\t%s", path.c_str(), row.index, row.width, row.height,
-              row.directory.colors, row.directory.bits, row.header.colors, row.header.bits, row.bytes, row.offset,
-              row.encoding, row.usable ? "usable" : "unusable");
+  std::printf("%s\t%d\t%dx%d\t%d\t%d\t%d\t%d\t%u\t%u\t%s\t%s", printable(path).c_str(), row.index, row.width,
+              row.height, row.directory.colors, row.directory.bits, row.header.colors, row.header.bits, row.bytes,
+              row.offset, row.encoding, row.usable ? "usable" : "unusable");
   if (row.hasHotspot) std::printf("\t%d\t%d", row.hotspotX, row.hotspotY);
   std::putchar('\n');
 }

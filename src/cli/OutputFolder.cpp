@@ -1,5 +1,6 @@
 #include "cli/OutputFolder.h"
 
+#include "platform/files/FileWriting.h"
 #include "platform/files/Files.h"
 
 #include <filesystem>
@@ -13,7 +14,38 @@ bool makeFolder(const std::string& folder) {
   return directoryExists(folder);
 }
 
+bool takeFlag(Arguments& options, const char* flag) { return std::erase(options, flag) != 0; }
+
+// A number of megabytes. Every file takes at least a byte, so the bound of bytes is enough.
+bool parseBounds(const std::string& text, OutputBounds& bounds) {
+  int megabytes = 0;
+  if (!parseNumber(text, megabytes) || megabytes == 0) return false;
+  bounds.bytes = static_cast<std::uint64_t>(megabytes) << 20;
+  bounds.files = bounds.bytes;
+  return true;
+}
+
+const char* reasonOf(WriteDefect defect) {
+  return defect == WriteDefect::AlreadyThere ? "already there, and not replaced" : "cannot be written";
+}
+
 }  // namespace
+
+bool OutputFolder::write(const std::string& name, std::span<const std::uint8_t> bytes) {
+  const std::string path = folder_ + "/" + name;
+  if (!hasRoomFor(1, bytes.size())) {
+    complain(path, kTooMuch);
+    return false;
+  }
+  const WriteDefect defect = writeInto(folder_, name, bytes, replaces_ ? ExistingFile::Replace : ExistingFile::Keep);
+  if (defect != WriteDefect::None) {
+    complain(path, reasonOf(defect));
+    return false;
+  }
+  --left_.files;
+  left_.bytes -= bytes.size();
+  return true;
+}
 
 std::string OutputNames::nameFor(const std::string& bare) {
   int& number = last_[bare];
@@ -29,7 +61,11 @@ std::string stemOf(const std::string& path) { return std::filesystem::path(path)
 int takeFolderArguments(const std::string& command, Arguments arguments, FolderArguments& given) {
   if (!takeOption(arguments, "-d", given.folder) || given.folder.empty())
     return badUsage(command + ": one -d DIR is needed");
-  const Split split = splitOptions(arguments);
+  std::string size;
+  if (!takeOption(arguments, "--max-size", size) || (!size.empty() && !parseBounds(size, given.bounds)))
+    return badUsage(command + ": --max-size takes a number of megabytes");
+  Split split = splitOptions(arguments);
+  given.replaces = takeFlag(split.options, "--force");
   if (!split.options.empty()) return badUsage(command + ": unknown option " + split.options.front());
   if (split.files.empty()) return badUsage(command + ": no file given");
   given.files = split.files;

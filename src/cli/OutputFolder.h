@@ -3,8 +3,10 @@
 
 #include "cli/Console.h"
 
+#include <cstdint>
 #include <map>
 #include <set>
+#include <span>
 #include <string>
 
 namespace gp::cli {
@@ -24,11 +26,40 @@ class OutputNames {
 // The file name in a path, without extension.
 std::string stemOf(const std::string& path);
 
-// The parsed arguments "FILE... -d DIR".
+// What one call may write.
+struct OutputBounds {
+  std::uint64_t bytes = std::uint64_t{256} << 20;
+  std::uint64_t files = 100'000;
+};
+
+// The parsed arguments "FILE... -d DIR [--force] [--max-size MB]".
 struct FolderArguments {
   Arguments files;
   std::string folder;
+  bool replaces = false;  // existing files
+  OutputBounds bounds;
 };
+
+inline constexpr const char* kTooMuch = "more than one call may write (see --max-size)";
+
+// Writes the files of one call. Nothing outside the folder is touched, whatever another person put there.
+class OutputFolder {
+ public:
+  explicit OutputFolder(const FolderArguments& given)
+      : folder_(given.folder), left_(given.bounds), replaces_(given.replaces) {}
+
+  bool hasRoomFor(std::uint64_t files, std::uint64_t bytes) const {
+    return files <= left_.files && bytes <= left_.bytes;
+  }
+  // False, after an error message, when the file cannot be written, may not be replaced, or exceeds the bounds.
+  [[nodiscard]] bool write(const std::string& name, std::span<const std::uint8_t> bytes);
+
+ private:
+  std::string folder_;
+  OutputBounds left_;
+  bool replaces_;
+};
+
 // Parses the arguments and creates the folder if necessary. Returns kDone, or another exit status after an error
 // message.
 int takeFolderArguments(const std::string& command, Arguments arguments, FolderArguments& given);

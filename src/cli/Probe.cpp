@@ -19,7 +19,7 @@ bool probeFile(const std::string& path) {
     complain(path, describe(IconDefect::NotReadable));
     return false;
   }
-  std::printf("%s\t%s\n", path.c_str(), numbersOf(*file).c_str());
+  std::printf("%s\t%s\n", printable(path).c_str(), numbersOf(*file).c_str());
   return true;
 }
 

@@ -26,6 +26,8 @@ bool isNew(const IconArrays& arrays, const NewIcon& icon, int except, const std:
 
 bool replaceIn(const std::string& path, int index, NewIcon icon, const std::string& output) {
   if (!FileExists(path)) return refuse(path, kFileGone);
+  const auto lock = lockForUpdate(path);
+  if (!lock) return false;
   IconArrays arrays;
   if (readIconArrays(path, ReservedField::MustBeZero, arrays) != ArraysDefect::None)
     return refuse(path, kReplaceNotRead);
@@ -50,8 +52,9 @@ bool readForAdding(const std::string& path, IconArrays& arrays) {
 }
 
 bool addTo(const std::string& path, const NewIcon& icon, const Place& place, const std::string& output) {
+  const auto lock = lockForUpdate(path);
   IconArrays arrays;
-  if (!readForAdding(path, arrays) || !isNew(arrays, icon, -1, path, SaveInto::Add)) return false;
+  if (!lock || !readForAdding(path, arrays) || !isNew(arrays, icon, -1, path, SaveInto::Add)) return false;
   const int index = place.isGiven ? place.ref - 1 : arrays.count();
   if (index < 0 || index > arrays.count()) return refuse(path, addNoPositionText(path));
   insertImage(arrays, index, icon.image);

@@ -28,8 +28,9 @@ int writeOrRefuse(IconArrays& arrays, const std::string& path, const std::string
 }
 
 int removeFrom(const std::string& path, int index, const std::string& output) {
+  const auto lock = lockForUpdate(path);
   IconArrays arrays;
-  if (!readForUpdate(path, arrays)) return kRefused;
+  if (!lock || !readForUpdate(path, arrays)) return kRefused;
   if (arrays.count() == 1) return refuse(path, kRemoveLastIcon);
   if (index >= arrays.count()) return refuse(path, describe(IconDefect::NoSuchEntry));
   removeImage(arrays, index);
@@ -57,8 +58,9 @@ bool holdsEachOnce(std::vector<int> order, int count) {
 }
 
 int reorderIn(const std::string& path, const std::vector<int>& order, const std::string& output) {
+  const auto lock = lockForUpdate(path);
   IconArrays arrays;
-  if (!readForUpdate(path, arrays)) return kRefused;
+  if (!lock || !readForUpdate(path, arrays)) return kRefused;
   if (arrays.count() == 1) return refuse(path, kRepositionSingleIcon);
   if (!holdsEachOnce(order, arrays.count())) return refuse(path, kNotEachOnce);
   if (std::ranges::is_sorted(order)) return refuse(path, kRepositionNoChange);

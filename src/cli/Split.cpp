@@ -13,9 +13,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Entries may share bytes, so that a small file could expand to more than a disk holds. No real file is this large.
-constexpr std::uint64_t kMostBytes = std::uint64_t{256} << 20;
-
 // An input file in the output folder must not be overwritten: its name is reserved.
 void keepOffInputs(const FolderArguments& given, OutputNames& names) {
   std::map<fs::path, bool> isOutput;
@@ -47,24 +44,21 @@ IconArrays takeWholeImages(IconFile file) {
   return arrays;
 }
 
-bool isOfSensibleSize(const IconArrays& arrays) {
-  std::uint64_t size = 0;
-  for (const ImageBytes image : arrays.images) size += image.size();
-  return size <= kMostBytes;
-}
-
 std::string nameOf(const std::string& stem, const IconEntry& entry) {
   return stem + "_" + std::to_string(sideOf(entry.height)) + "_" + colorsInFileName(depthOfEntry(entry));
 }
 
-bool saveEntries(const IconArrays& arrays, const std::string& path, const std::string& folder, OutputNames& names) {
+// The folder that the entries of all files go to, and the names that are taken in it.
+struct Output {
+  OutputFolder folder;
+  OutputNames names;
+};
+
+bool saveEntries(const IconArrays& arrays, const std::string& path, Output& output) {
   const std::string stem = stemOf(path);
   for (int i = 0; i < arrays.count(); ++i) {
-    const std::string name = names.nameFor(nameOf(stem, arrays.entries[static_cast<std::size_t>(i)]));
-    const std::string output = folder + "/" + name + ".ico";
-    if (saveEntryToSingleFile(arrays, i, output)) continue;
-    complain(path, output + " cannot be written");
-    return false;
+    const std::string name = output.names.nameFor(nameOf(stem, arrays.entries[static_cast<std::size_t>(i)]));
+    if (!output.folder.write(name + ".ico", composeSingleEntryFile(arrays, i))) return false;
   }
   return true;
 }
@@ -74,13 +68,13 @@ bool refuse(const std::string& path, const std::string& reason) {
   return false;
 }
 
-bool splitFile(const std::string& path, const std::string& folder, OutputNames& names) {
+bool splitFile(const std::string& path, Output& output) {
   auto file = readWholeIconFile(path);
   if (!file) return refuse(path, describe(IconDefect::NotReadable));
   if (!file->isIcon() || file->directory.presentCount() == 0) return refuse(path, describe(IconDefect::NotAnIcon));
   const IconArrays arrays = takeWholeImages(std::move(*file));
-  if (!isOfSensibleSize(arrays)) return refuse(path, "its images share bytes, and come to more than 256 MB");
-  if (!saveEntries(arrays, path, folder, names)) return false;
+  if (!output.folder.hasRoomFor(arrays.images.size(), totalSize(arrays.images))) return refuse(path, kTooMuch);
+  if (!saveEntries(arrays, path, output)) return false;
   const int count = arrays.file.directory.count;
   const int lacking = count - arrays.count();
   return lacking == 0 || refuse(path, std::to_string(lacking) + " of its " + std::to_string(count) +
@@ -92,11 +86,11 @@ bool splitFile(const std::string& path, const std::string& folder, OutputNames& 
 int runSplit(const Arguments& arguments) {
   FolderArguments given;
   if (const int status = takeFolderArguments("split", arguments, given); status != kDone) return status;
-  OutputNames names;
-  keepOffInputs(given, names);
+  Output output{.folder = OutputFolder(given), .names = {}};
+  keepOffInputs(given, output.names);
   int status = kDone;
   for (const std::string& path : given.files)
-    if (!splitFile(path, given.folder, names)) status = kRefused;
+    if (!splitFile(path, output)) status = kRefused;
   return status;
 }
 

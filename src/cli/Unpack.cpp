@@ -18,7 +18,7 @@ class Netpbm {
     bytes_.assign(header.begin(), header.end());
   }
   void add(int sample) { bytes_.push_back(static_cast<std::uint8_t>(sample)); }
-  bool writeTo(const std::string& path) const { return replaceFile(path, bytes_); }
+  std::span<const std::uint8_t> bytes() const { return bytes_; }
 
  private:
   std::vector<std::uint8_t> bytes_;
@@ -49,26 +49,24 @@ Netpbm alphaFile(const AlphaMatrix& alpha) {
   return file;
 }
 
-// Decodes one image as the editor does and writes its files. False when one cannot be written.
-bool unpackImage(const IconFile& file, int index, const std::string& prefix) {
+// Decodes one image as the editor does and writes its files. False, after an error message, when one cannot be written.
+bool unpackImage(const IconFile& file, int index, const std::string& name, OutputFolder& folder) {
   const auto decoded = decodeImage(file, index);
   if (!decoded) return false;
-  const std::string start = prefix + "_" + std::to_string(index);
-  return imageFile(decoded->icon.image).writeTo(start + ".image.ppm") &&
-         maskFile(decoded->icon.mask).writeTo(start + ".mask.pgm") &&
-         (!decoded->hasAlpha || alphaFile(decoded->icon.alpha).writeTo(start + ".alpha.pgm"));
+  const std::string start = name + "_" + std::to_string(index);
+  return folder.write(start + ".image.ppm", imageFile(decoded->icon.image).bytes()) &&
+         folder.write(start + ".mask.pgm", maskFile(decoded->icon.mask).bytes()) &&
+         (!decoded->hasAlpha || folder.write(start + ".alpha.pgm", alphaFile(decoded->icon.alpha).bytes()));
 }
 
-bool unpackFile(const std::string& path, const std::string& prefix) {
+bool unpackFile(const std::string& path, const std::string& name, OutputFolder& folder) {
   const auto file = openImageFile(path);
   if (!file) return false;
   int unpacked = 0;
   for (int i = 0; i < file->directory.presentCount(); ++i) {
     if (!isUsableImage(*file, i)) continue;
     ++unpacked;
-    if (unpackImage(*file, i, prefix)) continue;
-    complain(path, "image " + std::to_string(i) + " cannot be written to " + prefix);
-    return false;
+    if (!unpackImage(*file, i, name, folder)) return false;
   }
   if (unpacked == 0) complain(path, "no usable image");
   return unpacked != 0;
@@ -80,9 +78,10 @@ int runUnpack(const Arguments& arguments) {
   FolderArguments given;
   if (const int status = takeFolderArguments("unpack", arguments, given); status != kDone) return status;
   OutputNames names;
+  OutputFolder folder(given);
   int status = kDone;
   for (const std::string& path : given.files)
-    if (!unpackFile(path, given.folder + "/" + names.nameFor(stemOf(path)))) status = kRefused;
+    if (!unpackFile(path, names.nameFor(stemOf(path)), folder)) status = kRefused;
   return status;
 }
 

@@ -7,7 +7,10 @@
 namespace gp::cli {
 namespace {
 
+constexpr std::chrono::seconds kLongestWait{30};
+constexpr const char* kInUse = "being updated by another program";
 constexpr const char* kNotOrdinary = "not an ordinary file, and not written over";
+constexpr const char* kChanged = "changed by another program meanwhile, and not written";
 constexpr const char* kShorterThanTold = "shorter than its directory says";
 
 const char* describeUnread(ArraysDefect defect) {
@@ -43,6 +46,12 @@ std::optional<UpdateArguments> parseUpdate(const std::string& command, Arguments
   return given;
 }
 
+std::optional<FileLock> lockForUpdate(const std::string& path) {
+  auto lock = FileLock::take(path, kLongestWait);
+  if (!lock) complain(path, kInUse);
+  return lock;
+}
+
 bool readForUpdate(const std::string& path, IconArrays& arrays) {
   const ArraysDefect defect = readIconArrays(path, ReservedField::Any, arrays);
   if (defect == ArraysDefect::None) return true;
@@ -60,10 +69,9 @@ bool writeUpdate(IconArrays& arrays, const std::string& path, const std::string&
     complain(target, kNotOrdinary);
     return false;
   }
-  const auto there = output.empty() ? std::nullopt : readFile(output);
-  const auto former = there ? there->span() : output.empty() ? arrays.file.span() : std::span<const std::uint8_t>{};
-  if (writeWholeFile(arrays, target, former)) return true;
-  complain(target, failure);
+  const WriteDefect defect = output.empty() ? writeBack(arrays, path) : writeWholeFile(arrays, output);
+  if (defect == WriteDefect::None) return true;
+  complain(target, defect == WriteDefect::Changed ? kChanged : failure);
   return false;
 }
 

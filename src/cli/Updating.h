@@ -4,6 +4,7 @@
 
 #include "cli/Console.h"
 #include "files/format/IconArrays.h"
+#include "platform/files/FileLock.h"
 
 #include <optional>
 #include <string>
@@ -19,6 +20,10 @@ struct UpdateArguments {
 enum class PositionOption { None, At };
 // Empty, after an error message, for an unknown option, one that occurs twice and one without its value.
 std::optional<UpdateArguments> parseUpdate(const std::string& command, Arguments arguments, PositionOption position);
+
+// Waits until no other call updates the file, and keeps others waiting as long as the result lives. Empty, after an
+// error message, when that takes too long.
+std::optional<FileLock> lockForUpdate(const std::string& path);
 
 // Reads a file as the browser does. False, after an error message, when it cannot be read, is not an icon file, or is
 // shorter than its directory states.

@@ -1,6 +1,7 @@
 // gpicon: inspects and changes icon files on the command line, with Glimmerpane's core.
 #include "cli/EffectOptions.h"
 #include "cli/Subcommands.h"
+#include "platform/files/FileWriting.h"
 
 #include <algorithm>
 #include <array>
@@ -60,20 +61,23 @@ constexpr std::array<Subcommand, 14> kSubcommands{{
      "  count          more entries told than the file holds (index \"-\")\n"
      "Old icons that tell colors but no bits are healthy. Exit status 1 if there is any.",
      runCheck},
-    {"unpack", "unpack FILE... -d DIR",
+    {"unpack", "unpack FILE... -d DIR [--force] [--max-size MB]",
      "Writes for every usable image NAME_INDEX.image.ppm, NAME_INDEX.mask.pgm (255\n"
      "transparent) and, with 32 bits, NAME_INDEX.alpha.pgm, as the editor shows them.\n"
      "NAME is the file's name without folder and extension; when two files share it,\n"
-     "the later ones become NAME-2, NAME-3 and so on. DIR is made if it is not there.",
+     "the later ones become NAME-2, NAME-3 and so on. DIR is made if it is not there.\n"
+     "Files that are there already are kept and complained of; --force replaces them,\n"
+     "but never links and files with several names. One call writes 256 MB and 100000\n"
+     "files at most, or as much as --max-size says.",
      runUnpack},
-    {"split", "split FILE... -d DIR",
+    {"split", "split FILE... -d DIR [--force] [--max-size MB]",
      "Writes every image of every size, PNG pictures too, as a single-icon file with\n"
      "the image's bytes as they are: NAME_SIZE_COLOR.ico, where SIZE is the height and\n"
      "COLOR the colors, or the bits and \"bpp\" for true color, by the directory:\n"
      "NAME_32_256.ico, NAME_48_32bpp.ico. No two of one call get the same name: the\n"
      "later ones become NAME_32_256-2.ico and so on, and none gets the name of an input\n"
-     "that stands in DIR. Other files of that name are replaced. DIR is made if it is\n"
-     "not there. An image that is not all there costs a complaint and not the others.",
+     "that stands in DIR. DIR, --force and --max-size are as with unpack. An image that\n"
+     "is not all there costs a complaint and not the others.",
      runSplit},
     {"bmp", "bmp IN.ico INDEX OUT.bmp [--background RRGGBB]",
      "Writes one image as a bitmap, as the editor does. Transparent pixels get the\n"
@@ -125,11 +129,11 @@ void printHelp() {
       "gpicon --help\nPrints this.\n\n"
       "Indices and styles count from 0. Options end at \"--\". Colors are six hexadecimal\n"
       "digits, red first. replace, add, remove, reorder and salvage write to OUT, replacing\n"
-      "it, or else the file itself, and leave what was there when it cannot be written\n"
-      "whole. bmp, resave, reduce and effect replace OUT, which may be IN.ico, and leave\n"
-      "nothing when it cannot be written whole. None writes anything when it refuses. A bad\n"
-      "file costs one line on stderr and not the others. Exit status: 0 done, 1 a file was\n"
-      "bad or refused, 2 bad usage.");
+      "it, or else the file itself; bmp, resave, reduce and effect replace OUT, which may be\n"
+      "IN.ico. At every moment a file has its whole former or its whole new content, also\n"
+      "when it cannot be written. None writes anything when it refuses. A bad file costs one\n"
+      "line on stderr and not the others; control characters of names are printed as \\x0A.\n"
+      "Exit status: 0 done, 1 a file was bad or refused, 2 bad usage.");
 }
 
 bool isHelp(const std::string& argument) { return argument == "--help" || argument == "-h" || argument == "help"; }
@@ -150,6 +154,7 @@ int run(const Arguments& arguments) {
 }  // namespace gp::cli
 
 int main(int argc, char** argv) {
+  gp::ignoreWriteSignals();
   const int status = gp::cli::run(gp::cli::Arguments(argv + std::min(argc, 1), argv + argc));
   // Output that could not be written, for example to a full disk, is a failure.
   if (std::fflush(stdout) == 0) return status;

@@ -2,7 +2,7 @@
 
 #include "platform/files/BitmapLayout.h"
 #include "platform/files/ByteWriter.h"
-#include "platform/files/Files.h"
+#include "platform/files/FileWriting.h"
 
 namespace gp {
 namespace {

@@ -3,6 +3,7 @@
 #include "platform/files/Files.h"
 #include "platform/text/Paths.h"
 #include "platform/text/ProfileFile.h"
+#include "platform/text/ProfileText.h"
 #include "platform/text/Utf8.h"
 
 namespace gp {
@@ -20,35 +21,39 @@ std::string withPlainAmpersands(const std::string& text) {
 std::string History::keyOf(int number) const { return std::to_string(number) + "."; }
 
 void History::load() {
-  if (!FileExists(file_)) return;
+  if (FileExists(file_)) take(ProfileFile(file_));
+}
+
+void History::take(const ProfileFile& profile) {
   paths_.clear();
   for (int i = 1; i <= limit_; ++i) {
-    const std::string path = trim(ReadIniString(section_, keyOf(i), "", file_));
+    const std::string path = trim(profile.read(section_, keyOf(i)));
     if (!path.empty()) paths_.push_back(path);
   }
 }
 
 void History::add(const std::string& path) {
   if (!fitsInIni(path)) return;
-  const std::string top = ReadIniString(section_, keyOf(1), "", file_);
+  ProfileFile profile(file_);
+  const std::string top = profile.read(section_, keyOf(1));
   if (top == path) return;
   if (trim(top).empty())
-    writeOnTop(path);
+    writeOnTop(profile, path);
   else
-    shiftDown(path);
-  load();
+    shiftDown(profile, path);
+  if (profile.save()) take(profile);
 }
 
-void History::writeOnTop(const std::string& path) {
-  (void)DeleteIniKey(section_, keyOf(1), file_);
-  (void)WriteIniString(section_, keyOf(1), path, file_);
+void History::writeOnTop(ProfileFile& profile, const std::string& path) const {
+  profile.remove(section_, keyOf(1));
+  profile.write(section_, keyOf(1), path);
 }
 
-void History::shiftDown(const std::string& path) {
+void History::shiftDown(ProfileFile& profile, const std::string& path) const {
   std::vector<std::string> rows{path};
-  for (int i = 1; i < limit_; ++i) rows.push_back(ReadIniString(section_, keyOf(i), "", file_));
-  for (int i = 1; i <= limit_; ++i) (void)DeleteIniKey(section_, keyOf(i), file_);
-  for (int i = 0; i < limit_; ++i) (void)WriteIniString(section_, keyOf(i + 1), rows[i], file_);
+  for (int i = 1; i < limit_; ++i) rows.push_back(profile.read(section_, keyOf(i)));
+  for (int i = 1; i <= limit_; ++i) profile.remove(section_, keyOf(i));
+  for (int i = 0; i < limit_; ++i) profile.write(section_, keyOf(i + 1), rows[i]);
 }
 
 std::string History::path(int index) const {

@@ -7,6 +7,8 @@
 
 namespace gp {
 
+class ProfileFile;
+
 inline constexpr const char* kFileHistorySection = "File History";
 inline constexpr int kFileHistoryLimit = 6;
 inline constexpr const char* kAniHistorySection = "ANI File History";
@@ -34,8 +36,9 @@ class History {
 
  private:
   std::string keyOf(int number) const;
-  void writeOnTop(const std::string& path);
-  void shiftDown(const std::string& path);
+  void take(const ProfileFile& profile);
+  void writeOnTop(ProfileFile& profile, const std::string& path) const;
+  void shiftDown(ProfileFile& profile, const std::string& path) const;
 
   std::string section_;
   std::string file_;

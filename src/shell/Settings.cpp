@@ -3,6 +3,7 @@
 #include "platform/files/Files.h"
 #include "platform/text/Numbers.h"
 #include "platform/text/ProfileFile.h"
+#include "platform/text/ProfileText.h"
 
 #include <algorithm>
 
@@ -63,8 +64,8 @@ bool booleanOf(const std::string& text, bool fallback) {
   return text == kOff ? false : fallback;
 }
 
-bool writeIfDifferent(const char* key, const std::string& value, const std::string& file) {
-  return findIniString(kOptionsSection, key, file) == value || WriteIniString(kOptionsSection, key, value, file);
+void writeIfDifferent(const char* key, const std::string& value, ProfileFile& profile) {
+  if (profile.find(kOptionsSection, key) != value) profile.write(kOptionsSection, key, value);
 }
 
 }  // namespace
@@ -79,21 +80,20 @@ const BooleanOption* findBooleanOption(int menuIndex) {
 
 bool Settings::LoadOptions() {
   if (!FileExists(file_)) return false;
+  const ProfileFile profile(file_);
   for (const IndexOption& option : kIndexOptions)
-    options_.*option.member = indexOf(ReadIniString(kOptionsSection, option.key, "", file_), option.count);
+    options_.*option.member = indexOf(profile.read(kOptionsSection, option.key), option.count);
   const Options defaults;
   for (const BooleanOption& option : kBooleanOptions)
-    options_.*option.member = booleanOf(ReadIniString(kOptionsSection, option.key, "", file_), defaults.*option.member);
+    options_.*option.member = booleanOf(profile.read(kOptionsSection, option.key), defaults.*option.member);
   return true;
 }
 
-bool Settings::SaveOptions() const {
-  bool ok = true;
+void Settings::SaveOptions(ProfileFile& profile) const {
   for (const IndexOption& option : kIndexOptions)
-    ok &= writeIfDifferent(option.key, std::to_string(options_.*option.member), file_);
+    writeIfDifferent(option.key, std::to_string(options_.*option.member), profile);
   for (const BooleanOption& option : kBooleanOptions)
-    ok &= writeIfDifferent(option.key, textOf(options_.*option.member), file_);
-  return ok;
+    writeIfDifferent(option.key, textOf(options_.*option.member), profile);
 }
 
 std::string Settings::GetLastFolder() const {
@@ -101,25 +101,25 @@ std::string Settings::GetLastFolder() const {
   return directoryExists(folder) ? folder : std::string();
 }
 
-bool Settings::SaveLastFolder(const std::string& folder) const {
-  return WriteIniString(kLastFolderSection, kLastFolderKey, folder, file_);
+void Settings::SaveLastFolder(ProfileFile& profile, const std::string& folder) const {
+  if (fitsInIni(folder)) profile.write(kLastFolderSection, kLastFolderKey, folder);
 }
 
 void Settings::GetScreenPos(StoredPlace& place) const {
+  const ProfileFile profile(file_);
   for (const PlaceKey& row : kPlaceKeys) {
-    const std::string value = ReadIniString(kScreenPosSection, row.key, "", file_);
+    const std::string value = profile.read(kScreenPosSection, row.key);
     if (!value.empty()) place.*row.member = roundToInteger(Val(value));
   }
-  const std::string state = ReadIniString(kScreenPosSection, kWindowStateKey, "", file_);
+  const std::string state = profile.read(kScreenPosSection, kWindowStateKey);
   if (!state.empty()) place.maximized = state == kOn;
 }
 
-bool Settings::SaveScreenPos(int left, int top, int width, int height, bool maximized) const {
-  StoredPlace place{left, top, width, height, maximized};
-  bool ok = true;
+void Settings::SaveScreenPos(ProfileFile& profile, int left, int top, int width, int height, bool maximized) const {
+  const StoredPlace place{left, top, width, height, maximized};
   for (const PlaceKey& row : kPlaceKeys)
-    ok &= WriteIniString(kScreenPosSection, row.key, std::to_string(*(place.*row.member)), file_);
-  return ok & WriteIniString(kScreenPosSection, kWindowStateKey, textOf(maximized), file_);
+    profile.write(kScreenPosSection, row.key, std::to_string(*(place.*row.member)));
+  profile.write(kScreenPosSection, kWindowStateKey, textOf(maximized));
 }
 
 }  // namespace gp

@@ -1,5 +1,6 @@
 // The user's settings in the program's profile file. Settings changes the given Options and keeps no copy of the file:
-// each call reads or writes it. An absent or damaged file yields the defaults.
+// each call reads it. What is saved goes into a ProfileFile, which the caller writes once. An absent or damaged file
+// yields the defaults.
 #pragma once
 
 #include "document/Options.h"
@@ -10,7 +11,7 @@
 
 namespace gp {
 
-inline constexpr const char* kSettingsFileName = "Glimmerpane.ini";
+class ProfileFile;
 
 // The window's stored place in twips; absent values are empty.
 struct StoredPlace {
@@ -39,18 +40,18 @@ class Settings {
 
   // Reads the options. Returns false when there is no file: the options do not change and there is no history to load.
   bool LoadOptions();
-  // Writes the options that differ from the file. Returns false when one could not be written.
-  bool SaveOptions() const;
+  // Puts the options that differ from the file into it.
+  void SaveOptions(ProfileFile& profile) const;
   void resetToDefaults() { options_ = Options(); }
 
   // Returns the folder of the last file dialog; empty when none is stored or it no longer exists.
   std::string GetLastFolder() const;
-  // Returns false when the file cannot be written. The same holds for SaveScreenPos, whose values are in twips.
-  bool SaveLastFolder(const std::string& folder) const;
+  void SaveLastFolder(ProfileFile& profile, const std::string& folder) const;
 
   // Changes only the members for which the file has a value.
   void GetScreenPos(StoredPlace& place) const;
-  bool SaveScreenPos(int left, int top, int width, int height, bool maximized) const;
+  // The values are in twips.
+  void SaveScreenPos(ProfileFile& profile, int left, int top, int width, int height, bool maximized) const;
 
  private:
   Options& options_;

@@ -15,17 +15,17 @@ constexpr const char* kScratchFileName = "gptmp.ico";
 
 }  // namespace
 
-Shell::Shell(EditState& state, const Ports& ports, Display& display, std::string folder)
+Shell::Shell(EditState& state, const Ports& ports, Display& display, ProgramFolders folders)
     : state_(state),
       ports_(ports),
       display_(display),
-      folder_(std::move(folder)),
+      folders_(std::move(folders)),
       mDialog(ports.dialogs),
       context_{state, *this, display, ports.boxes, ports.pump},
       document_(context_),
-      colour_(context_, mDialog, ports.pictures, folder_),
+      colour_(context_, mDialog, ports.pictures, folders_.settings),
       drawing_(context_, document_, colour_.selection, ports.clipboard),
-      files_(context_, document_, drawing_, mDialog, folder_ + "/" + kScratchFileName),
+      files_(context_, document_, drawing_, mDialog, folders_.scratch + "/" + kScratchFileName),
       effects_(context_, document_, drawing_.history),
       output_(context_, files_),
       settings_(state.options, settingsPath()),
@@ -41,7 +41,7 @@ void Shell::attach(ShellForms* form, FileForms* fileForms) {
   files_.attach(fileForms);
 }
 
-std::string Shell::settingsPath() const { return folder_ + "/" + kSettingsFileName; }
+std::string Shell::settingsPath() const { return folders_.settings + "/" + kSettingsFileName; }
 
 void Shell::run(const Command& command) {
   if (!command.run) return;

@@ -10,6 +10,7 @@
 #include "files/Files.h"
 #include "output/Output.h"
 #include "platform/dialogs/clsGPDialog.h"
+#include "platform/files/ProgramFolders.h"
 #include "platform/ports/SystemInfo.h"
 #include "shell/CommandTable.h"
 #include "shell/FormPlacement.h"
@@ -41,8 +42,7 @@ struct Ports {
 
 class Shell final : public Editor {
  public:
-  // `folder` is the program's folder, which contains settings, help file and companion program.
-  Shell(EditState& state, const Ports& ports, Display& display, std::string folder);
+  Shell(EditState& state, const Ports& ports, Display& display, ProgramFolders folders);
   ~Shell() override;
 
   // Sets the main form; null before it is destroyed. Without a form, commands that need a window do nothing.
@@ -65,7 +65,6 @@ class Shell final : public Editor {
   const History& fileHistory() const { return fileHistory_; }
   const History& aniHistory() const { return aniHistory_; }
   const Ports& ports() const { return ports_; }
-  const std::string& folder() const { return folder_; }
 
   // Runs a command of a menu, a key, the toolbar or the pop-up menu: checks its need and shows the message if it is not
   // met, commits an open tool action if the row requires it, then calls the body. Errors are shown in a box. Does
@@ -135,12 +134,12 @@ class Shell final : public Editor {
   void showEmptyStart();
   void openCommandLineFile(const std::string& commandLine);
   void applyStartScreen();
-  void saveScreenPos(const FormPlace& place);
+  void saveSettings();
 
   EditState& state_;
   Ports ports_;
   Display& display_;
-  std::string folder_;
+  ProgramFolders folders_;
   ShellForms* form_ = nullptr;
   clsGPDialog mDialog;
   const Context context_;

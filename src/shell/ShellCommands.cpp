@@ -50,7 +50,7 @@ void Shell::shiftTowards(ShiftCell cell) {
 }
 
 void Shell::openHelp() {
-  const std::string manual = folder_ + "/" + kHelpFile;
+  const std::string manual = folders_.dataFile(kHelpFile);
   if (!FileExists(manual)) {
     ports_.boxes.tell("GPHelp.chm missing in current folder.", BoxIcon::Exclamation);
     return;
@@ -59,7 +59,7 @@ void Shell::openHelp() {
 }
 
 void Shell::switchToCustomSize() {
-  const std::string companion = folder_ + "/" + kCompanionProgram;
+  const std::string companion = folders_.dataFile(kCompanionProgram);
   if (!FileExists(companion) || !ports_.processes.start(companion)) {
     ports_.boxes.tell(std::string(kCompanionProgram) + " missing in current folder.", BoxIcon::Exclamation);
     return;

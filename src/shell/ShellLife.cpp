@@ -4,6 +4,7 @@
 #include "document/EditState.h"
 #include "platform/ports/MessageBoxes.h"
 #include "platform/ports/MessagePump.h"
+#include "platform/text/ProfileFile.h"
 #include "shell/CommandLine.h"
 #include "shell/FormPlacement.h"
 #include "shell/Shell.h"
@@ -24,7 +25,7 @@ void Shell::formLoad() {
   state_.mCurContainer = 0;
   placeForm();
   state_.process.mLastFolder = settings_.GetLastFolder();
-  if (state_.process.mLastFolder.empty()) state_.process.mLastFolder = folder_;
+  if (state_.process.mLastFolder.empty()) state_.process.mLastFolder = folders_.settings;
   state_.process.mDesktopFolder = ports_.system.desktopDirectory();
   state_.gAlphaValues = AlphaMatrix();
   state_.mAlphaRecs.fill(AlphaMatrix());
@@ -71,7 +72,7 @@ void Shell::openCommandLineFile(const std::string& commandLine) {
   if (file.kind == CommandLineKind::Cur) files_.cursorFiles.doOpenCursorFile(file.path, ok);
   if (ok) return;
   std::error_code ignored;
-  std::filesystem::current_path(folder_, ignored);
+  std::filesystem::current_path(folders_.settings, ignored);
 }
 
 void Shell::applyStartScreen() {
@@ -88,18 +89,22 @@ void Shell::formResize(int dispContainerWidth, int dispContainerHeight) {
   if (!state_.mInLoad) document_.areaOptions.setRoom(dispContainerWidth, dispContainerHeight);
 }
 
-void Shell::saveScreenPos(const FormPlace& place) {
-  if (!place.minimized) settings_.SaveScreenPos(place.left, place.top, place.width, place.height, place.maximized);
+void Shell::saveSettings() {
+  ProfileFile profile(settingsPath());
+  const FormPlace place = form_ ? form_->place() : FormPlace{.minimized = true};
+  if (!place.minimized)
+    settings_.SaveScreenPos(profile, place.left, place.top, place.width, place.height, place.maximized);
+  // Before the first Activate the options are only the defaults and must not be saved.
+  if (!mFirstActivate) settings_.SaveOptions(profile);
+  settings_.SaveLastFolder(profile, state_.process.mLastFolder);
+  (void)profile.save();  // the program ends, and keeps the settings of the last time when it cannot
 }
 
 bool Shell::queryUnload() {
   const std::string question = unsavedQuestion(state_);
   if (!question.empty() && !ports_.boxes.ask(question)) return false;
   files_.cursorFiles.mark().cancel();
-  if (form_) saveScreenPos(form_->place());
-  // Before the first Activate the options are only the defaults and must not be saved.
-  if (!mFirstActivate) settings_.SaveOptions();
-  settings_.SaveLastFolder(state_.process.mLastFolder);
+  saveSettings();
   return true;
 }
 

@@ -136,7 +136,47 @@ TEST_F(GpiconSplit, WhatIsInTheWayIsReportedAndLeft) {
   fs::create_directories(folder.path("out/a_16_16.ico"));
   const Outcome o = split({path});
   EXPECT_EQ(o.status, 1);
-  EXPECT_EQ(o.err, "gpicon: " + path + ": " + folder.path("out/a_16_16.ico") + " cannot be written\n");
+  EXPECT_EQ(o.err, "gpicon: " + folder.path("out/a_16_16.ico") + ": already there, and not replaced\n");
+}
+
+TEST_F(GpiconSplit, FilesThatAreThereAreReplacedOnlyByForce) {
+  const std::string path = icon("a.ico", 16, 4);
+  fs::create_directories(folder.path("out"));
+  const std::string there = folder.write("out/a_16_16.ico", Bytes(4, 7));
+  EXPECT_EQ(split({path}).status, 1);
+  EXPECT_EQ(bytesOf(there).size(), 4u);
+  EXPECT_EQ(split({path, "--force"}).status, 0);
+  EXPECT_GT(bytesOf(there).size(), 100u);
+}
+
+TEST_F(GpiconSplit, PlantedLinksAreRefusedByNameEvenByForce) {
+  const std::string path = icon("a.ico", 16, 4);
+  fs::create_directories(folder.path("out"));
+  const std::string outside = folder.write("outside", Bytes(8, 7));
+  for (const bool isHard : {false, true}) {
+    const std::string planted = folder.path("out/a_16_16.ico");
+    fs::remove(planted);
+    if (isHard)
+      fs::create_hard_link(outside, planted);
+    else
+      fs::create_symlink(outside, planted);
+    const Outcome o = split({path, "--force"});
+    EXPECT_EQ(o.status, 1);
+    EXPECT_EQ(o.err, "gpicon: " + planted + ": already there, and not replaced\n");
+    EXPECT_EQ(bytesOf(outside).size(), 8u);
+  }
+}
+
+TEST_F(GpiconSplit, ACallWritesNoMoreThanItsBound) {
+  std::vector<Entry> entries(3);
+  for (Entry& entry : entries) entry.image = Bytes(600'000), entry.bytesInRes = 600'000;
+  const std::string path = folder.write("a.ico", fileOf(entries));
+  const Outcome o = split({path, "--max-size", "1"});
+  EXPECT_EQ(o.status, 1);
+  EXPECT_EQ(o.err, "gpicon: " + path + ": more than one call may write (see --max-size)\n");
+  EXPECT_TRUE(namesIn("out").empty());
+  EXPECT_EQ(split({path, "--max-size", "2"}).status, 0);
+  for (const char* bound : {"0", "-1", "many", ""}) EXPECT_EQ(split({path, "--max-size", bound}).status, 2) << bound;
 }
 
 TEST_F(GpiconSplit, APipeInTheWayIsNoTrap) {

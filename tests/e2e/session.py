@@ -1,5 +1,5 @@
 """A desktop for one test: its own X server, window manager and accessibility bus, an empty home, and a folder for
-files. The program runs from a copy in that folder, because it keeps its settings beside itself."""
+files. The program runs from a copy in that folder, so that a test can put a settings file beside it."""
 import os
 import shutil
 import subprocess
@@ -33,7 +33,7 @@ class Session:
 
     def __enter__(self):
         self.folder = tempfile.mkdtemp(prefix='glimmerpane.')
-        for name in ('home', 'program', 'files'):
+        for name in ('home', 'program', 'files', 'tmp'):
             os.mkdir(os.path.join(self.folder, name))
         os.mkdir(os.path.join(self.folder, 'run'), 0o700)
         shutil.copy2(self.executable, os.path.join(self.folder, 'program'))
@@ -51,6 +51,7 @@ class Session:
         for name in [n for n in os.environ if n.startswith(('XDG_', 'QT_'))]:
             del os.environ[name]
         os.environ.update(HOME=home, XDG_CONFIG_HOME=os.path.join(home, '.config'), LANG='C.UTF-8',
+                          TMPDIR=os.path.join(self.folder, 'tmp'),
                           XDG_RUNTIME_DIR=os.path.join(self.folder, 'run'), QT_QPA_PLATFORM='xcb',
                           QT_LINUX_ACCESSIBILITY_ALWAYS_ON='1')
         self.screen = Screen()

@@ -1,19 +1,16 @@
-// Settings files, and other texts from outside: profile files, paths, filters and typed numbers.
+// Settings files.
 #include "FuzzInput.h"
-#include "platform/dialogs/clsGPDialog.h"
-#include "platform/text/FixedText.h"
-#include "platform/text/Numbers.h"
-#include "platform/text/Paths.h"
+#include "platform/text/ProfileFile.h"
+#include "platform/text/ProfileText.h"
 #include "shell/History.h"
 #include "shell/Settings.h"
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 namespace {
 
-// Each option that is saved reads and writes the file again, so a long file takes long and finds no more.
+// A long file takes long and finds no more.
 constexpr std::size_t kLargestSettings = 2048;
 
 void useSettings(const std::string& file) {
@@ -27,25 +24,25 @@ void useSettings(const std::string& file) {
   history.load();
   history.add("/a/b.ico");
   options.promptToSave = true;
-  (void)settings.SaveOptions();
+  gp::ProfileFile profile(file);
+  settings.SaveOptions(profile);
+  (void)profile.save();
 }
 
-void useText(const std::string& text) {
-  for (int part = 0; part <= 6; ++part) (void)gp::ParseFileName(text, static_cast<gp::PathPart>(part));
-  (void)gp::ShortenPath(text);
-  (void)gp::matchesPattern(text, "*.ico");
-  (void)gp::parseFilter(text);
-  (void)gp::Val(text);
-  (void)gp::valueOfHex(text);
-  const gp::FixedText<32> field(text);
-  gp::fuzz::require(gp::countCharacters(field.padded()) == 32);
+// What is set can be found, and what is removed cannot, whatever else the text holds.
+void changeText(std::string text) {
+  gp::setValue(text, "Options", "GridLines", "3");
+  gp::fuzz::require(gp::findValue(text, "Options", "GridLines") == "3");
+  gp::setValue(text, "Last Folder", "LastFolder", "/a");
+  gp::fuzz::require(gp::findValue(text, "Options", "GridLines") == "3");
+  gp::removeValue(text, "Last Folder", "LastFolder");
+  gp::fuzz::require(gp::findValue(text, "Options", "GridLines") == "3");
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string text(reinterpret_cast<const char*>(data), size);
-  useText(text);
+  changeText(std::string(reinterpret_cast<const char*>(data), size));
   static const gp::fuzz::ScratchFolder folder;
   if (size <= kLargestSettings) useSettings(folder.holding("settings", {data, size}));
   return 0;

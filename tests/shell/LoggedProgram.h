@@ -9,6 +9,7 @@
 #include "shell/ShellSnapshot.h"
 #include "support/FakeClipboard.h"
 #include "support/FakeMachine.h"
+#include "support/FoldersIn.h"
 #include "support/ScriptedPorts.h"
 #include "support/TempFolder.h"
 
@@ -48,7 +49,7 @@ class LoggedProgram {
 
  public:
   Shell shell{state_, Ports{boxes_, dialogs_, pump_, system_, processes_, clipboard_, pictures_}, display_,
-              folder_.path()};
+              test::foldersIn(folder_.path())};
 };
 
 inline std::string nameOf(const Command& row) { return objectNameOf(row.control, row.index); }

@@ -1,3 +1,4 @@
+#include "platform/files/ProgramFolders.h"
 #include "platform/text/ProfileFile.h"
 #include "shell/Settings.h"
 #include "support/TempFolder.h"
@@ -14,6 +15,14 @@ class SettingsFile : public testing::Test {
   std::string content() const { return folder_.read(kSettingsFileName); }
   void set(const char* key, const std::string& value) { ASSERT_TRUE(WriteIniString("Options", key, value, file())); }
   std::string file() const { return folder_.file(kSettingsFileName); }
+
+  // Puts values into the file and writes it; false when that fails.
+  template <class... Given, class... Values>
+  bool save(void (Settings::*put)(ProfileFile&, Given...) const, const Values&... values) const {
+    ProfileFile profile(file());
+    (settings_.*put)(profile, values...);
+    return profile.save();
+  }
 
   test::TempFolder folder_;
   Options options_;
@@ -117,7 +126,7 @@ TEST_F(SettingsFile, AnIndexCountsOnlyFromZeroToItsLast) {
 
 TEST_F(SettingsFile, SavedOptionsAreLoadedAgain) {
   options_ = {5, 2, false, true, true, false, true, false, false, false};
-  EXPECT_TRUE(settings_.SaveOptions());
+  EXPECT_TRUE(save(&Settings::SaveOptions));
   const Options saved = options_;
   settings_.resetToDefaults();
   EXPECT_EQ(options_.grid, 0);
@@ -129,7 +138,7 @@ TEST_F(SettingsFile, SavedOptionsAreLoadedAgain) {
 }
 
 TEST_F(SettingsFile, TheFirstSaveWritesEveryKey) {
-  EXPECT_TRUE(settings_.SaveOptions());
+  EXPECT_TRUE(save(&Settings::SaveOptions));
   EXPECT_EQ(content(),
             "[Options]\nGridLines=0\nOptedStartScreen=0\nUseEnlargedEditingArea=-1\nDisplayPixelRGB=0\n"
             "Tooltip256ColorChart=0\nUpdOnlyEditAreaDuringRegionDrag=-1\nPromptToSave=0\nRemindIfBMP=-1\n"
@@ -137,19 +146,19 @@ TEST_F(SettingsFile, TheFirstSaveWritesEveryKey) {
 }
 
 TEST_F(SettingsFile, SavingWithoutAChangeDoesNotTouchTheFile) {
-  EXPECT_TRUE(settings_.SaveOptions());
+  EXPECT_TRUE(save(&Settings::SaveOptions));
   const auto before = std::filesystem::file_time_type(std::chrono::hours(24));
   std::filesystem::last_write_time(file(), before);
-  EXPECT_TRUE(settings_.SaveOptions());
+  EXPECT_TRUE(save(&Settings::SaveOptions));
   EXPECT_EQ(std::filesystem::last_write_time(file()), before);
 }
 
 TEST_F(SettingsFile, SavingWritesOnlyWhatDiffersAndKeepsForeignLines) {
-  EXPECT_TRUE(settings_.SaveOptions());
+  EXPECT_TRUE(save(&Settings::SaveOptions));
   have("; mine\n[Foreign]\na=1\n" + content() + "Unknown=7\n");
   const std::string before = content();
   options_.grid = 3;
-  EXPECT_TRUE(settings_.SaveOptions());
+  EXPECT_TRUE(save(&Settings::SaveOptions));
   std::string expected = before;
   expected.replace(expected.find("GridLines=0"), 11, "GridLines=3");
   EXPECT_EQ(content(), expected);
@@ -158,9 +167,9 @@ TEST_F(SettingsFile, SavingWritesOnlyWhatDiffersAndKeepsForeignLines) {
 TEST_F(SettingsFile, SavingIntoAReadOnlyFileFails) {
   have("");
   std::filesystem::permissions(file(), std::filesystem::perms::owner_read);
-  EXPECT_FALSE(settings_.SaveOptions());
-  EXPECT_FALSE(settings_.SaveLastFolder("/tmp"));
-  EXPECT_FALSE(settings_.SaveScreenPos(1, 2, 3, 4, true));
+  EXPECT_FALSE(save(&Settings::SaveOptions));
+  EXPECT_FALSE(save(&Settings::SaveLastFolder, "/tmp"));
+  EXPECT_FALSE(save(&Settings::SaveScreenPos, 1, 2, 3, 4, true));
 }
 
 TEST_F(SettingsFile, RandomBytesGiveTheDefaults) {
@@ -182,16 +191,16 @@ TEST_F(SettingsFile, RandomBytesGiveTheDefaults) {
 TEST_F(SettingsFile, TheLastFolderMustStillBeThere) {
   EXPECT_EQ(settings_.GetLastFolder(), "");
   const std::string there = folder_.makeFolder("icons");
-  EXPECT_TRUE(settings_.SaveLastFolder(there));
+  EXPECT_TRUE(save(&Settings::SaveLastFolder, there));
   EXPECT_EQ(settings_.GetLastFolder(), there);
   std::filesystem::remove(there);
   EXPECT_EQ(settings_.GetLastFolder(), "");
-  EXPECT_TRUE(settings_.SaveLastFolder(folder_.write("file")));
+  EXPECT_TRUE(save(&Settings::SaveLastFolder, folder_.write("file")));
   EXPECT_EQ(settings_.GetLastFolder(), "");
 }
 
 TEST_F(SettingsFile, APlaceIsReadAsItWasSaved) {
-  EXPECT_TRUE(settings_.SaveScreenPos(-15, 30, 12000, 9000, true));
+  EXPECT_TRUE(save(&Settings::SaveScreenPos, -15, 30, 12000, 9000, true));
   EXPECT_EQ(content(), "[Screen Pos]\nLeft=-15\nTop=30\nWidth=12000\nHeight=9000\nWinState=-1\n");
   StoredPlace place;
   settings_.GetScreenPos(place);
@@ -199,7 +208,7 @@ TEST_F(SettingsFile, APlaceIsReadAsItWasSaved) {
   EXPECT_EQ(place.left, -15);
   EXPECT_EQ(place.height, 9000);
   EXPECT_EQ(place.maximized, true);
-  EXPECT_TRUE(settings_.SaveScreenPos(0, 0, 0, 0, false));
+  EXPECT_TRUE(save(&Settings::SaveScreenPos, 0, 0, 0, 0, false));
   settings_.GetScreenPos(place);
   EXPECT_EQ(place.maximized, false);
 }

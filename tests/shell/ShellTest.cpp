@@ -47,7 +47,7 @@ TEST_F(ShellTest, TheProgramsFolderIsCurrentUnlessAnIconWasOpened) {
   shell.formLoad();
   shell.formActivate(icon);
   EXPECT_EQ(std::filesystem::current_path(), directory.before());
-  Shell second(state, shell.ports(), display, folder.path());
+  Shell second(state, shell.ports(), display, test::foldersIn(folder.path()));
   second.formLoad();
   second.formActivate("");
   EXPECT_EQ(std::filesystem::current_path(), std::filesystem::path(folder.path()));

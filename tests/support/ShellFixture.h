@@ -6,6 +6,7 @@
 #include "support/FakeClipboard.h"
 #include "support/FakeEditor.h"
 #include "support/FakeMachine.h"
+#include "support/FoldersIn.h"
 #include "support/ScriptedPorts.h"
 #include "support/TempFolder.h"
 
@@ -50,7 +51,8 @@ class ShellFixture : public testing::Test {
   RecordingDisplay display;
   FakeForm form;
   EditState state;
-  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures}, display, folder.path()};
+  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures}, display,
+              test::foldersIn(folder.path())};
 
   ShellFixture() { shell.attach(&form, &form); }
   // Load and the first Activate, in the same order as app/.

@@ -7,6 +7,7 @@
 #include "shell/ui/frmGPEdit.h"
 #include "support/FakeClipboard.h"
 #include "support/FakeMachine.h"
+#include "support/FoldersIn.h"
 #include "support/ScriptedPorts.h"
 #include "support/ShellFixture.h"
 #include "support/TempFolder.h"
@@ -33,7 +34,8 @@ class FormFixture : public testing::Test {
   ScriptedPictures pictures;
   EditState state;
   QtDisplay display;
-  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures}, display, folder.path()};
+  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures}, display,
+              test::foldersIn(folder.path())};
   std::unique_ptr<frmGPEdit> form;
 
   // Shows the form as app/ does, and waits for its first Activate.

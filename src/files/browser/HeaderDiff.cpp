@@ -189,7 +189,7 @@ bool HeaderDiff::confirmsSalvage(const std::string& target) const {
                                                : "Salvage to \n\n" + target + "\nProceed?");
 }
 
-WriteOutcome HeaderDiff::writeSalvaged(const std::string& target) const {
+WriteDefect HeaderDiff::writeSalvaged(const std::string& target) const {
   const Hourglass hourglass(context_);
   IconArrays salvaged;
   salvaged.reserved = arrays_.reserved;
@@ -197,15 +197,14 @@ WriteOutcome HeaderDiff::writeSalvaged(const std::string& target) const {
   salvaged.entries = arrays_.entries;
   salvaged.images = arrays_.images;
   salvageEntries(salvaged);
-  if (target == file_) return writeWholeFile(salvaged, target, arrays_.file.span());
-  const auto former = readFile(target);
-  return writeWholeFile(salvaged, target, former ? former->span() : ImageBytes{});
+  return target == file_ ? writeWholeFile(salvaged, target, arrays_.file.bytes.version())
+                         : writeWholeFile(salvaged, target);
 }
 
 void HeaderDiff::salvageTo(const std::string& target) {
-  const WriteOutcome outcome = writeSalvaged(target);
-  if (!outcome.opened) return;
-  if (!outcome.whole) return context_.boxes.tell(kNotWritten);
+  const WriteDefect defect = writeSalvaged(target);
+  if (defect == WriteDefect::NotOpened) return;
+  if (defect != WriteDefect::None) return context_.boxes.tell(kNotWritten);
   context_.boxes.tell("File salvaged to " + target + kSalvaged);
   if (!isSameFile(target, file_)) return;
   const int item = selected_;

@@ -61,7 +61,7 @@ class HeaderDiff {
   EnquiryTable tableOf(std::size_t index) const;
 
   bool confirmsSalvage(const std::string& target) const;
-  WriteOutcome writeSalvaged(const std::string& target) const;
+  WriteDefect writeSalvaged(const std::string& target) const;
   void salvageTo(const std::string& target);
 
   FilesContext context_;

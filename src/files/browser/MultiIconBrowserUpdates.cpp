@@ -46,7 +46,7 @@ void MultiIconBrowser::cmdRemove() {
 bool MultiIconBrowser::removeEntry(int index) {
   const Hourglass hourglass(context_);
   removeImage(arrays_, index);
-  return writeWholeFile(arrays_, file(), arrays_.file.span());
+  return writeBack(arrays_, file()) == WriteDefect::None;
 }
 
 // Lists the file again, and selects the item at the same place, or the last one.
@@ -107,15 +107,16 @@ void MultiIconBrowser::cmdRepositionProceed() {
 }
 
 void MultiIconBrowser::writeRepositioned() {
-  WriteOutcome outcome;
+  WriteDefect defect;
   {
     const Hourglass hourglass(context_);
     reorderImages(arrays_, reposition_.order());
-    outcome = writeWholeFile(arrays_, file(), arrays_.file.span());
+    defect = writeBack(arrays_, file());
   }
-  if (!outcome.opened) return context_.boxes.tell(kFileNotOpened);
-  if (!outcome.whole) context_.boxes.tell(kFileNotWritten);
-  context_.boxes.tell((outcome.whole ? kRepositioned : kRepositionNotWritten) + file() + "\n");
+  if (defect == WriteDefect::NotOpened) return context_.boxes.tell(kFileNotOpened);
+  const bool written = defect == WriteDefect::None;
+  if (!written) context_.boxes.tell(kFileNotWritten);
+  context_.boxes.tell((written ? kRepositioned : kRepositionNotWritten) + file() + "\n");
 }
 
 }  // namespace gp

@@ -79,13 +79,24 @@ void layOutImages(IconArrays& arrays) {
   }
 }
 
-WriteOutcome writeWholeFile(IconArrays& arrays, const std::string& path, std::span<const std::uint8_t> former) {
-  if (arrays.entries.size() > ico::kMaxEntries) return {};
+std::vector<std::uint8_t> composeWholeFile(IconArrays& arrays) {
+  layOutImages(arrays);
+  std::vector<std::uint8_t> bytes = directoryBytes(arrays);
+  for (const ImageBytes image : arrays.images) bytes.insert(bytes.end(), image.begin(), image.end());
+  return bytes;
+}
+
+WriteDefect writeWholeFile(IconArrays& arrays, const std::string& path, const std::optional<FileVersion>& read) {
+  if (arrays.entries.size() > ico::kMaxEntries) return WriteDefect::NotOpened;
   layOutImages(arrays);
   const std::vector<std::uint8_t> directory = directoryBytes(arrays);
   std::vector<ImageBytes> pieces{directory};
   pieces.insert(pieces.end(), arrays.images.begin(), arrays.images.end());
-  return rewriteFile(path, pieces, former);
+  return writeFile(path, pieces, read);
+}
+
+WriteDefect writeBack(IconArrays& arrays, const std::string& path) {
+  return writeWholeFile(arrays, path, arrays.file.bytes.version());
 }
 
 }  // namespace gp

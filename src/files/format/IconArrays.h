@@ -4,6 +4,7 @@
 #pragma once
 
 #include "files/format/IconFile.h"
+#include "platform/files/FileWriting.h"
 
 #include <cstdint>
 #include <deque>
@@ -43,9 +44,13 @@ enum class ArraysDefect {
 // Places the images one after another behind the directory, in its order, and sets the offsets of the entries. Offsets
 // of a file with this layout do not change.
 void layOutImages(IconArrays& arrays);
-// Writes header, entries and images over a file, laid out as above. `former` is the current content of the file, or
-// empty if it is unknown or need not be restored. Returns what rewriteFile returns.
-[[nodiscard]] WriteOutcome writeWholeFile(IconArrays& arrays, const std::string& path,
-                                          std::span<const std::uint8_t> former);
+// The bytes of the file: header, entries and images, laid out as above.
+std::vector<std::uint8_t> composeWholeFile(IconArrays& arrays);
+// Writes header, entries and images to a file, laid out as above. When `read` is given, the file must still be that
+// version. Returns what writeFile returns.
+[[nodiscard]] WriteDefect writeWholeFile(IconArrays& arrays, const std::string& path,
+                                         const std::optional<FileVersion>& read = std::nullopt);
+// Writes the file that the arrays were read from, if it is still what was read.
+[[nodiscard]] WriteDefect writeBack(IconArrays& arrays, const std::string& path);
 
 }  // namespace gp

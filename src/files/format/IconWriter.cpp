@@ -4,7 +4,7 @@
 #include "files/format/IcoLayout.h"
 #include "files/format/IconRows.h"
 #include "platform/files/ByteWriter.h"
-#include "platform/files/Files.h"
+#include "platform/files/FileWriting.h"
 
 namespace gp {
 namespace {

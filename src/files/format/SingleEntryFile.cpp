@@ -4,13 +4,26 @@
 
 namespace gp {
 
-bool saveEntryToSingleFile(const IconArrays& arrays, int index, const std::string& path) {
+namespace {
+
+IconArrays singleEntry(const IconArrays& arrays, int index) {
   const auto at = static_cast<std::size_t>(index);
   IconArrays single;
   single.type = ico::kTypeIcon;
   single.entries.push_back(arrays.entries.at(at));
   single.images.push_back(arrays.images.at(at));
-  return writeWholeFile(single, path, {});
+  return single;
+}
+
+}  // namespace
+
+std::vector<std::uint8_t> composeSingleEntryFile(const IconArrays& arrays, int index) {
+  IconArrays single = singleEntry(arrays, index);
+  return composeWholeFile(single);
+}
+
+bool saveEntryToSingleFile(const IconArrays& arrays, int index, const std::string& path) {
+  return replaceFile(path, composeSingleEntryFile(arrays, index));
 }
 
 }  // namespace gp

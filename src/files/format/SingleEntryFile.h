@@ -4,11 +4,15 @@
 
 #include "files/format/IconArrays.h"
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 namespace gp {
 
-// Replaces an existing file at `path`. Returns false on failure, see replaceFile. The index must be valid.
+// The bytes of that file. The index must be valid.
+std::vector<std::uint8_t> composeSingleEntryFile(const IconArrays& arrays, int index);
+// Writes it, replacing an existing file. Returns false on failure, see replaceFile.
 [[nodiscard]] bool saveEntryToSingleFile(const IconArrays& arrays, int index, const std::string& path);
 
 }  // namespace gp

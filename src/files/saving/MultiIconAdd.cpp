@@ -124,9 +124,7 @@ std::string MultiIconAdd::askForOtherFile(const std::string& path) {
 bool MultiIconAdd::copyFile(const std::string& from, const std::string& to) {
   const auto bytes = readFile(from);
   if (!bytes) return fail(targetNotReadText(from, ArraysDefect::NotReadable));
-  const FileBytes former = contentToPutBack(to);
-  const std::array pieces{bytes->span()};
-  if (!rewriteFile(to, pieces, former.span())) return fail(notWrittenText(to, SaveInto::Add));
+  if (!replaceFile(to, bytes->span())) return fail(notWrittenText(to, SaveInto::Add));
   context_.pump.pump();
   return true;
 }
@@ -150,7 +148,7 @@ bool MultiIconAdd::insertEntry(int index, const std::string& target) {
 
 bool MultiIconAdd::write(IconArrays& arrays, const std::string& target) {
   const Hourglass hourglass(context_);
-  return writeWholeFile(arrays, target, arrays.file.span());
+  return writeBack(arrays, target) == WriteDefect::None;
 }
 
 bool MultiIconAdd::readTarget(int index, const std::string& target, IconArrays& arrays) {

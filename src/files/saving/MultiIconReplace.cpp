@@ -125,8 +125,7 @@ bool MultiIconReplace::readOriginalAgain() {
 bool MultiIconReplace::write(const std::string& path) {
   const Hourglass hourglass(context_);
   const bool isOriginal = isSameFile(path, original_);
-  const FileBytes other = isOriginal ? FileBytes() : contentToPutBack(path);
-  return writeWholeFile(arrays_, path, isOriginal ? arrays_.file.span() : other.span());
+  return (isOriginal ? writeBack(arrays_, path) : writeWholeFile(arrays_, path)) == WriteDefect::None;
 }
 
 void MultiIconReplace::describeSaved(const std::string& path) {

@@ -10,9 +10,6 @@ namespace gp {
 
 // Ends all unfinished input on the Current Icon, and updates its container.
 void finishCurrentIcon(FilesContext& context);
-// The content of a file that is about to be overwritten, if it fits into memory beside the new content; otherwise
-// empty.
-FileBytes contentToPutBack(const std::string& path);
 // Reports a failure with an exclamation mark; refusals have none.
 void tellFailure(FilesContext& context, const std::string& text);
 

@@ -3,6 +3,7 @@
 #include "platform/files/BitmapLayout.h"
 #include "platform/files/ByteReader.h"
 #include "platform/files/ByteWriter.h"
+#include "platform/files/FileWriting.h"
 #include "platform/files/Files.h"
 
 #include <algorithm>

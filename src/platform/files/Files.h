@@ -1,6 +1,8 @@
-// File access: files are read whole and written at once from memory. Paths are UTF-8 or any other bytes that the system
-// allows. Only regular files are opened, so a pipe or a device cannot block a reader.
+// Reading files and folders. Paths are UTF-8 or any other bytes that the system allows. Only regular files are read,
+// and opening one never blocks, so a pipe or a device cannot hold a reader up. FileWriting.h writes.
 #pragma once
+
+#include "platform/files/FileVersion.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -23,12 +25,16 @@ class FileBytes {
 
   FileBytes() = default;
   explicit FileBytes(std::span<const std::uint8_t> bytes);
-  FileBytes(Memory bytes, std::size_t size) : bytes_(std::move(bytes)), size_(size) {}
+  FileBytes(Memory bytes, std::size_t size, const FileVersion& version)
+      : bytes_(std::move(bytes)), size_(size), version_(version) {}
   std::span<const std::uint8_t> span() const { return {bytes_.get(), size_}; }
+  // Of the file that was read; nullopt for bytes from elsewhere.
+  const std::optional<FileVersion>& version() const { return version_; }
 
  private:
   Memory bytes_;
   std::size_t size_ = 0;
+  std::optional<FileVersion> version_;
 };
 
 // The bytes [begin, end) of a file.
@@ -37,30 +43,20 @@ struct FileRange {
   std::uint64_t end = 0;
 };
 
-// Returns the whole file; nullopt when it is not a regular file, cannot be read, or exceeds 256 MB.
+// No file that is read or written whole is larger: larger than any icon file and nearly any program, and still read in
+// a fraction of a second.
+inline constexpr std::uint64_t kMaxFileBytes = std::uint64_t{256} << 20;
+
+// Returns the whole file; nullopt when it is not a regular file, cannot be read, or exceeds kMaxFileBytes.
 std::optional<FileBytes> readFile(const std::string& path);
-// Returns the first `count` bytes of a file, fewer if the file is shorter and 256 MB at most. nullopt when it is not a
-// regular file or cannot be read.
+// The same for a file that is open for reading, from its start.
+std::optional<FileBytes> readOpenFile(int file);
+// Returns the first `count` bytes of a file, fewer if the file is shorter and kMaxFileBytes at most. nullopt when it is
+// not a regular file or cannot be read.
 std::optional<FileBytes> readFileStart(const std::string& path, std::size_t count);
 // Reads only the given ranges, which must be ascending and disjoint. Returns the bytes up to the end of the last range
 // or of the file; unread bytes are zero and use no memory. nullopt as for readFileStart.
 std::optional<FileBytes> readFileRanges(const std::string& path, std::span<const FileRange> ranges);
-// Writes a file, replacing the content of an existing one; permissions and links are kept. Returns false, without
-// touching the file, when it is not a regular file, is read-only (no write permission for its owner) or cannot be
-// opened. Returns false after removing the file when writing fails.
-[[nodiscard]] bool replaceFile(const std::string& path, std::span<const std::uint8_t> bytes);
-// The result of writing a file; converts to true when all bytes were written.
-struct WriteOutcome {
-  bool opened = false;  // false: the existing file was not touched
-  bool whole = false;
-  operator bool() const { return whole; }
-};
-// Like replaceFile, for content in pieces, 256 MB in total at most. A file that cannot grow to the new size keeps its
-// content. After any other failure `former` is written back; when `former` is empty, which means that the former
-// content is unknown, the file is removed.
-[[nodiscard]] WriteOutcome rewriteFile(const std::string& path, std::span<const std::span<const std::uint8_t>> pieces,
-                                       std::span<const std::uint8_t> former);
-
 // Returns true when the path is a regular file that can be opened for reading.
 bool FileExists(const std::string& path);
 bool directoryExists(const std::string& path);
@@ -72,13 +68,5 @@ bool HasFileAttribute(const std::string& path);
 std::vector<std::string> filesInFolder(const std::string& folder, const std::string& pattern);
 // Returns the names of the folders directly in a folder, sorted in the same way.
 std::vector<std::string> foldersInFolder(const std::string& folder);
-
-// Returns the folder of the program's settings files, without a trailing separator: the executable's folder if it is
-// writable, otherwise "$XDG_CONFIG_HOME/Glimmerpane" (or "~/.config/Glimmerpane"), created if missing.
-std::string programFolder();
-// Makes the same choice among given folders; an empty folder means an unset variable. Without an absolute configuration
-// folder it returns the executable's folder. Creates the folder that it returns.
-std::string chooseProgramFolder(const std::string& executableFolder, const std::string& configHome,
-                                const std::string& home);
 
 }  // namespace gp

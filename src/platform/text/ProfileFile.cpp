@@ -1,186 +1,75 @@
 #include "platform/text/ProfileFile.h"
 
+#include "platform/files/FileWriting.h"
 #include "platform/files/Files.h"
-#include "platform/text/Utf8.h"
+#include "platform/text/ProfileText.h"
 
-#include <algorithm>
 #include <cstdint>
-#include <span>
-#include <vector>
+#include <utility>
 
 namespace gp {
 namespace {
 
 constexpr std::size_t kMaxProfileBytes = std::size_t{1} << 20;
 constexpr std::size_t kMaxValueBytes = 2047;  // a buffer of 2048 bytes with its terminator
-constexpr std::string_view kWhite = " \t\v\f\r";
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
-std::string_view trimWhite(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(kWhite);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kWhite) + 1 - first);
-}
-
-std::string_view withoutQuotes(std::string_view value) {
-  const bool quoted =
-      value.size() >= 2 && (value.front() == '"' || value.front() == '\'') && value.front() == value.back();
-  return quoted ? value.substr(1, value.size() - 2) : value;
-}
-
-// Returns the name of the section that a line starts, nullopt for other lines.
-std::optional<std::string_view> sectionOf(std::string_view line) {
-  if (line.empty() || line.front() != '[') return std::nullopt;
-  return trimWhite(line.substr(1, line.find(']') - 1));
-}
-
-struct KeyAndValue {
-  std::string_view key, value;
-};
-
-std::optional<KeyAndValue> keyAndValueOf(std::string_view line) {
-  const std::size_t equals = line.find('=');
-  if (equals == std::string_view::npos || line.front() == ';') return std::nullopt;
-  return KeyAndValue{trimWhite(line.substr(0, equals)), withoutQuotes(trimWhite(line.substr(equals + 1)))};
-}
-
-// One line of the text: its trimmed content, and the range of its bytes including the line end.
-struct Line {
-  std::string_view content;
-  std::size_t start, end;
-};
-
-// Returns the line that starts at a position.
-Line lineAt(std::string_view text, std::size_t start) {
-  const std::size_t lineFeed = text.find('\n', start);
-  const std::size_t end = lineFeed == std::string_view::npos ? text.size() : lineFeed + 1;
-  const std::size_t contentEnd = lineFeed == std::string_view::npos ? end : lineFeed;
-  return {trimWhite(text.substr(start, contentEnd - start)), start, end};
-}
-
-// The position of a section and a key in the text, as far as they exist.
-struct Place {
-  bool hasSection = false;
-  std::size_t sectionEnd = 0;  // after the section's last line that is not blank
-  std::optional<Line> line;    // the line of the key
-  std::string_view value;
-};
-
-std::size_t textStart(std::string_view text) {
-  return text.substr(0, kByteOrderMark.size()) == kByteOrderMark ? kByteOrderMark.size() : 0;
-}
-
-// Only the first section with that name is searched, as in the platform's functions.
-Place find(std::string_view text, std::string_view section, std::string_view key) {
-  Place place;
-  for (std::size_t start = textStart(text); start < text.size();) {
-    const Line line = lineAt(text, start);
-    start = line.end;
-    if (const auto name = sectionOf(line.content)) {
-      if (place.hasSection) break;
-      place.hasSection = equalAnyCase(*name, section);
-    }
-    if (!place.hasSection || line.content.empty()) continue;
-    place.sectionEnd = line.end;
-    const auto pair = keyAndValueOf(line.content);
-    if (!pair || !equalAnyCase(pair->key, key)) continue;
-    place.line = line;
-    place.value = pair->value;
-    break;
-  }
-  return place;
-}
-
-bool isTooLarge(std::size_t size) { return size > kMaxProfileBytes; }
 
 // Returns an empty text for an absent file, nullopt for a file that is too large to be a profile file.
-std::optional<std::string> load(const std::string& file) {
-  const auto bytes = readFileStart(file, kMaxProfileBytes + 1);
+std::optional<std::string> load(const std::string& path) {
+  const auto bytes = readFileStart(path, kMaxProfileBytes + 1);
   if (!bytes) return std::string();
   const auto span = bytes->span();
-  if (isTooLarge(span.size())) return std::nullopt;
-  return std::string(span.begin(), span.end());
-}
-
-bool store(const std::string& file, const std::string& text) {
-  return replaceFile(file, {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
-}
-
-// Returns the line end of the file's first line, which added lines use as well.
-std::string_view lineEndOf(std::string_view text) {
-  const std::size_t lineFeed = text.find('\n');
-  return lineFeed != std::string_view::npos && lineFeed > 0 && text[lineFeed - 1] == '\r' ? "\r\n" : "\n";
-}
-
-void append(std::string& target, std::string_view part) { target.append(part.data(), part.size()); }
-
-// Inserts a line at a position that is the start of a line or the end of the text.
-void insertLine(std::string& text, std::size_t at, const std::string& line) {
-  const std::string lineEnd(lineEndOf(text));
-  const bool isOpen = at > textStart(text) && text[at - 1] != '\n';
-  text.insert(at, (isOpen ? lineEnd : std::string()) + line + lineEnd);
-}
-
-void addSection(std::string& text, std::string_view section) {
-  std::string line = "[";
-  append(line, section);
-  insertLine(text, text.size(), line + "]");
-}
-
-std::size_t contentEndOf(std::string_view text, const Line& line) {
-  const std::size_t last = text.substr(line.start, line.end - line.start).find_last_not_of("\r\n");
-  return last == std::string_view::npos ? line.start : line.start + last + 1;
-}
-
-void setValue(std::string& text, std::string_view section, std::string_view key, std::string_view value) {
-  std::string line(key);
-  line += '=';
-  append(line, value);
-  Place place = find(text, section, key);
-  if (place.line) {
-    text.replace(place.line->start, contentEndOf(text, *place.line) - place.line->start, line);
-    return;
-  }
-  if (!place.hasSection) {
-    addSection(text, section);
-    place.sectionEnd = text.size();
-  }
-  insertLine(text, place.sectionEnd, line);
+  return span.size() > kMaxProfileBytes ? std::nullopt : std::optional(std::string(span.begin(), span.end()));
 }
 
 }  // namespace
 
-bool fitsInIni(std::string_view value) {
-  return value.size() <= kMaxValueBytes && value.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos;
+ProfileFile::ProfileFile(std::string path) : path_(std::move(path)) {
+  auto text = load(path_);
+  isWritable_ = text.has_value();
+  text_ = std::move(text).value_or(std::string());
+  saved_ = text_;
 }
 
-std::optional<std::string> findIniString(std::string_view section, std::string_view key, const std::string& file) {
-  const auto text = load(file);
-  if (!text) return std::nullopt;
-  const Place place = find(*text, section, key);
-  if (!place.line) return std::nullopt;
-  return std::string(place.value.substr(0, kMaxValueBytes));
+std::optional<std::string> ProfileFile::find(std::string_view section, std::string_view key) const {
+  return findValue(text_, section, key);
+}
+
+std::string ProfileFile::read(std::string_view section, std::string_view key, std::string_view fallback) const {
+  return find(section, key).value_or(std::string(fallback.substr(0, kMaxValueBytes)));
+}
+
+void ProfileFile::write(std::string_view section, std::string_view key, std::string_view value) {
+  if (fitsInIni(value))
+    setValue(text_, section, key, value);
+  else
+    isWritable_ = false;
+}
+
+void ProfileFile::remove(std::string_view section, std::string_view key) { removeValue(text_, section, key); }
+
+bool ProfileFile::save() {
+  if (!isWritable_ || text_.size() > kMaxProfileBytes) return false;
+  if (text_ == saved_) return true;
+  if (!replacePrivateFile(path_, {reinterpret_cast<const std::uint8_t*>(text_.data()), text_.size()})) return false;
+  saved_ = text_;
+  return true;
 }
 
 std::string ReadIniString(std::string_view section, std::string_view key, std::string_view fallback,
                           const std::string& file) {
-  return findIniString(section, key, file).value_or(std::string(fallback.substr(0, kMaxValueBytes)));
+  return ProfileFile(file).read(section, key, fallback);
 }
 
 bool WriteIniString(std::string_view section, std::string_view key, std::string_view value, const std::string& file) {
-  auto text = fitsInIni(value) ? load(file) : std::nullopt;
-  if (!text) return false;
-  setValue(*text, section, key, value);
-  return !isTooLarge(text->size()) && store(file, *text);
+  ProfileFile profile(file);
+  profile.write(section, key, value);
+  return profile.save();
 }
 
 bool DeleteIniKey(std::string_view section, std::string_view key, const std::string& file) {
-  auto text = load(file);
-  if (!text) return false;
-  const Place place = find(*text, section, key);
-  if (!place.line) return true;
-  text->erase(place.line->start, place.line->end - place.line->start);
-  return store(file, *text);
+  ProfileFile profile(file);
+  profile.remove(section, key);
+  return profile.save();
 }
 
 }  // namespace gp

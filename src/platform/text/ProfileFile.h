@@ -1,6 +1,5 @@
-// Settings files in profile format: sections in brackets, then lines of key, equals sign and value. Writing preserves
-// all other content of the file: other sections and keys, comments, blank lines, order and line ends. A file above 1 MB
-// is not a settings file: it reads as empty and is not written.
+// A settings file in profile format; see ProfileText.h. A file above 1 MB is not a settings file: it reads as empty and
+// is not written.
 #pragma once
 
 #include <optional>
@@ -9,18 +8,35 @@
 
 namespace gp {
 
-// Returns the value of a key, at most 2047 bytes; `fallback` when the key or the file is missing. Section and key are
-// compared in any case. Quotes around a value are removed.
+// One reading of a settings file, and changes that are written together.
+class ProfileFile {
+ public:
+  // Reads the file, which may be absent.
+  explicit ProfileFile(std::string path);
+
+  // Returns the value of a key, at most 2047 bytes; `fallback`, cut to the same length, without the key or the file.
+  std::string read(std::string_view section, std::string_view key, std::string_view fallback = {}) const;
+  std::optional<std::string> find(std::string_view section, std::string_view key) const;
+
+  // A value that does not fit on a line makes save return false.
+  void write(std::string_view section, std::string_view key, std::string_view value);
+  void remove(std::string_view section, std::string_view key);
+
+  // Writes the file if there are changes, for its owner only. Returns false when nothing or not everything was written.
+  [[nodiscard]] bool save();
+
+ private:
+  std::string path_;
+  std::string text_;
+  std::string saved_;  // the text in the file
+  bool isWritable_;
+};
+
+// The same for one value.
 std::string ReadIniString(std::string_view section, std::string_view key, std::string_view fallback,
                           const std::string& file);
-// The same, but returns nullopt for an absent key.
-std::optional<std::string> findIniString(std::string_view section, std::string_view key, const std::string& file);
-// Returns true when a value fits on a line: it has no line break or NUL, and at most 2047 bytes.
-bool fitsInIni(std::string_view value);
-// Writes a value; creates a missing section or file. Blanks or quotes around the value are not read back. Returns false
-// and changes nothing when the file cannot be written or the value does not fit on a line.
-bool WriteIniString(std::string_view section, std::string_view key, std::string_view value, const std::string& file);
-// Removes a key. Returns false when the file cannot be written; a missing key is a success.
-bool DeleteIniKey(std::string_view section, std::string_view key, const std::string& file);
+[[nodiscard]] bool WriteIniString(std::string_view section, std::string_view key, std::string_view value,
+                                  const std::string& file);
+[[nodiscard]] bool DeleteIniKey(std::string_view section, std::string_view key, const std::string& file);
 
 }  // namespace gp

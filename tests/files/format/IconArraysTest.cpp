@@ -107,7 +107,7 @@ TEST_F(IconArraysTest, ImagesMayOverlapOrStandInTheDirectoryOrBeEmpty) {
 TEST_F(IconArraysTest, AFileLaidOutInDirectoryOrderIsWrittenAsItWas) {
   const Bytes bytes = build(threeIcons());
   ASSERT_EQ(parse(bytes, arrays), ArraysDefect::None);
-  EXPECT_TRUE(writeWholeFile(arrays, folder.path("out.ico"), {}));
+  EXPECT_EQ(writeWholeFile(arrays, folder.path("out.ico")), WriteDefect::None);
   EXPECT_EQ(bytesOf(folder.path("out.ico")), bytes);
 }
 
@@ -119,7 +119,7 @@ TEST_F(IconArraysTest, EveryFieldOfHeaderAndEntriesIsWrittenAsItWasRead) {
   bytes[6 + 16 + 4] = 200;  // planes
   bytes[6 + 16 + 7] = 3;    // bit count, high byte
   ASSERT_EQ(parse(bytes, arrays, ReservedField::Any), ArraysDefect::None);
-  EXPECT_TRUE(writeWholeFile(arrays, folder.path("out.ico"), {}));
+  EXPECT_EQ(writeWholeFile(arrays, folder.path("out.ico")), WriteDefect::None);
   EXPECT_EQ(bytesOf(folder.path("out.ico")), bytes);
 }
 
@@ -136,7 +136,7 @@ TEST_F(IconArraysTest, ScatteredImagesAreWrittenOneBehindTheOther) {
   for (const std::size_t i : {2u, 1u, 0u}) append(bytes, scattered.entries[i].image);
   append(bytes, {'j', 'u', 'n', 'k'});
   ASSERT_EQ(parse(bytes, arrays), ArraysDefect::None);
-  EXPECT_TRUE(writeWholeFile(arrays, folder.path("out.ico"), {}));
+  EXPECT_EQ(writeWholeFile(arrays, folder.path("out.ico")), WriteDefect::None);
   EXPECT_EQ(bytesOf(folder.path("out.ico")), build(threeIcons()));
 }
 
@@ -144,11 +144,11 @@ TEST_F(IconArraysTest, MoreEntriesThanAFileCanTellAreNotWritten) {
   arrays.type = 1;
   arrays.entries.resize(0x10000);
   arrays.images.resize(0x10000);
-  EXPECT_FALSE(writeWholeFile(arrays, folder.path("out.ico"), {}));
+  EXPECT_EQ(writeWholeFile(arrays, folder.path("out.ico")), WriteDefect::NotOpened);
   EXPECT_FALSE(fs::exists(folder.path("out.ico")));
   arrays.entries.pop_back();
   arrays.images.pop_back();
-  EXPECT_TRUE(writeWholeFile(arrays, folder.path("out.ico"), {}));
+  EXPECT_EQ(writeWholeFile(arrays, folder.path("out.ico")), WriteDefect::None);
   EXPECT_EQ(fs::file_size(folder.path("out.ico")), 6u + 0xFFFFu * 16);
 }
 
@@ -157,7 +157,7 @@ TEST_F(IconArraysTest, SharedBytesThatWouldUnfoldBeyondAnyFileAreNotWritten) {
   ASSERT_EQ(parse(bytes, arrays), ArraysDefect::None);
   arrays.entries.resize(0xFFFF, arrays.entries[0]);
   arrays.images.resize(0xFFFF, arrays.images[0]);
-  EXPECT_FALSE(writeWholeFile(arrays, folder.path("out.ico"), {}));
+  EXPECT_EQ(writeWholeFile(arrays, folder.path("out.ico")), WriteDefect::NotOpened);
   EXPECT_FALSE(fs::exists(folder.path("out.ico")));
 }
 
@@ -170,9 +170,7 @@ TEST_F(IconArraysTest, AWriteThatFailsLeavesTheFormerFile) {
   arrays.entries[0].bytesInRes = static_cast<std::uint32_t>(large.size());
   {
     const FullDisk full(20000);
-    const WriteOutcome outcome = writeWholeFile(arrays, path, arrays.file.span());
-    EXPECT_TRUE(outcome.opened);
-    EXPECT_FALSE(outcome.whole);
+    EXPECT_EQ(writeBack(arrays, path), WriteDefect::NotWritten);
   }
   EXPECT_EQ(bytesOf(path), bytes);
 }

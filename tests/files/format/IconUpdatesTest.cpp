@@ -36,7 +36,7 @@ class IconUpdatesTest : public testing::Test {
     ASSERT_EQ(takeIconArrays(iconFileOf(bytes), ReservedField::MustBeZero, arrays), ArraysDefect::None);
   }
   Bytes written() {
-    EXPECT_TRUE(writeWholeFile(arrays, folder.path("out.ico"), {}));
+    EXPECT_EQ(writeWholeFile(arrays, folder.path("out.ico")), WriteDefect::None);
     return bytesOf(folder.path("out.ico"));
   }
   std::vector<std::uint32_t> offsets() {
@@ -121,7 +121,7 @@ TEST_F(IconUpdatesTest, TheFormerFileMayBeOverwrittenWithItsOwnImages) {
   const std::string path = folder.write("a.ico", build(fileOf({iconOf(32, 4), iconOf(16, 4), iconOf(48, 8)})));
   ASSERT_EQ(readIconArrays(path, ReservedField::MustBeZero, arrays), ArraysDefect::None);
   reorderImages(arrays, std::vector{1, 2, 0});
-  EXPECT_TRUE(writeWholeFile(arrays, path, arrays.file.span()));
+  EXPECT_EQ(writeBack(arrays, path), WriteDefect::None);
   EXPECT_EQ(bytesOf(path), build(fileOf({iconOf(16, 4), iconOf(48, 8), iconOf(32, 4)})));
 }
 

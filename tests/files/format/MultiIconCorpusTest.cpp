@@ -81,7 +81,7 @@ IconArrays copyOf(const CorpusFile& file) {
 }
 
 IconArrays writtenAndRead(IconArrays& arrays, const std::string& path) {
-  EXPECT_TRUE(writeWholeFile(arrays, path, {}));
+  EXPECT_EQ(writeWholeFile(arrays, path), WriteDefect::None);
   IconArrays again;
   EXPECT_EQ(readIconArrays(path, ReservedField::Any, again), ArraysDefect::None);
   return again;

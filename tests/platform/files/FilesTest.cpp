@@ -1,5 +1,5 @@
+#include "platform/files/FileWriting.h"
 #include "platform/files/Files.h"
-#include "support/FullDisk.h"
 #include "support/ProcessUse.h"
 #include "support/TempFolder.h"
 
@@ -18,10 +18,6 @@ void makePipe(const std::string& path) { ASSERT_EQ(std::system(("mkfifo '" + pat
 
 std::string textOf(const std::optional<FileBytes>& bytes) {
   return bytes ? std::string(bytes->span().begin(), bytes->span().end()) : "nothing";
-}
-
-bool replaceWith(const std::string& path, std::string_view text) {
-  return replaceFile(path, {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
 }
 
 class Files : public testing::Test {
@@ -115,7 +111,7 @@ TEST_F(Files, NamesNeedNotBeUtf8) {
   const std::string path = folder_.write(name, "content");
   EXPECT_EQ(textOf(readFile(path)), "content");
   EXPECT_TRUE(FileExists(path));
-  EXPECT_TRUE(replaceWith(path, "new"));
+  EXPECT_TRUE(replaceFile(path, {}));
   EXPECT_EQ(filesInFolder(folder_.path(), "*.ico"), std::vector<std::string>{name});
 }
 
@@ -123,142 +119,6 @@ TEST_F(Files, BytesCanBeMadeFromAVector) {
   const FileBytes bytes(std::vector<std::uint8_t>{1, 2, 3});
   EXPECT_EQ(textOf(FileBytes(std::vector<std::uint8_t>{'a', 'b'})), "ab");
   EXPECT_EQ(bytes.span().size(), 3u);
-}
-
-TEST_F(Files, ReplacingLeavesNothingOfALongerFile) {
-  const std::string path = folder_.write("a", "a long content");
-  EXPECT_TRUE(replaceWith(path, "new"));
-  EXPECT_EQ(folder_.read("a"), "new");
-  EXPECT_TRUE(replaceWith(path, ""));
-  EXPECT_EQ(fs::file_size(path), 0u);
-}
-
-TEST_F(Files, ReplacingMakesANewFile) {
-  EXPECT_TRUE(replaceWith(folder_.file("new"), "x"));
-  EXPECT_EQ(folder_.read("new"), "x");
-}
-
-TEST_F(Files, AReadOnlyFileIsNotReplacedEvenForRoot) {
-  const std::string path = folder_.write("a", "old");
-  fs::permissions(path, fs::perms::owner_read);
-  EXPECT_FALSE(replaceWith(path, "new"));
-  EXPECT_EQ(folder_.read("a"), "old");
-}
-
-TEST_F(Files, FoldersPipesAndImpossibleNamesAreNotReplaced) {
-  makePipe(folder_.file("pipe"));
-  EXPECT_FALSE(replaceWith(folder_.path(), "new"));
-  EXPECT_FALSE(replaceWith(folder_.file("pipe"), "new"));
-  EXPECT_FALSE(replaceWith("/dev/full", "new"));
-  EXPECT_FALSE(replaceWith(folder_.file("absent/a"), "new"));
-  EXPECT_FALSE(replaceWith(folder_.file(std::string(300, 'n')), "new"));
-  EXPECT_TRUE(directoryExists(folder_.path()));
-}
-
-TEST_F(Files, AWriteThatFailsLeavesNoPartOfTheFile) {
-  const std::string path = folder_.write("a", "old");
-  const std::string content(100000, 'x');
-  {
-    const test::FullDisk full(1000);
-    EXPECT_FALSE(replaceWith(path, content));
-    EXPECT_FALSE(fs::exists(path));
-    EXPECT_TRUE(replaceWith(path, "small"));
-  }
-  EXPECT_TRUE(replaceWith(path, content));
-}
-
-std::span<const std::uint8_t> bytesOf(std::string_view text) {
-  return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
-}
-
-WriteOutcome rewriteWith(const std::string& path, std::string_view text, std::string_view former) {
-  const std::size_t half = text.size() / 2;
-  const std::vector pieces{bytesOf(text.substr(0, half)), bytesOf(""), bytesOf(text.substr(half))};
-  return rewriteFile(path, pieces, bytesOf(former));
-}
-
-TEST_F(Files, RewritingPutsThePiecesOneBehindTheOther) {
-  for (const std::string content : {"longer than before", "short", ""}) {
-    const std::string path = folder_.write("a", "of ten let");
-    const WriteOutcome outcome = rewriteWith(path, content, "of ten let");
-    EXPECT_TRUE(outcome.opened && outcome.whole) << content;
-    EXPECT_EQ(folder_.read("a"), content);
-  }
-}
-
-TEST_F(Files, RewritingMakesANewFile) {
-  EXPECT_TRUE(rewriteWith(folder_.file("new"), "content", ""));
-  EXPECT_EQ(folder_.read("new"), "content");
-}
-
-TEST_F(Files, RewritingKeepsPermissionsAndEveryLink) {
-  const std::string path = folder_.write("a", "old");
-  fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
-  fs::create_hard_link(path, folder_.file("hard"));
-  fs::create_symlink(path, folder_.file("soft"));
-  EXPECT_TRUE(rewriteWith(folder_.file("soft"), "content", "old"));
-  EXPECT_EQ(folder_.read("hard"), "content");
-  EXPECT_TRUE(fs::is_symlink(folder_.file("soft")));
-  EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_read | fs::perms::owner_write);
-}
-
-TEST_F(Files, WhatCannotBeOpenedForRewritingStaysAsItWas) {
-  const std::string path = folder_.write("a", "old");
-  fs::permissions(path, fs::perms::owner_read);
-  makePipe(folder_.file("pipe"));
-  for (const std::string& target : {path, folder_.file("pipe"), folder_.path(), folder_.file("absent/a")}) {
-    const WriteOutcome outcome = rewriteWith(target, "new", "old");
-    EXPECT_FALSE(outcome.opened || outcome.whole) << target;
-  }
-  EXPECT_EQ(folder_.read("a"), "old");
-}
-
-TEST_F(Files, ARewritingWithoutRoomToGrowLeavesTheFileAsItWas) {
-  const std::string old(2000, 'o');
-  const std::string path = folder_.write("a", old);
-  for (const std::string& former : {old, std::string()}) {
-    const test::FullDisk full(50000);
-    const WriteOutcome outcome = rewriteWith(path, std::string(100000, 'n'), former);
-    EXPECT_TRUE(outcome.opened);
-    EXPECT_FALSE(outcome.whole);
-    EXPECT_EQ(folder_.read("a"), old);
-  }
-}
-
-TEST_F(Files, ARewritingThatFailsMidwayPutsTheFormerContentBack) {
-  const std::string old(100000, 'o');
-  const std::string path = folder_.write("a", old);
-  const test::FullDisk full(50000);
-  EXPECT_FALSE(rewriteWith(path, std::string(80000, 'n'), old));
-  EXPECT_TRUE(folder_.read("a") == old);
-}
-
-TEST_F(Files, ARewritingThatFailsWithAnUnknownContentLeavesNone) {
-  const std::string path = folder_.write("a", std::string(100000, 'o'));
-  const test::FullDisk full(50000);
-  EXPECT_FALSE(rewriteWith(path, std::string(80000, 'n'), ""));
-  EXPECT_FALSE(fs::exists(path));
-}
-
-TEST_F(Files, ANewFileWithoutRoomIsNotLeftInPart) {
-  const test::FullDisk full(1000);
-  const WriteOutcome outcome = rewriteWith(folder_.file("new"), std::string(100000, 'n'), "");
-  EXPECT_TRUE(outcome.opened);
-  EXPECT_FALSE(outcome.whole);
-  EXPECT_FALSE(fs::exists(folder_.file("new")));
-}
-
-TEST_F(Files, OnAFullDiskAFileThatShouldGrowStaysAsItWas) {
-  const std::string folder = folder_.makeFolder("disk");
-  const test::SmallDisk disk(folder);
-  if (!disk.isMounted()) GTEST_SKIP() << "only root can mount a disk";
-  const std::string old(5000, 'o');
-  const std::string path = folder_.write("disk/a", old);
-  disk.fillUpTo(4096);
-  EXPECT_FALSE(rewriteWith(path, std::string(20000, 'n'), old));
-  EXPECT_EQ(folder_.read("disk/a"), old);
-  EXPECT_TRUE(rewriteWith(path, std::string(5000, 'n'), old)) << "what is no larger finds its room";
-  EXPECT_EQ(folder_.read("disk/a"), std::string(5000, 'n'));
 }
 
 TEST_F(Files, AFileIsTheSameBySpellingAndByLinks) {
@@ -271,16 +131,6 @@ TEST_F(Files, AFileIsTheSameBySpellingAndByLinks) {
   EXPECT_FALSE(isSameFile(path, other));
   EXPECT_FALSE(isSameFile(folder_.file("none"), folder_.file("none"))) << "what is not there is no file";
   EXPECT_FALSE(isSameFile("", path));
-}
-
-TEST_F(Files, ReplacingKeepsPermissionsAndFollowsLinks) {
-  const std::string path = folder_.write("a", "old");
-  fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
-  fs::create_symlink(path, folder_.file("link"));
-  EXPECT_TRUE(replaceWith(folder_.file("link"), "new"));
-  EXPECT_TRUE(fs::is_symlink(folder_.file("link")));
-  EXPECT_EQ(folder_.read("a"), "new");
-  EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_read | fs::perms::owner_write);
 }
 
 TEST_F(Files, OnlyRegularFilesExist) {
@@ -314,32 +164,6 @@ TEST_F(Files, AFolderListsItsFolders) {
   for (const char* name : {"b", "A", "c"}) folder_.makeFolder(name);
   folder_.write("file");
   EXPECT_EQ(foldersInFolder(folder_.path()), (std::vector<std::string>{"A", "b", "c"}));
-}
-
-TEST_F(Files, AWritableExecutableFolderIsTheProgramFolder) {
-  const std::string bin = folder_.makeFolder("bin");
-  EXPECT_EQ(chooseProgramFolder(bin, folder_.file("config"), ""), bin);
-  EXPECT_TRUE(fs::is_empty(bin));
-  EXPECT_FALSE(directoryExists(folder_.file("config")));
-}
-
-TEST_F(Files, AnUnwritableExecutableFolderGivesWayToTheConfigFolder) {
-  const std::string absent = folder_.file("bin");
-  EXPECT_EQ(chooseProgramFolder(absent, folder_.file("config"), folder_.file("home")),
-            folder_.file("config/Glimmerpane"));
-  EXPECT_TRUE(directoryExists(folder_.file("config/Glimmerpane")));
-  EXPECT_EQ(chooseProgramFolder(absent, "", folder_.file("home")), folder_.file("home/.config/Glimmerpane"));
-  EXPECT_TRUE(directoryExists(folder_.file("home/.config/Glimmerpane")));
-}
-
-TEST_F(Files, WithoutAnyOtherFolderTheExecutablesFolderStays) {
-  EXPECT_EQ(chooseProgramFolder("/proc", "", ""), "/proc");
-  EXPECT_EQ(chooseProgramFolder("/proc", "relative", ""), "/proc");
-}
-
-TEST_F(Files, TheProgramFolderIsThereAndHasNoTrailingSeparator) {
-  EXPECT_TRUE(directoryExists(programFolder()));
-  EXPECT_NE(programFolder().back(), '/');
 }
 
 }  // namespace

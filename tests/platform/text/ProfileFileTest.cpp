@@ -39,8 +39,8 @@ TEST_F(ProfileFile, AMissingKeySectionOrFileGivesTheFallback) {
 TEST_F(ProfileFile, AnEmptyValueIsNotAnAbsentKey) {
   have("[S]\nEmpty=\n");
   EXPECT_EQ(value("S", "Empty"), "");
-  EXPECT_EQ(findIniString("S", "Empty", file_), "");
-  EXPECT_EQ(findIniString("S", "Absent", file_), std::nullopt);
+  EXPECT_EQ(gp::ProfileFile(file_).find("S", "Empty"), "");
+  EXPECT_EQ(gp::ProfileFile(file_).find("S", "Absent"), std::nullopt);
 }
 
 TEST_F(ProfileFile, QuotesAroundAValueAreTakenOff) {
