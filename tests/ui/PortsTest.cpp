@@ -1,4 +1,5 @@
 // The ports on the desktop: boxes and dialogs as they are shown, the machine, and real processes.
+#include "platform/files/ProgramFolders.h"
 #include "platform/qt/Accessibility.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/ProcessTable.h"
@@ -355,11 +356,13 @@ class Sleeper {
   QProcess process_;
 };
 
-TEST(QtProcesses, ARunningProgramIsFoundByTheEndOfItsPathInAnyCase) {
+TEST(QtProcesses, ARunningProgramIsFoundByItsWholeFileNameInAnyCase) {
   const test::TempFolder folder;
   QtProcesses processes(folder.file("lock"));
   EXPECT_FALSE(processes.IsProcessRunning("gptest-sleeper.exe"));
-  const Sleeper sleeper(folder.file("Old-GPTest-Sleeper.EXE"));
+  const Sleeper other(folder.file("Old-GPTest-Sleeper.EXE"));
+  EXPECT_FALSE(processes.IsProcessRunning("gptest-sleeper.exe")) << "the name ends like it";
+  const Sleeper sleeper(folder.file("GPTest-Sleeper.EXE"));
   EXPECT_TRUE(processes.IsProcessRunning("gptest-sleeper.exe"));
   EXPECT_TRUE(processes.IsProcessRunning("GPTEST-sleeper.exe"));
   EXPECT_FALSE(processes.IsProcessRunning("gptest-sleeper"));
@@ -375,6 +378,40 @@ TEST(QtProcesses, TheCompanionIsKilledAndThenGone) {
   EXPECT_TRUE(sleeper.process().waitForFinished(kPatience));
   EXPECT_EQ(sleeper.process().exitStatus(), QProcess::CrashExit);
   EXPECT_FALSE(processes.IsProcessRunning("gptest-supp1.exe"));
+}
+
+// The companion may have unsaved work: it is asked first.
+TEST(QtProcesses, TheCompanionIsAskedBeforeItIsKilled) {
+  const test::TempFolder folder;
+  const std::string script = folder.write("gp-asked.exe",
+                                          "#!/bin/sh\ntrap 'echo asked > \"$0.out\"; exit 0' TERM\n"
+                                          "echo > \"$0.ready\"\nwhile :; do sleep 0.1; done\n");
+  std::filesystem::permissions(script, std::filesystem::perms::owner_all);
+  QtProcesses processes(folder.file("lock"));
+  QProcess companion;
+  companion.start(QString::fromStdString(script), {});
+  ASSERT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(script + ".ready"); }, kPatience));
+  processes.TerminateProcessByName("gp-asked.exe");
+  EXPECT_TRUE(companion.waitForFinished(kPatience));
+  EXPECT_TRUE(std::filesystem::exists(script + ".out"));
+}
+
+TEST(QtProcesses, ProcessesOfOtherPeopleAreNotFound) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root can act as another person";
+  const test::TempFolder folder;
+  std::filesystem::permissions(folder.path(), std::filesystem::perms::all);
+  const std::string program = folder.file("gptest-foreign.exe");
+  std::filesystem::copy_file("/bin/sleep", program);
+  const pid_t child = fork();
+  if (child == 0) {
+    if (setuid(65534) == 0) execl(program.c_str(), program.c_str(), "60", static_cast<char*>(nullptr));
+    _exit(1);
+  }
+  ASSERT_TRUE(QTest::qWaitFor(
+      [&] { return std::filesystem::read_symlink("/proc/" + std::to_string(child) + "/exe") == program; }, kPatience));
+  EXPECT_FALSE(findProcess("gptest-foreign.exe"));
+  kill(child, SIGKILL);
+  waitpid(child, nullptr, 0);
 }
 
 TEST(QtProcesses, ADeadChildThatNoOneWaitedForDoesNotRun) {
@@ -465,7 +502,7 @@ TEST(QtProcesses, WithoutAPlaceForTheLockThereIsNoOtherInstance) {
 TEST(QtProcesses, TheLockIsTheUsersOwn) {
   const test::TempFolder folder;
   qputenv("XDG_RUNTIME_DIR", folder.file("run").c_str());
-  EXPECT_NE(QtProcesses::userLockFile().find(std::to_string(getuid())), std::string::npos);
+  EXPECT_EQ(QtProcesses::userLockFile(), programFolders().scratch + "/glimmerpane.lock");
   std::filesystem::create_directory(folder.file("run"));
   EXPECT_EQ(QtProcesses::userLockFile(), folder.file("run/glimmerpane.lock"));
   qunsetenv("XDG_RUNTIME_DIR");

@@ -8,7 +8,9 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <sys/stat.h>
 #include <system_error>
+#include <unistd.h>
 #include <vector>
 
 namespace gp {
@@ -62,15 +64,23 @@ std::string firstArgument(int process) {
   return line.substr(0, line.find('\0'));
 }
 
+bool hasFileName(const std::string& path, const std::string& name) {
+  return equalAnyCase(path.substr(path.rfind('/') + 1), name);
+}
+
 // The executable's path alone does not identify a script or a program that runs under an emulator.
 bool isProcessOf(int process, const std::string& executable) {
-  const Status status = statusOf(process);
-  return status.alive &&
-         (endsWithAnyCase(status.name, executable) || endsWithAnyCase(executableOf(process), executable) ||
-          endsWithAnyCase(firstArgument(process), executable));
+  return isOwnProcess(process) &&
+         (hasFileName(statusOf(process).name, executable) || hasFileName(executableOf(process), executable) ||
+          hasFileName(firstArgument(process), executable));
 }
 
 }  // namespace
+
+bool isOwnProcess(int process) {
+  struct stat status;
+  return stat(entryPath(process, "").c_str(), &status) == 0 && status.st_uid == geteuid() && statusOf(process).alive;
+}
 
 std::optional<int> findProcess(const std::string& executable) {
   if (executable.empty()) return std::nullopt;

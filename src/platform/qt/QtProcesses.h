@@ -1,5 +1,5 @@
 // Other processes and their windows. The first instance holds a file lock until it ends; the system releases the lock
-// with the process, so a crash leaves none behind.
+// with the process, so a crash leaves none behind. The file has the number of the process.
 #pragma once
 
 #include "platform/ports/SystemInfo.h"
@@ -15,14 +15,15 @@ class QtProcesses final : public Processes {
   QtProcesses(const QtProcesses&) = delete;
   QtProcesses& operator=(const QtProcesses&) = delete;
 
-  // One file per user: in $XDG_RUNTIME_DIR, or with the user's number in the folder of temporary files.
+  // One file per user: in $XDG_RUNTIME_DIR, or in the private folder for scratch files.
   static std::string userLockFile();
 
   // Returns false when no lock can be created.
   bool IsPrevInstance() override;
-  // Finds only windows of an X server.
+  // Finds only windows of an X server, and only those of the instance that holds the lock.
   void CloseWindowByTitle(const std::string& title) override;
   bool IsProcessRunning(const std::string& executable) override;
+  // Asks the process to end, and ends it when it has not within three seconds.
   void TerminateProcessByName(const std::string& executable) override;
   bool start(const std::string& path) override;
   bool openDocument(const std::string& path) override;

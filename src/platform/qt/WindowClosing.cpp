@@ -1,6 +1,7 @@
 #include "platform/qt/WindowClosing.h"
 
 #include <cstdlib>
+#include <cstring>
 #include <memory>
 #include <string_view>
 #include <xcb/xcb.h>
@@ -24,10 +25,12 @@ struct Disconnected {
 
 class TitleCloser {
  public:
-  TitleCloser(xcb_connection_t* connection, const std::string& title)
+  TitleCloser(xcb_connection_t* connection, const std::string& title, int process)
       : connection_(connection),
         title_(title),
+        process_(static_cast<std::uint32_t>(process)),
         name_(atom("_NET_WM_NAME")),
+        processNumber_(atom("_NET_WM_PID")),
         protocols_(atom("WM_PROTOCOLS")),
         deleteWindow_(atom("WM_DELETE_WINDOW")) {}
 
@@ -37,7 +40,7 @@ class TitleCloser {
     if (!tree) return;
     const xcb_window_t* children = xcb_query_tree_children(tree.get());
     for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
-      if (isTitled(children[i])) {
+      if (isTitled(children[i]) && isOfProcess(children[i])) {
         postClose(children[i]);
       } else if (depth < kMaximumDepth) {
         closeBelow(children[i], depth + 1);
@@ -66,6 +69,14 @@ class TitleCloser {
     return property(window, name_) == title_ || property(window, XCB_ATOM_WM_NAME) == title_;
   }
 
+  bool isOfProcess(xcb_window_t window) const {
+    const std::string bytes = property(window, processNumber_);
+    std::uint32_t number = 0;
+    if (bytes.size() != sizeof(number)) return false;
+    std::memcpy(&number, bytes.data(), sizeof(number));
+    return number == process_;
+  }
+
   void postClose(xcb_window_t window) const {
     xcb_client_message_event_t event{};
     event.response_type = XCB_CLIENT_MESSAGE;
@@ -79,17 +90,19 @@ class TitleCloser {
 
   xcb_connection_t* connection_;
   const std::string& title_;
+  const std::uint32_t process_;
   xcb_atom_t name_;
+  xcb_atom_t processNumber_;
   xcb_atom_t protocols_;
   xcb_atom_t deleteWindow_;
 };
 
 }  // namespace
 
-void closeWindowsTitled(const std::string& title) {
+void closeWindowsTitled(const std::string& title, int process) {
   const std::unique_ptr<xcb_connection_t, Disconnected> connection(xcb_connect(nullptr, nullptr));
   if (xcb_connection_has_error(connection.get())) return;
-  const TitleCloser closer(connection.get(), title);
+  const TitleCloser closer(connection.get(), title, process);
   for (auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection.get())); screens.rem;
        xcb_screen_next(&screens)) {
     closer.closeBelow(screens.data->root, 1);

@@ -5,7 +5,8 @@
 
 namespace gp {
 
-// Asks every window with exactly that title to close, as its own close button would. Does nothing without an X server.
-void closeWindowsTitled(const std::string& title);
+// Asks every window of a process with exactly that title to close, as its own close button would. Does nothing without
+// an X server.
+void closeWindowsTitled(const std::string& title, int process);
 
 }  // namespace gp
