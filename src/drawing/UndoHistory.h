@@ -26,7 +26,8 @@ class UndoHistory {
   void clearRedoStack();
   void clearUndoHistory();
   // Goes back one step, or to the baseline, which cannot be redone. Returns false and changes nothing when there is no
-  // step to undo. The caller must redraw the Editing Area; the same holds for restoreRedo.
+  // step to undo. The icon counts as modified if its pixels change. The caller must redraw the Editing Area. All this
+  // holds for restoreRedo too.
   bool restoreUndo(UndoMode mode);
   bool restoreRedo();
 
@@ -40,6 +41,7 @@ class UndoHistory {
 
  private:
   bool fitsIcon(const Surface& snapshot) const;
+  bool equalsIcon(const Surface& snapshot) const;
   Surface snapshot(Surface memory) const;
   void apply(const Surface& snapshot);
 

@@ -11,6 +11,8 @@ namespace {
 using test::plainIconFile;
 using ShellTest = test::ShellFixture;
 
+constexpr int kUndoAll = 0, kUndo = 1, kRedo = 2;  // of mnuEditSub
+
 TEST_F(ShellTest, TheProgramStartsEmptyWithContainerOneAndTheSmallChart) {
   start();
   EXPECT_EQ(state.mCurContainer, 0);
@@ -345,9 +347,41 @@ TEST_F(ShellTest, WhatWasSavedUnderANameCanStillBeUndone) {
   dialogs.paths = {folder.file("saved.ico")};
   click("mnuFileSub", 13);
   ASSERT_FALSE(folder.read("saved.ico").empty());
+  EXPECT_FALSE(state.IsIconChanged());
   EXPECT_TRUE(enabled("mnuEditSub", 1));
-  click("mnuEditSub", 1);
+  for (const int command : {kUndo, kRedo, kUndoAll}) {
+    click("mnuFileSub", 12);
+    ASSERT_FALSE(state.IsIconChanged());
+    click("mnuEditSub", command);
+    EXPECT_EQ(state.picMask.GetPixel(3, 4), command == kRedo ? kBlack : kWhite);
+    EXPECT_TRUE(state.IsIconChanged()) << "the file has the other pixel";
+    boxes.expectAsked("The following is not saved yet: \n\nIcon Seq 1    " + folder.file("saved.ico") +
+                          "\n\nProceed to exit still?\n",
+                      BoxAnswer::No);
+    EXPECT_FALSE(shell.queryUnload());
+  }
+}
+
+TEST_F(ShellTest, AnUndoneStateIsKeptByAContainerSwitchAndAskedAboutByNewOpenAndHistory) {
+  start();
+  click("mnuFileSub", 2);
+  paint(3, 4);
+  dialogs.paths = {folder.file("saved.ico")};
+  click("mnuFileSub", 13);
+  click("mnuEditSub", kUndo);
+  for (const auto& [control, index] :
+       {std::pair{"mnuFileSub", 2}, {"mnuFileSub", 7}, {"mnuFileSub", 9}, {"mnuFileHistory", 1}}) {
+    boxes.expect("Save current icon to file?", BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Cancel);
+    click(control, index);
+    EXPECT_TRUE(boxes.done()) << control << index;
+    EXPECT_EQ(state.picMask.GetPixel(3, 4), kWhite);
+  }
+  shell.document().iconsPanel.SwitchContainer(1);
+  shell.document().iconsPanel.SwitchContainer(0);
   EXPECT_EQ(state.picMask.GetPixel(3, 4), kWhite);
+  shell.document().iconsPanel.PanelDrop(2, {folder.file("saved.ico")});
+  shell.document().iconsPanel.SwitchContainer(0);
+  EXPECT_EQ(state.picMask.GetPixel(3, 4), kWhite) << "a file dropped on another container";
 }
 
 TEST_F(ShellTest, SwitchingContainersStartsTheHistoryAfresh) {
