@@ -37,10 +37,13 @@ void IconsPanel::EndToolAction() {
 }
 
 void IconsPanel::CommitPendingPaint() {
-  if (state_.current().used && state_.mPendingPaint) SwitchContainer(state_.mCurContainer);
+  if (!state_.current().used || !state_.mPendingPaint) return;
+  EndToolAction();
+  context_.editor.clearAllTools();
+  leaveCurrent();
 }
 
-// Stores unsaved changes before another container is shown. Returns false when the user cancels.
+// Stores unsaved changes in the container. Returns false when the user cancels.
 bool IconsPanel::leaveCurrent() {
   if (!state_.IsIconChanged()) return true;
   if (state_.options.promptToSave && !mayCurrentIconGo(context_, kReminderHint)) return false;

@@ -26,9 +26,10 @@ class IconsPanel {
   // imgUpdIconsPanel: copies the icon's current state to its container and makes it the baseline of Undo.
   void updateFromCurrent();
 
-  // Commits an open tool action like a click on the current container.
+  // Ends an open tool action, clears the tools and stores the icon in its container, with the same question as a click
+  // on the container. Unlike a click it keeps the Undo history, of which the action is a step.
   void CommitPendingPaint();
-  // Ends a tool action: removes overlay, region and read-out.
+  // Ends a tool action: removes overlay, region and read-out. What the action has changed is a step of Undo.
   void EndToolAction();
   // Empties the current container and shows the empty Editing Area.
   void showEmptyContainer();

@@ -35,6 +35,13 @@ UndoHistory::UndoHistory(const Context& context, EditingArea& editingArea)
 }
 
 void UndoHistory::recordUndo() {
+  push();
+  context_.editor.UpdateCommands();
+  context_.pump.pump();
+}
+
+void UndoHistory::push() {
+  dropOpenStep();
   clearRedoStack();
   if (mUndoSeq < std::numeric_limits<std::int16_t>::max()) ++mUndoSeq;
   // The newest entry replaces the oldest one and reuses its memory.
@@ -44,8 +51,19 @@ void UndoHistory::recordUndo() {
     mUndoStack.erase(mUndoStack.begin());
   }
   mUndoStack.push_back(snapshot(std::move(memory)));
-  context_.editor.UpdateCommands();
-  context_.pump.pump();
+}
+
+void UndoHistory::openStep() { openIcon_ = state_.iconSerial; }
+
+void UndoHistory::recordOpenStep() {
+  if (hasOpenStep()) push();
+  dropOpenStep();
+}
+
+// A step that has brought all pixels back is none.
+bool UndoHistory::hasOpenStep() const {
+  return openIcon_ == state_.iconSerial && !mUndoStack.empty() && fitsIcon(mUndoStack.back()) &&
+         !equalsIcon(mUndoStack.back());
 }
 
 void UndoHistory::clearRedoStack() { mRedoStack.clear(); }
@@ -53,10 +71,12 @@ void UndoHistory::clearRedoStack() { mRedoStack.clear(); }
 void UndoHistory::clearUndoHistory() {
   mUndoStack.clear();
   clearRedoStack();
+  dropOpenStep();
   mUndoSeq = 0;
 }
 
 bool UndoHistory::restoreUndo(UndoMode mode) {
+  recordOpenStep();
   if (!canUndo()) return false;
   const bool toBaseline = mode == UndoMode::Baseline;
   const Surface& target = toBaseline ? mUndoStack.front() : mUndoStack[mUndoStack.size() - 2];
@@ -73,6 +93,7 @@ bool UndoHistory::restoreUndo(UndoMode mode) {
 }
 
 bool UndoHistory::restoreRedo() {
+  recordOpenStep();
   if (!canRedo() || !fitsIcon(mRedoStack.back())) return false;
   apply(mRedoStack.back());
   moveLast(mRedoStack, mUndoStack);

@@ -154,7 +154,7 @@ TEST_F(IconsPanelTest, EndingAToolActionDoesNothingInAnEmptyContainer) {
   EXPECT_EQ(readout(Readout::Region), "Region");
 }
 
-TEST_F(IconsPanelTest, CommittingAPendingActionClicksTheCurrentContainer) {
+TEST_F(IconsPanelTest, CommittingAPendingActionStoresTheIconAndKeepsTheHistory) {
   loadInto(0, 32, 0x0000FF);
   state.picImage.fill(0x123456);
   state.current().modified = true;
@@ -164,11 +164,24 @@ TEST_F(IconsPanelTest, CommittingAPendingActionClicksTheCurrentContainer) {
   EXPECT_EQ(state.iconSerial, before);
   state.mPendingPaint = true;
   panel.CommitPendingPaint();
-  EXPECT_EQ(state.iconSerial, before + 1);
+  EXPECT_EQ(state.iconSerial, before);
   EXPECT_FALSE(state.mPendingPaint);
+  EXPECT_EQ(editor.count("clearRegion"), 1);
+  EXPECT_EQ(editor.count("clearAllTools"), 1);
+  EXPECT_EQ(editor.count("clearUndoHistory"), 0);
   EXPECT_EQ(state.picPanelImage[0].GetPixel(0, 0), 0x123456);
-  EXPECT_EQ(state.PicIcon.GetPixel(0, 0), 0x123456);
-  EXPECT_EQ(state.picDisp.GetPixel(5, 5), 0x123456);
+  EXPECT_EQ(state.picImage.GetPixel(0, 0), 0x123456);
+}
+
+TEST_F(IconsPanelTest, CommittingAsksLikeAClickWithTheOptionOnAndCancelLeavesTheContainer) {
+  loadInto(0, 32, 0x0000FF);
+  state.picImage.fill(0x123456);
+  state.current().modified = state.options.promptToSave = state.mPendingPaint = true;
+  editor.askSaveProceeds = false;
+  panel.CommitPendingPaint();
+  EXPECT_EQ(editor.count("AskSaveCurrent (To remove Reminder, untick the related Option submenu)"), 1);
+  EXPECT_FALSE(state.mPendingPaint);
+  EXPECT_EQ(state.picPanelImage[0].GetPixel(0, 0), 0x0000FF);
 }
 
 TEST_F(IconsPanelTest, OnlyAFirstNameThatEndsInIcoMayBeDropped) {
