@@ -105,6 +105,16 @@ TEST_F(IconsPanelTest, SwitchingClosesAnOpenSidePanel) {
   EXPECT_EQ(editor.count("closePanels"), 1);
 }
 
+TEST_F(IconsPanelTest, SwitchingKeepsAPanelOpenDuringAnAnimatedCursorSession) {
+  loadInto(0, 32, 0x0000FF);
+  loadInto(1, 32, 0x00FF00);
+  state.screen.mActivePanel = 7;
+  state.screen.aniContainerVisible = true;
+  panel.SwitchContainer(0);
+  EXPECT_EQ(editor.count("closePanels"), 0);
+  EXPECT_EQ(state.PicIcon.GetPixel(0, 0), 0x0000FF);
+}
+
 TEST_F(IconsPanelTest, TheAlphaValuesFollowTheContainer) {
   loadInto(0, 16, 0x0000FF);
   state.mAlphaRecs[0] = AlphaMatrix(16, 16, 77);
@@ -131,6 +141,23 @@ TEST_F(IconsPanelTest, ARightClickEndsTheIconsListAndShowsTheContainer) {
   state.screen.mActivePanel = 1;
   panel.PanelRightClick(0);
   EXPECT_EQ(editor.count("closePanels"), 1);
+}
+
+TEST_F(IconsPanelTest, ARightClickChoosesTheColourChartAtTheEnd) {
+  loadInto(0, 32, 0x0000FF);
+  for (const int container : {0, 3}) {
+    editor.calls.clear();
+    panel.PanelRightClick(container);
+    ASSERT_FALSE(editor.calls.empty());
+    EXPECT_EQ(editor.calls.back(), "chooseColorChart") << container;
+  }
+}
+
+TEST_F(IconsPanelTest, ARightClickInTheIconsListChoosesTheChartOfTheContainersIcon) {
+  loadInto(0, 32, 0x0000FF);
+  state.screen.mActivePanel = 1;
+  panel.PanelRightClick(0);
+  EXPECT_EQ(editor.calls.back(), "chooseColorChart");
 }
 
 TEST_F(IconsPanelTest, EndingAToolActionClearsOverlayReadoutAndFlags) {
@@ -234,6 +261,35 @@ TEST_F(IconsPanelTest, AFailedDropLeavesTheFormerIconOnTheEditingAreaWithItsChan
   EXPECT_EQ(state.PicIcon.GetPixel(9, 9), 0x00FF00);
   EXPECT_TRUE(state.screen.fraTools[1]);
   EXPECT_TRUE(state.current().modified);
+}
+
+TEST_F(IconsPanelTest, ADropStoresAnOpenToolActionFirst) {
+  loadInto(0, 32, 0x0000FF);
+  state.picImage.fill(0x123456);
+  state.current().modified = state.mPendingPaint = true;
+  editor.quietLoader = [this] {
+    EXPECT_FALSE(state.mPendingPaint) << "the region has ended before the file is opened";
+    EXPECT_EQ(editor.count("clearRegion"), 1);
+    return false;
+  };
+  panel.PanelDrop(3, {"/a/none.ico"});
+  EXPECT_EQ(editor.count("doOpenIconFileQuietly /a/none.ico"), 1);
+  EXPECT_EQ(state.picPanelImage[0].GetPixel(0, 0), 0x123456);
+}
+
+TEST_F(IconsPanelTest, ADropClosesASidePanelUnlessAnAnimatedCursorIsEdited) {
+  loadInto(0, 32, 0x0000FF);
+  editor.quietLoader = [] { return false; };
+  panel.PanelDrop(3, {"/a/none.ico"});
+  EXPECT_EQ(editor.count("closePanels"), 0) << "the colour panel stays";
+  state.screen.mActivePanel = 7;
+  panel.PanelDrop(3, {"/a/none.bmp"});
+  EXPECT_EQ(editor.count("closePanels"), 0) << "it was refused";
+  panel.PanelDrop(3, {"/a/none.ico"});
+  EXPECT_EQ(editor.count("closePanels"), 1);
+  state.screen.aniContainerVisible = true;
+  panel.PanelDrop(3, {"/a/none.ico"});
+  EXPECT_EQ(editor.count("closePanels"), 1);
 }
 
 TEST_F(IconsPanelTest, ADropThatFailsAtOnceKeepsTheUndoHistory) {

@@ -121,6 +121,16 @@ TEST_F(ShellTest, SettingsOfTheLastSessionStandAgain) {
   EXPECT_EQ(form.now.height, 12000);
 }
 
+TEST_F(ShellTest, TheFolderOfTheLastSessionIsReadAtStartIfItIsStillThere) {
+  std::filesystem::create_directory(folder.file("icons"));
+  folder.write("Glimmerpane.ini", "[Last Folder]\nLastFolder=" + folder.file("icons") + "\n");
+  shell.formLoad();
+  EXPECT_EQ(state.process.mLastFolder, folder.file("icons"));
+  folder.write("Glimmerpane.ini", "[Last Folder]\nLastFolder=" + folder.file("gone") + "\n");
+  shell.formLoad();
+  EXPECT_EQ(state.process.mLastFolder, folder.path()) << "the program's folder";
+}
+
 TEST_F(ShellTest, TheDefaultStartScreenKeepsTheDefaultSize) {
   folder.write("Glimmerpane.ini", "[Screen Pos]\nLeft=150\nTop=300\nWidth=15000\nHeight=12000\nWinState=-1\n");
   start();
