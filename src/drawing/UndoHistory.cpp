@@ -53,8 +53,6 @@ void UndoHistory::push() {
   mUndoStack.push_back(snapshot(std::move(memory)));
 }
 
-void UndoHistory::openStep() { openIcon_ = state_.iconSerial; }
-
 void UndoHistory::recordOpenStep() {
   if (hasOpenStep()) push();
   dropOpenStep();
@@ -62,8 +60,7 @@ void UndoHistory::recordOpenStep() {
 
 // A step that has brought all pixels back is none.
 bool UndoHistory::hasOpenStep() const {
-  return openIcon_ == state_.iconSerial && !mUndoStack.empty() && fitsIcon(mUndoStack.back()) &&
-         !equalsIcon(mUndoStack.back());
+  return open_ && !mUndoStack.empty() && fitsIcon(mUndoStack.back()) && !equalsIcon(mUndoStack.back());
 }
 
 void UndoHistory::clearRedoStack() { mRedoStack.clear(); }

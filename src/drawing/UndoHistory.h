@@ -10,7 +10,6 @@
 #include "platform/gdi/Surface.h"
 
 #include <cstdint>
-#include <optional>
 #include <vector>
 
 namespace gp {
@@ -28,11 +27,11 @@ class UndoHistory {
   // Pushes a snapshot of picImage and picMask and clears the redo stack. Then processes events, as its last step.
   void recordUndo();
   // The icon has changed and may change further in the same step.
-  void openStep();
+  void openStep() { open_ = true; }
   // Records the open step without processing events. Does nothing without one.
   void recordOpenStep();
   // Forgets the open step, because its changes were taken back or are recorded with the next step.
-  void dropOpenStep() { openIcon_.reset(); }
+  void dropOpenStep() { open_ = false; }
   void clearRedoStack();
   void clearUndoHistory();
   // Goes back one step, or to the baseline, which cannot be redone. An open step counts as one. Returns false and
@@ -66,7 +65,7 @@ class UndoHistory {
   std::vector<Surface> mUndoStack;
   std::vector<Surface> mRedoStack;  // the step undone last is at the end
   std::int16_t mUndoSeq = 0;
-  std::optional<unsigned> openIcon_;  // the iconSerial of the icon with an open step
+  bool open_ = false;
 };
 
 }  // namespace gp

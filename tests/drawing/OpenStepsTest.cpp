@@ -273,9 +273,10 @@ TEST_P(RegionSteps, LeaveNothingToRedoThatWasUndoneBefore) {
   paintPixel(14, 0, 'c');
   undo.doUndo();
   ASSERT_TRUE(history.canRedo());
-  tools.selectTool(kPaint);
+  ASSERT_EQ(tools.selectedTool(), kRegion);
   (this->*GetParam().run)();
   const IconImage changed = now();
+  EXPECT_EQ(history.redoCount(), 1) << "nothing is recorded yet";
   EXPECT_FALSE(history.canRedo());
   undo.doRedo();
   expectIcon(changed);

@@ -394,6 +394,36 @@ TEST_F(ShellTest, AnUndoneStateIsKeptByAContainerSwitchAndAskedAboutByNewOpenAnd
   EXPECT_EQ(state.picMask.GetPixel(3, 4), kWhite) << "a file dropped on another container";
 }
 
+TEST_F(ShellTest, AFlippedRegionThatASaveMergedIsUndoneByItself) {
+  start();
+  click("mnuFileSub", 2);
+  paint(3, 4);
+  dialogs.paths = {folder.file("saved.ico")};
+  click("mnuFileSub", 13);
+  click("mnuTools", 14);
+  const auto corner = [m = static_cast<float>(state.gMagnification)](int cell) {
+    return MouseInput{kLeftButton, 0, static_cast<float>(cell) * m, static_cast<float>(cell) * m};
+  };
+  shell.drawing().tools.press(corner(2));
+  shell.drawing().tools.move(corner(8));
+  shell.drawing().tools.release(corner(8));
+  click("mnuRotateSubmenu", 0);
+  ASSERT_TRUE(state.mPendingPaint);
+  ASSERT_EQ(state.picMask.GetPixel(6, 4), kBlack);
+  click("mnuFileSub", 12);
+  EXPECT_FALSE(state.IsIconChanged());
+  EXPECT_FALSE(state.mRegionExists);
+  click("mnuEditSub", kUndo);
+  EXPECT_EQ(state.picMask.GetPixel(3, 4), kBlack);
+  EXPECT_EQ(state.picMask.GetPixel(6, 4), kWhite);
+  EXPECT_TRUE(state.IsIconChanged());
+  click("mnuEditSub", kUndo);
+  EXPECT_EQ(state.picMask.GetPixel(3, 4), kWhite);
+  click("mnuEditSub", kRedo);
+  click("mnuEditSub", kRedo);
+  EXPECT_EQ(state.picMask.GetPixel(6, 4), kBlack);
+}
+
 TEST_F(ShellTest, SwitchingContainersStartsTheHistoryAfresh) {
   start();
   click("mnuFileSub", 2);
