@@ -19,7 +19,7 @@ class OpenStepsFixture : public test::RegionFixture {
     clipboard.hold(picture({"ccs", "csc"}));
   }
 
-  // What stands open.
+  // What opens a step.
   void moved() {
     mark(0, 0, 5, 5);
     moveRegion(2, 3);
@@ -190,7 +190,7 @@ TEST_P(OpenSteps, AreAStepBeforeTheOneThatFollows) {
   expectIcon(before);
 }
 
-// What stands open is undone and redone by itself.
+// An open step is undone and redone by itself.
 class StandingSteps : public OpenStepsFixture, public testing::WithParamInterface<Named> {
  protected:
   bool is(Action run) const { return GetParam().run == run; }
