@@ -27,7 +27,8 @@ class Editor {
   virtual void clearUndoHistory() = 0;
 
   // Files.
-  // Opens the file into the current container without questions; `ok` is false when it cannot be opened.
+  // Opens the file into the current container without questions; `ok` is false when it cannot be opened, and then
+  // nothing has changed.
   virtual void doOpenIconFileQuietly(const std::string& path, bool& ok) = 0;
   // Offers to save the Current Icon; `proceed` is false when the caller must not continue.
   virtual void AskSaveCurrent(const std::string& message, bool& proceed) = 0;

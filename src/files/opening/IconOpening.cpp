@@ -1,7 +1,6 @@
 #include "files/opening/IconOpening.h"
 
 #include "document/AlphaIndicator.h"
-#include "document/Containers.h"
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
@@ -44,8 +43,8 @@ bool IconOpening::run() {
   if (isBrowsed()) return browse();
   if (!isOfferedSize() || !isConfirmed()) return false;
   decoded_ = loadIconImage(file_, facts_.chosen, true);
-  if (!decoded_.isRead()) return leaveEmpty(kFailedToLoad, BoxIcon::Exclamation);
-  if (!facts_.depth().isShown()) return leaveEmpty(kStrangeTrueColor, BoxIcon::Information);
+  if (!decoded_.isRead()) return fail(path_ + kFailedToLoad, BoxIcon::Exclamation);
+  if (!facts_.depth().isShown()) return fail(path_ + kStrangeTrueColor, BoxIcon::Information);
   show();
   return true;
 }
@@ -53,13 +52,6 @@ bool IconOpening::run() {
 bool IconOpening::fail(const std::string& text, BoxIcon icon) {
   if (isSpoken()) context_.boxes.tell(text, icon);
   return false;
-}
-
-// Switching to an empty container clears the Surfaces and the status bar and disables the tools.
-bool IconOpening::leaveEmpty(const char* text, BoxIcon icon) {
-  ClearContainer(state_);
-  context_.document.iconsPanel.SwitchContainer(state_.mCurContainer);
-  return fail(path_ + text, icon);
 }
 
 bool IconOpening::probe() {

@@ -1,5 +1,5 @@
-// Opens one icon file into the current container, from the probe to the reminders. A file whose icon cannot be read
-// leaves the container empty.
+// Opens one icon file into the current container, from the probe to the reminders. The container keeps its icon,
+// changes and Undo history until the new icon has been decoded.
 #pragma once
 
 #include "files/FilesContext.h"
@@ -33,7 +33,6 @@ class IconOpening {
   void show();
   void remind();
   bool fail(const std::string& text, BoxIcon icon);
-  bool leaveEmpty(const char* text, BoxIcon icon);
   bool isSpoken() const { return manner_ == OpeningManner::Spoken; }
 
   FilesContext& context_;

@@ -87,26 +87,33 @@ TEST_F(IconOpeningTest, ASingleEntryOf16By32IsReportedWithItsSizes) {
   EXPECT_FALSE(open(folder.write("wide.ico", build(entry))));
 }
 
-TEST_F(IconOpeningTest, A16BitIconIsReadAndThenRefused) {
+TEST_F(IconOpeningTest, A16BitIconIsReadAndThenRefusedAndTheFormerIconStays) {
+  const std::string before = given(entryOf(anyPicture(16, 4)));
+  const Surface image = state.picImage;
   const std::string path = folder.write("hi.ico", build(entryOf(anyPicture(32, 32), 0, 16)));
   boxes.expectTold(path + "\nIncoming icon is a True Color icon but not of 24 BPP or 32 BPP.\n", BoxIcon::Information);
   EXPECT_FALSE(open(path));
-  EXPECT_FALSE(record().used);
-  EXPECT_FALSE(record().present);
-  EXPECT_FALSE(state.picImage.hasPicture());
-  EXPECT_FALSE(state.screen.fraTools[1]) << "there is nothing to draw on";
+  EXPECT_EQ(record().path.trimmed(), before);
+  EXPECT_TRUE(samePixels(state.picImage, image) && panelIsUpToDate());
+  EXPECT_EQ(editor.calls, std::vector<std::string>{});
 }
 
-TEST_F(IconOpeningTest, StrangeDepthsAndPngImagesFailToLoadAndLeaveTheContainerEmpty) {
+TEST_F(IconOpeningTest, StrangeDepthsAndPngImagesFailToLoadAndTheFormerIconStays) {
+  const std::string before = given(entryOf(anyPicture(48, 4)));
+  const Surface image = state.picImage;
+  record().modified = true;
   Entry png = entryOf(anyPicture(32, 32));
   png.image = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n', 0, 0, 0, 13, 'I', 'H', 'D', 'R'};
   for (const Entry& entry : {entryOf(anyPicture(32, 8), 0, 3), png}) {
     const std::string path = folder.write("strange.ico", build(entry));
     boxes.expectTold(path + kFailed, BoxIcon::Exclamation);
     EXPECT_FALSE(open(path));
-    EXPECT_FALSE(record().used);
-    EXPECT_EQ(record().size, 32);
-    EXPECT_FALSE(state.picImage.hasPicture());
+    EXPECT_FALSE(openQuietly(path));
+    EXPECT_EQ(record().path.trimmed(), before);
+    EXPECT_TRUE(record().modified);
+    EXPECT_EQ(record().size, 48);
+    EXPECT_TRUE(samePixels(state.picImage, image) && panelIsUpToDate());
+    EXPECT_EQ(rooms.drawing.history.undoCount(), 1);
     EXPECT_FALSE(state.screen.hourglass);
   }
 }
