@@ -121,6 +121,7 @@ void IconsPanel::PanelDrop(int container, const std::vector<std::string>& files)
     return;
   }
   state_.mCurContainer = former;
+  context_.editor.offerIconsOfFile(files.front(), container);
 }
 
 void IconsPanel::updateFromCurrent() {

@@ -223,6 +223,7 @@ TEST_F(IconsPanelTest, ADropThatFailsAtOnceKeepsTheUndoHistory) {
   panel.PanelDrop(3, {"/a/none.ico"});
   EXPECT_EQ(editor.count("clearUndoHistory"), 0);
   EXPECT_EQ(state.mCurContainer, 0);
+  EXPECT_EQ(editor.count("offerIconsOfFile /a/none.ico 3"), 1);
 }
 
 TEST_F(IconsPanelTest, UpdatingThePanelTakesTheIconAndMakesABaseline) {
