@@ -216,6 +216,21 @@ TEST_F(BrowserTest, EntriesOf32BitsArePreviewedWithAlpha) {
   EXPECT_EQ(browser->picIconInFile().GetPixel(1, 0), kGround);
 }
 
+TEST_F(BrowserTest, TheAlphaValuesOfTheCurrentIconStandWhileEntriesAreLookedAtAndLoaded) {
+  given(entryOf(anyPicture(32, 32)));
+  const AlphaMatrix alpha = state.gAlphaValues;
+  ASSERT_TRUE(alpha.isOfSize(32));
+  browse({anyEntry(48, 32), anyEntry(32, 4), anyEntry(16, 32)});
+  for (const int item : {0, 1, 2}) {
+    browser->clickIcon(item);
+    EXPECT_EQ(state.gAlphaValues, alpha) << item;
+  }
+  browser->cmdReposition();
+  browser->cmdRepositionAbort();
+  browser->cmdEdit();
+  EXPECT_EQ(state.gAlphaValues, alpha) << "the caller decides about the chosen icon";
+}
+
 TEST_F(BrowserTest, RefsAbove99CannotBeSelected) {
   std::vector<Entry> entries(120, anyEntry(16, 1));
   entries[9] = anyEntry(16, 24);
