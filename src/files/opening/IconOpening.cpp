@@ -18,7 +18,6 @@ constexpr const char* kInvalidFile =
     "\n\nInvalid icon file or icon not a size of"
     " 16x16, 24x24, 32x32 or 48x48.\n";
 constexpr const char* kOneInside = "\n\nIt holds 1 icon of these sizes all the same. Show it?";
-constexpr const char* kNotOfSize = "\nIcon not of size 16x16, 24x24, 32x32 or 48x48.\n";
 constexpr const char* kFailedToLoad = "\nFailed to load this file";
 constexpr const char* kAlphaReminder =
     "\nReminder:  The incoming icon is with Alpha Channel.  To view the icon with\n"
@@ -51,7 +50,7 @@ bool IconOpening::run() {
   if (!probe()) return refuse();
   if (!isSquare()) return false;
   if (isBrowsed()) return browse();
-  if (!isOfferedSize() || !isConfirmed()) return false;
+  if (!isConfirmed()) return false;
   decoded_ = loadIconImage(file_, facts_.chosen, true);
   if (!decoded_.isRead()) return fail(path_ + kFailedToLoad, BoxIcon::Exclamation);
   if (!facts_.depth().isShown()) return fail(path_ + kStrangeTrueColor, BoxIcon::Information);
@@ -116,10 +115,6 @@ bool IconOpening::finishBrowsing(const std::string& answer) {
   if (answer.empty()) return false;
   remind();
   return true;
-}
-
-bool IconOpening::isOfferedSize() {
-  return isIconSize(facts_.width) || fail(path_ + kNotOfSize + kUseBitmapMenu, BoxIcon::Exclamation);
 }
 
 bool IconOpening::isConfirmed() {

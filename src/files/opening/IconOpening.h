@@ -37,7 +37,6 @@ class IconOpening {
   bool isBrowsed() const { return manner_ == OpeningManner::Browsed && facts_.hasSeveralEntries(); }
   bool browse();
   bool finishBrowsing(const std::string& answer);
-  bool isOfferedSize();
   bool isConfirmed();
   void show();
   void remind();
