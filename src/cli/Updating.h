@@ -15,10 +15,15 @@ struct UpdateArguments {
   Arguments files;       // and other positional arguments
   std::string output;    // value of -o, or empty
   std::string position;  // value of --at, or empty
+  std::string image;     // value of --image, or empty
 };
-enum class PositionOption { None, At };
+// The options that a subcommand takes besides -o.
+struct UpdateOptions {
+  bool at = false;
+  bool image = false;
+};
 // Empty, after an error message, for an unknown option, one that occurs twice and one without its value.
-std::optional<UpdateArguments> parseUpdate(const std::string& command, Arguments arguments, PositionOption position);
+std::optional<UpdateArguments> parseUpdate(const std::string& command, Arguments arguments, UpdateOptions options);
 
 // Reads a file as the browser does. False, after an error message, when it cannot be read, is not an icon file, or is
 // shorter than its directory states.

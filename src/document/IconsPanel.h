@@ -21,7 +21,8 @@ class IconsPanel {
   void PanelRightClick(int container);
   // Returns true when dropping these files is accepted: the first name ends in ".ICO".
   bool PanelDragOver(const std::vector<std::string>& files) const;
-  // Opens the first file into the container, without questions. A failure does not change the current container.
+  // Opens the first file into the container, without questions. A file that cannot be opened changes no container; if
+  // it holds icons all the same, they are offered.
   void PanelDrop(int container, const std::vector<std::string>& files);
   // imgUpdIconsPanel: copies the icon's current state to its container and makes it the baseline of Undo.
   void updateFromCurrent();

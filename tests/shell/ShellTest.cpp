@@ -214,45 +214,6 @@ TEST_F(ShellTest, ABadFileLeavesTheOtherContainersUntouched) {
   EXPECT_TRUE(std::ranges::equal(state.picPanelImage[0].pixels(), before.pixels()));
 }
 
-// An icon file whose image is not a bitmap: it passes every check until it is read.
-std::string unreadableIconFile(int size) {
-  std::string bytes = plainIconFile(size, 1);
-  return bytes.replace(22, 8, "\x89PNG\r\n\x1A\n");
-}
-
-TEST_F(ShellTest, AFileThatFailsToLoadLeavesAnEmptyEditingAreaWithoutTools) {
-  start(folder.write("good.ico", plainIconFile(48, 1)));
-  shell.drawing().tools.selectTool(kPaint);
-  paint(2, 2);
-  display.parts.clear();
-  const std::string bad = folder.write("bad.ico", unreadableIconFile(48));
-  boxes.expectTold(bad + "\nFailed to load this file", BoxIcon::Exclamation);
-  bool ok = true;
-  shell.files().iconFiles.doOpenIconFile(bad, true, ok);
-  EXPECT_FALSE(ok);
-  EXPECT_EQ(state.current().size, 32);
-  EXPECT_FALSE(state.current().used);
-  EXPECT_EQ(state.picDisp.width(), 32 * state.gMagnification);
-  EXPECT_EQ(state.gMagnification, 12);
-  EXPECT_FALSE(state.screen.fraTools[1]);
-  EXPECT_EQ(shell.selectedTool(), 0);
-  for (const std::string& text : state.screen.lblStatusPanel) EXPECT_EQ(text, "");
-  EXPECT_TRUE(display.hasChanged(DisplayPart::EditingArea));
-  EXPECT_TRUE(display.hasChanged(DisplayPart::IconsPanel));
-}
-
-TEST_F(ShellTest, AFailedDropOnAnotherContainerLeavesANewIconOnTheEditingArea) {
-  start();
-  click("mnuFileSub", 2);
-  const Surface before = state.picDisp;
-  shell.document().iconsPanel.PanelDrop(3, {folder.write("bad.ico", unreadableIconFile(32))});
-  EXPECT_EQ(state.mCurContainer, 0);
-  EXPECT_EQ(status(StatusPanel::Path), "Untitled");
-  EXPECT_TRUE(state.screen.fraTools[1]);
-  EXPECT_TRUE(std::ranges::equal(before.pixels(), state.picDisp.pixels()));
-  EXPECT_EQ(state.mIconRecs[3].size, 32);
-}
-
 TEST_F(ShellTest, AnIconDroppedOnAnotherContainerShowsThere) {
   start();
   click("mnuFileSub", 2);
