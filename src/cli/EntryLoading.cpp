@@ -11,6 +11,8 @@
 namespace gp::cli {
 namespace {
 
+constexpr const char* kToBeNamed = "no image of it is chosen by itself, --image N names one";
+
 // The entry that the editor would open, or the reason why it opens none.
 struct ChosenEntry {
   IconDefect defect = IconDefect::None;
@@ -24,10 +26,23 @@ ChosenEntry chooseEntry(const IconFile& file) {
   return {IconDefect::None, facts.chosen};
 }
 
+// The editor lets the user choose among the icons of such a file.
+bool hasToBeNamed(const IconFile& file, IconDefect defect) {
+  return (defect == IconDefect::NotAnIcon || defect == IconDefect::SizeNotOffered) && file.isIcon() &&
+         countIconSizes(file.directory) > 0;
+}
+
 std::optional<LoadedIcon> loadChosenEntry(const IconFile& file, const std::string& path) {
   auto [defect, index] = chooseEntry(file);
-  std::optional<LoadedIcon> loaded;
-  if (defect == IconDefect::None) loaded = loadEntry(file, index, path, defect);
+  if (defect == IconDefect::None)
+    if (auto loaded = loadEntry(file, index, path, defect)) return loaded;
+  complain(path, hasToBeNamed(file, defect) ? kToBeNamed : describe(defect));
+  return std::nullopt;
+}
+
+std::optional<LoadedIcon> loadNamedEntry(const IconFile& file, int index, const std::string& path) {
+  IconDefect defect = IconDefect::None;
+  auto loaded = loadEntry(file, index, path, defect);
   if (!loaded) complain(path, describe(defect));
   return loaded;
 }
@@ -44,9 +59,10 @@ std::optional<LoadedIcon> loadEntry(const IconFile& file, int index, const std::
   return LoadedIcon{std::move(decoded.icon), record};
 }
 
-std::optional<NewIcon> loadNewIcon(const std::string& path) {
+std::optional<NewIcon> loadNewIcon(const std::string& path, std::optional<int> index) {
   const auto file = openIconFile(path);
-  const auto loaded = file ? loadChosenEntry(*file, path) : std::nullopt;
+  if (!file) return std::nullopt;
+  const auto loaded = index ? loadNamedEntry(*file, *index, path) : loadChosenEntry(*file, path);
   if (!loaded) return std::nullopt;
   const IconTraits traits = traitsToWrite(loaded->icon, loaded->record);
   auto image = imageOfSingleIcon(FileBytes(composeSingleIcon(loaded->icon, traits.depth)));

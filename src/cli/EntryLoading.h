@@ -25,8 +25,8 @@ struct NewIcon {
   IconTraits traits;
   NewImage image;
 };
-// Loads a file's icon; of several, the one that the editor opens without asking. Empty, after an error message, for a
-// file that the editor does not open.
-std::optional<NewIcon> loadNewIcon(const std::string& path);
+// Loads a file's icon: entry `index`, or without an index the one that the editor opens without asking. Empty, after an
+// error message, for a file or an entry that the editor does not open.
+std::optional<NewIcon> loadNewIcon(const std::string& path, std::optional<int> index);
 
 }  // namespace gp::cli

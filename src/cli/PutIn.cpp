@@ -4,7 +4,6 @@
 #include "cli/Updating.h"
 #include "document/Messages.h"
 #include "files/format/IconDecoder.h"
-#include "files/format/IconProbe.h"
 #include "files/saving/MultiIconTexts.h"
 
 namespace gp::cli {
@@ -46,7 +45,7 @@ struct Place {
 bool readForAdding(const std::string& path, IconArrays& arrays) {
   auto file = readWholeIconFile(path);
   if (!file) return refuse(path, addNotReadText(path, ArraysDefect::NotReadable));
-  if (probeIcon(*file, true).kind == 0) return refuse(path, kAddToNoIcon);
+  if (!file->isIcon()) return refuse(path, kAddToNoIcon);
   const ArraysDefect defect = takeIconArrays(std::move(*file), ReservedField::MustBeZero, arrays);
   return defect == ArraysDefect::None || refuse(path, addNotReadText(path, defect));
 }
@@ -61,20 +60,31 @@ bool addTo(const std::string& path, const NewIcon& icon, const Place& place, con
   return writeUpdate(arrays, path, output, notWrittenText(targetOf(path, output), SaveInto::Add));
 }
 
+// False for an --image that is not a number.
+bool parseImage(const UpdateArguments& given, std::optional<int>& image) {
+  int number = 0;
+  if (given.image.empty()) return true;
+  if (!parseNumber(given.image, number)) return false;
+  image = number;
+  return true;
+}
+
 }  // namespace
 
 int runReplace(const Arguments& arguments) {
-  const auto given = parseUpdate("replace", arguments, PositionOption::None);
+  const auto given = parseUpdate("replace", arguments, {.image = true});
   int index = 0;
   if (!given) return kBadUsage;
   if (given->files.size() != kReplaceArguments) return badUsage("replace: FILE INDEX ICON.ico is needed");
   if (!parseNumber(given->files[kIndex], index)) return badUsage("replace: the index is no number");
-  auto icon = loadNewIcon(given->files[kIcon]);
+  std::optional<int> image;
+  if (!parseImage(*given, image)) return badUsage("replace: --image takes a number");
+  auto icon = loadNewIcon(given->files[kIcon], image);
   return icon && replaceIn(given->files[kFile], index, std::move(*icon), given->output) ? kDone : kRefused;
 }
 
 int runAdd(const Arguments& arguments) {
-  const auto given = parseUpdate("add", arguments, PositionOption::At);
+  const auto given = parseUpdate("add", arguments, {.at = true, .image = true});
   if (!given) return kBadUsage;
   Place place;
   place.isGiven = !given->position.empty();
@@ -82,7 +92,9 @@ int runAdd(const Arguments& arguments) {
   if (place.isGiven && !parseNumber(given->position, place.ref)) return badUsage("add: --at takes a number");
   if (!given->output.empty() && given->files.size() != 2) return badUsage("add: -o goes with one FILE only");
 
-  const auto icon = loadNewIcon(given->files.back());
+  std::optional<int> image;
+  if (!parseImage(*given, image)) return badUsage("add: --image takes a number");
+  const auto icon = loadNewIcon(given->files.back(), image);
   if (!icon) return kRefused;
   int status = kDone;
   for (std::size_t i = 0; i + 1 < given->files.size(); ++i)

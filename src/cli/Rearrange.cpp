@@ -79,7 +79,7 @@ int salvageTo(const std::string& path, const std::string& output) {
 }  // namespace
 
 int runRemove(const Arguments& arguments) {
-  const auto given = parseUpdate("remove", arguments, PositionOption::None);
+  const auto given = parseUpdate("remove", arguments, {});
   int index = 0;
   if (!given) return kBadUsage;
   if (given->files.size() != 2) return badUsage("remove: FILE INDEX is needed");
@@ -88,7 +88,7 @@ int runRemove(const Arguments& arguments) {
 }
 
 int runReorder(const Arguments& arguments) {
-  const auto given = parseUpdate("reorder", arguments, PositionOption::None);
+  const auto given = parseUpdate("reorder", arguments, {});
   std::vector<int> order;
   if (!given) return kBadUsage;
   if (given->files.size() != 2) return badUsage("reorder: FILE 3,1,2 is needed");
@@ -97,7 +97,7 @@ int runReorder(const Arguments& arguments) {
 }
 
 int runSalvage(const Arguments& arguments) {
-  const auto given = parseUpdate("salvage", arguments, PositionOption::None);
+  const auto given = parseUpdate("salvage", arguments, {});
   if (!given) return kBadUsage;
   if (given->files.size() != 1 || given->output.empty()) return badUsage("salvage: FILE -o OUT is needed");
   return salvageTo(given->files[0], given->output);

@@ -27,14 +27,19 @@ bool isOrdinary(const std::string& path) {
 
 }  // namespace
 
-std::optional<UpdateArguments> parseUpdate(const std::string& command, Arguments arguments, PositionOption position) {
+std::optional<UpdateArguments> parseUpdate(const std::string& command, Arguments arguments, UpdateOptions options) {
   UpdateArguments given;
-  if (!takeOption(arguments, "-o", given.output)) {
-    badUsage(command + ": one -o OUT is all it takes");
-    return std::nullopt;
-  }
-  if (position == PositionOption::At && !takeOption(arguments, "--at", given.position)) {
-    badUsage(command + ": one --at N is all it takes");
+  struct Option {
+    bool isTaken;
+    const char* name;
+    const char* usage;
+    std::string& value;
+  };
+  for (const Option& option : {Option{true, "-o", "-o OUT", given.output},
+                               {options.at, "--at", "--at N", given.position},
+                               {options.image, "--image", "--image N", given.image}}) {
+    if (!option.isTaken || takeOption(arguments, option.name, option.value)) continue;
+    badUsage(command + ": one " + option.usage + " is all it takes");
     return std::nullopt;
   }
   Split split = splitOptions(arguments);

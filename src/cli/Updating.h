@@ -16,10 +16,15 @@ struct UpdateArguments {
   Arguments files;       // and other positional arguments
   std::string output;    // value of -o, or empty
   std::string position;  // value of --at, or empty
+  std::string image;     // value of --image, or empty
 };
-enum class PositionOption { None, At };
+// The options that a subcommand takes besides -o.
+struct UpdateOptions {
+  bool at = false;
+  bool image = false;
+};
 // Empty, after an error message, for an unknown option, one that occurs twice and one without its value.
-std::optional<UpdateArguments> parseUpdate(const std::string& command, Arguments arguments, PositionOption position);
+std::optional<UpdateArguments> parseUpdate(const std::string& command, Arguments arguments, UpdateOptions options);
 
 // Waits until no other call updates the file, and keeps others waiting as long as the result lives. Empty, after an
 // error message, when that takes too long.

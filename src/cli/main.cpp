@@ -99,12 +99,12 @@ constexpr std::array<Subcommand, 14> kSubcommands{{
     {"effect", "effect IN.ico INDEX OUT.ico NAME",
      "Applies an effect to one image and saves it as resave does. Refused with alpha.", runEffect, effectUsage,
      effectHelp},
-    {"replace", "replace FILE INDEX ICON.ico [-o OUT]",
+    {"replace", "replace FILE INDEX ICON.ico [--image N] [-o OUT]",
      "Puts ICON.ico in the place of one image. The icon is loaded and saved as the\n"
-     "editor does; of several images it has, the one that probe chooses. Refused when\n"
-     "another image of the file has its size and colors.",
+     "editor does; of several images it has, N, or without --image the one that probe\n"
+     "chooses. Refused when another image of the file has its size and colors.",
      runReplace},
-    {"add", "add FILE... ICON.ico [--at N] [-o OUT]",
+    {"add", "add FILE... ICON.ico [--at N] [--image N] [-o OUT]",
      "Adds ICON.ico to each file, as its image number N counted from 1, without --at\n"
      "behind the last one. Loading and refusals as with replace. -o goes with one FILE.",
      runAdd},

@@ -7,14 +7,16 @@ namespace gp {
 
 namespace {
 
-constexpr const char* kLargestHex = "FFFFFF";
+constexpr std::size_t kHexDigits = 6;
 
-// Corrects a hexadecimal text to a valid colour. Intended: the upper bound is checked against the decimal number at the
-// start of the text, so "FFFFFF" (0 in decimal) passes.
-std::string correctedHex(const std::string& text) {
-  if (valueOfHex(text) < 0) return "0";
-  if (Val(text) > kLargestColor) return kLargestHex;
-  return text;
+// Corrects a hexadecimal text to a valid colour. Its six digits, read as a decimal number, are never above
+// kLargestColor: an "E" is a digit and not an exponent.
+std::string correctedHex(const std::string& text) { return valueOfHex(text) < 0 ? "0" : text; }
+
+// Six digits, because the parser would read four digits from 8000 on as a negative number.
+std::string sixHexDigits(Color color) {
+  const std::string digits = Hex(color);
+  return std::string(kHexDigits - digits.size(), '0') + digits;
 }
 
 std::string correctedDecimal(const std::string& text) {
@@ -38,7 +40,7 @@ void DirectEntry::toggleHex() {
     if (mDirectEntryHex)
       text_ = std::to_string(valueOfHex(correctedHex(text_)));
     else
-      text_ = Hex(roundToInteger(Val(correctedDecimal(text_))));
+      text_ = sixHexDigits(roundToInteger(Val(correctedDecimal(text_))));
   }
   mDirectEntryHex = !mDirectEntryHex;
 }

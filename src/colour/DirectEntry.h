@@ -21,7 +21,7 @@ class DirectEntry {
   int maxLength() const { return hexTicked_ ? 6 : 8; }
   // Returns the key to insert, 0 to drop it.
   int filterKey(int keyCode) const;
-  // Handles a change of ckbAsHexColorValue: converts the text to the other base.
+  // Handles a change of ckbAsHexColorValue: converts the text to the other base. A hexadecimal text gets six digits.
   void toggleHex();
   // Handles cmdDirectEntryColorValue: corrects the text and returns its colour; nullopt for an empty or negative text.
   std::optional<Color> proceed();

@@ -130,7 +130,6 @@ void EditingArea::showEmpty() {
 
 void EditingArea::RefreshStatusBar() {
   if (state_.mPendingPaint) {
-    context_.editor.clearUndoHistory();
     context_.editor.clearAllTools();
     context_.editor.clearRegion();
   }

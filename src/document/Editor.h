@@ -27,8 +27,11 @@ class Editor {
   virtual void clearUndoHistory() = 0;
 
   // Files.
-  // Opens the file into the current container without questions; `ok` is false when it cannot be opened.
+  // Opens the file into the current container without questions; `ok` is false when it cannot be opened, and then
+  // nothing has changed.
   virtual void doOpenIconFileQuietly(const std::string& path, bool& ok) = 0;
+  // Offers to show the icons of a file that could not be opened but holds some; `container` is their proposed place.
+  virtual void offerIconsOfFile(const std::string& path, int container) = 0;
   // Offers to save the Current Icon; `proceed` is false when the caller must not continue.
   virtual void AskSaveCurrent(const std::string& message, bool& proceed) = 0;
   // A click on the Editing Area while the cursor panel is shown, in icon pixels.

@@ -5,6 +5,7 @@
 #include "document/ColorDepth.h"
 #include "document/IconSizes.h"
 #include "platform/text/FixedText.h"
+#include "platform/text/TrimmedText.h"
 
 #include <cstdint>
 
@@ -23,7 +24,7 @@ struct IconContainerRec {
   std::int16_t bihBitCount = 0;
   bool present = false;
   std::int16_t size = kDefaultIconSize;
-  FixedText<255> path;
+  TrimmedText path;  // in full: a shortened path would be that of another file
   bool fromMultiIconFile = false;
   std::int16_t multiIconIndex = 0;
   bool isCursor = false;

@@ -37,10 +37,13 @@ void IconsPanel::EndToolAction() {
 }
 
 void IconsPanel::CommitPendingPaint() {
-  if (state_.current().used && state_.mPendingPaint) SwitchContainer(state_.mCurContainer);
+  if (!state_.current().used || !state_.mPendingPaint) return;
+  EndToolAction();
+  context_.editor.clearAllTools();
+  leaveCurrent();
 }
 
-// Stores unsaved changes before another container is shown. Returns false when the user cancels.
+// Stores unsaved changes in the container. Returns false when the user cancels.
 bool IconsPanel::leaveCurrent() {
   if (!state_.IsIconChanged()) return true;
   if (state_.options.promptToSave && !mayCurrentIconGo(context_, kReminderHint)) return false;
@@ -111,8 +114,7 @@ void IconsPanel::PanelDrop(int container, const std::vector<std::string>& files)
 
   // The Editing Area shows the former container, of which the loader does not know.
   const int former = state_.mCurContainer;
-  if (state_.IsIconChanged()) editingArea_.UpdatePanelFromCurrent();
-  const unsigned formerIcon = state_.iconSerial;
+  if (container != former && state_.IsIconChanged()) editingArea_.UpdatePanelFromCurrent();
   state_.mCurContainer = container;
   bool ok = false;
   context_.editor.doOpenIconFileQuietly(files.front(), ok);
@@ -122,8 +124,7 @@ void IconsPanel::PanelDrop(int container, const std::vector<std::string>& files)
     return;
   }
   state_.mCurContainer = former;
-  if (state_.iconSerial != formerIcon) showCurrentContainer();
-  context_.display.changed(DisplayPart::IconsPanel);
+  context_.editor.offerIconsOfFile(files.front(), container);
 }
 
 void IconsPanel::updateFromCurrent() {

@@ -21,14 +21,16 @@ class IconsPanel {
   void PanelRightClick(int container);
   // Returns true when dropping these files is accepted: the first name ends in ".ICO".
   bool PanelDragOver(const std::vector<std::string>& files) const;
-  // Opens the first file into the container, without questions. A failure does not change the current container.
+  // Opens the first file into the container, without questions. A file that cannot be opened changes no container; if
+  // it holds icons all the same, they are offered.
   void PanelDrop(int container, const std::vector<std::string>& files);
   // imgUpdIconsPanel: copies the icon's current state to its container and makes it the baseline of Undo.
   void updateFromCurrent();
 
-  // Commits an open tool action like a click on the current container.
+  // Ends an open tool action, clears the tools and stores the icon in its container, with the same question as a click
+  // on the container. Unlike a click it keeps the Undo history, of which the action is a step.
   void CommitPendingPaint();
-  // Ends a tool action: removes overlay, region and read-out.
+  // Ends a tool action: removes overlay, region and read-out. What the action has changed is a step of Undo.
   void EndToolAction();
   // Empties the current container and shows the empty Editing Area.
   void showEmptyContainer();

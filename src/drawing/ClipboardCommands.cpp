@@ -49,14 +49,20 @@ void ClipboardCommands::doCutRegion(bool copyFirst) {
   regions_.finishDrag();
   if (state_.screen.mActivePanel != kColorPanel) context_.editor.showPanel(kColorPanel);
   if (copyFirst) doCopyRegion();
-  const bool floating = regions_.isFloating();
-  if (floating)
+  const bool pasted = regions_.isPasted();
+  // What the region has changed is a step before the cut. A pasted picture that is cut again is no step.
+  if (!pasted) history_.recordOpenStep();
+  if (regions_.isFloating())
     regions_.dropContent();
   else
     cutContent();
   state_.current().modified = true;
+  history_.openStep();
   document_.editingArea.showChangedIcon();
-  if (!floating) history_.recordUndo();
+  if (pasted)
+    history_.recordOpenStep();
+  else
+    history_.recordUndo();
 }
 
 void ClipboardCommands::cutContent() {
@@ -111,17 +117,23 @@ void ClipboardCommands::doPaste(bool opaque) {
     return;
   }
   regions_.finishDrag();
-  const unsigned icon = state_.iconSerial;
-  history_.clearUndoHistory();
-  history_.recordUndo();
-  // Recording processes events, so the current icon may be another one now; the picture is not pasted into that.
-  if (state_.iconSerial != icon || !makeRoomFor(image)) return;
+  // A refusal leaves the history as it is.
+  if (!makeRoomFor(image) || !startHistory()) return;
   const int width = std::min(image.corner.width(), state_.picImage.width());
   const int height = std::min(image.corner.height(), state_.picImage.height());
   Surface picture(width, height);
   BitBlt(picture, 0, 0, width, height, image.corner, 0, 0, RasterOp::SRCCOPY);
   picture.makePersistent();
   showPasted(picture, opaque);
+}
+
+// Makes the icon beneath the picture the baseline. Recording processes events: returns false when another icon came up,
+// into which the picture is not pasted.
+bool ClipboardCommands::startHistory() {
+  const unsigned icon = state_.iconSerial;
+  history_.clearUndoHistory();
+  history_.recordUndo();
+  return state_.iconSerial == icon;
 }
 
 bool ClipboardCommands::fetch(ClipboardImage& image) {

@@ -22,11 +22,12 @@ class ClipboardCommands {
                     Clipboard& clipboard);
 
   // mnuEditSub(4) with copyFirst, and (5): makes the region transparent, or removes a floating region without changing
-  // the pixels below. Shows a message when the region is empty.
+  // the pixels below. A step of Undo, unless the region was pasted. Shows a message when the region is empty.
   void doCutRegion(bool copyFirst);
   // mnuEditSub(6): copies the region, or the whole icon; transparent pixels have the colour kGround.
   void doCopyRegion();
-  // mnuEditSub(7) and (8): the clipboard's picture becomes a floating region, in a new icon if none is loaded.
+  // mnuEditSub(7) and (8): the clipboard's picture becomes a floating region, in a new icon if none is loaded. Undo
+  // starts again with the icon beneath it.
   void doPaste(bool opaque);
   // mnuEditSub(9).
   void clearClipboard();
@@ -34,6 +35,7 @@ class ClipboardCommands {
  private:
   void cutContent();
   Surface pictureOfRegion() const;
+  bool startHistory();
   bool fetch(ClipboardImage& image);
   bool makeRoomFor(const ClipboardImage& image);
   bool makeNewIcon(int size);

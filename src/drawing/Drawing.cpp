@@ -6,7 +6,7 @@ namespace gp {
 
 Drawing::Drawing(const Context& context, Document& document, ColorSelection& colors, Clipboard& clipboard)
     : history(context, document.editingArea),
-      regions(context, document.editingArea, drawState),
+      regions(context, document.editingArea, history, drawState),
       tools(context, document.iconsPanel, colors, history, regions, drawState),
       undo(context, document.editingArea, history, regions, tools),
       shift(context, document.editingArea, history, tools),

@@ -2,6 +2,7 @@
 #include "document/EditState.h"
 #include "document/EditingArea.h"
 #include "drawing/Regions.h"
+#include "drawing/UndoHistory.h"
 #include "platform/gdi/Pens.h"
 #include "platform/gdi/RasterOps.h"
 #include "platform/gdi/SurfaceOps.h"
@@ -82,6 +83,7 @@ void Regions::placePicture(const Surface& picture, bool opaque) {
   content_.mask.makePersistent();
   keepIconBeneath();
   floatWith(opaque);
+  pasted_ = true;
   renderRegion();
 }
 
@@ -111,6 +113,7 @@ void Regions::renderRegion() {
   BitbltPic(beneath_.mask, state_.picMask);
   mergeContent();
   state_.current().modified = true;
+  history_.openStep();
   editingArea_.showChangedIcon();
 }
 

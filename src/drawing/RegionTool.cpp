@@ -32,6 +32,8 @@ void RegionTool::cancel() { regions_.cancel(); }
 // The region stays merged where it is, and a new one can be drawn.
 void RegionTool::merge() {
   tools_.clearAllTools();
+  // Recorded below, also for a region that was only marked, because recording processes events.
+  history_.dropOpenStep();
   regions_.clearRegion();
   tools_.selectTool(kRegion);
   history_.recordUndo();

@@ -7,6 +7,7 @@
 #include "document/Editor.h"
 #include "drawing/ShapeGeometry.h"
 #include "drawing/Tools.h"
+#include "drawing/UndoHistory.h"
 #include "platform/gdi/SurfaceOps.h"
 #include "platform/text/Numbers.h"
 
@@ -41,13 +42,18 @@ double* sideOf(DrawRect& box, RegionEdge edge) {
 
 }  // namespace
 
-Regions::Regions(const Context& context, EditingArea& editingArea, DrawState& draw)
-    : context_(context), state_(context.state), editingArea_(editingArea), draw_(draw), dragView_(context) {}
+Regions::Regions(const Context& context, EditingArea& editingArea, UndoHistory& history, DrawState& draw)
+    : context_(context),
+      state_(context.state),
+      editingArea_(editingArea),
+      history_(history),
+      draw_(draw),
+      dragView_(context) {}
 
 void Regions::enter(RegionPhase phase) {
   phase_ = phase;
   if (phase != RegionPhase::Sizing) pulledEdge_ = RegionEdge::None;
-  if (!exists()) floating_ = opaque_ = false;
+  if (!exists()) floating_ = opaque_ = pasted_ = false;
   state_.mRegionExists = exists();
   state_.mPendingPaint = floating_;
 }
@@ -208,6 +214,7 @@ void Regions::redrawRegion() {
 }
 
 void Regions::clearRegion() {
+  history_.recordOpenStep();
   draw_.draw = draw_.region = {};
   draw_.mPainting = draw_.mErasing = draw_.mRestoring = false;
   enter(RegionPhase::None);
@@ -223,6 +230,7 @@ void Regions::clearRegion() {
 
 void Regions::dropContent() {
   const bool restores = exists() && isOfCurrentIcon();
+  history_.dropOpenStep();
   clearRegion();
   if (!restores) return;
   BitbltPic(beneath_.image, state_.picImage);

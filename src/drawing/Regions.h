@@ -1,6 +1,7 @@
 // The region: a rectangle of the Current Icon whose content is lifted, so that it can be moved over the rest. Owns the
 // box, the phase and the content. While a region exists, picImage and picMask have its content merged at its place, so
-// that ending a region loses nothing; only a drag whose mouse button is still down can be dropped.
+// that ending a region loses nothing; only a drag whose mouse button is still down can be dropped. What a region has
+// changed, it opens a step of Undo for; the step is recorded when the region ends.
 //
 // Other rooms read state.mRegionExists and, for floating content, state.mPendingPaint. Only this class writes them.
 #pragma once
@@ -15,10 +16,11 @@
 namespace gp {
 
 class EditingArea;
+class UndoHistory;
 
 class Regions {
  public:
-  Regions(const Context& context, EditingArea& editingArea, DrawState& draw);
+  Regions(const Context& context, EditingArea& editingArea, UndoHistory& history, DrawState& draw);
 
   RegionPhase phase() const { return phase_; }
   // True from the end of the first drag until the region ends.
@@ -28,6 +30,8 @@ class Regions {
   // True when the content did not come from its place on the icon: it was pasted or transformed.
   bool isFloating() const { return floating_; }
   bool isPasteOpaque() const { return opaque_; }
+  // True when the content was pasted, so that the icon beneath it lacks nothing.
+  bool isPasted() const { return pasted_; }
   // The pointer for a mouse position, in Editing Area pixels.
   RegionPointer pointerAt(double x, double y) const;
   // The side that the mouse moves; None in phases other than Sizing.
@@ -50,9 +54,9 @@ class Regions {
   // Ends a drag of a region at its present place; a side that is moved goes back. Commands call it first.
   void finishDrag();
   // Ends the region, all strokes and the overlay, and drops a drag that the icon does not have yet. Pixels of the icon
-  // stay.
+  // stay, and what the region has changed is recorded as a step of Undo.
   void clearRegion();
-  // The same, but the icon returns to what it is beneath the region.
+  // The same, but the icon returns to what it is beneath the region, and no step is recorded.
   void dropContent();
   // Makes a picture a floating region at the top left corner. Unless it is opaque, pixels of PicIcon's back colour are
   // transparent in it.
@@ -65,8 +69,8 @@ class Regions {
   // Takes the content of the box from the icon. With blankSource only opaque pixels are taken, otherwise the block as
   // it is. picImageSnap and picMaskSnap become the icon with that place blanked.
   void liftRegion(bool blankSource);
-  // Writes the content to the icon, at the box, and shows it. The icon counts as modified. Nothing for an icon that the
-  // content was not lifted from.
+  // Writes the content to the icon, at the box, and shows it. The icon counts as modified, and a step of Undo is open.
+  // Nothing for an icon that the content was not lifted from.
   void renderRegion();
 
  private:
@@ -110,10 +114,12 @@ class Regions {
   Context context_;
   EditState& state_;
   EditingArea& editingArea_;
+  UndoHistory& history_;
   DrawState& draw_;
   RegionPhase phase_ = RegionPhase::None;
   bool floating_ = false;
   bool opaque_ = false;  // floating content covers what is beneath it, transparent pixels included
+  bool pasted_ = false;
 
   IconImage content_;        // picImageRegion, picMaskRegion
   IconImage beneath_;        // picImageSnap, picMaskSnap: the icon without the content

@@ -63,6 +63,12 @@ void RotatePanel::setSlider(int angle) {
   changed();
 }
 
+double RotatePanel::angle() const { return Val(angleText_); }
+
+void RotatePanel::follow() {
+  if (state_.screen.mActivePanel == kRotatePanel) drawSample();
+}
+
 void RotatePanel::setAntialias(bool antialias) {
   antialias_ = antialias;
   changed();
@@ -76,10 +82,7 @@ void RotatePanel::drawSample() {
   const int side = diagonalOf(state_.PicIcon.width(), state_.PicIcon.height()) + kSampleMargin;
   Surface work(side, side, kGround);
   rotateSurface(state_.picImage, work,
-                {.angleDegrees = static_cast<double>(slider_),
-                 .skipBackground = true,
-                 .backgroundColor = kBlack,
-                 .antialias = antialias_});
+                {.angleDegrees = angle(), .skipBackground = true, .backgroundColor = kBlack, .antialias = antialias_});
   sample_.clearPicture();
   BitBlt(sample_, 0, 0, kRotateSampleSide, kRotateSampleSide, work, (side - kRotateSampleSide) / 2,
          (side - kRotateSampleSide) / 2, RasterOp::SRCCOPY);
@@ -88,23 +91,22 @@ void RotatePanel::drawSample() {
 }
 
 void RotatePanel::doRotateProceed() {
-  const double angle = Val(angleText_);
-  if (isWholeTurn(angle) || !state_.current().present) {
+  if (isWholeTurn(angle()) || !state_.current().present) {
     context_.editor.closePanels();
     return;
   }
-  rotateIcon(angle);
+  rotateIcon();
   context_.editor.closePanels();
   // Recording processes events, so it is the last step: the Panel must be closed by then.
   history_.recordUndo();
 }
 
-void RotatePanel::rotateIcon(double angle) {
+void RotatePanel::rotateIcon() {
   const Hourglass hourglass(context_);
   regions_.finishDrag();
   regions_.clearRegion();
-  rotate(state_.picImage, angle, kBlack);
-  rotate(state_.picMask, angle, kWhite);
+  rotate(state_.picImage, angle(), kBlack);
+  rotate(state_.picMask, angle(), kWhite);
   state_.current().modified = true;
   editingArea_.showChangedIcon();
 }

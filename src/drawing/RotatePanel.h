@@ -36,7 +36,13 @@ class RotatePanel {
   // ckbRotateImageAntiAlias.
   void setAntialias(bool antialias);
 
+  // The Current Icon is another one or looks different: draws the sample again if the Panel is shown.
+  void follow();
+
   const std::string& cboRotateImageAngle() const { return angleText_; }
+  // The angle of the text in degrees, by which the sample and Proceed rotate. It need not be whole and can be larger
+  // than the slider allows; 0 for a text without a number.
+  double angle() const;
   int hsrRotateImageAngle() const { return slider_; }
   bool ckbRotateImageAntiAlias() const { return antialias_; }
   const Surface& picRotateImageSample() const { return sample_; }
@@ -46,7 +52,7 @@ class RotatePanel {
 
  private:
   void drawSample();
-  void rotateIcon(double angle);
+  void rotateIcon();
   void changed();
 
   Context context_;

@@ -65,6 +65,11 @@ void ShiftTool::turnOn() {
   if (tools_.selectedTool() == kShift) history_.recordUndo();
 }
 
+void ShiftTool::cancel() {
+  history_.recordOpenStep();
+  mShiftX_ = mShiftY_ = 0;
+}
+
 void ShiftTool::padPress(ShiftCell cell) { shown_ = cell; }
 
 void ShiftTool::padRelease(ShiftCell cell) {
@@ -102,6 +107,7 @@ void ShiftTool::redraw() {
     }
   }
   state_.current().modified = true;
+  history_.openStep();
   editingArea_.showChangedIcon();
 }
 

@@ -24,6 +24,8 @@ class ShiftTool : public DrawingTool {
   ShiftTool(const Context& context, EditingArea& editingArea, UndoHistory& history, Tools& tools);
 
   void selected() override { turnOn(); }
+  // Records the whole shift as a step of Undo.
+  void cancel() override;
   // imgTool(15) Click has selected the tool: starts the Undo history again and copies the picture.
   void turnOn();
 

@@ -12,29 +12,29 @@ UndoCommands::UndoCommands(const Context& context, EditingArea& editingArea, Und
                            Tools& tools)
     : context_(context), editingArea_(editingArea), history_(history), regions_(regions), tools_(tools) {}
 
-void UndoCommands::doUndo() {
-  if (!history_.canUndo()) return;
-  context_.editor.closePanels();
-  // A shift is undone as a whole, not step by step: the history started again when Shift was turned on.
-  const bool wholeShift = tools_.selectedTool() == kShift;
-  if (wholeShift)
-    tools_.clearAllTools();
-  else
-    regions_.clearRegion();
-  if (history_.restoreUndo(wholeShift ? UndoMode::Baseline : UndoMode::OneStep)) editingArea_.MagnifyIcon();
+// A drag ends where the mouse has taken the region, so that the step contains all of it.
+void UndoCommands::endToolAction() {
+  if (tools_.selectedTool() == kShift) tools_.clearAllTools();
+  regions_.finishDrag();
+  regions_.clearRegion();
 }
 
-void UndoCommands::doUndoAll() {
+void UndoCommands::restore(UndoMode mode) {
   if (!history_.canUndo()) return;
   context_.editor.closePanels();
-  regions_.clearRegion();
-  if (history_.restoreUndo(UndoMode::Baseline)) editingArea_.MagnifyIcon();
+  endToolAction();
+  if (history_.restoreUndo(mode)) editingArea_.MagnifyIcon();
 }
+
+// A shift is undone as a whole, not step by step: the history started again when Shift was turned on.
+void UndoCommands::doUndo() { restore(tools_.selectedTool() == kShift ? UndoMode::Baseline : UndoMode::OneStep); }
+
+void UndoCommands::doUndoAll() { restore(UndoMode::Baseline); }
 
 void UndoCommands::doRedo() {
   if (!history_.canRedo()) return;
   context_.editor.closePanels();
-  regions_.clearRegion();
+  endToolAction();
   if (history_.restoreRedo()) editingArea_.MagnifyIcon();
 }
 

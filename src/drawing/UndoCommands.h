@@ -1,4 +1,5 @@
-// The Undo, Redo and Undo All commands. They end a region or Shift before a step and update the Editing Area after it.
+// The Undo, Redo and Undo All commands. Before a step they end a region or Shift, whose changes are a step of their
+// own; after it they update the Editing Area.
 #pragma once
 
 #include "document/Context.h"
@@ -9,6 +10,7 @@ class EditingArea;
 class Regions;
 class Tools;
 class UndoHistory;
+enum class UndoMode;
 
 class UndoCommands {
  public:
@@ -20,6 +22,9 @@ class UndoCommands {
   void doRedo();
 
  private:
+  void endToolAction();
+  void restore(UndoMode mode);
+
   Context context_;
   EditingArea& editingArea_;
   UndoHistory& history_;

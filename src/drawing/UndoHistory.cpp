@@ -7,7 +7,9 @@
 #include "platform/gdi/SurfaceOps.h"
 #include "platform/ports/MessagePump.h"
 
+#include <algorithm>
 #include <limits>
+#include <span>
 #include <utility>
 
 namespace gp {
@@ -15,6 +17,10 @@ namespace gp {
 namespace {
 
 constexpr std::size_t kMaxEntries = kMaxUndoSteps + 1;  // the baseline is not a step
+
+bool sameColors(std::span<const std::uint32_t> a, std::span<const std::uint32_t> b) {
+  return std::ranges::equal(a, b, [](std::uint32_t x, std::uint32_t y) { return ((x ^ y) & kColorBits) == 0; });
+}
 
 void moveLast(std::vector<Surface>& from, std::vector<Surface>& to) {
   to.push_back(std::move(from.back()));
@@ -29,6 +35,13 @@ UndoHistory::UndoHistory(const Context& context, EditingArea& editingArea)
 }
 
 void UndoHistory::recordUndo() {
+  push();
+  context_.editor.UpdateCommands();
+  context_.pump.pump();
+}
+
+void UndoHistory::push() {
+  dropOpenStep();
   clearRedoStack();
   if (mUndoSeq < std::numeric_limits<std::int16_t>::max()) ++mUndoSeq;
   // The newest entry replaces the oldest one and reuses its memory.
@@ -38,8 +51,16 @@ void UndoHistory::recordUndo() {
     mUndoStack.erase(mUndoStack.begin());
   }
   mUndoStack.push_back(snapshot(std::move(memory)));
-  context_.editor.UpdateCommands();
-  context_.pump.pump();
+}
+
+void UndoHistory::recordOpenStep() {
+  if (hasOpenStep()) push();
+  dropOpenStep();
+}
+
+// A step that has brought all pixels back is none.
+bool UndoHistory::hasOpenStep() const {
+  return open_ && !mUndoStack.empty() && fitsIcon(mUndoStack.back()) && !equalsIcon(mUndoStack.back());
 }
 
 void UndoHistory::clearRedoStack() { mRedoStack.clear(); }
@@ -47,10 +68,12 @@ void UndoHistory::clearRedoStack() { mRedoStack.clear(); }
 void UndoHistory::clearUndoHistory() {
   mUndoStack.clear();
   clearRedoStack();
+  dropOpenStep();
   mUndoSeq = 0;
 }
 
 bool UndoHistory::restoreUndo(UndoMode mode) {
+  recordOpenStep();
   if (!canUndo()) return false;
   const bool toBaseline = mode == UndoMode::Baseline;
   const Surface& target = toBaseline ? mUndoStack.front() : mUndoStack[mUndoStack.size() - 2];
@@ -67,6 +90,7 @@ bool UndoHistory::restoreUndo(UndoMode mode) {
 }
 
 bool UndoHistory::restoreRedo() {
+  recordOpenStep();
   if (!canRedo() || !fitsIcon(mRedoStack.back())) return false;
   apply(mRedoStack.back());
   moveLast(mRedoStack, mUndoStack);
@@ -76,6 +100,16 @@ bool UndoHistory::restoreRedo() {
 
 bool UndoHistory::fitsIcon(const Surface& snapshot) const {
   return snapshot.width() == 2 * state_.picImage.width() && snapshot.height() == state_.picImage.height();
+}
+
+bool UndoHistory::equalsIcon(const Surface& snapshot) const {
+  const auto width = static_cast<std::size_t>(state_.picImage.width());
+  for (int y = 0; y < state_.picImage.height(); ++y) {
+    const auto row = snapshot.row(y);
+    if (!sameColors(row.first(width), state_.picImage.row(y)) || !sameColors(row.last(width), state_.picMask.row(y)))
+      return false;
+  }
+  return true;
 }
 
 // Returns a snapshot of the icon. `picUndo` is memory to reuse.
@@ -91,6 +125,8 @@ Surface UndoHistory::snapshot(Surface picUndo) const {
 }
 
 void UndoHistory::apply(const Surface& snapshot) {
+  if (equalsIcon(snapshot)) return;
+  state_.current().modified = true;
   const int width = state_.picImage.width();
   const int height = state_.picImage.height();
   BitBlt(state_.picImage, 0, 0, width, height, snapshot, 0, 0, RasterOp::SRCCOPY);

@@ -8,8 +8,10 @@
 namespace gp {
 namespace {
 
+// A path that is too long to be parsed has no folder; the former one is kept.
 std::string remembered(FilesContext& context, const std::string& path) {
-  if (!path.empty()) context.process.mLastFolder = ParseFileName(path, PathPart::DriveAndFolder);
+  const std::string folder = ParseFileName(path, PathPart::DriveAndFolder);
+  if (!folder.empty()) context.process.mLastFolder = folder;
   return path;
 }
 

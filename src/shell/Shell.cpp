@@ -92,6 +92,9 @@ void Shell::clearUndoHistory() { drawing_.history.clearUndoHistory(); }
 void Shell::doOpenIconFileQuietly(const std::string& path, bool& ok) {
   files_.iconFiles.doOpenIconFileQuietly(path, ok);
 }
+void Shell::offerIconsOfFile(const std::string& path, int container) {
+  files_.iconFiles.offerIconsOfFile(path, container);
+}
 void Shell::AskSaveCurrent(const std::string& message, bool& proceed) {
   files_.iconSaver.AskSaveCurrent(message, proceed);
 }

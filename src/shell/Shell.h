@@ -117,6 +117,7 @@ class Shell final : public Editor {
   void recordUndo() override;
   void clearUndoHistory() override;
   void doOpenIconFileQuietly(const std::string& path, bool& ok) override;
+  void offerIconsOfFile(const std::string& path, int container) override;
   void AskSaveCurrent(const std::string& message, bool& proceed) override;
   void setHotspotByClick(int x, int y) override;
   void UpdateCommands() override;

@@ -5,9 +5,11 @@
 namespace gp {
 namespace {
 
-// Intended: a never-saved icon in the current container makes every used container count as unsaved.
+// Intended: a never-saved icon in the current container makes every used container count as unsaved. Clearing a
+// container leaves its flags, which mean nothing then.
 bool isUnsaved(const IconContainerRec& record, const EditState& state) {
-  return record.used && (record.modified || state.current().neverSaved);
+  const bool isCurrentNew = state.current().used && state.current().neverSaved;
+  return record.used && (record.modified || isCurrentNew);
 }
 
 std::string lineOf(int container, const IconContainerRec& record) {

@@ -224,6 +224,84 @@ TEST_F(GpiconUpdate, TheFullestFileTakesNoMore) {
   EXPECT_EQ(bytesOf(path), full);
 }
 
+// Files that the editor opens only through its browser: the first image is of 256x256, or none is of 32x32.
+
+class GpiconRefusedByTheProbe : public GpiconUpdate {
+ protected:
+  const Entry large = sized(anyEntry(48, 24), 0), c24 = anyEntry(24, 24), c16 = anyEntry(16, 24);
+  // Each with an image of 16x16 at index 1.
+  const std::vector<std::vector<Entry>> files{{large, c16, anyEntry(32, 4)}, {anyEntry(48, 8), c16}};
+
+  static Entry sized(Entry entry, int side) {
+    entry.width = entry.height = side;
+    return entry;
+  }
+  std::string write(const std::vector<Entry>& entries) const { return folder.write("refused.ico", fileOf(entries)); }
+};
+
+TEST_F(GpiconRefusedByTheProbe, TheProbeStaysAsItIs) {
+  EXPECT_EQ(run({"probe", write(files[0])}).out, folder.path("refused.ico") + "\t0/0/0/0/0/0/0/0/0\n");
+  EXPECT_EQ(run({"probe", write(files[1])}).out, folder.path("refused.ico") + "\t2/0/0/0/0/0/0/0/0\n");
+}
+
+TEST_F(GpiconRefusedByTheProbe, TheyTakeIcons) {
+  const std::string a = trueColorIcon(24);
+  for (const std::vector<Entry>& entries : files) {
+    std::vector<Entry> added = entries, replaced = entries;
+    added.push_back(c24);
+    replaced[1] = c24;
+    const std::string path = write(entries);
+    expectFile(run({"add", path, a}), added, path);
+    write(entries);
+    expectFile(run({"replace", path, "1", a}), replaced, path);
+  }
+}
+
+TEST_F(GpiconRefusedByTheProbe, TheirImagesAreAddedAndReplaceOthersByTheirIndex) {
+  const std::string out = folder.path("out.ico");
+  for (const std::vector<Entry>& entries : files) {
+    const std::string source = write(entries);
+    expectFile(run({"add", file, source, "--image", "1", "-o", out}), {three[0], three[1], three[2], c16}, out);
+    expectFile(run({"replace", file, "0", source, "--image", "1", "-o", out}), {c16, three[1], three[2]}, out);
+    for (const std::string command : {"add", "replace"}) {
+      std::vector<std::string> arguments{command, file, source};
+      if (command == "replace") arguments.insert(arguments.begin() + 2, "0");
+      expectRefusal(arguments, source + ": no image of it is chosen by itself, --image N names one");
+      arguments.insert(arguments.end(), {"--image", "9"});
+      expectRefusal(arguments, source + ": no image of that index");
+      arguments.back() = "x";
+      EXPECT_EQ(run(arguments).err, "gpicon: " + command + ": --image takes a number (see gpicon --help)\n");
+    }
+  }
+  expectRefusal({"add", file, write(files[0]), "--image", "0"},
+                folder.path("refused.ico") + ": icon not of size 16x16, 24x24, 32x32 or 48x48");
+}
+
+TEST_F(GpiconRefusedByTheProbe, AnyImageOfAFileThatIsOpenedCanBeNamed) {
+  const std::string several = folder.write("s.ico", fileOf({c16, anyEntry(32, 24), anyEntry(48, 24)}));
+  const std::string out = folder.path("out.ico");
+  expectFile(run({"add", file, several, "--image", "2", "-o", out}), {three[0], three[1], three[2], anyEntry(48, 24)},
+             out);
+  expectFile(run({"add", file, several, "-o", out}), {three[0], three[1], three[2], anyEntry(32, 24)}, out);
+}
+
+TEST_F(GpiconRefusedByTheProbe, TheyAreTakenApartAndResavedByIndex) {
+  for (const std::vector<Entry>& entries : files) {
+    fs::remove_all(folder.path("out"));
+    const std::string path = write(entries), out = folder.path("out"), one = folder.path("one.ico");
+    EXPECT_EQ(run({"unpack", path, "-d", out}).status, 0);
+    EXPECT_TRUE(fs::exists(out + "/refused_1.image.ppm"));
+    EXPECT_EQ(namesIn("out").size(), 4U) << "two files for each of the two usable images";
+    EXPECT_EQ(run({"split", path, "-d", out}).status, 0);
+    EXPECT_EQ(bytesOf(out + "/refused_16_24bpp.ico"), build(c16));
+    EXPECT_EQ(namesIn("out").size(), 4U + entries.size());
+    EXPECT_EQ(run({"resave", path, "1", one}).status, 0);
+    EXPECT_EQ(bytesOf(one), build(c16));
+    EXPECT_EQ(run({"effect", path, "1", one, "disabled"}).status, 0);
+    EXPECT_EQ(bytesOf(one).size(), build(c16).size());
+  }
+}
+
 // Remove.
 
 TEST_F(GpiconUpdate, RemoveTakesOneEntryOutAndMovesTheOthersUp) {

@@ -253,12 +253,13 @@ TEST_F(EditingAreaTest, ThePathStaysAsItIsWhileTheAnimatedCursorPanelIsVisible) 
   EXPECT_EQ(state.screen.lblStatusPanel[0], "frame 3");
 }
 
-TEST_F(EditingAreaTest, AnOpenToolActionIsDroppedByARefresh) {
+TEST_F(EditingAreaTest, AnOpenToolActionEndsInARefreshAndTheHistoryStays) {
   makeIcon(32);
   state.mPendingPaint = true;
   area.RefreshStatusBar();
   EXPECT_FALSE(state.mPendingPaint);
-  EXPECT_EQ(editor.count("clearUndoHistory"), 1);
+  EXPECT_EQ(editor.count("clearRegion"), 1);
+  EXPECT_EQ(editor.count("clearUndoHistory"), 0);
 }
 
 TEST_F(EditingAreaTest, ClearingTheStatusBarEmptiesAllPanels) {
@@ -314,7 +315,7 @@ TEST_F(EditingAreaTest, ANewGridCommitsAnOpenToolAction) {
   EXPECT_FALSE(state.mPendingPaint);
   EXPECT_EQ(gridAtTheEnd, gridColorOf(1)) << "the action ends before the grid changes";
   EXPECT_EQ(state.picPanelImage[0].GetPixel(0, 0), kRed);
-  EXPECT_EQ(editor.count("recordUndo"), 1);
+  EXPECT_EQ(editor.count("clearUndoHistory"), 0);
 }
 
 }  // namespace

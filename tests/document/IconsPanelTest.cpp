@@ -1,4 +1,3 @@
-#include "document/Containers.h"
 #include "document/DocumentFixture.h"
 
 namespace gp {
@@ -105,6 +104,16 @@ TEST_F(IconsPanelTest, SwitchingClosesAnOpenSidePanel) {
   EXPECT_EQ(editor.count("closePanels"), 1);
 }
 
+TEST_F(IconsPanelTest, SwitchingKeepsAPanelOpenDuringAnAnimatedCursorSession) {
+  loadInto(0, 32, 0x0000FF);
+  loadInto(1, 32, 0x00FF00);
+  state.screen.mActivePanel = 7;
+  state.screen.aniContainerVisible = true;
+  panel.SwitchContainer(0);
+  EXPECT_EQ(editor.count("closePanels"), 0);
+  EXPECT_EQ(state.PicIcon.GetPixel(0, 0), 0x0000FF);
+}
+
 TEST_F(IconsPanelTest, TheAlphaValuesFollowTheContainer) {
   loadInto(0, 16, 0x0000FF);
   state.mAlphaRecs[0] = AlphaMatrix(16, 16, 77);
@@ -133,6 +142,23 @@ TEST_F(IconsPanelTest, ARightClickEndsTheIconsListAndShowsTheContainer) {
   EXPECT_EQ(editor.count("closePanels"), 1);
 }
 
+TEST_F(IconsPanelTest, ARightClickChoosesTheColourChartAtTheEnd) {
+  loadInto(0, 32, 0x0000FF);
+  for (const int container : {0, 3}) {
+    editor.calls.clear();
+    panel.PanelRightClick(container);
+    ASSERT_FALSE(editor.calls.empty());
+    EXPECT_EQ(editor.calls.back(), "chooseColorChart") << container;
+  }
+}
+
+TEST_F(IconsPanelTest, ARightClickInTheIconsListChoosesTheChartOfTheContainersIcon) {
+  loadInto(0, 32, 0x0000FF);
+  state.screen.mActivePanel = 1;
+  panel.PanelRightClick(0);
+  EXPECT_EQ(editor.calls.back(), "chooseColorChart");
+}
+
 TEST_F(IconsPanelTest, EndingAToolActionClearsOverlayReadoutAndFlags) {
   loadInto(0, 32, 0x0000FF);
   state.picDisp.makePersistent();
@@ -154,7 +180,7 @@ TEST_F(IconsPanelTest, EndingAToolActionDoesNothingInAnEmptyContainer) {
   EXPECT_EQ(readout(Readout::Region), "Region");
 }
 
-TEST_F(IconsPanelTest, CommittingAPendingActionClicksTheCurrentContainer) {
+TEST_F(IconsPanelTest, CommittingAPendingActionStoresTheIconAndKeepsTheHistory) {
   loadInto(0, 32, 0x0000FF);
   state.picImage.fill(0x123456);
   state.current().modified = true;
@@ -164,11 +190,24 @@ TEST_F(IconsPanelTest, CommittingAPendingActionClicksTheCurrentContainer) {
   EXPECT_EQ(state.iconSerial, before);
   state.mPendingPaint = true;
   panel.CommitPendingPaint();
-  EXPECT_EQ(state.iconSerial, before + 1);
+  EXPECT_EQ(state.iconSerial, before);
   EXPECT_FALSE(state.mPendingPaint);
+  EXPECT_EQ(editor.count("clearRegion"), 1);
+  EXPECT_EQ(editor.count("clearAllTools"), 1);
+  EXPECT_EQ(editor.count("clearUndoHistory"), 0);
   EXPECT_EQ(state.picPanelImage[0].GetPixel(0, 0), 0x123456);
-  EXPECT_EQ(state.PicIcon.GetPixel(0, 0), 0x123456);
-  EXPECT_EQ(state.picDisp.GetPixel(5, 5), 0x123456);
+  EXPECT_EQ(state.picImage.GetPixel(0, 0), 0x123456);
+}
+
+TEST_F(IconsPanelTest, CommittingAsksLikeAClickWithTheOptionOnAndCancelLeavesTheContainer) {
+  loadInto(0, 32, 0x0000FF);
+  state.picImage.fill(0x123456);
+  state.current().modified = state.options.promptToSave = state.mPendingPaint = true;
+  editor.askSaveProceeds = false;
+  panel.CommitPendingPaint();
+  EXPECT_EQ(editor.count("AskSaveCurrent (To remove Reminder, untick the related Option submenu)"), 1);
+  EXPECT_FALSE(state.mPendingPaint);
+  EXPECT_EQ(state.picPanelImage[0].GetPixel(0, 0), 0x0000FF);
 }
 
 TEST_F(IconsPanelTest, OnlyAFirstNameThatEndsInIcoMayBeDropped) {
@@ -207,20 +246,44 @@ TEST_F(IconsPanelTest, AFailedDropLeavesTheFormerIconOnTheEditingAreaWithItsChan
   state.picImage.SetPixelV(9, 9, 0x00FF00);
   area.ComposeCurrentIcon();
   state.current().modified = true;
-  // A loader that fails after it has shown its container as empty.
-  editor.quietLoader = [this] {
-    ClearContainer(state);
-    panel.SwitchContainer(state.mCurContainer);
-    EXPECT_EQ(state.PicIcon.GetPixel(9, 9), kGround);
-    return false;
-  };
+  editor.quietLoader = [] { return false; };
+  const unsigned serial = state.iconSerial;
   panel.PanelDrop(3, {"/a/broken.ico"});
+  EXPECT_EQ(state.iconSerial, serial);
   EXPECT_EQ(state.mCurContainer, 0);
   EXPECT_EQ(state.picImage.width(), 32);
   EXPECT_EQ(state.picImage.GetPixel(9, 9), 0x00FF00);
   EXPECT_EQ(state.PicIcon.GetPixel(9, 9), 0x00FF00);
-  EXPECT_TRUE(state.screen.fraTools[1]);
   EXPECT_TRUE(state.current().modified);
+}
+
+TEST_F(IconsPanelTest, ADropStoresAnOpenToolActionFirst) {
+  loadInto(0, 32, 0x0000FF);
+  state.picImage.fill(0x123456);
+  state.current().modified = state.mPendingPaint = true;
+  editor.quietLoader = [this] {
+    EXPECT_FALSE(state.mPendingPaint) << "the region has ended before the file is opened";
+    EXPECT_EQ(editor.count("clearRegion"), 1);
+    return false;
+  };
+  panel.PanelDrop(3, {"/a/none.ico"});
+  EXPECT_EQ(editor.count("doOpenIconFileQuietly /a/none.ico"), 1);
+  EXPECT_EQ(state.picPanelImage[0].GetPixel(0, 0), 0x123456);
+}
+
+TEST_F(IconsPanelTest, ADropClosesASidePanelUnlessAnAnimatedCursorIsEdited) {
+  loadInto(0, 32, 0x0000FF);
+  editor.quietLoader = [] { return false; };
+  panel.PanelDrop(3, {"/a/none.ico"});
+  EXPECT_EQ(editor.count("closePanels"), 0) << "the colour panel stays";
+  state.screen.mActivePanel = 7;
+  panel.PanelDrop(3, {"/a/none.bmp"});
+  EXPECT_EQ(editor.count("closePanels"), 0) << "it was refused";
+  panel.PanelDrop(3, {"/a/none.ico"});
+  EXPECT_EQ(editor.count("closePanels"), 1);
+  state.screen.aniContainerVisible = true;
+  panel.PanelDrop(3, {"/a/none.ico"});
+  EXPECT_EQ(editor.count("closePanels"), 1);
 }
 
 TEST_F(IconsPanelTest, ADropThatFailsAtOnceKeepsTheUndoHistory) {
@@ -229,6 +292,7 @@ TEST_F(IconsPanelTest, ADropThatFailsAtOnceKeepsTheUndoHistory) {
   panel.PanelDrop(3, {"/a/none.ico"});
   EXPECT_EQ(editor.count("clearUndoHistory"), 0);
   EXPECT_EQ(state.mCurContainer, 0);
+  EXPECT_EQ(editor.count("offerIconsOfFile /a/none.ico 3"), 1);
 }
 
 TEST_F(IconsPanelTest, UpdatingThePanelTakesTheIconAndMakesABaseline) {

@@ -223,15 +223,19 @@ TEST_P(RegionNesting, AnEventDuringTheWorkLeavesIconMaskHistoryAndRegionInAgreem
 
 class RegionNestingOutcome : public NestingFixture {};
 
-TEST_F(RegionNestingOutcome, AnUndoDuringADragDropsTheDrag) {
-  state.options.updateOnlyEditingArea = true;
-  begin();
-  const Rows before = icon();
-  action = [this] { undo.doUndo(); };
-  paintPixel(15, 15, 'c');
-  dragRegion();
-  EXPECT_EQ(icon(), before);
-  EXPECT_FALSE(state.mRegionExists);
+TEST_F(RegionNestingOutcome, AnUndoDuringADragTakesBackTheDragAlone) {
+  for (const bool option : {false, true}) {
+    state.options.updateOnlyEditingArea = option;
+    begin();
+    paintPixel(15, 15, 'c');
+    const Rows before = icon();
+    action = [this] { undo.doUndo(); };
+    dragRegion();
+    EXPECT_EQ(icon(), before);
+    EXPECT_FALSE(state.mRegionExists);
+    undo.doRedo();
+    EXPECT_EQ(icon().front(), "..aaaaaa");
+  }
 }
 
 TEST_F(RegionNestingOutcome, AReleaseDuringAMoveFinishesTheDragWhereItWas) {

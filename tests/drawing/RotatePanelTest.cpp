@@ -122,6 +122,49 @@ TEST_F(RotatePanelTest, TheSampleShowsTheTurnedIconInItsMiddleOnTheGround) {
   EXPECT_EQ(sample.GetPixel(35, 33), test::kColorC);
 }
 
+// The part of the sample where the rotated icon is, as the icon looks after Proceed.
+TEST_F(RotatePanelTest, TheSampleShowsATypedAngleAsProceedRotatesByIt) {
+  const Rows drawn(48, std::string(20, 'a') + std::string(20, 'b'));
+  Surface at12{};
+  for (const char* angle : {"12", "12.4", "-33.5", "400", "-725", " 7x"}) {
+    makeIcon(48, drawn);
+    rotatePanel.open();
+    rotatePanel.setAngleText(angle);
+    const Surface sample = rotatePanel.picRotateImageSample();
+    if (angle == std::string("12")) at12 = sample;
+    EXPECT_EQ(same(sample, at12), angle == std::string("12")) << angle;
+    rotatePanel.doRotateProceed();
+    for (int y = 16; y < 32; ++y)
+      for (int x = 16; x < 32; ++x)
+        EXPECT_EQ(sample.GetPixel(x + 11, y + 11), state.PicIcon.GetPixel(x, y)) << angle << " " << x << ", " << y;
+  }
+}
+
+TEST_F(RotatePanelTest, AnotherIconThatComesUpIsShownByTheSample) {
+  const Surface& sample = rotatePanel.picRotateImageSample();
+  display.onChanged = [this](DisplayPart part) {
+    if (part == DisplayPart::IconsPanel) rotatePanel.follow();
+  };
+  makeIcon(16, Rows(16, std::string(16, 'a')));
+  rotatePanel.open();
+  rotatePanel.setAngleText("10");
+  EXPECT_EQ(sample.GetPixel(35, 35), test::kColorA);
+  arrive(0, {Surface(32, 32, test::kColorB), Surface(32, 32, kBlack), {}});
+  EXPECT_EQ(sample.GetPixel(35, 35), test::kColorB);
+  EXPECT_EQ(rotatePanel.cboRotateImageAngle(), "10");
+  panel.showEmptyContainer();
+  EXPECT_EQ(sample.GetPixel(35, 35), kGround);
+}
+
+TEST_F(RotatePanelTest, ASampleThatIsNotShownIsNotDrawn) {
+  makeIcon(16, Rows(16, std::string(16, 'a')));
+  rotatePanel.open();
+  editor.showPanel(kColorPanel);
+  const int refreshes = display.count(DisplayPart::SidePanel);
+  rotatePanel.follow();
+  EXPECT_EQ(display.count(DisplayPart::SidePanel), refreshes);
+}
+
 TEST_F(RotatePanelTest, TheLargestIconIsShownWholeAtEveryAngle) {
   makeIcon(48, Rows(48, std::string(48, 'a')));
   rotatePanel.open();

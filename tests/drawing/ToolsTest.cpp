@@ -242,12 +242,19 @@ TEST_F(ToolsTest, AReleaseWhileTheCursorPanelIsUpTellsTheHotSpotWhateverIsSelect
 }
 
 TEST_F(ToolsTest, AReleaseOfRegionOrShiftMarksTheIconAlthoughNoPixelChanged) {
-  makeIcon(32);
-  tools.selectTool(kPaint);
-  state.current().modified = false;
-  tools.release(at(3, 3));
-  EXPECT_TRUE(state.current().modified);
-  EXPECT_EQ(paintedPixels(), 0);
+  for (const Tool tool : {kRegion, kShift}) {
+    makeIcon(32);
+    state.current().modified = false;
+    tools.release(at(3, 3));
+    EXPECT_FALSE(state.current().modified) << "no tool is selected";
+    tools.selectTool(tool);
+    ASSERT_EQ(tools.selectedTool(), tool);
+    EXPECT_FALSE(state.current().modified);
+    tools.release(at(3, 3));
+    EXPECT_TRUE(state.current().modified) << tool;
+    EXPECT_EQ(paintedPixels(), 0);
+    EXPECT_FALSE(state.mRegionExists);
+  }
 }
 
 TEST_F(ToolsTest, ASecondClickOnAToolTurnsItOffSoThatAPressDoesNothing) {

@@ -147,6 +147,33 @@ TEST_F(UndoCommandsTest, UndoAndRedoRedrawTheEditingAreaAndEndARegion) {
   EXPECT_EQ(state.picDisp.GetPixel(5, 5), kGround);
 }
 
+TEST_F(UndoCommandsTest, EachCommandMarksASavedIconAsChanged) {
+  step(0);
+  for (void (UndoCommands::*command)() : {&UndoCommands::doUndo, &UndoCommands::doRedo, &UndoCommands::doUndoAll}) {
+    state.current().modified = false;
+    std::invoke(command, undo);
+    EXPECT_TRUE(state.IsIconChanged());
+  }
+}
+
+TEST_F(UndoCommandsTest, AChangeOfTheMaskAloneMarksTheIconToo) {
+  putPixel(0, 0, 'b');  // black, as a transparent pixel is in the image
+  history.recordUndo();
+  state.current().modified = false;
+  undo.doUndo();
+  EXPECT_TRUE(state.current().modified);
+}
+
+TEST_F(UndoCommandsTest, AnUndoThatChangesNoPixelDoesNotMarkTheIcon) {
+  history.recordUndo();
+  state.current().modified = false;
+  undo.doUndo();
+  undo.doRedo();
+  undo.doUndoAll();
+  EXPECT_EQ(history.undoCount(), 1);
+  EXPECT_FALSE(state.current().modified);
+}
+
 TEST_F(UndoCommandsTest, EachCommandBringsTheColourPanelForwardOnlyWhereItIsHidden) {
   steps(3);
   undo.doUndo();

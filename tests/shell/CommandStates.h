@@ -117,7 +117,7 @@ inline const std::vector<CommandState> kCommandStates{
        m.holdPicture();
        m.click("mnuEditSub", 7);
      },
-     {.icon = true, .size32 = true, .region = true, .clipboardPicture = true, .used = {0}}},
+     {.icon = true, .size32 = true, .region = true, .undoStep = true, .clipboardPicture = true, .used = {0}}},
     {"a step to undo", [](StateMaker& m) { m.paint(); }, {.icon = true, .size32 = true, .undoStep = true, .used = {0}}},
     {"a step to redo",
      [](StateMaker& m) {

@@ -108,23 +108,6 @@ TEST_F(CursorCommandsTest, TheOpenCommandOffersToSaveAndOpensInPlaceOfTheIcon) {
   EXPECT_FALSE(state.IsIconChanged());
 }
 
-TEST_F(CursorCommandsTest, ACursorThatCannotBeShownLeavesAnEmptyContainerAndTheOthersAlone) {
-  startWithCursor(1, 2);
-  shell.document().iconsPanel.SwitchContainer(2);
-  click("mnuFileSub", 2);
-  CursorFile odd = cursorOf(anyPicture(32, 32));
-  odd.picture.headerBits = 16;
-  dialogs.paths = {write("odd.cur", odd)};
-  boxes.expectTold(folder.file("odd.cur") + "\nIncoming icon is a True Color icon but not of 24 BPP or 32 BPP.\n",
-                   BoxIcon::Information);
-  click("mnuFileSub", kOpenCursor);
-  EXPECT_FALSE(state.current().used || state.current().present);
-  EXPECT_EQ(status(StatusPanel::Path), "");
-  EXPECT_FALSE(state.screen.fraTools[1]);
-  EXPECT_EQ(state.picDisp.GetPixel(100, 100), kGround);
-  EXPECT_TRUE(state.mIconRecs[0].isCursor && state.mIconRecs[0].present);
-}
-
 // The panel.
 
 TEST_F(CursorCommandsTest, SaveAsCursorOpensThePanelAndShowsTheSpotOnce) {

@@ -3,6 +3,8 @@
 #include "document/Containers.h"
 #include "document/PanelNumbers.h"
 #include "files/CursorBuilder.h"
+#include "files/Decoding.h"
+#include "files/browser/MultiIconExchange.h"
 #include "support/ShellFixture.h"
 
 #include <set>
@@ -107,6 +109,52 @@ TEST_F(FileDispatchTest, AnIconThatCommittingGaveAFileOfItsOwnIsNotSavedIntoTheO
   EXPECT_EQ(path(), folder.file("own.ico"));
   EXPECT_EQ(dialogs.requests.size(), 1U);
   EXPECT_EQ(folder.read("multi.ico"), before);
+}
+
+// A file that the probe refuses but that holds icons.
+
+TEST_F(FileDispatchTest, TheIconsOfARefusedFileAreOfferedOnEachRoad) {
+  const IcoFile icons{{anyEntry(16, 4), anyEntry(48, 8)}, 0, 1, {}};
+  const std::string refused = write("two.ico", build(icons));
+  const std::string offer = refused +
+                            "\n\nInvalid icon file or icon not a size of 16x16, 24x24, 32x32 or 48x48.\n"
+                            "Please try to use Open Bitmap File menu instead."
+                            "\n\nIt holds 2 icons of these sizes all the same. Show them?";
+  const auto expectOffer = [&](int container) {
+    boxes.expect(offer, BoxButtons::YesNo, BoxIcon::Exclamation, BoxAnswer::Yes);
+    form.onMultiIcon = [this, container, &icons] {
+      MultiIconExchange& exchange = shell.files().context().multiIcon;
+      EXPECT_EQ(exchange.gMultiIconResult, std::to_string(container));
+      exchange.chosenIcon = decode(build(icons), 1);
+      exchange.gMultiIconResult = std::to_string(container + 1) + "/01/48/48/256/8/256/8";
+    };
+  };
+  const auto expectLoaded = [&](int container) {
+    EXPECT_EQ(state.mCurContainer, container);
+    EXPECT_EQ(path(), refused);
+    EXPECT_EQ(state.current().multiIconIndex, 1);
+    EXPECT_EQ(state.current().size, 48);
+    EXPECT_TRUE(boxes.done());
+    shell.document().iconsPanel.SwitchContainer(0);
+    click("mnuFileSub", kNewIcon32);
+  };
+  expectOffer(0);
+  start(refused);
+  expectLoaded(0);
+  expectOffer(0);
+  dialogs.paths = {refused};
+  click("mnuFileSub", kOpenIcon);
+  EXPECT_EQ(state.process.mCommandFile, refused);
+  expectLoaded(0);
+  expectOffer(0);
+  click("mnuFileHistory", 1);
+  expectLoaded(0);
+  for (const int container : {0, 2}) {
+    expectOffer(container);
+    shell.document().iconsPanel.PanelDrop(container, {refused});
+    expectLoaded(container);
+  }
+  EXPECT_EQ(form.multiIcons, 5);
 }
 
 // New Icon.

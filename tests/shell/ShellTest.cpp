@@ -11,6 +11,8 @@ namespace {
 using test::plainIconFile;
 using ShellTest = test::ShellFixture;
 
+constexpr int kUndoAll = 0, kUndo = 1, kRedo = 2;  // of mnuEditSub
+
 TEST_F(ShellTest, TheProgramStartsEmptyWithContainerOneAndTheSmallChart) {
   start();
   EXPECT_EQ(state.mCurContainer, 0);
@@ -119,6 +121,16 @@ TEST_F(ShellTest, SettingsOfTheLastSessionStandAgain) {
   EXPECT_EQ(form.now.height, 12000);
 }
 
+TEST_F(ShellTest, TheFolderOfTheLastSessionIsReadAtStartIfItIsStillThere) {
+  std::filesystem::create_directory(folder.file("icons"));
+  folder.write("Glimmerpane.ini", "[Last Folder]\nLastFolder=" + folder.file("icons") + "\n");
+  shell.formLoad();
+  EXPECT_EQ(state.process.mLastFolder, folder.file("icons"));
+  folder.write("Glimmerpane.ini", "[Last Folder]\nLastFolder=" + folder.file("gone") + "\n");
+  shell.formLoad();
+  EXPECT_EQ(state.process.mLastFolder, folder.path()) << "the program's folder";
+}
+
 TEST_F(ShellTest, TheDefaultStartScreenKeepsTheDefaultSize) {
   folder.write("Glimmerpane.ini", "[Screen Pos]\nLeft=150\nTop=300\nWidth=15000\nHeight=12000\nWinState=-1\n");
   start();
@@ -200,45 +212,6 @@ TEST_F(ShellTest, ABadFileLeavesTheOtherContainersUntouched) {
   EXPECT_FALSE(ok);
   EXPECT_TRUE(state.mIconRecs[0].present);
   EXPECT_TRUE(std::ranges::equal(state.picPanelImage[0].pixels(), before.pixels()));
-}
-
-// An icon file whose image is not a bitmap: it passes every check until it is read.
-std::string unreadableIconFile(int size) {
-  std::string bytes = plainIconFile(size, 1);
-  return bytes.replace(22, 8, "\x89PNG\r\n\x1A\n");
-}
-
-TEST_F(ShellTest, AFileThatFailsToLoadLeavesAnEmptyEditingAreaWithoutTools) {
-  start(folder.write("good.ico", plainIconFile(48, 1)));
-  shell.drawing().tools.selectTool(kPaint);
-  paint(2, 2);
-  display.parts.clear();
-  const std::string bad = folder.write("bad.ico", unreadableIconFile(48));
-  boxes.expectTold(bad + "\nFailed to load this file", BoxIcon::Exclamation);
-  bool ok = true;
-  shell.files().iconFiles.doOpenIconFile(bad, true, ok);
-  EXPECT_FALSE(ok);
-  EXPECT_EQ(state.current().size, 32);
-  EXPECT_FALSE(state.current().used);
-  EXPECT_EQ(state.picDisp.width(), 32 * state.gMagnification);
-  EXPECT_EQ(state.gMagnification, 12);
-  EXPECT_FALSE(state.screen.fraTools[1]);
-  EXPECT_EQ(shell.selectedTool(), 0);
-  for (const std::string& text : state.screen.lblStatusPanel) EXPECT_EQ(text, "");
-  EXPECT_TRUE(display.hasChanged(DisplayPart::EditingArea));
-  EXPECT_TRUE(display.hasChanged(DisplayPart::IconsPanel));
-}
-
-TEST_F(ShellTest, AFailedDropOnAnotherContainerLeavesANewIconOnTheEditingArea) {
-  start();
-  click("mnuFileSub", 2);
-  const Surface before = state.picDisp;
-  shell.document().iconsPanel.PanelDrop(3, {folder.write("bad.ico", unreadableIconFile(32))});
-  EXPECT_EQ(state.mCurContainer, 0);
-  EXPECT_EQ(status(StatusPanel::Path), "Untitled");
-  EXPECT_TRUE(state.screen.fraTools[1]);
-  EXPECT_TRUE(std::ranges::equal(before.pixels(), state.picDisp.pixels()));
-  EXPECT_EQ(state.mIconRecs[3].size, 32);
 }
 
 TEST_F(ShellTest, AnIconDroppedOnAnotherContainerShowsThere) {
@@ -345,9 +318,71 @@ TEST_F(ShellTest, WhatWasSavedUnderANameCanStillBeUndone) {
   dialogs.paths = {folder.file("saved.ico")};
   click("mnuFileSub", 13);
   ASSERT_FALSE(folder.read("saved.ico").empty());
+  EXPECT_FALSE(state.IsIconChanged());
   EXPECT_TRUE(enabled("mnuEditSub", 1));
-  click("mnuEditSub", 1);
+  for (const int command : {kUndo, kRedo, kUndoAll}) {
+    click("mnuFileSub", 12);
+    ASSERT_FALSE(state.IsIconChanged());
+    click("mnuEditSub", command);
+    EXPECT_EQ(state.picMask.GetPixel(3, 4), command == kRedo ? kBlack : kWhite);
+    EXPECT_TRUE(state.IsIconChanged()) << "the file has the other pixel";
+    boxes.expectAsked("The following is not saved yet: \n\nIcon Seq 1    " + folder.file("saved.ico") +
+                          "\n\nProceed to exit still?\n",
+                      BoxAnswer::No);
+    EXPECT_FALSE(shell.queryUnload());
+  }
+}
+
+TEST_F(ShellTest, AnUndoneStateIsKeptByAContainerSwitchAndAskedAboutByNewOpenAndHistory) {
+  start();
+  click("mnuFileSub", 2);
+  paint(3, 4);
+  dialogs.paths = {folder.file("saved.ico")};
+  click("mnuFileSub", 13);
+  click("mnuEditSub", kUndo);
+  for (const auto& [control, index] :
+       {std::pair{"mnuFileSub", 2}, {"mnuFileSub", 7}, {"mnuFileSub", 9}, {"mnuFileHistory", 1}}) {
+    boxes.expect("Save current icon to file?", BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Cancel);
+    click(control, index);
+    EXPECT_TRUE(boxes.done()) << control << index;
+    EXPECT_EQ(state.picMask.GetPixel(3, 4), kWhite);
+  }
+  shell.document().iconsPanel.SwitchContainer(1);
+  shell.document().iconsPanel.SwitchContainer(0);
   EXPECT_EQ(state.picMask.GetPixel(3, 4), kWhite);
+  shell.document().iconsPanel.PanelDrop(2, {folder.file("saved.ico")});
+  shell.document().iconsPanel.SwitchContainer(0);
+  EXPECT_EQ(state.picMask.GetPixel(3, 4), kWhite) << "a file dropped on another container";
+}
+
+TEST_F(ShellTest, AFlippedRegionThatASaveMergedIsUndoneByItself) {
+  start();
+  click("mnuFileSub", 2);
+  paint(3, 4);
+  dialogs.paths = {folder.file("saved.ico")};
+  click("mnuFileSub", 13);
+  click("mnuTools", 14);
+  const auto corner = [m = static_cast<float>(state.gMagnification)](int cell) {
+    return MouseInput{kLeftButton, 0, static_cast<float>(cell) * m, static_cast<float>(cell) * m};
+  };
+  shell.drawing().tools.press(corner(2));
+  shell.drawing().tools.move(corner(8));
+  shell.drawing().tools.release(corner(8));
+  click("mnuRotateSubmenu", 0);
+  ASSERT_TRUE(state.mPendingPaint);
+  ASSERT_EQ(state.picMask.GetPixel(6, 4), kBlack);
+  click("mnuFileSub", 12);
+  EXPECT_FALSE(state.IsIconChanged());
+  EXPECT_FALSE(state.mRegionExists);
+  click("mnuEditSub", kUndo);
+  EXPECT_EQ(state.picMask.GetPixel(3, 4), kBlack);
+  EXPECT_EQ(state.picMask.GetPixel(6, 4), kWhite);
+  EXPECT_TRUE(state.IsIconChanged());
+  click("mnuEditSub", kUndo);
+  EXPECT_EQ(state.picMask.GetPixel(3, 4), kWhite);
+  click("mnuEditSub", kRedo);
+  click("mnuEditSub", kRedo);
+  EXPECT_EQ(state.picMask.GetPixel(6, 4), kBlack);
 }
 
 TEST_F(ShellTest, SwitchingContainersStartsTheHistoryAfresh) {

@@ -1,3 +1,4 @@
+#include "document/Containers.h"
 #include "document/EditState.h"
 #include "shell/UnsavedQuestion.h"
 
@@ -54,6 +55,20 @@ TEST(UnsavedQuestion, ANeverSavedCurrentContainerMakesEveryUsedOneCount) {
   EXPECT_EQ(unsavedQuestion(state),
             "The following are not saved yet: \n\nIcon Seq 1    /a.ico\nIcon Seq 2    Captured\n\nProceed to exit "
             "still?\n");
+}
+
+TEST(UnsavedQuestion, AClearedCurrentContainerMakesNoOtherCount) {
+  EditState state;
+  use(state, 0, "/a.ico");
+  use(state, 1, "Captured", true);
+  state.mIconRecs[1].neverSaved = true;
+  state.mCurContainer = 1;
+  ClearContainer(state);
+  ASSERT_TRUE(state.current().neverSaved && state.current().modified);
+  EXPECT_EQ(unsavedQuestion(state), "");
+  state.mIconRecs[0].modified = true;
+  EXPECT_EQ(unsavedQuestion(state),
+            "The following is not saved yet: \n\nIcon Seq 1    /a.ico\n\nProceed to exit still?\n");
 }
 
 TEST(UnsavedQuestion, ANeverSavedContainerThatIsNotCurrentDoesNotCount) {

@@ -53,6 +53,9 @@ class FakeEditor : public Editor {
   void doOpenIconFileQuietly(const std::string& path, bool& ok) override {
     log("doOpenIconFileQuietly " + path), ok = openSucceeds;
   }
+  void offerIconsOfFile(const std::string& path, int container) override {
+    log("offerIconsOfFile " + path + " " + std::to_string(container));
+  }
   void AskSaveCurrent(const std::string& message, bool& proceed) override {
     log("AskSaveCurrent " + message), proceed = askSaveProceeds;
   }

@@ -10,6 +10,7 @@
 #include "support/ProcessUse.h"
 #include "support/ScriptedPorts.h"
 #include "support/TempFolder.h"
+#include "support/TopRowFirst.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -266,6 +267,16 @@ TEST_F(ColorMixerViewTest, ASavedPaletteComesBackAsItWas) {
   EXPECT_EQ(slider(0)->value(), 1);
   slider(0)->setValue(2);
   EXPECT_NE(strip()->grab().toImage(), first);
+}
+
+TEST_F(ColorMixerViewTest, APaletteWithItsTopRowFirstLoadsPixelByPixel) {
+  mix(255, 100, 50);
+  const QImage first = strip()->grab().toImage();
+  dialogs.paths = {folder.file("mine.pal")};
+  QTest::mouseClick(find("imgSavePalette"), Qt::LeftButton);
+  mix(1, 2, 3);
+  load(folder.write("upright.pal", test::topRowFirst(folder.read("mine.pal"), 40, 200, 24)));
+  EXPECT_EQ(strip()->grab().toImage(), first);
 }
 
 TEST_F(ColorMixerViewTest, PalettesOfAnyDepthAndFormatLoadIfTheSizeFits) {

@@ -127,7 +127,7 @@ TEST_F(ColorPanelTest, HexOffShowsTheSameColourInDecimalWithEightPlaces) {
   for (int i = 0; i < 3; ++i) key(Qt::Key_Backspace);
   EXPECT_FALSE(hex->isChecked());
   hex->click();
-  EXPECT_EQ(text()->text(), "10203");
+  EXPECT_EQ(text()->text(), "010203");
   key(Qt::Key_Return);
   EXPECT_EQ(state.mCurrentColor, 0x010203);
 }

@@ -111,6 +111,23 @@ TEST_F(EffectPanelsTest, TheTitleOfThePanelOfRotationComesFromTheTableToo) {
   EXPECT_EQ(find("fraPanel(4)")->accessibleName(), "Rotate image (-359 to +359)");
 }
 
+TEST_F(EffectPanelsTest, TheSampleOfRotationFollowsAnotherIconAndATypedAngle) {
+  startWithDisc();
+  trigger("mnuRotateSubmenu", 4);
+  QWidget* sample = find("picRotateImageSample");
+  const auto middle = [sample] { return sample->grab().toImage().pixel(sample->rect().center()); };
+  bool ok = false;
+  shell.doOpenIconFileQuietly(folder.write("red.ico", test::plainIconFile(32, 5)), ok);
+  ASSERT_TRUE(ok && isUp(kRotatePanel));
+  settle();
+  EXPECT_EQ(middle(), toRgb(state.PicIcon.GetPixel(16, 16)));
+  auto* angle = find<QComboBox>("cboRotateImageAngle");
+  const QImage before = sample->grab().toImage();
+  angle->setEditText("0");
+  QTest::keyClicks(angle, ".4");
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(sample)->text(QAccessible::Value), "0.4 degrees");
+}
+
 TEST_F(EffectPanelsTest, ReliefIsShownUnderItsNameAndMadeByEnter) {
   startWithDisc();
   for (const auto& [index, name] : {std::pair{11, "Embossed"}, {12, "Engraved"}, {13, "Raised"}, {14, "Shadowed"}}) {

@@ -77,6 +77,56 @@ TEST_F(IconsPanelViewTest, ArrowsAndDigitsMoveWithinTheColumnEnterAndSpaceSwitch
   EXPECT_EQ(state.mCurContainer, 5);
 }
 
+TEST_F(IconsPanelViewTest, ADropIsACopyWhateverTheSourceProposes) {
+  start();
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(toText(folder.write("a.ico", test::plainIconFile(16, 3))))});
+  QWidget* target = indexed("picPanelIcon", 2);
+  const auto send = [&](QDropEvent& event, Qt::DropAction proposed) {
+    event.setDropAction(proposed);
+    event.ignore();
+    QCoreApplication::sendEvent(target, &event);
+  };
+  for (const Qt::DropAction proposed : {Qt::MoveAction, Qt::LinkAction, Qt::CopyAction}) {
+    const Qt::DropActions possible = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction;
+    QDragEnterEvent enter(QPoint(5, 5), possible, &data, Qt::LeftButton, Qt::ShiftModifier);
+    QDragMoveEvent over(QPoint(5, 5), possible, &data, Qt::LeftButton, Qt::ShiftModifier);
+    QDropEvent drop(QPointF(5, 5), possible, &data, Qt::LeftButton, Qt::ShiftModifier);
+    for (QDropEvent* event : {static_cast<QDropEvent*>(&enter), static_cast<QDropEvent*>(&over), &drop}) {
+      send(*event, proposed);
+      EXPECT_TRUE(event->isAccepted());
+      EXPECT_EQ(event->dropAction(), Qt::CopyAction);
+    }
+    settle();
+    EXPECT_TRUE(state.mIconRecs[2].used);
+    shell.document().iconsPanel.showEmptyContainer();
+  }
+}
+
+TEST_F(IconsPanelViewTest, ASourceThatOffersOnlyToMoveItsFileIsRefused) {
+  start();
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(toText(folder.write("a.ico", test::plainIconFile(16, 3))))});
+  QWidget* target = indexed("picPanelIcon", 2);
+  QDragEnterEvent onlyMove(QPoint(5, 5), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+  onlyMove.accept();
+  QCoreApplication::sendEvent(target, &onlyMove);
+  EXPECT_FALSE(onlyMove.isAccepted());
+  // Nor may it offer a copy at first and only a move later.
+  QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(target, &enter);
+  ASSERT_TRUE(enter.isAccepted());
+  QDragMoveEvent over(QPoint(5, 5), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QDropEvent drop(QPointF(5, 5), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+  for (QDropEvent* event : {static_cast<QDropEvent*>(&over), &drop}) {
+    event->accept();
+    QCoreApplication::sendEvent(target, event);
+    EXPECT_FALSE(event->isAccepted());
+  }
+  settle();
+  EXPECT_FALSE(state.mIconRecs[2].used);
+}
+
 TEST_F(IconsPanelViewTest, ADroppedIconFileOpensInItsContainerWithoutAQuestion) {
   startWithIcon(16);
   EXPECT_TRUE(drag(3, {folder.write("d r\xC3\xB6p.ICO", test::plainIconFile(32, 2)), folder.file("other.ico")}));

@@ -1,12 +1,15 @@
 #include "platform/qt/QtPictureLoader.h"
 #include "support/ProcessUse.h"
 #include "support/TempFolder.h"
+#include "support/TopRowFirst.h"
 
 #include <QBuffer>
 #include <QImage>
 
+#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <limits>
 #include <sys/stat.h>
 
 namespace gp {
@@ -68,6 +71,42 @@ TEST_F(PictureLoaderTest, EveryDepthAndFormatGivesTheSamePixels) {
     }
   }
   EXPECT_EQ(load(encoded(picture(), "jpeg")).problem, PictureProblem::None);
+}
+
+TEST_F(PictureLoaderTest, BitmapsWithTheirTopRowFirstAreReadPixelByPixel) {
+  constexpr int kWidth = 7, kHeight = 5;
+  QImage whole(kWidth, kHeight, QImage::Format_RGB32);
+  for (int y = 0; y < kHeight; ++y)
+    for (int x = 0; x < kWidth; ++x) whole.setPixel(x, y, qRgb(x * 30, y * 50, 200));
+  const std::pair<QImage::Format, int> depths[] = {
+      {QImage::Format_RGB32, 24}, {QImage::Format_Indexed8, 8}, {QImage::Format_Mono, 1}};
+  for (const auto& [depth, bits] : depths) {
+    const std::string usual = encoded(whole.convertToFormat(depth), "bmp");
+    const LoadedPicture expected = load(usual);
+    ASSERT_EQ(expected.problem, PictureProblem::None) << bits;
+    const std::string upright = test::topRowFirst(usual, kWidth, kHeight, bits);
+    ASSERT_NE(upright, usual);
+    const LoadedPicture loaded = load(upright);
+    ASSERT_EQ(loaded.problem, PictureProblem::None) << bits;
+    EXPECT_EQ(loaded.width, kWidth);
+    EXPECT_EQ(loaded.height, kHeight);
+    EXPECT_TRUE(std::ranges::equal(loaded.picture.pixels(), expected.picture.pixels())) << bits;
+    if (bits == 24) {
+      EXPECT_EQ(loaded.picture.GetPixel(6, 1), rgb(180, 50, 200));
+    }
+    EXPECT_EQ(load(upright.substr(0, upright.size() - 1)).problem, PictureProblem::Unreadable) << bits;
+  }
+}
+
+TEST_F(PictureLoaderTest, TheLargestNegativeHeightsAreRefused) {
+  constexpr int kLeast = std::numeric_limits<int>::min();
+  for (const int width : {0, 1, 5, 16000}) {
+    EXPECT_EQ(load(bitmapHeader(width, kLeast) + std::string(1000, 'x')).problem, PictureProblem::Unreadable) << width;
+    EXPECT_NE(load(bitmapHeader(width, kLeast + 1) + std::string(1000, 'x')).problem, PictureProblem::None) << width;
+  }
+  const LoadedPicture tall = load(bitmapHeader(5, -kMax - 1));
+  EXPECT_EQ(tall.problem, PictureProblem::TooLarge);
+  EXPECT_EQ(tall.height, kMax + 1);
 }
 
 TEST_F(PictureLoaderTest, TransparentPartsAreWhite) {

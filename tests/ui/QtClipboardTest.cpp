@@ -3,6 +3,7 @@
 #include "platform/qt/PictureCorner.h"
 #include "platform/qt/QtClipboard.h"
 #include "support/ProcessUse.h"
+#include "support/TopRowFirst.h"
 
 #include <QBuffer>
 #include <QClipboard>
@@ -13,6 +14,7 @@
 
 #include <array>
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace gp {
 namespace {
@@ -151,6 +153,25 @@ TEST_F(QtClipboardTest, EachFormatOfOtherProgramsIsRead) {
       expectCorner(size.width(), size.height(), format == std::string("jpg") ? 8 : 0);
     }
   }
+}
+
+TEST_F(QtClipboardTest, BitmapsWithTheirTopRowFirstAreReadPixelByPixel) {
+  for (const char* type : {"image/bmp", "image/x-bmp", "image/x-MS-bmp", "image/x-win-bitmap"}) {
+    for (const QSize size : {QSize(1, 1), QSize(32, 32), QSize(47, 48), QSize(49, 20), QSize(60, 70)}) {
+      const std::string usual = encoded(sampleImage(size.width(), size.height()), "bmp").toStdString();
+      offer({{type, QByteArray::fromStdString(test::topRowFirst(usual, size.width(), size.height(), 24))}});
+      ASSERT_TRUE(get()) << type << size.width();
+      expectCorner(size.width(), size.height());
+    }
+  }
+}
+
+TEST_F(QtClipboardTest, ABitmapWhoseNegativeHeightHasNoPositiveCounterpartIsRefused) {
+  QByteArray bytes = encoded(sampleImage(16, 16), "bmp");
+  qToLittleEndian(std::numeric_limits<qint32>::min(), bytes.data() + 22);
+  offer({{"image/bmp", bytes}});
+  EXPECT_FALSE(get());
+  expectUntouched();
 }
 
 TEST_F(QtClipboardTest, AFormatThatKeepsEveryPixelGoesFirst) {

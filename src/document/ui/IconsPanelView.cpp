@@ -90,13 +90,22 @@ void ContainerButton::keyPressEvent(QKeyEvent* event) {
     QAbstractButton::keyPressEvent(event);
 }
 
-void ContainerButton::dragEnterEvent(QDragEnterEvent* event) {
-  if (panel_.PanelDragOver(localFiles(event->mimeData()))) event->acceptProposedAction();
+// The file is only read, so its owner must keep it: the action is a copy, whatever is proposed. After an accepted move
+// the source would delete the file.
+void ContainerButton::answer(QDropEvent* event) const {
+  event->setAccepted(event->possibleActions().testFlag(Qt::CopyAction) &&
+                     panel_.PanelDragOver(localFiles(event->mimeData())));
+  if (event->isAccepted()) event->setDropAction(Qt::CopyAction);
 }
 
+void ContainerButton::dragEnterEvent(QDragEnterEvent* event) { answer(event); }
+
+// Keys pressed during a drag change the proposed action.
+void ContainerButton::dragMoveEvent(QDragMoveEvent* event) { answer(event); }
+
 void ContainerButton::dropEvent(QDropEvent* event) {
-  event->acceptProposedAction();
-  emit filesDropped(localFiles(event->mimeData()));
+  answer(event);
+  if (event->isAccepted()) emit filesDropped(localFiles(event->mimeData()));
 }
 
 ContainerLabel::ContainerLabel(QWidget* parent, int container) : QLabel(QString::number(container + 1), parent) {

@@ -112,13 +112,15 @@ QWidget* RotatePanelView::makeSample() {
   return place;
 }
 
+void RotatePanelView::follow() { panel_.follow(); }
+
 void RotatePanelView::refresh() {
   const QSignalBlocker quietSlider(hsrRotateImageAngle_);
   const QSignalBlocker quietBox(ckbRotateImageAntiAlias_);
   refreshAngle();
   hsrRotateImageAngle_->setValue(panel_.hsrRotateImageAngle());
   ckbRotateImageAntiAlias_->setChecked(panel_.ckbRotateImageAntiAlias());
-  picRotateImageSample_->setValueText(QString("%1 degrees").arg(panel_.hsrRotateImageAngle()));
+  picRotateImageSample_->setValueText(QString("%1 degrees").arg(panel_.angle()));
 }
 
 // Keeps a text that is being typed, and the cursor's position in it.

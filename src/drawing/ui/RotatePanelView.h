@@ -19,6 +19,8 @@ class RotatePanelView : public PanelFrame {
  public:
   RotatePanelView(QWidget* parent, RotatePanel& panel);
 
+  // The Current Icon has changed.
+  void follow();
   // Shows the angle and the sample of the RotatePanel.
   void refresh();
 

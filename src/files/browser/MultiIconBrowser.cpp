@@ -16,7 +16,6 @@
 namespace gp {
 namespace {
 
-constexpr int kTooManyEntries = 100;  // from here on a Ref needs more than the two characters that are read
 constexpr std::size_t kFewestToChooseFrom = 2;
 
 constexpr const char* kEditCaption = "Edit Icon In Multi-Icon File";
@@ -65,10 +64,8 @@ const char* MultiIconBrowser::caption() const { return isEditFace() ? kEditCapti
 std::string MultiIconBrowser::fileText() const { return ShortenPath(file()); }
 const std::string& MultiIconBrowser::file() const { return exchange_.gMultiIconFile; }
 int MultiIconBrowser::addPositionCount() const { return static_cast<int>(icons_.size() + otherIcons_.size()) + 1; }
-bool MultiIconBrowser::hasTooManyRefs() const { return arrays_.count() >= kTooManyEntries; }
 bool MultiIconBrowser::canLoad() const { return isEditFace() && !icons_.empty(); }
-bool MultiIconBrowser::canSaveEntries() const { return icons_.size() >= kFewestToChooseFrom; }
-bool MultiIconBrowser::canRearrange() const { return canSaveEntries() && !hasTooManyRefs(); }
+bool MultiIconBrowser::hasSeveralIcons() const { return icons_.size() >= kFewestToChooseFrom; }
 bool MultiIconBrowser::canAdd() const { return !icons_.empty() || !otherIcons_.empty(); }
 
 const ListedEntry& MultiIconBrowser::listed(const ItemReading& reading) const {
@@ -81,7 +78,7 @@ bool MultiIconBrowser::readMultiIconFile() {
   return readIconArrays(file(), ReservedField::Any, arrays_) == ArraysDefect::None;
 }
 
-// Returns the item that is selected first.
+// Returns the item that is selected first, one that can be selected if there is any.
 int MultiIconBrowser::fillIconLists() {
   DefaultSelection first;
   entries_ = listEntries(arrays_);
@@ -89,9 +86,10 @@ int MultiIconBrowser::fillIconLists() {
   otherIcons_.clear();
   int ref = 0;
   for (const ListedEntry& entry : entries_) {
-    ++ref;
-    if (entry.isStandard()) first.consider(static_cast<int>(icons_.size()), entry.width, entry.directory.bits);
-    (entry.isStandard() ? icons_ : otherIcons_).push_back(itemText(ref, entry, entry.isStandard()));
+    const std::string item = itemText(++ref, entry, entry.isStandard());
+    if (entry.isStandard() && readItem(item).isOfItsEntry())
+      first.consider(static_cast<int>(icons_.size()), entry.width, entry.directory.bits);
+    (entry.isStandard() ? icons_ : otherIcons_).push_back(item);
   }
   lacksBits_ = std::ranges::any_of(entries_, &ListedEntry::lacksBits);
   addPosition_ = addPositionCount() - 1;
@@ -107,10 +105,11 @@ void MultiIconBrowser::openFile() {
 
 // Selecting.
 
-// The selection is stored as the item's text only: where its Ref reads as that of another entry, that entry is shown.
+// The selection is stored as the item's text only. An item whose Ref reads as that of another entry is never selected.
 bool MultiIconBrowser::preview(const std::string& item, EntryPreview& preview) {
   const Hourglass hourglass(context_);
   const ItemReading reading = readItem(item);
+  if (!reading.isOfItsEntry()) return false;
   IconEntry entry = arrays_.entries.at(static_cast<std::size_t>(reading.index));
   entry.width = reading.width;
   entry.height = reading.height;
@@ -124,9 +123,11 @@ SizeRule MultiIconBrowser::sizesShownIn(const EntryPreview& preview) const {
 
 bool MultiIconBrowser::previewOrTell(const std::string& item, EntryPreview& preview) {
   if (this->preview(item, preview)) return true;
-  context_.boxes.tell("Ref " + std::to_string(readItem(item).index + 1) + kNotShown);
+  tellNotShown(std::to_string(readItem(item).ref));
   return false;
 }
+
+void MultiIconBrowser::tellNotShown(const std::string& ref) { context_.boxes.tell("Ref " + ref + kNotShown); }
 
 // Selects an item of a new list. -1 and entries that cannot be shown leave no selection.
 void MultiIconBrowser::selectAnew(int item) {

@@ -52,10 +52,9 @@ class MultiIconBrowser {
   // The number of items of cboAddToPosition, and the selected one.
   int addPositionCount() const;
   int addPosition() const { return addPosition_; }
-  bool canLoad() const;         // cmdEdit, cmdLoad
-  bool canSaveEntries() const;  // cmdSaveSingle, cmdSplitSave
-  bool canRearrange() const;    // cmdRemove, cmdReposition
-  bool canAdd() const;          // cmdSaveAdd
+  bool canLoad() const;          // cmdEdit, cmdLoad
+  bool hasSeveralIcons() const;  // cmdSaveSingle, cmdSplitSave, cmdRemove, cmdReposition
+  bool canAdd() const;           // cmdSaveAdd
 
   // Input to the form. Items are those of the lists, counted from 0.
   void clickIcon(int item);
@@ -83,7 +82,6 @@ class MultiIconBrowser {
   void changed();
   void unload();
   bool isEditFace() const { return face_ == BrowserFace::Edit; }
-  bool hasTooManyRefs() const;
   bool isIcon(int item) const { return item >= 0 && static_cast<std::size_t>(item) < icons_.size(); }
   const std::string& iconText(int item) const { return icons_.at(static_cast<std::size_t>(item)); }
   const ListedEntry& listed(const ItemReading& reading) const;
@@ -93,6 +91,7 @@ class MultiIconBrowser {
   void openFile();
   bool preview(const std::string& item, EntryPreview& preview);
   bool previewOrTell(const std::string& item, EntryPreview& preview);
+  void tellNotShown(const std::string& ref);
   SizeRule sizesShownIn(const EntryPreview& preview) const;
   void selectAnew(int item);
 
@@ -102,6 +101,7 @@ class MultiIconBrowser {
   std::string singleFileName(const std::string& stem, int item) const;
   bool saveItem(int item, const std::string& path);
   void splitInto(const std::string& stem);
+  void tellNotSplit();
 
   bool isUnchangeable(const char* onlyIcon, const char* inPanel);
   bool removeEntry(int index);

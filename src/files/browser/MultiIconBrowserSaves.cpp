@@ -11,6 +11,8 @@
 #include "platform/ports/MessageBoxes.h"
 #include "platform/text/Paths.h"
 
+#include <algorithm>
+
 namespace gp {
 namespace {
 
@@ -52,20 +54,32 @@ void MultiIconBrowser::cmdSplitSave() {
   const std::string stem = joined(folder, ParseFileName(file(), PathPart::BareName));
   const std::string question = "Single-icon files will be saved as " + stem + "_(Size)_(Color), ...\nTotally " +
                                std::to_string(icons_.size()) + " items on list.\n\nProceed?";
-  if (context_.boxes.ask(question)) splitInto(stem);
+  if (!context_.boxes.ask(question)) return;
+  splitInto(stem);
+  tellNotSplit();
 }
 
-// Images that cannot be shown are saved too. Failures are not reported. The views rebuild their lists on each
+// Images that cannot be shown are saved too. Failures to write are not reported. The views rebuild their lists on each
 // notification, so there is one notification at the end.
 void MultiIconBrowser::splitInto(const std::string& stem) {
   const Hourglass hourglass(context_);
   const int before = selected_;
   for (int item = 0; isIcon(item); ++item) {
+    if (!readItem(iconText(item)).isOfItsEntry()) continue;
     if (preview(iconText(item), preview_)) selected_ = item;
     static_cast<void>(saveItem(item, singleFileName(stem, item)));
   }
   if (preview(iconText(before), preview_)) selected_ = before;
   changed();
+}
+
+// The items of a list whose Refs read as those of other entries are its last ones.
+void MultiIconBrowser::tellNotSplit() {
+  const auto first =
+      std::ranges::find_if(icons_, [](const std::string& item) { return !readItem(item).isOfItsEntry(); });
+  if (first == icons_.end()) return;
+  const std::string ref = std::to_string(readItem(*first).ref), last = std::to_string(readItem(icons_.back()).ref);
+  tellNotShown(ref == last ? ref : ref + " to " + last);
 }
 
 }  // namespace gp

@@ -36,7 +36,7 @@ bool MultiIconBrowser::isUnchangeable(const char* onlyIcon, const char* inPanel)
 // Removing.
 
 void MultiIconBrowser::cmdRemove() {
-  if (!isIcon(selected_) || hasTooManyRefs() || isUnchangeable(kRemoveLastIcon, kNoDeletion)) return;
+  if (!isIcon(selected_) || isUnchangeable(kRemoveLastIcon, kNoDeletion)) return;
   if (!context_.boxes.ask(kRemoveQuestion + file() + kRemoveAssurance)) return;
   const int item = selected_;
   if (!removeEntry(readItem(iconText(item)).index)) context_.boxes.tell(kRemoveNotWritten);
@@ -59,9 +59,12 @@ void MultiIconBrowser::relistAt(int item) {
 // Repositioning.
 
 void MultiIconBrowser::cmdReposition() {
-  if (arrays_.count() == 0 || hasTooManyRefs() || isUnchangeable(kRepositionSingleIcon, kNoReposition)) return;
+  if (arrays_.count() == 0 || isUnchangeable(kRepositionSingleIcon, kNoReposition)) return;
   std::vector<std::string> items;
   for (const ListedEntry& entry : entries_) items.push_back(itemText(static_cast<int>(items.size()) + 1, entry, true));
+  // The last item has the highest Ref. The sequence would be written by what the Refs read as.
+  const ItemReading last = readItem(items.back());
+  if (!last.isOfItsEntry()) return tellNotShown(std::to_string(last.ref));
   reposition_.open(std::move(items));
   repositioning_ = true;
   otherSizesShown_ = false;

@@ -16,6 +16,12 @@ void MultiIconCommands::MultiIconFileSubRoutine(const std::string& filePath, boo
   result = MultiIconRetrieval(context_, filePath, intoEditingArea).run();
 }
 
+std::string MultiIconCommands::showIconsFor(const std::string& filePath, int container) {
+  MultiIconRetrieval retrieval(context_, filePath, true);
+  retrieval.propose(container);
+  return retrieval.run();
+}
+
 void MultiIconCommands::doMnuFileSaveMultiIconReplace() { MultiIconReplace(context_, scratchFile_).run(); }
 
 void MultiIconCommands::doMnuFileSaveMultiIconAddTo() { MultiIconAdd(context_, scratchFile_).run(); }

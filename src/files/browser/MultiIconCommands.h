@@ -18,6 +18,10 @@ class MultiIconCommands {
   // none.
   void MultiIconFileSubRoutine(const std::string& filePath, bool intoEditingArea, std::string& result);
 
+  // The same for a file that the user dropped on a container, which the browser proposes; the icon that is there is
+  // replaced only with the user's consent. Returns the answer of the last load.
+  std::string showIconsFor(const std::string& filePath, int container);
+
   // The commands mnuFileSub(15), for an icon from such a file, and (16), for any other icon.
   void doMnuFileSaveMultiIconReplace();
   void doMnuFileSaveMultiIconAddTo();

@@ -14,6 +14,7 @@ namespace {
 constexpr int kPreferredSize = 32;
 
 // Positions in an item text, whose parts are at fixed distances from both ends.
+constexpr std::string_view kRefLabel = "Ref ";
 constexpr std::size_t kSideWidth = 3;
 constexpr std::size_t kSizeWidth = 9;
 constexpr std::size_t kRefField = 6;
@@ -41,6 +42,11 @@ std::string_view lastCharacters(std::string_view text, std::size_t count) {
 
 int numberIn(std::string_view text) { return Int(Val(trim(text))); }
 
+int wholeRefIn(std::string_view text) {
+  const std::string_view field = text.substr(0, text.find('\t'));
+  return numberIn(field.substr(std::min(kRefLabel.size(), field.size())));
+}
+
 }  // namespace
 
 bool ListedEntry::isStandard() const { return width == height && isIconSize(width); }
@@ -58,13 +64,14 @@ std::string itemText(int ref, const ListedEntry& entry, bool padded) {
   const auto [colorCount, bitCount] = entry.directory;
   const std::string bits = std::to_string(bitCount) + " BPP" + (entry.lacksBits() ? "*" : "");
   const std::string colors = entry.directory.isTrueColor() ? "True-Color" : std::to_string(colorCount) + "-Color";
-  return "Ref " + std::to_string(ref) + "  \t" + bits + "\t" + colors + "\t  " + sideText(entry.width, padded) + " x " +
-         sideText(entry.height, padded);
+  return std::string(kRefLabel) + std::to_string(ref) + "  \t" + bits + "\t" + colors + "\t  " +
+         sideText(entry.width, padded) + " x " + sideText(entry.height, padded);
 }
 
 ItemReading readItem(const std::string& text) {
   const std::string field = trim(std::string_view(text).substr(0, kRefField));
   ItemReading reading;
+  reading.ref = wholeRefIn(text);
   reading.index = numberIn(lastCharacters(field, kRefWidth)) - 1;
   reading.width = numberIn(lastCharacters(text, kSizeWidth).substr(0, kSideWidth));
   reading.height = numberIn(lastCharacters(text, kSideWidth));

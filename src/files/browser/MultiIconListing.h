@@ -28,11 +28,16 @@ std::vector<ListedEntry> listEntries(const IconArrays& arrays);
 // "Ref 3  \t32 BPP\tTrue-Color\t   32 x  32"; with padding width and height are three characters each.
 std::string itemText(int ref, const ListedEntry& entry, bool padded);
 
-// The values parsed from a padded item text. A Ref is read from two characters only, so that 100 reads as 10.
+// The values parsed from a padded item text. The index is read from two characters of the Ref only: the index of Ref
+// 100 is that of Ref 10, an entry which the user did not choose.
 struct ItemReading {
-  int index = -1;  // Ref - 1
+  int ref = 0;     // the whole number
+  int index = -1;  // Ref - 1, of the two characters
   int width = 0;
   int height = 0;
+
+  // False when the index is that of another entry; commands must not use it then.
+  bool isOfItsEntry() const { return index == ref - 1; }
 };
 ItemReading readItem(const std::string& text);
 

@@ -26,7 +26,13 @@ MultiIconRetrieval::MultiIconRetrieval(FilesContext& context, std::string file, 
       state_(context.state),
       file_(std::move(file)),
       intoEditingArea_(intoEditingArea),
-      firstContainer_(context.state.mCurContainer) {}
+      proposed_(context.state.mCurContainer),
+      settled_(context.state.mCurContainer) {}
+
+void MultiIconRetrieval::propose(int container) {
+  proposed_ = container;
+  settled_.reset();
+}
 
 std::string MultiIconRetrieval::run() {
   const MultiIconExchange& exchange = context_.multiIcon;
@@ -39,7 +45,9 @@ std::string MultiIconRetrieval::run() {
       context_.boxes.tell(kRetrievalFailed, BoxIcon::Exclamation);
       break;
     }
-    if (!goTo(answer->container)) continue;
+    const bool mayLoad = goTo(answer->container);
+    proposed_ = state_.mCurContainer;
+    if (!mayLoad) continue;
     load(*answer);
     lastAnswer = exchange.gMultiIconResult;
   } while (exchange.gLoadAndReturn);
@@ -49,18 +57,17 @@ std::string MultiIconRetrieval::run() {
 void MultiIconRetrieval::showBrowser() {
   MultiIconExchange& exchange = context_.multiIcon;
   exchange.gMultiIconFile = file_;
-  exchange.gMultiIconResult = std::to_string(state_.mCurContainer);
+  exchange.gMultiIconResult = std::to_string(proposed_);
   exchange.gAddToFile = false;
   exchange.gFileInPanel = findContainerOf(state_, file_).has_value();
   if (context_.forms) context_.forms->showMultiIcon();
 }
 
-// False when the user keeps the icon of one of the two containers. The caller has dealt with the icon of the first
-// container.
+// False when the user keeps the icon of one of the two containers.
 bool MultiIconRetrieval::goTo(int container) {
   if (container != state_.mCurContainer) context_.document.iconsPanel.SwitchContainer(container);
   if (container != state_.mCurContainer) return false;
-  return container == firstContainer_ || mayCurrentIconGo(context_);
+  return container == settled_ || mayCurrentIconGo(context_);
 }
 
 void MultiIconRetrieval::load(const LoadAnswer& answer) {

@@ -1,7 +1,6 @@
 #include "files/cursor/CursorFiles.h"
 
 #include "document/AlphaIndicator.h"
-#include "document/Containers.h"
 #include "document/Display.h"
 #include "document/Document.h"
 #include "document/EditState.h"
@@ -45,8 +44,8 @@ void CursorFiles::doOpenCursorFile(const std::string& path, bool& ok) {
   const CursorFacts facts = file ? probeCursor(*file) : CursorFacts{};
   if (!facts.valid) return context_.boxes.tell(path + kInvalidFile, BoxIcon::Exclamation);
   const DecodedIcon decoded = loadCursorImage(*file);
-  if (!decoded.isRead()) return leaveEmpty(kFailedToLoad, BoxIcon::Exclamation);
-  if (!facts.depth.isShown()) return leaveEmpty(path + kStrangeTrueColor, BoxIcon::Information);
+  if (!decoded.isRead()) return context_.boxes.tell(kFailedToLoad, BoxIcon::Exclamation);
+  if (!facts.depth.isShown()) return context_.boxes.tell(path + kStrangeTrueColor, BoxIcon::Information);
   {
     const Hourglass hourglass(context_);
     context_.document.arrival.arrive(decoded.icon, recordOfLoadedCursor(facts, decoded.icon, path));
@@ -54,13 +53,6 @@ void CursorFiles::doOpenCursorFile(const std::string& path, bool& ok) {
   if (state_.screen.mActivePanel == kCursorPanel) setSpot(startOf(state_.current()));
   ok = true;
   remindOfAlpha();
-}
-
-// Switching to an empty container clears the Surfaces and the status bar and disables the tools.
-void CursorFiles::leaveEmpty(const std::string& text, BoxIcon icon) {
-  ClearContainer(state_);
-  context_.document.iconsPanel.SwitchContainer(state_.mCurContainer);
-  context_.boxes.tell(text, icon);
 }
 
 void CursorFiles::remindOfAlpha() {

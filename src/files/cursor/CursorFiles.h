@@ -20,7 +20,8 @@ class CursorFiles {
 
   // The command "Open &Cursor File  (cur) ....": offers to save, asks for a file and opens it.
   void doMnuFileOpenCursor();
-  // Opens a file into the current container. Reports failures and reminds of an alpha channel.
+  // Opens a file into the current container, which keeps its icon if that fails. Reports failures and reminds of an
+  // alpha channel.
   void doOpenCursorFile(const std::string& path, bool& ok);
 
   // Opens the Panel with the hot spot of the current cursor, or 0, 0, and shows the spot once.
@@ -51,7 +52,6 @@ class CursorFiles {
     int y = 0;
   };
 
-  void leaveEmpty(const std::string& text, BoxIcon icon);
   void remindOfAlpha();
   // The initial items of the lists for an icon: the hot spot of a cursor, otherwise 0, 0.
   static Spot startOf(const IconContainerRec& record);

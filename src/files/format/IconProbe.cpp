@@ -3,6 +3,8 @@
 #include "document/IconSizes.h"
 #include "files/format/IconDecoder.h"
 
+#include <algorithm>
+
 namespace gp {
 namespace {
 
@@ -97,6 +99,10 @@ IconFacts probeIcon(const IconFile& file, bool preferEightBit) {
 IconFacts ProbeIconFile(const std::string& path, bool preferEightBit) {
   const auto file = readIconFile(path);
   return file ? probeIcon(*file, preferEightBit) : IconFacts{};
+}
+
+int countIconSizes(const IconDirectory& directory) {
+  return static_cast<int>(std::ranges::count_if(directory.entries, isSquareIcon));
 }
 
 bool isUsableEntry(const IconFile& file, const IconEntry& entry) {

@@ -33,6 +33,8 @@ IconFacts probeIcon(const IconFile& file, bool preferEightBit);
 // The same for a file on disk. One that cannot be read counts as not an icon file.
 IconFacts ProbeIconFile(const std::string& path, bool preferEightBit);
 
+// The number of entries whose directory states one of the icon sizes, whether or not they can be decoded.
+int countIconSizes(const IconDirectory& directory);
 // True when the editor can show the entry: a square bitmap of an icon size and of a supported depth.
 bool isUsableEntry(const IconFile& file, const IconEntry& entry);
 

@@ -15,11 +15,16 @@ void IconFiles::doMnuFileOpenIcon() {
 }
 
 void IconFiles::doOpenIconFile(const std::string& path, bool useBrowser, bool& ok) {
-  ok = IconOpening(context_, path, OpeningManner::Spoken, useBrowser ? &multiIcon_ : nullptr).run();
+  const OpeningManner manner = useBrowser ? OpeningManner::Browsed : OpeningManner::Spoken;
+  ok = IconOpening(context_, path, manner, multiIcon_).run();
 }
 
 void IconFiles::doOpenIconFileQuietly(const std::string& path, bool& ok) {
-  ok = IconOpening(context_, path, OpeningManner::Quiet).run();
+  ok = IconOpening(context_, path, OpeningManner::Quiet, multiIcon_).run();
+}
+
+void IconFiles::offerIconsOfFile(const std::string& path, int container) {
+  IconOpening(context_, path, OpeningManner::Browsed, multiIcon_).offerIcons(container);
 }
 
 DecodedIcon IconFiles::ReadIconFileToImage(const std::string& path, int index, bool checkSize,

@@ -1,12 +1,12 @@
 #include "files/opening/IconOpening.h"
 
 #include "document/AlphaIndicator.h"
-#include "document/Containers.h"
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
 #include "document/Hourglass.h"
 #include "files/browser/MultiIconCommands.h"
+#include "files/format/IconArrays.h"
 #include "files/opening/IconLoading.h"
 #include "files/opening/IconMessages.h"
 
@@ -17,7 +17,7 @@ constexpr const char* kUseBitmapMenu = "Please try to use Open Bitmap File menu 
 constexpr const char* kInvalidFile =
     "\n\nInvalid icon file or icon not a size of"
     " 16x16, 24x24, 32x32 or 48x48.\n";
-constexpr const char* kNotOfSize = "\nIcon not of size 16x16, 24x24, 32x32 or 48x48.\n";
+constexpr const char* kOneInside = "\n\nIt holds 1 icon of these sizes all the same. Show it?";
 constexpr const char* kFailedToLoad = "\nFailed to load this file";
 constexpr const char* kAlphaReminder =
     "\nReminder:  The incoming icon is with Alpha Channel.  To view the icon with\n"
@@ -34,18 +34,26 @@ constexpr const char* kHeaderReminder =
     "\n"
     "(To remove Reminder, untick the related Option submenu)";
 
+std::string refusal(const std::string& path) { return path + kInvalidFile + kUseBitmapMenu; }
+
+std::string offerOf(int icons) {
+  if (icons == 1) return kOneInside;
+  return "\n\nIt holds " + std::to_string(icons) + " icons of these sizes all the same. Show them?";
+}
+
 }  // namespace
 
-IconOpening::IconOpening(FilesContext& context, std::string path, OpeningManner manner, MultiIconCommands* browser)
+IconOpening::IconOpening(FilesContext& context, std::string path, OpeningManner manner, MultiIconCommands& browser)
     : context_(context), state_(context.state), path_(std::move(path)), manner_(manner), browser_(browser) {}
 
 bool IconOpening::run() {
-  if (!probe() || !isSquare()) return false;
+  if (!probe()) return refuse();
+  if (!isSquare()) return false;
   if (isBrowsed()) return browse();
-  if (!isOfferedSize() || !isConfirmed()) return false;
+  if (!isConfirmed()) return false;
   decoded_ = loadIconImage(file_, facts_.chosen, true);
-  if (!decoded_.isRead()) return leaveEmpty(kFailedToLoad, BoxIcon::Exclamation);
-  if (!facts_.depth().isShown()) return leaveEmpty(kStrangeTrueColor, BoxIcon::Information);
+  if (!decoded_.isRead()) return fail(path_ + kFailedToLoad, BoxIcon::Exclamation);
+  if (!facts_.depth().isShown()) return fail(path_ + kStrangeTrueColor, BoxIcon::Information);
   show();
   return true;
 }
@@ -55,17 +63,38 @@ bool IconOpening::fail(const std::string& text, BoxIcon icon) {
   return false;
 }
 
-// Switching to an empty container clears the Surfaces and the status bar and disables the tools.
-bool IconOpening::leaveEmpty(const char* text, BoxIcon icon) {
-  ClearContainer(state_);
-  context_.document.iconsPanel.SwitchContainer(state_.mCurContainer);
-  return fail(path_ + text, icon);
-}
-
 bool IconOpening::probe() {
   if (auto file = readIconFile(path_)) file_ = std::move(*file);
   facts_ = probeIcon(file_, true);
-  return facts_.canBeOpened() || fail(path_ + kInvalidFile + kUseBitmapMenu, BoxIcon::Exclamation);
+  return facts_.canBeOpened();
+}
+
+// 0 also for a file that the browser cannot list.
+int IconOpening::iconsInside() {
+  const int icons = file_.isIcon() ? countIconSizes(file_.directory) : 0;
+  IconArrays arrays;
+  const bool isListed = icons > 0 && readIconArrays(path_, ReservedField::Any, arrays) == ArraysDefect::None;
+  return isListed ? icons : 0;
+}
+
+bool IconOpening::refuse() {
+  if (!isSpoken()) return false;
+  const int icons = iconsInside();
+  if (icons == 0) return fail(refusal(path_), BoxIcon::Exclamation);
+  return agreesToShow(icons) && browse();
+}
+
+bool IconOpening::agreesToShow(int icons) {
+  const std::string text = refusal(path_) + offerOf(icons);
+  return context_.boxes.show(text, BoxButtons::YesNo, BoxIcon::Exclamation, BoxAnswer::Yes) == BoxAnswer::Yes;
+}
+
+void IconOpening::offerIcons(int container) {
+  if (probe()) return;
+  const int icons = iconsInside();
+  if (icons == 0 || !agreesToShow(icons)) return;
+  file_ = {};  // the browser reads the file again
+  finishBrowsing(browser_.showIconsFor(path_, container));
 }
 
 bool IconOpening::isSquare() {
@@ -78,14 +107,14 @@ bool IconOpening::isSquare() {
 bool IconOpening::browse() {
   file_ = {};  // the browser reads the file again
   std::string answer;
-  browser_->MultiIconFileSubRoutine(path_, true, answer);
+  browser_.MultiIconFileSubRoutine(path_, true, answer);
+  return finishBrowsing(answer);
+}
+
+bool IconOpening::finishBrowsing(const std::string& answer) {
   if (answer.empty()) return false;
   remind();
   return true;
-}
-
-bool IconOpening::isOfferedSize() {
-  return isIconSize(facts_.width) || fail(path_ + kNotOfSize + kUseBitmapMenu, BoxIcon::Exclamation);
 }
 
 bool IconOpening::isConfirmed() {

@@ -1,5 +1,5 @@
-// Opens one icon file into the current container, from the probe to the reminders. A file whose icon cannot be read
-// leaves the container empty.
+// Opens one icon file into the current container, from the probe to the reminders. The container keeps its icon,
+// changes and Undo history until the new icon has been decoded.
 #pragma once
 
 #include "files/FilesContext.h"
@@ -11,36 +11,43 @@
 
 namespace gp {
 
-// Spoken: with message boxes, confirmation, history entry and reminders. Quiet: without.
-enum class OpeningManner { Spoken, Quiet };
+// Spoken: with message boxes, confirmation, history entry and reminders. Quiet: without. Browsed: as Spoken, and a file
+// with several icons is shown in the browser.
+enum class OpeningManner { Spoken, Quiet, Browsed };
 
 class MultiIconCommands;
 
 class IconOpening {
  public:
-  // A file with several icons is opened by `browser`, unless it is null.
-  IconOpening(FilesContext& context, std::string path, OpeningManner manner, MultiIconCommands* browser = nullptr);
-  // True when an icon of the file is now in the current container and on the Editing Area.
+  // `browser` must outlive this.
+  IconOpening(FilesContext& context, std::string path, OpeningManner manner, MultiIconCommands& browser);
+  // True when an icon of the file is now in the current container and on the Editing Area. A file that the probe
+  // refuses although it holds icons can be shown in the browser instead, if the user agrees.
   bool run();
+  // Asks whether to show the icons of a file that the probe refuses, and shows them for a container. Does nothing for
+  // other files.
+  void offerIcons(int container);
 
  private:
   bool probe();
+  int iconsInside();
+  bool refuse();
+  bool agreesToShow(int icons);
   bool isSquare();
-  bool isBrowsed() const { return browser_ != nullptr && facts_.hasSeveralEntries(); }
+  bool isBrowsed() const { return manner_ == OpeningManner::Browsed && facts_.hasSeveralEntries(); }
   bool browse();
-  bool isOfferedSize();
+  bool finishBrowsing(const std::string& answer);
   bool isConfirmed();
   void show();
   void remind();
   bool fail(const std::string& text, BoxIcon icon);
-  bool leaveEmpty(const char* text, BoxIcon icon);
-  bool isSpoken() const { return manner_ == OpeningManner::Spoken; }
+  bool isSpoken() const { return manner_ != OpeningManner::Quiet; }
 
   FilesContext& context_;
   EditState& state_;
   const std::string path_;
   const OpeningManner manner_;
-  MultiIconCommands* const browser_;
+  MultiIconCommands& browser_;
   IconFile file_;
   IconFacts facts_;
   DecodedIcon decoded_;

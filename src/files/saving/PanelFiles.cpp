@@ -7,11 +7,10 @@
 
 namespace gp {
 
-// A record stores only as much of a path as its field can hold.
 bool isFileOf(const IconContainerRec& record, const std::string& path) {
   const std::string own = record.path.trimmed();
   if (own.empty()) return false;
-  return own == decltype(record.path)(path).trimmed() || isSameFile(own, path);
+  return record.path == TrimmedText(path) || isSameFile(own, path);
 }
 
 std::optional<int> findContainerOf(const EditState& state, const std::string& path) {

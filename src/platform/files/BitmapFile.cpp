@@ -23,6 +23,8 @@ constexpr std::uint32_t kBitFields = 3;
 constexpr int kMostBits = 32;
 constexpr std::uint64_t kEndless = std::numeric_limits<std::uint64_t>::max();
 
+bool isUncompressed(std::uint32_t compression) { return compression == kUncompressed || compression == kBitFields; }
+
 std::size_t pixelBytes(const Surface& surface) {
   return dib::rowStride(surface.width(), kBits) * static_cast<std::size_t>(surface.height());
 }
@@ -54,7 +56,7 @@ void writeRow(std::span<const std::uint32_t> row, ByteWriter& out) {
 // Returns the size in bytes of all pixels of the bitmap whose header starts at the first byte of `header`.
 std::uint64_t statedPixelBytes(ByteReader header) {
   const std::uint32_t compression = header.u32At(dib::kHeaderCompression);
-  if (compression != kUncompressed && compression != kBitFields) return header.u32At(dib::kHeaderSizeImage);
+  if (!isUncompressed(compression)) return header.u32At(dib::kHeaderSizeImage);
   const std::int32_t width = header.i32At(dib::kHeaderWidth);
   if (width <= 0) return kEndless;
   // A negative height reverses the row order. With at most kMostBits bits per pixel the product cannot wrap.
@@ -80,6 +82,15 @@ bool isWholeBitmap(std::span<const std::uint8_t> bytes) {
   if (!file.contains(0, kPixelsOffset)) return false;
   return file.contains(file.u32At(dib::kFilePixelsOffset),
                        statedPixelBytes(ByteReader(bytes.subspan(dib::kFileHeaderSize))));
+}
+
+int rowsFromTheTop(std::span<const std::uint8_t> bytes) {
+  ByteReader file(bytes);
+  if (file.u8() != 'B' || file.u8() != 'M' || !file.contains(0, kPixelsOffset)) return 0;
+  if (file.u32At(dib::kFileHeaderSize) < dib::kHeaderSize) return 0;
+  if (!isUncompressed(file.u32At(dib::kFileHeaderSize + dib::kHeaderCompression))) return 0;
+  const std::int32_t height = file.i32At(dib::kFileHeaderSize + dib::kHeaderHeight);
+  return height >= 0 || height == std::numeric_limits<std::int32_t>::min() ? 0 : -height;
 }
 
 }  // namespace gp

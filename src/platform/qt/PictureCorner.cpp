@@ -2,6 +2,7 @@
 
 #include "platform/files/BitmapFile.h"
 #include "platform/files/WholePicture.h"
+#include "platform/qt/StatedSize.h"
 #include "platform/qt/SurfaceImages.h"
 
 #include <QBuffer>
@@ -28,11 +29,13 @@ struct Format {
 constexpr std::array<Format, 4> kFormats = {
     {{"png", isWholePng}, {"bmp", isWholeBitmap}, {"jpeg", isWholeJpeg}, {"gif", isWholeGif}}};
 
+Bytes spanOf(const QByteArray& bytes) {
+  return {reinterpret_cast<const std::uint8_t*>(bytes.constData()), static_cast<std::size_t>(bytes.size())};
+}
+
 bool isWhole(const QByteArray& bytes, const QByteArray& format) {
   const auto found = std::ranges::find_if(kFormats, [&](const Format& each) { return format == each.name; });
-  if (found == kFormats.end()) return false;
-  return found->isWhole(
-      {reinterpret_cast<const std::uint8_t*>(bytes.constData()), static_cast<std::size_t>(bytes.size())});
+  return found != kFormats.end() && found->isWhole(spanOf(bytes));
 }
 
 namespace png {
@@ -85,7 +88,7 @@ class BytesReader : public QImageReader {
 
 bool readPictureCorner(const QByteArray& bytes, const QByteArray& format, int limit, ClipboardImage& image) {
   if (!isWhole(bytes, format)) return false;
-  const QSize size = BytesReader(bytes, format).size();
+  const QSize size = statedSize(BytesReader(bytes, format), spanOf(bytes));
   if (size.isEmpty()) return false;
   const QSize corner = size.boundedTo(QSize(limit, limit));
   const bool isCut = format == "png" && size.height() > corner.height();

@@ -3,6 +3,7 @@
 #include "platform/files/BitmapFile.h"
 #include "platform/files/Files.h"
 #include "platform/files/WholePicture.h"
+#include "platform/qt/StatedSize.h"
 #include "platform/qt/SurfaceImages.h"
 
 #include <QBuffer>
@@ -69,7 +70,7 @@ LoadedPicture QtPictureLoader::loadPicture(const std::string& path, int maxWidth
   QImageReader::setAllocationLimit(static_cast<int>(largestPicture / kBytesPerMegabyte + kSpareMegabytes));
 
   const Format* format = formatOf(reader);
-  const QSize size = format ? reader.size() : QSize();
+  const QSize size = format ? statedSize(reader, bytes) : QSize();
   if (size.isEmpty()) return {};
   if (size.width() > maxWidth || size.height() > maxHeight)
     return {PictureProblem::TooLarge, size.width(), size.height(), Surface(0, 0)};

@@ -84,7 +84,7 @@ std::string ShortenPath(std::string_view path) {
   const auto second = std::find_if(first + 1, path.end(), isSeparator);
   const std::string_view start = path.substr(0, static_cast<std::size_t>(second - path.begin()));
   const std::string_view separator(&*second, 1);
-  return joined({start, separator, kShortened, separator, ParseFileName(path, PathPart::NameWithExtension)});
+  return joined({start, separator, kShortened, separator, path.substr(lastSeparator(path))});
 }
 
 // Backtracks to the last "*" only, which is sufficient and limits the time to name length times pattern length.

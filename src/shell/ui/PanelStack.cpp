@@ -33,6 +33,7 @@ QWidget* makeColorPanel(QWidget* parent, Shell& shell, QtDisplay& display) {
 
 QWidget* makeRotatePanel(QWidget* parent, Shell& shell, QtDisplay& display) {
   auto* panel = new RotatePanelView(parent, shell.drawing().rotatePanel);
+  display.listen(DisplayPart::IconsPanel, panel, [panel] { panel->follow(); });
   display.listen(DisplayPart::SidePanel, panel, [panel] { panel->refresh(); });
   return panel;
 }

@@ -100,6 +100,27 @@ TEST_F(HeaderDiffTest, TheFirst32x32EntryIsSelectedAndALaterOneOfEightBitsDispla
   EXPECT_EQ(diff->selectedIcon(), 0);
 }
 
+TEST_F(HeaderDiffTest, TheAlphaValuesOfTheCurrentIconStandWhileTheFormIsOpenAndAfterwards) {
+  given(entryOf(anyPicture(32, 32)), "current.ico");
+  const AlphaMatrix alpha = state.gAlphaValues;
+  ASSERT_TRUE(alpha.isOfSize(32));
+  Picture other = anyPicture(32, 32);
+  other.color = [](int x, int y) { return Rgb{x, y, 0, 77}; };
+  open({entryOf(other), entryOf(anyPicture(48, 32)), entryOf(anyPicture(16, 4))});
+  for (const HeaderBase base : {HeaderBase::Icon, HeaderBase::Bitmap}) {
+    diff->setBase(base);
+    for (int item = 0; item < 3; ++item) {
+      diff->clickIcon(item);
+      EXPECT_EQ(diff->selectedIcon(), item);
+      EXPECT_EQ(state.gAlphaValues, alpha) << item;
+    }
+  }
+  salvage();
+  diff.reset();
+  EXPECT_EQ(state.gAlphaValues, alpha);
+  EXPECT_EQ(state.mAlphaRecs[0], alpha);
+}
+
 TEST_F(HeaderDiffTest, RefsAbove99AreSelectedAsTheyAre) {
   std::vector<Entry> entries(120, entryOf(anyPicture(16, 1)));
   entries[104] = entryOf(anyPicture(24, 4));

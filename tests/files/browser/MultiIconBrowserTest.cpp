@@ -106,8 +106,7 @@ TEST_F(BrowserTest, AFileOfOneEntryOpensWithNothingToSplitRemoveOrReposition) {
   browse({anyEntry(32, 4)});
   EXPECT_EQ(browser->selectedIcon(), 0);
   EXPECT_TRUE(browser->canLoad());
-  EXPECT_FALSE(browser->canSaveEntries());
-  EXPECT_FALSE(browser->canRearrange());
+  EXPECT_FALSE(browser->hasSeveralIcons());
 }
 
 TEST_F(BrowserTest, AFileOfOtherSizesOnlyShowsThemAndDisablesAllButtons) {
@@ -117,29 +116,19 @@ TEST_F(BrowserTest, AFileOfOtherSizesOnlyShowsThemAndDisablesAllButtons) {
   EXPECT_TRUE(browser->otherSizesShown());
   EXPECT_EQ(browser->selectedIcon(), -1);
   EXPECT_FALSE(browser->canLoad());
-  EXPECT_FALSE(browser->canSaveEntries());
-  EXPECT_FALSE(browser->canRearrange());
+  EXPECT_FALSE(browser->hasSeveralIcons());
 }
 
 TEST_F(BrowserTest, TwoStandardEntriesEnableAllButtons) {
   browse({anyEntry(16, 4), anyEntry(32, 4)});
   EXPECT_TRUE(browser->canLoad());
-  EXPECT_TRUE(browser->canSaveEntries());
-  EXPECT_TRUE(browser->canRearrange());
+  EXPECT_TRUE(browser->hasSeveralIcons());
 }
 
 TEST_F(BrowserTest, OtherSizesDoNotCountForTheButtons) {
   browse({anyEntry(16, 4), otherSize(), otherSize(20)});
   EXPECT_TRUE(browser->canLoad());
-  EXPECT_FALSE(browser->canSaveEntries());
-  EXPECT_FALSE(browser->canRearrange());
-}
-
-TEST_F(BrowserTest, FilesOf100EntriesCannotBeRearranged) {
-  EXPECT_TRUE(browse(std::vector<Entry>(99, anyEntry(16, 1))).canRearrange());
-  EXPECT_FALSE(browse(std::vector<Entry>(100, anyEntry(16, 1))).canRearrange());
-  EXPECT_TRUE(browser->canSaveEntries());
-  EXPECT_TRUE(browser->canLoad());
+  EXPECT_FALSE(browser->hasSeveralIcons());
 }
 
 // Selecting.
@@ -227,14 +216,59 @@ TEST_F(BrowserTest, EntriesOf32BitsArePreviewedWithAlpha) {
   EXPECT_EQ(browser->picIconInFile().GetPixel(1, 0), kGround);
 }
 
-TEST_F(BrowserTest, Ref100ShowsTheEntryThatItReadsAs) {
-  std::vector<Entry> entries(100, anyEntry(16, 1));
+TEST_F(BrowserTest, TheAlphaValuesOfTheCurrentIconStandWhileEntriesAreLookedAtAndLoaded) {
+  given(entryOf(anyPicture(32, 32)));
+  const AlphaMatrix alpha = state.gAlphaValues;
+  ASSERT_TRUE(alpha.isOfSize(32));
+  browse({anyEntry(48, 32), anyEntry(32, 4), anyEntry(16, 32)});
+  for (const int item : {0, 1, 2}) {
+    browser->clickIcon(item);
+    EXPECT_EQ(state.gAlphaValues, alpha) << item;
+  }
+  browser->cmdReposition();
+  browser->cmdRepositionAbort();
+  browser->cmdEdit();
+  EXPECT_EQ(state.gAlphaValues, alpha) << "the caller decides about the chosen icon";
+}
+
+TEST_F(BrowserTest, RefsAbove99CannotBeSelected) {
+  std::vector<Entry> entries(120, anyEntry(16, 1));
   entries[9] = anyEntry(16, 24);
   const Bytes file = build(iconFile(entries));
-  browse(file);
-  browser->clickIcon(99);
-  EXPECT_EQ(browser->selectedIcon(), 99);
-  EXPECT_TRUE(previews(file, 9));
+  for (const bool addFace : {false, true}) {
+    browse(file, addFace);
+    browser->clickIcon(98);
+    EXPECT_EQ(browser->selectedIcon(), 98);
+    for (const int item : {99, 119}) {
+      boxes.expectTold("Ref " + std::to_string(item + 1) + "\nUnable to get this one", BoxIcon::None);
+      browser->clickIcon(item);
+      EXPECT_EQ(browser->selectedIcon(), 98);
+      EXPECT_TRUE(previews(file, 98)) << "not entry 10, which Ref 100 reads as";
+    }
+  }
+  browser->cmdClose();
+  EXPECT_TRUE(boxes.done());
+}
+
+TEST_F(BrowserTest, TheFirstSelectionIsOneThatCanBeSelected) {
+  std::vector<Entry> entries(120, anyEntry(16, 1));
+  entries[40] = anyEntry(32, 4);
+  entries[110] = anyEntry(32, 8);
+  browse(entries);
+  EXPECT_EQ(browser->selectedIcon(), 40);
+}
+
+TEST_F(BrowserTest, WhereOnlyRefsAbove99AreListedNothingIsSelected) {
+  std::vector<Entry> entries(101, otherSize());
+  entries[99] = entries[100] = anyEntry(32, 8);
+  boxes.expectTold("Ref 100\nUnable to get this one", BoxIcon::None);
+  browse(entries);
+  EXPECT_EQ(browser->lisIcons().size(), 2U);
+  EXPECT_EQ(browser->selectedIcon(), -1);
+  browser->cmdEdit(), browser->cmdLoad(), browser->cmdSaveSingle(), browser->cmdSplitSave(), browser->cmdRemove();
+  EXPECT_EQ(exchange.gMultiIconResult, "");
+  EXPECT_EQ(unloads, 0);
+  EXPECT_TRUE(dialogs.requests.empty());
 }
 
 }  // namespace

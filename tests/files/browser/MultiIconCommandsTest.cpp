@@ -266,17 +266,6 @@ TEST_F(MultiIconCommandsTest, TheCommandLineADropAndASingleIconShowNoBrowser) {
   EXPECT_EQ(forms.multiIcons, 0);
 }
 
-TEST_F(MultiIconCommandsTest, AFileWhoseIconsAreNotOfferedIsRefusedBeforeTheBrowser) {
-  const std::string other =
-      folder.write("o.ico", build(fileOf({entryOf(anyPicture(16, 4)), entryOf(anyPicture(48, 4))})));
-  boxes.expectTold(other +
-                       "\n\nInvalid icon file or icon not a size of 16x16, 24x24, 32x32 or 48x48.\n"
-                       "Please try to use Open Bitmap File menu instead.",
-                   BoxIcon::Exclamation);
-  EXPECT_FALSE(open(other));
-  EXPECT_EQ(forms.multiIcons, 0);
-}
-
 TEST_F(MultiIconCommandsTest, OpeningThroughTheBrowserLeavesTheFileAsItIs) {
   userLoads(bytes, 1, kSecond);
   EXPECT_TRUE(open(path));

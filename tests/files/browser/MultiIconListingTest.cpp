@@ -97,8 +97,13 @@ TEST(MultiIconListing, SidesOfThreeDigitsAreReadAgain) {
 }
 
 // Only two characters are read.
-TEST(MultiIconListing, Ref100ReadsAs10) {
+TEST(MultiIconListing, Ref100ReadsAs10AndIsKnownNotToBe) {
   const ListedEntry entry{.width = 16, .height = 16, .directory = {16, 4}};
+  for (const int ref : {1, 9, 10, 99, 100, 101, 110, 257, 1000, 65535}) {
+    const ItemReading reading = readItem(itemText(ref, entry, true));
+    EXPECT_EQ(reading.ref, ref);
+    EXPECT_EQ(reading.isOfItsEntry(), ref < 100) << ref;
+  }
   EXPECT_EQ(readItem(itemText(100, entry, true)).index, 9);
   EXPECT_EQ(readItem(itemText(257, entry, true)).index, 24);
   EXPECT_EQ(readItem(itemText(65535, entry, true)).index, 64);

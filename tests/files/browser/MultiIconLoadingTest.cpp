@@ -213,7 +213,7 @@ TEST_F(BrowserTest, AddingRequiresAnItemSelectedOrOtherSizes) {
 TEST_F(BrowserTest, OtherSizesAloneCanBeAddedTo) {
   browse({otherSize()}, true);
   EXPECT_TRUE(browser->canAdd());
-  EXPECT_FALSE(browser->canSaveEntries());
+  EXPECT_FALSE(browser->hasSeveralIcons());
   boxes.expectAsked("Append to position ref 2.   \n\nConfirm?\n", BoxAnswer::Yes);
   browser->cmdSaveAdd(kSaveButton);
   EXPECT_EQ(exchange.gMultiIconResult, "1/2");

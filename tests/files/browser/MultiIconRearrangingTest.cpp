@@ -72,7 +72,7 @@ TEST_F(BrowserRearrangingTest, TheSamePlaceIsSelectedAfterwardsOrTheLast) {
   EXPECT_EQ(browser->selectedIcon(), 1);
   remove(0);
   EXPECT_EQ(browser->selectedIcon(), 0);
-  EXPECT_FALSE(browser->canRearrange());
+  EXPECT_FALSE(browser->hasSeveralIcons());
   EXPECT_EQ(bytesOf(path), laidOut({c}));
 }
 
@@ -133,13 +133,36 @@ TEST_F(BrowserRearrangingTest, AFileInAContainerKeepsItsEntries) {
   EXPECT_EQ(bytesOf(path), laidOut({a, b}));
 }
 
-TEST_F(BrowserRearrangingTest, NothingIsRemovedWithoutASelectionOrFromAFileOf100) {
+TEST_F(BrowserRearrangingTest, NothingIsRemovedWithoutASelection) {
   browse({a, b}, true);
   browser->cmdRemove();
-  browse(std::vector<Entry>(100, anyEntry(16, 1)));
-  browser->cmdRemove();
+  EXPECT_EQ(bytesOf(path), laidOut({a, b}));
+}
+
+TEST_F(BrowserRearrangingTest, OfAFileOf120EntriesTheOneThatIsSelectedIsRemoved) {
+  std::vector<Entry> entries(120, anyEntry(16, 1));
+  entries[9] = anyEntry(16, 8);
+  entries[109] = anyEntry(16, 24);
+  browse(entries);
+  browser->clickIcon(50);
+  boxes.expectTold("Ref 110\nUnable to get this one", BoxIcon::None);
+  browser->clickIcon(109);
+  remove(50);
+  entries.erase(entries.begin() + 50);
+  EXPECT_EQ(bytesOf(path), laidOut(entries));
+}
+
+TEST_F(BrowserRearrangingTest, AFileOf100EntriesIsNotReordered) {
+  const Bytes file = laidOut(std::vector<Entry>(100, anyEntry(16, 1)));
+  browse(file);
+  boxes.expectTold("Ref 100\nUnable to get this one", BoxIcon::None);
   browser->cmdReposition();
   EXPECT_FALSE(browser->showsReposition());
+  browser->cmdRepositionProceed();
+  EXPECT_EQ(bytesOf(path), file);
+  browse(std::vector<Entry>(99, anyEntry(16, 1)));
+  browser->cmdReposition();
+  EXPECT_TRUE(browser->showsReposition());
 }
 
 TEST_F(BrowserRearrangingTest, EntryNinetyNineIsRemovedAndNoOther) {

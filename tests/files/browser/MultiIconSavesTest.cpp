@@ -31,10 +31,11 @@ class BrowserSavesTest : public BrowserTest {
     return "Single-icon files will be saved as " + target + "_(Size)_(Color), ...\nTotally " + std::to_string(count) +
            " items on list.\n\nProceed?";
   }
-  void split(int count, BoxAnswer answer = BoxAnswer::Yes) {
+  void split(int count, BoxAnswer answer = BoxAnswer::Yes, const std::string& report = {}) {
     fs::create_directory(folder.path("out"));
     dialogs.paths.push_back(folder.path("out"));
     boxes.expectAsked(question(folder.path("out/tools"), count), answer);
+    if (!report.empty()) boxes.expectTold(report, BoxIcon::None);
     browser->cmdSplitSave();
   }
   std::vector<std::string> namesSplit() const {
@@ -233,6 +234,20 @@ TEST_F(BrowserSavesTest, AFolderThatEndsWithASeparatorGetsNoSecondOne) {
   dialogs.paths.push_back("/");
   boxes.expectAsked(question("/tools", 2), BoxAnswer::No);
   browser->cmdSplitSave();
+}
+
+TEST_F(BrowserSavesTest, RefsAbove99AreNotSplitAndNamedOnce) {
+  for (const int count : {99, 100, 120}) {
+    std::vector<Entry> entries(static_cast<std::size_t>(count), anyEntry(16, 4));
+    entries[9] = anyEntry(24, 8);
+    for (std::size_t i = 99; i < entries.size(); ++i) entries[i] = anyEntry(32, 24);
+    browse(entries);
+    browser->clickIcon(0);
+    const std::string report = count == 100 ? "Ref 100" : "Ref 100 to 120";
+    split(count, BoxAnswer::Yes, count == 99 ? "" : report + "\nUnable to get this one");
+    EXPECT_EQ(namesSplit(), (Items{"tools_16_16.ico", "tools_24_256.ico"})) << count;
+    EXPECT_EQ(browser->selectedIcon(), 0);
+  }
 }
 
 TEST_F(BrowserSavesTest, EntriesThatCannotBeShownAreSplitAllTheSame) {

@@ -38,13 +38,15 @@ class CursorFilesTest : public FilesTest {
     editor.calls.clear();
     return path;
   }
-  void expectEmptyContainer() {
-    EXPECT_FALSE(record().used || record().present);
-    EXPECT_EQ(record().path.trimmed(), "");
-    EXPECT_FALSE(state.picPanelImage[0].hasPicture() || state.picImage.hasPicture() || state.picMask.hasPicture());
-    EXPECT_FALSE(state.screen.fraTools[1]) << "there is nothing to draw on";
-    EXPECT_EQ(state.screen.lblStatusPanel[0], "");
-    EXPECT_EQ(rooms.drawing.history.undoCount(), 0);
+  // The cursor of givenCursor() is still there, with its changes and its Undo history.
+  void expectFormerCursor(const std::string& path) {
+    EXPECT_TRUE(record().used && record().present && record().isCursor && record().modified);
+    EXPECT_EQ(record().path.trimmed(), path);
+    EXPECT_TRUE(samePixels(state.picImage, decode(build(entryOf(anyPicture(32, 4)))).image));
+    EXPECT_TRUE(panelIsUpToDate());
+    EXPECT_TRUE(state.screen.fraTools[1]);
+    EXPECT_EQ(state.screen.lblStatusPanel[0], path);
+    EXPECT_EQ(rooms.drawing.history.undoCount(), 1);
     EXPECT_FALSE(state.screen.hourglass);
   }
   std::pair<int, int> spot() const { return {cursor.hotspotX(), cursor.hotspotY()}; }
@@ -99,24 +101,26 @@ TEST_F(CursorFilesTest, FilesThatAreNoSuchCursorsAreInvalid) {
   EXPECT_TRUE(editor.calls.empty());
 }
 
-TEST_F(CursorFilesTest, APngPictureFailsToLoadAndLeavesTheContainerEmpty) {
-  givenCursor(1, 2);
+TEST_F(CursorFilesTest, APngPictureFailsToLoadAndTheFormerCursorStays) {
+  const std::string before = givenCursor(1, 2);
+  record().modified = true;
   CursorFile png;
   png.image = Bytes{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n', 0, 0, 0, 13, 'I', 'H', 'D', 'R'};
   boxes.expectTold(kFailed, BoxIcon::Exclamation);
   EXPECT_FALSE(openCursor(write(png, "png.cur")));
-  expectEmptyContainer();
+  expectFormerCursor(before);
 }
 
-TEST_F(CursorFilesTest, TrueColorOfOddDepthsIsRefusedAndLeavesTheContainerEmpty) {
+TEST_F(CursorFilesTest, TrueColorOfOddDepthsIsRefusedAndTheFormerCursorStays) {
   for (const int bits : {0, 2, 16, 65535}) {
-    givenCursor(1, 2);
+    const std::string before = givenCursor(1, 2);
+    record().modified = true;
     CursorFile file = cursorOf(anyPicture(32, 32));
     file.picture.headerBits = bits;
     const std::string path = write(file, "odd.cur");
     boxes.expectTold(path + kStrange, BoxIcon::Information);
     EXPECT_FALSE(openCursor(path)) << bits;
-    expectEmptyContainer();
+    expectFormerCursor(before);
   }
 }
 

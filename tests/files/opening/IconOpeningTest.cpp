@@ -54,11 +54,150 @@ TEST_F(IconOpeningTest, AColorCountOf255OpensAs16ColorsOfEightBits) {
   EXPECT_EQ(record().bitCount, 8);
 }
 
-TEST_F(IconOpeningTest, SizesWithout32x32AreRefusedAsInvalid) {
-  const std::string path =
-      folder.write("two.ico", build(IcoFile{{entryOf(anyPicture(16, 4)), entryOf(anyPicture(48, 4))}, 0, 1, {}}));
-  boxes.expectTold(path + kInvalid, BoxIcon::Exclamation);
+// Files that the probe refuses although they hold icons.
+
+std::string offerOf(int icons) {
+  return kInvalid + ("\n\nIt holds " + std::to_string(icons) + " icons of these sizes all the same. Show them?");
+}
+constexpr const char* kOfferOfOne = "\n\nIt holds 1 icon of these sizes all the same. Show it?";
+
+class OfferedIcons : public FilesTest {
+ protected:
+  Entry large = sized(anyEntry(48, 24), 0), other = sized(anyEntry(48, 4), 64);
+  const IcoFile twoSizes = file({anyEntry(16, 4), anyEntry(48, 8)});
+
+  static IcoFile file(std::vector<Entry> entries) { return {std::move(entries), 0, 1, {}}; }
+  // With a side that the directory states, 0 for 256 pixels.
+  static Entry sized(Entry entry, int side) {
+    entry.width = entry.height = side;
+    return entry;
+  }
+  std::string write(const IcoFile& icons) { return folder.write("offered.ico", build(icons)); }
+  void expectOffer(const std::string& text, BoxAnswer answer) {
+    boxes.expect(text, BoxButtons::YesNo, BoxIcon::Exclamation, answer);
+  }
+  // The user loads an entry, where the browser is shown for the proposed container.
+  void userLoads(const IcoFile& icons, int index, int proposed, const std::string& answer) {
+    forms.onMultiIcon = [=, this] {
+      EXPECT_EQ(exchange.gMultiIconFile, folder.path("offered.ico"));
+      EXPECT_EQ(exchange.gMultiIconResult, std::to_string(proposed));
+      EXPECT_FALSE(exchange.gAddToFile);
+      exchange.chosenIcon = decode(build(icons), index);
+      exchange.gMultiIconResult = answer;
+    };
+  }
+};
+
+TEST_F(OfferedIcons, AFileWithout32x32OrWithA256x256FirstIsOfferedWithItsNumberOfIcons) {
+  const std::pair<IcoFile, int> cases[] = {{twoSizes, 2},
+                                           {file({large, anyEntry(32, 4), anyEntry(16, 4), other}), 2},
+                                           {file({large, anyEntry(24, 8), anyEntry(32, 8), anyEntry(48, 8)}), 3}};
+  for (const auto& [icons, count] : cases) {
+    const std::string path = write(icons);
+    expectOffer(path + offerOf(count), BoxAnswer::No);
+    EXPECT_FALSE(open(path));
+    EXPECT_EQ(forms.multiIcons, 0);
+    EXPECT_FALSE(record().used);
+  }
+}
+
+TEST_F(OfferedIcons, OneIconIsOfferedAsOne) {
+  for (const IcoFile& icons : {file({large, anyEntry(16, 4)}), file({other, anyEntry(48, 4)})}) {
+    const std::string path = write(icons);
+    expectOffer(path + kInvalid + kOfferOfOne, BoxAnswer::No);
+    EXPECT_FALSE(open(path));
+  }
+}
+
+TEST_F(OfferedIcons, YesShowsThemAndTheChosenOneIsLoaded) {
+  for (const bool useBrowser : {true, false}) {
+    const IcoFile icons = file({large, anyEntry(16, 8), anyEntry(32, 4)});
+    const std::string path = write(icons);
+    expectOffer(path + offerOf(2), BoxAnswer::Yes);
+    userLoads(icons, 1, 0, "1/01/16/16/256/8/256/8");
+    EXPECT_TRUE(open(path, useBrowser));
+    EXPECT_EQ(record().path.trimmed(), path);
+    EXPECT_EQ(record().multiIconIndex, 1);
+    EXPECT_TRUE(record().fromMultiIconFile);
+    EXPECT_TRUE(samePixels(state.picImage, decode(build(icons), 1).image) && panelIsUpToDate());
+    EXPECT_EQ(editor.count("AddHistory " + path), useBrowser ? 1 : 2);
+  }
+}
+
+TEST_F(OfferedIcons, TheRemindersFollow) {
+  const IcoFile icons = file({large, anyEntry(32, 32)});
+  const std::string path = write(icons);
+  expectOffer(path + kInvalid + kOfferOfOne, BoxAnswer::Yes);
+  boxes.expectTold(kAlphaReminder, BoxIcon::Information);
+  userLoads(icons, 1, 0, "1/01/32/32/-1/32/-1/32");
+  EXPECT_TRUE(open(path));
+}
+
+TEST_F(OfferedIcons, ClosingTheBrowserKeepsTheIconThatIsThere) {
+  const std::string before = given(entryOf(anyPicture(16, 4)));
+  record().modified = true;
+  const std::string path = write(twoSizes);
+  expectOffer(path + offerOf(2), BoxAnswer::Yes);
   EXPECT_FALSE(open(path));
+  EXPECT_EQ(forms.multiIcons, 1);
+  EXPECT_EQ(record().path.trimmed(), before);
+  EXPECT_TRUE(record().modified);
+  EXPECT_EQ(editor.calls, std::vector<std::string>{});
+}
+
+TEST_F(OfferedIcons, FilesWithoutSuchIconsOrThatTheBrowserCannotListAreNotOffered) {
+  Bytes cut = build(twoSizes), cursor = cut;
+  cut.resize(cut.size() - 1);
+  cursor[2] = 2;
+  Entry wide = anyEntry(32, 4);
+  wide.width = 16;
+  for (const Bytes& bytes : {cut, cursor, build(file({large})), build(file({large, other, wide})), build(other)}) {
+    const std::string path = folder.write("bad.ico", bytes);
+    boxes.expectTold(path + kInvalid, BoxIcon::Exclamation);
+    EXPECT_FALSE(open(path));
+  }
+  EXPECT_EQ(forms.multiIcons, 0);
+}
+
+TEST_F(OfferedIcons, TheQuietOpeningStaysQuiet) {
+  EXPECT_FALSE(openQuietly(write(twoSizes)));
+  EXPECT_EQ(forms.multiIcons, 0);
+}
+
+TEST_F(OfferedIcons, ADropProposesItsContainerAndSwitchesThereForTheLoad) {
+  const std::string before = given(entryOf(anyPicture(16, 4)));
+  const Surface image = state.picImage;
+  const std::string path = write(twoSizes);
+  expectOffer(path + offerOf(2), BoxAnswer::Yes);
+  userLoads(twoSizes, 1, 3, "4/01/48/48/256/8/256/8");
+  files.iconFiles.offerIconsOfFile(path, 3);
+  EXPECT_EQ(state.mCurContainer, 3);
+  EXPECT_EQ(record().path.trimmed(), path);
+  EXPECT_TRUE(samePixels(state.picImage, decode(build(twoSizes), 1).image) && panelIsUpToDate());
+  EXPECT_EQ(state.mIconRecs[0].path.trimmed(), before);
+  EXPECT_TRUE(samePixels(state.picPanelImage[0], image));
+}
+
+TEST_F(OfferedIcons, ADropOnUnsavedWorkAsksBeforeTheLoad) {
+  const std::string before = given(entryOf(anyPicture(16, 4)));
+  record().modified = true;
+  editor.askSaveProceeds = false;
+  const std::string path = write(twoSizes);
+  for (const int current : {0, 1}) {
+    state.mCurContainer = current;
+    expectOffer(path + offerOf(2), BoxAnswer::Yes);
+    userLoads(twoSizes, 1, 0, "1/01/48/48/256/8/256/8");
+    files.iconFiles.offerIconsOfFile(path, 0);
+    EXPECT_EQ(editor.count("AskSaveCurrent "), current + 1);
+    EXPECT_EQ(state.mIconRecs[0].path.trimmed(), before);
+    EXPECT_TRUE(state.mIconRecs[0].modified);
+  }
+}
+
+TEST_F(OfferedIcons, ADropOfAnyOtherFileThatFailsSaysNothing) {
+  for (const Bytes& bytes : {build(entryOf(anyPicture(32, 8), 0, 3)), Bytes{1, 2, 3}, build(file({large}))})
+    files.iconFiles.offerIconsOfFile(folder.write("bad.ico", bytes), 0);
+  EXPECT_EQ(forms.multiIcons, 0);
 }
 
 TEST_F(IconOpeningTest, ThreeSameSizeEntriesOpenTheEightBitOne) {
@@ -87,26 +226,33 @@ TEST_F(IconOpeningTest, ASingleEntryOf16By32IsReportedWithItsSizes) {
   EXPECT_FALSE(open(folder.write("wide.ico", build(entry))));
 }
 
-TEST_F(IconOpeningTest, A16BitIconIsReadAndThenRefused) {
+TEST_F(IconOpeningTest, A16BitIconIsReadAndThenRefusedAndTheFormerIconStays) {
+  const std::string before = given(entryOf(anyPicture(16, 4)));
+  const Surface image = state.picImage;
   const std::string path = folder.write("hi.ico", build(entryOf(anyPicture(32, 32), 0, 16)));
   boxes.expectTold(path + "\nIncoming icon is a True Color icon but not of 24 BPP or 32 BPP.\n", BoxIcon::Information);
   EXPECT_FALSE(open(path));
-  EXPECT_FALSE(record().used);
-  EXPECT_FALSE(record().present);
-  EXPECT_FALSE(state.picImage.hasPicture());
-  EXPECT_FALSE(state.screen.fraTools[1]) << "there is nothing to draw on";
+  EXPECT_EQ(record().path.trimmed(), before);
+  EXPECT_TRUE(samePixels(state.picImage, image) && panelIsUpToDate());
+  EXPECT_EQ(editor.calls, std::vector<std::string>{});
 }
 
-TEST_F(IconOpeningTest, StrangeDepthsAndPngImagesFailToLoadAndLeaveTheContainerEmpty) {
+TEST_F(IconOpeningTest, StrangeDepthsAndPngImagesFailToLoadAndTheFormerIconStays) {
+  const std::string before = given(entryOf(anyPicture(48, 4)));
+  const Surface image = state.picImage;
+  record().modified = true;
   Entry png = entryOf(anyPicture(32, 32));
   png.image = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n', 0, 0, 0, 13, 'I', 'H', 'D', 'R'};
   for (const Entry& entry : {entryOf(anyPicture(32, 8), 0, 3), png}) {
     const std::string path = folder.write("strange.ico", build(entry));
     boxes.expectTold(path + kFailed, BoxIcon::Exclamation);
     EXPECT_FALSE(open(path));
-    EXPECT_FALSE(record().used);
-    EXPECT_EQ(record().size, 32);
-    EXPECT_FALSE(state.picImage.hasPicture());
+    EXPECT_FALSE(openQuietly(path));
+    EXPECT_EQ(record().path.trimmed(), before);
+    EXPECT_TRUE(record().modified);
+    EXPECT_EQ(record().size, 48);
+    EXPECT_TRUE(samePixels(state.picImage, image) && panelIsUpToDate());
+    EXPECT_EQ(rooms.drawing.history.undoCount(), 1);
     EXPECT_FALSE(state.screen.hourglass);
   }
 }
@@ -290,7 +436,7 @@ TEST_F(IconOpeningTest, UnusualNamesOpen) {
   }
 }
 
-TEST_F(IconOpeningTest, APathOfMoreThan300CharactersOpensAndItsRecordKeeps255) {
+TEST_F(IconOpeningTest, APathOfMoreThan300CharactersOpensAndItsRecordKeepsItWhole) {
   const std::string deep = folder.path(std::string(200, 'd'));
   std::filesystem::create_directory(deep);
   const std::string path = deep + "/" + std::string(150, 'n') + ".ico";
@@ -298,7 +444,7 @@ TEST_F(IconOpeningTest, APathOfMoreThan300CharactersOpensAndItsRecordKeeps255) {
   std::ofstream(path, std::ios::binary)
       .write(reinterpret_cast<const char*>(file.data()), static_cast<std::streamsize>(file.size()));
   EXPECT_TRUE(open(path));
-  EXPECT_EQ(record().path.trimmed(), path.substr(0, 255));
+  EXPECT_EQ(record().path.trimmed(), path);
 }
 
 TEST_F(IconOpeningTest, TheMenuOpensTheChosenFileAndChoosesTheChart) {

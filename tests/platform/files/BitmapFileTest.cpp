@@ -44,6 +44,33 @@ TEST(BitmapFile, ABitmapWithItsTopRowFirstIsAsLong) {
   EXPECT_FALSE(isWholeBitmap(std::span(upright).first(upright.size() - 1)));
 }
 
+TEST(BitmapFile, RowsFromTheTopAreThoseOfANegativeHeight) {
+  EXPECT_EQ(rowsFromTheTop(kSmall), 0);
+  EXPECT_EQ(rowsFromTheTop(changed(kHeightAt, {0xFE, 0xFF, 0xFF, 0xFF})), 2);
+  EXPECT_EQ(rowsFromTheTop(changed(kHeightAt, {1, 0, 0, 0x80})), 0x7FFFFFFF);
+  EXPECT_EQ(rowsFromTheTop(changed(kHeightAt, {0, 0, 0, 0x80})), 0) << "a height that cannot be negated";
+  EXPECT_EQ(rowsFromTheTop(changed(kHeightAt, {0, 0, 0, 0})), 0);
+}
+
+TEST(BitmapFile, OnlyUncompressedBitmapsMayHaveTheirTopRowFirst) {
+  Bytes upright = changed(kHeightAt, {0xFE, 0xFF, 0xFF, 0xFF});
+  for (const int compression : {0, 1, 2, 3, 4}) {
+    upright[kCompressionAt] = static_cast<std::uint8_t>(compression);
+    EXPECT_EQ(rowsFromTheTop(upright), compression == 0 || compression == 3 ? 2 : 0) << compression;
+  }
+}
+
+TEST(BitmapFile, FilesCutInTheirHeadersAndOtherFilesHaveNoRowsFromTheTop) {
+  Bytes upright = changed(kHeightAt, {0xFE, 0xFF, 0xFF, 0xFF});
+  for (std::size_t length = 0; length < 54; ++length)
+    EXPECT_EQ(rowsFromTheTop(std::span(upright).first(length)), 0) << length;
+  upright[14] = 12;  // a header without a signed height
+  EXPECT_EQ(rowsFromTheTop(upright), 0);
+  upright[14] = 40;
+  upright[0] = 'P';
+  EXPECT_EQ(rowsFromTheTop(upright), 0);
+}
+
 TEST(BitmapFile, ACompressedBitmapIsAsLongAsItSays) {
   Bytes packed = changed(kCompressionAt, {1, 0, 0, 0, 5, 0, 0, 0});
   packed.resize(54 + 5);

@@ -75,6 +75,10 @@ TEST(Paths, APathWithFourSeparatorsLosesItsMiddle) {
   EXPECT_EQ(ShortenPath("/home/ana/a/b/c.ico"), "/home/...../c.ico");
 }
 
+TEST(Paths, ALongPathKeepsItsNameWhenItLosesItsMiddle) {
+  EXPECT_EQ(ShortenPath("/home/ana/" + std::string(300, 'a') + "/b/c.ico"), "/home/...../c.ico");
+}
+
 TEST(Paths, PatternsIgnoreCase) {
   EXPECT_TRUE(matchesPattern("a.ico", "*.ICO"));
   EXPECT_TRUE(matchesPattern("A.ICO", "*.ico"));

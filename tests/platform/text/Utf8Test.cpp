@@ -1,4 +1,5 @@
 #include "platform/text/FixedText.h"
+#include "platform/text/TrimmedText.h"
 #include "platform/text/Utf8.h"
 
 #include <gtest/gtest.h>
@@ -56,6 +57,15 @@ TEST(FixedText, AFieldKeepsItsLengthInCharacters) {
   EXPECT_EQ(field.trimmed(), "\xC3\xA9\xC3\xA9\xC3\xA9");
   field = "a";
   EXPECT_EQ(field.padded(), "a  ");
+}
+
+TEST(TrimmedText, AnyLengthIsKeptAndReadTrimmed) {
+  const std::string name(1000, 'n');
+  TrimmedText field("  " + name + " x  ");
+  EXPECT_EQ(field.trimmed(), name + " x");
+  EXPECT_EQ(field, TrimmedText(name + " x"));
+  field = "";
+  EXPECT_EQ(field, TrimmedText());
 }
 
 TEST(FixedText, AFieldIsReadTrimmed) {
