@@ -15,6 +15,7 @@
 #include "files/saving/ScratchIcon.h"
 #include "platform/ports/MessageBoxes.h"
 #include "platform/text/Paths.h"
+#include "platform/text/Utf8.h"
 
 #include <utility>
 #include <vector>
@@ -22,7 +23,9 @@
 namespace gp {
 namespace {
 
-constexpr const char* kReplaceFilter = "Icon files (*.ico)|*.ico|(*.*)|*.*|";
+constexpr const char* kIconsFirst = "Icon files (*.ico)|*.ico|(*.*)|*.*|";
+constexpr const char* kAllFilesFirst = "(*.*)|*.*|Icon files (*.ico)|*.ico|";
+constexpr const char* kIconEnding = ".ico";
 constexpr const char* kNotMade = "Failed to save current icon - preparation";
 constexpr const char* kNotLoaded = "Failed to save current icon - at loading preparation stage";
 constexpr const char* kNotReopened = "Failed to save current icon - at re-opening original file stage";
@@ -88,10 +91,14 @@ bool MultiIconReplace::isAllowed() {
   return false;
 }
 
-// The question promised to write to the original file, so the dialog starts in its folder.
+// The question promised to write to the original file, so the dialog proposes exactly that file. Under the filter of
+// icon files it would add an extension to a name with another one, and under any filter to a name without one.
 std::string MultiIconReplace::askForName() {
-  return askToSave(context_, ParseFileName(original_, PathPart::BareName), kReplaceFilter, kIconExtension,
-                   OverwriteQuestion::ByDialog, ParseFileName(original_, PathPart::DriveAndFolder));
+  const std::string name = ParseFileName(original_, PathPart::NameWithExtension);
+  const char* const filter = endsWithAnyCase(name, kIconEnding) ? kIconsFirst : kAllFilesFirst;
+  const char* const extension = name.find('.') == std::string::npos ? "" : kIconExtension;
+  return askToSave(context_, name, filter, extension, OverwriteQuestion::ByDialog,
+                   ParseFileName(original_, PathPart::DriveAndFolder));
 }
 
 // An icon in another container refers to its entry by index, which would then be that of another entry.

@@ -226,12 +226,33 @@ TEST_F(MultiIconReplaceTest, TheDialogOffersTheFilesNameInItsFolder) {
   dialogs.paths = {""};
   replace();
   ASSERT_EQ(dialogs.requests.size(), 1u);
-  EXPECT_EQ(dialogs.requests[0].fileName, "multi");
+  EXPECT_EQ(dialogs.requests[0].fileName, "multi.ico");
   EXPECT_EQ(dialogs.requests[0].folder, folder.folder() + "/");
   EXPECT_EQ(dialogs.requests[0].defaultExtension, "ico");
   EXPECT_EQ(dialogs.requests[0].filters, (std::vector<FileFilter>{{"Icon files (*.ico)", "*.ico"}, {"(*.*)", "*.*"}}));
   EXPECT_EQ(bytesOf(path), build(three));
   EXPECT_TRUE(record().modified);
+}
+
+// The dialog adds an extension to a name that its filter does not list, and to one without any.
+TEST_F(MultiIconReplaceTest, TheDialogOffersTheNameAsItIsAndAddsNothingToIt) {
+  using Filters = std::vector<FileFilter>;
+  const FileFilter iconFiles{"Icon files (*.ico)", "*.ico"}, allFiles{"(*.*)", "*.*"};
+  struct Case {
+    const char* name;
+    Filters filters;
+    const char* extension;
+  };
+  for (const Case& c : {Case{"MULTI.ICO", {iconFiles, allFiles}, "ico"}, Case{"a.b.Ico", {iconFiles, allFiles}, "ico"},
+                        Case{"multi.dat", {allFiles, iconFiles}, "ico"}, Case{"multi", {allFiles, iconFiles}, ""}}) {
+    givenEntry(three, 1, c.name);
+    boxes.expectAsked(question(2), BoxAnswer::Yes);
+    dialogs.paths = {""};
+    replace();
+    EXPECT_EQ(dialogs.requests.back().fileName, c.name);
+    EXPECT_EQ(dialogs.requests.back().filters, c.filters) << c.name;
+    EXPECT_EQ(dialogs.requests.back().defaultExtension, c.extension) << c.name;
+  }
 }
 
 TEST_F(MultiIconReplaceTest, NoEndsBeforeAnyDialog) {
