@@ -2,6 +2,7 @@
 #pragma once
 
 #include "files/FilesFixture.h"
+#include "files/format/Rereading.h"
 
 #include <deque>
 #include <filesystem>
@@ -27,6 +28,7 @@ class MultiIconTest : public FilesTest {
       if (user.empty()) return answers("", false);
       const auto step = user.front();
       user.pop_front();
+      exchange.listedFile = FileBytes(bytesOf(exchange.gMultiIconFile));
       step();
     };
   }
@@ -44,7 +46,7 @@ class MultiIconTest : public FilesTest {
     user.push_back([=, this] { answers(answer); });
   }
 
-  // The entry of a file becomes the Current Icon, as after a load through the browser.
+  // The entry of a file becomes the Current Icon, as after a load through the browser. `path` holds the file.
   std::string givenEntry(const IcoFile& file, int index, const std::string& name = "multi.ico") {
     const std::string path = folder.write(name, build(file));
     holdEntry(path, file, index);
@@ -58,6 +60,8 @@ class MultiIconTest : public FilesTest {
     record().path = path;
     record().fromMultiIconFile = true;
     record().multiIconIndex = static_cast<std::int16_t>(index);
+    const IconFile opened = parseIconFile(FileBytes(bytesOf(path)));
+    record().origin = originOf(opened, opened.entry(index));
     record().modified = true;
     editor.calls.clear();
   }

@@ -5,6 +5,7 @@
 #include "document/IconContainerRec.h"
 #include "document/ProcessValues.h"
 #include "files/browser/MultiIconExchange.h"
+#include "files/format/Rereading.h"
 #include "files/opening/IconMessages.h"
 #include "platform/ports/MessageBoxes.h"
 #include "platform/scope/FlagFor.h"
@@ -171,6 +172,8 @@ void MultiIconBrowser::loadSelectedIcon() {
   if (!isEditFace() || !isIcon(selected_) || !isLoadable(listed(readItem(iconText(selected_))))) return;
   exchange_.gMultiIconResult = loadAnswer();
   exchange_.chosenIcon = preview_.icon();
+  const auto index = static_cast<std::size_t>(readItem(iconText(selected_)).index);
+  exchange_.chosenOrigin = originOf(arrays_.entries[index], arrays_.images[index]);
   unload();
 }
 
@@ -202,6 +205,7 @@ void MultiIconBrowser::cmdSaveAdd(int button) {
   if (!context_.boxes.ask((appends ? "Append" : "Insert") + (" to position ref " + position) + ".   \n\nConfirm?\n"))
     return;
   exchange_.gMultiIconResult = std::to_string(button + 1) + "/" + position;
+  exchange_.listedFile = std::move(arrays_.file.bytes);
   unload();
 }
 

@@ -104,6 +104,7 @@ class MultiIconBrowser {
   void splitInto(const std::string& stem);
 
   bool isUnchangeable(const char* onlyIcon, const char* inPanel);
+  bool rereadForUpdate();
   bool removeEntry(int index);
   void relistAt(int item);
   void writeRepositioned();

@@ -3,6 +3,7 @@
 #include "files/browser/MultiIconBrowser.h"
 #include "files/browser/MultiIconExchange.h"
 #include "files/format/IconUpdates.h"
+#include "files/format/Rereading.h"
 #include "files/saving/MultiIconTexts.h"
 #include "platform/ports/MessageBoxes.h"
 
@@ -38,9 +39,23 @@ bool MultiIconBrowser::isUnchangeable(const char* onlyIcon, const char* inPanel)
 void MultiIconBrowser::cmdRemove() {
   if (!isIcon(selected_) || hasTooManyRefs() || isUnchangeable(kRemoveLastIcon, kNoDeletion)) return;
   if (!context_.boxes.ask(kRemoveQuestion + file() + kRemoveAssurance)) return;
+  if (!rereadForUpdate()) return;
   const int item = selected_;
   if (!removeEntry(readItem(iconText(item)).index)) context_.boxes.tell(kRemoveNotWritten);
   relistAt(item);
+}
+
+// False, after a message, when the file is not as it was listed. Then it is listed as it is now; if it cannot be read,
+// the form keeps its images, of which it may hold the last copy.
+bool MultiIconBrowser::rereadForUpdate() {
+  IconArrays now;
+  const bool isRead = readIconArrays(file(), ReservedField::Any, now) == ArraysDefect::None;
+  if (isRead && isAsRead(now, arrays_.file.span())) return true;
+  context_.boxes.tell(fileChangedText(file()));
+  if (!isRead) return false;
+  repositioning_ = false;
+  openFile();
+  return false;
 }
 
 bool MultiIconBrowser::removeEntry(int index) {
@@ -100,7 +115,7 @@ void MultiIconBrowser::cmdRepositionProceed() {
   if (!repositioning_ || items.empty()) return;
   if (items.size() == 1) return context_.boxes.tell(kSingleIconListed);
   if (reposition_.isUnchanged()) return context_.boxes.tell(kRepositionNoChange);
-  if (!context_.boxes.ask(file() + kRepositionQuestion)) return;
+  if (!context_.boxes.ask(file() + kRepositionQuestion) || !rereadForUpdate()) return;
   writeRepositioned();
   repositioning_ = false;
   openFile();

@@ -10,9 +10,11 @@
 #include "drawing/Drawing.h"
 #include "files/FileQuestions.h"
 #include "files/format/DepthTexts.h"
+#include "files/format/Rereading.h"
 #include "files/opening/IconMessages.h"
 #include "files/saving/BitmapSaving.h"
 #include "files/saving/CurrentIcon.h"
+#include "files/saving/MultiIconTexts.h"
 #include "platform/files/Files.h"
 #include "platform/text/Paths.h"
 #include "platform/text/Utf8.h"
@@ -115,6 +117,11 @@ void IconSaver::doFileSave() {
   const std::string path = record.path.trimmed();
   if (record.fromMultiIconFile || !endsWithAnyCase(path, kIconEnding) || !FileExists(path))
     return doSaveAs(SaveMode::Icon);
+  // Another program may have put more icons into the file, or something else.
+  if (!isFileOfOneIcon(path)) {
+    context_.boxes.tell(fileChangedText(path));
+    return doSaveAs(SaveMode::Icon);
+  }
   bool ok = false;
   doSaveIconTo(path, ok);
 }

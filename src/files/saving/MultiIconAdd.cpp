@@ -11,6 +11,7 @@
 #include "files/browser/MultiIconExchange.h"
 #include "files/format/IconProbe.h"
 #include "files/format/IconWriter.h"
+#include "files/format/Rereading.h"
 #include "files/saving/CurrentIcon.h"
 #include "files/saving/MultiIconSaving.h"
 #include "files/saving/MultiIconTexts.h"
@@ -157,7 +158,8 @@ bool MultiIconAdd::readTarget(int index, const std::string& target, IconArrays& 
   const ArraysDefect defect = readIconArrays(target, ReservedField::MustBeZero, arrays);
   if (defect == ArraysDefect::NotReadable) return fail(targetNotReadText(target, defect));
   if (defect != ArraysDefect::None) return refuse(targetNotReadText(target, defect));
-  return index <= arrays.count() || refuse(addNoPositionText(target));
+  if (index > arrays.count()) return refuse(addNoPositionText(target));
+  return isAsRead(arrays, context_.multiIcon.listedFile.span()) || refuse(fileChangedText(target));
 }
 
 }  // namespace gp

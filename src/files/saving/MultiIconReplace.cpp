@@ -8,6 +8,7 @@
 #include "document/Messages.h"
 #include "files/FileQuestions.h"
 #include "files/format/IconWriter.h"
+#include "files/format/Rereading.h"
 #include "files/saving/CurrentIcon.h"
 #include "files/saving/MultiIconSaving.h"
 #include "files/saving/MultiIconTexts.h"
@@ -17,8 +18,8 @@
 #include "platform/text/Paths.h"
 #include "platform/text/Utf8.h"
 
+#include <cstdint>
 #include <utility>
-#include <vector>
 
 namespace gp {
 namespace {
@@ -48,43 +49,46 @@ MultiIconReplace::MultiIconReplace(FilesContext& context, const std::string& scr
     : context_(context),
       state_(context.state),
       scratchFile_(scratchFile),
-      original_(context.state.current().path.trimmed()),
-      index_(context.state.current().multiIconIndex) {}
+      original_(context.state.current().path.trimmed()) {}
 
 void MultiIconReplace::run() {
   finishCurrentIcon(context_);
-  if (!isConfirmed() || !readOriginal() || !isAllowed()) return;
+  if (!FileExists(original_)) return fail(original_ + kFileGone);
+  const bool isRead = readOriginal();
+  if (!context_.boxes.ask(questionFor(std::to_string(placeOrFormer() + 1)))) return;
+  if (!isRead) return fail(kReplaceNotRead);
+  if (!isAllowed()) return;
   const std::string path = askForName();
   if (path.empty() || !isInNoOtherContainer(path)) return;
   auto image = makeImage();
-  if (!image || !readOriginalAgain()) return;
-  replaceImage(arrays_, index_, std::move(*image));
+  if (!image) return;
+  if (!readOriginal()) return fail(kNotReopened);
+  if (!isAllowed()) return;
+  replaceImage(arrays_, *place_, std::move(*image));
   if (write(path))
     describeSaved(path);
   else
     fail(notWrittenText(path, SaveInto::Replace));
 }
 
-bool MultiIconReplace::fail(const std::string& text) {
-  tellFailure(context_, text);
-  return false;
-}
+void MultiIconReplace::fail(const std::string& text) { tellFailure(context_, text); }
 
-bool MultiIconReplace::isConfirmed() {
-  if (!FileExists(original_)) return fail(original_ + kFileGone);
-  return context_.boxes.ask(questionFor(std::to_string(index_ + 1)));
-}
-
+// Other programs may have added entries before that of the icon, or removed some.
 bool MultiIconReplace::readOriginal() {
-  return readIconArrays(original_, ReservedField::MustBeZero, arrays_) == ArraysDefect::None || fail(kReplaceNotRead);
+  arrays_ = {};
+  const bool isRead = readIconArrays(original_, ReservedField::MustBeZero, arrays_) == ArraysDefect::None;
+  place_ = findOrigin(arrays_, state_.current().origin, formerPlace());
+  return isRead;
 }
+
+int MultiIconReplace::formerPlace() const { return state_.current().multiIconIndex; }
 
 bool MultiIconReplace::isAllowed() {
   traits_ = traitsToWrite(currentIcon(state_), state_.current());
-  const int same = findSameIcon(arrays_, traits_, index_);
+  const int same = findSameIcon(arrays_, traits_, placeOrFormer());
   if (same >= 0)
     context_.boxes.tell(sameIconText(traits_, SaveInto::Replace));
-  else if (index_ < 0 || index_ >= arrays_.count())
+  else if (!place_)
     context_.boxes.tell(kReplaceEntryGone);
   else
     return true;
@@ -118,17 +122,6 @@ std::optional<NewImage> MultiIconReplace::makeImage() {
   return image;
 }
 
-// The file may have changed while the dialog was open. It is not overwritten if its directory differs from the one that
-// was checked.
-bool MultiIconReplace::readOriginalAgain() {
-  const std::vector<IconEntry> checked = std::move(arrays_.entries);
-  arrays_ = {};
-  if (readIconArrays(original_, ReservedField::MustBeZero, arrays_) != ArraysDefect::None) return fail(kNotReopened);
-  if (arrays_.entries == checked) return true;
-  context_.boxes.tell(kReplaceEntryGone);
-  return false;
-}
-
 bool MultiIconReplace::write(const std::string& path) {
   const Hourglass hourglass(context_);
   const bool isOriginal = isSameFile(path, original_);
@@ -138,7 +131,10 @@ bool MultiIconReplace::write(const std::string& path) {
 
 void MultiIconReplace::describeSaved(const std::string& path) {
   IconContainerRec& record = state_.current();
+  const auto place = static_cast<std::size_t>(*place_);
   record.path = path;
+  record.multiIconIndex = static_cast<std::int16_t>(*place_);
+  record.origin = originOf(arrays_.entries[place], arrays_.images[place]);
   record.setDepth(traits_.depth);
   record.setHeaderDepth(traits_.depth);
   record.neverSaved = record.modified = false;

@@ -47,6 +47,10 @@ std::string openedInPanelText(int container) {
          "submenu of \"Edit\" main menu).\n";
 }
 
+std::string fileChangedText(const std::string& path) {
+  return path + "\n\nThis file has been changed meanwhile.\nNothing has been written to it.";
+}
+
 std::string addNotReadText(const std::string& path, ArraysDefect defect) {
   return (defect == ArraysDefect::NotReadable ? "Failed to open " : "No icon found in ") + path;
 }

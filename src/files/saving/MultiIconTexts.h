@@ -19,6 +19,9 @@ const char* notWrittenText(const std::string& path, SaveInto save);
 // Both refuse a file if another container holds an icon of it. Containers count from 0.
 std::string openedInPanelText(int container);
 
+// States that a command does nothing because another program has changed the file since it was read.
+std::string fileChangedText(const std::string& path);
+
 // Replace.
 inline constexpr const char* kReplaceNotRead = "Failed to save current icon - at reading preparation stage";
 inline constexpr const char* kReplaceEntryGone =

@@ -162,6 +162,31 @@ TEST_F(IconSaverTest, SaveAsksForANameInEveryOtherCase) {
   EXPECT_TRUE(saver.mSaveFailed());
 }
 
+TEST_F(IconSaverTest, AFileThatIsNoFileOfOneIconAnyMoreGoesToAnotherName) {
+  const std::string path = given(anyEntry(32, 4));
+  IcoFile cursor{{anyEntry(32, 4)}, 0, 2, {}};
+  for (const Bytes& changed : {build(IcoFile{{anyEntry(16, 4), anyEntry(32, 4)}, 0, 1, {}}), build(cursor),
+                               Bytes{'t', 'e', 'x', 't'}, Bytes{}}) {
+    folder.write("given.ico", changed);
+    record().modified = true;
+    boxes.expectTold(path + "\n\nThis file has been changed meanwhile.\nNothing has been written to it.",
+                     BoxIcon::None);
+    dialogs.paths = {""};
+    saver.doFileSave();
+    EXPECT_TRUE(saver.mSaveFailed());
+    EXPECT_TRUE(record().modified);
+    EXPECT_EQ(dialogs.requests.back().fileName, "given");
+    EXPECT_EQ(bytesOf(path), changed);
+  }
+}
+
+TEST_F(IconSaverTest, AFileOfOneOtherIconIsStillItsOwn) {
+  const std::string path = given(anyEntry(32, 4));
+  folder.write("given.ico", build(anyEntry(16, 8)));
+  saver.doFileSave();
+  EXPECT_EQ(bytesOf(path)[6], 32);
+}
+
 TEST_F(IconSaverTest, SaveAsOffersANameAndSaves) {
   given(entryOf(anyPicture(32, 4)), "smile.ico");
   record().modified = true;

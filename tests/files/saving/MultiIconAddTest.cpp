@@ -258,6 +258,42 @@ TEST_F(MultiIconAddTest, AFileThatChangesInTheBrowserIsReported) {
   EXPECT_EQ(bytesOf(target), build(two.entries[0]));
 }
 
+TEST_F(MultiIconAddTest, AFileThatAnotherProgramChangesWhileItIsListedKeepsWhatWasAdded) {
+  IcoFile added = two;
+  added.entries.insert(added.entries.begin(), entryOf(anyPicture(24, 8)));
+  Bytes repainted = build(two);
+  repainted.back() ^= 0xFF;
+  for (const Bytes& changed : {build(added), repainted}) {
+    for (const std::string answer : {"1/1", "1/3"}) {
+      folder.write("two.ico", build(two));
+      user.push_back([&] { folder.write("two.ico", changed), answers(answer); });
+      expectRefusal(target + "\n\nThis file has been changed meanwhile.\nNothing has been written to it.");
+      dialogs.paths = {};
+      if (answer[0] == '2') dialogs.paths = {folder.path("other.ico")};
+      addTo(target);
+      EXPECT_EQ(bytesOf(target), changed);
+      EXPECT_FALSE(fs::exists(folder.path("other.ico")));
+      EXPECT_TRUE(record().modified);
+    }
+  }
+}
+
+TEST_F(MultiIconAddTest, AnEntryRemovedInTheBrowserItselfIsNoChangeOfAnotherProgram) {
+  user.push_back([&] {
+    MultiIconBrowser browser(files.context());
+    browser.activate();
+    browser.clickIcon(0);
+    boxes.expectAsked("Permanently remove the selected icon from the multi-icon file.\n" + target +
+                          "\n\nSure to remove this icon permanently?\n\n",
+                      BoxAnswer::Yes);
+    browser.cmdRemove();
+    boxes.expectAsked("Append to position ref 2.   \n\nConfirm?\n", BoxAnswer::Yes);
+    browser.cmdSaveAdd(kSaveButton);
+  });
+  addTo(target);
+  EXPECT_EQ(bytesOf(target), build(fileOf({two.entries[1], icon})));
+}
+
 TEST_F(MultiIconAddTest, SaveAsGoesToACopy) {
   const std::string other = folder.path("other.ico");
   dialogs.paths = {other};
