@@ -4,7 +4,6 @@
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
-#include "document/Hourglass.h"
 #include "document/Messages.h"
 #include "files/FileQuestions.h"
 #include "files/format/IconWriter.h"
@@ -65,7 +64,7 @@ void MultiIconReplace::run() {
   if (!readOriginal()) return fail(kNotReopened);
   if (!isAllowed()) return;
   replaceImage(arrays_, *place_, std::move(*image));
-  if (write(path))
+  if (writeUpdated(context_, arrays_, original_, path))
     describeSaved(path);
   else
     fail(notWrittenText(path, SaveInto::Replace));
@@ -120,13 +119,6 @@ std::optional<NewImage> MultiIconReplace::makeImage() {
   const ScratchDefect defect = makeNewImage(icon, depth, scratchFile_, original_, image);
   if (defect != ScratchDefect::None) fail(defect == ScratchDefect::NotWritten ? kNotMade : kNotLoaded);
   return image;
-}
-
-bool MultiIconReplace::write(const std::string& path) {
-  const Hourglass hourglass(context_);
-  const bool isOriginal = isSameFile(path, original_);
-  const FileBytes other = isOriginal ? FileBytes() : contentToPutBack(path);
-  return writeWholeFile(arrays_, path, isOriginal ? arrays_.file.span() : other.span());
 }
 
 void MultiIconReplace::describeSaved(const std::string& path) {

@@ -26,7 +26,6 @@ class MultiIconReplace {
   // False, after a message, when another container holds an icon of that file and it is not the original file.
   bool isInNoOtherContainer(const std::string& path);
   std::optional<NewImage> makeImage();
-  bool write(const std::string& path);
   void describeSaved(const std::string& path);
   void fail(const std::string& text);
 

@@ -264,7 +264,7 @@ TEST_F(MultiIconAddTest, AFileThatAnotherProgramChangesWhileItIsListedKeepsWhatW
   Bytes repainted = build(two);
   repainted.back() ^= 0xFF;
   for (const Bytes& changed : {build(added), repainted}) {
-    for (const std::string answer : {"1/1", "1/3"}) {
+    for (const std::string answer : {"1/1", "1/3", "2/1"}) {
       folder.write("two.ico", build(two));
       user.push_back([&] { folder.write("two.ico", changed), answers(answer); });
       expectRefusal(target + "\n\nThis file has been changed meanwhile.\nNothing has been written to it.");
@@ -313,17 +313,41 @@ TEST_F(MultiIconAddTest, SaveAsUnderTheSameNameIsASave) {
   EXPECT_EQ(bytesOf(target), twoWith(icon, 2));
 }
 
-TEST_F(MultiIconAddTest, MessagesArePumpedOnceMoreForACopy) {
-  const auto pumpsOf = [this](const std::string& answer, const std::string& chosen) {
-    folder.write("two.ico", build(two));
-    dialogs.paths = {chosen};
-    const int before = pump.pumps;
-    add(answer);
-    return pump.pumps - before;
-  };
-  const int pumpsOfASave = pumpsOf("2/3", target);
-  pump.inside = [&] { EXPECT_EQ(bytesOf(folder.path("other.ico")), build(two)) << "the copy is there by then"; };
-  EXPECT_EQ(pumpsOf("2/3", folder.path("other.ico")), pumpsOfASave + 1);
+TEST_F(MultiIconAddTest, SaveAsThatFailsInThePreparationLeavesNoCopy) {
+  const std::string old = folder.write("old.ico", {'o', 'l', 'd'});
+  MultiIconCommands elsewhere{files.context(), folder.path("no/gptmp.ico")};
+  for (const std::string& other : {folder.path("other.ico"), old}) {
+    userAnswers("2/1");
+    dialogs.paths = {target, other};
+    expectFailure(kNotPrepared);
+    elsewhere.doMnuFileSaveMultiIconAddTo();
+  }
+  EXPECT_FALSE(fs::exists(folder.path("other.ico")));
+  EXPECT_EQ(bytesOf(old), (Bytes{'o', 'l', 'd'}));
+  EXPECT_EQ(bytesOf(target), build(two));
+}
+
+TEST_F(MultiIconAddTest, SaveAsThatFailsInWritingTheNewEntryLeavesNoCopy) {
+  const std::string other = folder.path("other.ico");
+  dialogs.paths = {other};
+  expectFailure(kNotWritten);
+  const FullDisk full(build(two).size() + 100);  // room for a copy without the new entry
+  add("2/1");
+  EXPECT_FALSE(fs::exists(other));
+  EXPECT_TRUE(record().modified);
+}
+
+TEST_F(MultiIconAddTest, SaveAsFromTheScratchFileOrOverItLosesNeither) {
+  folder.write("gptmp.ico", build(two));
+  for (const auto& [from, to] : {std::pair(scratch, folder.path("other.ico")), std::pair(target, scratch)}) {
+    userAnswers("2/1");
+    dialogs.paths = {to};
+    expectFailure(kNotPrepared);
+    addTo(from);
+    EXPECT_EQ(bytesOf(scratch), build(two));
+  }
+  EXPECT_FALSE(fs::exists(folder.path("other.ico")));
+  fs::remove(scratch);
 }
 
 TEST_F(MultiIconAddTest, SaveAsOverAnotherFileLeavesNothingOfIt) {
