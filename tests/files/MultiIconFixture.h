@@ -11,9 +11,9 @@ namespace gp::test {
 
 inline IcoFile fileOf(std::vector<Entry> entries) { return IcoFile{std::move(entries), 0, 1, {}}; }
 
-// The file that the icon in a container came from; its Ref counts from 1.
-inline std::string openedInPanel(int ref) {
-  return "File being added to is currently opened in Icons Panel ref " + std::to_string(ref) +
+// The refusal of a file that a container holds an icon of; its Ref counts from 1.
+inline std::string openedInPanel(const std::string& file, int ref) {
+  return file + " is currently opened in Icons Panel ref " + std::to_string(ref) +
          ".\n\nPlease unload that icon first  (by using \"Clear Container\"\nsubmenu of \"Edit\" main menu).\n";
 }
 

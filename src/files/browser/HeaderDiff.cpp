@@ -6,6 +6,7 @@
 #include "files/FileQuestions.h"
 #include "files/browser/MultiIconExchange.h"
 #include "files/format/IcoLayout.h"
+#include "files/saving/HeldFiles.h"
 #include "platform/ports/MessageBoxes.h"
 #include "platform/text/Numbers.h"
 #include "platform/text/Paths.h"
@@ -179,13 +180,13 @@ void HeaderDiff::cmdSalvage() {
   if (!canBeSalvaged(arrays_)) return context_.boxes.tell(kTooLargeToSalvage, BoxIcon::Exclamation);
   const std::string proposed = ParseFileName(file_, PathPart::BareName) + kNameEnding;
   const std::string target = askToSave(context_, proposed, kIconFilter, kIconExtension, OverwriteQuestion::ByCaller);
-  if (target.empty() || !confirmsSalvage(target)) return;
+  if (target.empty() || !confirmsSalvage(target) || !mayWriteOver(context_, target, Saved::CurrentIcon)) return;
   salvageTo(target);
   changed();
 }
 
 bool HeaderDiff::confirmsSalvage(const std::string& target) const {
-  return context_.boxes.ask(FileExists(target) ? target + " already in existence.\n\nOverwrite?\n"
+  return context_.boxes.ask(FileExists(target) ? target + kOverwriteQuestion
                                                : "Salvage to \n\n" + target + "\nProceed?");
 }
 

@@ -101,7 +101,7 @@ class MultiIconBrowser {
   std::string loadAnswer() const;
   std::string singleFileName(const std::string& stem, int item) const;
   bool saveItem(int item, const std::string& path);
-  void splitInto(const std::string& stem);
+  void splitTo(const std::vector<std::string>& paths);
 
   bool isUnchangeable(const char* onlyIcon, const char* inPanel);
   bool rereadForUpdate();

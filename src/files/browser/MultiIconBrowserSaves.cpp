@@ -6,6 +6,7 @@
 #include "files/format/DepthTexts.h"
 #include "files/format/SingleEntryFile.h"
 #include "files/opening/IconMessages.h"
+#include "files/saving/HeldFiles.h"
 #include "platform/dialogs/clsGPDialog.h"
 #include "platform/files/Files.h"
 #include "platform/ports/MessageBoxes.h"
@@ -38,7 +39,7 @@ void MultiIconBrowser::cmdSaveSingle() {
   if (!isIcon(selected_)) return;
   const std::string proposed = singleFileName(ParseFileName(file(), PathPart::BareName), selected_);
   const std::string path = askToSave(context_, proposed, kIconFilter, kIconExtension);
-  if (path.empty()) return;
+  if (path.empty() || !mayWriteOver(context_, path, Saved::Other)) return;
   const bool isOwnFile = isSameFile(path, file());
   if (!saveItem(selected_, path)) tellIconNotSaved(context_.boxes, path);
   // The list must match the file that a later command rewrites.
@@ -52,17 +53,20 @@ void MultiIconBrowser::cmdSplitSave() {
   const std::string stem = joined(folder, ParseFileName(file(), PathPart::BareName));
   const std::string question = "Single-icon files will be saved as " + stem + "_(Size)_(Color), ...\nTotally " +
                                std::to_string(icons_.size()) + " items on list.\n\nProceed?";
-  if (context_.boxes.ask(question)) splitInto(stem);
+  if (!context_.boxes.ask(question)) return;
+  std::vector<std::string> paths;
+  for (int item = 0; isIcon(item); ++item) paths.push_back(singleFileName(stem, item));
+  if (mayWriteOver(context_, paths, Saved::Other)) splitTo(paths);
 }
 
 // Images that cannot be shown are saved too. Failures are not reported. The views rebuild their lists on each
 // notification, so there is one notification at the end.
-void MultiIconBrowser::splitInto(const std::string& stem) {
+void MultiIconBrowser::splitTo(const std::vector<std::string>& paths) {
   const Hourglass hourglass(context_);
   const int before = selected_;
   for (int item = 0; isIcon(item); ++item) {
     if (preview(iconText(item), preview_)) selected_ = item;
-    static_cast<void>(saveItem(item, singleFileName(stem, item)));
+    static_cast<void>(saveItem(item, paths[static_cast<std::size_t>(item)]));
   }
   if (preview(iconText(before), preview_)) selected_ = before;
   changed();

@@ -14,6 +14,7 @@
 #include "files/opening/IconMessages.h"
 #include "files/saving/BitmapSaving.h"
 #include "files/saving/CurrentIcon.h"
+#include "files/saving/HeldFiles.h"
 #include "files/saving/MultiIconTexts.h"
 #include "platform/files/Files.h"
 #include "platform/text/Paths.h"
@@ -122,6 +123,10 @@ void IconSaver::doFileSave() {
     context_.boxes.tell(fileChangedText(path));
     return doSaveAs(SaveMode::Icon);
   }
+  if (record.neverSaved && !mayWriteOverOriginal(context_, path)) {
+    mSaveFailed_ = true;
+    return;
+  }
   bool ok = false;
   doSaveIconTo(path, ok);
 }
@@ -148,7 +153,7 @@ void IconSaver::doSaveAs(SaveMode mode) {
   context_.drawing.regions.clearRegion();
   if (mode == SaveMode::Icon) remindOfMultiIconFile();
   const std::string path = askForName(kind);
-  if (path.empty()) {
+  if (path.empty() || !mayWriteOver(context_, path, Saved::CurrentIcon)) {
     mSaveFailed_ = true;
     return;
   }

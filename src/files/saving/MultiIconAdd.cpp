@@ -68,7 +68,7 @@ bool MultiIconAdd::fail(const std::string& text) {
 bool MultiIconAdd::isInNoContainer(const std::string& path) {
   const auto container = findContainerOf(state_, path);
   if (!container) return true;
-  return refuse(*container == state_.mCurContainer ? kOwnFile : openedInPanelText(*container));
+  return refuse(*container == state_.mCurContainer ? kOwnFile : openedInPanelText(*container, SaveInto::Add));
 }
 
 bool MultiIconAdd::takesIcon(const std::string& path) {

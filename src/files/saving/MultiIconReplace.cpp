@@ -108,7 +108,7 @@ std::string MultiIconReplace::askForName() {
 bool MultiIconReplace::isInNoOtherContainer(const std::string& path) {
   if (isFileOf(state_.current(), path)) return true;
   const auto container = findContainerOf(state_, path);
-  if (container) context_.boxes.tell(openedInPanelText(*container));
+  if (container) context_.boxes.tell(openedInPanelText(*container, SaveInto::Replace));
   return !container;
 }
 

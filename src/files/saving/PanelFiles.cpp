@@ -3,8 +3,6 @@
 #include "document/EditState.h"
 #include "platform/files/Files.h"
 
-#include <algorithm>
-
 namespace gp {
 
 // A record stores only as much of a path as its field can hold.
@@ -14,11 +12,11 @@ bool isFileOf(const IconContainerRec& record, const std::string& path) {
   return own == decltype(record.path)(path).trimmed() || isSameFile(own, path);
 }
 
-std::optional<int> findContainerOf(const EditState& state, const std::string& path) {
-  const auto found =
-      std::ranges::find_if(state.mIconRecs, [&](const IconContainerRec& record) { return isFileOf(record, path); });
-  if (found == state.mIconRecs.end()) return std::nullopt;
-  return static_cast<int>(found - state.mIconRecs.begin());
+std::optional<int> findContainerOf(const EditState& state, const std::string& path, int except) {
+  for (int container = 0; container < kContainerCount; ++container)
+    if (container != except && isFileOf(state.mIconRecs.at(static_cast<std::size_t>(container)), path))
+      return container;
+  return std::nullopt;
 }
 
 }  // namespace gp

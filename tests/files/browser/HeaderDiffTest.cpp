@@ -358,6 +358,19 @@ TEST_F(HeaderDiffTest, NoLeavesExistingFilesAndMakesNoNewOnes) {
   EXPECT_FALSE(std::filesystem::exists(fresh));
 }
 
+TEST_F(HeaderDiffTest, AFileOfAnotherContainerIsNotWrittenOverWithoutAQuestion) {
+  open({lyingEntry()});
+  const std::string held = folder.write("held.ico", {1, 2, 3});
+  state.mIconRecs[0].path = path;  // the current container, whose file is salvaged
+  state.mIconRecs[1].path = held;
+  dialogs.paths = {held};
+  boxes.expectAsked(held + " already in existence.\n\nOverwrite?\n", BoxAnswer::Yes);
+  boxes.expectAsked("Container 2 holds an icon of this file.\nProceed?", BoxAnswer::No);
+  diff->cmdSalvage();
+  EXPECT_EQ(bytesOf(held), (Bytes{1, 2, 3}));
+  salvageTo(path, true);
+}
+
 TEST_F(HeaderDiffTest, AFileThatCannotBeCreatedEndsSilently) {
   open({lyingEntry()});
   const std::string target = folder.path("no folder/out.ico");

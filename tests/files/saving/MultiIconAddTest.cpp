@@ -191,7 +191,7 @@ TEST_F(MultiIconAddTest, AFileOfAnotherContainerIsRefused) {
   fs::create_symlink(target, folder.path("link.ico"));
   state.mIconRecs[3].path = target;
   for (const std::string& path : {target, folder.path("link.ico")}) {
-    expectRefusal(openedInPanel(4));
+    expectRefusal(openedInPanel("File being added to", 4));
     addTo(path);
   }
 }
@@ -361,7 +361,7 @@ TEST_F(MultiIconAddTest, SaveAsAsksAgainForFilesThatAreInThePanel) {
   const std::string loaded = folder.write("loaded.ico", build(two)), other = folder.path("other.ico");
   state.mIconRecs[2].path = loaded;
   expectRefusal(kOwnFile);
-  expectRefusal(openedInPanel(3));
+  expectRefusal(openedInPanel("File being added to", 3));
   dialogs.paths = {folder.path("own.ico"), loaded, other};
   add("2/1");
   EXPECT_EQ(bytesOf(folder.path("own.ico")), build(icon));

@@ -181,7 +181,7 @@ TEST_F(MultiIconReplaceTest, AnotherFileOfAnotherContainerIsRefusedHoweverItIsRe
   state.mIconRecs[3].path = other;
   for (const std::string& path : {other, folder.path("link.ico")}) {
     boxes.expectAsked(question(2), BoxAnswer::Yes);
-    boxes.expectTold(openedInPanel(4), BoxIcon::None);
+    boxes.expectTold(openedInPanel("File being saved to", 4), BoxIcon::None);
     dialogs.paths = {path};
     replace();
     EXPECT_EQ(bytesOf(other), build(three));
