@@ -2,9 +2,9 @@
 
 #include "cli/EntryRelations.h"
 #include "cli/ImageFile.h"
-#include "cli/ImageHeader.h"
 #include "cli/ImagePixels.h"
 #include "files/format/IcoLayout.h"
+#include "files/format/ImageHeader.h"
 #include "platform/files/ByteReader.h"
 #include "platform/files/WholePicture.h"
 

@@ -1,7 +1,7 @@
 // Measures the pixels of an image, which are read as its bitmap header states. The directory is ignored.
 #pragma once
 
-#include "cli/ImageHeader.h"
+#include "files/format/ImageHeader.h"
 
 #include <cstdint>
 #include <optional>

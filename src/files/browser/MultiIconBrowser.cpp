@@ -5,6 +5,7 @@
 #include "document/IconContainerRec.h"
 #include "document/ProcessValues.h"
 #include "files/browser/MultiIconExchange.h"
+#include "files/format/IconUpdates.h"
 #include "files/format/Rereading.h"
 #include "files/opening/IconMessages.h"
 #include "platform/ports/MessageBoxes.h"
@@ -85,7 +86,8 @@ bool MultiIconBrowser::readMultiIconFile() {
 // Returns the item that is selected first.
 int MultiIconBrowser::fillIconLists() {
   DefaultSelection first;
-  entries_ = listEntries(arrays_);
+  entries_ = listEntries(arrays_);  // of the images as the directory states them
+  takeWholeImages(arrays_);         // which are saved and written whole
   icons_.clear();
   otherIcons_.clear();
   int ref = 0;

@@ -1,6 +1,7 @@
 #include "files/format/Rereading.h"
 
 #include "files/format/IcoLayout.h"
+#include "files/format/ImageSizes.h"
 #include "platform/files/ByteReader.h"
 
 #include <algorithm>
@@ -35,8 +36,8 @@ EntryOrigin originOf(const IconEntry& entry, ImageBytes image) {
 }
 
 EntryOrigin originOf(const IconFile& file, const IconEntry& entry) {
-  const ImageBytes image = ByteReader(file.span()).bytesAt(entry.imageOffset, entry.bytesInRes);
-  return {fieldsOf(entry), entry.bytesInRes, hashOf(image)};
+  const std::uint32_t size = ImageSizes(file).sizeOf(entry);
+  return {fieldsOf(entry), size, hashOf(ByteReader(file.span()).bytesAt(entry.imageOffset, size))};
 }
 
 std::optional<int> findOrigin(const IconArrays& arrays, const EntryOrigin& origin, int index) {

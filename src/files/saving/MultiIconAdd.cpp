@@ -133,6 +133,7 @@ bool MultiIconAdd::insertEntry(const std::string& path, int index, const std::st
   auto image = makeImage(isSameFile(target, scratchFile_) ? target : path);
   IconArrays arrays;
   if (!image || !readAgain(path, index, arrays)) return false;
+  takeWholeImages(arrays);
   insertImage(arrays, index, std::move(*image));
   return writeUpdated(context_, arrays, path, target) || fail(notWrittenText(target, SaveInto::Add));
 }

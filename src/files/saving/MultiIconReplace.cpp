@@ -76,6 +76,7 @@ void MultiIconReplace::fail(const std::string& text) { tellFailure(context_, tex
 bool MultiIconReplace::readOriginal() {
   arrays_ = {};
   const bool isRead = readIconArrays(original_, ReservedField::MustBeZero, arrays_) == ArraysDefect::None;
+  takeWholeImages(arrays_);
   place_ = findOrigin(arrays_, state_.current().origin, formerPlace());
   return isRead;
 }

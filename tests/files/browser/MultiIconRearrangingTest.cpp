@@ -378,6 +378,23 @@ TEST_F(BrowserRearrangingTest, AWriteThatFailsIsError3AndTheFormerFileIsListed) 
   EXPECT_EQ(unloads, 0);
 }
 
+// Entries that state too few bytes.
+
+TEST_F(BrowserRearrangingTest, ImagesThatStateTooFewBytesAreWrittenWhole) {
+  Entry shortA = a, emptyC = c;
+  shortA.bytesInRes = 50;
+  emptyC.bytesInRes = 0;
+  browse({shortA, b, emptyC});
+  remove(1);
+  EXPECT_EQ(bytesOf(path), laidOut({a, c}));
+  browse({shortA, b, emptyC});
+  reverse();
+  expectProceedAsked(BoxAnswer::Yes);
+  boxes.expectTold("Repositioned icons sequence in " + path + "\n", BoxIcon::None);
+  browser->cmdRepositionProceed();
+  EXPECT_EQ(bytesOf(path), laidOut({c, b, a}));
+}
+
 // Files that another program changes.
 
 TEST_F(BrowserRearrangingTest, AFileThatVanishedOnThePaneIsNotWrittenAndItsImagesStayListed) {

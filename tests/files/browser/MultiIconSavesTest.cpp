@@ -102,10 +102,10 @@ TEST_F(BrowserSavesTest, EntryAndImageAreCopiedWithTheirLies) {
   EXPECT_EQ(bytesOf(folder.path("one.ico")), expected);
 }
 
-TEST_F(BrowserSavesTest, AnImageHasTheBytesThatItsEntryTells) {
+TEST_F(BrowserSavesTest, AnImageHasTheBytesThatItsEntryTellsButNoFewerThanItNeeds) {
   Entry longer = anyEntry(32, 4), shorter = anyEntry(16, 4);
   longer.bytesInRes = static_cast<std::uint32_t>(longer.image.size() + 20);  // extends into the next image
-  shorter.bytesInRes = 50;
+  shorter.bytesInRes = 50;                                                   // readers show it all the same
   const Bytes file = build(iconFile({longer, shorter}));
   browse(file);
   save("long.ico");
@@ -114,7 +114,7 @@ TEST_F(BrowserSavesTest, AnImageHasTheBytesThatItsEntryTells) {
   const Bytes saved = bytesOf(folder.path("long.ico"));
   ASSERT_EQ(saved.size(), 22 + longer.image.size() + 20);
   EXPECT_TRUE(std::equal(saved.begin() + 22, saved.end(), file.begin() + 6 + 2 * 16));
-  EXPECT_EQ(fs::file_size(folder.path("short.ico")), 22u + 50u);
+  EXPECT_EQ(bytesOf(folder.path("short.ico")), build(anyEntry(16, 4)));
 }
 
 TEST_F(BrowserSavesTest, AReadOnlyTargetIsReportedAndKept) {

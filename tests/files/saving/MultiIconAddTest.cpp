@@ -294,6 +294,15 @@ TEST_F(MultiIconAddTest, AnEntryRemovedInTheBrowserItselfIsNoChangeOfAnotherProg
   EXPECT_EQ(bytesOf(target), build(fileOf({two.entries[1], icon})));
 }
 
+TEST_F(MultiIconAddTest, ImagesThatStateTooFewBytesAreWrittenWhole) {
+  IcoFile tooShort = two;
+  tooShort.entries[0].bytesInRes = 50;
+  tooShort.entries[1].bytesInRes = 0;
+  folder.write("two.ico", build(tooShort));
+  add("1/2");
+  EXPECT_EQ(bytesOf(target), twoWith(icon, 1));
+}
+
 TEST_F(MultiIconAddTest, SaveAsGoesToACopy) {
   const std::string other = folder.path("other.ico");
   dialogs.paths = {other};

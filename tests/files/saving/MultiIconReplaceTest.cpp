@@ -468,6 +468,26 @@ TEST_F(MultiIconReplaceTest, AnIconThatWasOpenedWithoutTheBrowserIsFoundWhereItM
   EXPECT_EQ(bytesOf(path), build(fileOf({three.entries[1], entryOf(whitePicture(32))})));
 }
 
+TEST_F(MultiIconReplaceTest, ImagesThatStateTooFewBytesAreWrittenWholeAndTheirEntriesAreCorrected) {
+  IcoFile tooShort = three;
+  for (Entry& entry : tooShort.entries) entry.bytesInRes = 50;
+  tooShort.entries[2].bytesInRes = 0;
+  const std::string path = givenEntry(tooShort, 1);
+  mark();
+  replaceOnto(path, 2);
+  EXPECT_EQ(bytesOf(path), threeWith(entryOf(markedPicture(16, 24, kMark))));
+}
+
+TEST_F(MultiIconReplaceTest, AnEntryWhoseByteCountAnotherUpdateCorrectedIsStillFound) {
+  IcoFile tooShort = three;
+  tooShort.entries[1].bytesInRes = 50;
+  const std::string path = givenEntry(tooShort, 1);
+  mark();
+  folder.write("multi.ico", build(fileOf({three.entries[1], three.entries[2]})));
+  replaceOnto(path, 1);
+  EXPECT_EQ(bytesOf(path), build(fileOf({entryOf(markedPicture(16, 24, kMark)), three.entries[2]})));
+}
+
 TEST_F(MultiIconReplaceTest, AClearedContainerForgetsTheOrigin) {
   givenSecond();
   ASSERT_NE(record().origin, EntryOrigin{});
