@@ -19,6 +19,7 @@ namespace {
 
 constexpr const char* kNoIcon = "No icon retrieved.";
 constexpr const char* kNotShown = "\nUnable to get this one";
+constexpr const char* kNotSalvaged = "Failed to salvage to ";
 constexpr const char* kNotWritten = "Error occurred in writing overall header";
 constexpr const char* kSalvaged = "\n\n(per bitmap header entry, irrespective of actual color depth)\n\n";
 constexpr const char* kNameEnding = "_X.ico";
@@ -205,7 +206,7 @@ WriteOutcome HeaderDiff::writeSalvaged(const std::string& target) const {
 
 void HeaderDiff::salvageTo(const std::string& target) {
   const WriteOutcome outcome = writeSalvaged(target);
-  if (!outcome.opened) return;
+  if (!outcome.opened) return context_.boxes.tell(kNotSalvaged + target, BoxIcon::Exclamation);
   if (!outcome.whole) return context_.boxes.tell(kNotWritten);
   context_.boxes.tell("File salvaged to " + target + kSalvaged);
   if (!isSameFile(target, file_)) return;

@@ -26,7 +26,8 @@ constexpr const char* kAddCaption = "Add Icon To Existing Icon File";
 constexpr const char* kNotShown = "\nUnable to get this one";
 constexpr const char* kStrangePaletteBits = "Selected item is below 8 BPP, but not 1, 4 (or 0 if old Win 95 icons)";
 constexpr const char* kStrangeTrueColorBits = "Selected item is of True Color but not 24 BPP or 32 BPP.";
-constexpr const char* kNothingListed = "No icon in file listed";
+constexpr const char* kBitsRemark = "* Remarks: Listed BPP as per original file only";
+constexpr const char* kSelectionRemark = "Select an icon, or append";
 
 int containerIn(const std::string& text) {
   const int item = text.empty() ? -1 : Int(Val(text));
@@ -71,7 +72,12 @@ bool MultiIconBrowser::hasTooManyRefs() const { return arrays_.count() >= kTooMa
 bool MultiIconBrowser::canLoad() const { return isEditFace() && !icons_.empty(); }
 bool MultiIconBrowser::canSaveEntries() const { return icons_.size() >= kFewestToChooseFrom; }
 bool MultiIconBrowser::canRearrange() const { return canSaveEntries() && !hasTooManyRefs(); }
-bool MultiIconBrowser::canAdd() const { return !icons_.empty() || !otherIcons_.empty(); }
+bool MultiIconBrowser::canAdd() const { return isIcon(selected_) || (icons_.empty() && !otherIcons_.empty()); }
+
+const char* MultiIconBrowser::remark() const {
+  if (!isEditFace() && !canAdd()) return kSelectionRemark;
+  return lacksBits_ ? kBitsRemark : "";
+}
 
 const ListedEntry& MultiIconBrowser::listed(const ItemReading& reading) const {
   return entries_.at(static_cast<std::size_t>(reading.index));
@@ -201,7 +207,7 @@ std::string MultiIconBrowser::loadAnswer() const {
 }
 
 void MultiIconBrowser::cmdSaveAdd(int button) {
-  if (!isIcon(selected_) && otherIcons_.empty()) return context_.boxes.tell(kNothingListed);
+  if (!canAdd()) return;
   const std::string position = std::to_string(addPosition_ + 1);
   const bool appends = addPosition_ == addPositionCount() - 1;
   if (!context_.boxes.ask((appends ? "Append" : "Insert") + (" to position ref " + position) + ".   \n\nConfirm?\n"))

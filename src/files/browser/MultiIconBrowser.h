@@ -42,7 +42,8 @@ class MultiIconBrowser {
   const std::vector<std::string>& lisIcons() const { return icons_; }
   const std::vector<std::string>& lisOtherIcons() const { return otherIcons_; }
   int selectedIcon() const { return selected_; }  // item of lisIcons, -1 for none
-  bool showsBitsFootnote() const { return lacksBits_; }
+  // The line below the list, empty for none: why nothing can be added yet, or what the asterisk in the list means.
+  const char* remark() const;
   bool otherSizesShown() const { return otherSizesShown_; }
   const Surface& picIconInFile() const { return preview_.picIconInFile(); }
   const RepositionPane& reposition() const { return reposition_; }
