@@ -15,4 +15,8 @@ std::optional<ColorDepth> measureDepth(const IconFile& file, const IconEntry& en
 // The highest palette index in the picture. Empty for images without a palette or with a full one, and as above.
 std::optional<unsigned> highestIndex(const IconFile& file, const IconEntry& entry, const ImageHeader& header);
 
+// The number of pixels that the alpha values make transparent and the mask opaque. 0 for images without alpha values,
+// which are those of other bit counts, and those whose alpha bytes are all 0.
+int countOpenedOpaque(const IconFile& file, const IconEntry& entry, const ImageHeader& header);
+
 }  // namespace gp::cli
