@@ -46,10 +46,10 @@ struct AlphaCount {
 void countRow(std::span<const std::uint8_t> row, ByteReader mask, AlphaCount& count) {
   const std::size_t width = row.size() / kTrueColorBytes;
   for (std::size_t x = 0; x < width; ++x) {
-    const bool hasAlpha = row[x * kTrueColorBytes + kAlphaByte] != 0;
+    const bool isVisible = row[x * kTrueColorBytes + kAlphaByte] != 0;
     const bool isMasked = mask.u8At(mask.position() + x / kBitsPerByte) >> (kBitsPerByte - 1 - x % kBitsPerByte) & 1;
-    count.isUsed |= hasAlpha;
-    count.opaqueInMask += !hasAlpha && !isMasked;
+    count.isUsed |= isVisible;
+    count.opaqueInMask += !isVisible && !isMasked;
   }
 }
 
