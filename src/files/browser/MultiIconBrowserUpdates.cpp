@@ -20,7 +20,6 @@ constexpr const char* kRemoveAssurance = "\n\nSure to remove this icon permanent
 constexpr const char* kNoReposition =
     "As currently there is at least an icon from this file loaded in Icons Panel, \nhence no reposition is allowed.";
 constexpr const char* kNothingSelected = "No title selected yet";
-constexpr const char* kSingleIconListed = "There is only a single icon in file.";
 constexpr const char* kRepositionQuestion = "\nProceed to save re-positioned sequence of icons in file?\n";
 constexpr const char* kFileNotOpened = "Error-1 encountered in writing file.";
 constexpr const char* kFileNotWritten = "Error-3 encountered in writing file.";
@@ -113,7 +112,6 @@ void MultiIconBrowser::cmdRepositionAbort() {
 void MultiIconBrowser::cmdRepositionProceed() {
   const auto& items = reposition_.lisReposition();
   if (!repositioning_ || items.empty()) return;
-  if (items.size() == 1) return context_.boxes.tell(kSingleIconListed);
   if (reposition_.isUnchanged()) return context_.boxes.tell(kRepositionNoChange);
   if (!context_.boxes.ask(file() + kRepositionQuestion) || !rereadForUpdate()) return;
   writeRepositioned();
