@@ -1,5 +1,4 @@
-#include "files/MultiIconFixture.h"
-#include "files/browser/MultiIconBrowser.h"
+#include "files/MultiIconReplaceFixture.h"
 #include "support/FullDisk.h"
 
 namespace gp::test {
@@ -7,59 +6,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr Rgb kMark{9, 8, 7, 2};
-
-std::string question(int ref) {
-  const std::string number = std::to_string(ref);
-  return "The current icon is originated from Index Ref. " + number +
-         " in the multi-icon file.\nThe file saved will have the current icon replacing its original one in\n"
-         "the file, i.e. Ref " +
-         number +
-         ", while others remain unchanged.   (You can run\n\"Enquiry - Show Icons In Multi-Icon File\" to inspect the "
-         "original icon)\n\nProceed?\n";
-}
-
-std::string sameIcon(const std::string& what) {
-  return what +
-         "\n\nIcon of same size and color palette already in original multi-file.\n"
-         "Multi-icon file cannot have two icons of identical size and color depth.\n\n"
-         "You may save to a single-icon file or change color-depth first (to see\n"
-         "original color-depth, click Enquiry menu).\n";
-}
-
-constexpr const char* kChanged =
-    "The original multi-icon file has been changed meanwhile.\nCannot proceed to save current icon back.";
 constexpr const char* kReadOnly = "File is read-only.";
 constexpr const char* kNotWritten = "Failed to save current icon - at writing stage";
 constexpr const char* kNotPrepared = "Failed to save current icon - preparation";
 constexpr const char* kNotReopened = "Failed to save current icon - at re-opening original file stage";
-
-class MultiIconReplaceTest : public MultiIconTest {
- protected:
-  // 16 colours of 32x32, true colour of 16x16, 256 colours of 48x48.
-  const IcoFile three = fileOf({entryOf(anyPicture(32, 4)), entryOf(anyPicture(16, 24)), entryOf(anyPicture(48, 8))});
-
-  ~MultiIconReplaceTest() override { EXPECT_TRUE(scratchIsGone()); }
-  // The file of `three` with another second entry.
-  Bytes threeWith(const Entry& second) const {
-    IcoFile file = three;
-    file.entries[1] = second;
-    return build(file);
-  }
-  std::string givenSecond() {
-    const std::string path = givenEntry(three, 1);
-    state.picImage.SetPixelV(1, 0, rgb(kMark.r, kMark.g, kMark.b));
-    return path;
-  }
-  void mark() { state.picImage.SetPixelV(1, 0, rgb(kMark.r, kMark.g, kMark.b)); }
-  void replace() { files.multiIcon.doMnuFileSaveMultiIconReplace(); }
-  void replaceOnto(const std::string& path, int ref) {
-    boxes.expectAsked(question(ref), BoxAnswer::Yes);
-    dialogs.paths = {path};
-    replace();
-  }
-  void expectFailure(const std::string& text) { boxes.expectTold(text, BoxIcon::Exclamation); }
-};
 
 TEST_F(MultiIconReplaceTest, AnImageOfTheSameSizeLeavesAllOffsetsAndOtherImages) {
   const std::string path = givenSecond();
@@ -339,160 +289,6 @@ TEST_F(MultiIconReplaceTest, AFileThatLostTheEntryIsReportedAsChangedUnlessAnoth
   boxes.expectAsked(question(3), BoxAnswer::Yes);
   boxes.expectTold(sameIcon("True Color 24 BPP 48 x 48"), BoxIcon::None);
   replace();
-}
-
-// The same file with another picture of the same size and depth in its second entry.
-Bytes threeWithOtherSecond(const IcoFile& three) {
-  IcoFile changed = three;
-  changed.entries[1] = entryOf(markedPicture(16, 24, Rgb{1, 2, 3}));
-  return build(changed);
-}
-
-TEST_F(MultiIconReplaceTest, AnEntryThatChangesWhileTheNameIsAskedForIsNotReplaced) {
-  const std::string path = givenSecond();
-  const Bytes changed = threeWithOtherSecond(three);
-  dialogs.inside = [&] { folder.write("multi.ico", changed); };
-  boxes.expectAsked(question(2), BoxAnswer::Yes);
-  boxes.expectTold(kChanged, BoxIcon::None);
-  dialogs.paths = {path};
-  replace();
-  EXPECT_EQ(bytesOf(path), changed);
-  EXPECT_TRUE(record().modified);
-}
-
-TEST_F(MultiIconReplaceTest, AnEntryThatChangedSinceItWasLoadedIsNotReplaced) {
-  const std::string path = givenSecond();
-  const Bytes changed = threeWithOtherSecond(three);
-  folder.write("multi.ico", changed);
-  boxes.expectAsked(question(2), BoxAnswer::Yes);
-  boxes.expectTold(kChanged, BoxIcon::None);
-  replace();
-  EXPECT_EQ(bytesOf(path), changed);
-  EXPECT_TRUE(dialogs.requests.empty());
-}
-
-TEST_F(MultiIconReplaceTest, AnEntryWhoseFieldsChangedSinceItWasLoadedIsNotReplaced) {
-  const std::string path = givenSecond();
-  Bytes changed = build(three);
-  changed[6 + 16 + 3] = 1;  // bReserved
-  folder.write("multi.ico", changed);
-  boxes.expectAsked(question(2), BoxAnswer::Yes);
-  boxes.expectTold(kChanged, BoxIcon::None);
-  replace();
-  EXPECT_EQ(bytesOf(path), changed);
-}
-
-TEST_F(MultiIconReplaceTest, AnEntryThatMovedIsReplacedWhereItIsNowAndAddedOnesStay) {
-  const std::string path = givenSecond();
-  IcoFile moved = three;
-  moved.entries.insert(moved.entries.begin(), entryOf(anyPicture(24, 8)));
-  folder.write("multi.ico", build(moved));
-  replaceOnto(path, 3);
-  moved.entries[2] = entryOf(markedPicture(16, 24, kMark));
-  EXPECT_EQ(bytesOf(path), build(moved));
-  EXPECT_EQ(record().multiIconIndex, 2);
-}
-
-TEST_F(MultiIconReplaceTest, AnEntryThatMovesWhileTheNameIsAskedForIsReplacedWhereItIsThen) {
-  const std::string path = givenSecond();
-  dialogs.inside = [&] { folder.write("multi.ico", build(fileOf({three.entries[1], three.entries[2]}))); };
-  replaceOnto(path, 2);
-  EXPECT_EQ(bytesOf(path), build(fileOf({entryOf(markedPicture(16, 24, kMark)), three.entries[2]})));
-  EXPECT_EQ(record().multiIconIndex, 0);
-}
-
-TEST_F(MultiIconReplaceTest, AnIconOfTheSameKindThatIsAddedWhileTheNameIsAskedForIsRefused) {
-  const std::string path = givenEntry(three, 1);
-  state.picImage.fill(kWhite);
-  record().dirColors = 2;
-  IcoFile added = three;
-  added.entries.push_back(entryOf(blackAndWhitePicture(16)));
-  dialogs.inside = [&] { folder.write("multi.ico", build(added)); };
-  boxes.expectAsked(question(2), BoxAnswer::Yes);
-  boxes.expectTold(sameIcon("2-color 16 x 16"), BoxIcon::None);
-  dialogs.paths = {path};
-  replace();
-  EXPECT_EQ(bytesOf(path), build(added));
-}
-
-TEST_F(MultiIconReplaceTest, OfTwoEqualEntriesNeitherIsTakenUnlessOneIsWhereItWas) {
-  Entry unnamed = entryOf(anyPicture(16, 24), 0, 0);  // may occur twice: it states no bits
-  const IcoFile twice = fileOf({three.entries[0], unnamed, unnamed});
-  const std::string path = folder.write("multi.ico", build(twice));
-  holdEntry(path, twice, 1);
-  state.picImage.fill(kWhite);
-  record().dirColors = 2;
-  const Bytes shifted = build(fileOf({unnamed, three.entries[0], unnamed}));
-  folder.write("multi.ico", shifted);
-  boxes.expectAsked(question(2), BoxAnswer::Yes);
-  boxes.expectTold(kChanged, BoxIcon::None);
-  replace();
-  EXPECT_EQ(bytesOf(path), shifted);
-  folder.write("multi.ico", build(twice));
-  replaceOnto(path, 2);
-  const IconDirectory written = parseIconDirectory(bytesOf(path));
-  EXPECT_EQ(written.entry(1).bitCount, 1);
-  EXPECT_EQ(written.entry(2).bitCount, 0);
-}
-
-TEST_F(MultiIconReplaceTest, AReplacedEntryCanBeReplacedAgain) {
-  const std::string path = givenSecond();
-  replaceOnto(path, 2);
-  state.picImage.SetPixelV(1, 0, rgb(1, 2, 3));
-  replaceOnto(path, 2);
-  EXPECT_EQ(bytesOf(path), threeWithOtherSecond(three));
-}
-
-TEST_F(MultiIconReplaceTest, AnIconThatWasLoadedIsFoundWhereItMoved) {
-  const Bytes before = build(three);
-  const std::string path = folder.write("multi.ico", before);
-  user.push_back([&] {
-    MultiIconBrowser browser(files.context());
-    browser.activate();
-    browser.clickIcon(1);
-    browser.cmdEdit();
-  });
-  ASSERT_TRUE(open(path));
-  mark();
-  folder.write("multi.ico", build(fileOf({three.entries[1], three.entries[0], three.entries[2]})));
-  replaceOnto(path, 1);
-  EXPECT_EQ(bytesOf(path), build(fileOf({entryOf(markedPicture(16, 24, kMark)), three.entries[0], three.entries[2]})));
-}
-
-TEST_F(MultiIconReplaceTest, AnIconThatWasOpenedWithoutTheBrowserIsFoundWhereItMoved) {
-  const std::string path = folder.write("multi.ico", build(three));
-  ASSERT_TRUE(openQuietly(path));
-  state.picImage.fill(kWhite);
-  folder.write("multi.ico", build(fileOf({three.entries[1], three.entries[0]})));
-  replaceOnto(path, 2);
-  EXPECT_EQ(bytesOf(path), build(fileOf({three.entries[1], entryOf(whitePicture(32))})));
-}
-
-TEST_F(MultiIconReplaceTest, ImagesThatStateTooFewBytesAreWrittenWholeAndTheirEntriesAreCorrected) {
-  IcoFile tooShort = three;
-  for (Entry& entry : tooShort.entries) entry.bytesInRes = 50;
-  tooShort.entries[2].bytesInRes = 0;
-  const std::string path = givenEntry(tooShort, 1);
-  mark();
-  replaceOnto(path, 2);
-  EXPECT_EQ(bytesOf(path), threeWith(entryOf(markedPicture(16, 24, kMark))));
-}
-
-TEST_F(MultiIconReplaceTest, AnEntryWhoseByteCountAnotherUpdateCorrectedIsStillFound) {
-  IcoFile tooShort = three;
-  tooShort.entries[1].bytesInRes = 50;
-  const std::string path = givenEntry(tooShort, 1);
-  mark();
-  folder.write("multi.ico", build(fileOf({three.entries[1], three.entries[2]})));
-  replaceOnto(path, 1);
-  EXPECT_EQ(bytesOf(path), build(fileOf({entryOf(markedPicture(16, 24, kMark)), three.entries[2]})));
-}
-
-TEST_F(MultiIconReplaceTest, AClearedContainerForgetsTheOrigin) {
-  givenSecond();
-  ASSERT_NE(record().origin, EntryOrigin{});
-  ClearContainer(state);
-  EXPECT_EQ(record().origin, EntryOrigin{});
 }
 
 TEST_F(MultiIconReplaceTest, AFileThatGoesWhileTheNameIsAskedForIsReported) {
