@@ -2,7 +2,7 @@
 #pragma once
 
 #include "files/FilesContext.h"
-#include "platform/files/Files.h"
+#include "files/format/IconArrays.h"
 
 #include <string>
 
@@ -10,9 +10,10 @@ namespace gp {
 
 // Ends all unfinished input on the Current Icon, and updates its container.
 void finishCurrentIcon(FilesContext& context);
-// The content of a file that is about to be overwritten, if it fits into memory beside the new content; otherwise
-// empty.
-FileBytes contentToPutBack(const std::string& path);
+// Writes arrays that were read from `source` and then changed over `target`, which may be the same file. False on
+// failure; what `target` contained is then put back, if it fits into memory beside the new content.
+[[nodiscard]] bool writeUpdated(FilesContext& context, IconArrays& arrays, const std::string& source,
+                                const std::string& target);
 // Reports a failure with an exclamation mark; refusals have none.
 void tellFailure(FilesContext& context, const std::string& text);
 

@@ -17,7 +17,10 @@ std::string sameIconText(const IconTraits& same, SaveInto save);
 // States that the file to write is read-only, or that writing failed.
 const char* notWrittenText(const std::string& path, SaveInto save);
 // Both refuse a file if another container holds an icon of it. Containers count from 0.
-std::string openedInPanelText(int container);
+std::string openedInPanelText(int container, SaveInto save);
+
+// States that a command does nothing because another program has changed the file since it was read.
+std::string fileChangedText(const std::string& path);
 
 // Replace.
 inline constexpr const char* kReplaceNotRead = "Failed to save current icon - at reading preparation stage";
