@@ -2,9 +2,9 @@
 
 #include "cli/EntryRelations.h"
 #include "cli/ImageFile.h"
-#include "cli/ImageHeader.h"
 #include "cli/ImagePixels.h"
 #include "files/format/IcoLayout.h"
+#include "files/format/ImageHeader.h"
 #include "platform/files/ByteReader.h"
 #include "platform/files/WholePicture.h"
 
@@ -107,6 +107,13 @@ void findStrayIndex(const Inspection& image, const DiscrepancySink& tell) {
     tell({image.index, "pixels", kNothingTold, text(image.header->colorsUsed), text(*highest)});
 }
 
+// The editor opens such pixels opaque.
+void findMaskBesideAlpha(const Inspection& image, const DiscrepancySink& tell) {
+  if (!image.isBitmap() || image.sharesBytes) return;
+  if (const int count = countOpenedOpaque(image.file, image.entry, *image.header); count > 0)
+    tell({image.index, "alpha", kNothingTold, kNothingTold, text(count)});
+}
+
 void findStrayHotspot(const Inspection& image, const DiscrepancySink& tell) {
   if (!image.file.isCursor()) return;
   const int width = sideOf(image.entry.width), height = sideOf(image.entry.height);
@@ -116,8 +123,8 @@ void findStrayHotspot(const Inspection& image, const DiscrepancySink& tell) {
     tell({image.index, "hotspotY", text(image.entry.hotspotY()), kNothingTold, text(height)});
 }
 
-constexpr std::array kRules{findOtherSize,  findOtherDepth, findMissingBytes,
-                            findWrongPlace, findStrayIndex, findStrayHotspot};
+constexpr std::array kRules{findOtherSize,  findOtherDepth,      findMissingBytes, findWrongPlace,
+                            findStrayIndex, findMaskBesideAlpha, findStrayHotspot};
 
 void tellRelation(int index, const char* what, int other, const DiscrepancySink& tell) {
   if (other >= 0) tell({index, what, "image " + text(other)});

@@ -34,6 +34,25 @@ bool hasAlpha(const AlphaMatrix& alpha) {
   return false;
 }
 
+constexpr std::size_t kTrueColorBytes = 4;
+constexpr std::size_t kAlphaByte = 3;
+
+struct AlphaCount {
+  int opaqueInMask = 0;  // of the pixels with an alpha of 0
+  bool isUsed = false;   // an alpha is not 0
+};
+
+// `row` contains as much of the row as the file has.
+void countRow(std::span<const std::uint8_t> row, ByteReader mask, AlphaCount& count) {
+  const std::size_t width = row.size() / kTrueColorBytes;
+  for (std::size_t x = 0; x < width; ++x) {
+    const bool isVisible = row[x * kTrueColorBytes + kAlphaByte] != 0;
+    const bool isMasked = mask.u8At(mask.position() + x / kBitsPerByte) >> (kBitsPerByte - 1 - x % kBitsPerByte) & 1;
+    count.isUsed |= isVisible;
+    count.opaqueInMask += !isVisible && !isMasked;
+  }
+}
+
 unsigned highestIndexInRow(std::span<const std::uint8_t> row, int width, int bits) {
   const unsigned ones = (1U << bits) - 1;
   unsigned highest = 0;
@@ -73,6 +92,19 @@ std::optional<unsigned> highestIndex(const IconFile& file, const IconEntry& entr
   for (std::int64_t y = 0; y < header.rows / 2; ++y, reader.skip(stride))
     highest = std::max(highest, highestIndexInRow(reader.bytesAt(reader.position(), stride), width, header.bits));
   return highest;
+}
+
+int countOpenedOpaque(const IconFile& file, const IconEntry& entry, const ImageHeader& header) {
+  if (!isReadable(header) || header.bits != kBitsWithAlpha) return 0;
+  const int width = static_cast<int>(header.width);
+  const auto height = static_cast<std::uint64_t>(header.rows / 2);
+  const std::size_t stride = dib::rowStride(width, header.bits), maskStride = dib::rowStride(width, 1);
+  const std::uint64_t start = std::uint64_t{entry.imageOffset} + ico::kBitmapHeaderSize;
+  AlphaCount count;
+  for (std::uint64_t y = 0; y < height; ++y)
+    countRow(ByteReader(file.span()).bytesAt(start + y * stride, stride),
+             ByteReader(file.span(), start + height * stride + y * maskStride), count);
+  return count.isUsed ? count.opaqueInMask : 0;
 }
 
 }  // namespace gp::cli

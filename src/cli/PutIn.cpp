@@ -32,6 +32,7 @@ bool replaceIn(const std::string& path, int index, NewIcon icon, const std::stri
     return refuse(path, kReplaceNotRead);
   if (index >= arrays.count()) return refuse(path, describe(IconDefect::NoSuchEntry));
   if (!isNew(arrays, icon, index, path, SaveInto::Replace)) return false;
+  takeWholeImages(arrays);
   replaceImage(arrays, index, std::move(icon.image));
   return writeUpdate(arrays, path, output, notWrittenText(targetOf(path, output), SaveInto::Replace));
 }
@@ -56,6 +57,7 @@ bool addTo(const std::string& path, const NewIcon& icon, const Place& place, con
   if (!lock || !readForAdding(path, arrays) || !isNew(arrays, icon, -1, path, SaveInto::Add)) return false;
   const int index = place.isGiven ? place.ref - 1 : arrays.count();
   if (index < 0 || index > arrays.count()) return refuse(path, addNoPositionText(path));
+  takeWholeImages(arrays);
   insertImage(arrays, index, icon.image);
   return writeUpdate(arrays, path, output, notWrittenText(targetOf(path, output), SaveInto::Add));
 }

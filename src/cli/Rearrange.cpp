@@ -33,6 +33,7 @@ int removeFrom(const std::string& path, int index, const std::string& output) {
   if (!lock || !readForUpdate(path, arrays)) return kRefused;
   if (arrays.count() == 1) return refuse(path, kRemoveLastIcon);
   if (index >= arrays.count()) return refuse(path, describe(IconDefect::NoSuchEntry));
+  takeWholeImages(arrays);
   removeImage(arrays, index);
   return writeOrRefuse(arrays, path, output, kRemoveNotWritten);
 }
@@ -64,6 +65,7 @@ int reorderIn(const std::string& path, const std::vector<int>& order, const std:
   if (arrays.count() == 1) return refuse(path, kRepositionSingleIcon);
   if (!holdsEachOnce(order, arrays.count())) return refuse(path, kNotEachOnce);
   if (std::ranges::is_sorted(order)) return refuse(path, kRepositionNoChange);
+  takeWholeImages(arrays);
   reorderImages(arrays, order);
   return writeOrRefuse(arrays, path, output, kRepositionNotWritten + targetOf(path, output));
 }

@@ -3,6 +3,7 @@
 #include "cli/Subcommands.h"
 #include "files/format/DepthTexts.h"
 #include "files/format/IcoLayout.h"
+#include "files/format/IconUpdates.h"
 #include "files/format/SingleEntryFile.h"
 #include "platform/files/ByteReader.h"
 
@@ -31,8 +32,8 @@ bool isAllThere(const IconFile& file, int index, const IconEntry& entry) {
   return reader.contains(at, ico::kEntrySize) && reader.contains(entry.imageOffset, entry.bytesInRes);
 }
 
-// Keeps the images that the file contains completely; updates refuse a file that lacks any.
-IconArrays takeWholeImages(IconFile file) {
+// Keeps the images of which the file contains what it states; updates refuse a file that lacks any.
+IconArrays takePresentImages(IconFile file) {
   IconArrays arrays;
   arrays.file = std::move(file);
   for (int i = 0; i < arrays.file.directory.presentCount(); ++i) {
@@ -41,6 +42,7 @@ IconArrays takeWholeImages(IconFile file) {
     arrays.entries.push_back(entry);
     arrays.images.push_back(ByteReader(arrays.file.span()).bytesAt(entry.imageOffset, entry.bytesInRes));
   }
+  takeWholeImages(arrays);
   return arrays;
 }
 
@@ -72,7 +74,7 @@ bool splitFile(const std::string& path, Output& output) {
   auto file = readWholeIconFile(path);
   if (!file) return refuse(path, describe(IconDefect::NotReadable));
   if (!file->isIcon() || file->directory.presentCount() == 0) return refuse(path, describe(IconDefect::NotAnIcon));
-  const IconArrays arrays = takeWholeImages(std::move(*file));
+  const IconArrays arrays = takePresentImages(std::move(*file));
   if (!output.folder.hasRoomFor(arrays.images.size(), totalSize(arrays.images))) return refuse(path, kTooMuch);
   if (!saveEntries(arrays, path, output)) return false;
   const int count = arrays.file.directory.count;

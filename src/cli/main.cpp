@@ -55,6 +55,8 @@ constexpr std::array<Subcommand, 14> kSubcommands{{
      "  offset         inside the directory; last, where that ends\n"
      "  end            behind the file's end; last, the file's size\n"
      "  pixels         palette index beyond the colors that the header tells\n"
+     "  alpha          pixels that the alpha calls transparent (0) and the mask painted,\n"
+     "                 which open opaque; last, their number\n"
      "  shared         the same bytes as another image\n"
      "  same           size and colors of an image before it\n"
      "  hotspotX, hotspotY  outside the picture; last, its width or height\n"

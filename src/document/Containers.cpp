@@ -30,6 +30,7 @@ void ClearContainer(EditState& state) {
   record.present = false;
   record.size = kDefaultIconSize;
   record.path = "";
+  record.origin = {};
   PrepareAlphaRec(state);
 }
 

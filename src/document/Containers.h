@@ -9,8 +9,8 @@ namespace gp {
 struct EditState;
 struct IconImage;
 
-// Empties the current container: its Surfaces, and the record's fields from `used` to `path`; the size becomes 32. The
-// fields from fromMultiIconFile on do not change: callers that reuse the record set them.
+// Empties the current container: its Surfaces, and the record's fields from `used` to `path`, and its origin; the size
+// becomes 32. The fields from fromMultiIconFile to modified do not change: callers that reuse the record set them.
 void ClearContainer(EditState& state);
 // Returns the record of a new, unsaved icon. SetRecord sets its size.
 IconContainerRec NewRecord();

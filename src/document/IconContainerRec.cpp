@@ -20,6 +20,7 @@ void IconContainerRec::clearOrigin() {
   hotspotY = 0;
   neverSaved = false;
   modified = false;
+  origin = {};
 }
 
 }  // namespace gp

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "document/ColorDepth.h"
+#include "document/EntryOrigin.h"
 #include "document/IconSizes.h"
 #include "platform/text/FixedText.h"
 #include "platform/text/TrimmedText.h"
@@ -32,6 +33,7 @@ struct IconContainerRec {
   std::int16_t hotspotY = 0;
   bool neverSaved = false;
   bool modified = false;
+  EntryOrigin origin;  // of an icon from a file with several; zeros for others
 
   // By the directory of the original file, and by its bitmap header.
   ColorDepth depth() const { return {dirColors, bitCount}; }
@@ -42,7 +44,7 @@ struct IconContainerRec {
   bool isTrueColor() const { return depth().isTrueColor(); }
   // True for an icon with an alpha channel.
   bool isAlphaIcon() const { return used && hasAlpha && depth().hasAlpha(); }
-  // Sets the fields from fromMultiIconFile to modified to zero.
+  // Sets the fields from fromMultiIconFile on to zero.
   void clearOrigin();
 };
 

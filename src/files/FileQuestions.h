@@ -22,6 +22,9 @@ std::string askToSave(FilesContext& context, const std::string& proposedName, co
 using OpenFile = std::function<void(const std::string& path, bool& ok)>;
 void openChosenFile(FilesContext& context, const char* filter, const OpenFile& open);
 
+// Follows the path of an existing file.
+inline constexpr const char* kOverwriteQuestion = " already in existence.\n\nOverwrite?\n";
+
 inline constexpr const char* kIconFilter = "Icon files (*.ico)|*.ico|";
 inline constexpr const char* kIconExtension = "ico";
 

@@ -179,6 +179,42 @@ TEST_F(GpiconCheck, AFullPaletteThatIsDeclaredShorterIsReadUnchanged) {
   EXPECT_EQ(linesOf(p), "0\tpixels\t-\t3\t3\n");
 }
 
+// Transparent by the alpha values in the left half, and by the mask where `isMasked` says so.
+Picture halfTransparent(int size, std::function<bool(int, int)> isMasked) {
+  Picture p = anyPicture(size, 32);
+  p.color = [size](int x, int y) { return Rgb{x, y, 9, x < size / 2 ? 0 : 200}; };
+  p.transparent = std::move(isMasked);
+  return p;
+}
+
+TEST_F(GpiconCheck, PixelsThatTheAlphaCallsTransparentAndTheMaskPaintedAreCounted) {
+  for (const int size : {16, 24, 32, 48}) {
+    const std::string half = std::to_string(size * size / 2);
+    EXPECT_EQ(linesOf(halfTransparent(size, [](int, int) { return false; })), "0\talpha\t-\t-\t" + half + "\n");
+    EXPECT_EQ(linesOf(halfTransparent(size, [=](int x, int) { return x < size / 2; })), "");
+    EXPECT_EQ(linesOf(halfTransparent(size, [=](int x, int y) { return x < size / 2 && x + y != 5; })),
+              "0\talpha\t-\t-\t6\n");
+  }
+}
+
+TEST_F(GpiconCheck, AMaskThatHidesMoreThanTheAlphaIsHealthy) {
+  EXPECT_EQ(linesOf(halfTransparent(32, [](int, int) { return true; })), "");
+}
+
+TEST_F(GpiconCheck, AnImageOf32BitsWhoseAlphaIsNotUsedIsHealthy) {
+  Picture p = anyPicture(32, 32);
+  p.color = [](int x, int y) { return Rgb{x, y, 9, 0}; };
+  p.transparent = [](int, int) { return false; };
+  EXPECT_EQ(linesOf(p), "");
+}
+
+TEST_F(GpiconCheck, PixelsThatTheFileDoesNotHaveAreNotCounted) {
+  Bytes file = build(entryOf(halfTransparent(16, [](int, int) { return false; })));
+  file.resize(6 + 16 + 40 + 5 * 16 * 4 + 8);  // five rows and two pixels, all transparent
+  EXPECT_EQ(linesOf(file), "0\tend\t" + std::to_string(22 + 40 + 16 * 16 * 4 + 16 * 4) + "\t-\t" +
+                               std::to_string(file.size()) + "\n0\talpha\t-\t-\t42\n");
+}
+
 TEST_F(GpiconCheck, ImagesInTheWrongPlaceAreReported) {
   Entry e = anyEntry(32, 4);
   e.bytesInRes = 745;

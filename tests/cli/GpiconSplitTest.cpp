@@ -57,6 +57,15 @@ TEST_F(GpiconSplit, TheEntryIsCopiedUnchangedExceptForTheOffset) {
   EXPECT_EQ(output("odd_16_16.ico"), file);
 }
 
+TEST_F(GpiconSplit, ImagesThatStateTooFewBytesAreWrittenWhole) {
+  Entry tooShort = anyEntry(16, 4), empty = anyEntry(32, 8);
+  tooShort.bytesInRes = 50;
+  empty.bytesInRes = 0;
+  EXPECT_EQ(split({folder.write("short.ico", fileOf({tooShort, empty}))}).status, 0);
+  EXPECT_EQ(output("short_16_16.ico"), build(anyEntry(16, 4)));
+  EXPECT_EQ(output("short_32_256.ico"), build(anyEntry(32, 8)));
+}
+
 TEST_F(GpiconSplit, TheReservedFieldOfTheFileIsNotCopied) {
   IcoFile file{{anyEntry(16, 4)}, 0xFFFF, 1, {}};
   EXPECT_EQ(split({folder.write("r.ico", build(file))}).status, 0);

@@ -39,6 +39,23 @@ class GpiconUpdate : public Gpicon {
   }
 };
 
+TEST_F(GpiconUpdate, ImagesThatStateTooFewBytesAreWrittenWholeByEveryUpdate) {
+  std::vector<Entry> tooShort = three;
+  tooShort[0].bytesInRes = 50;
+  tooShort[2].bytesInRes = 0;
+  const Entry added = anyEntry(24, 24);
+  const std::string icon = trueColorIcon(24);
+  const auto updated = [&](std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin() + 1, folder.write("short.ico", fileOf(tooShort)));
+    return run(arguments);
+  };
+  const std::string path = folder.path("short.ico");
+  expectFile(updated({"replace", "1", icon}), {three[0], added, three[2]}, path);
+  expectFile(updated({"add", icon}), {three[0], three[1], three[2], added}, path);
+  expectFile(updated({"remove", "1"}), {three[0], three[2]}, path);
+  expectFile(updated({"reorder", "3,1,2"}), {three[2], three[0], three[1]}, path);
+}
+
 // Replace.
 
 TEST_F(GpiconUpdate, ReplaceGivesTheEntryTheNewImageAndMovesTheOthers) {

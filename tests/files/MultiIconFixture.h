@@ -2,6 +2,7 @@
 #pragma once
 
 #include "files/FilesFixture.h"
+#include "files/format/Rereading.h"
 
 #include <deque>
 #include <filesystem>
@@ -10,9 +11,9 @@ namespace gp::test {
 
 inline IcoFile fileOf(std::vector<Entry> entries) { return IcoFile{std::move(entries), 0, 1, {}}; }
 
-// The file that the icon in a container came from; its Ref counts from 1.
-inline std::string openedInPanel(int ref) {
-  return "File being added to is currently opened in Icons Panel ref " + std::to_string(ref) +
+// The refusal of a file that a container holds an icon of; its Ref counts from 1.
+inline std::string openedInPanel(const std::string& file, int ref) {
+  return file + " is currently opened in Icons Panel ref " + std::to_string(ref) +
          ".\n\nPlease unload that icon first  (by using \"Clear Container\"\nsubmenu of \"Edit\" main menu).\n";
 }
 
@@ -27,6 +28,7 @@ class MultiIconTest : public FilesTest {
       if (user.empty()) return answers("", false);
       const auto step = user.front();
       user.pop_front();
+      exchange.listedFile = FileBytes(bytesOf(exchange.gMultiIconFile));
       step();
     };
   }
@@ -44,7 +46,7 @@ class MultiIconTest : public FilesTest {
     user.push_back([=, this] { answers(answer); });
   }
 
-  // The entry of a file becomes the Current Icon, as after a load through the browser.
+  // The entry of a file becomes the Current Icon, as after a load through the browser. `path` holds the file.
   std::string givenEntry(const IcoFile& file, int index, const std::string& name = "multi.ico") {
     const std::string path = folder.write(name, build(file));
     holdEntry(path, file, index);
@@ -58,6 +60,8 @@ class MultiIconTest : public FilesTest {
     record().path = path;
     record().fromMultiIconFile = true;
     record().multiIconIndex = static_cast<std::int16_t>(index);
+    const IconFile opened = parseIconFile(FileBytes(bytesOf(path)));
+    record().origin = originOf(opened, opened.entry(index));
     record().modified = true;
     editor.calls.clear();
   }

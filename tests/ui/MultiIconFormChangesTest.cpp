@@ -338,10 +338,20 @@ TEST_F(MultiIconForm, SaveAsInsertsAtThePositionThatIsChosen) {
   EXPECT_EQ(exchange.gMultiIconResult, "2/1");
 }
 
+TEST_F(MultiIconForm, NothingIsAddedBeforeAnIconIsSelectedAndTheFormSaysSo) {
+  openToAdd();
+  EXPECT_FALSE(find("cmdSaveAdd(0)")->isEnabled() || find("cmdSaveAdd(1)")->isEnabled());
+  EXPECT_TRUE(isShown("lblExistingFile(3)"));
+  EXPECT_EQ(find<QLabel>("lblExistingFile(3)")->text(), "Select an icon, or append");
+  key(Qt::Key_Return);
+  EXPECT_TRUE(form->isVisible());
+  clickItem(icons(), 1);
+  EXPECT_TRUE(find("cmdSaveAdd(0)")->isEnabled() && find("cmdSaveAdd(1)")->isEnabled());
+  EXPECT_FALSE(isShown("lblExistingFile(3)"));
+}
+
 TEST_F(MultiIconForm, AnUnconfirmedAddStays) {
   openToAdd();
-  boxes.expectTold("No icon in file listed", BoxIcon::None);
-  click("cmdSaveAdd(0)");
   clickItem(icons(), 1);
   boxes.expectAsked("Append to position ref 6.   \n\nConfirm?\n", BoxAnswer::No);
   click("cmdSaveAdd(0)");

@@ -81,6 +81,7 @@ TEST_F(MultiIconForm, TheFootnoteStandsWhereAnEntryHasNoBitCount) {
   EXPECT_EQ(find<QLabel>("lblFileToEdit(2)")->text(), "* Remarks: Listed BPP as per original file only");
   EXPECT_EQ(icons()->item(0)->text(), "Ref 1  \t0 BPP*\t16-Color\t   16 x  16");
   openToAdd(entries);
+  clickItem(icons(), 1);
   EXPECT_TRUE(isShown("lblExistingFile(3)"));
   EXPECT_EQ(find<QLabel>("lblExistingFile(3)")->text(), "* Remarks: Listed BPP as per original file only");
 }
@@ -249,6 +250,8 @@ TEST_F(MultiIconForm, OneIconLeavesOnlyTheLoads) {
   open({kStandard[0]});
   EXPECT_EQ(enabledButtons(), (QStringList{"cmdLoad", "cmdEdit", "cmdClose(0)"}));
   openToAdd({kStandard[0]});
+  EXPECT_EQ(enabledButtons(), QStringList{"cmdClose(1)"});
+  clickItem(icons(), 0);
   EXPECT_EQ(enabledButtons(), (QStringList{"cmdSaveAdd(0)", "cmdSaveAdd(1)", "cmdClose(1)"}));
 }
 

@@ -235,6 +235,19 @@ TEST_F(SaveDialog, TheProposedNameIsCompletedWhenItIsAccepted) {
   EXPECT_EQ(save({pressed()}), folder.file("py4.0.ico"));
 }
 
+TEST_F(SaveDialog, AProposedNameWithTheExtensionInAnyCaseIsTakenAsItIs) {
+  for (const char* name : {"MULTI.ICO", "a.b.Ico"}) {
+    proposed = name;
+    EXPECT_EQ(save({entered()}), folder.file(name));
+  }
+  filters = {kAllFiles, kIcons};
+  proposed = "multi.dat";
+  EXPECT_EQ(save({entered()}), folder.file("multi.dat"));
+  extension.clear();
+  proposed = "multi";
+  EXPECT_EQ(save({entered()}), folder.file("multi"));
+}
+
 TEST_F(SaveDialog, TheNameOfAFolderLeadsIntoIt) {
   for (const char* name : {"sub", "v1.0"}) {
     std::filesystem::create_directory(folder.file(name));

@@ -6,6 +6,7 @@
 #include "files/FileQuestions.h"
 #include "files/browser/MultiIconExchange.h"
 #include "files/format/IcoLayout.h"
+#include "files/saving/HeldFiles.h"
 #include "platform/ports/MessageBoxes.h"
 #include "platform/text/Numbers.h"
 #include "platform/text/Paths.h"
@@ -18,6 +19,7 @@ namespace {
 
 constexpr const char* kNoIcon = "No icon retrieved.";
 constexpr const char* kNotShown = "\nUnable to get this one";
+constexpr const char* kNotSalvaged = "Failed to salvage to ";
 constexpr const char* kNotWritten = "Error occurred in writing overall header";
 constexpr const char* kSalvaged = "\n\n(per bitmap header entry, irrespective of actual color depth)\n\n";
 constexpr const char* kNameEnding = "_X.ico";
@@ -179,13 +181,13 @@ void HeaderDiff::cmdSalvage() {
   if (!canBeSalvaged(arrays_)) return context_.boxes.tell(kTooLargeToSalvage, BoxIcon::Exclamation);
   const std::string proposed = ParseFileName(file_, PathPart::BareName) + kNameEnding;
   const std::string target = askToSave(context_, proposed, kIconFilter, kIconExtension, OverwriteQuestion::ByCaller);
-  if (target.empty() || !confirmsSalvage(target)) return;
+  if (target.empty() || !confirmsSalvage(target) || !mayWriteOver(context_, target, Saved::CurrentIcon)) return;
   salvageTo(target);
   changed();
 }
 
 bool HeaderDiff::confirmsSalvage(const std::string& target) const {
-  return context_.boxes.ask(FileExists(target) ? target + " already in existence.\n\nOverwrite?\n"
+  return context_.boxes.ask(FileExists(target) ? target + kOverwriteQuestion
                                                : "Salvage to \n\n" + target + "\nProceed?");
 }
 
@@ -203,7 +205,7 @@ WriteDefect HeaderDiff::writeSalvaged(const std::string& target) const {
 
 void HeaderDiff::salvageTo(const std::string& target) {
   const WriteDefect defect = writeSalvaged(target);
-  if (defect == WriteDefect::NotOpened) return;
+  if (defect == WriteDefect::NotOpened) return context_.boxes.tell(kNotSalvaged + target, BoxIcon::Exclamation);
   if (defect != WriteDefect::None) return context_.boxes.tell(kNotWritten);
   context_.boxes.tell("File salvaged to " + target + kSalvaged);
   if (!isSameFile(target, file_)) return;

@@ -5,6 +5,8 @@
 #include "document/IconContainerRec.h"
 #include "document/ProcessValues.h"
 #include "files/browser/MultiIconExchange.h"
+#include "files/format/IconUpdates.h"
+#include "files/format/Rereading.h"
 #include "files/opening/IconMessages.h"
 #include "platform/ports/MessageBoxes.h"
 #include "platform/scope/FlagFor.h"
@@ -23,7 +25,8 @@ constexpr const char* kAddCaption = "Add Icon To Existing Icon File";
 constexpr const char* kNotShown = "\nUnable to get this one";
 constexpr const char* kStrangePaletteBits = "Selected item is below 8 BPP, but not 1, 4 (or 0 if old Win 95 icons)";
 constexpr const char* kStrangeTrueColorBits = "Selected item is of True Color but not 24 BPP or 32 BPP.";
-constexpr const char* kNothingListed = "No icon in file listed";
+constexpr const char* kBitsRemark = "* Remarks: Listed BPP as per original file only";
+constexpr const char* kSelectionRemark = "Select an icon, or append";
 
 int containerIn(const std::string& text) {
   const int item = text.empty() ? -1 : Int(Val(text));
@@ -66,7 +69,12 @@ const std::string& MultiIconBrowser::file() const { return exchange_.gMultiIconF
 int MultiIconBrowser::addPositionCount() const { return static_cast<int>(icons_.size() + otherIcons_.size()) + 1; }
 bool MultiIconBrowser::canLoad() const { return isEditFace() && !icons_.empty(); }
 bool MultiIconBrowser::hasSeveralIcons() const { return icons_.size() >= kFewestToChooseFrom; }
-bool MultiIconBrowser::canAdd() const { return !icons_.empty() || !otherIcons_.empty(); }
+bool MultiIconBrowser::canAdd() const { return isIcon(selected_) || (icons_.empty() && !otherIcons_.empty()); }
+
+const char* MultiIconBrowser::remark() const {
+  if (!isEditFace() && !canAdd()) return kSelectionRemark;
+  return lacksBits_ ? kBitsRemark : "";
+}
 
 const ListedEntry& MultiIconBrowser::listed(const ItemReading& reading) const {
   return entries_.at(static_cast<std::size_t>(reading.index));
@@ -81,7 +89,8 @@ bool MultiIconBrowser::readMultiIconFile() {
 // Returns the item that is selected first, one that can be selected if there is any.
 int MultiIconBrowser::fillIconLists() {
   DefaultSelection first;
-  entries_ = listEntries(arrays_);
+  entries_ = listEntries(arrays_);  // of the images as the directory states them
+  takeWholeImages(arrays_);         // which are saved and written whole
   icons_.clear();
   otherIcons_.clear();
   int ref = 0;
@@ -172,6 +181,8 @@ void MultiIconBrowser::loadSelectedIcon() {
   if (!isEditFace() || !isIcon(selected_) || !isLoadable(listed(readItem(iconText(selected_))))) return;
   exchange_.gMultiIconResult = loadAnswer();
   exchange_.chosenIcon = preview_.icon();
+  const auto index = static_cast<std::size_t>(readItem(iconText(selected_)).index);
+  exchange_.chosenOrigin = originOf(arrays_.entries[index], arrays_.images[index]);
   unload();
 }
 
@@ -197,12 +208,13 @@ std::string MultiIconBrowser::loadAnswer() const {
 }
 
 void MultiIconBrowser::cmdSaveAdd(int button) {
-  if (!isIcon(selected_) && otherIcons_.empty()) return context_.boxes.tell(kNothingListed);
+  if (!canAdd()) return;
   const std::string position = std::to_string(addPosition_ + 1);
   const bool appends = addPosition_ == addPositionCount() - 1;
   if (!context_.boxes.ask((appends ? "Append" : "Insert") + (" to position ref " + position) + ".   \n\nConfirm?\n"))
     return;
   exchange_.gMultiIconResult = std::to_string(button + 1) + "/" + position;
+  exchange_.listedFile = std::move(arrays_.file.bytes);
   unload();
 }
 

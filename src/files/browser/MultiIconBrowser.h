@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace gp {
@@ -42,7 +43,8 @@ class MultiIconBrowser {
   const std::vector<std::string>& lisIcons() const { return icons_; }
   const std::vector<std::string>& lisOtherIcons() const { return otherIcons_; }
   int selectedIcon() const { return selected_; }  // item of lisIcons, -1 for none
-  bool showsBitsFootnote() const { return lacksBits_; }
+  // The line below the list, empty for none: why nothing can be added yet, or what the asterisk in the list means.
+  const char* remark() const;
   bool otherSizesShown() const { return otherSizesShown_; }
   const Surface& picIconInFile() const { return preview_.picIconInFile(); }
   const RepositionPane& reposition() const { return reposition_; }
@@ -100,10 +102,13 @@ class MultiIconBrowser {
   std::string loadAnswer() const;
   std::string singleFileName(const std::string& stem, int item) const;
   bool saveItem(int item, const std::string& path);
-  void splitInto(const std::string& stem);
+  using ItemAndPath = std::pair<int, std::string>;
+  std::vector<ItemAndPath> splitFiles(const std::string& stem) const;
+  void splitTo(const std::vector<ItemAndPath>& files);
   void tellNotSplit();
 
   bool isUnchangeable(const char* onlyIcon, const char* inPanel);
+  bool rereadForUpdate();
   bool removeEntry(int index);
   void relistAt(int item);
   void writeRepositioned();

@@ -6,12 +6,14 @@
 #include "files/format/DepthTexts.h"
 #include "files/format/SingleEntryFile.h"
 #include "files/opening/IconMessages.h"
+#include "files/saving/HeldFiles.h"
 #include "platform/dialogs/clsGPDialog.h"
 #include "platform/files/Files.h"
 #include "platform/ports/MessageBoxes.h"
 #include "platform/text/Paths.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace gp {
 namespace {
@@ -40,7 +42,7 @@ void MultiIconBrowser::cmdSaveSingle() {
   if (!isIcon(selected_)) return;
   const std::string proposed = singleFileName(ParseFileName(file(), PathPart::BareName), selected_);
   const std::string path = askToSave(context_, proposed, kIconFilter, kIconExtension);
-  if (path.empty()) return;
+  if (path.empty() || !mayWriteOver(context_, path, Saved::Other)) return;
   const bool isOwnFile = isSameFile(path, file());
   if (!saveItem(selected_, path)) tellIconNotSaved(context_.boxes, path);
   // The list must match the file that a later command rewrites.
@@ -55,19 +57,30 @@ void MultiIconBrowser::cmdSplitSave() {
   const std::string question = "Single-icon files will be saved as " + stem + "_(Size)_(Color), ...\nTotally " +
                                std::to_string(icons_.size()) + " items on list.\n\nProceed?";
   if (!context_.boxes.ask(question)) return;
-  splitInto(stem);
+  const std::vector<ItemAndPath> files = splitFiles(stem);
+  std::vector<std::string> paths;
+  std::ranges::transform(files, std::back_inserter(paths), &ItemAndPath::second);
+  if (!mayWriteOver(context_, paths, Saved::Other)) return;
+  splitTo(files);
   tellNotSplit();
+}
+
+// Without the items whose Refs read as those of other entries.
+std::vector<MultiIconBrowser::ItemAndPath> MultiIconBrowser::splitFiles(const std::string& stem) const {
+  std::vector<ItemAndPath> files;
+  for (int item = 0; isIcon(item); ++item)
+    if (readItem(iconText(item)).isOfItsEntry()) files.emplace_back(item, singleFileName(stem, item));
+  return files;
 }
 
 // Images that cannot be shown are saved too. Failures to write are not reported. The views rebuild their lists on each
 // notification, so there is one notification at the end.
-void MultiIconBrowser::splitInto(const std::string& stem) {
+void MultiIconBrowser::splitTo(const std::vector<ItemAndPath>& files) {
   const Hourglass hourglass(context_);
   const int before = selected_;
-  for (int item = 0; isIcon(item); ++item) {
-    if (!readItem(iconText(item)).isOfItsEntry()) continue;
+  for (const auto& [item, path] : files) {
     if (preview(iconText(item), preview_)) selected_ = item;
-    static_cast<void>(saveItem(item, singleFileName(stem, item)));
+    static_cast<void>(saveItem(item, path));
   }
   if (preview(iconText(before), preview_)) selected_ = before;
   changed();

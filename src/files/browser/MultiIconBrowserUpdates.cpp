@@ -3,6 +3,8 @@
 #include "files/browser/MultiIconBrowser.h"
 #include "files/browser/MultiIconExchange.h"
 #include "files/format/IconUpdates.h"
+#include "files/format/Rereading.h"
+#include "files/saving/MultiIconSaving.h"
 #include "files/saving/MultiIconTexts.h"
 #include "platform/ports/MessageBoxes.h"
 
@@ -19,7 +21,6 @@ constexpr const char* kRemoveAssurance = "\n\nSure to remove this icon permanent
 constexpr const char* kNoReposition =
     "As currently there is at least an icon from this file loaded in Icons Panel, \nhence no reposition is allowed.";
 constexpr const char* kNothingSelected = "No title selected yet";
-constexpr const char* kSingleIconListed = "There is only a single icon in file.";
 constexpr const char* kRepositionQuestion = "\nProceed to save re-positioned sequence of icons in file?\n";
 constexpr const char* kFileNotOpened = "Error-1 encountered in writing file.";
 constexpr const char* kFileNotWritten = "Error-3 encountered in writing file.";
@@ -38,9 +39,27 @@ bool MultiIconBrowser::isUnchangeable(const char* onlyIcon, const char* inPanel)
 void MultiIconBrowser::cmdRemove() {
   if (!isIcon(selected_) || isUnchangeable(kRemoveLastIcon, kNoDeletion)) return;
   if (!context_.boxes.ask(kRemoveQuestion + file() + kRemoveAssurance)) return;
+  const auto lock = lockToUpdate(context_, file());
+  if (!lock || !rereadForUpdate()) return;
   const int item = selected_;
   if (!removeEntry(readItem(iconText(item)).index)) context_.boxes.tell(kRemoveNotWritten);
   relistAt(item);
+}
+
+// False, after a message, when the file is not as it was listed. Then it is listed as it is now; if it cannot be read,
+// the form keeps its images, of which it may hold the last copy.
+bool MultiIconBrowser::rereadForUpdate() {
+  IconArrays now;
+  const bool isRead = readIconArrays(file(), ReservedField::Any, now) == ArraysDefect::None;
+  if (isRead && isAsRead(now, arrays_.file.span())) {
+    arrays_.file.bytes.takeVersion(now.file.bytes);
+    return true;
+  }
+  context_.boxes.tell(fileChangedText(file()));
+  if (!isRead) return false;
+  repositioning_ = false;
+  openFile();
+  return false;
 }
 
 bool MultiIconBrowser::removeEntry(int index) {
@@ -101,9 +120,10 @@ void MultiIconBrowser::cmdRepositionAbort() {
 void MultiIconBrowser::cmdRepositionProceed() {
   const auto& items = reposition_.lisReposition();
   if (!repositioning_ || items.empty()) return;
-  if (items.size() == 1) return context_.boxes.tell(kSingleIconListed);
   if (reposition_.isUnchanged()) return context_.boxes.tell(kRepositionNoChange);
   if (!context_.boxes.ask(file() + kRepositionQuestion)) return;
+  const auto lock = lockToUpdate(context_, file());
+  if (!lock || !rereadForUpdate()) return;
   writeRepositioned();
   repositioning_ = false;
   openFile();

@@ -73,6 +73,7 @@ bool MultiIconRetrieval::goTo(int container) {
 void MultiIconRetrieval::load(const LoadAnswer& answer) {
   const IconImage& icon = context_.multiIcon.chosenIcon;
   IconContainerRec record = recordOfLoadedIcon(answer.facts, icon, file_);
+  record.origin = context_.multiIcon.chosenOrigin;
   record.present = intoEditingArea_;
   if (intoEditingArea_)
     context_.document.arrival.arrive(icon, record);

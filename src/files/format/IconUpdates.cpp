@@ -1,6 +1,8 @@
 #include "files/format/IconUpdates.h"
 
 #include "files/format/IconWriter.h"
+#include "files/format/ImageSizes.h"
+#include "platform/files/ByteReader.h"
 
 #include <utility>
 
@@ -39,6 +41,15 @@ std::optional<NewImage> imageOfSingleIcon(FileBytes file) {
   if (arrays.count() != 1) return std::nullopt;
   const ImageBytes image = arrays.images.front();
   return NewImage{arrays.entries.front(), {image.begin(), image.end()}};
+}
+
+void takeWholeImages(IconArrays& arrays) {
+  ImageSizes sizes(arrays.file);
+  for (std::size_t i = 0; i < arrays.entries.size(); ++i) {
+    IconEntry& entry = arrays.entries[i];
+    entry.bytesInRes = sizes.sizeOf(entry);
+    arrays.images[i] = ByteReader(arrays.file.span()).bytesAt(entry.imageOffset, entry.bytesInRes);
+  }
 }
 
 void replaceImage(IconArrays& arrays, int index, NewImage image) { setImage(arrays, index, std::move(image)); }

@@ -38,6 +38,9 @@ struct NewImage {
 // The image of a file with a single icon; empty for any other file.
 std::optional<NewImage> imageOfSingleIcon(FileBytes file);
 
+// The first step of every update of arrays that were read: images whose entries state too few bytes become whole, and
+// the byte counts correct, see ImageSizes. Readers show such images completely, so an update must not cut them.
+void takeWholeImages(IconArrays& arrays);
 // Size, colours, bits and byte count of the entry become those of the new image; its other fields are not changed.
 void replaceImage(IconArrays& arrays, int index, NewImage image);
 // The new image gets the index, which is 0 to count().

@@ -7,6 +7,7 @@
 #include "document/Hourglass.h"
 #include "files/browser/MultiIconCommands.h"
 #include "files/format/IconArrays.h"
+#include "files/format/Rereading.h"
 #include "files/opening/IconLoading.h"
 #include "files/opening/IconMessages.h"
 
@@ -125,7 +126,9 @@ bool IconOpening::isConfirmed() {
 void IconOpening::show() {
   {
     const Hourglass hourglass(context_);
-    context_.document.arrival.arrive(decoded_.icon, recordOfLoadedIcon(facts_, decoded_.icon, path_));
+    IconContainerRec record = recordOfLoadedIcon(facts_, decoded_.icon, path_);
+    if (record.fromMultiIconFile) record.origin = originOf(file_, file_.entry(facts_.chosen));
+    context_.document.arrival.arrive(decoded_.icon, record);
   }
   if (!isSpoken()) return;
   context_.editor.AddHistory(path_);

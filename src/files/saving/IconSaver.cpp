@@ -10,9 +10,12 @@
 #include "drawing/Drawing.h"
 #include "files/FileQuestions.h"
 #include "files/format/DepthTexts.h"
+#include "files/format/Rereading.h"
 #include "files/opening/IconMessages.h"
 #include "files/saving/BitmapSaving.h"
 #include "files/saving/CurrentIcon.h"
+#include "files/saving/HeldFiles.h"
+#include "files/saving/MultiIconTexts.h"
 #include "platform/files/Files.h"
 #include "platform/text/Paths.h"
 #include "platform/text/Utf8.h"
@@ -115,6 +118,15 @@ void IconSaver::doFileSave() {
   const std::string path = record.path.trimmed();
   if (record.fromMultiIconFile || !endsWithAnyCase(path, kIconEnding) || !FileExists(path))
     return doSaveAs(SaveMode::Icon);
+  // Another program may have put more icons into the file, or something else.
+  if (!isFileOfOneIcon(path)) {
+    context_.boxes.tell(fileChangedText(path));
+    return doSaveAs(SaveMode::Icon);
+  }
+  if (record.neverSaved && !mayWriteOverOriginal(context_, path)) {
+    mSaveFailed_ = true;
+    return;
+  }
   bool ok = false;
   doSaveIconTo(path, ok);
 }
@@ -141,7 +153,7 @@ void IconSaver::doSaveAs(SaveMode mode) {
   context_.drawing.regions.clearRegion();
   if (mode == SaveMode::Icon) remindOfMultiIconFile();
   const std::string path = askForName(kind);
-  if (path.empty()) {
+  if (path.empty() || !mayWriteOver(context_, path, Saved::CurrentIcon)) {
     mSaveFailed_ = true;
     return;
   }

@@ -19,7 +19,8 @@ class IconSaver {
 
   // Creates a transparent icon of that size. Asks first about unsaved work.
   void doNewIcon(int size);
-  // Saves to the icon's file if the file contains only this icon; otherwise asks for a name.
+  // Saves to the icon's file if the file contains only this icon; otherwise asks for a name, after a message if the
+  // file has changed since the icon was loaded. A copy from another container asks before its first save.
   void doFileSave();
   // Opens the cursor panel, whose Proceed button saves as a cursor.
   void saveAsCursor();

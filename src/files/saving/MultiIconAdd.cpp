@@ -4,13 +4,13 @@
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
-#include "document/Hourglass.h"
 #include "files/FileForms.h"
 #include "files/FileQuestions.h"
 #include "files/browser/MultiIconAnswers.h"
 #include "files/browser/MultiIconExchange.h"
 #include "files/format/IconProbe.h"
 #include "files/format/IconWriter.h"
+#include "files/format/Rereading.h"
 #include "files/saving/CurrentIcon.h"
 #include "files/saving/MultiIconSaving.h"
 #include "files/saving/MultiIconTexts.h"
@@ -18,10 +18,8 @@
 #include "files/saving/ScratchIcon.h"
 #include "platform/gdi/SurfaceOps.h"
 #include "platform/ports/MessageBoxes.h"
-#include "platform/ports/MessagePump.h"
 #include "platform/text/Paths.h"
 
-#include <array>
 #include <utility>
 
 namespace gp {
@@ -37,8 +35,8 @@ std::string depthText(ColorDepth depth) {
 }
 
 // For a file that has changed since it was read as an icon file.
-std::string targetNotReadText(const std::string& target, ArraysDefect defect) {
-  return (defect == ArraysDefect::NotReadable ? "Failed to open " : "No icon file in ") + target;
+std::string notReadAgainText(const std::string& path, ArraysDefect defect) {
+  return (defect == ArraysDefect::NotReadable ? "Failed to open " : "No icon file in ") + path;
 }
 
 }  // namespace
@@ -50,7 +48,7 @@ void MultiIconAdd::run() {
   finishCurrentIcon(context_);
   const std::string path = askToOpen(context_, kIconFilter);
   if (path.empty() || !isInNoContainer(path) || !takesIcon(path)) return;
-  if (addToMultiIconFile(path).empty()) return;
+  if (!addToMultiIconFile(path)) return;
   state_.current().modified = false;
   context_.document.editingArea.UpdatePanelFromCurrent();
   context_.document.editingArea.RefreshStatusBar();
@@ -70,7 +68,7 @@ bool MultiIconAdd::fail(const std::string& text) {
 bool MultiIconAdd::isInNoContainer(const std::string& path) {
   const auto container = findContainerOf(state_, path);
   if (!container) return true;
-  return refuse(*container == state_.mCurContainer ? kOwnFile : openedInPanelText(*container));
+  return refuse(*container == state_.mCurContainer ? kOwnFile : openedInPanelText(*container, SaveInto::Add));
 }
 
 bool MultiIconAdd::takesIcon(const std::string& path) {
@@ -83,11 +81,11 @@ bool MultiIconAdd::takesIcon(const std::string& path) {
   return findSameIcon(arrays, traits_, -1) < 0 || refuse(sameIconText(traits_, SaveInto::Add));
 }
 
-std::string MultiIconAdd::addToMultiIconFile(const std::string& path) {
+bool MultiIconAdd::addToMultiIconFile(const std::string& path) {
   const auto answer = parseAddAnswer(showBrowser(path));
-  if (!answer) return {};
+  if (!answer) return false;
   const std::string target = answer->saveAs ? askForOtherFile(path) : path;
-  return !target.empty() && insertEntry(answer->index, target) ? target : std::string();
+  return !target.empty() && insertEntry(path, answer->index, target);
 }
 
 std::string MultiIconAdd::showBrowser(const std::string& path) {
@@ -110,52 +108,45 @@ void MultiIconAdd::showCurrentIcon() {
   exchange.lblCurrIcon = depthText(traits_.depth) + "  Size: " + width + "x" + width;
 }
 
-// The other file starts as a copy of the chosen one.
 std::string MultiIconAdd::askForOtherFile(const std::string& path) {
   std::string chosen;
   do {
     chosen = askToSave(context_, ParseFileName(path, PathPart::NameWithExtension), kIconFilter, kIconExtension);
     if (chosen.empty()) return {};
   } while (!isInNoContainer(chosen));
-  if (chosen == path || isSameFile(chosen, path)) return chosen;
-  return copyFile(path, chosen) ? chosen : std::string();
+  return chosen;
 }
 
-bool MultiIconAdd::copyFile(const std::string& from, const std::string& to) {
-  const auto bytes = readFile(from);
-  if (!bytes) return fail(targetNotReadText(from, ArraysDefect::NotReadable));
-  if (!replaceFile(to, bytes->span())) return fail(notWrittenText(to, SaveInto::Add));
-  context_.pump.pump();
-  return true;
-}
-
-std::optional<NewImage> MultiIconAdd::makeImage(const std::string& target) {
+std::optional<NewImage> MultiIconAdd::makeImage(const std::string& kept) {
   std::optional<NewImage> image;
   const IconImage icon = currentIcon(state_);
   const ColorDepth depth = depthToWrite(icon, state_.current());
-  const ScratchDefect defect = makeNewImage(icon, depth, scratchFile_, target, image);
+  const ScratchDefect defect = makeNewImage(icon, depth, scratchFile_, kept, image);
   if (defect != ScratchDefect::None) fail(defect == ScratchDefect::NotWritten ? kNotMade : kNotLoaded);
   return image;
 }
 
-bool MultiIconAdd::insertEntry(int index, const std::string& target) {
-  auto image = makeImage(target);
+// Another target gets the entries of the listed file too. It is written once, when everything is ready, so that a
+// failure leaves it as it was.
+bool MultiIconAdd::insertEntry(const std::string& path, int index, const std::string& target) {
+  // Neither file may be used as the scratch file.
+  auto image = makeImage(isSameFile(target, scratchFile_) ? target : path);
+  if (!image) return false;
+  const auto lock = lockToUpdate(context_, path);
   IconArrays arrays;
-  if (!image || !readTarget(index, target, arrays)) return false;
+  if (!lock || !readAgain(path, index, arrays)) return false;
+  takeWholeImages(arrays);
   insertImage(arrays, index, std::move(*image));
-  return write(arrays, target) || fail(notWrittenText(target, SaveInto::Add));
+  const WriteDefect defect = writeUpdated(context_, arrays, path, target);
+  return defect == WriteDefect::None || fail(notUpdatedText(defect, target, SaveInto::Add));
 }
 
-bool MultiIconAdd::write(IconArrays& arrays, const std::string& target) {
-  const Hourglass hourglass(context_);
-  return writeBack(arrays, target) == WriteDefect::None;
-}
-
-bool MultiIconAdd::readTarget(int index, const std::string& target, IconArrays& arrays) {
-  const ArraysDefect defect = readIconArrays(target, ReservedField::MustBeZero, arrays);
-  if (defect == ArraysDefect::NotReadable) return fail(targetNotReadText(target, defect));
-  if (defect != ArraysDefect::None) return refuse(targetNotReadText(target, defect));
-  return index <= arrays.count() || refuse(addNoPositionText(target));
+bool MultiIconAdd::readAgain(const std::string& path, int index, IconArrays& arrays) {
+  const ArraysDefect defect = readIconArrays(path, ReservedField::MustBeZero, arrays);
+  if (defect == ArraysDefect::NotReadable) return fail(notReadAgainText(path, defect));
+  if (defect != ArraysDefect::None) return refuse(notReadAgainText(path, defect));
+  if (index > arrays.count()) return refuse(addNoPositionText(path));
+  return isAsRead(arrays, context_.multiIcon.listedFile.span()) || refuse(fileChangedText(path));
 }
 
 }  // namespace gp

@@ -19,17 +19,15 @@ class MultiIconAdd {
  private:
   bool isInNoContainer(const std::string& path);
   bool takesIcon(const std::string& path);
-  // Returns the path of the file that the icon was added to; empty if there is none.
-  std::string addToMultiIconFile(const std::string& path);
+  bool addToMultiIconFile(const std::string& path);
   std::string showBrowser(const std::string& path);
   void showCurrentIcon();
   std::string askForOtherFile(const std::string& path);
-  bool copyFile(const std::string& from, const std::string& to);
-  std::optional<NewImage> makeImage(const std::string& target);
-  // `index` is the index of the new entry.
-  bool insertEntry(int index, const std::string& target);
-  bool readTarget(int index, const std::string& target, IconArrays& arrays);
-  bool write(IconArrays& arrays, const std::string& target);
+  // `kept` is a file that may be the scratch file by chance, and must not be lost then.
+  std::optional<NewImage> makeImage(const std::string& kept);
+  // Writes the entries of `path` and the new one, which gets the index, to `target`.
+  bool insertEntry(const std::string& path, int index, const std::string& target);
+  bool readAgain(const std::string& path, int index, IconArrays& arrays);
   bool refuse(const std::string& text);
   bool fail(const std::string& text);
 

@@ -4,10 +4,10 @@
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
-#include "document/Hourglass.h"
 #include "document/Messages.h"
 #include "files/FileQuestions.h"
 #include "files/format/IconWriter.h"
+#include "files/format/Rereading.h"
 #include "files/saving/CurrentIcon.h"
 #include "files/saving/MultiIconSaving.h"
 #include "files/saving/MultiIconTexts.h"
@@ -15,14 +15,17 @@
 #include "files/saving/ScratchIcon.h"
 #include "platform/ports/MessageBoxes.h"
 #include "platform/text/Paths.h"
+#include "platform/text/Utf8.h"
 
+#include <cstdint>
 #include <utility>
-#include <vector>
 
 namespace gp {
 namespace {
 
-constexpr const char* kReplaceFilter = "Icon files (*.ico)|*.ico|(*.*)|*.*|";
+constexpr const char* kIconsFirst = "Icon files (*.ico)|*.ico|(*.*)|*.*|";
+constexpr const char* kAllFilesFirst = "(*.*)|*.*|Icon files (*.ico)|*.ico|";
+constexpr const char* kIconEnding = ".ico";
 constexpr const char* kNotMade = "Failed to save current icon - preparation";
 constexpr const char* kNotLoaded = "Failed to save current icon - at loading preparation stage";
 constexpr const char* kNotReopened = "Failed to save current icon - at re-opening original file stage";
@@ -45,60 +48,74 @@ MultiIconReplace::MultiIconReplace(FilesContext& context, const std::string& scr
     : context_(context),
       state_(context.state),
       scratchFile_(scratchFile),
-      original_(context.state.current().path.trimmed()),
-      index_(context.state.current().multiIconIndex) {}
+      original_(context.state.current().path.trimmed()) {}
 
 void MultiIconReplace::run() {
   finishCurrentIcon(context_);
-  if (!isConfirmed() || !readOriginal() || !isAllowed()) return;
+  if (!FileExists(original_)) return fail(original_ + kFileGone);
+  const bool isRead = readOriginal();
+  if (!context_.boxes.ask(questionFor(std::to_string(placeOrFormer() + 1)))) return;
+  if (!isRead) return fail(kReplaceNotRead);
+  if (!isAllowed()) return;
   const std::string path = askForName();
   if (path.empty() || !isInNoOtherContainer(path)) return;
   auto image = makeImage();
-  if (!image || !readOriginalAgain()) return;
-  replaceImage(arrays_, index_, std::move(*image));
-  if (write(path))
+  if (image) replaceBy(std::move(*image), path);
+}
+
+void MultiIconReplace::replaceBy(NewImage image, const std::string& path) {
+  const auto lock = lockToUpdate(context_, original_);
+  if (!lock) return;
+  if (!readOriginal()) return fail(kNotReopened);
+  if (!isAllowed()) return;
+  replaceImage(arrays_, *place_, std::move(image));
+  const WriteDefect defect = writeUpdated(context_, arrays_, original_, path);
+  if (defect == WriteDefect::None)
     describeSaved(path);
   else
-    fail(notWrittenText(path, SaveInto::Replace));
+    fail(notUpdatedText(defect, path, SaveInto::Replace));
 }
 
-bool MultiIconReplace::fail(const std::string& text) {
-  tellFailure(context_, text);
-  return false;
-}
+void MultiIconReplace::fail(const std::string& text) { tellFailure(context_, text); }
 
-bool MultiIconReplace::isConfirmed() {
-  if (!FileExists(original_)) return fail(original_ + kFileGone);
-  return context_.boxes.ask(questionFor(std::to_string(index_ + 1)));
-}
-
+// Other programs may have added entries before that of the icon, or removed some.
 bool MultiIconReplace::readOriginal() {
-  return readIconArrays(original_, ReservedField::MustBeZero, arrays_) == ArraysDefect::None || fail(kReplaceNotRead);
+  arrays_ = {};
+  const bool isRead = readIconArrays(original_, ReservedField::MustBeZero, arrays_) == ArraysDefect::None;
+  takeWholeImages(arrays_);
+  place_ = findOrigin(arrays_, state_.current().origin, formerPlace());
+  return isRead;
 }
+
+int MultiIconReplace::formerPlace() const { return state_.current().multiIconIndex; }
 
 bool MultiIconReplace::isAllowed() {
   traits_ = traitsToWrite(currentIcon(state_), state_.current());
-  const int same = findSameIcon(arrays_, traits_, index_);
+  const int same = findSameIcon(arrays_, traits_, placeOrFormer());
   if (same >= 0)
     context_.boxes.tell(sameIconText(traits_, SaveInto::Replace));
-  else if (index_ < 0 || index_ >= arrays_.count())
+  else if (!place_)
     context_.boxes.tell(kReplaceEntryGone);
   else
     return true;
   return false;
 }
 
-// The question promised to write to the original file, so the dialog starts in its folder.
+// The question promised to write to the original file, so the dialog proposes exactly that file. Under the filter of
+// icon files it would add an extension to a name with another one, and under any filter to a name without one.
 std::string MultiIconReplace::askForName() {
-  return askToSave(context_, ParseFileName(original_, PathPart::BareName), kReplaceFilter, kIconExtension,
-                   OverwriteQuestion::ByDialog, ParseFileName(original_, PathPart::DriveAndFolder));
+  const std::string name = ParseFileName(original_, PathPart::NameWithExtension);
+  const char* const filter = endsWithAnyCase(name, kIconEnding) ? kIconsFirst : kAllFilesFirst;
+  const char* const extension = name.find('.') == std::string::npos ? "" : kIconExtension;
+  return askToSave(context_, name, filter, extension, OverwriteQuestion::ByDialog,
+                   ParseFileName(original_, PathPart::DriveAndFolder));
 }
 
 // An icon in another container refers to its entry by index, which would then be that of another entry.
 bool MultiIconReplace::isInNoOtherContainer(const std::string& path) {
   if (isFileOf(state_.current(), path)) return true;
   const auto container = findContainerOf(state_, path);
-  if (container) context_.boxes.tell(openedInPanelText(*container));
+  if (container) context_.boxes.tell(openedInPanelText(*container, SaveInto::Replace));
   return !container;
 }
 
@@ -111,26 +128,12 @@ std::optional<NewImage> MultiIconReplace::makeImage() {
   return image;
 }
 
-// The file may have changed while the dialog was open. It is not overwritten if its directory differs from the one that
-// was checked.
-bool MultiIconReplace::readOriginalAgain() {
-  const std::vector<IconEntry> checked = std::move(arrays_.entries);
-  arrays_ = {};
-  if (readIconArrays(original_, ReservedField::MustBeZero, arrays_) != ArraysDefect::None) return fail(kNotReopened);
-  if (arrays_.entries == checked) return true;
-  context_.boxes.tell(kReplaceEntryGone);
-  return false;
-}
-
-bool MultiIconReplace::write(const std::string& path) {
-  const Hourglass hourglass(context_);
-  const bool isOriginal = isSameFile(path, original_);
-  return (isOriginal ? writeBack(arrays_, path) : writeWholeFile(arrays_, path)) == WriteDefect::None;
-}
-
 void MultiIconReplace::describeSaved(const std::string& path) {
   IconContainerRec& record = state_.current();
+  const auto place = static_cast<std::size_t>(*place_);
   record.path = path;
+  record.multiIconIndex = static_cast<std::int16_t>(*place_);
+  record.origin = originOf(arrays_.entries[place], arrays_.images[place]);
   record.setDepth(traits_.depth);
   record.setHeaderDepth(traits_.depth);
   record.neverSaved = record.modified = false;

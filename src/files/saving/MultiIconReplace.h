@@ -17,25 +17,26 @@ class MultiIconReplace {
   void run();
 
  private:
-  bool isConfirmed();
+  // Reads the file and finds the entry that the icon came from. False when the file cannot be read.
   bool readOriginal();
+  int formerPlace() const;
+  int placeOrFormer() const { return place_.value_or(formerPlace()); }
   bool isAllowed();
   std::string askForName();
   // False, after a message, when another container holds an icon of that file and it is not the original file.
   bool isInNoOtherContainer(const std::string& path);
   std::optional<NewImage> makeImage();
-  bool readOriginalAgain();
-  bool write(const std::string& path);
+  void replaceBy(NewImage image, const std::string& path);
   void describeSaved(const std::string& path);
-  bool fail(const std::string& text);
+  void fail(const std::string& text);
 
   FilesContext& context_;
   EditState& state_;
   const std::string& scratchFile_;
   const std::string original_;
-  const int index_;
   IconTraits traits_;
   IconArrays arrays_;
+  std::optional<int> place_;  // of the entry to replace, empty when it is not there any more
 };
 
 }  // namespace gp

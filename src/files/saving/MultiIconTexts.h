@@ -17,7 +17,15 @@ std::string sameIconText(const IconTraits& same, SaveInto save);
 // States that the file to write is read-only, or that writing failed.
 const char* notWrittenText(const std::string& path, SaveInto save);
 // Both refuse a file if another container holds an icon of it. Containers count from 0.
-std::string openedInPanelText(int container);
+std::string openedInPanelText(int container, SaveInto save);
+
+// States that a command does nothing because another program has changed the file since it was read.
+std::string fileChangedText(const std::string& path);
+
+// States that another program is about to change the file.
+std::string fileInUseText(const std::string& path);
+// States why an update was not written.
+std::string notUpdatedText(WriteDefect defect, const std::string& path, SaveInto save);
 
 // Replace.
 inline constexpr const char* kReplaceNotRead = "Failed to save current icon - at reading preparation stage";

@@ -3,8 +3,6 @@
 #include "document/EditState.h"
 #include "platform/files/Files.h"
 
-#include <algorithm>
-
 namespace gp {
 
 bool isFileOf(const IconContainerRec& record, const std::string& path) {
@@ -13,11 +11,11 @@ bool isFileOf(const IconContainerRec& record, const std::string& path) {
   return record.path == TrimmedText(path) || isSameFile(own, path);
 }
 
-std::optional<int> findContainerOf(const EditState& state, const std::string& path) {
-  const auto found =
-      std::ranges::find_if(state.mIconRecs, [&](const IconContainerRec& record) { return isFileOf(record, path); });
-  if (found == state.mIconRecs.end()) return std::nullopt;
-  return static_cast<int>(found - state.mIconRecs.begin());
+std::optional<int> findContainerOf(const EditState& state, const std::string& path, int except) {
+  for (int container = 0; container < kContainerCount; ++container)
+    if (container != except && isFileOf(state.mIconRecs.at(static_cast<std::size_t>(container)), path))
+      return container;
+  return std::nullopt;
 }
 
 }  // namespace gp

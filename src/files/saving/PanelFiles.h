@@ -11,7 +11,8 @@ namespace gp {
 struct EditState;
 
 bool isFileOf(const IconContainerRec& record, const std::string& path);
-// The first container whose icon was loaded from the file.
-std::optional<int> findContainerOf(const EditState& state, const std::string& path);
+inline constexpr int kNoContainer = -1;
+// The first container, other than `except`, whose icon was loaded from the file.
+std::optional<int> findContainerOf(const EditState& state, const std::string& path, int except = kNoContainer);
 
 }  // namespace gp

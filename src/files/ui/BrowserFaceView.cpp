@@ -109,7 +109,7 @@ void BrowserFaceView::makeControls() {
       new EntryView(this, {indexed("lblIconInFile"), indexed("picIconInFile")}, browser_.picIconInFile(), kLargestIcon);
   selector_ = named(new QComboBox(this), QLatin1String(texts.selector));
   selector_->setAccessibleName(QLatin1String(texts.selectorName));
-  footnote_ = makeLabel(labelName(face_, kFootnoteLabel), "* Remarks: Listed BPP as per original file only");
+  footnote_ = makeLabel(labelName(face_, kFootnoteLabel), "");
 
   imgShowOtherSizes_ = new PictureButton(this, indexed("imgShowOtherSizes"),
                                          {"extend", QStringLiteral("Show icons of other sizes"), kPictureButtonSide});
@@ -235,7 +235,8 @@ void BrowserFaceView::refresh() {
   refreshList();
   lisIcons_->setSelected(browser_.selectedIcon());
   preview_->refresh();
-  footnote_->setVisible(browser_.showsBitsFootnote());
+  footnote_->setText(QLatin1String(browser_.remark()));
+  footnote_->setVisible(!footnote_->text().isEmpty());
   imgShowOtherSizes_->setVisible(!browser_.otherSizesShown());
   imgHideOtherSizes_->setVisible(browser_.otherSizesShown());
   refreshSelector();

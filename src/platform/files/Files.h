@@ -30,6 +30,8 @@ class FileBytes {
   std::span<const std::uint8_t> span() const { return {bytes_.get(), size_}; }
   // Of the file that was read; nullopt for bytes from elsewhere.
   const std::optional<FileVersion>& version() const { return version_; }
+  // Takes the version of another reading that gave the same bytes.
+  void takeVersion(const FileBytes& other) { version_ = other.version_; }
 
  private:
   Memory bytes_;

@@ -79,17 +79,19 @@ bool isWholeGif(std::span<const std::uint8_t> bytes) {
   return !reader.beyondEnd();
 }
 
-bool isWholePng(std::span<const std::uint8_t> bytes) {
+std::size_t wholePngSize(std::span<const std::uint8_t> bytes) {
   ByteReader reader(bytes, png::kSignatureSize);
   while (!reader.beyondEnd()) {
     const std::uint32_t length = bigEndian(reader, 4);
     ByteReader type(bytes, reader.position());
     const bool isLast = bigEndian(type, 4) == png::kEnd;
-    if (!reader.contains(reader.position(), ByteReader::Position{length} + png::kChunkExtra)) return false;
-    if (isLast) return true;
+    if (!reader.contains(reader.position(), ByteReader::Position{length} + png::kChunkExtra)) return 0;
     reader.skip(ByteReader::Position{length} + png::kChunkExtra);
+    if (isLast) return static_cast<std::size_t>(reader.position());
   }
-  return false;
+  return 0;
 }
+
+bool isWholePng(std::span<const std::uint8_t> bytes) { return wholePngSize(bytes) != 0; }
 
 }  // namespace gp

@@ -2,6 +2,7 @@
 // data in silently, which would falsify pictures used as data. Nothing is decoded.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 
@@ -13,5 +14,7 @@ bool isWholeJpeg(std::span<const std::uint8_t> bytes);
 bool isWholeGif(std::span<const std::uint8_t> bytes);
 // True when the last chunk is complete.
 bool isWholePng(std::span<const std::uint8_t> bytes);
+// The number of bytes up to the end of the last chunk; 0 when it is not complete.
+std::size_t wholePngSize(std::span<const std::uint8_t> bytes);
 
 }  // namespace gp

@@ -379,17 +379,32 @@ TEST_F(HeaderDiffTest, NoLeavesExistingFilesAndMakesNoNewOnes) {
   EXPECT_FALSE(std::filesystem::exists(fresh));
 }
 
-TEST_F(HeaderDiffTest, AFileThatCannotBeCreatedEndsSilently) {
+TEST_F(HeaderDiffTest, AFileOfAnotherContainerIsNotWrittenOverWithoutAQuestion) {
+  open({lyingEntry()});
+  const std::string held = folder.write("held.ico", {1, 2, 3});
+  state.mIconRecs[0].path = path;  // the current container, whose file is salvaged
+  state.mIconRecs[1].path = held;
+  dialogs.paths = {held};
+  boxes.expectAsked(held + " already in existence.\n\nOverwrite?\n", BoxAnswer::Yes);
+  boxes.expectAsked("Container 2 holds an icon of this file.\nProceed?", BoxAnswer::No);
+  diff->cmdSalvage();
+  EXPECT_EQ(bytesOf(held), (Bytes{1, 2, 3}));
+  salvageTo(path, true);
+}
+
+TEST_F(HeaderDiffTest, AFileThatCannotBeCreatedIsReported) {
   open({lyingEntry()});
   const std::string target = folder.path("no folder/out.ico");
   dialogs.paths = {target};
   boxes.expectAsked("Salvage to \n\n" + target + "\nProceed?", BoxAnswer::Yes);
+  boxes.expectTold("Failed to salvage to " + target, BoxIcon::Exclamation);
   diff->cmdSalvage();
   EXPECT_TRUE(boxes.done());
   const std::string readOnly = folder.write("ro.ico", {1, 2, 3});
   std::filesystem::permissions(readOnly, std::filesystem::perms::owner_read);
   dialogs.paths = {readOnly};
   boxes.expectAsked(readOnly + " already in existence.\n\nOverwrite?\n", BoxAnswer::Yes);
+  boxes.expectTold("Failed to salvage to " + readOnly, BoxIcon::Exclamation);
   diff->cmdSalvage();
   EXPECT_EQ(bytesOf(readOnly), (Bytes{1, 2, 3}));
 }

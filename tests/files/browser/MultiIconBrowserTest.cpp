@@ -76,7 +76,7 @@ TEST_F(BrowserTest, ListsStandardAndOtherSizesInFileOrder) {
             (Items{"Ref 1  \t4 BPP\t16-Color\t   16 x  16", "Ref 3  \t24 BPP\tTrue-Color\t   32 x  32",
                    "Ref 4  \t1 BPP\t2-Color\t   48 x  48"}));
   EXPECT_EQ(browser->lisOtherIcons(), (Items{"Ref 2  \t8 BPP\t256-Color\t  64 x 64"}));
-  EXPECT_FALSE(browser->showsBitsFootnote());
+  EXPECT_STREQ(browser->remark(), "");
 }
 
 TEST_F(BrowserTest, A64x64EntryCannotBeSelectedAndKeepsItsRef) {
@@ -89,7 +89,7 @@ TEST_F(BrowserTest, A64x64EntryCannotBeSelectedAndKeepsItsRef) {
 
 TEST_F(BrowserTest, TheFootnoteStandsWhereAnEntryHasNoBits) {
   browse({anyEntry(16, 4), entryOf(anyPicture(32, 4), 16, 0)});
-  EXPECT_TRUE(browser->showsBitsFootnote());
+  EXPECT_STREQ(browser->remark(), "* Remarks: Listed BPP as per original file only");
   EXPECT_EQ(browser->lisIcons().at(1), "Ref 2  \t0 BPP*\t16-Color\t   32 x  32");
 }
 

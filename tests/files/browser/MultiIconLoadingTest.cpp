@@ -169,6 +169,7 @@ TEST_F(BrowserTest, AppendingIsProposed) {
   browse({anyEntry(16, 4), otherSize(), anyEntry(32, 4)}, true);
   EXPECT_EQ(browser->addPositionCount(), 4);
   EXPECT_EQ(browser->addPosition(), 3);
+  browser->clickIcon(0);
   EXPECT_TRUE(browser->canAdd());
   boxes.expectAsked("Append to position ref 4.   \n\nConfirm?\n", BoxAnswer::Yes);
   browser->cmdSaveAdd(kSaveButton);
@@ -179,6 +180,7 @@ TEST_F(BrowserTest, AppendingIsProposed) {
 TEST_F(BrowserTest, AnyOtherPositionInserts) {
   browse({anyEntry(16, 4), otherSize(), anyEntry(32, 4)}, true);
   browser->setAddPosition(0);
+  browser->clickIcon(1);
   boxes.expectAsked("Insert to position ref 1.   \n\nConfirm?\n", BoxAnswer::Yes);
   browser->cmdSaveAdd(kSaveAsButton);
   EXPECT_EQ(exchange.gMultiIconResult, "2/1");
@@ -187,6 +189,7 @@ TEST_F(BrowserTest, AnyOtherPositionInserts) {
 TEST_F(BrowserTest, ARefusedAddKeepsTheFormOpen) {
   browse({anyEntry(16, 4), otherSize()}, true);
   browser->setAddPosition(1);
+  browser->clickIcon(0);
   boxes.expectAsked("Insert to position ref 2.   \n\nConfirm?\n", BoxAnswer::No);
   browser->cmdSaveAdd(kSaveButton);
   EXPECT_EQ(exchange.gMultiIconResult, "");
@@ -199,20 +202,35 @@ TEST_F(BrowserTest, PositionsBeyondTheListAreIgnored) {
   EXPECT_EQ(browser->addPosition(), 3);
 }
 
-TEST_F(BrowserTest, AddingRequiresAnItemSelectedOrOtherSizes) {
+TEST_F(BrowserTest, AddingRequiresAnItemSelectedOrOtherSizesAlone) {
+  browse({anyEntry(16, 4), otherSize()}, true);
+  EXPECT_FALSE(browser->canAdd());
   browse(threeIcons(), true);
-  boxes.expectTold("No icon in file listed", BoxIcon::None);
+  EXPECT_FALSE(browser->canAdd());
+  EXPECT_STREQ(browser->remark(), "Select an icon, or append");
   browser->cmdSaveAdd(kSaveButton);
+  browser->cmdSaveAdd(kSaveAsButton);
   EXPECT_EQ(unloads, 0);
+  EXPECT_EQ(exchange.gMultiIconResult, "");
   browser->clickIcon(0);
+  EXPECT_TRUE(browser->canAdd());
+  EXPECT_STREQ(browser->remark(), "");
   boxes.expectAsked("Append to position ref 4.   \n\nConfirm?\n", BoxAnswer::Yes);
   browser->cmdSaveAdd(kSaveButton);
   EXPECT_EQ(exchange.gMultiIconResult, "1/4");
 }
 
+TEST_F(BrowserTest, TheRemarkOnBitsWaitsForTheSelectionToBeMade) {
+  browse({anyEntry(16, 4), entryOf(anyPicture(32, 4), 16, 0)}, true);
+  EXPECT_STREQ(browser->remark(), "Select an icon, or append");
+  browser->clickIcon(0);
+  EXPECT_STREQ(browser->remark(), "* Remarks: Listed BPP as per original file only");
+}
+
 TEST_F(BrowserTest, OtherSizesAloneCanBeAddedTo) {
   browse({otherSize()}, true);
   EXPECT_TRUE(browser->canAdd());
+  EXPECT_STREQ(browser->remark(), "");
   EXPECT_FALSE(browser->hasSeveralIcons());
   boxes.expectAsked("Append to position ref 2.   \n\nConfirm?\n", BoxAnswer::Yes);
   browser->cmdSaveAdd(kSaveButton);

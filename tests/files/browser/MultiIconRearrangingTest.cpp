@@ -25,6 +25,10 @@ class BrowserRearrangingTest : public BrowserTest {
   void expectProceedAsked(BoxAnswer answer) {
     boxes.expectAsked(path + "\nProceed to save re-positioned sequence of icons in file?\n", answer);
   }
+  void expectChangeTold() {
+    boxes.expectTold(path + "\n\nThis file has been changed meanwhile.\nNothing has been written to it.",
+                     BoxIcon::None);
+  }
   // Reverses a file of three entries in the pane.
   void reverse() {
     browser->cmdReposition();
@@ -190,14 +194,15 @@ TEST_F(BrowserRearrangingTest, AFileThatTurnedReadOnlyIsReportedAndListedAsItIs)
   EXPECT_FALSE(state.screen.hourglass);
 }
 
-TEST_F(BrowserRearrangingTest, ARemovalThatFailsAndLeavesNoFileUnloads) {
+TEST_F(BrowserRearrangingTest, AFolderInThePlaceOfTheFileIsReportedAsAChangeAndTheImagesStayListed) {
   browse({a, b, c});
   std::filesystem::remove(path);
   std::filesystem::create_directory(path);
   expectRemovalAsked(BoxAnswer::Yes);
-  boxes.expectTold(kNotUpdated, BoxIcon::None);
+  expectChangeTold();
   browser->cmdRemove();
-  EXPECT_TRUE(listsNothingAndUnloaded());
+  EXPECT_EQ(browser->lisIcons().size(), 3U);
+  EXPECT_EQ(unloads, 0);
 }
 
 // Repositioning.
@@ -396,14 +401,85 @@ TEST_F(BrowserRearrangingTest, AWriteThatFailsIsError3AndTheFormerFileIsListed) 
   EXPECT_EQ(unloads, 0);
 }
 
-TEST_F(BrowserRearrangingTest, AFileThatVanishedOnThePaneIsWrittenAgain) {
-  browse({a, b, c});
+// Entries that state too few bytes.
+
+TEST_F(BrowserRearrangingTest, ImagesThatStateTooFewBytesAreWrittenWhole) {
+  Entry shortA = a, emptyC = c;
+  shortA.bytesInRes = 50;
+  emptyC.bytesInRes = 0;
+  browse({shortA, b, emptyC});
+  remove(1);
+  EXPECT_EQ(bytesOf(path), laidOut({a, c}));
+  browse({shortA, b, emptyC});
   reverse();
-  std::filesystem::remove(path);
   expectProceedAsked(BoxAnswer::Yes);
   boxes.expectTold("Repositioned icons sequence in " + path + "\n", BoxIcon::None);
   browser->cmdRepositionProceed();
   EXPECT_EQ(bytesOf(path), laidOut({c, b, a}));
+}
+
+// Files that another program changes.
+
+TEST_F(BrowserRearrangingTest, AFileThatVanishedOnThePaneIsNotWrittenAndItsImagesStayListed) {
+  browse({a, b, c});
+  reverse();
+  std::filesystem::remove(path);
+  expectProceedAsked(BoxAnswer::Yes);
+  expectChangeTold();
+  browser->cmdRepositionProceed();
+  EXPECT_FALSE(std::filesystem::exists(path));
+  EXPECT_TRUE(browser->showsReposition());
+  browser->cmdRepositionAbort();
+  EXPECT_EQ(browser->lisIcons().size(), 3U);
+  dialogs.paths = {folder.path("rescued.ico")};
+  browser->clickIcon(1);
+  browser->cmdSaveSingle();
+  EXPECT_EQ(bytesOf(folder.path("rescued.ico")), build(b));
+}
+
+TEST_F(BrowserRearrangingTest, AnEntryThatAnotherProgramAddedStaysAndIsListed) {
+  const Bytes changed = laidOut({anyEntry(24, 4), a, b, c});
+  browse({a, b, c});
+  folder.write("tools.ico", changed);
+  browser->clickIcon(0);
+  expectRemovalAsked(BoxAnswer::Yes);
+  expectChangeTold();
+  browser->cmdRemove();
+  EXPECT_EQ(bytesOf(path), changed);
+  EXPECT_EQ(browser->lisIcons().size(), 4U);
+
+  browse({a, b, c});
+  reverse();
+  folder.write("tools.ico", changed);
+  expectProceedAsked(BoxAnswer::Yes);
+  expectChangeTold();
+  browser->cmdRepositionProceed();
+  EXPECT_EQ(bytesOf(path), changed);
+  EXPECT_FALSE(browser->showsReposition());
+  EXPECT_EQ(browser->lisIcons().size(), 4U);
+}
+
+TEST_F(BrowserRearrangingTest, APictureThatAnotherProgramChangedIsNotRemoved) {
+  browse({a, b, c});
+  Bytes changed = laidOut({a, b, c});
+  changed.back() ^= 0xFF;
+  folder.write("tools.ico", changed);
+  browser->clickIcon(2);
+  expectRemovalAsked(BoxAnswer::Yes);
+  expectChangeTold();
+  browser->cmdRemove();
+  EXPECT_EQ(bytesOf(path), changed);
+}
+
+TEST_F(BrowserRearrangingTest, AfterTheMessageTheFileAsItIsNowCanBeChanged) {
+  browse({a, b});
+  folder.write("tools.ico", laidOut({a, b, c}));
+  browser->clickIcon(0);
+  expectRemovalAsked(BoxAnswer::Yes);
+  expectChangeTold();
+  browser->cmdRemove();
+  remove(0);
+  EXPECT_EQ(bytesOf(path), laidOut({b, c}));
 }
 
 }  // namespace

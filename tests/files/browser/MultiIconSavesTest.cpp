@@ -31,6 +31,9 @@ class BrowserSavesTest : public BrowserTest {
     return "Single-icon files will be saved as " + target + "_(Size)_(Color), ...\nTotally " + std::to_string(count) +
            " items on list.\n\nProceed?";
   }
+  static std::string holds(int container) {
+    return "Container " + std::to_string(container) + " holds an icon of this file.\nProceed?";
+  }
   void split(int count, BoxAnswer answer = BoxAnswer::Yes, const std::string& report = {}) {
     fs::create_directory(folder.path("out"));
     dialogs.paths.push_back(folder.path("out"));
@@ -100,10 +103,10 @@ TEST_F(BrowserSavesTest, EntryAndImageAreCopiedWithTheirLies) {
   EXPECT_EQ(bytesOf(folder.path("one.ico")), expected);
 }
 
-TEST_F(BrowserSavesTest, AnImageHasTheBytesThatItsEntryTells) {
+TEST_F(BrowserSavesTest, AnImageHasTheBytesThatItsEntryTellsButNoFewerThanItNeeds) {
   Entry longer = anyEntry(32, 4), shorter = anyEntry(16, 4);
   longer.bytesInRes = static_cast<std::uint32_t>(longer.image.size() + 20);  // extends into the next image
-  shorter.bytesInRes = 50;
+  shorter.bytesInRes = 50;                                                   // readers show it all the same
   const Bytes file = build(iconFile({longer, shorter}));
   browse(file);
   save("long.ico");
@@ -112,7 +115,7 @@ TEST_F(BrowserSavesTest, AnImageHasTheBytesThatItsEntryTells) {
   const Bytes saved = bytesOf(folder.path("long.ico"));
   ASSERT_EQ(saved.size(), 22 + longer.image.size() + 20);
   EXPECT_TRUE(std::equal(saved.begin() + 22, saved.end(), file.begin() + 6 + 2 * 16));
-  EXPECT_EQ(fs::file_size(folder.path("short.ico")), 22u + 50u);
+  EXPECT_EQ(bytesOf(folder.path("short.ico")), build(anyEntry(16, 4)));
 }
 
 TEST_F(BrowserSavesTest, AReadOnlyTargetIsReportedAndKept) {
@@ -152,7 +155,38 @@ TEST_F(BrowserSavesTest, WhatIsSavedOverTheListedFileIsListed) {
   EXPECT_EQ(browser->selectedIcon(), 0);
 }
 
+TEST_F(BrowserSavesTest, AFileOfAContainerIsNotWrittenOverWithoutAQuestion) {
+  browse({anyEntry(16, 4), anyEntry(32, 8)});
+  const std::string held = folder.write("held.ico", {'o', 'l', 'd'});
+  state.mIconRecs[0].path = held;  // the current container, whose icon is not the one that is saved
+  boxes.expectAsked(holds(1), BoxAnswer::No);
+  save("held.ico");
+  EXPECT_EQ(bytesOf(held), (Bytes{'o', 'l', 'd'}));
+  boxes.expectAsked(holds(1), BoxAnswer::Yes);
+  save("held.ico");
+  EXPECT_EQ(bytesOf(held), build(anyEntry(32, 8)));
+}
+
 // Split Save.
+
+TEST_F(BrowserSavesTest, OneQuestionPrecedesASplitOverFilesOfContainers) {
+  browse({anyEntry(16, 4), anyEntry(32, 24), anyEntry(48, 1)});
+  state.mIconRecs[2].path = folder.path("out/tools_48_2.ico");
+  state.mIconRecs[4].path = folder.path("out/tools_32_24bpp.ico");
+  fs::create_directory(folder.path("out"));
+  folder.write("out/tools_48_2.ico", {'o', 'l', 'd'});
+  const auto splitAnswered = [&](BoxAnswer answer) {
+    dialogs.paths.push_back(folder.path("out"));
+    boxes.expectAsked(question(folder.path("out/tools"), 3), BoxAnswer::Yes);
+    boxes.expectAsked(holds(5), answer);
+    browser->cmdSplitSave();
+  };
+  splitAnswered(BoxAnswer::No);
+  EXPECT_EQ(namesSplit(), Items{"tools_48_2.ico"});
+  EXPECT_EQ(bytesOf(folder.path("out/tools_48_2.ico")), (Bytes{'o', 'l', 'd'}));
+  splitAnswered(BoxAnswer::Yes);
+  EXPECT_EQ(namesSplit().size(), 3U);
+}
 
 TEST_F(BrowserSavesTest, SplitsTheListedEntriesIntoFiles) {
   const Bytes file = build(iconFile({anyEntry(16, 4), anyEntry(64, 8), anyEntry(32, 24), anyEntry(48, 1)}));

@@ -29,6 +29,10 @@ class IconSaverTest : public FilesTest {
     record().path = path;
     return saver.proposedName(mode);
   }
+  void copyFromContainer2(const std::string& path);
+  static std::string holds(int container) {
+    return "Container " + std::to_string(container) + " holds an icon of this file.\nProceed?";
+  }
   // A pixel of a bitmap file of any depth; (0, 0) is the top left one.
   Color bitmapPixel(const std::string& path, int x, int y) {
     const Bytes b = bytesOf(path);
@@ -160,6 +164,108 @@ TEST_F(IconSaverTest, SaveAsksForANameInEveryOtherCase) {
   saver.doFileSave();
   EXPECT_EQ(dialogs.requests.size(), 3u);
   EXPECT_TRUE(saver.mSaveFailed());
+}
+
+TEST_F(IconSaverTest, AFileThatIsNoFileOfOneIconAnyMoreGoesToAnotherName) {
+  const std::string path = given(anyEntry(32, 4));
+  IcoFile cursor{{anyEntry(32, 4)}, 0, 2, {}};
+  for (const Bytes& changed : {build(IcoFile{{anyEntry(16, 4), anyEntry(32, 4)}, 0, 1, {}}), build(cursor),
+                               Bytes{'t', 'e', 'x', 't'}, Bytes{}}) {
+    folder.write("given.ico", changed);
+    record().modified = true;
+    boxes.expectTold(path + "\n\nThis file has been changed meanwhile.\nNothing has been written to it.",
+                     BoxIcon::None);
+    dialogs.paths = {""};
+    saver.doFileSave();
+    EXPECT_TRUE(saver.mSaveFailed());
+    EXPECT_TRUE(record().modified);
+    EXPECT_EQ(dialogs.requests.back().fileName, "given");
+    EXPECT_EQ(bytesOf(path), changed);
+  }
+}
+
+TEST_F(IconSaverTest, AFileOfOneOtherIconIsStillItsOwn) {
+  const std::string path = given(anyEntry(32, 4));
+  folder.write("given.ico", build(anyEntry(16, 8)));
+  saver.doFileSave();
+  EXPECT_EQ(bytesOf(path)[6], 32);
+}
+
+// Files of other containers.
+
+// "Copy To Container" leaves such a record.
+void IconSaverTest::copyFromContainer2(const std::string& path) {
+  state.mIconRecs[1] = record();
+  record().neverSaved = record().modified = true;
+  ASSERT_EQ(record().path.trimmed(), path);
+}
+
+TEST_F(IconSaverTest, ACopyAsksBeforeItsFirstSaveOverTheFileAndThenNoMore) {
+  const std::string path = given(anyEntry(32, 4));
+  const Bytes before = bytesOf(path);
+  copyFromContainer2(path);
+  state.picImage.fill(kWhite);
+  boxes.expectAsked(holds(2), BoxAnswer::No);
+  saver.doFileSave();
+  EXPECT_TRUE(saver.mSaveFailed());
+  EXPECT_TRUE(record().modified && record().neverSaved);
+  EXPECT_EQ(bytesOf(path), before);
+  boxes.expectAsked(holds(2), BoxAnswer::Yes);
+  saver.doFileSave();
+  EXPECT_FALSE(record().modified || record().neverSaved);
+  EXPECT_NE(bytesOf(path), before);
+  saver.doFileSave();
+  EXPECT_FALSE(record().neverSaved);
+}
+
+TEST_F(IconSaverTest, ACopyWhoseOriginalIsGoneFromThePanelAsksWhetherToOverwriteItsFile) {
+  const std::string path = given(anyEntry(32, 4));
+  copyFromContainer2(path);
+  state.mIconRecs[1] = {};
+  boxes.expectAsked(path + " already in existence.\n\nOverwrite?\n", BoxAnswer::No);
+  saver.doFileSave();
+  EXPECT_TRUE(saver.mSaveFailed());
+  EXPECT_TRUE(record().neverSaved);
+  boxes.expectAsked(path + " already in existence.\n\nOverwrite?\n", BoxAnswer::Yes);
+  saver.doFileSave();
+  EXPECT_FALSE(record().neverSaved);
+}
+
+TEST_F(IconSaverTest, TheContainerThatOpenedTheFileSavesThereWithoutAQuestion) {
+  const std::string path = given(anyEntry(32, 4));
+  state.mIconRecs[1] = record();
+  state.mIconRecs[1].neverSaved = true;
+  record().modified = true;
+  saver.doFileSave();
+  EXPECT_FALSE(record().modified);
+}
+
+TEST_F(IconSaverTest, SaveAsAsksOnceBeforeItWritesOverAFileOfOtherContainers) {
+  given(anyEntry(32, 4));
+  const std::string other = folder.write("other.ico", {'o', 'l', 'd'});
+  fs::create_symlink(other, folder.path("link.ico"));
+  state.mIconRecs[3].path = state.mIconRecs[4].path = other;
+  for (const SaveMode mode : {SaveMode::Icon, SaveMode::Cursor, SaveMode::Mask}) {
+    for (const std::string& path : {other, folder.path("link.ico")}) {
+      dialogs.paths = {path};
+      boxes.expectAsked(holds(4), BoxAnswer::No);
+      saver.doSaveAs(mode);
+      EXPECT_TRUE(saver.mSaveFailed());
+      EXPECT_EQ(bytesOf(other), (Bytes{'o', 'l', 'd'}));
+    }
+  }
+  dialogs.paths = {other};
+  boxes.expectAsked(holds(4), BoxAnswer::Yes);
+  saver.doSaveAs(SaveMode::Icon);
+  EXPECT_EQ(record().path.trimmed(), other);
+}
+
+TEST_F(IconSaverTest, SaveAsOverTheIconsOwnFileAsksNothing) {
+  const std::string path = given(anyEntry(32, 4));
+  record().modified = true;
+  dialogs.paths = {path};
+  saver.doSaveAs(SaveMode::Icon);
+  EXPECT_FALSE(record().modified);
 }
 
 TEST_F(IconSaverTest, SaveAsOffersANameAndSaves) {

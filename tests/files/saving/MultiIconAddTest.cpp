@@ -191,7 +191,7 @@ TEST_F(MultiIconAddTest, AFileOfAnotherContainerIsRefused) {
   fs::create_symlink(target, folder.path("link.ico"));
   state.mIconRecs[3].path = target;
   for (const std::string& path : {target, folder.path("link.ico")}) {
-    expectRefusal(openedInPanel(4));
+    expectRefusal(openedInPanel("File being added to", 4));
     addTo(path);
   }
 }
@@ -258,6 +258,51 @@ TEST_F(MultiIconAddTest, AFileThatChangesInTheBrowserIsReported) {
   EXPECT_EQ(bytesOf(target), build(two.entries[0]));
 }
 
+TEST_F(MultiIconAddTest, AFileThatAnotherProgramChangesWhileItIsListedKeepsWhatWasAdded) {
+  IcoFile added = two;
+  added.entries.insert(added.entries.begin(), entryOf(anyPicture(24, 8)));
+  Bytes repainted = build(two);
+  repainted.back() ^= 0xFF;
+  for (const Bytes& changed : {build(added), repainted}) {
+    for (const std::string answer : {"1/1", "1/3", "2/1"}) {
+      folder.write("two.ico", build(two));
+      user.push_back([&] { folder.write("two.ico", changed), answers(answer); });
+      expectRefusal(target + "\n\nThis file has been changed meanwhile.\nNothing has been written to it.");
+      dialogs.paths = {};
+      if (answer[0] == '2') dialogs.paths = {folder.path("other.ico")};
+      addTo(target);
+      EXPECT_EQ(bytesOf(target), changed);
+      EXPECT_FALSE(fs::exists(folder.path("other.ico")));
+      EXPECT_TRUE(record().modified);
+    }
+  }
+}
+
+TEST_F(MultiIconAddTest, AnEntryRemovedInTheBrowserItselfIsNoChangeOfAnotherProgram) {
+  user.push_back([&] {
+    MultiIconBrowser browser(files.context());
+    browser.activate();
+    browser.clickIcon(0);
+    boxes.expectAsked("Permanently remove the selected icon from the multi-icon file.\n" + target +
+                          "\n\nSure to remove this icon permanently?\n\n",
+                      BoxAnswer::Yes);
+    browser.cmdRemove();
+    boxes.expectAsked("Append to position ref 2.   \n\nConfirm?\n", BoxAnswer::Yes);
+    browser.cmdSaveAdd(kSaveButton);
+  });
+  addTo(target);
+  EXPECT_EQ(bytesOf(target), build(fileOf({two.entries[1], icon})));
+}
+
+TEST_F(MultiIconAddTest, ImagesThatStateTooFewBytesAreWrittenWhole) {
+  IcoFile tooShort = two;
+  tooShort.entries[0].bytesInRes = 50;
+  tooShort.entries[1].bytesInRes = 0;
+  folder.write("two.ico", build(tooShort));
+  add("1/2");
+  EXPECT_EQ(bytesOf(target), twoWith(icon, 1));
+}
+
 TEST_F(MultiIconAddTest, SaveAsGoesToACopy) {
   const std::string other = folder.path("other.ico");
   dialogs.paths = {other};
@@ -277,17 +322,41 @@ TEST_F(MultiIconAddTest, SaveAsUnderTheSameNameIsASave) {
   EXPECT_EQ(bytesOf(target), twoWith(icon, 2));
 }
 
-TEST_F(MultiIconAddTest, MessagesArePumpedOnceMoreForACopy) {
-  const auto pumpsOf = [this](const std::string& answer, const std::string& chosen) {
-    folder.write("two.ico", build(two));
-    dialogs.paths = {chosen};
-    const int before = pump.pumps;
-    add(answer);
-    return pump.pumps - before;
-  };
-  const int pumpsOfASave = pumpsOf("2/3", target);
-  pump.inside = [&] { EXPECT_EQ(bytesOf(folder.path("other.ico")), build(two)) << "the copy is there by then"; };
-  EXPECT_EQ(pumpsOf("2/3", folder.path("other.ico")), pumpsOfASave + 1);
+TEST_F(MultiIconAddTest, SaveAsThatFailsInThePreparationLeavesNoCopy) {
+  const std::string old = folder.write("old.ico", {'o', 'l', 'd'});
+  MultiIconCommands elsewhere{files.context(), folder.path("no/gptmp.ico")};
+  for (const std::string& other : {folder.path("other.ico"), old}) {
+    userAnswers("2/1");
+    dialogs.paths = {target, other};
+    expectFailure(kNotPrepared);
+    elsewhere.doMnuFileSaveMultiIconAddTo();
+  }
+  EXPECT_FALSE(fs::exists(folder.path("other.ico")));
+  EXPECT_EQ(bytesOf(old), (Bytes{'o', 'l', 'd'}));
+  EXPECT_EQ(bytesOf(target), build(two));
+}
+
+TEST_F(MultiIconAddTest, SaveAsThatFailsInWritingTheNewEntryLeavesNoCopy) {
+  const std::string other = folder.path("other.ico");
+  dialogs.paths = {other};
+  expectFailure(kNotWritten);
+  const FullDisk full(build(two).size() + 100);  // room for a copy without the new entry
+  add("2/1");
+  EXPECT_FALSE(fs::exists(other));
+  EXPECT_TRUE(record().modified);
+}
+
+TEST_F(MultiIconAddTest, SaveAsFromTheScratchFileOrOverItLosesNeither) {
+  folder.write("gptmp.ico", build(two));
+  for (const auto& [from, to] : {std::pair(scratch, folder.path("other.ico")), std::pair(target, scratch)}) {
+    userAnswers("2/1");
+    dialogs.paths = {to};
+    expectFailure(kNotPrepared);
+    addTo(from);
+    EXPECT_EQ(bytesOf(scratch), build(two));
+  }
+  EXPECT_FALSE(fs::exists(folder.path("other.ico")));
+  fs::remove(scratch);
 }
 
 TEST_F(MultiIconAddTest, SaveAsOverAnotherFileLeavesNothingOfIt) {
@@ -301,7 +370,7 @@ TEST_F(MultiIconAddTest, SaveAsAsksAgainForFilesThatAreInThePanel) {
   const std::string loaded = folder.write("loaded.ico", build(two)), other = folder.path("other.ico");
   state.mIconRecs[2].path = loaded;
   expectRefusal(kOwnFile);
-  expectRefusal(openedInPanel(3));
+  expectRefusal(openedInPanel("File being added to", 3));
   dialogs.paths = {folder.path("own.ico"), loaded, other};
   add("2/1");
   EXPECT_EQ(bytesOf(folder.path("own.ico")), build(icon));

@@ -1,4 +1,4 @@
-#include "files/MultiIconFixture.h"
+#include "files/MultiIconReplaceFixture.h"
 #include "support/FullDisk.h"
 
 namespace gp::test {
@@ -6,59 +6,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr Rgb kMark{9, 8, 7, 2};
-
-std::string question(int ref) {
-  const std::string number = std::to_string(ref);
-  return "The current icon is originated from Index Ref. " + number +
-         " in the multi-icon file.\nThe file saved will have the current icon replacing its original one in\n"
-         "the file, i.e. Ref " +
-         number +
-         ", while others remain unchanged.   (You can run\n\"Enquiry - Show Icons In Multi-Icon File\" to inspect the "
-         "original icon)\n\nProceed?\n";
-}
-
-std::string sameIcon(const std::string& what) {
-  return what +
-         "\n\nIcon of same size and color palette already in original multi-file.\n"
-         "Multi-icon file cannot have two icons of identical size and color depth.\n\n"
-         "You may save to a single-icon file or change color-depth first (to see\n"
-         "original color-depth, click Enquiry menu).\n";
-}
-
-constexpr const char* kChanged =
-    "The original multi-icon file has been changed meanwhile.\nCannot proceed to save current icon back.";
 constexpr const char* kReadOnly = "File is read-only.";
 constexpr const char* kNotWritten = "Failed to save current icon - at writing stage";
 constexpr const char* kNotPrepared = "Failed to save current icon - preparation";
 constexpr const char* kNotReopened = "Failed to save current icon - at re-opening original file stage";
-
-class MultiIconReplaceTest : public MultiIconTest {
- protected:
-  // 16 colours of 32x32, true colour of 16x16, 256 colours of 48x48.
-  const IcoFile three = fileOf({entryOf(anyPicture(32, 4)), entryOf(anyPicture(16, 24)), entryOf(anyPicture(48, 8))});
-
-  ~MultiIconReplaceTest() override { EXPECT_TRUE(scratchIsGone()); }
-  // The file of `three` with another second entry.
-  Bytes threeWith(const Entry& second) const {
-    IcoFile file = three;
-    file.entries[1] = second;
-    return build(file);
-  }
-  std::string givenSecond() {
-    const std::string path = givenEntry(three, 1);
-    state.picImage.SetPixelV(1, 0, rgb(kMark.r, kMark.g, kMark.b));
-    return path;
-  }
-  void mark() { state.picImage.SetPixelV(1, 0, rgb(kMark.r, kMark.g, kMark.b)); }
-  void replace() { files.multiIcon.doMnuFileSaveMultiIconReplace(); }
-  void replaceOnto(const std::string& path, int ref) {
-    boxes.expectAsked(question(ref), BoxAnswer::Yes);
-    dialogs.paths = {path};
-    replace();
-  }
-  void expectFailure(const std::string& text) { boxes.expectTold(text, BoxIcon::Exclamation); }
-};
 
 TEST_F(MultiIconReplaceTest, AnImageOfTheSameSizeLeavesAllOffsetsAndOtherImages) {
   const std::string path = givenSecond();
@@ -132,13 +83,14 @@ TEST_F(MultiIconReplaceTest, AnIconWithAlphaGoesInWithItsAlpha) {
 }
 
 TEST_F(MultiIconReplaceTest, ReservedFieldAndPlanesOfTheEntryStay) {
-  const std::string path = givenSecond();
   Bytes bytes = build(three), expected = threeWith(entryOf(markedPicture(16, 24, kMark)));
   for (Bytes* file : {&bytes, &expected}) {
     (*file)[6 + 16 + 3] = 7;
     (*file)[6 + 16 + 4] = 3;
   }
-  folder.write("multi.ico", bytes);
+  const std::string path = folder.write("multi.ico", bytes);
+  holdEntry(path, three, 1);
+  mark();
   replaceOnto(path, 2);
   EXPECT_EQ(bytesOf(path), expected);
 }
@@ -179,7 +131,7 @@ TEST_F(MultiIconReplaceTest, AnotherFileOfAnotherContainerIsRefusedHoweverItIsRe
   state.mIconRecs[3].path = other;
   for (const std::string& path : {other, folder.path("link.ico")}) {
     boxes.expectAsked(question(2), BoxAnswer::Yes);
-    boxes.expectTold(openedInPanel(4), BoxIcon::None);
+    boxes.expectTold(openedInPanel("File being saved to", 4), BoxIcon::None);
     dialogs.paths = {path};
     replace();
     EXPECT_EQ(bytesOf(other), build(three));
@@ -226,12 +178,33 @@ TEST_F(MultiIconReplaceTest, TheDialogOffersTheFilesNameInItsFolder) {
   dialogs.paths = {""};
   replace();
   ASSERT_EQ(dialogs.requests.size(), 1u);
-  EXPECT_EQ(dialogs.requests[0].fileName, "multi");
+  EXPECT_EQ(dialogs.requests[0].fileName, "multi.ico");
   EXPECT_EQ(dialogs.requests[0].folder, folder.folder() + "/");
   EXPECT_EQ(dialogs.requests[0].defaultExtension, "ico");
   EXPECT_EQ(dialogs.requests[0].filters, (std::vector<FileFilter>{{"Icon files (*.ico)", "*.ico"}, {"(*.*)", "*.*"}}));
   EXPECT_EQ(bytesOf(path), build(three));
   EXPECT_TRUE(record().modified);
+}
+
+// The dialog adds an extension to a name that its filter does not list, and to one without any.
+TEST_F(MultiIconReplaceTest, TheDialogOffersTheNameAsItIsAndAddsNothingToIt) {
+  using Filters = std::vector<FileFilter>;
+  const FileFilter iconFiles{"Icon files (*.ico)", "*.ico"}, allFiles{"(*.*)", "*.*"};
+  struct Case {
+    const char* name;
+    Filters filters;
+    const char* extension;
+  };
+  for (const Case& c : {Case{"MULTI.ICO", {iconFiles, allFiles}, "ico"}, Case{"a.b.Ico", {iconFiles, allFiles}, "ico"},
+                        Case{"multi.dat", {allFiles, iconFiles}, "ico"}, Case{"multi", {allFiles, iconFiles}, ""}}) {
+    givenEntry(three, 1, c.name);
+    boxes.expectAsked(question(2), BoxAnswer::Yes);
+    dialogs.paths = {""};
+    replace();
+    EXPECT_EQ(dialogs.requests.back().fileName, c.name);
+    EXPECT_EQ(dialogs.requests.back().filters, c.filters) << c.name;
+    EXPECT_EQ(dialogs.requests.back().defaultExtension, c.extension) << c.name;
+  }
 }
 
 TEST_F(MultiIconReplaceTest, NoEndsBeforeAnyDialog) {
@@ -316,18 +289,6 @@ TEST_F(MultiIconReplaceTest, AFileThatLostTheEntryIsReportedAsChangedUnlessAnoth
   boxes.expectAsked(question(3), BoxAnswer::Yes);
   boxes.expectTold(sameIcon("True Color 24 BPP 48 x 48"), BoxIcon::None);
   replace();
-}
-
-TEST_F(MultiIconReplaceTest, AFileThatChangesWhileTheNameIsAskedForIsNotWritten) {
-  const std::string path = givenSecond();
-  const Bytes changed = build(fileOf({three.entries[1], three.entries[0], three.entries[2]}));
-  dialogs.inside = [&] { folder.write("multi.ico", changed); };
-  boxes.expectAsked(question(2), BoxAnswer::Yes);
-  boxes.expectTold(kChanged, BoxIcon::None);
-  dialogs.paths = {path};
-  replace();
-  EXPECT_EQ(bytesOf(path), changed);
-  EXPECT_TRUE(record().modified);
 }
 
 TEST_F(MultiIconReplaceTest, AFileThatGoesWhileTheNameIsAskedForIsReported) {

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <optional>
 
-namespace gp::cli {
+namespace gp {
 
 struct ImageHeader {
   bool isPng = false;
@@ -31,4 +31,4 @@ struct ImageHeader {
 // Empty when the file ends before the header does.
 std::optional<ImageHeader> readImageHeader(const IconFile& file, const IconEntry& entry);
 
-}  // namespace gp::cli
+}  // namespace gp

@@ -1,4 +1,4 @@
-#include "cli/ImageHeader.h"
+#include "files/format/ImageHeader.h"
 
 #include "files/format/IcoLayout.h"
 #include "platform/files/ByteReader.h"
@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <array>
 
-namespace gp::cli {
+namespace gp {
 namespace {
 
 // Offsets in a PNG picture, whose numbers are big-endian.
@@ -72,4 +72,4 @@ std::optional<ImageHeader> readImageHeader(const IconFile& file, const IconEntry
   return isPng ? readPngHeader(reader, at) : readBitmapHeader(reader, at);
 }
 
-}  // namespace gp::cli
+}  // namespace gp
