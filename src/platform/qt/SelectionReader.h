@@ -1,5 +1,5 @@
-// Reads what another program offers on the clipboard of an X server, over a connection of its own. Unlike Qt's reader
-// it waits no longer and reads no more than it is told.
+// Reads what another program offers on the clipboard of an X server, over a connection of its own. Unlike with Qt's
+// reader, the caller limits time and size.
 #pragma once
 
 #include <QByteArray>
