@@ -34,7 +34,7 @@ bool replaceIn(const std::string& path, int index, NewIcon icon, const std::stri
   if (!isNew(arrays, icon, index, path, SaveInto::Replace)) return false;
   takeWholeImages(arrays);
   replaceImage(arrays, index, std::move(icon.image));
-  return writeUpdate(arrays, path, output, notWrittenText(targetOf(path, output), SaveInto::Replace));
+  return writeUpdate(arrays, path, output, [&] { return notWrittenText(targetOf(path, output), SaveInto::Replace); });
 }
 
 // `ref` counts from 1.
@@ -59,7 +59,7 @@ bool addTo(const std::string& path, const NewIcon& icon, const Place& place, con
   if (index < 0 || index > arrays.count()) return refuse(path, addNoPositionText(path));
   takeWholeImages(arrays);
   insertImage(arrays, index, icon.image);
-  return writeUpdate(arrays, path, output, notWrittenText(targetOf(path, output), SaveInto::Add));
+  return writeUpdate(arrays, path, output, [&] { return notWrittenText(targetOf(path, output), SaveInto::Add); });
 }
 
 // False for an --image that is not a number.

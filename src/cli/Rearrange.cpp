@@ -23,8 +23,8 @@ int refuse(const std::string& file, const std::string& reason) {
 
 // Adds the reason to the error message if the file is read-only.
 int writeOrRefuse(IconArrays& arrays, const std::string& path, const std::string& output, const std::string& text) {
-  const bool isReadOnly = HasFileAttribute(targetOf(path, output));
-  return writeUpdate(arrays, path, output, isReadOnly ? text + "\n" + kReadOnly : text) ? kDone : kRefused;
+  const auto failure = [&] { return HasFileAttribute(targetOf(path, output)) ? text + "\n" + kReadOnly : text; };
+  return writeUpdate(arrays, path, output, failure) ? kDone : kRefused;
 }
 
 int removeFrom(const std::string& path, int index, const std::string& output) {

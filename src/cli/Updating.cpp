@@ -68,15 +68,14 @@ const std::string& targetOf(const std::string& path, const std::string& output) 
   return output.empty() ? path : output;
 }
 
-bool writeUpdate(IconArrays& arrays, const std::string& path, const std::string& output, const std::string& failure) {
+bool writeUpdate(IconArrays& arrays, const std::string& path, const std::string& output, const FailureText& failure) {
   const std::string& target = targetOf(path, output);
-  if (!isOrdinary(target)) {
-    complain(target, kNotOrdinary);
-    return false;
-  }
   const WriteDefect defect = output.empty() ? writeBack(arrays, path) : writeWholeFile(arrays, output);
   if (defect == WriteDefect::None) return true;
-  complain(target, defect == WriteDefect::Changed ? kChanged : failure);
+  if (defect == WriteDefect::Changed)
+    complain(target, kChanged);
+  else
+    complain(target, isOrdinary(target) ? failure() : kNotOrdinary);
   return false;
 }
 

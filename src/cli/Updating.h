@@ -6,6 +6,7 @@
 #include "files/format/IconArrays.h"
 #include "platform/files/FileLock.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -36,9 +37,11 @@ std::optional<FileLock> lockForUpdate(const std::string& path);
 
 // The file that an update writes: `output`, or the input file if that is empty.
 const std::string& targetOf(const std::string& path, const std::string& output);
+// The text for a failure, which can take a look at the file.
+using FailureText = std::function<std::string()>;
 // Writes the arrays, which were read from `path`, to that file. If this fails, the former content is kept, `failure` is
 // printed and the result is false.
 [[nodiscard]] bool writeUpdate(IconArrays& arrays, const std::string& path, const std::string& output,
-                               const std::string& failure);
+                               const FailureText& failure);
 
 }  // namespace gp::cli

@@ -24,10 +24,9 @@ class FailingCalls : public SystemCalls {
   int open(int folder, const char* name, int flags, mode_t mode) override {
     return fails() ? -1 : SystemCalls::open(folder, name, flags, mode);
   }
-  ssize_t write(int file, const void* bytes, std::size_t count, off_t position) override {
-    // Half of the bytes arrive before the failure.
-    if (isNext()) SystemCalls::write(file, bytes, count / 2, position);
-    return fails() ? -1 : SystemCalls::write(file, bytes, count, position);
+  ssize_t write(int file, const iovec* pieces, int count, off_t position) override {
+    if (isNext()) writeHalf(file, *pieces, position);
+    return fails() ? -1 : SystemCalls::write(file, pieces, count, position);
   }
   int resize(int file, off_t size) override { return fails() ? -1 : SystemCalls::resize(file, size); }
   int sync(int file) override { return fails() ? -1 : SystemCalls::sync(file); }
@@ -54,6 +53,11 @@ class FailingCalls : public SystemCalls {
   }
 
  private:
+  // Some bytes arrive before the failure.
+  void writeHalf(int file, iovec piece, off_t position) {
+    piece.iov_len /= 2;
+    SystemCalls::write(file, &piece, 1, position);
+  }
   bool isNext() const { return count_ + 1 == first_; }
   bool isDead() const { return failure_ == Failure::Death && first_ != 0 && count_ >= first_; }
   bool fails() {

@@ -19,6 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr mode_t kOwnerOnly = 0600;
 constexpr const char* kExtension = ".backup";
 
 // A backup is the path of its file, a zero byte, and the content.
@@ -53,7 +54,7 @@ bool isLeft(const std::string& backup) {
 
 }  // namespace
 
-Backup::Backup(Descriptor folder) : folder_(std::move(folder)), file_(folder_, TemporaryFile::Access::OwnerOnly) {}
+Backup::Backup(Descriptor folder) : folder_(std::move(folder)), file_(folder_, kOwnerOnly) {}
 
 std::unique_ptr<Backup> Backup::make(const std::string& path, Piece content) {
   const std::string folderPath = stateFolder();
@@ -70,7 +71,7 @@ bool Backup::write(const std::string& path, Piece content) {
   if (totalSize(pieces) > kMaxFileBytes) return false;
   if (!file_.isOpen() || flock(file_.number(), LOCK_EX | LOCK_NB) != 0) return false;
   if (!writePieces(file_.number(), pieces) || !file_.finish()) return false;
-  name_ = file_.takeRandomName(kExtension);
+  name_ = file_.takeAnyName(kExtension);
   return !name_.empty() && syncFolder(folder_);
 }
 

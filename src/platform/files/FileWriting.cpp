@@ -18,10 +18,8 @@ bool isRefused(int error) {
   return error == EACCES || error == EPERM || error == EROFS || error == EBUSY || error == EXDEV;
 }
 
-bool isStill(const WriteTarget& target, const std::optional<FileVersion>& read) {
-  if (!read) return true;
-  const auto now = statusOf(target);
-  return now && versionOf(*now) == *read;
+bool hasVersion(const std::optional<struct stat>& status, const FileVersion& version) {
+  return status && versionOf(*status) == version;
 }
 
 // What a file beside the target came to. Refused: nothing has changed, and the target can only be written in place.
@@ -32,14 +30,13 @@ Beside takeTheName(TemporaryFile& file, const WriteTarget& target) {
     if (file.takeNewName(target.name)) return Beside::Written;
     return errno == EEXIST ? Beside::AlreadyThere : Beside::Failed;
   }
-  if (!isStill(target, versionOf(*target.status))) return Beside::Changed;
+  if (!hasVersion(statusOf(target), versionOf(*target.status))) return Beside::Changed;
   if (file.takeName(target.name)) return Beside::Written;
   return isRefused(errno) ? Beside::Refused : Beside::Failed;
 }
 
 Beside writeBeside(const WriteTarget& target, Pieces pieces) {
-  const bool isPrivate = target.exists() || target.isPrivate;  // no one else may open it before it is complete
-  TemporaryFile file(target.folder, isPrivate ? TemporaryFile::Access::OwnerOnly : TemporaryFile::Access::AsUsual);
+  TemporaryFile file(target.folder, target.permissions());
   if (!file.isOpen()) return isRefused(errno) && target.exists() ? Beside::Refused : Beside::NotOpened;
   if (target.exists() && !file.takeOwnerAndMode(*target.status, target.permissions())) return Beside::Refused;
   if (target.exists()) file.takeAttributes(target.path());
@@ -77,7 +74,7 @@ bool isForeign(const WriteTarget& target) {
 
 WriteDefect writeTarget(std::optional<WriteTarget> target, Pieces pieces, const std::optional<FileVersion>& read) {
   if (!target || !target->mayBeWritten() || totalSize(pieces) > kMaxFileBytes) return WriteDefect::NotOpened;
-  if (!isStill(*target, read)) return WriteDefect::Changed;
+  if (read && !hasVersion(target->status, *read)) return WriteDefect::Changed;
   const Beside beside = hasOtherNames(*target) ? Beside::Refused : writeAndSync(*target, pieces);
   return beside == Beside::Refused ? writeInPlace(*target, pieces) : defectOf(beside);
 }

@@ -33,8 +33,8 @@ int SystemCalls::open(int folder, const char* name, int flags, mode_t mode) {
   return openat(folder, name, flags | O_CLOEXEC, mode);
 }
 
-ssize_t SystemCalls::write(int file, const void* bytes, std::size_t count, off_t position) {
-  return pwrite(file, bytes, count, position);
+ssize_t SystemCalls::write(int file, const iovec* pieces, int count, off_t position) {
+  return pwritev(file, pieces, count, position);
 }
 
 int SystemCalls::resize(int file, off_t size) { return ftruncate(file, size); }

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <sys/types.h>
+#include <sys/uio.h>
 
 namespace gp {
 
@@ -12,7 +13,8 @@ class SystemCalls {
   virtual ~SystemCalls() = default;
   // A name is relative to the folder, which may be AT_FDCWD.
   virtual int open(int folder, const char* name, int flags, mode_t mode);
-  virtual ssize_t write(int file, const void* bytes, std::size_t count, off_t position);
+  // Writes the pieces one after another.
+  virtual ssize_t write(int file, const iovec* pieces, int count, off_t position);
   virtual int resize(int file, off_t size);
   virtual int sync(int file);
   virtual int close(int file);

@@ -1,32 +1,30 @@
 #include "platform/files/TemporaryFile.h"
 
 #include <cerrno>
+#include <chrono>
 #include <fcntl.h>
-#include <random>
 #include <sys/xattr.h>
+#include <unistd.h>
 #include <vector>
 
 namespace gp {
 namespace {
 
-constexpr mode_t kOwnerOnly = 0600;
-constexpr mode_t kAsUsual = 0666;  // less the mask of the process
+constexpr mode_t kPermissionBits = 07777;
 constexpr int kMostTries = 100;
 
-std::string randomName() {
-  static constexpr char kLetters[] = "abcdefghijklmnopqrstuvwxyz0123456789";
-  std::random_device random;
-  std::uniform_int_distribution<std::size_t> place(0, sizeof(kLetters) - 2);
-  std::string name = ".glimmerpane-";
-  for (int i = 0; i < 12; ++i) name += kLetters[place(random)];
-  return name;
+// A name that no other call gives. One that is taken all the same is noticed: names are only taken exclusively.
+std::string newName() {
+  static int count = 0;
+  const auto now = std::chrono::system_clock::now().time_since_epoch().count();
+  return ".glimmerpane-" + std::to_string(getpid()) + "-" + std::to_string(now) + "-" + std::to_string(++count);
 }
 
-// Calls `attempt` with random names until one is free.
+// Calls `attempt` with new names until one is free.
 template <class Attempt>
 bool tryNames(Attempt attempt) {
   for (int i = 0; i < kMostTries; ++i) {
-    if (attempt(randomName())) return true;
+    if (attempt(newName())) return true;
     if (errno != EEXIST) return false;
   }
   return false;
@@ -37,20 +35,21 @@ bool needsName(int error) {
   return error == EOPNOTSUPP || error == EISDIR || error == EINVAL || error == ENOENT || error == ENOSYS;
 }
 
+// One call for a file without attributes, which most are.
 std::vector<char> attributeNames(const std::string& path) {
-  const ssize_t size = listxattr(path.c_str(), nullptr, 0);
-  std::vector<char> names(size > 0 ? static_cast<std::size_t>(size) : 0);
-  const ssize_t read = listxattr(path.c_str(), names.data(), names.size());
+  const ssize_t size = llistxattr(path.c_str(), nullptr, 0);
+  if (size <= 0) return {};
+  std::vector<char> names(static_cast<std::size_t>(size));
+  const ssize_t read = llistxattr(path.c_str(), names.data(), names.size());
   names.resize(read > 0 ? static_cast<std::size_t>(read) : 0);
   return names;
 }
 
 }  // namespace
 
-TemporaryFile::TemporaryFile(const Descriptor& folder, Access access) : folder_(folder) {
-  const mode_t mode = access == Access::OwnerOnly ? kOwnerOnly : kAsUsual;
-  file_ = Descriptor(systemCalls().open(folder.number(), ".", O_TMPFILE | O_WRONLY, mode));
-  if (!file_.isOpen() && needsName(errno)) openNamed(mode);
+TemporaryFile::TemporaryFile(const Descriptor& folder, mode_t permissions) : folder_(folder) {
+  file_ = Descriptor(systemCalls().open(folder.number(), ".", O_TMPFILE | O_WRONLY, permissions));
+  if (!file_.isOpen() && needsName(errno)) openNamed(permissions);
 }
 
 TemporaryFile::~TemporaryFile() {
@@ -70,15 +69,16 @@ bool TemporaryFile::takeOwnerAndMode(const struct stat& status, mode_t permissio
   if (fstat(file_.number(), &own) != 0) return false;
   const bool isOwned = own.st_uid == status.st_uid && own.st_gid == status.st_gid;
   if (!isOwned && systemCalls().changeOwner(file_.number(), status.st_uid, status.st_gid) != 0) return false;
-  return systemCalls().changeMode(file_.number(), permissions) == 0;
+  const bool hasPermissions = isOwned && (own.st_mode & kPermissionBits) == permissions;
+  return hasPermissions || systemCalls().changeMode(file_.number(), permissions) == 0;
 }
 
 void TemporaryFile::takeAttributes(const std::string& path) {
   const std::vector<char> names = attributeNames(path);
   for (std::size_t at = 0; at < names.size(); at += std::string_view(&names[at]).size() + 1) {
-    const ssize_t size = getxattr(path.c_str(), &names[at], nullptr, 0);
+    const ssize_t size = lgetxattr(path.c_str(), &names[at], nullptr, 0);
     std::vector<char> value(size > 0 ? static_cast<std::size_t>(size) : 0);
-    const ssize_t read = getxattr(path.c_str(), &names[at], value.data(), value.size());
+    const ssize_t read = lgetxattr(path.c_str(), &names[at], value.data(), value.size());
     if (read >= 0) systemCalls().setAttribute(file_.number(), &names[at], value.data(), static_cast<std::size_t>(read));
   }
 }
@@ -105,7 +105,7 @@ bool TemporaryFile::takeNewName(const std::string& name) {
   return true;
 }
 
-std::string TemporaryFile::takeRandomName(const std::string& extension) {
+std::string TemporaryFile::takeAnyName(const std::string& extension) {
   std::string taken;
   tryNames([this, &extension, &taken](const std::string& name) {
     if (!takeNewName(name + extension)) return false;

@@ -12,9 +12,8 @@ namespace gp {
 
 class TemporaryFile {
  public:
-  enum class Access { AsUsual, OwnerOnly };
   // `folder` must outlive this object. When it cannot be made, isOpen is false and errno has the reason.
-  TemporaryFile(const Descriptor& folder, Access access);
+  TemporaryFile(const Descriptor& folder, mode_t permissions);
   ~TemporaryFile();
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
@@ -33,8 +32,8 @@ class TemporaryFile {
   // EEXIST, takeNewName may be called again with another name.
   bool takeName(const std::string& name);
   bool takeNewName(const std::string& name);
-  // Takes a new name of random letters with an extension. Returns it; empty on failure.
-  std::string takeRandomName(const std::string& extension);
+  // Takes any new name with an extension. Returns it; empty on failure.
+  std::string takeAnyName(const std::string& extension);
 
  private:
   bool openNamed(mode_t mode);

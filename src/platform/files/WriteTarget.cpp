@@ -10,6 +10,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr mode_t kPermissionBits = 07777;
+constexpr mode_t kUsualPermissions = 0666;  // less the mask of the process
+constexpr mode_t kOwnerOnly = 0700;
 constexpr int kMostLinks = 40;  // as many as the system follows
 
 std::optional<fs::path> resolved(fs::path path) {
@@ -31,6 +34,11 @@ Descriptor openFolder(const std::string& path) {
 }
 
 }  // namespace
+
+mode_t WriteTarget::permissions() const {
+  const mode_t former = status ? status->st_mode & kPermissionBits : kUsualPermissions;
+  return isPrivate ? former & kOwnerOnly : former;
+}
 
 bool WriteTarget::mayBeWritten() const {
   return !status || (S_ISREG(status->st_mode) && (status->st_mode & S_IWUSR) != 0);

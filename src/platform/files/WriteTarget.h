@@ -19,8 +19,8 @@ struct WriteTarget {
 
   std::string path() const { return folderPath + "/" + name; }
   bool exists() const { return status.has_value(); }
-  // The permissions of the new content, when there is a former one.
-  mode_t permissions() const { return status->st_mode & (isPrivate ? 0700 : 07777); }
+  // The permissions of the file with the new content.
+  mode_t permissions() const;
   // True for a new name and for an ordinary file that its owner may write.
   bool mayBeWritten() const;
 };
