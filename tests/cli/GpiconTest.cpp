@@ -134,6 +134,26 @@ TEST_F(Gpicon, JsonNamesSurviveQuotesControlsAndForeignBytes) {
   EXPECT_NE(o.out.find("q\\\"b\\\\t\\u0009n\xC3\xA4r\\udcff.ico\""), std::string::npos) << o.out;
 }
 
+TEST_F(Gpicon, UnpackKeepsFilesAndNeverFollowsPlantedLinks) {
+  namespace fs = std::filesystem;
+  const std::string path = icon("a.ico", 16, 4);
+  const std::string outside = folder.write("outside", Bytes(8, 7));
+  fs::create_directories(folder.path("out"));
+  const std::string planted = folder.path("out/a_0.mask.pgm");
+  fs::create_symlink(outside, planted);
+  for (const bool byForce : {false, true}) {
+    std::vector<std::string> arguments{"unpack", path, "-d", folder.path("out")};
+    if (byForce) arguments.push_back("--force");
+    const Outcome o = run(arguments);
+    EXPECT_EQ(o.status, 1);
+    EXPECT_NE(o.err.find(": already there, and not replaced\n"), std::string::npos) << o.err;
+    EXPECT_EQ(bytesOf(outside), Bytes(8, 7));
+    EXPECT_TRUE(fs::is_symlink(planted));
+  }
+  fs::remove(planted);
+  EXPECT_EQ(run({"unpack", path, "-d", folder.path("out"), "--force"}).status, 0);
+}
+
 TEST_F(Gpicon, UnpackWritesImageMaskAndAlpha) {
   Picture p = anyPicture(16, 32);
   p.color = [](int x, int y) { return Rgb{x, y, 7, x == 3 ? 0 : 200}; };

@@ -15,6 +15,7 @@
 #include "files/saving/BitmapSaving.h"
 #include "files/saving/CurrentIcon.h"
 #include "files/saving/HeldFiles.h"
+#include "files/saving/MultiIconSaving.h"
 #include "files/saving/MultiIconTexts.h"
 #include "platform/files/Files.h"
 #include "platform/text/Paths.h"
@@ -118,17 +119,25 @@ void IconSaver::doFileSave() {
   const std::string path = record.path.trimmed();
   if (record.fromMultiIconFile || !endsWithAnyCase(path, kIconEnding) || !FileExists(path))
     return doSaveAs(SaveMode::Icon);
-  // Another program may have put more icons into the file, or something else.
-  if (!isFileOfOneIcon(path)) {
-    context_.boxes.tell(fileChangedText(path));
-    return doSaveAs(SaveMode::Icon);
-  }
   if (record.neverSaved && !mayWriteOverOriginal(context_, path)) {
     mSaveFailed_ = true;
     return;
   }
+  if (saveOver(path)) return;
+  context_.boxes.tell(fileChangedText(path));
+  doSaveAs(SaveMode::Icon);
+}
+
+// False when another program has put more icons into the file, or something else. Nothing is written then.
+bool IconSaver::saveOver(const std::string& path) {
+  const auto lock = lockToUpdate(context_, path);
+  if (lock && !isFileOfOneIcon(path)) return false;
   bool ok = false;
-  doSaveIconTo(path, ok);
+  if (lock)
+    doSaveIconTo(path, ok);
+  else
+    mSaveFailed_ = true;
+  return true;
 }
 
 void IconSaver::doSaveIconTo(const std::string& path, bool& ok) {

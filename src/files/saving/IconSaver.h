@@ -48,6 +48,7 @@ class IconSaver {
   void showNewIcon(int size);
   void closeSidePanels();
   void remindOfMultiIconFile();
+  bool saveOver(const std::string& path);
   std::string askForName(const SaveKind& kind);
   void saveCursorTo(const std::string& path, bool& ok);
   void saveBitmapTo(const std::string& path, bool& ok);

@@ -1,4 +1,5 @@
 #include "files/FilesFixture.h"
+#include "platform/files/FileLock.h"
 #include "platform/files/Files.h"
 
 #include <filesystem>
@@ -472,6 +473,24 @@ TEST_F(IconSaverTest, ANewIconOfAnotherSizeAsksBeforeItEndsAnAnimatedCursorSessi
   saver.doNewIcon(48);
   EXPECT_EQ(record().size, 48);
   EXPECT_FALSE(state.screen.aniContainerVisible);
+}
+
+TEST_F(IconSaverTest, AFileThatAnotherOfOurProgramsIsChangingIsNotSavedOver) {
+  const std::string path = given(entryOf(anyPicture(16, 4)));
+  const Bytes before = bytesOf(path);
+  state.picImage.fill(kWhite);
+  record().modified = true;
+  boxes.expectTold(path + "\n\nAnother program is changing this file.\nNothing has been written to it.\n",
+                   BoxIcon::Exclamation);
+  {
+    const auto lock = FileLock::take(path, std::chrono::milliseconds(0));
+    saver.doFileSave();
+  }
+  EXPECT_TRUE(saver.mSaveFailed());
+  EXPECT_TRUE(record().modified);
+  EXPECT_EQ(bytesOf(path), before);
+  saver.doFileSave();
+  EXPECT_FALSE(record().modified);
 }
 
 TEST_F(IconSaverTest, TheSaveQuestionCarriesItsMessage) {
