@@ -96,6 +96,16 @@ TEST_F(DirDialog, EnterOpensTheFolderAndBackspaceGoesUp) {
   EXPECT_EQ(selectedDir(), folder_.path());
 }
 
+TEST_F(DirDialog, EnterOnTheOpenFolderIsOk) {
+  open();
+  key(Qt::Key_Down);
+  key(Qt::Key_Return);
+  ASSERT_TRUE(form_->isVisible()) << "opened";
+  key(Qt::Key_Return);
+  EXPECT_FALSE(form_->isVisible());
+  EXPECT_EQ(form_->result(), folder_.file("icons"));
+}
+
 TEST_F(DirDialog, ADoubleClickOpensAFolder) {
   open();
   auto* tree = find<FolderTree>("DirListBox1");

@@ -111,6 +111,19 @@ TEST_F(MultiIconForm, RepositionListsAllSizesWithTheFirstSelected) {
   EXPECT_EQ(find("picReposition")->size(), QSize(24, 24));
 }
 
+TEST_F(MultiIconForm, AltWithAnArrowMovesTheSelectedEntry) {
+  open(kAllSizes);
+  access(Qt::Key_O);
+  const QString first = sequence()->item(0)->text(), second = sequence()->item(1)->text();
+  QTest::keyClick(form->focusWidget(), Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(sequence()->item(1)->text(), first);
+  EXPECT_EQ(sequence()->selected(), 1);
+  QTest::keyClick(form->focusWidget(), Qt::Key_Up, Qt::AltModifier);
+  EXPECT_EQ(sequence()->item(1)->text(), second);
+  QTest::keyClick(form->focusWidget(), Qt::Key_Up, Qt::AltModifier);
+  EXPECT_EQ(sequence()->item(0)->text(), first) << "at the end nothing moves";
+}
+
 // An entry of 24 bits whose pixels, 0xRRGGBB, are given by `colorAt`. Its side in the directory is its width, a
 // multiple of four.
 using ColorAt = std::function<std::size_t(int x, int y)>;

@@ -7,12 +7,14 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace gp {
 namespace {
 
 constexpr const char* kHeader = "Reposition sequence of icons in file:";
+constexpr const char* kKeysHint = "Alt+Up and Alt+Down move the selected icon.";
 constexpr const char* kHint = "(Click to select an icon, then use shift up or down key to reposition it)";
 
 }  // namespace
@@ -41,12 +43,21 @@ RepositionView::RepositionView(QWidget* parent, MultiIconBrowser& browser)
   rows->addWidget(header);
   rows->addWidget(file);
   rows->addWidget(hint);
+  rows->addWidget(new QLabel(QLatin1String(kKeysHint), this));
   auto* columns = new QHBoxLayout;
   columns->setSpacing(kColumnGap);
   columns->addWidget(lisReposition_, 1);
   columns->addLayout(makeButtonColumn());
   rows->addLayout(columns, 1);
   setFocusProxy(lisReposition_);
+  addKey(Qt::ALT | Qt::Key_Up, cmdShift_[0]);
+  addKey(Qt::ALT | Qt::Key_Down, cmdShift_[1]);
+}
+
+void RepositionView::addKey(QKeyCombination key, QPushButton* button) {
+  auto* shortcut = new QShortcut(key, this);
+  shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+  connect(shortcut, &QShortcut::activated, button, [button] { button->click(); });
 }
 
 QPushButton* RepositionView::makeButton(const char* name, const char* caption, const char* toolTip,

@@ -28,6 +28,7 @@ class RepositionView final : public QWidget {
  private:
   QPushButton* makeButton(const char* name, const char* caption, const char* toolTip,
                           void (MultiIconBrowser::*press)());
+  void addKey(QKeyCombination key, QPushButton* button);
   QBoxLayout* makeButtonColumn();
   void enableShift(QPushButton& button, bool enabled);
 

@@ -49,6 +49,7 @@ void FolderTree::setRows(const std::vector<FolderRow>& rows) {
   }
   expandAll();
   setCurrentItem(innermost);
+  chosen_ = innermost;
 }
 
 // The view would forward Enter to the form's default button.
@@ -56,7 +57,7 @@ void FolderTree::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      openCurrent();
+      enterCurrent();
       break;
     case Qt::Key_Backspace:
       emit upRequested();
@@ -64,6 +65,13 @@ void FolderTree::keyPressEvent(QKeyEvent* event) {
     default:
       QTreeWidget::keyPressEvent(event);
   }
+}
+
+void FolderTree::enterCurrent() {
+  if (currentItem() && currentItem() == chosen_)
+    emit acceptRequested();
+  else
+    openCurrent();
 }
 
 void FolderTree::openCurrent() {

@@ -1,5 +1,5 @@
 // DirListBox1: the folders on the path to the chosen one, the chosen one, and the folders in it. A double click or
-// Enter requests to open a folder, Backspace to go up.
+// Enter requests to open a folder, Enter on the chosen one to accept it, Backspace to go up.
 #pragma once
 
 #include "shell/DirChooser.h"
@@ -23,6 +23,7 @@ class FolderTree final : public QTreeWidget {
  signals:
   void openRequested(const QString& path);
   void upRequested();
+  void acceptRequested();
 
  protected:
   // Draws no expand signs, because rows cannot be collapsed.
@@ -30,7 +31,10 @@ class FolderTree final : public QTreeWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void enterCurrent();
   void openCurrent();
+
+  const QTreeWidgetItem* chosen_ = nullptr;  // the innermost open folder
 };
 
 }  // namespace gp

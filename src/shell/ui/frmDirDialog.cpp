@@ -150,6 +150,7 @@ void frmDirDialog::connectControls() {
   });
   connect(DirListBox1, &FolderTree::openRequested, this, [this](const QString& path) { openFolder(textToPath(path)); });
   connect(DirListBox1, &FolderTree::upRequested, this, [this] { openFolder(chooser_.parentFolder()); });
+  connect(DirListBox1, &FolderTree::acceptRequested, cmdOK, &QPushButton::click);
   connect(cboFilePattern, &QComboBox::activated, this, [this] {
     chooser_.setPattern(textToPath(cboFilePattern->currentText()));
     showFiles();
