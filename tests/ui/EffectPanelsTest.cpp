@@ -181,6 +181,30 @@ TEST_F(EffectPanelsTest, EscClosesAndTheIconStays) {
   EXPECT_TRUE(std::ranges::equal(state.picImage.pixels(), image.pixels()));
 }
 
+TEST_F(EffectPanelsTest, ProceedIsTheDefaultButtonOfEveryPanelWhateverWasUpBefore) {
+  startWithDisc();
+  const auto expectDefault = [this](int number) {
+    auto* proceedButton = qobject_cast<QPushButton*>(inPanel(number, "cmdProceed"));
+    auto* cancelButton = qobject_cast<QPushButton*>(inPanel(number, "cmdCancel"));
+    EXPECT_TRUE(proceedButton->isDefault()) << number;
+    for (QPushButton* button : {proceedButton, cancelButton}) {
+      button->setFocus();
+      EXPECT_TRUE(proceedButton->isDefault()) << number;
+      EXPECT_FALSE(cancelButton->isDefault()) << number;
+    }
+  };
+  for (int round = 0; round < 2; ++round) {
+    openPanel(11);
+    expectDefault(kReliefPanel);
+    openPanel(21);
+    expectDefault(kDisabledPanel);
+  }
+  QTest::keyClick(inPanel(kDisabledPanel, "cmdCancel"), Qt::Key_Return);
+  settle();
+  EXPECT_FALSE(isUp(kDisabledPanel)) << "Enter on Close closes";
+  EXPECT_FALSE(state.current().modified);
+}
+
 TEST_F(EffectPanelsTest, EachStyleOfTheButtonIsPickedFromTheList) {
   startWithDisc();
   openPanel(3);

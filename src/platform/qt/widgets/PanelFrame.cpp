@@ -19,8 +19,8 @@ QPushButton* makeButton(QWidget* parent, const char* objectName, const QString& 
   button->setObjectName(objectName);
   button->setIconSize(QSize(Pictures::kSize, Pictures::kSize));
   button->setFixedHeight(kButtonHeight);
-  // Enter on a button presses that button, not the default one.
-  button->setAutoDefault(true);
+  // A button that becomes the default one with the focus would cease to be it without.
+  button->setAutoDefault(false);
   return button;
 }
 
@@ -76,7 +76,7 @@ void PanelFrame::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      cmdProceed_->click();
+      (cmdCancel_->hasFocus() ? cmdCancel_ : cmdProceed_)->click();
       return;
     case Qt::Key_Escape:
       cmdCancel_->click();
