@@ -50,6 +50,9 @@ bool isRun(const WritingSubcommand& command, Target target) {
   return target == Target::Existing || (target == Target::New ? !command.needsTarget : !isInFolder);
 }
 
+// For messages of tests.
+void PrintTo(const FailingSubcommand& test, std::ostream* out) { *out << test.command.name << nameOf(test.target); }
+
 std::vector<FailingSubcommand> failingSubcommands() {
   std::vector<FailingSubcommand> all;
   for (const WritingSubcommand& command : kWritingSubcommands)

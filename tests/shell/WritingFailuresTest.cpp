@@ -136,7 +136,7 @@ constexpr const char* kBitmap = "a.bmp";
 constexpr const char* kPalette = "a.pal";
 constexpr const char* kPart = "multi_32_16.ico";
 
-// What becomes of the mark of an icon that has changed.
+// Whether a command that is done clears the mark of an icon that has changed.
 enum class Mark { Cleared, Kept };
 
 struct WritingCommand {
@@ -188,6 +188,9 @@ struct FailingCommand {
   WritingCommand command;
   Target target;
 };
+
+// For messages of tests.
+void PrintTo(const FailingCommand& test, std::ostream* out) { *out << test.command.name << nameOf(test.target); }
 
 std::vector<FailingCommand> failingCommands() {
   std::vector<FailingCommand> all;
