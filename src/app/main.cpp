@@ -4,6 +4,7 @@
 #include "platform/files/FileWriting.h"
 #include "platform/files/ProgramFolders.h"
 #include "platform/qt/Accessibility.h"
+#include "platform/qt/FirstPaint.h"
 #include "platform/qt/ProgramStyle.h"
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtFileDialogs.h"
@@ -35,7 +36,7 @@ int run(QApplication& application, const std::string& commandLine) {
   gp::QtMessagePump pump;
   gp::QtSystemInfo system;
   gp::QtProcesses processes;
-  gp::QtClipboard clipboard;
+  gp::QtClipboard clipboard(gp::QtClipboard::Asking::Later);
   gp::QtPictureLoader pictures;
   const gp::ProgramFolders folders = gp::programFolders();
 
@@ -49,6 +50,7 @@ int run(QApplication& application, const std::string& commandLine) {
   gp::frmGPEdit form(shell, display, commandLine);
   clipboard.onChange = [&shell] { shell.UpdateCommands(); };
   shell.formLoad();
+  gp::afterFirstPaint(form, [&clipboard] { clipboard.startAsking(); });
   form.show();
   startUpPicture.close();
   return application.exec();

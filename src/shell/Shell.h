@@ -133,6 +133,7 @@ class Shell final : public Editor {
   std::string settingsPath() const;
   void placeForm();
   void showEmptyStart();
+  void offerBackups();
   void openCommandLineFile(const std::string& commandLine);
   void applyStartScreen();
   void saveSettings();

@@ -2,6 +2,7 @@
 #include "document/Containers.h"
 #include "document/Display.h"
 #include "document/EditState.h"
+#include "platform/files/Backups.h"
 #include "platform/ports/MessageBoxes.h"
 #include "platform/ports/MessagePump.h"
 #include "platform/text/ProfileFile.h"
@@ -14,6 +15,15 @@
 #include <system_error>
 
 namespace gp {
+namespace {
+
+constexpr const char* kBackupQuestion =
+    "\n\nWriting this file was interrupted, so it may be damaged.  Its former content has been kept.\n"
+    "Yes puts the former content back, No leaves the file as it is and removes what was kept.\n\n"
+    "Put the former content back?";
+constexpr const char* kNotRestored = "\n\nThe former content cannot be put back.  It is kept in\n";
+
+}  // namespace
 
 void Shell::formLoad() {
   state_.mInLoad = true;
@@ -50,8 +60,19 @@ void Shell::formActivate(const std::string& commandLine) {
   document_.areaOptions.SetGrid(state_.options.grid);
   state_.screen.pixelRgbVisible = state_.options.displayPixelRgb;
   showEmptyStart();
+  offerBackups();
   guarded("Form_Activate", [&] { openCommandLineFile(commandLine); });
   applyStartScreen();
+}
+
+// Of files that were being written in place when the program or the machine stopped.
+void Shell::offerBackups() {
+  for (const LeftBackup& left : leftBackups(folders_.state)) {
+    if (!ports_.boxes.ask(left.path + kBackupQuestion))
+      discard(left);
+    else if (!restore(left))
+      ports_.boxes.tell(left.path + kNotRestored + left.backup, BoxIcon::Exclamation);
+  }
 }
 
 void Shell::showEmptyStart() {

@@ -1,4 +1,4 @@
-// What becomes of files when gpicon is killed, runs out of room, or works beside another gpicon.
+// Files that gpicon writes while it is killed, runs out of room, or works beside another gpicon.
 #include "cli/GpiconFixture.h"
 
 #include <csignal>

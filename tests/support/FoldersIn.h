@@ -7,6 +7,8 @@
 
 namespace gp::test {
 
-inline ProgramFolders foldersIn(const std::string& path) { return {.settings = path, .scratch = path, .data = {path}}; }
+inline ProgramFolders foldersIn(const std::string& path) {
+  return {.settings = path, .scratch = path, .state = path, .data = {path}};
+}
 
 }  // namespace gp::test

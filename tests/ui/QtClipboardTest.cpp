@@ -128,6 +128,29 @@ TEST_F(QtClipboardTest, AnEmptyClipboardHasNoImage) {
   expectUntouched();
 }
 
+TEST_F(QtClipboardTest, OtherProgramsAreAskedOnlyWhenAskingHasStarted) {
+  QtClipboard later(QtClipboard::Asking::Later);
+  int changes = 0;
+  later.onChange = [&changes] { ++changes; };
+  offer({{"image/png", encoded(sampleImage(20, 20), "png")}});
+  EXPECT_FALSE(later.hasImage());
+  changes = 0;
+  later.startAsking();
+  EXPECT_EQ(changes, 1);
+  EXPECT_TRUE(later.hasImage());
+}
+
+TEST_F(QtClipboardTest, APictureAbove64MegabytesIsNotTaken) {
+  QByteArray picture = encoded(sampleImage(20, 20), "bmp");
+  picture.append((qsizetype{64} << 20) - picture.size(), 0);
+  offer({{"image/bmp", picture}});
+  EXPECT_TRUE(get());
+  image = {7, 9, Surface(3, 2)};
+  offer({{"image/bmp", picture + '\0'}});
+  EXPECT_FALSE(get());
+  expectUntouched();
+}
+
 TEST_F(QtClipboardTest, TextAndHtmlCountAsNoImage) {
   offer({{"text/plain", "C:\\icon.png"}, {"text/html", "<img src='data:image/png;base64,iVBORw0KGgo='>"}});
   EXPECT_FALSE(clipboard.hasImage());

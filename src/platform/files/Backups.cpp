@@ -76,10 +76,8 @@ bool Backup::write(const std::string& path, Piece content) {
 
 void Backup::remove() { systemCalls().remove(folder_.number(), name_.c_str()); }
 
-std::vector<LeftBackup> leftBackups() {
+std::vector<LeftBackup> leftBackups(const std::string& folder) {
   std::vector<LeftBackup> found;
-  const std::string folder = stateFolder();
-  if (folder.empty()) return found;
   for (const std::string& name : filesInFolder(folder, std::string("*") + kExtension)) {
     LeftBackup left{folder + "/" + name, {}};
     const auto bytes = isLeft(left.backup) ? readFile(left.backup) : std::nullopt;

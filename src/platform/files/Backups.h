@@ -34,8 +34,8 @@ struct LeftBackup {
   std::string backup;  // its path
   std::string path;    // of the file
 };
-// Backups of files that still have the content of the backup are removed and not returned.
-std::vector<LeftBackup> leftBackups();
+// Returns the backups in the state folder. Those of files that have the content of the backup are removed instead.
+std::vector<LeftBackup> leftBackups(const std::string& folder);
 // Writes the content of the backup to its file, and then removes the backup. False when the file cannot be written; the
 // backup then stays.
 [[nodiscard]] bool restore(const LeftBackup& left);

@@ -38,7 +38,7 @@ Beside takeTheName(TemporaryFile& file, const WriteTarget& target) {
 }
 
 Beside writeBeside(const WriteTarget& target, Pieces pieces) {
-  const bool isPrivate = target.exists() || target.isPrivate;  // so far: nobody else may open it before it is complete
+  const bool isPrivate = target.exists() || target.isPrivate;  // no one else may open it before it is complete
   TemporaryFile file(target.folder, isPrivate ? TemporaryFile::Access::OwnerOnly : TemporaryFile::Access::AsUsual);
   if (!file.isOpen()) return isRefused(errno) && target.exists() ? Beside::Refused : Beside::NotOpened;
   if (target.exists() && !file.takeOwnerAndMode(*target.status, target.permissions())) return Beside::Refused;

@@ -69,9 +69,11 @@ ProgramFolders chooseProgramFolders(const std::string& executableFolder, const F
 }
 
 ProgramFolders programFolders() {
-  return chooseProgramFolders(
+  ProgramFolders folders = chooseProgramFolders(
       executableFolder(),
       {.home = variable("HOME"), .configHome = variable("XDG_CONFIG_HOME"), .temporary = variable("TMPDIR")});
+  folders.state = stateFolder();
+  return folders;
 }
 
 std::string stateFolder() {

@@ -11,6 +11,7 @@ inline constexpr const char* kSettingsFileName = "Glimmerpane.ini";
 struct ProgramFolders {
   std::string settings;           // of the settings file
   std::string scratch;            // of files that live for one command
+  std::string state;              // of backups; see Backups.h. Empty when it cannot be made
   std::vector<std::string> data;  // of the manual and the companion, in the order of the search
 
   // Returns the path of a file in the first data folder that has it; without any, its path in the first folder.

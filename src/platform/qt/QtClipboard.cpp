@@ -1,6 +1,7 @@
 #include "platform/qt/QtClipboard.h"
 
 #include "platform/qt/PictureCorner.h"
+#include "platform/qt/SelectionReader.h"
 #include "platform/qt/SurfaceImages.h"
 
 #include <QClipboard>
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 
 namespace gp {
 namespace {
@@ -28,8 +30,27 @@ constexpr std::array<OfferedFormat, 7> kFormats = {{{"image/png", "png"},
                                                     {"image/gif", "gif"},
                                                     {"image/jpeg", "jpeg"}}};
 
+constexpr std::chrono::seconds kLongestWaitForFormats{1};
+constexpr std::chrono::seconds kLongestWaitForData{10};
+constexpr qsizetype kMostBytes = qsizetype{64} << 20;
+
+// Qt waits five seconds for a program on an X server, and reads all that it sends.
+bool isOnXServer() {
+  return QGuiApplication::platformName() == "xcb" && !QGuiApplication::clipboard()->ownsClipboard();
+}
+
+QStringList offeredFormats(const QMimeData& content) {
+  return isOnXServer() ? SelectionReader().formats(kLongestWaitForFormats) : content.formats();
+}
+
+QByteArray offeredData(const QMimeData& content, const char* format) {
+  if (isOnXServer()) return SelectionReader().data(format, kLongestWaitForData, kMostBytes).value_or(QByteArray());
+  const QByteArray data = content.data(format);
+  return data.size() <= kMostBytes ? data : QByteArray();
+}
+
 const OfferedFormat* formatOf(const QMimeData& content) {
-  const QStringList offered = content.formats();
+  const QStringList offered = offeredFormats(content);
   const auto found = std::ranges::find_if(
       kFormats, [&offered](const OfferedFormat& format) { return offered.contains(format.mimeType); });
   return found == kFormats.end() ? nullptr : found;
@@ -48,8 +69,13 @@ bool readOurImage(const QMimeData& content, int limit, ClipboardImage& image) {
 
 }  // namespace
 
-QtClipboard::QtClipboard() {
+QtClipboard::QtClipboard(Asking asking) : isAsking_(asking == Asking::AtOnce) {
   QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &listener_, [this] { changed(); });
+}
+
+void QtClipboard::startAsking() {
+  isAsking_ = true;
+  changed();
 }
 
 void QtClipboard::changed() {
@@ -58,6 +84,7 @@ void QtClipboard::changed() {
 }
 
 bool QtClipboard::hasImage() {
+  if (!isAsking_) return false;
   if (!hasImage_) {
     const QMimeData* content = currentContent();
     hasImage_ = content && (content == ours_ || formatOf(*content));
@@ -70,7 +97,7 @@ bool QtClipboard::getImage(ClipboardImage& image, int limit) {
   if (!content) return false;
   if (content == ours_) return readOurImage(*content, limit, image);
   const OfferedFormat* format = formatOf(*content);
-  return format && readPictureCorner(content->data(format->mimeType), format->reader, limit, image);
+  return format && readPictureCorner(offeredData(*content, format->mimeType), format->reader, limit, image);
 }
 
 bool QtClipboard::setImage(const Surface& image) {

@@ -88,7 +88,7 @@ TEST_F(FileWriting, EveryNameOfAFileHasTheNewContent) {
   fs::create_hard_link(path_, folder_.file("hard"));
   EXPECT_EQ(write(path_, "content"), WriteDefect::None);
   EXPECT_EQ(folder_.read("hard"), "content");
-  EXPECT_TRUE(leftBackups().empty());
+  EXPECT_TRUE(leftBackups(stateFolder()).empty());
 }
 
 TEST_F(FileWriting, OwnerAndGroupAreKept) {
@@ -186,7 +186,7 @@ class FailingWrites : public FileWriting, public testing::WithParamInterface<Way
     if (GetParam().hasOtherName) fs::create_hard_link(path_, folder_.file("hard"));
   }
   void removeAll() {
-    for (const LeftBackup& left : leftBackups()) discard(left);
+    for (const LeftBackup& left : leftBackups(stateFolder())) discard(left);
     fs::remove(folder_.file("hard"));
     fs::remove_all(work_);
     folder_.makeFolder("work");
@@ -194,7 +194,7 @@ class FailingWrites : public FileWriting, public testing::WithParamInterface<Way
   }
   // Puts the content back that a write left behind in a backup.
   void restoreAll() {
-    for (const LeftBackup& left : leftBackups()) EXPECT_TRUE(restore(left));
+    for (const LeftBackup& left : leftBackups(stateFolder())) EXPECT_TRUE(restore(left));
   }
   std::string content() const { return fs::exists(path_) ? folder_.read("work/a") : kNone; }
   std::string formerContent() const { return GetParam().exists ? old_ : kNone; }
@@ -259,15 +259,15 @@ TEST_F(FileWriting, SystemsWithoutNamelessFilesDoTheSame) {
 TEST_F(FileWriting, ABackupIsOfferedUntilItIsRestoredOrDiscarded) {
   folder_.write("work/a", "old");
   { auto kept = Backup::make(path_, bytesOf("former")); }
-  const auto left = leftBackups();
+  const auto left = leftBackups(stateFolder());
   ASSERT_EQ(left.size(), 1u);
   EXPECT_EQ(left[0].path, path_);
   EXPECT_TRUE(restore(left[0]));
   EXPECT_EQ(folder_.read("work/a"), "former");
-  EXPECT_TRUE(leftBackups().empty());
+  EXPECT_TRUE(leftBackups(stateFolder()).empty());
   { auto kept = Backup::make(path_, bytesOf("other")); }
-  discard(leftBackups().at(0));
-  EXPECT_TRUE(leftBackups().empty());
+  discard(leftBackups(stateFolder()).at(0));
+  EXPECT_TRUE(leftBackups(stateFolder()).empty());
   EXPECT_EQ(folder_.read("work/a"), "former");
 }
 
@@ -275,11 +275,11 @@ TEST_F(FileWriting, ABackupInUseAndOneThatIsNotNeededAreNotOffered) {
   folder_.write("work/a", "old");
   {
     const auto used = Backup::make(path_, bytesOf("former"));
-    EXPECT_TRUE(leftBackups().empty()) << "the program that writes is still there";
+    EXPECT_TRUE(leftBackups(stateFolder()).empty()) << "the program that writes is still there";
     used->remove();
   }
   { auto kept = Backup::make(path_, bytesOf("old")); }
-  EXPECT_TRUE(leftBackups().empty()) << "the file has that content";
+  EXPECT_TRUE(leftBackups(stateFolder()).empty()) << "the file has that content";
   EXPECT_EQ(filesIn(stateFolder()), 0u);
 }
 
