@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/files/Backups.h"
+#include "platform/files/ProgramFolders.h"
 #include "support/FailingCalls.h"
 #include "support/StateFolder.h"
 #include "support/TempFolder.h"
@@ -79,7 +80,7 @@ class CommandUnderFailures : public testing::Test {
     EXPECT_GT(first, kFewestCalls);
   }
   bool runUnder(FailingCalls& calls) {
-    for (const LeftBackup& left : leftBackups()) discard(left);
+    for (const LeftBackup& left : leftBackups(stateFolder())) discard(left);
     for (const char* name : {"work", "links"}) {
       std::filesystem::remove_all(folder_.file(name));
       folder_.makeFolder(name);
@@ -95,7 +96,7 @@ class CommandUnderFailures : public testing::Test {
     return run();
   }
   void check(Failure failure, bool isDone) {
-    for (const LeftBackup& left : leftBackups()) EXPECT_TRUE(restore(left));
+    for (const LeftBackup& left : leftBackups(stateFolder())) EXPECT_TRUE(restore(left));
     const Contents now = contentsOf(folder_, "work");
     for (const auto& [name, content] : now) EXPECT_TRUE(isWhole(name, content, failure)) << name;
     for (const auto& [name, content] : former_) EXPECT_TRUE(now.contains(name)) << name << " is gone";
