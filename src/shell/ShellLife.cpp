@@ -3,6 +3,7 @@
 #include "document/Display.h"
 #include "document/EditState.h"
 #include "platform/files/Backups.h"
+#include "platform/files/Files.h"
 #include "platform/ports/MessageBoxes.h"
 #include "platform/ports/MessagePump.h"
 #include "platform/text/ProfileFile.h"
@@ -68,6 +69,7 @@ void Shell::formActivate(const std::string& commandLine) {
 // Of files that were being written in place when the program or the machine stopped.
 void Shell::offerBackups() {
   for (const LeftBackup& left : leftBackups(folders_.state)) {
+    if (!FileExists(left.backup)) continue;  // removed with an older one of the same file
     if (!ports_.boxes.ask(left.path + kBackupQuestion))
       discard(left);
     else if (!restore(left))

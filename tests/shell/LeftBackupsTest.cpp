@@ -3,6 +3,7 @@
 #include "support/ShellFixture.h"
 #include "support/StateFolder.h"
 
+#include <chrono>
 #include <filesystem>
 #include <gtest/gtest.h>
 
@@ -58,6 +59,17 @@ TEST_F(LeftBackups, WhatCannotBePutBackIsKept) {
   start();
   EXPECT_EQ(folder.read("a.ico"), "half");
   EXPECT_EQ(count(), 1u);
+}
+
+TEST_F(LeftBackups, OfAFileWithSeveralTheOldestIsOfferedAndYesIsEnough) {
+  interruptWriting("a.ico", "whole content");
+  fs::last_write_time(leftBackups(folder.path()).at(0).backup,
+                      fs::file_time_type::clock::now() - std::chrono::hours(1));
+  const std::string path = interruptWriting("a.ico", "damaged before");
+  boxes.expectAsked(question(path), BoxAnswer::Yes);
+  start();
+  EXPECT_EQ(folder.read("a.ico"), "whole content");
+  EXPECT_EQ(count(), 0u);
 }
 
 TEST_F(LeftBackups, AFileWithThatContentIsNotAskedAbout) {

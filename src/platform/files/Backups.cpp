@@ -52,6 +52,11 @@ bool isLeft(const std::string& backup) {
   return file.isOpen() && flock(file.number(), LOCK_EX | LOCK_NB) == 0;
 }
 
+fs::file_time_type timeOf(const LeftBackup& left) {
+  std::error_code ignored;
+  return fs::last_write_time(left.backup, ignored);
+}
+
 }  // namespace
 
 Backup::Backup(Descriptor folder) : folder_(std::move(folder)), file_(folder_, kOwnerOnly) {}
@@ -90,7 +95,13 @@ std::vector<LeftBackup> leftBackups(const std::string& folder) {
     else
       found.push_back(std::move(left));
   }
+  std::ranges::stable_sort(found, {}, timeOf);
   return found;
+}
+
+void discardBackupsOf(const std::string& path, const std::string& folder) {
+  for (const LeftBackup& left : leftBackups(folder))
+    if (left.path == absolute(path)) discard(left);
 }
 
 bool restore(const LeftBackup& left) {
@@ -98,6 +109,7 @@ bool restore(const LeftBackup& left) {
   const auto parts = bytes ? partsOf(bytes->span()) : std::nullopt;
   if (!parts || !replaceFile(parts->path, parts->content)) return false;
   discard(left);
+  discardBackupsOf(left.path, fs::path(left.backup).parent_path().native());
   return true;
 }
 

@@ -34,10 +34,13 @@ struct LeftBackup {
   std::string backup;  // its path
   std::string path;    // of the file
 };
-// Returns the backups in the state folder. Those of files that have the content of the backup are removed instead.
+// Returns the backups in the state folder, the oldest first. Those of files that have the content of the backup are
+// removed instead. A file has several when writing it has failed repeatedly; only the oldest is sure to be undamaged.
 std::vector<LeftBackup> leftBackups(const std::string& folder);
-// Writes the content of the backup to its file, and then removes the backup. False when the file cannot be written; the
-// backup then stays.
+// Removes the backups of a file that has been written as a whole since.
+void discardBackupsOf(const std::string& path, const std::string& folder);
+// Writes the content of the backup to its file, and then removes all backups of the file. False when the file cannot be
+// written; the backups then stay.
 [[nodiscard]] bool restore(const LeftBackup& left);
 void discard(const LeftBackup& left);
 

@@ -3,6 +3,7 @@
 #include "platform/files/Backups.h"
 #include "platform/files/Files.h"
 #include "platform/files/PieceWriting.h"
+#include "platform/files/ProgramFolders.h"
 
 #include <algorithm>
 #include <fcntl.h>
@@ -38,6 +39,7 @@ WriteDefect writeInPlace(const WriteTarget& target, Pieces pieces) {
   if (!backup) return WriteDefect::NotOpened;
   const bool written = overwrite(file.number(), pieces, former->span().size()) && file.close();
   if (written || (file.isOpen() && putBack(file.number(), former->span()))) backup->remove();
+  if (written) discardBackupsOf(target.path(), stateFolder());
   return written ? WriteDefect::None : WriteDefect::NotWritten;
 }
 

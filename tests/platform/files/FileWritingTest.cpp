@@ -7,6 +7,7 @@
 #include "support/StateFolder.h"
 #include "support/TempFolder.h"
 
+#include <chrono>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <sys/xattr.h>
@@ -281,6 +282,57 @@ TEST_F(FileWriting, ABackupInUseAndOneThatIsNotNeededAreNotOffered) {
   { auto kept = Backup::make(path_, bytesOf("old")); }
   EXPECT_TRUE(leftBackups(stateFolder()).empty()) << "the file has that content";
   EXPECT_EQ(filesIn(stateFolder()), 0u);
+}
+
+// A device that fails for good once new content has been written over a file.
+class FailingAfterwards : public SystemCalls {
+ public:
+  ssize_t write(int file, const void* bytes, std::size_t count, off_t position) override {
+    return hasFailed_ ? -1 : SystemCalls::write(file, bytes, count, position);
+  }
+  int resize(int, off_t) override {
+    hasFailed_ = true;
+    errno = EIO;
+    return -1;
+  }
+
+ private:
+  bool hasFailed_ = false;
+};
+
+// A file that was written in place twice, in vain.
+class FailedRepeatedly : public FileWriting {
+ protected:
+  FailedRepeatedly() {
+    folder_.write("work/a", "whole content");
+    fs::create_hard_link(path_, folder_.file("hard"));
+    for (const std::string text : {"first", "second"}) {
+      for (const LeftBackup& older : left())
+        fs::last_write_time(older.backup, fs::file_time_type::clock::now() - std::chrono::hours(1));
+      FailingAfterwards calls;
+      const SystemCallsFor replaced(calls);
+      EXPECT_EQ(write(path_, text), WriteDefect::NotWritten);
+    }
+    EXPECT_EQ(folder_.read("hard"), "secondcontent");
+  }
+  std::vector<LeftBackup> left() const { return leftBackups(stateFolder()); }
+};
+
+TEST_F(FailedRepeatedly, TheOldestBackupIsOfferedFirstAndItsRestorationRemovesTheOthers) {
+  ASSERT_EQ(left().size(), 2u);
+  EXPECT_TRUE(restore(left()[0]));
+  EXPECT_EQ(folder_.read("hard"), "whole content");
+  EXPECT_TRUE(left().empty());
+}
+
+TEST_F(FailedRepeatedly, AWriteThatSucceedsRemovesTheBackupsOfItsFileAlone) {
+  const std::string other = folder_.write("work/b", "other");
+  { auto kept = Backup::make(other, bytesOf("former")); }
+  ASSERT_EQ(left().size(), 3u);
+  EXPECT_EQ(write(path_, "third try"), WriteDefect::None);
+  EXPECT_EQ(folder_.read("hard"), "third try");
+  ASSERT_EQ(left().size(), 1u);
+  EXPECT_EQ(left()[0].path, other);
 }
 
 TEST_F(FileWriting, TheStateFolderIsForItsOwnerOnly) {

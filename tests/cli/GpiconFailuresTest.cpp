@@ -1,0 +1,104 @@
+// Every subcommand of gpicon that writes files, on a device that fails.
+#include "cli/Subcommands.h"
+#include "files/IcoBuilder.h"
+#include "support/CommandUnderFailures.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace gp::test {
+namespace {
+
+struct WritingSubcommand {
+  std::string name;
+  int (*run)(const cli::Arguments& arguments);
+  std::vector<std::string> arguments;  // "@name" is the path of a file
+  std::string target;
+  bool needsTarget = false;  // it changes an existing file
+};
+
+const std::vector<WritingSubcommand> kWritingSubcommands{
+    {"Bmp", cli::runBmp, {"@multi.ico", "0", "@a.bmp"}, "a.bmp"},
+    {"Resave", cli::runResave, {"@multi.ico", "0", "@a.ico"}, "a.ico"},
+    {"ResaveOverItself", cli::runResave, {"@multi.ico", "0", "@multi.ico"}, "multi.ico", true},
+    {"Reduce", cli::runReduce, {"@multi.ico", "2", "@a.ico", "--to", "16", "--method", "nearest"}, "a.ico"},
+    {"Effect", cli::runEffect, {"@multi.ico", "0", "@a.ico", "disabled"}, "a.ico"},
+    {"Replace", cli::runReplace, {"@multi.ico", "0", "@single.ico"}, "multi.ico", true},
+    {"ReplaceTo", cli::runReplace, {"@multi.ico", "0", "@single.ico", "-o", "@a.ico"}, "a.ico"},
+    {"Add", cli::runAdd, {"@multi.ico", "@single.ico"}, "multi.ico", true},
+    {"AddToTwo", cli::runAdd, {"@multi.ico", "@lies.ico", "@single.ico", "--at", "1"}, "lies.ico", true},
+    {"AddTo", cli::runAdd, {"@multi.ico", "@single.ico", "-o", "@a.ico"}, "a.ico"},
+    {"Remove", cli::runRemove, {"@multi.ico", "1"}, "multi.ico", true},
+    {"RemoveTo", cli::runRemove, {"@multi.ico", "1", "-o", "@a.ico"}, "a.ico"},
+    {"Reorder", cli::runReorder, {"@multi.ico", "3,1,2"}, "multi.ico", true},
+    {"ReorderTo", cli::runReorder, {"@multi.ico", "3,1,2", "-o", "@a.ico"}, "a.ico"},
+    {"Salvage", cli::runSalvage, {"@lies.ico", "-o", "@a.ico"}, "a.ico"},
+    {"SalvageOverItself", cli::runSalvage, {"@lies.ico", "-o", "@lies.ico"}, "lies.ico", true},
+    {"Unpack", cli::runUnpack, {"@multi.ico", "@single.ico", "-d", "@out", "--force"}, "out/multi_0.image.ppm"},
+    {"Split", cli::runSplit, {"@multi.ico", "@single.ico", "-d", "@out", "--force"}, "out/multi_32_16.ico"},
+};
+
+struct FailingSubcommand {
+  WritingSubcommand command;
+  Target target;
+};
+
+// Files with other names in a folder of output are refused.
+bool isRun(const WritingSubcommand& command, Target target) {
+  const bool isInFolder = command.target.starts_with("out/");
+  return target == Target::Existing || (target == Target::New ? !command.needsTarget : !isInFolder);
+}
+
+// For messages of tests.
+void PrintTo(const FailingSubcommand& test, std::ostream* out) { *out << test.command.name << nameOf(test.target); }
+
+std::vector<FailingSubcommand> failingSubcommands() {
+  std::vector<FailingSubcommand> all;
+  for (const WritingSubcommand& command : kWritingSubcommands)
+    for (const Target target : kTargets)
+      if (isRun(command, target)) all.push_back({command, target});
+  return all;
+}
+
+class GpiconFailures : public CommandUnderFailures, public testing::WithParamInterface<FailingSubcommand> {
+ protected:
+  const WritingSubcommand& command() const { return GetParam().command; }
+
+  void makeFiles() override {
+    std::filesystem::create_directories(path("out"));
+    if (GetParam().target != Target::New) write(command().target, {'o', 'l', 'd'});
+    write("single.ico", build(anyEntry(24, 8)));
+    write("multi.ico", build(IcoFile{{anyEntry(32, 4), anyEntry(16, 24), anyEntry(48, 8)}, 0, 1, {}}));
+    write("lies.ico", build(entryOf(anyPicture(32, 8), 16, 4)));
+  }
+  // A failure is a status of 1 and a line for each file that was not written.
+  bool run() override {
+    cli::Arguments arguments;
+    for (const std::string& argument : command().arguments)
+      arguments.push_back(argument.starts_with('@') ? path(argument.substr(1)) : argument);
+    testing::internal::CaptureStderr();
+    const int status = command().run(arguments);
+    const std::string errors = testing::internal::GetCapturedStderr();
+    EXPECT_TRUE(status == cli::kDone || status == cli::kRefused) << errors;
+    EXPECT_EQ(status == cli::kDone, errors.empty()) << errors;
+    EXPECT_TRUE(status == cli::kDone || errors.starts_with("gpicon: " + work() + "/")) << errors;
+    return status == cli::kDone;
+  }
+
+ private:
+  void write(const std::string& name, const Bytes& bytes) {
+    folder().write("work/" + name, std::string(bytes.begin(), bytes.end()));
+  }
+};
+
+TEST_P(GpiconFailures, LeaveEachFileWholeAndAreReported) { failEveryCall(GetParam().target, command().target); }
+
+std::string nameOfTest(const testing::TestParamInfo<FailingSubcommand>& test) {
+  return test.param.command.name + nameOf(test.param.target);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, GpiconFailures, testing::ValuesIn(failingSubcommands()), nameOfTest);
+
+}  // namespace
+}  // namespace gp::test
