@@ -14,7 +14,7 @@ using gp::fuzz::require;
 constexpr std::size_t kLargestInput = 1 << 14;
 constexpr int kMostMoved = 16;
 constexpr std::uint32_t kLargestPart = 4096;  // of an image that is moved
-// The last bytes of the input choose the size of the file, from the smallest one that is not read at once.
+// The input also chooses the size of the file, from the smallest one that is not read at once.
 constexpr std::uint64_t kSmallestFile = 256 * 1024;
 constexpr std::uint64_t kSizeStep = 16 * 1024;
 constexpr std::uint64_t kLargestFile = kSmallestFile + 255 * kSizeStep;
@@ -50,6 +50,14 @@ std::vector<Moved> moveImages(Bytes& start) {
   return moved;
 }
 
+// Parsing a long directory takes long: most inputs get a short one, and some one that is longer than the part of the
+// file that is read first.
+void shortenDirectory(Bytes& start, Choices& choices) {
+  constexpr std::size_t kHighByte = gp::ico::kDirCount + 1;
+  constexpr int kShort = 0x03, kLong = 0x43;
+  if (start.size() > kHighByte) start[kHighByte] &= choices.below(16) == 1 ? kLong : kShort;
+}
+
 std::string writeLarge(Bytes start, std::uint64_t size) {
   static const gp::fuzz::ScratchFolder folder;
   const std::vector<Moved> moved = moveImages(start);
@@ -81,9 +89,11 @@ void requireAlike(const gp::IconFile& part, const gp::IconFile& whole) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size > kLargestInput) return 0;
-  Choices choices(std::span(data, size), 1);
-  const std::string path =
-      writeLarge(Bytes(data, data + size), kSmallestFile + static_cast<std::uint64_t>(choices.next()) * kSizeStep);
+  Choices choices(std::span(data, size), 2);
+  Bytes start(data, data + size);
+  shortenDirectory(start, choices);
+  const std::uint64_t fileSize = kSmallestFile + static_cast<std::uint64_t>(choices.next()) * kSizeStep;
+  const std::string path = writeLarge(std::move(start), fileSize);
   const auto part = gp::readIconFile(path), whole = gp::readWholeIconFile(path);
   require(part && whole && part->span().size() <= whole->span().size());
   require(part->isIcon() == whole->isIcon() && part->isCursor() == whole->isCursor());
