@@ -54,7 +54,7 @@ std::vector<Moved> moveImages(Bytes& start) {
 // file that is read first.
 void shortenDirectory(Bytes& start, Choices& choices) {
   constexpr std::size_t kHighByte = gp::ico::kDirCount + 1;
-  constexpr int kShort = 0x03, kLong = 0x43;
+  constexpr std::uint8_t kShort = 0x03, kLong = 0x43;
   if (start.size() > kHighByte) start[kHighByte] &= choices.below(16) == 1 ? kLong : kShort;
 }
 
