@@ -14,11 +14,12 @@ using gp::fuzz::require;
 constexpr std::size_t kLargestInput = 1 << 14;
 constexpr int kMostMoved = 16;
 constexpr std::uint32_t kLargestPart = 4096;  // of an image that is moved
-// The input also chooses the size of the file, from the smallest one that is not read at once.
+// The input also chooses the size of the file, down to the smallest one that is not read at once.
 constexpr std::uint64_t kSmallestFile = 256 * 1024;
 constexpr std::uint64_t kSizeStep = 16 * 1024;
 constexpr std::uint64_t kLargestFile = kSmallestFile + 255 * kSizeStep;
-constexpr std::uint32_t kSpread = 768;  // neighbours of 6 KB or more do not touch
+// Moves even the first image behind the largest directory, which is always read.
+constexpr std::uint64_t kSpread = 65536;
 
 struct Moved {
   std::uint32_t offset;
@@ -43,7 +44,7 @@ std::vector<Moved> moveImages(Bytes& start) {
   std::vector<Moved> moved;
   for (int i = 0; i < std::min(kMostMoved, directory.presentCount()); ++i) {
     const gp::IconEntry entry = directory.entry(i);
-    const std::uint32_t offset = entry.imageOffset * kSpread % static_cast<std::uint32_t>(kLargestFile);
+    const auto offset = static_cast<std::uint32_t>(entry.imageOffset * kSpread % kLargestFile);
     setOffset(start, i, offset);
     moved.push_back({offset, imageOf(std::span(start), entry)});
   }
@@ -92,7 +93,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Choices choices(std::span(data, size), 2);
   Bytes start(data, data + size);
   shortenDirectory(start, choices);
-  const std::uint64_t fileSize = kSmallestFile + static_cast<std::uint64_t>(choices.next()) * kSizeStep;
+  const std::uint64_t fileSize = kLargestFile - static_cast<std::uint64_t>(choices.next()) * kSizeStep;
   const std::string path = writeLarge(std::move(start), fileSize);
   const auto part = gp::readIconFile(path), whole = gp::readWholeIconFile(path);
   require(part && whole && part->span().size() <= whole->span().size());
