@@ -182,7 +182,7 @@ def parseArguments():
     how.add_argument('--minutes', type=float, help='run for this time, all targets together')
     how.add_argument('--minimise', action='store_true', help='make the corpus again')
     parser.add_argument('targets', nargs='*', metavar='TARGET')
-    return parser.parse_args()
+    return parser.parse_intermixed_args()
 
 
 def chosenRun(arguments, targets, workers):
