@@ -1,6 +1,5 @@
 // Icon files: directory, probe, and every entry decoded with its stated size and as 32x32.
-#include "FuzzInput.h"
-#include "files/format/IconDecoder.h"
+#include "FuzzIcons.h"
 #include "files/format/IconProbe.h"
 
 #include <cstdint>
@@ -8,9 +7,6 @@
 namespace {
 
 using gp::fuzz::require;
-
-// A file may state more entries than are worth decoding.
-constexpr int kMostEntries = 6;
 
 void decodeAs(const gp::IconFile& file, const gp::IconEntry& entry, int width, int height) {
   const gp::DecodedIcon decoded = gp::decodeEntry(file, entry, width, height);
@@ -27,7 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const gp::IconFile file = gp::parseIconFile(gp::FileBytes(std::span(data, size)));
   (void)gp::probeIcon(file, true).joined();
   (void)gp::probeIcon(file, false);
-  for (int i = 0; i < kMostEntries && i < file.directory.presentCount(); ++i) {
+  for (int i = 0; i < gp::fuzz::entriesToDecode(file); ++i) {
     const gp::IconEntry entry = file.entry(i);
     (void)gp::isUsableEntry(file, entry);
     decodeAs(file, entry, entry.width, entry.height);

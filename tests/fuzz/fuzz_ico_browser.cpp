@@ -1,8 +1,8 @@
 // The logic of frmGPMultiIcon on a file on disk: every entry is clicked, then buttons are pressed as the input selects.
 // The file changes only after a Yes, and remains readable.
+#include "FuzzIcons.h"
 #include "FuzzUser.h"
 #include "files/browser/MultiIconBrowser.h"
-#include "files/format/IconArrays.h"
 
 #include <algorithm>
 
@@ -76,12 +76,6 @@ void clickEvery(Browser& browser) {
   }
 }
 
-std::size_t sumOfImages(const gp::IconArrays& arrays) {
-  std::size_t sum = 0;
-  for (const gp::ImageBytes image : arrays.images) sum += image.size();
-  return sum;
-}
-
 void browse(const std::string& path, User& user, Choices& choices) {
   user.exchange.gMultiIconFile = path;
   user.exchange.gMultiIconResult = "0";
@@ -107,7 +101,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   gp::IconArrays arrays;
   const bool isIconFile = gp::takeIconArrays(gp::parseIconFile(gp::FileBytes(before)), gp::ReservedField::Any,
                                              arrays) == gp::ArraysDefect::None;
-  if (sumOfImages(arrays) > kLargestSum) return 0;
+  if (gp::fuzz::sumOfImages(arrays) > kLargestSum) return 0;
 
   const std::string path = folder.holding("browsed.ico", before);
   Choices choices(before, kMostChoices);

@@ -1,8 +1,8 @@
 // The logic of frmGPHeaderDiff on a file on disk: every entry is clicked with either kind of header, then the file is
 // salvaged to another one. The original file never changes, and the salvaged file holds the same images.
+#include "FuzzIcons.h"
 #include "FuzzUser.h"
 #include "files/browser/HeaderDiff.h"
-#include "files/format/IconArrays.h"
 
 #include <algorithm>
 
@@ -45,9 +45,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const Bytes before(data, data + size);
   gp::IconArrays arrays;
   (void)gp::takeIconArrays(gp::parseIconFile(gp::FileBytes(before)), gp::ReservedField::Any, arrays);
-  std::size_t sum = 0;
-  for (const gp::ImageBytes image : arrays.images) sum += image.size();
-  if (sum > kLargestSum) return 0;
+  if (gp::fuzz::sumOfImages(arrays) > kLargestSum) return 0;
 
   const std::string path = folder.holding("looked-at.ico", before);
   Choices choices(before, kMostChoices);

@@ -1,10 +1,9 @@
 // Files of several icons as arrays: when images are replaced, inserted, removed, reordered or salvaged, the others do
 // not change, and the file written at the end reads back as expected. The expected content is kept beside it in a
 // simple form.
-#include "FuzzInput.h"
+#include "FuzzIcons.h"
 #include "files/browser/MultiIconListing.h"
 #include "files/format/DepthTexts.h"
-#include "files/format/IconArrays.h"
 #include "files/format/IconSalvage.h"
 #include "files/format/IconUpdates.h"
 
@@ -156,12 +155,6 @@ void requireFound(const gp::IconArrays& arrays) {
   require(gp::findSameIcon(arrays, last, found) != found && !gp::colorText(last.depth).empty());
 }
 
-std::size_t sizeOf(const gp::IconArrays& arrays) {
-  std::size_t size = 0;
-  for (const gp::ImageBytes image : arrays.images) size += image.size();
-  return size;
-}
-
 void update(gp::IconArrays& arrays, Choices& choices) {
   MeantFile meant = copyOf(arrays);
   gp::layOutImages(arrays);
@@ -189,6 +182,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   requireFound(arrays);
   (void)gp::canBeSalvaged(arrays);
   Choices choices(input, kMostChoices);
-  if (sizeOf(arrays) <= kLargestMeant) update(arrays, choices);
+  if (gp::fuzz::sumOfImages(arrays) <= kLargestMeant) update(arrays, choices);
   return 0;
 }
