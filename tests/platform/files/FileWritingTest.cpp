@@ -287,8 +287,8 @@ TEST_F(FileWriting, ABackupInUseAndOneThatIsNotNeededAreNotOffered) {
 // A device that fails for good once new content has been written over a file.
 class FailingAfterwards : public SystemCalls {
  public:
-  ssize_t write(int file, const void* bytes, std::size_t count, off_t position) override {
-    return hasFailed_ ? -1 : SystemCalls::write(file, bytes, count, position);
+  ssize_t write(int file, const iovec* pieces, int count, off_t position) override {
+    return hasFailed_ ? -1 : SystemCalls::write(file, pieces, count, position);
   }
   int resize(int, off_t) override {
     hasFailed_ = true;
