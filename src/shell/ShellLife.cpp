@@ -20,7 +20,8 @@ namespace {
 
 constexpr const char* kBackupQuestion =
     "\n\nWriting this file was interrupted, so it may be damaged.  Its former content has been kept.\n"
-    "Yes puts the former content back, No leaves the file as it is and removes what was kept.\n\n"
+    "Yes puts the former content back, No leaves the file as it is and removes what was kept,\n"
+    "Cancel asks again at the next start.\n\n"
     "Put the former content back?";
 constexpr const char* kNotRestored = "\n\nThe former content cannot be put back.  It is kept in\n";
 
@@ -70,9 +71,10 @@ void Shell::formActivate(const std::string& commandLine) {
 void Shell::offerBackups() {
   for (const LeftBackup& left : leftBackups(folders_.state)) {
     if (!FileExists(left.backup)) continue;  // removed with an older one of the same file
-    if (!ports_.boxes.ask(left.path + kBackupQuestion))
-      discard(left);
-    else if (!restore(left))
+    const BoxAnswer answer =
+        ports_.boxes.show(left.path + kBackupQuestion, BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Yes);
+    if (answer == BoxAnswer::No) discard(left);
+    if (answer == BoxAnswer::Yes && !restore(left))
       ports_.boxes.tell(left.path + kNotRestored + left.backup, BoxIcon::Exclamation);
   }
 }

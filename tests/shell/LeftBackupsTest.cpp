@@ -28,15 +28,19 @@ class LeftBackups : public test::ShellFixture {
   static std::string question(const std::string& path) {
     return path +
            "\n\nWriting this file was interrupted, so it may be damaged.  Its former content has been kept.\n"
-           "Yes puts the former content back, No leaves the file as it is and removes what was kept.\n\n"
+           "Yes puts the former content back, No leaves the file as it is and removes what was kept,\n"
+           "Cancel asks again at the next start.\n\n"
            "Put the former content back?";
+  }
+  void expectQuestion(const std::string& path, BoxAnswer answer) {
+    boxes.expect(question(path), BoxButtons::YesNoCancel, BoxIcon::Question, answer);
   }
   std::size_t count() const { return leftBackups(folder.path()).size(); }
 };
 
 TEST_F(LeftBackups, YesPutsTheFormerContentBack) {
   const std::string path = interruptWriting("a.ico", "whole content");
-  boxes.expectAsked(question(path), BoxAnswer::Yes);
+  expectQuestion(path, BoxAnswer::Yes);
   start();
   EXPECT_EQ(folder.read("a.ico"), "whole content");
   EXPECT_EQ(count(), 0u);
@@ -44,17 +48,25 @@ TEST_F(LeftBackups, YesPutsTheFormerContentBack) {
 
 TEST_F(LeftBackups, NoLeavesTheFileAndIsAskedOnce) {
   const std::string path = interruptWriting("a.ico", "whole content");
-  boxes.expectAsked(question(path), BoxAnswer::No);
+  expectQuestion(path, BoxAnswer::No);
   start();
   EXPECT_EQ(folder.read("a.ico"), "half");
   EXPECT_EQ(count(), 0u);
+}
+
+TEST_F(LeftBackups, CancelKeepsBoth) {
+  const std::string path = interruptWriting("a.ico", "whole content");
+  expectQuestion(path, BoxAnswer::Cancel);
+  start();
+  EXPECT_EQ(folder.read("a.ico"), "half");
+  EXPECT_EQ(count(), 1u);
 }
 
 TEST_F(LeftBackups, WhatCannotBePutBackIsKept) {
   const std::string path = interruptWriting("a.ico", "whole content");
   fs::permissions(path, fs::perms::owner_read);
   const std::string backup = leftBackups(folder.path()).at(0).backup;
-  boxes.expectAsked(question(path), BoxAnswer::Yes);
+  expectQuestion(path, BoxAnswer::Yes);
   boxes.expectTold(path + "\n\nThe former content cannot be put back.  It is kept in\n" + backup, BoxIcon::Exclamation);
   start();
   EXPECT_EQ(folder.read("a.ico"), "half");
@@ -66,7 +78,7 @@ TEST_F(LeftBackups, OfAFileWithSeveralTheOldestIsOfferedAndYesIsEnough) {
   fs::last_write_time(leftBackups(folder.path()).at(0).backup,
                       fs::file_time_type::clock::now() - std::chrono::hours(1));
   const std::string path = interruptWriting("a.ico", "damaged before");
-  boxes.expectAsked(question(path), BoxAnswer::Yes);
+  expectQuestion(path, BoxAnswer::Yes);
   start();
   EXPECT_EQ(folder.read("a.ico"), "whole content");
   EXPECT_EQ(count(), 0u);
