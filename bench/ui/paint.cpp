@@ -10,6 +10,7 @@
 #include "platform/qt/QtSystemInfo.h"
 #include "shell/Shell.h"
 #include "shell/ui/frmGPEdit.h"
+#include "support/FoldersIn.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -66,7 +67,7 @@ class Program {
   gp::Shell shell_{state_,
                    {boxes_, dialogs_, pump_, system_, processes_, clipboard_, pictures_},
                    display_,
-                   folder_.path().toStdString()};
+                   gp::test::foldersIn(folder_.path().toStdString())};
   gp::frmGPEdit form_{shell_, display_, ""};
   int step_ = 0;
 };

@@ -11,7 +11,7 @@ import icons
 from forms import Desk, read, write
 
 # Those that change files. The programs make them one by one, so that each is counted on its own.
-CALLS = ['pwrite64', 'write', 'fsync', 'ftruncate', 'linkat', 'renameat', 'renameat2', 'unlinkat', 'fchmod']
+CALLS = ['pwritev', 'pwrite64', 'write', 'fsync', 'ftruncate', 'linkat', 'renameat', 'renameat2', 'unlinkat', 'fchmod']
 FAILURES = ['error=ENOSPC', 'error=EIO', 'error=EDQUOT', 'signal=KILL']
 INJECTED = re.compile(r'INJECTED|killed by SIGKILL')
 MOST_CALLS = 50
@@ -98,7 +98,7 @@ def failCommand(session, *command):
     for hasOtherName in (False, True):
         files = Files(session, command, hasOtherName)
         counts = {call: [failEveryCall(files, call, failure) for failure in FAILURES] for call in CALLS}
-        for call in ('pwrite64', 'fsync', 'ftruncate' if hasOtherName else 'renameat'):
+        for call in ('pwritev', 'fsync', 'ftruncate' if hasOtherName else 'renameat'):
             assert min(counts[call]) > 0, counts
 
 
@@ -149,7 +149,7 @@ def test_a_save_of_the_editor_keeps_the_file_whole_whichever_call_fails(session)
     former = icons.icons((32, 4))
     path = write(session, 'single.ico', former)
     desk = paintedDesk(session, path)
-    for call, failure in (('pwrite64', 'error=ENOSPC'), ('fsync', 'error=EIO'), ('linkat', 'error=EDQUOT'),
+    for call, failure in (('pwritev', 'error=ENOSPC'), ('fsync', 'error=EIO'), ('linkat', 'error=EDQUOT'),
                           ('renameat', 'error=ENOSPC')):
         with Tracer(session, desk.program.process.pid, call, failure, 1):
             desk.program.command('ctrl+s')
@@ -162,7 +162,7 @@ def test_a_save_of_the_editor_keeps_the_file_whole_whichever_call_fails(session)
     desk.program.command('alt+F4')
     assert desk.program.waitForEnd() == 0, 'without a question, because the icon is saved'
 
-    for call in ('pwrite64', 'renameat'):
+    for call in ('pwritev', 'renameat'):
         write(session, 'single.ico', former)
         desk = paintedDesk(session, path)
         with Tracer(session, desk.program.process.pid, call, 'signal=KILL', 1):
