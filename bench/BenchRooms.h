@@ -78,6 +78,7 @@ class RoomsEditor : public Editor {
   void recordUndo() override { drawing->history.recordUndo(); }
   void clearUndoHistory() override { drawing->history.clearUndoHistory(); }
   void doOpenIconFileQuietly(const std::string&, bool&) override {}
+  void offerIconsOfFile(const std::string&, int) override {}
   void AskSaveCurrent(const std::string&, bool&) override {}
   void setHotspotByClick(int, int) override {}
   void UpdateCommands() override {}
