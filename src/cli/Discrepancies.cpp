@@ -86,7 +86,7 @@ void findMissingBytes(const Inspection& image, const DiscrepancySink& tell) {
   } else if (image.header->isPng) {
     const auto picture = ByteReader(image.file.span()).bytesAt(image.entry.imageOffset, stated);
     if (!isWholePng(picture)) tell({image.index, "bytes", text(stated), kNothingTold, "incomplete"});
-  } else if (const auto needed = image.header->bytesNeeded(image.header->paletteTold()); stated < needed) {
+  } else if (const auto needed = image.header->bytesNeeded(image.header->paletteStated()); stated < needed) {
     tell({image.index, "bytes", text(stated), text(needed)});
   }
 }

@@ -24,7 +24,7 @@ bool isReadable(const ImageHeader& header) {
 // shows which.
 std::uint32_t paletteWritten(const IconEntry& entry, const ImageHeader& header) {
   const std::uint32_t full = header.paletteForBits();
-  return entry.bytesInRes == header.bytesNeeded(full) ? full : header.paletteTold();
+  return entry.bytesInRes == header.bytesNeeded(full) ? full : header.paletteStated();
 }
 
 bool hasAlpha(const AlphaMatrix& alpha) {
@@ -82,7 +82,7 @@ std::optional<ColorDepth> measureDepth(const IconFile& file, const IconEntry& en
 }
 
 std::optional<unsigned> highestIndex(const IconFile& file, const IconEntry& entry, const ImageHeader& header) {
-  const std::uint32_t palette = header.paletteTold();
+  const std::uint32_t palette = header.paletteStated();
   if (!isReadable(header) || palette == header.paletteForBits()) return std::nullopt;
   const int width = static_cast<int>(header.width);
   const std::size_t stride = dib::rowStride(width, header.bits);

@@ -27,5 +27,6 @@ inline constexpr const char* kOverwriteQuestion = " already in existence.\n\nOve
 
 inline constexpr const char* kIconFilter = "Icon files (*.ico)|*.ico|";
 inline constexpr const char* kIconExtension = "ico";
+inline constexpr const char* kIconEnding = ".ico";
 
 }  // namespace gp

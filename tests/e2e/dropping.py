@@ -1,4 +1,4 @@
-"""Drops files on a window as a file manager does: the source's side of the XDND protocol, over a connection of its own."""
+"""Drops files on a window as a file manager does: the source's side of the XDND protocol, over a separate connection."""
 import select
 import time
 import urllib.parse

@@ -12,7 +12,7 @@ target that has passed is not run again until it, its inputs or this script chan
 same. With --minutes all targets share N minutes, with mutations that differ each time. They start from corpus and
 seeds, and what they find is kept in FOLDER-WITH-TARGETS/grown. --minimise then makes the corpus again: it takes the
 smallest set of inputs that reaches what corpus, seeds and grown inputs reach together. The public files never become
-part of it, because they have licences of their own.
+part of it, because they have other licences.
 
 Prints PASS or FAIL per target; the last line counts them.
 """

@@ -107,8 +107,13 @@ std::vector<std::uint8_t> composeCursor(const IconImage& icon, ColorDepth depth,
   return composeFile(icon, depth, {ico::kTypeCursor, hotspotX, hotspotY, kBitsWithoutAlpha});
 }
 
-void WriteSingleIconFile(const IconImage& icon, ColorDepth depth, const std::string& path, bool& ok) {
-  ok = hasAlphaToWrite(icon, depth) && replaceFile(path, composeSingleIcon(icon, depth));
+void WriteSingleIconFile(const IconImage& icon, ColorDepth depth, const std::string& path, bool& ok,
+                         const std::optional<FileVersion>& read) {
+  ok = hasAlphaToWrite(icon, depth);
+  if (!ok) return;
+  const std::vector<std::uint8_t> bytes = composeSingleIcon(icon, depth);
+  const Piece piece(bytes);
+  ok = writeFile(path, {&piece, 1}, read) == WriteDefect::None;
 }
 
 void WriteCursorFile(const IconImage& icon, ColorDepth depth, int hotspotX, int hotspotY, const std::string& path,

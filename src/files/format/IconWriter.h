@@ -5,8 +5,10 @@
 #include "document/ColorDepth.h"
 #include "document/IconContainerRec.h"
 #include "document/IconImage.h"
+#include "platform/files/FileVersion.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,8 +30,9 @@ std::vector<std::uint8_t> composeSingleIcon(const IconImage& icon, ColorDepth de
 std::vector<std::uint8_t> composeCursor(const IconImage& icon, ColorDepth depth, int hotspotX, int hotspotY);
 
 // Replaces the file at `path` by one with this icon. `ok` becomes false when it cannot be written, see replaceFile, or
-// when the depth has alpha and the icon lacks alpha values.
-void WriteSingleIconFile(const IconImage& icon, ColorDepth depth, const std::string& path, bool& ok);
+// when the depth has alpha and the icon lacks alpha values. When `read` is given, the file must still be that version.
+void WriteSingleIconFile(const IconImage& icon, ColorDepth depth, const std::string& path, bool& ok,
+                         const std::optional<FileVersion>& read = std::nullopt);
 // The same for a cursor file.
 void WriteCursorFile(const IconImage& icon, ColorDepth depth, int hotspotX, int hotspotY, const std::string& path,
                      bool& ok);

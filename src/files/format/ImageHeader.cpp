@@ -52,7 +52,7 @@ std::uint64_t sizeOf(std::int64_t side) { return static_cast<std::uint64_t>(side
 
 std::uint32_t ImageHeader::paletteForBits() const { return bits >= 1 && bits <= kMaxPaletteBits ? 1U << bits : 0; }
 
-std::uint32_t ImageHeader::paletteTold() const {
+std::uint32_t ImageHeader::paletteStated() const {
   const std::uint32_t most = paletteForBits();
   return colorsUsed == 0 ? most : std::min(most, colorsUsed);
 }

@@ -23,7 +23,7 @@ struct ImageHeader {
   // The size of a full palette for the bit count; 0 without a palette.
   std::uint32_t paletteForBits() const;
   // The size of the palette as the header states it.
-  std::uint32_t paletteTold() const;
+  std::uint32_t paletteStated() const;
   // The number of bytes of the image with such a palette; that of the header alone if the format is unknown.
   std::uint64_t bytesNeeded(std::uint32_t paletteEntries) const;
 };

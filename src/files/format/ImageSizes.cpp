@@ -18,7 +18,7 @@ std::uint32_t ImageSizes::sizeOf(const IconEntry& entry) {
 std::uint64_t ImageSizes::neededBy(const IconEntry& entry) {
   if (isPngImage(file_, entry)) return pngSize(entry);
   const auto header = readImageHeader(file_, entry);
-  if (!header || entry.bytesInRes >= header->bytesNeeded(header->paletteTold())) return 0;
+  if (!header || entry.bytesInRes >= header->bytesNeeded(header->paletteStated())) return 0;
   // Some writers state a short palette and write a full one.
   const std::uint64_t needed = header->bytesNeeded(header->paletteForBits());
   return needed <= ico::kLargestImage ? needed : 0;

@@ -55,9 +55,10 @@ bool isAsRead(const IconArrays& arrays, std::span<const std::uint8_t> before) {
   return std::ranges::equal(arrays.file.span(), before);
 }
 
-bool isFileOfOneIcon(const std::string& path) {
+std::optional<FileVersion> findFileOfOneIcon(const std::string& path) {
   const auto file = readIconFile(path);
-  return file && file->isIcon() && file->directory.count == 1;
+  const bool isOne = file && file->isIcon() && file->directory.count == 1;
+  return isOne ? file->bytes.version() : std::nullopt;
 }
 
 }  // namespace gp

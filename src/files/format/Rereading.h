@@ -24,7 +24,8 @@ std::optional<int> findOrigin(const IconArrays& arrays, const EntryOrigin& origi
 // True when the bytes of a file are those that were read before.
 bool isAsRead(const IconArrays& arrays, std::span<const std::uint8_t> before);
 
-// True when the file on disk is an icon file with one entry, so that an icon can replace all of it.
-bool isFileOfOneIcon(const std::string& path);
+// The version of a file on disk that is an icon file with one entry, so that an icon can replace all of it. Empty for
+// any other file.
+std::optional<FileVersion> findFileOfOneIcon(const std::string& path);
 
 }  // namespace gp

@@ -4,21 +4,12 @@
 
 namespace gp {
 
-namespace {
-
-IconArrays singleEntry(const IconArrays& arrays, int index) {
+std::vector<std::uint8_t> composeSingleEntryFile(const IconArrays& arrays, int index) {
   const auto at = static_cast<std::size_t>(index);
   IconArrays single;
   single.type = ico::kTypeIcon;
   single.entries.push_back(arrays.entries.at(at));
   single.images.push_back(arrays.images.at(at));
-  return single;
-}
-
-}  // namespace
-
-std::vector<std::uint8_t> composeSingleEntryFile(const IconArrays& arrays, int index) {
-  IconArrays single = singleEntry(arrays, index);
   return composeWholeFile(single);
 }
 

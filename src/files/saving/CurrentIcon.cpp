@@ -9,10 +9,10 @@ IconImage currentIcon(const EditState& state) {
   return {state.picImage, state.picMask, state.mAlphaRecs.at(static_cast<std::size_t>(state.mCurContainer))};
 }
 
-bool writeCurrentIcon(const EditState& state, const std::string& path) {
+bool writeCurrentIcon(const EditState& state, const std::string& path, const std::optional<FileVersion>& read) {
   const IconImage icon = currentIcon(state);
   bool ok = false;
-  WriteSingleIconFile(icon, depthToWrite(icon, state.current()), path, ok);
+  WriteSingleIconFile(icon, depthToWrite(icon, state.current()), path, ok, read);
   return ok;
 }
 

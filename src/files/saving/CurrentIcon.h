@@ -2,7 +2,9 @@
 #pragma once
 
 #include "document/IconImage.h"
+#include "platform/files/FileVersion.h"
 
+#include <optional>
 #include <string>
 
 namespace gp {
@@ -12,7 +14,8 @@ struct EditState;
 // The pixels and alpha values of the Current Icon.
 IconImage currentIcon(const EditState& state);
 // Writes the Current Icon with the alpha channel that its record states. False as in WriteSingleIconFile.
-[[nodiscard]] bool writeCurrentIcon(const EditState& state, const std::string& path);
+[[nodiscard]] bool writeCurrentIcon(const EditState& state, const std::string& path,
+                                    const std::optional<FileVersion>& read = std::nullopt);
 // The same as a cursor.
 [[nodiscard]] bool writeCurrentCursor(const EditState& state, int hotspotX, int hotspotY, const std::string& path);
 // Updates the current record after writeCurrentIcon, see recordOfSavedIcon.

@@ -27,7 +27,6 @@
 namespace gp {
 namespace {
 
-constexpr const char* kIconEnding = ".ico";
 constexpr int kAniSize = 32;
 constexpr std::size_t kDiscrepancyPanel = static_cast<std::size_t>(StatusPanel::Discrepancy);
 
@@ -131,17 +130,20 @@ void IconSaver::doFileSave() {
 // False when another program has put more icons into the file, or something else. Nothing is written then.
 bool IconSaver::saveOver(const std::string& path) {
   const auto lock = lockToUpdate(context_, path);
-  if (lock && !isFileOfOneIcon(path)) return false;
-  bool ok = false;
-  if (lock)
-    doSaveIconTo(path, ok);
-  else
+  if (!lock) {
     mSaveFailed_ = true;
-  return true;
+    return true;
+  }
+  const auto read = findFileOfOneIcon(path);
+  bool ok = false;
+  if (read) saveIconTo(path, read, ok);
+  return read.has_value();
 }
 
-void IconSaver::doSaveIconTo(const std::string& path, bool& ok) {
-  ok = writeCurrentIcon(state_, path);
+void IconSaver::doSaveIconTo(const std::string& path, bool& ok) { saveIconTo(path, std::nullopt, ok); }
+
+void IconSaver::saveIconTo(const std::string& path, const std::optional<FileVersion>& read, bool& ok) {
+  ok = writeCurrentIcon(state_, path, read);
   if (!ok) {
     mSaveFailed_ = true;
     tellIconNotSaved(context_.boxes, path);

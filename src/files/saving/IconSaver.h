@@ -4,6 +4,7 @@
 
 #include "files/FilesContext.h"
 #include "files/cursor/CursorFiles.h"
+#include "platform/files/FileVersion.h"
 
 #include <string>
 
@@ -50,6 +51,8 @@ class IconSaver {
   void remindOfMultiIconFile();
   bool saveOver(const std::string& path);
   std::string askForName(const SaveKind& kind);
+  // When `read` is given, the file must still be that version.
+  void saveIconTo(const std::string& path, const std::optional<FileVersion>& read, bool& ok);
   void saveCursorTo(const std::string& path, bool& ok);
   void saveBitmapTo(const std::string& path, bool& ok);
   void saveMaskTo(const std::string& path, bool& ok);

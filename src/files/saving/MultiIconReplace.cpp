@@ -25,7 +25,6 @@ namespace {
 
 constexpr const char* kIconsFirst = "Icon files (*.ico)|*.ico|(*.*)|*.*|";
 constexpr const char* kAllFilesFirst = "(*.*)|*.*|Icon files (*.ico)|*.ico|";
-constexpr const char* kIconEnding = ".ico";
 constexpr const char* kNotMade = "Failed to save current icon - preparation";
 constexpr const char* kNotLoaded = "Failed to save current icon - at loading preparation stage";
 constexpr const char* kNotReopened = "Failed to save current icon - at re-opening original file stage";

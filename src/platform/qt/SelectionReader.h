@@ -1,4 +1,4 @@
-// Reads what another program offers on the clipboard of an X server, over a connection of its own. Unlike with Qt's
+// Reads what another program offers on the clipboard of an X server, over a separate connection. Unlike with Qt's
 // reader, the caller limits time and size.
 #pragma once
 

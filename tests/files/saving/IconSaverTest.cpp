@@ -1,8 +1,10 @@
 #include "files/FilesFixture.h"
 #include "platform/files/FileLock.h"
 #include "platform/files/Files.h"
+#include "platform/files/SystemCalls.h"
 
 #include <filesystem>
+#include <fstream>
 
 namespace gp::test {
 namespace {
@@ -473,6 +475,37 @@ TEST_F(IconSaverTest, ANewIconOfAnotherSizeAsksBeforeItEndsAnAnimatedCursorSessi
   saver.doNewIcon(48);
   EXPECT_EQ(record().size, 48);
   EXPECT_FALSE(state.screen.aniContainerVisible);
+}
+
+// Another program that changes a file just before it is written.
+class ChangingJustBefore : public SystemCalls {
+ public:
+  ChangingJustBefore(std::string path, Bytes content) : path_(std::move(path)), content_(std::move(content)) {}
+  int open(int folder, const char* name, int flags, mode_t mode) override {
+    if (!content_.empty()) writeNow(std::exchange(content_, {}));
+    return SystemCalls::open(folder, name, flags, mode);
+  }
+
+ private:
+  void writeNow(const Bytes& content) const {
+    std::ofstream(path_, std::ios::binary).write(reinterpret_cast<const char*>(content.data()), std::ssize(content));
+  }
+
+  const std::string path_;
+  Bytes content_;
+};
+
+TEST_F(IconSaverTest, AFileThatChangesBetweenTheLookAtItAndTheSaveIsKept) {
+  const std::string path = given(entryOf(anyPicture(16, 4)));
+  const Bytes changed = build(IcoFile{{anyEntry(16, 4), anyEntry(32, 4)}, 0, 1, {}});
+  record().modified = true;
+  boxes.expectTold("Failed to save this icon", BoxIcon::Exclamation);
+  ChangingJustBefore calls(path, changed);
+  const SystemCallsFor replaced(calls);
+  saver.doFileSave();
+  EXPECT_TRUE(saver.mSaveFailed());
+  EXPECT_TRUE(record().modified);
+  EXPECT_EQ(bytesOf(path), changed);
 }
 
 TEST_F(IconSaverTest, AFileThatAnotherOfOurProgramsIsChangingIsNotSavedOver) {
