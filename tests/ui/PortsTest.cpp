@@ -2,6 +2,7 @@
 #include "platform/files/ProgramFolders.h"
 #include "platform/qt/Accessibility.h"
 #include "platform/qt/PathText.h"
+#include "platform/qt/Pictures.h"
 #include "platform/qt/ProcessTable.h"
 #include "platform/qt/QtFileDialogs.h"
 #include "platform/qt/QtMessageBoxes.h"
@@ -16,6 +17,7 @@
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileSystemModel>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -24,6 +26,7 @@
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 #include <filesystem>
 #include <functional>
@@ -96,6 +99,19 @@ TEST(QtMessageBoxes, HaveTheirTitlePlainTextDefaultButtonAndEscape) {
       QTest::keyClick(&box, Qt::Key_Escape);
     });
     EXPECT_EQ(QtMessageBoxes().show(text, look.buttons, look.icon, look.suggested), look.onEscape);
+  }
+}
+
+TEST(QtMessageBoxes, HaveThePicturesOfTheProgramAndPlainButtons) {
+  for (const auto& [icon, name] :
+       {std::pair(BoxIcon::Information, "box-information"), std::pair(BoxIcon::Question, "box-question"),
+        std::pair(BoxIcon::Exclamation, "box-exclamation")}) {
+    QMessageBox box;
+    QtMessageBoxes::prepare(box, "?", BoxButtons::YesNo, icon, BoxAnswer::No);
+    const QPixmap own = Pictures::pixmap(name, box.devicePixelRatioF(), Pictures::kBoxSize);
+    ASSERT_FALSE(own.isNull());
+    EXPECT_EQ(box.iconPixmap().toImage(), own.toImage()) << name;
+    for (const QAbstractButton* button : box.buttons()) EXPECT_TRUE(button->icon().isNull());
   }
 }
 
@@ -226,6 +242,61 @@ TEST(QtFileDialogs, PatternsMatchInAnyCase) {
   EXPECT_EQ(names, (QStringList{"A.ICO", "b.ico", "c.Ico"}));
 }
 
+TEST(QtFileDialogs, TheNamesTakeTheWidthThatTheOtherColumnsLeave) {
+  const test::TempFolder folder;
+  for (const char* name : {"a.ico", "a rather long name of an icon file.ico"}) folder.write(name);
+  whenShown<QFileDialog>([](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.size(), QSize(800, 520).boundedTo(dialog.screen()->availableGeometry().size()));
+    auto* list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    ASSERT_NE(list, nullptr);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list->model()->rowCount(list->rootIndex()) == 2; }, kPatience));
+    int width = 0;
+    for (int column = 0; column < list->header()->count(); ++column) {
+      width += list->columnWidth(column);
+      for (int row = 0; row < 2; ++row)
+        EXPECT_GE(list->columnWidth(column),
+                  list->sizeHintForIndex(list->model()->index(row, column, list->rootIndex())).width())
+            << column;
+    }
+    EXPECT_EQ(width, list->viewport()->width());
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  });
+  std::string path;
+  int error = -1;
+  QtFileDialogs(noFolder).openFile(iconRequest(folder), path, error);
+}
+
+TEST(QtFileDialogs, AFileWithAnIconIsShownByItPixelByPixel) {
+  const test::TempFolder folder;
+  folder.write("a.ico"), folder.write("b.ico");
+  QImage picture(16, 16, QImage::Format_ARGB32);
+  picture.fill(Qt::red);
+  picture.setPixelColor(3, 5, Qt::blue);
+  FilePictures pictures([&](const std::string& path) { return path == folder.file("a.ico") ? picture : QImage(); });
+  const QImage shown = pictures.icon(QFileInfo(pathToText(folder.file("a.ico")))).pixmap(32, 32).toImage();
+  ASSERT_EQ(shown.size(), QSize(32, 32));
+  EXPECT_EQ(shown.pixelColor(5, 10), QColor(Qt::red));
+  for (const QPoint at : {QPoint(6, 10), QPoint(7, 11)}) EXPECT_EQ(shown.pixelColor(at), QColor(Qt::blue));
+  EXPECT_EQ(shown.pixelColor(8, 10), QColor(Qt::red));
+  const QFileInfo plain(pathToText(folder.file("b.ico")));
+  EXPECT_EQ(pictures.icon(plain).pixmap(32, 32).toImage(), QFileIconProvider().icon(plain).pixmap(32, 32).toImage());
+}
+
+TEST(QtFileDialogs, AnIconLargerThanTheRowIsScaledDownAndOneInBetweenIsCentred) {
+  for (const auto& [side, margin] : {std::pair(64, 0), std::pair(24, 4)}) {
+    QImage picture(side, side, QImage::Format_ARGB32);
+    picture.fill(Qt::red);
+    const FilePictures pictures([&](const std::string&) { return picture; });
+    const test::TempFolder folder;
+    folder.write("a.ico");
+    const QImage shown = pictures.icon(QFileInfo(pathToText(folder.file("a.ico")))).pixmap(32, 32).toImage();
+    EXPECT_EQ(shown.pixelColor(margin, margin), QColor(Qt::red)) << side;
+    EXPECT_EQ(shown.pixelColor(31 - margin, 31 - margin), QColor(Qt::red)) << side;
+    const QRect inside(margin, margin, 32 - 2 * margin, 32 - 2 * margin);
+    for (int x = 0; x < 32; ++x) EXPECT_EQ(shown.pixelColor(x, 16).alpha() != 0, inside.contains(x, 16)) << side;
+  }
+}
+
 TEST(QtFileDialogs, StarDotStarAlsoMeansNamesWithoutADot) {
   FileDialogRequest request;
   request.filters = {{"All files (*.*)", "*.*"}, {"Icons and cursors", "*.ico;*.cur"}};
@@ -328,6 +399,8 @@ TEST(QtSystemInfo, TellsTheScreenTheMemoryAndTheFolders) {
   EXPECT_EQ(system.GetScreenBPP(), 32);
   EXPECT_EQ(system.screenWidth(), 800);
   EXPECT_EQ(system.screenHeight(), 800);
+  EXPECT_EQ(system.physicalScreenWidth(), 800);
+  EXPECT_EQ(system.physicalScreenHeight(), 800);
   EXPECT_EQ(system.GetPixelsPerInch(), 96);
   EXPECT_GT(system.totalMemoryKb(), 1024);
   EXPECT_EQ(system.windowsDirectory(), "/usr");

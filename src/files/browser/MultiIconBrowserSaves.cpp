@@ -7,6 +7,7 @@
 #include "files/format/SingleEntryFile.h"
 #include "files/opening/IconMessages.h"
 #include "files/saving/HeldFiles.h"
+#include "platform/dialogs/StartFolder.h"
 #include "platform/dialogs/clsGPDialog.h"
 #include "platform/files/Files.h"
 #include "platform/ports/MessageBoxes.h"
@@ -51,7 +52,8 @@ void MultiIconBrowser::cmdSaveSingle() {
 
 void MultiIconBrowser::cmdSplitSave() {
   if (!isIcon(selected_)) return;
-  const std::string folder = context_.dialog.chooseFolder(kFolderPattern, context_.process.mLastFolder);
+  const std::string folder =
+      context_.dialog.chooseFolder(kFolderPattern, existingStartFolder(context_.boxes, context_.process.mLastFolder));
   if (folder.empty()) return;
   const std::string stem = joined(folder, ParseFileName(file(), PathPart::BareName));
   const std::string question = "Single-icon files will be saved as " + stem + "_(Size)_(Color), ...\nTotally " +

@@ -40,6 +40,12 @@ constexpr const char* kMultiIconReminder =
     "Reminder:  The original icon file contains multiple icons.\n\n"
     " If you don't wish to overwrite it, save to a different name.";
 
+// Empty when the folder exists, or the path states none.
+std::string missingFolderOf(const std::string& path) {
+  const std::string folder = ParseFileName(path, PathPart::DriveAndFolder);
+  return directoryExists(folder) ? std::string() : folder;
+}
+
 }  // namespace
 
 struct IconSaver::SaveKind {
@@ -117,7 +123,7 @@ void IconSaver::doFileSave() {
   const IconContainerRec& record = state_.current();
   const std::string path = record.path.trimmed();
   if (record.fromMultiIconFile || !endsWithAnyCase(path, kIconEnding) || !FileExists(path))
-    return doSaveAs(SaveMode::Icon);
+    return saveAs(SaveMode::Icon, missingFolderOf(path));
   if (record.neverSaved && !mayWriteOverOriginal(context_, path)) {
     mSaveFailed_ = true;
     return;
@@ -157,13 +163,15 @@ void IconSaver::saveIconTo(const std::string& path, const std::optional<FileVers
   context_.editor.AddHistory(path);
 }
 
-void IconSaver::doSaveAs(SaveMode mode) {
+void IconSaver::doSaveAs(SaveMode mode) { saveAs(mode, {}); }
+
+void IconSaver::saveAs(SaveMode mode, const std::string& folder) {
   const SaveKind& kind = kindOf(mode);
   closeSidePanels();
   context_.document.iconsPanel.EndToolAction();
   context_.drawing.regions.clearRegion();
   if (mode == SaveMode::Icon) remindOfMultiIconFile();
-  const std::string path = askForName(kind);
+  const std::string path = askForName(kind, folder);
   if (path.empty() || !mayWriteOver(context_, path, Saved::CurrentIcon)) {
     mSaveFailed_ = true;
     return;
@@ -190,8 +198,8 @@ std::string IconSaver::proposedName(SaveMode mode) const {
   return name;
 }
 
-std::string IconSaver::askForName(const SaveKind& kind) {
-  return askToSave(context_, proposedName(kind.mode), kind.filter, kind.extension);
+std::string IconSaver::askForName(const SaveKind& kind, const std::string& folder) {
+  return askToSave(context_, proposedName(kind.mode), kind.filter, kind.extension, OverwriteQuestion::ByDialog, folder);
 }
 
 // Saving as a cursor does not change the Current Icon's record.

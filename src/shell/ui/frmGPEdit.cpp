@@ -17,6 +17,7 @@
 #include "shell/FormPlacement.h"
 #include "shell/Shell.h"
 #include "shell/ui/CommandMenus.h"
+#include "shell/ui/MenuBar.h"
 #include "shell/ui/PanelStack.h"
 #include "shell/ui/PointerView.h"
 #include "shell/ui/ToolbarView.h"
@@ -28,7 +29,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
-#include <QMenuBar>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -58,7 +58,9 @@ frmGPEdit::frmGPEdit(Shell& shell, QtDisplay& display, std::string commandLine)
   rows->addWidget(makeMiddle(whole), 1);
   rows->addWidget(statusBar_ = new StatusBarView(whole, shell_.screen()));
   setCentralWidget(whole);
-  menus_ = new CommandMenus(this, menuBar(), shell_);
+  auto* bar = new MenuBar(this);
+  setMenuBar(bar);
+  menus_ = new CommandMenus(this, bar, shell_);
 
   connectEditingArea();
   connectIconsPanel();
