@@ -7,8 +7,8 @@ namespace gp {
 
 class MessageBoxes;
 
-// Returns `folder` if it exists. Otherwise tells the user that it does not, and returns the nearest folder above it.
-// An empty or relative path is returned unchanged.
+// Returns `folder` if it exists. Otherwise reports to the user that it does not, and returns the nearest folder above
+// it. An empty or relative path is returned unchanged.
 std::string existingStartFolder(MessageBoxes& boxes, const std::string& folder);
 
 }  // namespace gp
