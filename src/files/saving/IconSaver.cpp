@@ -1,5 +1,6 @@
 #include "files/saving/IconSaver.h"
 
+#include "document/Announcements.h"
 #include "document/Containers.h"
 #include "document/CurrentIconGuard.h"
 #include "document/Display.h"
@@ -91,6 +92,7 @@ bool IconSaver::endsAniSession(int size) {
 void IconSaver::showNewIcon(int size) {
   context_.document.arrival.arrive(transparentIcon(size), NewRecord());
   context_.drawing.tools.selectTool(kPaint);
+  context_.display.announce(news::newIcon(size));
 }
 
 void IconSaver::closeSidePanels() {
@@ -137,6 +139,7 @@ bool IconSaver::saveOver(const std::string& path) {
   const auto read = findFileOfOneIcon(path);
   bool ok = false;
   if (read) saveIconTo(path, read, ok);
+  if (ok) context_.display.announce(news::kSaved);
   return read.has_value();
 }
 
@@ -171,10 +174,12 @@ void IconSaver::doSaveAs(SaveMode mode) {
   lastSavedFile_ = path;
   bool ok = false;
   (this->*kind.save)(path, ok);
-  if (!ok)
+  if (!ok) {
     mSaveFailed_ = true;
-  else if (mode == SaveMode::Icon)
-    state_.current().modified = false;
+    return;
+  }
+  if (mode == SaveMode::Icon) state_.current().modified = false;
+  context_.display.announce(news::kSaved);
 }
 
 void IconSaver::remindOfMultiIconFile() {
