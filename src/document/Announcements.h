@@ -23,9 +23,7 @@ inline std::string region(int width, int height) {
   return "Region " + std::to_string(width) + " x " + std::to_string(height);
 }
 // "New icon 16 x 16", in icon pixels.
-inline std::string newIcon(int size) {
-  return "New icon " + std::to_string(size) + " x " + std::to_string(size);
-}
+inline std::string newIcon(int size) { return "New icon " + std::to_string(size) + " x " + std::to_string(size); }
 // "Opened tools.ico".
 inline std::string opened(const std::string& name) { return "Opened " + name; }
 // "Container 3, tools.ico"; containers are counted from 0.

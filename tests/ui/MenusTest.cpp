@@ -136,7 +136,8 @@ class StatusBar : public test::FormFixture {};
 
 TEST_F(StatusBar, ItsPanelsAreNamedAndTheirTextIsTheirValue) {
   startWithIcon(24);
-  EXPECT_EQ(indexed("lblStatusPanel", 3)->accessibleName(), "Status 3");
+  const char* names[] = {"File", "Headers", "Several icons", "Icon size", "Alpha"};
+  for (int i = 0; i < kStatusPanelCount; ++i) EXPECT_EQ(indexed("lblStatusPanel", i)->accessibleName(), names[i]);
   EXPECT_EQ(valueOf(indexed("lblStatusPanel", 3)), "24 x 24");
   EXPECT_EQ(valueOf(indexed("lblStatusPanel", 0)).toStdString(), folder.file("icon.ico"));
   EXPECT_EQ(valueOf(indexed("lblStatusPanel", 4)), "");

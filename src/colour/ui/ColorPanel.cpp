@@ -200,8 +200,7 @@ void ColorPanel::refresh() {
   showMixer(screen.fraColorMixerVisible);
   cboBrushSize_->setCurrentIndex(screen.brushIndex);
   const Color color = state_.mCurrentColor;
-  setDescription(picColorToUse_,
-                 QString("RGB: %1, %2, %3").arg(redOf(color)).arg(greenOf(color)).arg(blueOf(color)));
+  setDescription(picColorToUse_, QString("RGB: %1, %2, %3").arg(redOf(color)).arg(greenOf(color)).arg(blueOf(color)));
   picColorToUse_->update();
 }
 

@@ -27,7 +27,8 @@ class ToolBox : public QWidget {
   ToolBox(QWidget* parent, const ScreenState& screen, const Tools& tools, const ColorSelection& colors);
 
   void refresh();
-  // The key of an entry of the Toolbox menu, by its index: a tool, Clear Tools or the colour picker. Others are ignored.
+  // The key of an entry of the Toolbox menu, by its index: a tool, Clear Tools or the colour picker. Others are
+  // ignored.
   void setKey(int index, const QString& key);
 
  signals:

@@ -11,8 +11,8 @@ namespace gp {
 namespace {
 
 // The accessible interface of a widget that paints its content. A read-only text reports it as text, with a caret that
-// stays at the start; other widgets as description, which is what screen readers speak of a focused one. Reporting it in
-// both ways would have it read twice.
+// stays at the start; other widgets as description, which is what screen readers speak of a focused one. Reporting it
+// in both ways would have it read twice.
 class ValueInterface final : public QAccessibleWidget, public QAccessibleTextInterface {
  public:
   ValueInterface(QWidget* shown, const AccessibleValue& value)

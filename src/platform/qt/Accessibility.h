@@ -24,7 +24,8 @@ void installAccessibility();
 
 // Gives a widget another role than that of its class: a group, a radio button, a live region. A button of that role
 // reports whether it is checked and can be pressed; a slider or progress bar reports its value. Its tooltip is its
-// description, unless it only repeats the name. Must be called before assistive technology asks for the widget.
+// description, unless it only repeats the name. Must be called before the
+// widget is shown.
 void setAccessibleRole(QWidget* widget, QAccessible::Role role);
 // The same for a container of controls, with its name.
 void makeGroup(QWidget* widget, const QString& name, QAccessible::Role role = QAccessible::Grouping);

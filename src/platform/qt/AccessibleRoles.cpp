@@ -8,6 +8,8 @@
 #include <QProgressBar>
 #include <QVariant>
 
+#include <type_traits>
+
 namespace gp {
 namespace {
 
@@ -73,7 +75,9 @@ class RangeInterface final : public RoleInterface, public QAccessibleValueInterf
     return RoleInterface::interface_cast(type);
   }
   QVariant currentValue() const override { return range_.value(); }
-  void setCurrentValue(const QVariant& value) override { range_.setValue(value.toInt()); }
+  void setCurrentValue(const QVariant& value) override {
+    if constexpr (std::is_base_of_v<QAbstractSlider, Range>) range_.setValue(value.toInt());
+  }
   QVariant minimumValue() const override { return range_.minimum(); }
   QVariant maximumValue() const override { return range_.maximum(); }
   QVariant minimumStepSize() const override { return 1; }
@@ -86,6 +90,9 @@ class RangeInterface final : public RoleInterface, public QAccessibleValueInterf
 
 void setAccessibleRole(QWidget* widget, QAccessible::Role role) {
   widget->setProperty(kRoleProperty, static_cast<int>(role));
+  if (!QAccessible::isActive()) return;
+  // Setting a text, which constructors do, has already made the interface of the former role.
+  QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(widget)));
 }
 
 void setAccessibleKey(QWidget* widget, const QString& key) { widget->setProperty(kKeyProperty, key); }
