@@ -5,6 +5,8 @@ import subprocess
 import sys
 import time
 
+SHOWING = 'object:state-changed:showing'
+DESCRIBED = 'object:property-change:accessible-description'
 WAIT_SECONDS = 30
 POLL_SECONDS = 0.05
 
@@ -20,6 +22,7 @@ def hear(event):
     try:
         if source.get_process_id() != process:
             return
+        source.clear_cache()  # otherwise the name may be a former one
         print(json.dumps([event.type, source.get_role_name(), source.get_name(), event.detail1]), flush=True)
     except Exception:
         pass  # the source has disappeared
@@ -33,10 +36,10 @@ Atspi.event_main()
 
 
 class Hearing:
-    """Records the events of these types from here on. Use it in a with statement."""
+    """Records the events of the live region and of these types from here on. Use it in a with statement."""
 
     def __init__(self, session, program, *types):
-        self.process = subprocess.Popen([sys.executable, '-c', LISTENER, str(program.process.pid), *types],
+        self.process = subprocess.Popen([sys.executable, '-c', LISTENER, str(program.process.pid), SHOWING, *types],
                                         stdout=subprocess.PIPE, stderr=session.log, text=True)
         assert self.process.stdout.readline() == 'listening\n'
         self.path = session.path('heard')
@@ -59,7 +62,8 @@ class Hearing:
 
     def notices(self):
         """The texts that were spoken by the live region."""
-        return [name for _, role, name, shown in self.events() if role == 'notification' and shown]
+        return [name for event, role, name, shown in self.events()
+                if role == 'notification' and event == SHOWING and shown]
 
     def waitFor(self, question, what):
         end = time.monotonic() + WAIT_SECONDS

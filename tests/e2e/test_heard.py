@@ -1,13 +1,8 @@
 """What is heard on the accessibility bus: roles, names and values, and what the live region announces."""
-import os
-
 import icons
 import pyatspi
 from forms import Desk, write
-from hearing import Hearing
-
-SHOWING, NAMED, DESCRIBED = ('object:state-changed:showing', 'object:property-change:accessible-name',
-                             'object:property-change:accessible-description')
+from hearing import DESCRIBED, Hearing
 
 
 def everything(program, top):
@@ -31,14 +26,14 @@ def roleOf(program, name, role):
 
 def test_what_is_announced_on_a_road_of_thirty_actions(session):
     path = write(session, 'road.ico', icons.icons((32, 4)))
-    program = session.start(path)
+    program = session.start()
     expected = []
 
     def act(action, *notices):
         expected.extend(notices)
         action()
         hearing.waitForNotices(len(expected))
-        assert hearing.notices() == expected
+        assert hearing.notices() == expected, f'{hearing.notices()} is not {expected}'
 
     def keys(*names):
         return lambda: program.command(*names)
@@ -49,13 +44,18 @@ def test_what_is_announced_on_a_road_of_thirty_actions(session):
     def drag(*pixels):
         return lambda: session.drag([program.pixelPoint(x, y, 32) for x, y in pixels])
 
+    def openRoad():
+        program.command('ctrl+o')
+        program.answerFileDialog(path)
+
     def saveAs(name):
         def save():
             program.command('ctrl+t')
             program.answerFileDialog(session.path(name))
         return save
 
-    with Hearing(session, program, SHOWING) as hearing:
+    with Hearing(session, program) as hearing:
+        act(openRoad, 'Opened road.ico')
         act(keys('F4'), 'Paint')
         act(click(3, 3))
         act(keys('ctrl+z'), 'Undone')
@@ -66,13 +66,15 @@ def test_what_is_announced_on_a_road_of_thirty_actions(session):
         act(keys('F5'), 'Erase')
         act(keys('F5'), 'No tool')
         act(keys('shift+F7'), 'Region')
-        act(drag((2, 2), (5, 5), (13, 9)), 'Region 12 x 8')
+        act(drag((2, 2), (5, 5), (14, 10)), 'Region 12 x 8')
         act(keys('ctrl+c'), 'Copied')
         act(keys('ctrl+x'), 'Cut and copied')
         act(keys('ctrl+x'), 'No region')
         act(keys('ctrl+v'), 'Pasted')
         act(keys('ctrl+u'), 'Erased')
         act(keys('F2'), 'No tool')
+        act(keys('F4'), 'Paint')
+        act(click(20, 20))
         act(keys('ctrl+y'), 'All undone')
         act(keys('F3'), 'Only with the 256-color palette')
         act(saveAs('other.ico'), 'Saved')
@@ -82,17 +84,16 @@ def test_what_is_announced_on_a_road_of_thirty_actions(session):
         act(keys('ctrl+m'), 'Icon is not from a multi-icon file')
         act(lambda: program.menu('Rotate', 'Rotate At Any Selected Angle'), 'Rotate image (-359 to +359)')
         act(lambda: program.command('Escape'))
-        act(lambda: program.menu('Effects', 'Buttonize'), program_title := 'Buttonize')
+        act(lambda: program.menu('Effects', 'Buttonize'), 'Buttonize')
         act(lambda: program.press('Proceed'), 'Applied')
         act(lambda: program.press('Undo'), 'Undone')
         act(lambda: program.menu('Edit', 'Clear Clipboard'), 'Clipboard cleared')
         act(keys('shift+F2'), 'Line')
-    assert program_title in expected
 
 
 def test_a_refusal_with_a_box_and_a_command_given_up_announce_nothing(session):
     program = session.start()
-    with Hearing(session, program, SHOWING) as hearing:
+    with Hearing(session, program) as hearing:
         program.command('ctrl+s')
         program.answerBox('No icon in Editing Area yet')
         program.command('ctrl+e')
@@ -102,7 +103,7 @@ def test_a_refusal_with_a_box_and_a_command_given_up_announce_nothing(session):
         program.waitForNoDialog()
         program.command('F4')  # Paint is chosen already, with the new icon
         hearing.waitForNotices(2)
-        assert hearing.notices() == ['New icon 16 x 16', 'No tool']
+        assert hearing.notices() == ['New icon 16 x 16', 'No tool'], hearing.notices()
 
 
 def test_a_value_is_reported_once_and_only_when_it_changes(session):
@@ -118,7 +119,6 @@ def test_a_value_is_reported_once_and_only_when_it_changes(session):
         session.click(program.chartPoint('16-Color Palette', 1, 1, 8, 2))
         hearing.waitFor(lambda _: colors(), 'the colour')
         program.menu('Edit', 'Clear Container')
-        program.answerBox('Save current icon to file?', 'alt+n')
         program.answerBox('Clear current icon from container.', 'alt+y')
         program.wait(lambda: program.value('Icon size') == '', 'the empty container')
         assert len(colors()) <= 2, 'once for the choice, at most once for the chart of the empty container'
@@ -191,7 +191,6 @@ def test_hidden_faces_are_not_showing(session):
     drop-down lists are left out: their entries claim to be visible in every program."""
     path = write(session, 'several.ico', icons.icons((16, 4), (32, 4)))
     desk = Desk(session)
-    desk.program.menu('Rotate', 'Rotate At') if False else None
     desk.openIcons(path)
     for window in desk.program.windows():
         hidden = set()

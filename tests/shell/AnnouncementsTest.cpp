@@ -59,6 +59,7 @@ TEST_F(Announcements, AToolChosenByKeyOrMenuIsNamedAndSoIsItsEnd) {
 
 TEST_F(Announcements, TheColorPickerIsNamedOrTheReasonWhyItCannotBeUsed) {
   startWithIcon();
+  click("mnuPaletteSub", 0);
   heard();
   click("mnuTools", 2);
   EXPECT_THAT(heard(), ElementsAre("Only with the 256-color palette"));

@@ -4,6 +4,7 @@
 
 #include <QMenu>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QShortcut>
 
 namespace gp {
@@ -149,7 +150,7 @@ TEST_F(StatusBar, ProgressShowsOnlyWhileThereIsSome) {
   const QRect place = find("picProgressContainer")->geometry();
   state.screen.progressPercent = 40;
   display.changed(DisplayPart::StatusBar);
-  auto* bar = find("picProgressContainer")->findChild<QWidget*>();
+  auto* bar = find("picProgressContainer")->findChild<QProgressBar*>();
   ASSERT_TRUE(bar);
   EXPECT_TRUE(bar->isVisible());
   state.screen.progressPercent = -1;

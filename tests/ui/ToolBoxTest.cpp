@@ -42,7 +42,7 @@ TEST_F(ToolBoxTest, ToolsAreRadioButtonsWithoutTheirNameInTheDescription) {
 }
 
 TEST_F(ToolBoxTest, ToolsCarryTheKeysOfTheirMenuEntries) {
-  start();
+  startWithIcon(16);
   const auto keyOf = [this](const QString& name) {
     QAccessibleInterface* button = QAccessible::queryAccessibleInterface(find(name));
     return button->actionInterface()->keyBindingsForAction(button->actionInterface()->actionNames().front());

@@ -6,10 +6,10 @@
 #include "platform/qt/Pictures.h"
 #include "platform/qt/widgets/TextCell.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QProgressBar>
-#include <QStackedLayout>
 
 namespace gp {
 namespace {
@@ -95,11 +95,10 @@ void StatusBarView::addProgressPlace() {
   progress_ = new QProgressBar(progressPlace_);
   progress_->setAccessibleName("Progress");
   setAccessibleRole(progress_, QAccessible::ProgressBar);
-  auto* both = new QStackedLayout(progressPlace_);
-  both->setStackingMode(QStackedLayout::StackAll);
-  both->addWidget(progress_);
-  both->addWidget(notice_);
-  notice_->hide();
+  auto* both = new QGridLayout(progressPlace_);
+  both->setContentsMargins(0, 0, 0, 0);
+  both->addWidget(progress_, 0, 0);
+  both->addWidget(notice_, 0, 0);
   static_cast<QHBoxLayout*>(layout())->addWidget(progressPlace_);
 }
 

@@ -90,7 +90,6 @@ class RangeInterface final : public RoleInterface, public QAccessibleValueInterf
 
 void setAccessibleRole(QWidget* widget, QAccessible::Role role) {
   widget->setProperty(kRoleProperty, static_cast<int>(role));
-  if (!QAccessible::isActive()) return;
   // Setting a text, which constructors do, has already made the interface of the former role.
   QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(widget)));
 }
