@@ -1,6 +1,7 @@
 // The phases of a region: what each event does in each of them.
 #include "drawing/Regions.h"
 
+#include "document/Announcements.h"
 #include "document/Display.h"
 #include "document/EditState.h"
 #include "document/EditingArea.h"
@@ -124,6 +125,11 @@ void Regions::finishBox() {
   if (normalizeRegion()) updateRegionLabel();
   liftRegion(true);
   enter(RegionPhase::Standing);
+  announceSize();
+}
+
+void Regions::announceSize() {
+  context_.display.announce(news::region(content_.image.width(), content_.image.height()));
 }
 
 // Moving a side.
@@ -153,6 +159,7 @@ void Regions::finishEdge() {
   liftRegion(true);
   wipeRegionBox();
   drawRegionBox();
+  announceSize();
 }
 
 // Moving the region.

@@ -20,7 +20,7 @@ def pixels(path):
 def test_an_icon_is_drawn_and_saved_without_the_mouse(session):
     program = session.start()
     program.command('ctrl+e')
-    program.wait(lambda: program.value('Status 3') == '16 x 16', 'the new icon')
+    program.wait(lambda: program.value('Icon size') == '16 x 16', 'the new icon')
     program.menuByKeys('alt+p', 'd')
     program.typeInto('Color value', 'ff', becomes='FF')
     session.keys('Return')

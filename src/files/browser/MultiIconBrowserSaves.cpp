@@ -1,4 +1,6 @@
 // Commands of the browser that save single entries.
+#include "document/Announcements.h"
+#include "document/Display.h"
 #include "document/Hourglass.h"
 #include "document/ProcessValues.h"
 #include "files/FileQuestions.h"
@@ -45,7 +47,10 @@ void MultiIconBrowser::cmdSaveSingle() {
   const std::string path = askToSave(context_, proposed, kIconFilter, kIconExtension);
   if (path.empty() || !mayWriteOver(context_, path, Saved::Other)) return;
   const bool isOwnFile = isSameFile(path, file());
-  if (!saveItem(selected_, path)) tellIconNotSaved(context_.boxes, path);
+  if (saveItem(selected_, path))
+    context_.display.announce(news::kSaved);
+  else
+    tellIconNotSaved(context_.boxes, path);
   // The list must match the file that a later command rewrites.
   if (isOwnFile || path == file()) openFile();
 }

@@ -1,5 +1,6 @@
 #include "files/saving/IconSaver.h"
 
+#include "document/Announcements.h"
 #include "document/Containers.h"
 #include "document/CurrentIconGuard.h"
 #include "document/Display.h"
@@ -97,6 +98,7 @@ bool IconSaver::endsAniSession(int size) {
 void IconSaver::showNewIcon(int size) {
   context_.document.arrival.arrive(transparentIcon(size), NewRecord());
   context_.drawing.tools.selectTool(kPaint);
+  context_.display.announce(news::newIcon(size));
 }
 
 void IconSaver::closeSidePanels() {
@@ -143,6 +145,7 @@ bool IconSaver::saveOver(const std::string& path) {
   const auto read = findFileOfOneIcon(path);
   bool ok = false;
   if (read) saveIconTo(path, read, ok);
+  if (ok) context_.display.announce(news::kSaved);
   return read.has_value();
 }
 
@@ -179,10 +182,12 @@ void IconSaver::saveAs(SaveMode mode, const std::string& folder) {
   lastSavedFile_ = path;
   bool ok = false;
   (this->*kind.save)(path, ok);
-  if (!ok)
+  if (!ok) {
     mSaveFailed_ = true;
-  else if (mode == SaveMode::Icon)
-    state_.current().modified = false;
+    return;
+  }
+  if (mode == SaveMode::Icon) state_.current().modified = false;
+  context_.display.announce(news::kSaved);
 }
 
 void IconSaver::remindOfMultiIconFile() {
