@@ -26,7 +26,8 @@ def roleOf(program, name, role):
 
 def test_what_is_announced_on_a_road_of_thirty_actions(session):
     path = write(session, 'road.ico', icons.icons((32, 4)))
-    program = session.start()
+    program = session.start(path)
+    program.need('Opened road.ico', role='notification')
     expected = []
 
     def act(action, *notices):
@@ -44,18 +45,7 @@ def test_what_is_announced_on_a_road_of_thirty_actions(session):
     def drag(*pixels):
         return lambda: session.drag([program.pixelPoint(x, y, 32) for x, y in pixels])
 
-    def openRoad():
-        program.command('ctrl+o')
-        program.answerFileDialog(path)
-
-    def saveAs(name):
-        def save():
-            program.command('ctrl+t')
-            program.answerFileDialog(session.path(name))
-        return save
-
     with Hearing(session, program) as hearing:
-        act(openRoad, 'Opened road.ico')
         act(keys('F4'), 'Paint')
         act(click(3, 3))
         act(keys('ctrl+z'), 'Undone')
@@ -77,10 +67,11 @@ def test_what_is_announced_on_a_road_of_thirty_actions(session):
         act(click(20, 20))
         act(keys('ctrl+y'), 'All undone')
         act(keys('F3'), 'Only with the 256-color palette')
-        act(saveAs('other.ico'), 'Saved')
+        act(keys('Delete'), 'No region')
+        act(keys('ctrl+h'), 'Icon is not from a cursor')
         act(lambda: program.press('Container 3'), 'Container 3, empty')
         act(keys('ctrl+e'), 'New icon 16 x 16')
-        act(lambda: program.press('Container 1'), 'Container 1, other.ico')
+        act(lambda: program.press('Container 1'), 'Container 1, road.ico')
         act(keys('ctrl+m'), 'Icon is not from a multi-icon file')
         act(lambda: program.menu('Rotate', 'Rotate At Any Selected Angle'), 'Rotate image (-359 to +359)')
         act(lambda: program.command('Escape'))
@@ -98,9 +89,8 @@ def test_a_refusal_with_a_box_and_a_command_given_up_announce_nothing(session):
         program.answerBox('No icon in Editing Area yet')
         program.command('ctrl+e')
         hearing.waitForNotices(1)
-        program.command('ctrl+t')
-        program.giveUpFile()
-        program.waitForNoDialog()
+        program.menu('File', 'Save As Bitmap')
+        program.answerBox('Background color used will be the currently selected color.', 'alt+n')
         program.command('F4')  # Paint is chosen already, with the new icon
         hearing.waitForNotices(2)
         assert hearing.notices() == ['New icon 16 x 16', 'No tool'], hearing.notices()
