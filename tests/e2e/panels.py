@@ -110,7 +110,7 @@ class PanelDesk(Desk):
     # Panels ----------------------------------------------------------------------------------------------------------
 
     def isUp(self, title):
-        return self.program.find(title, role='filler')
+        return self.program.find(title, role='panel')
 
     def effect(self, title, *captions):
         """Opens a panel by the Effects menu."""

@@ -4,6 +4,7 @@
 #include "files/browser/MultiIconExchange.h"
 #include "files/ui/BrowserLists.h"
 #include "files/ui/EntryView.h"
+#include "platform/qt/Accessibility.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/PictureButton.h"
 #include "platform/qt/widgets/TabbedList.h"
@@ -69,6 +70,7 @@ struct BrowserFaceView::Button {
 BrowserFaceView::BrowserFaceView(QWidget* parent, MultiIconBrowser& browser, const MultiIconExchange& exchange)
     : QWidget(parent), browser_(browser), face_(browser.face()) {
   setObjectName(indexed("picContainer"));
+  makeGroup(this, "Icon file");
   makeControls();
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(0, 0, 0, 0);

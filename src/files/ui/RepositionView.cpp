@@ -2,6 +2,7 @@
 
 #include "files/ui/BrowserLists.h"
 #include "files/ui/EntryView.h"
+#include "platform/qt/Accessibility.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/TextCell.h"
 
@@ -27,6 +28,7 @@ RepositionView::RepositionView(QWidget* parent, MultiIconBrowser& browser)
       preview_(new EntryView(this, {QStringLiteral("lblReposition"), QStringLiteral("picReposition")},
                              browser.picReposition(), kLargestIcon)) {
   setObjectName(QStringLiteral("picContainer(2)"));
+  makeGroup(this, "Sequence of icons");
   connect(lisReposition_, &TabbedList::itemChosen, this, [this](int item) { browser_.clickRepositionIcon(item); });
 
   auto* rows = new QVBoxLayout(this);

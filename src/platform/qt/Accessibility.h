@@ -1,6 +1,6 @@
 // Accessibility of the program's own widgets. A widget class that paints its content inherits AccessibleValue besides
 // QWidget: its accessible name is the one set with setAccessibleName, and its content is reported as text if the widget
-// is a static text, otherwise as description. Other widgets get a role by setAccessibleRole. None of this code runs
+// is a static text, otherwise as description. Other widgets get a role by setAccessibleRole. Nothing is reported
 // while no assistive technology is active.
 #pragma once
 

@@ -1,7 +1,5 @@
 #include "shell/ui/frmGPEdit.h"
 
-#include "document/Containers.h"
-#include "document/EditState.h"
 #include "document/ui/CurrentIconView.h"
 #include "document/ui/EditingAreaView.h"
 #include "document/ui/IconsPanelView.h"
@@ -20,9 +18,11 @@
 #include "shell/FormPlacement.h"
 #include "shell/Shell.h"
 #include "shell/ui/CommandMenus.h"
+#include "shell/ui/FormTitle.h"
 #include "shell/ui/MenuBar.h"
 #include "shell/ui/PanelStack.h"
 #include "shell/ui/PointerView.h"
+#include "shell/ui/ToolKeys.h"
 #include "shell/ui/ToolbarView.h"
 #include "shell/ui/frmGPAbout.h"
 
@@ -30,13 +30,10 @@
 #include <QCursor>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QKeySequence>
 #include <QLabel>
 #include <QMenu>
 #include <QTimer>
 #include <QVBoxLayout>
-
-#include <string_view>
 
 namespace gp {
 namespace {
@@ -44,8 +41,6 @@ namespace {
 constexpr int kEdge = 3;         // around and between the columns, pixels
 constexpr int kEraseRegion = 5;  // index of mnuEditSub
 constexpr int kToolColumnWidth = ShiftPad::kSide;
-
-const QString kChangedMark = QStringLiteral("[*]");
 
 int pixelsOf(int twips) { return twips / kTwipsPerPixel; }
 int twipsOf(int pixels) { return pixels * kTwipsPerPixel; }
@@ -171,7 +166,7 @@ void frmGPEdit::connectIconsPanel() {
 }
 
 void frmGPEdit::connectToolBox() {
-  setKeys();
+  showToolKeys(*toolBox_, *shiftPad_);
   connect(shiftPad_, &ShiftPad::toolChosen, this, &frmGPEdit::chooseTool);
   connect(toolBox_, &ToolBox::toolChosen, this, &frmGPEdit::chooseTool);
   connect(toolBox_, &ToolBox::colorPickerChosen, this, [this] {
@@ -184,18 +179,6 @@ void frmGPEdit::connectToolBox() {
     shell_.guarded("imgShiftDir_MouseUp", [&] { shell_.shiftTowards(cell); });
     shiftPad_->refresh();
   });
-}
-
-// The tool box shows the keys of the Toolbox menu.
-void frmGPEdit::setKeys() {
-  for (const Command& command : commandTable()) {
-    if (std::string_view(command.control) != "mnuTools") continue;
-    const QString key = QKeySequence(command.key).toString(QKeySequence::NativeText);
-    if (command.index == kShift)
-      shiftPad_->setKey(key);
-    else
-      toolBox_->setKey(command.index, key);
-  }
 }
 
 void frmGPEdit::chooseTool(int tool) {
@@ -237,17 +220,7 @@ void frmGPEdit::refreshCommandsSoon() { commandsTimer_->start(0); }
 void frmGPEdit::refreshCommands() {
   menus_->refresh();
   toolbar_->refresh();
-  refreshTitle();
-}
-
-// With the desktop's mark while the Current Icon has unsaved changes. A mark in the name itself is doubled, which Qt
-// shows as it is.
-void frmGPEdit::refreshTitle() {
-  const EditState& state = shell_.state();
-  const QString program = kProgramName;
-  const QString name = toText(nameOf(state.current())).replace(kChangedMark, kChangedMark + kChangedMark);
-  setWindowTitle(state.current().present ? name + kChangedMark + " - " + program : program);
-  setWindowModified(state.IsIconChanged());
+  showTitle(*this, shell_.state());
 }
 
 void frmGPEdit::refreshCurrentIcon() {

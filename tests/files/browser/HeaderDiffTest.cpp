@@ -51,7 +51,9 @@ class HeaderDiffTest : public FilesTest {
         isThere ? target + " already in existence.\n\nOverwrite?\n" : "Salvage to \n\n" + target + "\nProceed?",
         BoxAnswer::Yes);
     boxes.expectTold("File salvaged to " + target + kSalvaged, BoxIcon::None);
+    display.announced.clear();
     diff->cmdSalvage();
+    EXPECT_EQ(display.announced, std::vector<std::string>{"Salvaged"});
     return bytesOf(target);
   }
   Bytes salvage() { return salvageTo(folder.path("out.ico"), false); }

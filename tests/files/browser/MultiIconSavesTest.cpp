@@ -54,6 +54,7 @@ TEST_F(BrowserSavesTest, SavesTheSelectedEntryAsAFileOfItsOwn) {
   EXPECT_EQ(save("one.ico"), "tools_32_256.ico");
   EXPECT_EQ(bytesOf(folder.path("one.ico")), build(anyEntry(32, 8)));
   EXPECT_FALSE(state.screen.hourglass);
+  EXPECT_EQ(display.announced, std::vector<std::string>{"Saved"});
 }
 
 TEST_F(BrowserSavesTest, TheDialogOffersIconFiles) {

@@ -107,6 +107,7 @@ TEST_F(MultiIconAddTest, TheIconStaysItsOwnDocumentAndCountsAsSaved) {
   EXPECT_EQ(state.screen.lblStatusPanel[0], folder.path("own.ico"));
   EXPECT_GE(editor.count("UpdateCommands"), 1);
   EXPECT_TRUE(panelIsUpToDate());
+  EXPECT_EQ(display.announced, std::vector<std::string>{"Saved"});
 }
 
 TEST_F(MultiIconAddTest, TheBrowserShowsItsAddFaceWithTheIcon) {

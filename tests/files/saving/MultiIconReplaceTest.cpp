@@ -161,6 +161,7 @@ TEST_F(MultiIconReplaceTest, TheRecordIsSavedAndTheHistoryKnowsTheFile) {
   EXPECT_EQ(state.screen.lblStatusPanel[1], "");
   EXPECT_EQ(state.screen.lblStatusPanel[0], path);
   EXPECT_EQ(editor.count("AddHistory " + path), 1);
+  EXPECT_EQ(display.announced, std::vector<std::string>{"Saved"});
 }
 
 TEST_F(MultiIconReplaceTest, WhatIsOpenOnTheIconEndsAndItsContainerIsUpToDate) {
