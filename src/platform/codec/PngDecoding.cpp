@@ -8,13 +8,13 @@ namespace gp {
 namespace {
 
 // What libpng has not read yet.
-struct Input {
+struct Unread {
   const std::uint8_t* at;
   std::size_t left;
 };
 
 void readBytes(png_structp png, png_bytep out, std::size_t count) {
-  auto& input = *static_cast<Input*>(png_get_io_ptr(png));
+  auto& input = *static_cast<Unread*>(png_get_io_ptr(png));
   if (count > input.left) png_error(png, "cut short");
   std::memcpy(out, input.at, count);
   input.at += count;
@@ -75,7 +75,7 @@ class Decoding {
   }
 
   const PngHeader& header_;
-  Input input_;
+  Unread input_;
   png_structp png_;
   png_infop info_;
   bool hasTransparency_ = false;

@@ -12,7 +12,7 @@ constexpr int kBitDepth = 8;
 constexpr int kBestCompression = 9;
 
 // What libpng has written. No exception may leave a function that libpng calls.
-struct Output {
+struct Written {
   std::vector<std::uint8_t> bytes;
 
   bool append(png_const_bytep data, std::size_t count) noexcept {
@@ -26,7 +26,7 @@ struct Output {
 };
 
 void writeBytes(png_structp png, png_bytep data, std::size_t count) {
-  if (!static_cast<Output*>(png_get_io_ptr(png))->append(data, count)) png_error(png, "out of memory");
+  if (!static_cast<Written*>(png_get_io_ptr(png))->append(data, count)) png_error(png, "out of memory");
 }
 
 class Encoding {
@@ -65,7 +65,7 @@ class Encoding {
   }
 
   const PngPicture& picture_;
-  Output output_;
+  Written output_;
   png_structp png_;
   png_infop info_;
 };
