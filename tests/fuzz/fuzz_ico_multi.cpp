@@ -149,9 +149,9 @@ void requireListed(const gp::IconArrays& arrays) {
 }
 
 void requireFound(const gp::IconArrays& arrays) {
-  const gp::IconTraits last = gp::traitsOfEntry(arrays.entries.back());
+  const gp::IconTraits last = gp::traitsOfEntry(arrays, arrays.count() - 1);
   const int found = gp::findSameIcon(arrays, last, -1);
-  require(found >= 0 && gp::traitsOfEntry(arrays.entries[static_cast<std::size_t>(found)]) == last);
+  require(found >= 0 && gp::traitsOfEntry(arrays, found) == last);
   require(gp::findSameIcon(arrays, last, found) != found && !gp::colorText(last.depth).empty());
 }
 
