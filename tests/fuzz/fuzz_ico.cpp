@@ -1,6 +1,7 @@
 // Icon files: directory, probe, and every entry decoded with its stated size and as 32x32.
 #include "FuzzIcons.h"
 #include "files/format/IconProbe.h"
+#include "files/format/PngEntry.h"
 
 #include <cstdint>
 
@@ -26,7 +27,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   for (int i = 0; i < gp::fuzz::entriesToDecode(file); ++i) {
     const gp::IconEntry entry = file.entry(i);
     (void)gp::isUsableEntry(file, entry);
+    const gp::IconEntry shown = gp::shownEntry(file, entry);
     decodeAs(file, entry, entry.width, entry.height);
+    decodeAs(file, shown, shown.width, shown.height);
     decodeAs(file, entry, 32, 32);
   }
   return 0;
