@@ -27,10 +27,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   for (int i = 0; i < gp::fuzz::entriesToDecode(file); ++i) {
     const gp::IconEntry entry = file.entry(i);
     (void)gp::isUsableEntry(file, entry);
-    const gp::IconEntry shown = gp::shownEntry(file, entry);
     decodeAs(file, entry, entry.width, entry.height);
-    decodeAs(file, shown, shown.width, shown.height);
     decodeAs(file, entry, 32, 32);
+    if (!gp::isPngImage(file, entry)) continue;
+    const gp::IconEntry shown = gp::shownEntry(file, entry);
+    decodeAs(file, shown, shown.width, shown.height);
   }
   return 0;
 }

@@ -1,6 +1,7 @@
 #include "files/format/IconProbe.h"
 
 #include "document/IconSizes.h"
+#include "files/format/IcoLayout.h"
 #include "files/format/PngEntry.h"
 
 #include <algorithm>
@@ -14,9 +15,12 @@ constexpr int kPreferredSize = 32;
 
 bool isSquareIcon(const IconEntry& entry) { return entry.width == entry.height && isIconSize(entry.width); }
 
+// A side that a directory can state other than by 0.
+bool isStatedSide(int side) { return side >= 1 && side <= ico::kMaxEntrySide; }
+
 // Checks on the first entry. A file that fails them does not count as an icon.
 bool isSound(const IconEntry& first) {
-  return first.width > 0 && first.height > 0 && first.bytesInRes > 0 && first.imageOffset > 0;
+  return isStatedSide(first.width) && isStatedSide(first.height) && first.bytesInRes > 0 && first.imageOffset > 0;
 }
 
 IconFacts nothingUsable(int kind) {

@@ -170,6 +170,16 @@ TEST(PngEntry, OfSeveralEntriesAPngOf32PixelsIsChosenAsABitmapIs) {
   EXPECT_EQ(facts({statedAs(anyPngEntry(16), 32, 32), anyPngEntry(32)}).chosen, 1);
 }
 
+// As with bitmaps of 256 pixels.
+TEST(PngEntry, AFirstPictureOf256PixelsOrMoreIsRefused) {
+  for (const int size : {256, 300, 512})
+    for (const int stated : {0, 32}) {
+      const Entry first = statedAs(anyPngEntry(size), stated, stated);
+      EXPECT_EQ(probeIcon(iconFileOf(build(fileOf({first, anyPngEntry(32)}))), true).kind, 0) << size;
+    }
+  EXPECT_EQ(probeIcon(iconFileOf(build(fileOf({statedAs(anyPngEntry(16), 0, 0), anyPngEntry(32)}))), true).kind, 2);
+}
+
 TEST(PngEntry, ADamagedPictureIsNotChosenWhereAnotherCanBeShown) {
   PngFile damaged = anyPng(32);
   damaged.hasRightDataCrc = false;
