@@ -101,7 +101,8 @@ IconFacts factsOfEntry(const IconFile& file, int index) {
 }
 
 IconFacts probeIcon(const IconFile& file, bool preferEightBit) {
-  if (!file.isIcon() || !isSound(shownEntry(file, file.entry(0)))) return {};
+  const IconEntry first = file.entry(0);
+  if (!file.isIcon() || !(isSound(first) || isSound(shownEntry(file, first)))) return {};
   return file.directory.count == 1 ? probeSingle(file) : EntryScan(file, preferEightBit).run();
 }
 

@@ -170,14 +170,18 @@ TEST(PngEntry, OfSeveralEntriesAPngOf32PixelsIsChosenAsABitmapIs) {
   EXPECT_EQ(facts({statedAs(anyPngEntry(16), 32, 32), anyPngEntry(32)}).chosen, 1);
 }
 
-// As with bitmaps of 256 pixels.
-TEST(PngEntry, AFirstPictureOf256PixelsOrMoreIsRefused) {
-  for (const int size : {256, 300, 512})
-    for (const int stated : {0, 32}) {
-      const Entry first = statedAs(anyPngEntry(size), stated, stated);
-      EXPECT_EQ(probeIcon(iconFileOf(build(fileOf({first, anyPngEntry(32)}))), true).kind, 0) << size;
-    }
-  EXPECT_EQ(probeIcon(iconFileOf(build(fileOf({statedAs(anyPngEntry(16), 0, 0), anyPngEntry(32)}))), true).kind, 2);
+// As with bitmaps, whose directory states 256 pixels and more as 0. One picture with a wrong header is no reason to
+// refuse the others.
+TEST(PngEntry, AFirstPictureIsRefusedWhenNeitherTheDirectoryNorThePictureStatesASide) {
+  const auto kind = [](int size, int stated) {
+    const Entry first = statedAs(anyPngEntry(size), stated, stated);
+    return probeIcon(iconFileOf(build(fileOf({first, anyPngEntry(32)}))), true).kind;
+  };
+  for (const int size : {256, 300, 512}) {
+    EXPECT_EQ(kind(size, 0), 0) << size;
+    EXPECT_EQ(kind(size, 32), 2) << size;
+  }
+  EXPECT_EQ(kind(16, 0), 2);
 }
 
 TEST(PngEntry, ADamagedPictureIsNotChosenWhereAnotherCanBeShown) {
