@@ -214,7 +214,9 @@ PngFile padded(std::size_t bytes) {
 TEST(PngEntry, ALongPictureInALargeFileIsReadAsFarAsItsEntryStates) {
   constexpr std::size_t kLong = 400 * 1024;
   const IconFolder folder;
-  Bytes bytes = build(fileOf({pngEntryOf(padded(kLong)), anyEntry(32, 4)}));
+  Entry first = anyEntry(32, 4);  // keeps the picture away from the directory, which is read with much behind it
+  first.image.resize(2'000'000);
+  Bytes bytes = build(fileOf({first, pngEntryOf(padded(kLong))}));
   bytes.resize(bytes.size() + 2'000'000);
   const auto file = readIconFile(folder.write("large.ico", bytes));
   ASSERT_TRUE(file);

@@ -126,6 +126,22 @@ TEST_F(PngOpening, ACursorOpensWithItsAlphaAndHotSpot) {
   EXPECT_EQ(record().hotspotY, 31);
 }
 
+TEST_F(PngOpening, ACursorsSizeIsThatOfThePicture) {
+  CursorFile cursor = cursorOf(anyPicture(32, 32), 5, 6);
+  cursor.width = cursor.height = 48;
+  cursor.image = build(anyPng(32));
+  bool ok = false;
+  files.cursorFiles.doOpenCursorFile(folder.write("c.cur", build(cursor)), ok);
+  EXPECT_TRUE(ok);
+  EXPECT_EQ(record().size, 32);
+  cursor.width = cursor.height = 32;
+  cursor.image = build(anyPng(48));
+  const std::string path = folder.write("d.cur", build(cursor));
+  boxes.expectTold(path + "\nInvalid cursor file", BoxIcon::Exclamation);
+  files.cursorFiles.doOpenCursorFile(path, ok);
+  EXPECT_FALSE(ok);
+}
+
 // The browser.
 
 TEST_F(BrowserTest, PngPicturesAreListedAsTheyStateThemselves) {
