@@ -3,8 +3,10 @@
 set(ROOMS platform document colour palette drawing files alpha effects animation incoming extraction output shell)
 
 # gp_core_rooms(): creates one library per room with sources, each linked to the nearest one on its left, and the
-# interface library glimmerpane_core, which links all of them.
+# interface library glimmerpane_core, which links all of them. libpng is the only other library; src/platform/codec
+# uses it.
 function(gp_core_rooms)
+  find_package(PNG 1.6 REQUIRED)
   add_library(glimmerpane_core INTERFACE)
   set(left "")
   foreach(room IN LISTS ROOMS)
@@ -19,6 +21,7 @@ function(gp_core_rooms)
       set(left gp_${room})
     endif()
   endforeach()
+  target_link_libraries(gp_platform PRIVATE PNG::PNG)
   target_link_libraries(glimmerpane_core INTERFACE ${left})
 endfunction()
 

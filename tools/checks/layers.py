@@ -12,6 +12,7 @@ NOT_A_ROOM_OF_THE_ROW = ('app', 'cli')
 X11_PLACE = 'src/platform/qt/'
 POSIX_PLACES = ('src/platform/qt/', 'src/app/')
 CORE_POSIX_PLACE = 'src/platform/files/'  # what the standard library cannot do with files: sync, exclusive names, locks
+CODEC_PLACE, CODEC_HEADERS = 'src/platform/codec/', ('png.h',)
 
 
 def readRooms(text):
@@ -79,6 +80,8 @@ def isPosix(target):
 def angled(name, target):
     if target in CXX_HEADERS:
         return ''
+    if target in CODEC_HEADERS:
+        return '' if name.startswith(CODEC_PLACE) else f'<{target}> is for {CODEC_PLACE} only'
     if not isUi(name):
         allowedHere = name.startswith(CORE_POSIX_PLACE) and isPosix(target)
         return '' if allowedHere else f'<{target}> is not the C++ standard library'
