@@ -1,6 +1,7 @@
 // The desktop program: creates the ports, the shell and the main form.
 #include "document/EditState.h"
 #include "document/ui/QtDisplay.h"
+#include "files/ui/FileIconImage.h"
 #include "platform/files/FileWriting.h"
 #include "platform/files/ProgramFolders.h"
 #include "platform/qt/Accessibility.h"
@@ -30,9 +31,11 @@ std::string commandLineOf(int argc, char** argv) { return argc > 1 ? argv[1] : "
 
 int run(QApplication& application, const std::string& commandLine) {
   gp::QtMessageBoxes boxes;
-  gp::QtFileDialogs dialogs([&boxes](const std::string& pattern, const std::string& startFolder) {
-    return gp::frmDirDialog::choose(pattern, startFolder, boxes);
-  });
+  gp::QtFileDialogs dialogs(
+      [&boxes](const std::string& pattern, const std::string& startFolder) {
+        return gp::frmDirDialog::choose(pattern, startFolder, boxes);
+      },
+      [](const std::string& path) { return gp::imageOfFile(path, gp::FilePictures::kSide); });
   gp::QtMessagePump pump;
   gp::QtSystemInfo system;
   gp::QtProcesses processes;
