@@ -201,8 +201,8 @@ struct Pointer {
 // One more in each direction than in the drawing: the margin of the outline.
 const Pointer kPointers[] = {{"paint", {3, 18}},      {"erase", {5, 15}},           {"fill", {3, 18}},
                              {"replace", {3, 3}},     {"restore", {3, 18}},         {"color-picker", {3, 18}},
-                             {"line", {5, 5}},        {"rectangle", {5, 5}},        {"oval", {5, 5}},
-                             {"filled-oval", {5, 5}}, {"filled-rectangle", {5, 5}}, {"region", {11, 11}}};
+                             {"line", {4, 4}},        {"rectangle", {3, 5}},        {"oval", {3, 5}},
+                             {"filled-oval", {3, 5}}, {"filled-rectangle", {3, 5}}, {"region", {11, 11}}};
 
 TEST(PicturePointers, TheHotSpotIsAtTheTipAtEveryScale) {
   for (const Pointer& pointer : kPointers) {

@@ -4,9 +4,9 @@
 #include "colour/ui/ColorChartView.h"
 #include "colour/ui/ColorMixerView.h"
 #include "colour/ui/DirectEntryView.h"
+#include "colour/ui/SwatchPainting.h"
 #include "document/EditState.h"
 #include "document/ui/Lists.h"
-#include "document/ui/SurfacePainting.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/CaptionFrame.h"
 #include "platform/qt/widgets/PictureButton.h"
@@ -80,13 +80,7 @@ class ColorSwatch : public QAbstractButton {
   }
 
  protected:
-  void paintEvent(QPaintEvent*) override {
-    DevicePainter painter(this);
-    const int line = hasFocus() ? 2 : 1;
-    const QRect whole = painter.toDevice(rect());
-    painter.fillRect(whole, palette().color(hasFocus() ? QPalette::Highlight : QPalette::WindowText));
-    painter.fillRect(whole.adjusted(line, line, -line, -line), QColor(toRgb(shown_)));
-  }
+  void paintEvent(QPaintEvent*) override { paintSwatch(*this, shown_); }
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
       click();
@@ -166,12 +160,17 @@ QWidget* ColorPanel::makeChartFrame(ChartKind chart) {
   const ColorFrame index = chart == ChartKind::Chart16 ? ColorFrame::Chart16 : ColorFrame::Chart256;
   CaptionFrame* frame = makeFrame(this, static_cast<int>(index));
   auto* view = new ColorChartView(frame, chart);
-  view->setFixedSize(kChartWidth, kChartHeight);
+  view->setFixedSize(kChartWidth + 2 * ColorChartView::kFrame, kChartHeight + 2 * ColorChartView::kFrame);
   connect(view, &ColorChartView::hovered, this,
           [=, this](QPointF at) { view->setToolTip(toText(colors_.chartHover(chart, at.x(), at.y()))); });
   connect(view, &ColorChartView::released, this,
           [=, this](QPointF at) { colors_.chartRelease(chart, at.x(), at.y()); });
-  return framed(frame, view);
+  charts_.push_back(view);
+  framed(frame, view);
+  // The chart is where it would be without the space for its ring.
+  constexpr int kRing = ColorChartView::kFrame;
+  frame->layout()->setContentsMargins(frame->frameMargins() - QMargins(kRing, kRing, kRing, kRing));
+  return frame;
 }
 
 QWidget* ColorPanel::makeButtonRow() {
@@ -200,6 +199,7 @@ void ColorPanel::refresh() {
                                                .arg(greenOf(state_.mCurrentColor))
                                                .arg(blueOf(state_.mCurrentColor)));
   picColorToUse_->update();
+  for (ColorChartView* chart : charts_) chart->setCurrent(state_.mCurrentColor);
 }
 
 void ColorPanel::showMixer(bool shown) {

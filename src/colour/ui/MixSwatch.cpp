@@ -1,6 +1,6 @@
 #include "colour/ui/MixSwatch.h"
 
-#include "document/ui/SurfacePainting.h"
+#include "colour/ui/SwatchPainting.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -22,13 +22,7 @@ void MixSwatch::setColor(Color color) {
   update();
 }
 
-void MixSwatch::paintEvent(QPaintEvent*) {
-  DevicePainter painter(this);
-  const int line = hasFocus() ? 2 : 1;
-  const QRect whole = painter.toDevice(rect());
-  painter.fillRect(whole, palette().color(hasFocus() ? QPalette::Highlight : QPalette::WindowText));
-  painter.fillRect(whole.adjusted(line, line, -line, -line), QColor(toRgb(color_)));
-}
+void MixSwatch::paintEvent(QPaintEvent*) { paintSwatch(*this, color_); }
 
 void MixSwatch::mousePressEvent(QMouseEvent* event) { event->accept(); }
 

@@ -3,6 +3,7 @@
 #include "document/EditState.h"
 #include "document/IconsPanel.h"
 #include "document/ui/SurfacePainting.h"
+#include "platform/qt/FocusRing.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/PictureButton.h"
 #include "platform/qt/widgets/RovingFocus.h"
@@ -10,7 +11,6 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QMouseEvent>
-#include <QStyleOptionFocusRect>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -70,9 +70,7 @@ void ContainerButton::paintEvent(QPaintEvent*) {
   painter.fillRect(icon.adjusted(-line, -line, line, line), lineColor);
   painter.fillRect(icon, QColor(toRgb(kGround)));
   paintCentred(painter, state_.picPanelIcon.at(static_cast<std::size_t>(container_)), icon, ratio);
-  if (!hasFocus()) return;
-  painter.setPen(QPen(palette().color(QPalette::Highlight), outline));
-  painter.drawRect(icon);
+  if (hasFocus()) paintFocusRing(painter, whole, accentOn(palette()), ratio);
 }
 
 void ContainerButton::mouseReleaseEvent(QMouseEvent* event) {

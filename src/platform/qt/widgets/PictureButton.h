@@ -1,4 +1,5 @@
 // A flat button with one of the program's pictures. Its tooltip is also its accessible name, unless another one is set.
+// While it is checked or pressed, the picture is on a tile that is dark in a light window and light in a dark one.
 #pragma once
 
 #include <QToolButton>
@@ -27,6 +28,9 @@ class PictureButton : public QToolButton {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void paintTile(QPainter& painter) const;
+
+  QIcon reversed_;
   bool dimmed_ = false;
 };
 
