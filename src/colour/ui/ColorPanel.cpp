@@ -115,6 +115,8 @@ ColorPanel::ColorPanel(QWidget* parent, const EditState& state, ColorSelection& 
   column->addWidget(makeButtonRow());
 
   mixerPlace_ = new QWidget(this);
+  // The mixer's place is kept while it is hidden.
+  mixerPlace_->setMinimumHeight(ColorMixerView::heightFor(*mixerPlace_));
   auto* mixerColumn = new QVBoxLayout(mixerPlace_);
   mixerColumn->setContentsMargins(0, 0, 0, 0);
   column->addWidget(mixerPlace_, 1);
@@ -151,7 +153,7 @@ QWidget* ColorPanel::makeScreenColorFrame() {
 QWidget* ColorPanel::makeBrushFrame() {
   CaptionFrame* frame = makeFrame(this, kBrushFrame);
   cboBrushSize_ = makeUnlabelledList(frame, "cboBrushSize", "Brush");
-  cboBrushSize_->setFixedHeight(kSwatchHeight);
+  cboBrushSize_->setMinimumHeight(kSwatchHeight);
   connect(cboBrushSize_, &QComboBox::activated, this, &ColorPanel::brushChosen);
   return framed(frame, cboBrushSize_);
 }
@@ -194,10 +196,7 @@ void ColorPanel::refresh() {
   frameDirect_->refresh();
   showMixer(screen.fraColorMixerVisible);
   cboBrushSize_->setCurrentIndex(screen.brushIndex);
-  picColorToUse_->setAccessibleDescription(QString("RGB: %1, %2, %3")
-                                               .arg(redOf(state_.mCurrentColor))
-                                               .arg(greenOf(state_.mCurrentColor))
-                                               .arg(blueOf(state_.mCurrentColor)));
+  picColorToUse_->setAccessibleDescription(colorText(state_.mCurrentColor));
   picColorToUse_->update();
   for (ColorChartView* chart : charts_) chart->setCurrent(state_.mCurrentColor);
 }

@@ -15,6 +15,7 @@ namespace gp {
 namespace {
 
 constexpr int kFrame = kFocusRing;  // around the strip
+static_assert(MixGradientView::kHeight == kMixGradientHeight + 2 * kFrame);
 constexpr int kMarkerHeight = 4;
 constexpr int kDarkGray = 128;
 
@@ -45,7 +46,7 @@ QPoint stripPoint(const QMouseEvent& event) {
 MixGradientView::MixGradientView(QWidget* parent, const ColorMixer& mixer) : QWidget(parent), mixer_(mixer) {
   setObjectName("picMixGradient");
   setAccessibleName("Color gradient");
-  setFixedSize(kMixGradientWidth + 2 * kFrame, kMixGradientHeight + 2 * kFrame);
+  setFixedSize(kMixGradientWidth + 2 * kFrame, kHeight);
   setMouseTracking(true);
   setFocusPolicy(Qt::TabFocus);
 }

@@ -18,7 +18,7 @@ MixSwatch::MixSwatch(QWidget* parent, const QString& objectName, const QString& 
 
 void MixSwatch::setColor(Color color) {
   color_ = color;
-  setAccessibleDescription(QString("RGB: %1, %2, %3").arg(redOf(color)).arg(greenOf(color)).arg(blueOf(color)));
+  setAccessibleDescription(colorText(color));
   update();
 }
 

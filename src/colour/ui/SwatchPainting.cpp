@@ -3,9 +3,14 @@
 #include "document/ui/SurfacePainting.h"
 #include "platform/qt/FocusRing.h"
 
+#include <QString>
 #include <QWidget>
 
 namespace gp {
+
+QString colorText(Color color) {
+  return QString("RGB: %1, %2, %3").arg(redOf(color)).arg(greenOf(color)).arg(blueOf(color));
+}
 
 void paintSwatch(QWidget& widget, Color color) {
   DevicePainter painter(&widget);

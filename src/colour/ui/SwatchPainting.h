@@ -3,9 +3,13 @@
 
 #include "platform/gdi/Surface.h"
 
+class QString;
 class QWidget;
 
 namespace gp {
+
+// "RGB: 255, 128, 0", as screen readers speak a colour.
+QString colorText(Color color);
 
 // Paints the whole of a widget, in its paint event.
 void paintSwatch(QWidget& widget, Color color);

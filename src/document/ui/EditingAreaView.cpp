@@ -1,6 +1,7 @@
 #include "document/ui/EditingAreaView.h"
 
 #include "document/EditState.h"
+#include "document/ui/EmptyArea.h"
 #include "document/ui/SurfacePainting.h"
 
 #include <QContextMenuEvent>
@@ -20,6 +21,11 @@ EditingAreaView::EditingAreaView(QWidget* parent, const EditState& state)
 
 QString EditingAreaView::accessibleValue() const {
   return state_.current().present ? MagnifiedView::accessibleValue() : QString();
+}
+
+void EditingAreaView::paintEvent(QPaintEvent* event) {
+  MagnifiedView::paintEvent(event);
+  if (!state_.current().present) paintEmptyArea(*this);
 }
 
 void EditingAreaView::keyPressEvent(QKeyEvent* event) {

@@ -22,6 +22,7 @@ class EditingAreaView : public MagnifiedView {
   void popUpRequested(QPoint globalPosition);
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
 

@@ -1,17 +1,14 @@
 #include "document/ui/IconsPanelView.h"
 
 #include "document/EditState.h"
-#include "document/IconsPanel.h"
+#include "document/ui/FileDrops.h"
 #include "document/ui/SurfacePainting.h"
 #include "platform/qt/FocusRing.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/PictureButton.h"
 #include "platform/qt/widgets/RovingFocus.h"
 
-#include <QDropEvent>
-#include <QMimeData>
 #include <QMouseEvent>
-#include <QUrl>
 #include <QVBoxLayout>
 
 namespace gp {
@@ -25,26 +22,16 @@ constexpr int kButtonSide = 26;
 constexpr Color kCurrentLabel = kWhite;
 constexpr Color kOtherLabel = 0xE0E0E0;
 
-std::vector<std::string> localFiles(const QMimeData* data) {
-  std::vector<std::string> files;
-  for (const QUrl& url : data->urls()) {
-    if (!url.isLocalFile()) continue;
-    // Decoded here, since a file name need not be valid text.
-    files.push_back(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString());
-  }
-  return files;
-}
-
 QString indexed(const char* control, int index) { return QString("%1(%2)").arg(control).arg(index); }
 
 }  // namespace
 
 ContainerButton::ContainerButton(QWidget* parent, int container, const EditState& state, const IconsPanel& panel)
-    : QAbstractButton(parent), container_(container), state_(state), panel_(panel) {
+    : QAbstractButton(parent), container_(container), state_(state) {
   setObjectName(indexed("picPanelIcon", container));
   setAccessibleName(QString("Container %1").arg(container + 1));
   setFixedSize(sizeHint());
-  setAcceptDrops(true);
+  connect(new FileDrops(this, panel), &FileDrops::dropped, this, &ContainerButton::filesDropped);
 }
 
 QSize ContainerButton::sizeHint() const { return {kContainerSide, kContainerSide}; }
@@ -86,24 +73,6 @@ void ContainerButton::keyPressEvent(QKeyEvent* event) {
     event->ignore();
   else
     QAbstractButton::keyPressEvent(event);
-}
-
-// The file is only read, so its owner must keep it: the action is a copy, whatever is proposed. After an accepted move
-// the source would delete the file.
-void ContainerButton::answer(QDropEvent* event) const {
-  event->setAccepted(event->possibleActions().testFlag(Qt::CopyAction) &&
-                     panel_.PanelDragOver(localFiles(event->mimeData())));
-  if (event->isAccepted()) event->setDropAction(Qt::CopyAction);
-}
-
-void ContainerButton::dragEnterEvent(QDragEnterEvent* event) { answer(event); }
-
-// Keys pressed during a drag change the proposed action.
-void ContainerButton::dragMoveEvent(QDragMoveEvent* event) { answer(event); }
-
-void ContainerButton::dropEvent(QDropEvent* event) {
-  answer(event);
-  if (event->isAccepted()) emit filesDropped(localFiles(event->mimeData()));
 }
 
 ContainerLabel::ContainerLabel(QWidget* parent, int container) : QLabel(QString::number(container + 1), parent) {

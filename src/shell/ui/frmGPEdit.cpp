@@ -2,6 +2,7 @@
 
 #include "document/ui/CurrentIconView.h"
 #include "document/ui/EditingAreaView.h"
+#include "document/ui/FileDrops.h"
 #include "document/ui/IconsPanelView.h"
 #include "document/ui/QtDisplay.h"
 #include "document/ui/ReadoutsView.h"
@@ -139,6 +140,13 @@ void frmGPEdit::connectEditingArea() {
   connect(&view, &EditingAreaView::left, this, [this] { shell_.drawing().tools.leave(); });
   connect(&view, &EditingAreaView::popUpRequested, this, &frmGPEdit::popUp);
   connect(room_, &EditingAreaRoom::resized, this, &frmGPEdit::resizeRoom);
+  // Queued like the drops on a container.
+  connect(
+      new FileDrops(room_, shell_.document().iconsPanel), &FileDrops::dropped, this,
+      [this](const std::vector<std::string>& files) {
+        shell_.guarded("picDisp_OLEDragDrop", [&] { shell_.document().iconsPanel.AreaDrop(files); });
+      },
+      Qt::QueuedConnection);
 }
 
 void frmGPEdit::connectIconsPanel() {
@@ -237,7 +245,8 @@ FormPlace frmGPEdit::place() const {
 }
 
 void frmGPEdit::setPlace(const FormPlace& place) {
-  setMinimumSize(pixelsOf(kFormWidth), pixelsOf(kFormHeight));
+  // With a large font the controls need more.
+  setMinimumSize(QSize(pixelsOf(kFormWidth), pixelsOf(kFormHeight)).expandedTo(minimumSizeHint()));
   move(pixelsOf(place.left), pixelsOf(place.top));
   resize(pixelsOf(place.width), pixelsOf(place.height));
 }

@@ -1,5 +1,6 @@
 #include "platform/qt/widgets/CaptionFrame.h"
 
+#include <QEvent>
 #include <QPainter>
 
 namespace gp {
@@ -8,16 +9,27 @@ namespace {
 constexpr int kPadding = 8;  // between the frame and its content, pixels
 constexpr int kCaptionIndent = 2;
 constexpr int kCaptionGap = 3;
+constexpr int kCaptionSlack = 2;  // letter widths are not whole pixels
 
 }  // namespace
 
 CaptionFrame::CaptionFrame(QWidget* parent, const QString& objectName, const QString& caption)
     : QWidget(parent), caption_(caption) {
   setObjectName(objectName);
+  makeRoomForCaption();
 }
 
-QMargins CaptionFrame::frameMargins() const {
-  return {kPadding, fontMetrics().height() + kCaptionGap + kPadding, kPadding, kPadding};
+void CaptionFrame::makeRoomForCaption() {
+  setMinimumWidth(kCaptionIndent + fontMetrics().horizontalAdvance(caption_) + kCaptionSlack);
+}
+
+void CaptionFrame::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::FontChange) makeRoomForCaption();
+  QWidget::changeEvent(event);
+}
+
+QMargins CaptionFrame::marginsFor(const QFontMetrics& metrics) {
+  return {kPadding, metrics.height() + kCaptionGap + kPadding, kPadding, kPadding};
 }
 
 void CaptionFrame::paintEvent(QPaintEvent*) {
