@@ -54,8 +54,7 @@ inline QRect differenceOf(const QImage& a, const QImage& b) {
 inline double leastContrast(const QImage& image, const QRect& line, const QColor& ground) {
   double least = 21;
   for (int y = line.top(); y <= line.bottom(); ++y)
-    for (int x = line.left(); x <= line.right(); ++x)
-      least = std::min(least, contrast(image.pixelColor(x, y), ground));
+    for (int x = line.left(); x <= line.right(); ++x) least = std::min(least, contrast(image.pixelColor(x, y), ground));
   return least;
 }
 

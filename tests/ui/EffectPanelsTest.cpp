@@ -150,8 +150,7 @@ TEST_F(EffectPanelsTest, ReliefIsShownUnderItsNameAndMadeByEnter) {
     EXPECT_EQ(titlesOf(kReliefPanel), QStringList({"Effects - shades", name}));
     EXPECT_EQ(find("ckbUseSelectedColor")->isVisible(), index == 14);
     QWidget* sample = find("picEffectsSample");
-    EXPECT_EQ(sampleAt(sample, 16, 16),
-              toRgb(shell.effects().settingsPanel(kReliefPanel)->sample().GetPixel(16, 16)));
+    EXPECT_EQ(sampleAt(sample, 16, 16), toRgb(shell.effects().settingsPanel(kReliefPanel)->sample().GetPixel(16, 16)));
     EXPECT_EQ(sampleAt(sample, 0, 0), toRgb(kGround));
     expectNothingClipped(kReliefPanel);
   }
@@ -273,10 +272,8 @@ TEST_F(EffectPanelsTest, EachRunShowsItsOwnListOfMethods) {
       EXPECT_EQ(confineList(run)->itemText(i), texts[i]);
       pick(confineList(run), i);
       const IconImage& picture = shell.effects().panel<ConfinePanel>().picture();
-      EXPECT_EQ(sampleAt(find("picConfineColors(0)"), 24, 20), toRgb(picture.image.GetPixel(24, 20)))
-          << run << i;
-      EXPECT_EQ(sampleAt(find("picConfineColors(1)"), 24, 20), toRgb(picture.mask.GetPixel(24, 20)))
-          << run << i;
+      EXPECT_EQ(sampleAt(find("picConfineColors(0)"), 24, 20), toRgb(picture.image.GetPixel(24, 20))) << run << i;
+      EXPECT_EQ(sampleAt(find("picConfineColors(1)"), 24, 20), toRgb(picture.mask.GetPixel(24, 20))) << run << i;
       expectNothingClipped(ConfinePanel::kNumber);
     }
     for (int other = 0; other < 3; ++other) EXPECT_EQ(confineList(other)->isVisible(), other == run);

@@ -58,7 +58,10 @@ QWidget* items(QWidget* parent) {
 
 const std::vector<Kind> kKinds = {
     {"push button", labelled<QPushButton>},
-    {"flat button", [](QWidget* p) { return new PictureButton(p, "button", {"save", "Save", 24}); }},
+    {"flat button",
+     [](QWidget* p) {
+       return new PictureButton(p, "button", {"save", "Save", 24});
+     }},
     {"chosen flat button",
      [](QWidget* p) {
        auto* button = new PictureButton(p, "button", {"paint", "Paint", 28});

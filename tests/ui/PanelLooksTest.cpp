@@ -166,6 +166,7 @@ TEST_F(PanelLooks, AWiderTextOfABoxContinuesOnAnotherLine) {
   EXPECT_LT(box->width(), box->sizeHint().width());
   EXPECT_GE(box->height(), 2 * form->fontMetrics().height());
   EXPECT_EQ(box->height(), box->heightForWidth(box->width()));
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(box)->rect().size(), box->size());
   QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(box->width() - 4, box->height() - 4));
   EXPECT_TRUE(box->isChecked()) << "the second line belongs to the box";
   QTest::keyClick(form.get(), Qt::Key_U, Qt::AltModifier);

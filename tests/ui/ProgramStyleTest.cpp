@@ -87,7 +87,7 @@ TEST(ProgramStyle, TheButtonForMoreMenusIsSeenInEveryTheme) {
     for (int y = 0; y < image.height(); ++y)
       for (int x = 0; x < image.width(); ++x)
         if (contrast(image.pixelColor(x, y), QColor(window, window, window)) >= kLeastContrast) ++visible;
-    EXPECT_GE(visible, 10) << window;
+    EXPECT_GE(visible, 20) << window;
     QApplication::setPalette(before);
   }
 }

@@ -151,7 +151,8 @@ TEST_F(RotatePanelViewTest, TheSampleShowsThePixelsOfThePanel) {
     for (int x = 0; x < held.width(); ++x) {
       const Color color = held.GetPixel(x, y);
       for (const QPoint corner : {QPoint(0, 0), QPoint(2, 2)})
-        EXPECT_EQ(shown.pixel(place.topLeft() + 3 * QPoint(x, y) + corner), qRgb(redOf(color), greenOf(color), blueOf(color)));
+        EXPECT_EQ(shown.pixel(place.topLeft() + 3 * QPoint(x, y) + corner),
+                  qRgb(redOf(color), greenOf(color), blueOf(color)));
       others += color != kGround;
     }
   }

@@ -69,7 +69,8 @@ inline void expectAllTextsAreWhole(QWidget& form) {
     if (const auto* frame = qobject_cast<const CaptionFrame*>(widget)) expectCaptionIsWhole(*frame);
     const bool scrolls = qobject_cast<const QScrollArea*>(widget->parentWidget()->parentWidget()) != nullptr;
     if (!scrolls) {
-      EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << described(*widget, "") << " is outside";
+      EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry()))
+          << described(*widget, "") << " is outside";
     }
   }
 }

@@ -1,6 +1,6 @@
 // picColorChart(0) and (1): a chart on the screen, usable by mouse and keyboard. Reports the pointer's position and
-// button releases in chart units. The cell of the current colour has a ring in black and white; the keyboard's cell, which
-// starts there, has a ring in the accent colour around it.
+// button releases in chart units. The cell of the current colour has a ring in black and white; the keyboard's cell,
+// which starts there, has a ring in the accent colour around it.
 #pragma once
 
 #include "colour/ColorCharts.h"

@@ -1,5 +1,5 @@
-// What the views of the effects' side panels share: the settings in rows, and the samples directly below them. A view has no state; it must be
-// destroyed before the logic.
+// What the views of the effects' side panels share: the settings in rows, and the samples directly below them. A view
+// has no state; it must be destroyed before the logic.
 #pragma once
 
 #include "platform/qt/widgets/PanelFrame.h"
@@ -34,8 +34,8 @@ class EffectPanelView : public PanelFrame {
   void refreshAll();
 
  protected:
-  // Adds the samples, each under its caption, then Proceed and Close. The first one is as large as the space allows, the
-  // others are small and beside it. Returns the labels.
+  // Adds the samples, each under its caption, then Proceed and Close. The first one is as large as the space allows,
+  // the others are small and beside it. Returns the labels.
   std::vector<QLabel*> addSamples(const std::vector<SampleRow>& samples);
   // Shows the settings; the samples are refreshed after it.
   virtual void refresh() {}

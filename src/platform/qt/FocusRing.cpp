@@ -11,7 +11,9 @@ QColor accentOn(const QColor& ground, const QPalette& palette) {
   return visibleOn(ground, palette.color(QPalette::Active, QPalette::Highlight));
 }
 
-QColor accentOn(const QPalette& palette) { return accentOn(palette.color(QPalette::Active, QPalette::Window), palette); }
+QColor accentOn(const QPalette& palette) {
+  return accentOn(palette.color(QPalette::Active, QPalette::Window), palette);
+}
 
 void paintRing(QPainter& painter, const QRect& around, const QColor& color, int width) {
   const QRegion ring = QRegion(around) - around.adjusted(width, width, -width, -width);

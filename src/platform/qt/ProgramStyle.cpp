@@ -12,7 +12,8 @@
 namespace gp {
 namespace {
 
-constexpr int kNearText = 6;  // eighths of the way from the window's colour to that of its text
+constexpr int kMoreMenus = 24;  // width of the menu bar's button for the entries that do not fit, pixels
+constexpr int kNearText = 6;    // eighths of the way from the window's colour to that of its text
 
 // Qt draws outlines a third darker than the window, which is invisible on a dark window. There the outline is computed
 // from a lighter window colour.
@@ -20,7 +21,8 @@ template <class Option>
 Option withVisibleOutline(const Option& option) {
   Option visible = option;
   const QColor window = option.palette.color(QPalette::Window), text = option.palette.color(QPalette::WindowText);
-  if (window.lightness() < text.lightness()) visible.palette.setColor(QPalette::Window, between(window, text, kNearText));
+  if (window.lightness() < text.lightness())
+    visible.palette.setColor(QPalette::Window, between(window, text, kNearText));
   return visible;
 }
 
@@ -48,16 +50,22 @@ class ProgramStyle final : public QProxyStyle {
     return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
   }
 
-  // The frame of a list has room for the ring.
+  // The frame of a list has room for the ring, and the button for more menus for its picture.
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
-    return metric == PM_DefaultFrameWidth && isScrollArea(widget) ? kFocusRing
-                                                                  : QProxyStyle::pixelMetric(metric, option, widget);
+    if (metric == PM_DefaultFrameWidth && isScrollArea(widget)) return kFocusRing;
+    return metric == PM_ToolBarExtensionExtent ? kMoreMenus : QProxyStyle::pixelMetric(metric, option, widget);
   }
 
   // Qt's picture for the entries that do not fit the menu bar is black in every theme.
   QIcon standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const override {
     return picture == SP_ToolBarHorizontalExtensionButton ? Pictures::icon("more")
                                                           : QProxyStyle::standardIcon(picture, option, widget);
+  }
+
+  // A box whose text continues on further lines takes clicks, and is known to assistive technology, in all of its area.
+  QRect subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const override {
+    const bool isWrapped = element == SE_CheckBoxClickRect && widget && widget->hasHeightForWidth();
+    return isWrapped ? option->rect : QProxyStyle::subElementRect(element, option, widget);
   }
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

@@ -140,13 +140,11 @@ void frmGPEdit::connectEditingArea() {
   connect(&view, &EditingAreaView::left, this, [this] { shell_.drawing().tools.leave(); });
   connect(&view, &EditingAreaView::popUpRequested, this, &frmGPEdit::popUp);
   connect(room_, &EditingAreaRoom::resized, this, &frmGPEdit::resizeRoom);
-  // Queued like the drops on a container.
-  connect(
-      new FileDrops(room_, shell_.document().iconsPanel), &FileDrops::dropped, this,
-      [this](const std::vector<std::string>& files) {
-        shell_.guarded("picDisp_OLEDragDrop", [&] { shell_.document().iconsPanel.AreaDrop(files); });
-      },
-      Qt::QueuedConnection);
+  IconsPanel& icons = shell_.document().iconsPanel;
+  const auto drop = [this, &icons](const std::vector<std::string>& files) {
+    shell_.guarded("picDisp_OLEDragDrop", [&] { icons.AreaDrop(files); });
+  };
+  connect(new FileDrops(room_, icons), &FileDrops::dropped, this, drop, Qt::QueuedConnection);
 }
 
 void frmGPEdit::connectIconsPanel() {

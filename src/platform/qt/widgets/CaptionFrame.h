@@ -1,5 +1,5 @@
-// A frame with a caption above it, for a labelled group of controls. It is never narrower than its caption. The caption is only painted: the controls inside
-// have their own accessible names.
+// A frame with a caption above it, for a labelled group of controls. It is never narrower than its caption. The caption
+// is only painted: the controls inside have their own accessible names.
 #pragma once
 
 #include <QWidget>

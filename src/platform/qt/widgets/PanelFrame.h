@@ -1,5 +1,5 @@
-// The common frame of the panels in the right column: a title at the top, the panel's rows, and Proceed and Close at the
-// bottom. A row has its label in the first column and its control in the second. Rows that do not fit scroll. Enter
+// The common frame of the panels in the right column: a title at the top, the panel's rows, and Proceed and Close at
+// the bottom. A row has its label in the first column and its control in the second. Rows that do not fit scroll. Enter
 // presses Proceed, unless the focused control handles it, and Esc presses Close. The owner connects the signals to
 // their actions.
 #pragma once

@@ -9,7 +9,7 @@
 namespace gp {
 namespace {
 
-constexpr int kAround = 3;        // between the text and the outer edge of its focus ring, pixels
+constexpr int kAround = 3;         // between the text and the outer edge of its focus ring, pixels
 constexpr int kLeastLetters = 12;  // of a line
 constexpr int kFlags = Qt::AlignLeft | Qt::AlignTop | Qt::TextShowMnemonic | Qt::TextWordWrap;
 

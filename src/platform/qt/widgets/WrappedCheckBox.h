@@ -18,7 +18,6 @@ class WrappedCheckBox : public QCheckBox {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  bool hitButton(const QPoint& position) const override { return rect().contains(position); }
 
  private:
   int textLeft() const;
