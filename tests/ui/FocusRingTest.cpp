@@ -175,5 +175,23 @@ TEST_F(FocusOnTheForm, ContainersToolsChartsSlidersAndSwatchesHaveTheRing) {
   }
 }
 
+// The ring of the Editing Area is around it, so that it hides no pixel of the icon.
+TEST_F(FocusOnTheForm, TheEditingAreaHasItsRingAroundIt) {
+  for (const int lightness : kWindows) {
+    QApplication::setPalette(test::paletteOf(lightness));
+    start();
+    QWidget* room = find("picDispContainer");
+    find("cmdTB(0)")->setFocus(Qt::TabFocusReason);
+    settle();
+    const QImage without = seen(*room);
+    find("picDisp")->setFocus(Qt::MouseFocusReason);
+    settle();
+    const QImage with = seen(*room);
+    expectRing(*room, without, with, without.pixelColor(0, 0));
+    EXPECT_EQ(differenceOf(without, with), find("picDisp")->geometry().adjusted(-3, -3, 3, 3));
+    form.reset();
+  }
+}
+
 }  // namespace
 }  // namespace gp

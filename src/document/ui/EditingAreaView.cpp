@@ -3,6 +3,7 @@
 #include "document/EditState.h"
 #include "document/ui/EmptyArea.h"
 #include "document/ui/SurfacePainting.h"
+#include "platform/qt/FocusRing.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -26,6 +27,17 @@ QString EditingAreaView::accessibleValue() const {
 void EditingAreaView::paintEvent(QPaintEvent* event) {
   MagnifiedView::paintEvent(event);
   if (!state_.current().present) paintEmptyArea(*this);
+}
+
+// The ring around the view belongs to its parent.
+void EditingAreaView::focusInEvent(QFocusEvent* event) {
+  MagnifiedView::focusInEvent(event);
+  parentWidget()->update();
+}
+
+void EditingAreaView::focusOutEvent(QFocusEvent* event) {
+  MagnifiedView::focusOutEvent(event);
+  parentWidget()->update();
 }
 
 void EditingAreaView::keyPressEvent(QKeyEvent* event) {
@@ -68,6 +80,10 @@ void EditingAreaRoom::paintEvent(QPaintEvent*) {
   painter.fillRect(rect(), QColor(toRgb(kGround)));
   painter.setPen(QColor(kRoomOutline));
   painter.drawRect(view_->geometry().adjusted(-1, -1, 0, 0));
+  if (!view_->hasFocus()) return;
+  constexpr int kAround = 1 + kFocusRing;
+  paintFocusRing(painter, view_->geometry().adjusted(-kAround, -kAround, kAround, kAround),
+                 accentOn(QColor(toRgb(kGround)), palette()));
 }
 
 }  // namespace gp

@@ -23,6 +23,8 @@ class EditingAreaView : public MagnifiedView {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
 
@@ -30,7 +32,7 @@ class EditingAreaView : public MagnifiedView {
   const EditState& state_;
 };
 
-// picDispContainer: keeps the Editing Area in its middle.
+// picDispContainer: keeps the Editing Area in its middle, and shows around it that it has the focus.
 class EditingAreaRoom : public QWidget {
   Q_OBJECT
 
