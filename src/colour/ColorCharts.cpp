@@ -12,21 +12,11 @@ namespace {
 constexpr ChartShape kShape256 = {16, 3};
 constexpr ChartShape kShape16 = {8, 2};
 
-struct Cell {
-  int column;
-  int row;
-};
-
-Cell placeOf(ChartKind chart, int k) {
-  if (chart == ChartKind::Chart256) return {k / kShape256.rows, k % kShape256.rows};
-  return {k % kShape16.columns, k / kShape16.columns};
-}
-
 Surface drawCells(ChartKind chart, int cellWidth, int cellHeight) {
   const ChartShape shape = shapeOf(chart);
   Surface picture(shape.columns * cellWidth, shape.rows * cellHeight);
   for (int k = 0; k < shape.columns * shape.rows; ++k) {
-    const Cell cell = placeOf(chart, k);
+    const ChartPlace cell = chartPlaceOf(chart, k);
     const int x = cell.column * cellWidth;
     const int y = cell.row * cellHeight;
     FillBox(picture, x, y, x + cellWidth - 1, y + cellHeight - 1, chartColor(chart, k));
@@ -71,6 +61,18 @@ int chartCellAt(ChartKind chart, double x, double y) {
 Color chartColor(ChartKind chart, int cell) {
   const auto k = static_cast<std::size_t>(cell);
   return chart == ChartKind::Chart256 ? mChartColors256.at(k) : mChartColors16.at(k).color;
+}
+
+int chartCellOf(ChartKind chart, Color color) {
+  const ChartShape shape = shapeOf(chart);
+  for (int cell = 0; cell < shape.columns * shape.rows; ++cell)
+    if (chartColor(chart, cell) == color) return cell;
+  return -1;
+}
+
+ChartPlace chartPlaceOf(ChartKind chart, int cell) {
+  if (chart == ChartKind::Chart256) return {cell / kShape256.rows, cell % kShape256.rows};
+  return {cell % kShape16.columns, cell / kShape16.columns};
 }
 
 std::string chartText(ChartKind chart, int cell) {

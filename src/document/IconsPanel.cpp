@@ -128,6 +128,12 @@ void IconsPanel::PanelDrop(int container, const std::vector<std::string>& files)
   context_.editor.offerIconsOfFile(files.front(), container);
 }
 
+void IconsPanel::AreaDrop(const std::vector<std::string>& files) {
+  if (!PanelDragOver(files)) return;
+  CommitPendingPaint();
+  if (mayCurrentIconGo(context_)) PanelDrop(state_.mCurContainer, files);
+}
+
 void IconsPanel::updateFromCurrent() {
   if (state_.screen.mActivePanel == kIconsListPanel || !state_.current().present) return;
   editingArea_.UpdatePanelFromCurrent();

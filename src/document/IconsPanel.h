@@ -24,6 +24,8 @@ class IconsPanel {
   // Opens the first file into the container, without questions. A file that cannot be opened changes no container; if
   // it holds icons all the same, they are offered.
   void PanelDrop(int container, const std::vector<std::string>& files);
+  // The same for a file dropped on the Editing Area, whose icon it replaces: the user is asked about unsaved changes.
+  void AreaDrop(const std::vector<std::string>& files);
   // imgUpdIconsPanel: copies the icon's current state to its container and makes it the baseline of Undo.
   void updateFromCurrent();
 

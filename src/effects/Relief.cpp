@@ -31,12 +31,11 @@ IconImage shadowed(const IconImage& icon, const EffectValues& values) {
   return relief(icon, {kNoColor, values.color(0)});
 }
 
-// In two lines, as the panel is not wide enough for one.
 constexpr Setting kShadowSettings[] = {{.option = "color",
                                         .kind = SettingKind::Rgb,
                                         .first = kBlack,
                                         .control = "ckbUseSelectedColor",
-                                        .label = "&Use currently selected color\n(otherwise black)",
+                                        .label = "&Use currently selected color (otherwise black)",
                                         .help = "the color of the shadow"}};
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include "effects/SettingsPanel.h"
 
-#include "document/EditState.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -33,7 +31,7 @@ void SettingsPanel::choose(const Setting& setting, int choice) {
 EffectValues SettingsPanel::values() const {
   EffectValues values;
   for (const Setting& setting : effect_->settings)
-    values.append(valueOfChoice(setting, choiceOf(setting), frame().state().mCurrentColor));
+    values.append(valueOfChoice(setting, choiceOf(setting), currentColor()));
   return values;
 }
 

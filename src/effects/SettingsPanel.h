@@ -2,6 +2,7 @@
 // sample. A panel shows one of its effects at a time.
 #pragma once
 
+#include "document/EditState.h"
 #include "effects/EffectPanel.h"
 #include "effects/EffectTable.h"
 
@@ -28,6 +29,8 @@ class SettingsPanel final : public EffectPanel {
   // program ends. `choose` ignores a choice that the control does not have and a setting of another panel.
   int choiceOf(const Setting& setting) const { return choices_.at(&setting); }
   void choose(const Setting& setting, int choice);
+  // The colour that a box of an Rgb selects. It can change while the panel is visible.
+  const Color& currentColor() const { return frame().state().mCurrentColor; }
   // The values of the shown effect's settings.
   EffectValues values() const;
 

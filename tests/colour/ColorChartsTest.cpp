@@ -58,6 +58,17 @@ TEST(ColorCharts, TheTextOfALargeCellMarksStandardColoursWithStars) {
   EXPECT_EQ(chartText(ChartKind::Chart16, 11), "Maroon");
 }
 
+TEST(ColorCharts, EachColourIsFoundInItsCellAndEachCellInItsColumnAndRow) {
+  for (const ChartKind chart : {ChartKind::Chart16, ChartKind::Chart256}) {
+    const ChartShape shape = shapeOf(chart);
+    for (int k = 0; k < shape.columns * shape.rows; ++k) {
+      EXPECT_EQ(chartCellOf(chart, chartColor(chart, k)), k);
+      EXPECT_EQ(chartCellAt(chart, chartPlaceOf(chart, k).column, chartPlaceOf(chart, k).row), k);
+    }
+    EXPECT_EQ(chartCellOf(chart, 0x010203), -1);
+  }
+}
+
 TEST(ColorTables, ExactlyTheSixteenNamedColoursAreStandard) {
   int standard = 0;
   for (const NamedColor& entry : mChartColors16) standard += isStandardColor(entry.color);

@@ -82,10 +82,11 @@ class PanelDesk(Desk):
         return self.grid(left, top, width // size, size)
 
     def sample(self, name, size):
-        left, top, width, _ = self.program.box(self.program.need(name, role='image'))
-        room = width - 2 * SAMPLE_FRAME
-        assert room % size == 0, f'{room} has no whole number of pixels for each of {size}'
-        return self.grid(left + SAMPLE_FRAME, top + SAMPLE_FRAME, room // size, size)
+        """The colours of a sample, which is in the upper left corner of its space, as large as fits."""
+        left, top, width, height = self.program.box(self.program.need(name, role='image'))
+        factor = (min(width, height) - 2 * SAMPLE_FRAME) // size
+        assert factor > 0, f'{width} x {height} is too small for a sample of {size}'
+        return self.grid(left + SAMPLE_FRAME, top + SAMPLE_FRAME, factor, size)
 
     def expectIcon(self, picture, what):
         self.expect(lambda: self.shown(len(picture)), look(picture), what)

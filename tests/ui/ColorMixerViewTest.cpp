@@ -18,6 +18,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QImage>
+#include <QLabel>
 #include <QSlider>
 #include <QTest>
 
@@ -38,6 +39,15 @@ class RefreshingDisplay : public test::RecordingDisplay {
     if (view && part == DisplayPart::ColorPanel) view->refresh();
   }
 };
+
+// The letters beside the sliders, from the top.
+QString lettersIn(QWidget& view) {
+  QString letters;
+  for (int y = 0; y < view.height(); ++y)
+    if (const auto* label = qobject_cast<QLabel*>(view.childAt(12, y)); label && !letters.endsWith(label->text()))
+      letters += label->text();
+  return letters;
+}
 
 class ColorMixerViewTest : public testing::Test {
  protected:
@@ -113,6 +123,11 @@ class ColorMixerViewTest : public testing::Test {
     EXPECT_TRUE(window.grab().save(QString(GP_BINARY_DIR "/screens/%1.png").arg(name)));
   }
 };
+
+TEST_F(ColorMixerViewTest, TheSlidersCarryTheLettersOfTheirChannels) {
+  EXPECT_EQ(lettersIn(*view), "RGB");
+  for (int channel = 0; channel < 3; ++channel) EXPECT_GE(slider(channel)->width(), 60);
+}
 
 TEST_F(ColorMixerViewTest, EverythingFitsBelowTheChartsAndHasItsName) {
   EXPECT_EQ(view->objectName(), "fraColorMixer");

@@ -1,5 +1,6 @@
 // The panels of the effects on the main form, used by mouse and keyboard.
 #include "document/PanelNumbers.h"
+#include "document/ui/SampleView.h"
 #include "document/ui/SurfacePainting.h"
 #include "effects/ConfinePanel.h"
 #include "effects/SettingsPanel.h"
@@ -62,12 +63,21 @@ class EffectPanelsTest : public test::FormFixture {
     for (int i = 0; i < index; ++i) QTest::keyClick(list, Qt::Key_Down);
     settle();
   }
-  // The colour of an icon pixel in a sample.
-  static QRgb sampleAt(QWidget* sample, int x, int y, int size, int room) {
-    const int factor = room / size;
-    const int margin = (sample->width() - factor * size) / 2;
-    return sample->grab().toImage().pixel(margin + factor * x + factor / 2, margin + factor * y + factor / 2);
+  // The visible headings above the settings.
+  QStringList titlesOf(int number) {
+    QStringList titles;
+    for (const QLabel* label :
+         find(QString("fraPanel(%1)").arg(number))->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly))
+      if (label->isVisible()) titles << label->text();
+    return titles;
   }
+  // The colour of an icon pixel in a sample.
+  static QRgb sampleAt(QWidget* sample, int x, int y) {
+    const QRect place = dynamic_cast<SampleView*>(sample)->place();
+    const int factor = place.width() / iconSideIn(sample);
+    return sample->grab().toImage().pixel(place.topLeft() + QPoint(factor * x + factor / 2, factor * y + factor / 2));
+  }
+  static int iconSideIn(QWidget* sample) { return valueOf(sample).section(' ', 0, 0).toInt(); }
   // Panels with a control that extends beyond their edge, or whose text is cut.
   void expectNothingClipped(int number) {
     QWidget* panel = find(QString("fraPanel(%1)").arg(number));
@@ -92,7 +102,7 @@ TEST_F(EffectPanelsTest, EachPanelHasItsTitleAndNamesForAllItsControls) {
     openPanel(effect);
     QWidget* panel = find(QString("fraPanel(%1)").arg(state.screen.mActivePanel));
     EXPECT_EQ(panel->accessibleName(), title);
-    EXPECT_EQ(panel->findChild<QLabel*>()->text(), title);
+    EXPECT_EQ(titlesOf(state.screen.mActivePanel).first(), title);
     EXPECT_EQ(panel->findChild<QWidget*>("cmdCancel")->toolTip(), "Close/cancel");
   }
   for (int run = 0; run < 3; ++run) openRun(run);
@@ -115,7 +125,9 @@ TEST_F(EffectPanelsTest, TheSampleOfRotationFollowsAnotherIconAndATypedAngle) {
   startWithDisc();
   trigger("mnuRotateSubmenu", 4);
   QWidget* sample = find("picRotateImageSample");
-  const auto middle = [sample] { return sample->grab().toImage().pixel(sample->rect().center()); };
+  const auto middle = [sample] {
+    return sample->grab().toImage().pixel(dynamic_cast<SampleView*>(sample)->place().center());
+  };
   bool ok = false;
   shell.doOpenIconFileQuietly(folder.write("red.ico", test::plainIconFile(32, 5)), ok);
   ASSERT_TRUE(ok && isUp(kRotatePanel));
@@ -134,11 +146,12 @@ TEST_F(EffectPanelsTest, ReliefIsShownUnderItsNameAndMadeByEnter) {
     openPanel(index);
     ASSERT_TRUE(isUp(kReliefPanel));
     EXPECT_EQ(find<QLabel>("lblEffectsSample")->text(), name);
+    EXPECT_EQ(find("fraPanel(13)")->accessibleName(), "Effects - shades");
+    EXPECT_EQ(titlesOf(kReliefPanel), QStringList({"Effects - shades", name}));
     EXPECT_EQ(find("ckbUseSelectedColor")->isVisible(), index == 14);
     QWidget* sample = find("picEffectsSample");
-    EXPECT_EQ(sampleAt(sample, 16, 16, 32, 192),
-              toRgb(shell.effects().settingsPanel(kReliefPanel)->sample().GetPixel(16, 16)));
-    EXPECT_EQ(sampleAt(sample, 0, 0, 32, 192), toRgb(kGround));
+    EXPECT_EQ(sampleAt(sample, 16, 16), toRgb(shell.effects().settingsPanel(kReliefPanel)->sample().GetPixel(16, 16)));
+    EXPECT_EQ(sampleAt(sample, 0, 0), toRgb(kGround));
     expectNothingClipped(kReliefPanel);
   }
   key(Qt::Key_Return);
@@ -157,10 +170,10 @@ TEST_F(EffectPanelsTest, TheShadowTakesTheCurrentColorByMouseAndKey) {
   EXPECT_FALSE(box->isChecked());
   EXPECT_EQ(box->accessibleName(), "Use currently selected color (otherwise black)");
   QWidget* sample = find("picEffectsSample");
-  EXPECT_EQ(sampleAt(sample, kTopLeftSquare, 2, 32, 192), qRgb(0, 0, 0));
+  EXPECT_EQ(sampleAt(sample, kTopLeftSquare, 2), qRgb(0, 0, 0));
   key(Qt::Key_Space);
   EXPECT_TRUE(box->isChecked());
-  EXPECT_EQ(sampleAt(sample, kTopLeftSquare, 2, 32, 192), qRgb(0, 255, 0));
+  EXPECT_EQ(sampleAt(sample, kTopLeftSquare, 2), qRgb(0, 255, 0));
   proceed(kReliefPanel);
   EXPECT_EQ(state.picImage.GetPixel(kTopLeftSquare, 2), rgb(0, 255, 0));
   EXPECT_TRUE(isUp(kColorPanel));
@@ -218,8 +231,8 @@ TEST_F(EffectPanelsTest, EachStyleOfTheButtonIsPickedFromTheList) {
   const std::array<QRgb, 3> belowTop{toRgb(kGround), qRgb(255, 255, 255), qRgb(0xE0, 0xE0, 0xE0)};
   for (int style = 0; style < 3; ++style) {
     pick(list, style);
-    EXPECT_EQ(sampleAt(sample, 16, 0, 32, 192), topEdges[static_cast<std::size_t>(style)]) << style;
-    EXPECT_EQ(sampleAt(sample, 16, 1, 32, 192), belowTop[static_cast<std::size_t>(style)]) << style;
+    EXPECT_EQ(sampleAt(sample, 16, 0), topEdges[static_cast<std::size_t>(style)]) << style;
+    EXPECT_EQ(sampleAt(sample, 16, 1), belowTop[static_cast<std::size_t>(style)]) << style;
   }
   expectNothingClipped(kButtonizePanel);
   proceed(kButtonizePanel);
@@ -232,8 +245,8 @@ TEST_F(EffectPanelsTest, TheDisabledImageIsShownAndMade) {
   openPanel(21);
   ASSERT_TRUE(isUp(kDisabledPanel));
   QWidget* sample = find("picImageForDisabledBtn");
-  EXPECT_EQ(sampleAt(sample, 3, 1, 32, 192), qRgb(128, 128, 128));
-  EXPECT_EQ(sampleAt(sample, 3, 2, 32, 192), qRgb(255, 255, 255));
+  EXPECT_EQ(sampleAt(sample, 3, 1), qRgb(128, 128, 128));
+  EXPECT_EQ(sampleAt(sample, 3, 2), qRgb(255, 255, 255));
   expectNothingClipped(kDisabledPanel);
   key(Qt::Key_Return);
   EXPECT_EQ(state.picImage.GetPixel(3, 1), rgb(128, 128, 128));
@@ -259,10 +272,8 @@ TEST_F(EffectPanelsTest, EachRunShowsItsOwnListOfMethods) {
       EXPECT_EQ(confineList(run)->itemText(i), texts[i]);
       pick(confineList(run), i);
       const IconImage& picture = shell.effects().panel<ConfinePanel>().picture();
-      EXPECT_EQ(sampleAt(find("picConfineColors(0)"), 24, 20, 48, 96), toRgb(picture.image.GetPixel(24, 20)))
-          << run << i;
-      EXPECT_EQ(sampleAt(find("picConfineColors(1)"), 24, 20, 48, 96), toRgb(picture.mask.GetPixel(24, 20)))
-          << run << i;
+      EXPECT_EQ(sampleAt(find("picConfineColors(0)"), 24, 20), toRgb(picture.image.GetPixel(24, 20))) << run << i;
+      EXPECT_EQ(sampleAt(find("picConfineColors(1)"), 24, 20), toRgb(picture.mask.GetPixel(24, 20))) << run << i;
       expectNothingClipped(ConfinePanel::kNumber);
     }
     for (int other = 0; other < 3; ++other) EXPECT_EQ(confineList(other)->isVisible(), other == run);
@@ -289,7 +300,7 @@ TEST_F(EffectPanelsTest, TheThresholdComesAndGoesWithSelectCutoff) {
   key(Qt::Key_End);
   EXPECT_EQ(shell.effects().panel<ConfinePanel>().thresholdIndex(), 353);
   // Above the brightest pixel: everything painted is black.
-  EXPECT_EQ(sampleAt(find("picConfineColors(1)"), 24, 24, 48, 96), qRgb(0, 0, 0));
+  EXPECT_EQ(sampleAt(find("picConfineColors(1)"), 24, 24), qRgb(0, 0, 0));
 }
 
 TEST_F(EffectPanelsTest, TheSamplesFollowAnIconThatIsOpenedUnderThePanel) {
@@ -300,7 +311,7 @@ TEST_F(EffectPanelsTest, TheSamplesFollowAnIconThatIsOpenedUnderThePanel) {
   settle();
   ASSERT_TRUE(isUp(kReliefPanel));
   EXPECT_EQ(shell.effects().settingsPanel(kReliefPanel)->sample().width(), 16);
-  EXPECT_EQ(sampleAt(find("picEffectsSample"), 8, 8, 16, 192), toRgb(state.picImage.GetPixel(8, 8)));
+  EXPECT_EQ(sampleAt(find("picEffectsSample"), 8, 8), toRgb(state.picImage.GetPixel(8, 8)));
 }
 
 TEST_F(EffectPanelsTest, TheSampleFollowsTheCurrentColor) {
@@ -311,7 +322,7 @@ TEST_F(EffectPanelsTest, TheSampleFollowsTheCurrentColor) {
   find<QCheckBox>("ckbUseSelectedColor")->setChecked(true);
   state.mCurrentColor = rgb(1, 2, 3);
   display.changed(DisplayPart::ColorPanel);
-  EXPECT_EQ(sampleAt(find("picEffectsSample"), kTopLeftSquare, 2, 32, 192), qRgb(1, 2, 3));
+  EXPECT_EQ(sampleAt(find("picEffectsSample"), kTopLeftSquare, 2), qRgb(1, 2, 3));
 }
 
 TEST_F(EffectPanelsTest, TheEditingAreaHasTheKeysWhenThePanelIsClosed) {

@@ -62,11 +62,11 @@ const std::vector<std::string> kTools = {"paint",   "erase",       "fill",      
                                          "restore", "line",        "rectangle", "filled-rectangle",
                                          "oval",    "filled-oval", "region",    "shift"};
 const std::vector<std::string> kOthers = {
-    "color-picker", "clear-tools",  "update-panel", "chart-16",   "chart-256",    "direct-entry", "return-256",
-    "color-dialog", "screen-color", "proceed",      "close",      "shrink",       "extend",       "alpha-indicator",
-    "shift-nw",     "shift-n",      "shift-ne",     "shift-w",    "shift-center", "shift-e",      "shift-sw",
-    "shift-s",      "shift-se",     "region-move",  "lighten",    "darken",       "save-palette", "load-palette",
-    "help",         "info",         "logo",         "glimmerpane"};
+    "color-picker", "clear-tools",  "update-panel", "chart-16",    "chart-256",    "direct-entry", "return-256",
+    "color-dialog", "screen-color", "proceed",      "close",       "shrink",       "extend",       "alpha-indicator",
+    "shift-nw",     "shift-n",      "shift-ne",     "shift-w",     "shift-center", "shift-e",      "shift-sw",
+    "shift-s",      "shift-se",     "region-move",  "lighten",     "darken",       "save-palette", "load-palette",
+    "help",         "info",         "logo",         "glimmerpane", "more"};
 
 TEST(Pictures, EveryButtonToolAndDialogHasItsPicture) {
   EXPECT_EQ(kToolbar.size(), 27u);
@@ -119,6 +119,45 @@ TEST(Pictures, NoPictureIsEmptyAndNoTwoObjectsShareOne) {
 TEST(Pictures, TheSameObjectHasTheSamePicture) {
   EXPECT_EQ(pictureOf("alpha"), pictureOf("alpha-indicator"));
   EXPECT_EQ(pictureOf("shift"), pictureOf("shift-center"));
+}
+
+// Each is drawn from one end point to the other, which are the only parts in the accent colour.
+TEST(Pictures, TheLineAndTheShapesShowTheirEndPoints) {
+  struct Shape {
+    const char* name;
+    QPoint from, to;
+  };
+  constexpr int kRadius = 3;
+  for (const auto& [name, from, to] : {Shape{"line", {3, 3}, {16, 16}},
+                                       {"rectangle", {2, 4}, {17, 15}},
+                                       {"filled-rectangle", {2, 4}, {17, 15}},
+                                       {"oval", {2, 4}, {17, 15}},
+                                       {"filled-oval", {2, 4}, {17, 15}}}) {
+    const QImage image = pictureOf(name);
+    EXPECT_EQ(image.pixel(from), kAccent) << name;
+    EXPECT_EQ(image.pixel(to), kAccent) << name;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x) {
+        if (image.pixel(x, y) != kAccent) continue;
+        const int distance = std::min((QPoint(x, y) - from).manhattanLength(), (QPoint(x, y) - to).manhattanLength());
+        EXPECT_LE(distance, kRadius) << name << ' ' << x << ' ' << y;
+      }
+  }
+  const QImage line = pictureOf("line");
+  for (int i = 6; i <= 13; ++i) EXPECT_EQ(line.pixel(i, i), kInk) << i;
+}
+
+TEST(Pictures, AReversedPictureHasTheColoursOfTheOtherTheme) {
+  const QIcon reversed = Pictures::reversedIcon("filled-rectangle");
+  {
+    const WindowColour light(Qt::white);
+    EXPECT_EQ(iconImage(reversed).pixel(10, 10), kInkInTheDark);
+  }
+  {
+    const WindowColour dark(Qt::black);
+    EXPECT_EQ(iconImage(reversed).pixel(10, 10), kInk);
+  }
+  EXPECT_TRUE(Pictures::reversedIcon("no-such-picture").isNull());
 }
 
 TEST(Pictures, AnUnknownNameGivesNothing) {
@@ -201,8 +240,8 @@ struct Pointer {
 // One more in each direction than in the drawing: the margin of the outline.
 const Pointer kPointers[] = {{"paint", {3, 18}},      {"erase", {5, 15}},           {"fill", {3, 18}},
                              {"replace", {3, 3}},     {"restore", {3, 18}},         {"color-picker", {3, 18}},
-                             {"line", {5, 5}},        {"rectangle", {5, 5}},        {"oval", {5, 5}},
-                             {"filled-oval", {5, 5}}, {"filled-rectangle", {5, 5}}, {"region", {11, 11}}};
+                             {"line", {4, 4}},        {"rectangle", {3, 5}},        {"oval", {3, 5}},
+                             {"filled-oval", {3, 5}}, {"filled-rectangle", {3, 5}}, {"region", {11, 11}}};
 
 TEST(PicturePointers, TheHotSpotIsAtTheTipAtEveryScale) {
   for (const Pointer& pointer : kPointers) {

@@ -1,41 +1,29 @@
 // Checks that controls are visible with all colours of the desktop.
+#include "ui/Contrast.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QImage>
+#include <QMainWindow>
+#include <QMenuBar>
 #include <QRadioButton>
 #include <QSlider>
 #include <QStyleFactory>
+#include <QToolButton>
 
 #include <algorithm>
-#include <cmath>
 #include <gtest/gtest.h>
 #include <memory>
 
 namespace gp {
 namespace {
 
+using test::contrast;
+using test::kLeastContrast;
+using test::paletteOf;
+
 constexpr int kLight = 239, kDark = 42, kBlackest = 0;
-// The contrast with their background at which most people see the outlines of controls.
-constexpr double kLeastContrast = 3;
-
-QPalette paletteOf(int window) {
-  const bool isDark = window < 128;
-  QPalette palette(QColor(window, window, window));
-  palette.setColor(QPalette::Base, isDark ? QColor(27, 27, 27) : QColor(255, 255, 255));
-  return palette;
-}
-
-// Relative luminance, 0 to 1.
-double luminance(QColor color) {
-  const auto linear = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
-  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double contrast(QColor a, QColor b) {
-  const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
-  return (lighter + 0.05) / (darker + 0.05);
-}
 
 // The greatest contrast between a pixel of the control and the window behind it.
 double greatestContrast(QWidget& control, int window) {
@@ -81,6 +69,27 @@ TEST(ProgramStyle, NothingChangesOnALightWindow) {
   };
   const std::unique_ptr<QStyle> plain(QStyleFactory::create(QApplication::style()->name()));
   EXPECT_EQ(picture(QApplication::style()), picture(plain.get()));
+}
+
+// In a window too narrow for its menus, a button shows the others.
+TEST(ProgramStyle, TheButtonForMoreMenusIsSeenInEveryTheme) {
+  for (const int window : {kLight, kDark, kBlackest}) {
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(paletteOf(window));
+    QMainWindow form;
+    for (const char* title : {"First", "Second", "Third", "Fourth"}) form.menuBar()->addMenu(title);
+    form.resize(90, 60);
+    form.show();
+    auto* more = form.menuBar()->findChild<QToolButton*>("qt_menubar_ext_button");
+    ASSERT_TRUE(more && more->isVisible());
+    const QImage image = test::seen(*more);
+    int visible = 0;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x)
+        if (contrast(image.pixelColor(x, y), QColor(window, window, window)) >= kLeastContrast) ++visible;
+    EXPECT_GE(visible, 20) << window;
+    QApplication::setPalette(before);
+  }
 }
 
 TEST(ProgramStyle, ListsDropDownAsLists) {

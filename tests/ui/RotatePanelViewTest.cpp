@@ -1,3 +1,4 @@
+#include "document/ui/SampleView.h"
 #include "drawing/RegionFixture.h"
 #include "drawing/ui/RotatePanelView.h"
 #include "ui/Screens.h"
@@ -143,13 +144,15 @@ TEST_F(RotatePanelViewTest, TheSampleShowsThePixelsOfThePanel) {
   slider()->setValue(90);
   const QImage shown = sample()->grab().toImage();
   const Surface& held = rotatePanel.picRotateImageSample();
-  ASSERT_EQ(shown.size(), QSize(2 * held.width() + 2, 2 * held.height() + 2));
+  const QRect place = dynamic_cast<SampleView*>(sample())->place();
+  ASSERT_EQ(place.size(), 3 * QSize(held.width(), held.height()));
   int others = 0;
   for (int y = 0; y < held.height(); ++y) {
     for (int x = 0; x < held.width(); ++x) {
       const Color color = held.GetPixel(x, y);
-      for (const QPoint corner : {QPoint(1, 1), QPoint(2, 2)})
-        EXPECT_EQ(shown.pixel(QPoint(2 * x, 2 * y) + corner), qRgb(redOf(color), greenOf(color), blueOf(color)));
+      for (const QPoint corner : {QPoint(0, 0), QPoint(2, 2)})
+        EXPECT_EQ(shown.pixel(place.topLeft() + 3 * QPoint(x, y) + corner),
+                  qRgb(redOf(color), greenOf(color), blueOf(color)));
       others += color != kGround;
     }
   }

@@ -12,10 +12,13 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace gp {
 namespace {
@@ -24,6 +27,8 @@ constexpr int kGap = 6;
 constexpr int kButtonSide = 28;
 constexpr int kChannelHeight = 24;
 constexpr int kSwatchWidth = 28;
+constexpr int kLeastMixHeight = 20;
+constexpr int kListFrame = 12;  // by which a drop-down list is higher than its text
 constexpr const char* kWidestValue = "000 / DD";
 constexpr int kSlack = 2;  // letter widths are not whole pixels
 constexpr int kSliderPage = 16;
@@ -83,12 +88,31 @@ ColorMixerView::ColorMixerView(QWidget* parent, ColorMixer& mixer, PaletteFile& 
   refresh();
 }
 
+int ColorMixerView::letterWidth() const {
+  int widest = 0;
+  for (const char* name : kChannelNames) widest = std::max(widest, fontMetrics().horizontalAdvance(QChar(name[0])));
+  return widest + kSlack;
+}
+
+// The strip is higher than the controls beside it, unless the font is large.
+int ColorMixerView::heightFor(const QWidget& place) {
+  const int line = place.fontMetrics().height();
+  const int buttons = 2 * std::max(kButtonSide, line + kListFrame);
+  const int controls = kMixChannels * (std::max(kChannelHeight, line) + kGap) + kLeastMixHeight + buttons + 2 * kGap;
+  const QMargins margins = CaptionFrame::marginsFor(place.fontMetrics());
+  return margins.top() + std::max(MixGradientView::kHeight, controls) + margins.bottom();
+}
+
 QWidget* ColorMixerView::makeChannel(int channel) {
   const auto i = static_cast<std::size_t>(channel);
   const QString name = kChannelNames.at(i);
   auto* row = new QWidget(this);
   auto* layout = makeRow(row);
-  row->setFixedHeight(kChannelHeight);
+  row->setFixedHeight(std::max(kChannelHeight, fontMetrics().height()));
+
+  auto* letter = new QLabel(name.left(1), row);
+  letter->setFixedWidth(letterWidth());
+  letter->setAlignment(Qt::AlignCenter);
 
   auto* slider = HsrRGB_.at(i) = new QSlider(Qt::Horizontal, row);
   slider->setObjectName(indexed("HsrRGB", channel));
@@ -101,12 +125,13 @@ QWidget* ColorMixerView::makeChannel(int channel) {
 
   PicRGB_.at(i) = new MixSwatch(row, indexed("PicRGB", channel), name + " alone");
   PicRGB_.at(i)->setToolTip(name + " alone");
-  PicRGB_.at(i)->setFixedSize(kSwatchWidth, kChannelHeight);
+  PicRGB_.at(i)->setFixedSize(kSwatchWidth, row->height());
   connect(PicRGB_.at(i), &MixSwatch::clicked, this, [=, this] { mixer_.swatchRelease(channel), refresh(); });
 
   lblRGB_.at(i) = new TextCell(row, indexed("lblRGB", channel), name + " value");
   lblRGB_.at(i)->setFixedWidth(fontMetrics().horizontalAdvance(kWidestValue) + 2 * TextCell::kMargin + kSlack);
 
+  layout->addWidget(letter);
   layout->addWidget(slider, 1);
   layout->addWidget(PicRGB_.at(i));
   layout->addWidget(lblRGB_.at(i));
@@ -117,6 +142,7 @@ MixSwatch* ColorMixerView::makeMixed() {
   PicRGBMix_ = new MixSwatch(this, "PicRGBMix", "Mixed color");
   PicRGBMix_->setToolTip("Dithered Color");
   // Fills the height that the strip leaves, so that both columns have the same height.
+  PicRGBMix_->setMinimumHeight(kLeastMixHeight);
   PicRGBMix_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   connect(PicRGBMix_, &MixSwatch::hovered, this, [this] { PicRGBMix_->setToolTip(toText(mixer_.mixHover())); });
   connect(PicRGBMix_, &MixSwatch::clicked, this, [this] { mixer_.mixRelease(), refresh(); });
@@ -138,7 +164,7 @@ QWidget* ColorMixerView::makeButtons() {
   }
   cboIntervalColor_ = makeUnlabelledList(row, "cboIntervalColor", "Interval value for darken/lighten");
   cboIntervalColor_->setToolTip("Interval value for darken/lighten");
-  cboIntervalColor_->setFixedHeight(kButtonSide);
+  cboIntervalColor_->setMinimumHeight(kButtonSide);
   connect(cboIntervalColor_, &QComboBox::currentIndexChanged, this,
           [this](int index) { mixer_.cboIntervalColor(index); });
   layout->addWidget(cboIntervalColor_, 1);

@@ -25,11 +25,14 @@ class ColorMixerView : public CaptionFrame {
   ColorMixerView(QWidget* parent, ColorMixer& mixer, PaletteFile& files);
 
   void refresh();
+  // The height that the mixer needs in a place with its font.
+  static int heightFor(const QWidget& place);
 
  protected:
   void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
+  int letterWidth() const;
   QWidget* makeChannel(int channel);
   QWidget* makeButtons();
   QWidget* makeFileButtons();

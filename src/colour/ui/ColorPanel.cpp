@@ -4,9 +4,9 @@
 #include "colour/ui/ColorChartView.h"
 #include "colour/ui/ColorMixerView.h"
 #include "colour/ui/DirectEntryView.h"
+#include "colour/ui/SwatchPainting.h"
 #include "document/EditState.h"
 #include "document/ui/Lists.h"
-#include "document/ui/SurfacePainting.h"
 #include "platform/qt/Accessibility.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/CaptionFrame.h"
@@ -81,13 +81,7 @@ class ColorSwatch : public QAbstractButton {
   }
 
  protected:
-  void paintEvent(QPaintEvent*) override {
-    DevicePainter painter(this);
-    const int line = hasFocus() ? 2 : 1;
-    const QRect whole = painter.toDevice(rect());
-    painter.fillRect(whole, palette().color(hasFocus() ? QPalette::Highlight : QPalette::WindowText));
-    painter.fillRect(whole.adjusted(line, line, -line, -line), QColor(toRgb(shown_)));
-  }
+  void paintEvent(QPaintEvent*) override { paintSwatch(*this, shown_); }
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
       click();
@@ -123,6 +117,8 @@ ColorPanel::ColorPanel(QWidget* parent, const EditState& state, ColorSelection& 
   column->addWidget(makeButtonRow());
 
   mixerPlace_ = new QWidget(this);
+  // The mixer's place is kept while it is hidden.
+  mixerPlace_->setMinimumHeight(ColorMixerView::heightFor(*mixerPlace_));
   auto* mixerColumn = new QVBoxLayout(mixerPlace_);
   mixerColumn->setContentsMargins(0, 0, 0, 0);
   column->addWidget(mixerPlace_, 1);
@@ -160,7 +156,7 @@ QWidget* ColorPanel::makeScreenColorFrame() {
 QWidget* ColorPanel::makeBrushFrame() {
   CaptionFrame* frame = makeFrame(this, kBrushFrame);
   cboBrushSize_ = makeUnlabelledList(frame, "cboBrushSize", "Brush");
-  cboBrushSize_->setFixedHeight(kSwatchHeight);
+  cboBrushSize_->setMinimumHeight(kSwatchHeight);
   connect(cboBrushSize_, &QComboBox::activated, this, &ColorPanel::brushChosen);
   return framed(frame, cboBrushSize_);
 }
@@ -170,12 +166,17 @@ QWidget* ColorPanel::makeChartFrame(ChartKind chart) {
   CaptionFrame* frame = makeFrame(this, static_cast<int>(index));
   frame->setAccessibleName("Palette");  // its only control has the caption as name
   auto* view = new ColorChartView(frame, chart);
-  view->setFixedSize(kChartWidth, kChartHeight);
+  view->setFixedSize(kChartWidth + 2 * ColorChartView::kFrame, kChartHeight + 2 * ColorChartView::kFrame);
   connect(view, &ColorChartView::hovered, this,
           [=, this](QPointF at) { view->setToolTip(toText(colors_.chartHover(chart, at.x(), at.y()))); });
   connect(view, &ColorChartView::released, this,
           [=, this](QPointF at) { colors_.chartRelease(chart, at.x(), at.y()); });
-  return framed(frame, view);
+  charts_.push_back(view);
+  framed(frame, view);
+  // The chart is where it would be without the space for its ring.
+  constexpr int kRing = ColorChartView::kFrame;
+  frame->layout()->setContentsMargins(frame->frameMargins() - QMargins(kRing, kRing, kRing, kRing));
+  return frame;
 }
 
 QWidget* ColorPanel::makeButtonRow() {
@@ -199,9 +200,9 @@ void ColorPanel::refresh() {
   frameDirect_->refresh();
   showMixer(screen.fraColorMixerVisible);
   cboBrushSize_->setCurrentIndex(screen.brushIndex);
-  const Color color = state_.mCurrentColor;
-  setDescription(picColorToUse_, QString("RGB: %1, %2, %3").arg(redOf(color)).arg(greenOf(color)).arg(blueOf(color)));
+  setDescription(picColorToUse_, colorText(state_.mCurrentColor));
   picColorToUse_->update();
+  for (ColorChartView* chart : charts_) chart->setCurrent(state_.mCurrentColor);
 }
 
 void ColorPanel::showMixer(bool shown) {

@@ -4,12 +4,15 @@
 
 #include <QWidget>
 
+#include <vector>
+
 class QAbstractButton;
 class QComboBox;
 class QStackedLayout;
 
 namespace gp {
 
+class ColorChartView;
 class ColorMixer;
 class ColorMixerView;
 class ColorSelection;
@@ -47,6 +50,7 @@ class ColorPanel : public QWidget {
   QComboBox* cboBrushSize_ = nullptr;
   QAbstractButton* picColorToUse_ = nullptr;
   QStackedLayout* frames_ = nullptr;
+  std::vector<ColorChartView*> charts_;
   DirectEntryView* frameDirect_ = nullptr;
   QWidget* mixerPlace_ = nullptr;
   ColorMixerView* fraColorMixer_ = nullptr;  // created when it is first shown

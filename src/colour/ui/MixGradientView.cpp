@@ -2,6 +2,7 @@
 
 #include "colour/ColorMixer.h"
 #include "document/ui/SurfacePainting.h"
+#include "platform/qt/FocusRing.h"
 #include "platform/qt/PathText.h"
 
 #include <QKeyEvent>
@@ -13,7 +14,8 @@
 namespace gp {
 namespace {
 
-constexpr int kFrame = 2;  // around the strip; visible as a whole while the strip has the focus
+constexpr int kFrame = kFocusRing;  // around the strip
+static_assert(MixGradientView::kHeight == kMixGradientHeight + 2 * kFrame);
 constexpr int kMarkerHeight = 4;
 constexpr int kDarkGray = 128;
 
@@ -44,7 +46,7 @@ QPoint stripPoint(const QMouseEvent& event) {
 MixGradientView::MixGradientView(QWidget* parent, const ColorMixer& mixer) : QWidget(parent), mixer_(mixer) {
   setObjectName("picMixGradient");
   setAccessibleName("Color gradient");
-  setFixedSize(kMixGradientWidth + 2 * kFrame, kMixGradientHeight + 2 * kFrame);
+  setFixedSize(kMixGradientWidth + 2 * kFrame, kHeight);
   setMouseTracking(true);
   setFocusPolicy(Qt::TabFocus);
 }
@@ -58,8 +60,10 @@ QPoint MixGradientView::cursor() const {
 void MixGradientView::paintEvent(QPaintEvent*) {
   DevicePainter painter(this);
   const QRect strip(kFrame, kFrame, kMixGradientWidth, kMixGradientHeight);
-  painter.fillRect(painter.toDevice(hasFocus() ? rect() : strip.adjusted(-1, -1, 1, 1)),
-                   palette().color(hasFocus() ? QPalette::Highlight : QPalette::WindowText));
+  if (hasFocus())
+    paintFocusRing(painter, painter.toDevice(rect()), accentOn(palette()), devicePixelRatioF());
+  else
+    painter.fillRect(painter.toDevice(strip.adjusted(-1, -1, 1, 1)), palette().color(QPalette::WindowText));
   const QRect all(0, 0, kMixGradientWidth, kMixGradientHeight);
   const QRect target = painter.toDevice(strip);
   painter.drawImage(target, imageOf(mixer_.picMixGradient(), ScreenScale(1, 1, 1), all));

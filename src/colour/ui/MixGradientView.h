@@ -14,6 +14,8 @@ class MixGradientView : public QWidget, public AccessibleValue {
   Q_OBJECT
 
  public:
+  static constexpr int kHeight = 204;  // pixels
+
   MixGradientView(QWidget* parent, const ColorMixer& mixer);
 
   QString accessibleValue() const override;

@@ -1,6 +1,6 @@
 #include "colour/ui/MixSwatch.h"
 
-#include "document/ui/SurfacePainting.h"
+#include "colour/ui/SwatchPainting.h"
 #include "platform/qt/Accessibility.h"
 
 #include <QKeyEvent>
@@ -19,17 +19,11 @@ MixSwatch::MixSwatch(QWidget* parent, const QString& objectName, const QString& 
 
 void MixSwatch::setColor(Color color) {
   color_ = color;
-  setDescription(this, QString("RGB: %1, %2, %3").arg(redOf(color)).arg(greenOf(color)).arg(blueOf(color)));
+  setDescription(this, colorText(color));
   update();
 }
 
-void MixSwatch::paintEvent(QPaintEvent*) {
-  DevicePainter painter(this);
-  const int line = hasFocus() ? 2 : 1;
-  const QRect whole = painter.toDevice(rect());
-  painter.fillRect(whole, palette().color(hasFocus() ? QPalette::Highlight : QPalette::WindowText));
-  painter.fillRect(whole.adjusted(line, line, -line, -line), QColor(toRgb(color_)));
-}
+void MixSwatch::paintEvent(QPaintEvent*) { paintSwatch(*this, color_); }
 
 void MixSwatch::mousePressEvent(QMouseEvent* event) { event->accept(); }
 

@@ -1,7 +1,9 @@
 #include "document/ui/EditingAreaView.h"
 
 #include "document/EditState.h"
+#include "document/ui/EmptyArea.h"
 #include "document/ui/SurfacePainting.h"
+#include "platform/qt/FocusRing.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -20,6 +22,22 @@ EditingAreaView::EditingAreaView(QWidget* parent, const EditState& state)
 
 QString EditingAreaView::accessibleValue() const {
   return state_.current().present ? MagnifiedView::accessibleValue() : QString();
+}
+
+void EditingAreaView::paintEvent(QPaintEvent* event) {
+  MagnifiedView::paintEvent(event);
+  if (!state_.current().present) paintEmptyArea(*this);
+}
+
+// The ring around the view belongs to its parent.
+void EditingAreaView::focusInEvent(QFocusEvent* event) {
+  MagnifiedView::focusInEvent(event);
+  parentWidget()->update();
+}
+
+void EditingAreaView::focusOutEvent(QFocusEvent* event) {
+  MagnifiedView::focusOutEvent(event);
+  parentWidget()->update();
 }
 
 void EditingAreaView::keyPressEvent(QKeyEvent* event) {
@@ -62,6 +80,10 @@ void EditingAreaRoom::paintEvent(QPaintEvent*) {
   painter.fillRect(rect(), QColor(toRgb(kGround)));
   painter.setPen(QColor(kRoomOutline));
   painter.drawRect(view_->geometry().adjusted(-1, -1, 0, 0));
+  if (!view_->hasFocus()) return;
+  constexpr int kAround = 1 + kFocusRing;
+  paintFocusRing(painter, view_->geometry().adjusted(-kAround, -kAround, kAround, kAround),
+                 accentOn(QColor(toRgb(kGround)), palette()));
 }
 
 }  // namespace gp

@@ -22,6 +22,9 @@ class EditingAreaView : public MagnifiedView {
   void popUpRequested(QPoint globalPosition);
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
 
@@ -29,7 +32,7 @@ class EditingAreaView : public MagnifiedView {
   const EditState& state_;
 };
 
-// picDispContainer: keeps the Editing Area in its middle.
+// picDispContainer: keeps the Editing Area in its middle, and shows around it that it has the focus.
 class EditingAreaRoom : public QWidget {
   Q_OBJECT
 

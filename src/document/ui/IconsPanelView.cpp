@@ -2,18 +2,15 @@
 
 #include "document/Containers.h"
 #include "document/EditState.h"
-#include "document/IconsPanel.h"
+#include "document/ui/FileDrops.h"
 #include "document/ui/SurfacePainting.h"
 #include "platform/qt/Accessibility.h"
+#include "platform/qt/FocusRing.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/PictureButton.h"
 #include "platform/qt/widgets/RovingFocus.h"
 
-#include <QDropEvent>
-#include <QMimeData>
 #include <QMouseEvent>
-#include <QStyleOptionFocusRect>
-#include <QUrl>
 #include <QVBoxLayout>
 
 namespace gp {
@@ -27,28 +24,18 @@ constexpr int kButtonSide = 26;
 constexpr Color kCurrentLabel = kWhite;
 constexpr Color kOtherLabel = 0xE0E0E0;
 
-std::vector<std::string> localFiles(const QMimeData* data) {
-  std::vector<std::string> files;
-  for (const QUrl& url : data->urls()) {
-    if (!url.isLocalFile()) continue;
-    // Decoded here, since a file name need not be valid text.
-    files.push_back(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString());
-  }
-  return files;
-}
-
 QString indexed(const char* control, int index) { return QString("%1(%2)").arg(control).arg(index); }
 
 }  // namespace
 
 ContainerButton::ContainerButton(QWidget* parent, int container, const EditState& state, const IconsPanel& panel)
-    : QAbstractButton(parent), container_(container), state_(state), panel_(panel) {
+    : QAbstractButton(parent), container_(container), state_(state) {
   setObjectName(indexed("picPanelIcon", container));
   setAccessibleName(QString("Container %1").arg(container + 1));
   setAccessibleRole(this, QAccessible::RadioButton);
   setCheckable(true);
   setFixedSize(sizeHint());
-  setAcceptDrops(true);
+  connect(new FileDrops(this, panel), &FileDrops::dropped, this, &ContainerButton::filesDropped);
 }
 
 QSize ContainerButton::sizeHint() const { return {kContainerSide, kContainerSide}; }
@@ -75,9 +62,7 @@ void ContainerButton::paintEvent(QPaintEvent*) {
   painter.fillRect(icon.adjusted(-line, -line, line, line), lineColor);
   painter.fillRect(icon, QColor(toRgb(kGround)));
   paintCentred(painter, state_.picPanelIcon.at(static_cast<std::size_t>(container_)), icon, ratio);
-  if (!hasFocus()) return;
-  painter.setPen(QPen(palette().color(QPalette::Highlight), outline));
-  painter.drawRect(icon);
+  if (hasFocus()) paintFocusRing(painter, whole, accentOn(palette()), ratio);
 }
 
 void ContainerButton::mouseReleaseEvent(QMouseEvent* event) {
@@ -93,24 +78,6 @@ void ContainerButton::keyPressEvent(QKeyEvent* event) {
     event->ignore();
   else
     QAbstractButton::keyPressEvent(event);
-}
-
-// The file is only read, so its owner must keep it: the action is a copy, whatever is proposed. After an accepted move
-// the source would delete the file.
-void ContainerButton::answer(QDropEvent* event) const {
-  event->setAccepted(event->possibleActions().testFlag(Qt::CopyAction) &&
-                     panel_.PanelDragOver(localFiles(event->mimeData())));
-  if (event->isAccepted()) event->setDropAction(Qt::CopyAction);
-}
-
-void ContainerButton::dragEnterEvent(QDragEnterEvent* event) { answer(event); }
-
-// Keys pressed during a drag change the proposed action.
-void ContainerButton::dragMoveEvent(QDragMoveEvent* event) { answer(event); }
-
-void ContainerButton::dropEvent(QDropEvent* event) {
-  answer(event);
-  if (event->isAccepted()) emit filesDropped(localFiles(event->mimeData()));
 }
 
 ContainerLabel::ContainerLabel(QWidget* parent, int container) : QLabel(QString::number(container + 1), parent) {

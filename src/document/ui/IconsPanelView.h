@@ -35,17 +35,12 @@ class ContainerButton : public QAbstractButton {
   void paintEvent(QPaintEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void dragEnterEvent(QDragEnterEvent* event) override;
-  void dragMoveEvent(QDragMoveEvent* event) override;
-  void dropEvent(QDropEvent* event) override;
 
  private:
   bool isCurrent() const;
-  void answer(QDropEvent* event) const;
 
   const int container_;
   const EditState& state_;
-  const IconsPanel& panel_;
 };
 
 // lblPanelIcon(i).

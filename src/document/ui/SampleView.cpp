@@ -12,12 +12,12 @@ constexpr int kFrame = 1;
 }  // namespace
 
 SampleView::SampleView(QWidget* parent, const QString& objectName, const QString& accessibleName,
-                       const Surface& picture, int room)
-    : QWidget(parent), picture_(picture), room_(room) {
+                       const Surface& picture, int side, SampleRoom room)
+    : QWidget(parent), picture_(picture) {
   setObjectName(objectName);
   setAccessibleName(accessibleName);
-  setFixedSize(room + 2 * kFrame, room + 2 * kFrame);
-  setAttribute(Qt::WA_OpaquePaintEvent);
+  setMinimumSize(side + 2 * kFrame, side + 2 * kFrame);
+  if (room == SampleRoom::Fixed) setMaximumSize(minimumSize());
 }
 
 void SampleView::refresh() {
@@ -34,15 +34,21 @@ QString SampleView::accessibleValue() const {
   return value_.isEmpty() ? QString("%1 x %2").arg(picture_.width()).arg(picture_.height()) : value_;
 }
 
-void SampleView::paintEvent(QPaintEvent*) {
-  DevicePainter painter(this);
-  const QRect whole = painter.toDevice(rect());
-  painter.fillRect(whole, palette().color(QPalette::Mid));
-  const QRect inside = whole.adjusted(kFrame, kFrame, -kFrame, -kFrame);
-  painter.fillRect(inside, QColor(toRgb(kGround)));
-  paintCentred(painter, picture_, inside, factor() * devicePixelRatioF());
+QRect SampleView::place() const {
+  const int side = static_cast<int>(std::min(width(), height()) * devicePixelRatioF()) - 2 * kFrame;
+  const QSize picture(picture_.width(), picture_.height());
+  if (picture.isEmpty()) return {kFrame, kFrame, side, side};
+  const int factor = std::max(1, side / std::max(picture.width(), picture.height()));
+  return {QPoint(kFrame, kFrame), picture * factor};
 }
 
-int SampleView::factor() const { return std::max(1, room_ / std::max({1, picture_.width(), picture_.height()})); }
+void SampleView::paintEvent(QPaintEvent*) {
+  DevicePainter painter(this);
+  const QRect inside = place();
+  painter.fillRect(inside.adjusted(-kFrame, -kFrame, kFrame, kFrame), palette().color(QPalette::Mid));
+  painter.fillRect(inside, QColor(toRgb(kGround)));
+  if (picture_.width() == 0) return;
+  paintCentred(painter, picture_, inside, static_cast<double>(inside.width()) / picture_.width());
+}
 
 }  // namespace gp

@@ -1,5 +1,5 @@
-// A square in which a side panel shows a picture, centred and enlarged by the largest integer factor that fits. It
-// keeps no pixels. The Surface must outlive it and can change at any time; refresh() shows the change.
+// A picture on a side panel, in the upper left corner and enlarged by the largest whole number of device pixels that
+// fits. It keeps no pixels. The Surface must outlive it and can change at any time; refresh() shows the change.
 #pragma once
 
 #include "platform/gdi/Surface.h"
@@ -9,16 +9,21 @@
 
 namespace gp {
 
+// What a sample does with space that the others leave.
+enum class SampleRoom { Grows, Fixed };
+
 class SampleView : public QWidget, public AccessibleValue {
  public:
-  // `room` is the side of the largest picture, in device-independent pixels.
+  // `side` is that of the largest picture that always fits, in device-independent pixels.
   SampleView(QWidget* parent, const QString& objectName, const QString& accessibleName, const Surface& picture,
-             int room);
+             int side, SampleRoom room = SampleRoom::Grows);
 
   // Shows the picture again after it got another content or size.
   void refresh();
   // Sets what a screen reader speaks; until then it is the size of the picture.
   void setValueText(const QString& text);
+  // The enlarged picture without its outline, in device pixels; as large as the space allows while there is none.
+  QRect place() const;
 
   QString accessibleValue() const override;
   QAccessible::Role accessibleRole() const override { return QAccessible::Graphic; }
@@ -27,10 +32,7 @@ class SampleView : public QWidget, public AccessibleValue {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  int factor() const;
-
   const Surface& picture_;
-  const int room_;
   QString value_;
 };
 

@@ -7,19 +7,15 @@
 #include <QAbstractListModel>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QSignalBlocker>
 #include <QSlider>
-#include <QVBoxLayout>
 
 namespace gp {
 namespace {
 
-constexpr int kRowGap = 8;
-constexpr int kSampleScale = 2;
 constexpr int kAngleLetters = 6;
 constexpr int kLongestAngle = 24;  // the largest number of characters that can be typed
 constexpr int kSliderPage = 15;
@@ -41,24 +37,19 @@ class AngleList : public QAbstractListModel {
 
 RotatePanelView::RotatePanelView(QWidget* parent, RotatePanel& panel)
     : PanelFrame(parent, kRotatePanel), panel_(panel) {
-  rows()->addWidget(makeAngleRow());
-  rows()->addWidget(makeSlider());
-  rows()->addWidget(makeAntialias());
-  rows()->addStretch(1);
-  rows()->addWidget(makeSample());
+  addRow("lblRotateImageAngle", "An&gle:", makeAngle());
+  addWide(makeSlider());
+  addWide(makeAntialias());
+  QLabel* label = addRow("lblRotateImageSample", "Sample");
+  addTall(makeSample());
+  label->setBuddy(picRotateImageSample_);
   addButtons();
   setFirstControl(cboRotateImageAngle_);
   refresh();
 }
 
-QWidget* RotatePanelView::makeAngleRow() {
-  auto* row = new QWidget(this);
-  auto* layout = new QHBoxLayout(row);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(kRowGap);
-  auto* label = new QLabel("Angle:", row);
-
-  auto* angle = cboRotateImageAngle_ = new QComboBox(row);
+QWidget* RotatePanelView::makeAngle() {
+  auto* angle = cboRotateImageAngle_ = new QComboBox(rows());
   angle->setObjectName("cboRotateImageAngle");
   angle->setAccessibleName("Angle");
   angle->setEditable(true);
@@ -75,14 +66,11 @@ QWidget* RotatePanelView::makeAngleRow() {
   connect(angle, &QComboBox::activated, this, [this](int index) { panel_.pickAngle(index); });
   connect(angle->lineEdit(), &QLineEdit::textEdited, this,
           [this](const QString& text) { panel_.setAngleText(text.toStdString()); });
-
-  layout->addWidget(label);
-  layout->addWidget(angle, 1);
-  return row;
+  return angle;
 }
 
 QWidget* RotatePanelView::makeSlider() {
-  auto* slider = hsrRotateImageAngle_ = new QSlider(Qt::Horizontal, this);
+  auto* slider = hsrRotateImageAngle_ = new QSlider(Qt::Horizontal, rows());
   slider->setObjectName("hsrRotateImageAngle");
   slider->setAccessibleName("Rotation angle");
   slider->setRange(-kLargestAngle, kLargestAngle);
@@ -92,24 +80,16 @@ QWidget* RotatePanelView::makeSlider() {
 }
 
 QWidget* RotatePanelView::makeAntialias() {
-  auto* box = ckbRotateImageAntiAlias_ = new QCheckBox("Antialias", this);
+  auto* box = ckbRotateImageAntiAlias_ = new QCheckBox("Antialias", rows());
   box->setObjectName("ckbRotateImageAntiAlias");
   connect(box, &QCheckBox::toggled, this, [this](bool on) { panel_.setAntialias(on); });
   return box;
 }
 
 QWidget* RotatePanelView::makeSample() {
-  auto* place = new QWidget(this);
-  auto* column = new QVBoxLayout(place);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(kRowGap);
-  auto* label = new QLabel("Sample", place);
-  label->setObjectName("lblRotateImageSample");
-  picRotateImageSample_ = new SampleView(place, "picRotateImageSample", "Sample", panel_.picRotateImageSample(),
-                                         kSampleScale * kRotateSampleSide);
-  column->addWidget(label, 0, Qt::AlignHCenter);
-  column->addWidget(picRotateImageSample_, 0, Qt::AlignHCenter);
-  return place;
+  picRotateImageSample_ =
+      new SampleView(rows(), "picRotateImageSample", "Sample", panel_.picRotateImageSample(), kRotateSampleSide);
+  return picRotateImageSample_;
 }
 
 void RotatePanelView::follow() { panel_.follow(); }

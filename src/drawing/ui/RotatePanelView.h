@@ -25,7 +25,7 @@ class RotatePanelView : public PanelFrame {
   void refresh();
 
  private:
-  QWidget* makeAngleRow();
+  QWidget* makeAngle();
   QWidget* makeSlider();
   QWidget* makeAntialias();
   QWidget* makeSample();

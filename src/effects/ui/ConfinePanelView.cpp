@@ -4,7 +4,6 @@
 
 #include <QComboBox>
 #include <QLabel>
-#include <QVBoxLayout>
 
 namespace gp {
 namespace {
@@ -16,32 +15,32 @@ constexpr std::array<const char*, kConfineRuns> kListNames{"Confine to 256 color
 
 ConfinePanelView::ConfinePanelView(QWidget* parent, ConfinePanel& panel)
     : EffectPanelView(parent, panel), panel_(panel) {
-  lblRun_ = addLabel("lblConfineColors(1)", "");
+  lblRun_ = addRow("lblConfineColors(1)", "");
   addMethods();
   addThreshold();
-  // Below the space of a hidden threshold, so that the label does not move.
-  rows()->addStretch(1);
-  addLabel("lblConfineColors(3)", "(Remarks: Undo will not be available)");
-  addSamples({{"picConfineColors(0)", "Image", panel_.picture().image},
+  addRow("lblConfineColors(3)", "(Remarks: Undo will not be available)");
+  addSamples({{"picConfineResult", "Result", panel_.sample()},
+              {"picConfineColors(0)", "Image", panel_.picture().image},
               {"picConfineColors(1)", "Mask", panel_.picture().mask}});
   refresh();
 }
 
 void ConfinePanelView::addMethods() {
-  lblConfineTo_ = addLabel("lblConfineColors(0)", "Conf&ine to");
   for (std::size_t run = 0; run < methods_.size(); ++run) {
-    methods_[run] = makeList(this, QString("cboConfineColors(%1)").arg(run), kListNames[run]);
+    methods_[run] = makeList(rows(), QString("cboConfineColors(%1)").arg(run), kListNames[run]);
     connect(methods_[run], &QComboBox::activated, this, [this](int index) { panel_.pickMethod(index); });
-    rows()->addWidget(methods_[run]);
+    if (run == 0)
+      lblConfineTo_ = addRow("lblConfineColors(0)", "Conf&ine to", methods_[run]);
+    else
+      addControl(methods_[run]);
   }
 }
 
 void ConfinePanelView::addThreshold() {
-  threshold_ = makeList(this, "cboConfineColors(3)", "Threshold");
+  threshold_ = makeList(rows(), "cboConfineColors(3)", "Threshold");
   connect(threshold_, &QComboBox::activated, this, [this](int index) { panel_.pickThreshold(index); });
   lblThreshold_ =
-      addLabel("lblConfineColors(2)", "Threshol&d:    (If averaged color value below threshold, black)", threshold_);
-  rows()->addWidget(threshold_);
+      addRow("lblConfineColors(2)", "Threshol&d:    (If averaged color value below threshold, black)", threshold_);
 }
 
 // Changing a list here does not emit `activated`, which only a choice of the user does.

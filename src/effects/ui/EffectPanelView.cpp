@@ -3,17 +3,16 @@
 #include "document/ui/SampleView.h"
 #include "effects/EffectPanel.h"
 
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QLabel>
-#include <QVBoxLayout>
 
 namespace gp {
 namespace {
 
 constexpr int kGap = 8;
-// Side of a single sample and of one of several: four times and twice the largest icon.
-constexpr int kLargeRoom = 192;
-constexpr int kSmallRoom = 96;
+// Sides of the largest icon in the first sample, at least, and in the others.
+constexpr int kLeastFirst = 96;
+constexpr int kOthers = 48;
 
 }  // namespace
 
@@ -27,35 +26,31 @@ void EffectPanelView::refreshAll() {
   for (SampleView* sample : samples_) sample->refresh();
 }
 
-QLabel* EffectPanelView::addLabel(const QString& objectName, const QString& caption, QWidget* buddy) {
-  auto* label = new QLabel(caption, this);
-  label->setObjectName(objectName);
-  label->setWordWrap(true);
-  label->setBuddy(buddy);
-  rows()->addWidget(label);
-  return label;
-}
-
 std::vector<QLabel*> EffectPanelView::addSamples(const std::vector<SampleRow>& samples) {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(kGap);
-  std::vector<QLabel*> labels;
-  for (const SampleRow& sample : samples)
-    labels.push_back(addSample(row, sample, samples.size() == 1 ? kLargeRoom : kSmallRoom));
-  rows()->addLayout(row);
+  auto* place = new QWidget(rows());
+  auto* grid = new QGridLayout(place);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setSpacing(kGap);
+  grid->setColumnStretch(0, 1);
+  const int others = static_cast<int>(samples.size()) - 1;
+  grid->setRowStretch(2 * others + 1, 1);
+  std::vector<QLabel*> labels{addSample(grid, samples.front(), {0, 0}, 2 * others + 1)};
+  for (int i = 0; i < others; ++i)
+    labels.push_back(addSample(grid, samples[static_cast<std::size_t>(i) + 1], {1, 2 * i}, 1));
+  addTall(place);
   addButtons();
   return labels;
 }
 
-QLabel* EffectPanelView::addSample(QHBoxLayout* row, const SampleRow& sample, int room) {
-  auto* column = new QVBoxLayout;
-  column->setSpacing(kGap);
-  auto* label = new QLabel(sample.caption, this);
-  auto* view = new SampleView(this, sample.objectName, sample.caption, sample.picture, room);
+QLabel* EffectPanelView::addSample(QGridLayout* grid, const SampleRow& sample, const QPoint& cell, int rows) {
+  QWidget* place = grid->parentWidget();
+  auto* label = new QLabel(sample.caption, place);
+  const bool isFirst = samples_.empty();
+  auto* view = new SampleView(place, sample.objectName, sample.caption, sample.picture, isFirst ? kLeastFirst : kOthers,
+                              isFirst ? SampleRoom::Grows : SampleRoom::Fixed);
   label->setBuddy(view);
-  column->addWidget(label, 0, Qt::AlignHCenter);
-  column->addWidget(view, 0, Qt::AlignHCenter);
-  row->addLayout(column);
+  grid->addWidget(label, cell.y(), cell.x());
+  grid->addWidget(view, cell.y() + 1, cell.x(), rows, 1);
   samples_.push_back(view);
   return label;
 }

@@ -1,13 +1,13 @@
-// What the views of the effects' side panels share: rows on top and samples below. A view has no state; it must be
-// destroyed before the logic.
+// What the views of the effects' side panels share: the settings in rows, and the samples directly below them. A view
+// has no state; it must be destroyed before the logic.
 #pragma once
 
 #include "platform/qt/widgets/PanelFrame.h"
 
 #include <vector>
 
+class QGridLayout;
 class QLabel;
-class QHBoxLayout;
 
 namespace gp {
 
@@ -34,15 +34,15 @@ class EffectPanelView : public PanelFrame {
   void refreshAll();
 
  protected:
-  // Adds a label above the list that it belongs to; `caption` may have an access letter.
-  QLabel* addLabel(const QString& objectName, const QString& caption, QWidget* buddy = nullptr);
-  // Adds the samples side by side at the bottom, each under its caption, then Proceed and Close. Returns the labels.
+  // Adds the samples, each under its caption, then Proceed and Close. The first one is as large as the space allows,
+  // the others are small and beside it. Returns the labels.
   std::vector<QLabel*> addSamples(const std::vector<SampleRow>& samples);
   // Shows the settings; the samples are refreshed after it.
   virtual void refresh() {}
 
  private:
-  QLabel* addSample(QHBoxLayout* row, const SampleRow& sample, int room);
+  // `cell` is the column and row of the label; the sample spans `rows` below it.
+  QLabel* addSample(QGridLayout* grid, const SampleRow& sample, const QPoint& cell, int rows);
 
   EffectPanel& panel_;
   std::vector<SampleView*> samples_;

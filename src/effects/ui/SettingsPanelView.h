@@ -9,6 +9,7 @@ class QComboBox;
 
 namespace gp {
 
+class ColorSample;
 class SettingsPanel;
 struct Setting;
 
@@ -22,7 +23,7 @@ class SettingsPanelView final : public EffectPanelView {
   void refresh() override;
 
  private:
-  // The control of one setting: a list with a label, or a tick box.
+  // The control of one setting: a list with a label, or a tick box in a row of widgets.
   struct Control {
     const Setting* setting;
     QComboBox* list;
@@ -31,14 +32,16 @@ class SettingsPanelView final : public EffectPanelView {
   };
 
   void addControl(const Setting& setting);
-  QComboBox* addList(const Setting& setting);
-  QCheckBox* addBox(const Setting& setting);
+  QComboBox* makeSettingList(const Setting& setting);
+  void addBox(const Setting& setting);
   void addSample();
+  static void showSetting(const Control& control, bool isShown);
   static void showChoice(const Control& control, int choice);
 
   SettingsPanel& panel_;
   std::vector<Control> controls_;
-  QLabel* title_ = nullptr;  // null when the sample's label does not show the effect's title
+  std::vector<ColorSample*> swatches_;
+  QLabel* sampleLabel_ = nullptr;  // null when the sample's label does not show the effect's title
 };
 
 }  // namespace gp

@@ -5,57 +5,38 @@
 #include "files/cursor/CursorFiles.h"
 
 #include <QComboBox>
-#include <QGridLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QVBoxLayout>
 
 namespace gp {
 namespace {
 
 constexpr const char* kHint = "Choose the hot spot here, or click its pixel in the Editing Area.";
-constexpr int kRowGap = 8;
-
 }  // namespace
 
 CursorPanelView::CursorPanelView(QWidget* parent, CursorFiles& cursors)
     : PanelFrame(parent, kCursorPanel), cursors_(cursors) {
-  auto* hint = new QLabel(kHint, this);
-  hint->setObjectName("lblCursorHotSpot");
-  hint->setWordWrap(true);
-  rows()->addWidget(hint);
-  rows()->addLayout(makeLists());
-  rows()->addWidget(makeShowButton());
-  rows()->addStretch(1);
+  addRow("lblCursorHotSpot", kHint);
+  // The access keys are those that no menu of the form uses.
+  addList(0, "Hot &spot X:", "Hot spot X");
+  addList(1, "Hot spot &Y:", "Hot spot Y");
+  addWide(makeShowButton());
+  addTall(new QWidget(rows()));
   addButtons();
   setFirstControl(cboCursorHotSpot_[0]);
   refresh();
 }
 
-// The access keys are those that no menu of the form uses.
-QGridLayout* CursorPanelView::makeLists() {
-  auto* grid = new QGridLayout;
-  grid->setSpacing(kRowGap);
-  grid->setColumnStretch(1, 1);
-  addList(grid, 0, "Hot &spot X:", "Hot spot X");
-  addList(grid, 1, "Hot spot &Y:", "Hot spot Y");
-  return grid;
-}
-
-void CursorPanelView::addList(QGridLayout* grid, int index, const QString& caption, const QString& name) {
+void CursorPanelView::addList(int index, const QString& caption, const QString& name) {
   auto* list = cboCursorHotSpot_[static_cast<std::size_t>(index)] =
-      makeList(this, QString("cboCursorHotSpot(%1)").arg(index), name);
+      makeList(rows(), QString("cboCursorHotSpot(%1)").arg(index), name);
   connect(list, &QComboBox::activated, this,
           [this, index](int value) { index == 0 ? cursors_.setHotspotX(value) : cursors_.setHotspotY(value); });
-  auto* label = new QLabel(caption, this);
-  label->setBuddy(list);
-  grid->addWidget(label, index, 0);
-  grid->addWidget(list, index, 1);
+  addRow(QString("lblCursorHotSpot(%1)").arg(index), caption, list);
 }
 
 QWidget* CursorPanelView::makeShowButton() {
-  auto* button = new QPushButton("Sho&w hotspot", this);
+  auto* button = new QPushButton("Sho&w hotspot", rows());
   button->setObjectName("cmdShowHotspot");
   button->setToolTip("Show the hot spot in the Editing Area");
   button->setAutoDefault(false);

@@ -7,7 +7,6 @@
 #include <array>
 
 class QComboBox;
-class QGridLayout;
 
 namespace gp {
 
@@ -27,8 +26,7 @@ class CursorPanelView : public PanelFrame {
   void showHotspotRequested();
 
  private:
-  QGridLayout* makeLists();
-  void addList(QGridLayout* grid, int index, const QString& caption, const QString& name);
+  void addList(int index, const QString& caption, const QString& name);
   QWidget* makeShowButton();
 
   CursorFiles& cursors_;

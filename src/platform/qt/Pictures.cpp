@@ -44,8 +44,8 @@ struct HotSpot {
 };
 constexpr HotSpot kHotSpots[] = {
     {"paint", 2, 17},   {"erase", 4, 14},           {"fill", 2, 17},       {"replace", 2, 2},
-    {"restore", 2, 17}, {"color-picker", 2, 17},    {"line", 4, 4},        {"rectangle", 4, 4},
-    {"oval", 4, 4},     {"filled-rectangle", 4, 4}, {"filled-oval", 4, 4},
+    {"restore", 2, 17}, {"color-picker", 2, 17},    {"line", 3, 3},        {"rectangle", 2, 4},
+    {"oval", 2, 4},     {"filled-rectangle", 2, 4}, {"filled-oval", 2, 4},
 };
 constexpr HotSpot kCentre = {"", kPictureGrid / 2, kPictureGrid / 2};
 
@@ -132,7 +132,7 @@ QImage faded(const QImage& image) {
 // Draws at the requested size in the current theme, so that one icon works for every screen and palette.
 class PictureEngine : public QIconEngine {
  public:
-  explicit PictureEngine(std::string_view name) : name_(name) {}
+  PictureEngine(std::string_view name, bool isReversed) : name_(name), isReversed_(isReversed) {}
 
   QIconEngine* clone() const override { return new PictureEngine(*this); }
   QString iconName() override { return QString::fromStdString(name_); }
@@ -148,7 +148,7 @@ class PictureEngine : public QIconEngine {
 
   // `size` is in device pixels.
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
-    const Last wanted{std::min(size.width(), size.height()), mode == QIcon::Disabled, currentTheme()};
+    const Last wanted{std::min(size.width(), size.height()), mode == QIcon::Disabled, theme()};
     if (wanted != last_ || pixmap_.isNull()) {
       const QImage image = imageOf(name_, wanted.pixels, wanted.theme);
       pixmap_ = QPixmap::fromImage(wanted.disabled ? faded(image) : image);
@@ -174,7 +174,13 @@ class PictureEngine : public QIconEngine {
     bool operator==(const Last&) const = default;
   };
 
+  Theme theme() const {
+    if (!isReversed_) return currentTheme();
+    return currentTheme() == Theme::Light ? Theme::Dark : Theme::Light;
+  }
+
   std::string name_;
+  bool isReversed_;
   Last last_;
   QPixmap pixmap_;
 };
@@ -198,11 +204,17 @@ QImage withOutline(const QImage& picture, int margin) {
   return result;
 }
 
+QIcon iconOf(std::string_view name, bool isReversed) {
+  return Pictures::has(name) ? QIcon(new PictureEngine(name, isReversed)) : QIcon();
+}
+
 }  // namespace
 
 bool Pictures::has(std::string_view name) { return !entriesOf(kSheets[0].light, name).empty(); }
 
-QIcon Pictures::icon(std::string_view name) { return has(name) ? QIcon(new PictureEngine(name)) : QIcon(); }
+QIcon Pictures::icon(std::string_view name) { return iconOf(name, false); }
+
+QIcon Pictures::reversedIcon(std::string_view name) { return iconOf(name, true); }
 
 QPixmap Pictures::pixmap(std::string_view name, qreal devicePixelRatio, int size) {
   const QImage image = imageOf(name, qRound(size * devicePixelRatio), currentTheme());

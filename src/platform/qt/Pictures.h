@@ -23,6 +23,8 @@ class Pictures {
   // Returns a picture for any size and scale. It uses the application's palette, light or dark, at the time of
   // painting, and is faded for QIcon::Disabled. Null for an unknown name.
   static QIcon icon(std::string_view name);
+  // The same in the colours of the other theme, for a ground that is dark in a light window and light in a dark one.
+  static QIcon reversedIcon(std::string_view name);
 
   // `size` is in device-independent pixels; the pixmap has the given ratio. It is exact for 100, 150 and 200 % of the
   // size for which a picture is drawn, and otherwise scaled from the nearest larger one. The theme is that of the

@@ -1,7 +1,8 @@
 // The desktop's style with these changes: a combo box opens as a list of at most its maxVisibleItems entries with a
-// scroll bar, not as a menu that can cover the whole screen; check boxes, radio buttons and sliders are visible on a
-// dark window; the menu bar marks the entry that has the keyboard; message boxes have the program's pictures, and the
-// buttons of dialogs none.
+// scroll bar, not as a menu that can cover the whole screen; check boxes, radio buttons, sliders and the menu bar's
+// button for more entries are visible on a dark window; the keyboard focus is marked by the same ring everywhere, and
+// in the menu bar by the style's mark of an entry; message boxes have the program's pictures, and the buttons of
+// dialogs none.
 #pragma once
 
 namespace gp {

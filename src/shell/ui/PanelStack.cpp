@@ -18,7 +18,9 @@
 namespace gp {
 namespace {
 
-constexpr int kPanelWidth = 264;
+// The width for small fonts, pixels, and for large ones, in lines of text.
+constexpr int kLeastWidth = 264;
+constexpr int kWidthInLines = 17;
 
 QWidget* makeColorPanel(QWidget* parent, Shell& shell, QtDisplay& display) {
   auto* panel =
@@ -63,9 +65,9 @@ struct PanelWidget {
   QWidget* (*make)(QWidget* parent, Shell& shell, QtDisplay& display);
 };
 
-// Sets title and actions of Proceed and Close from the table of panels.
+// Sets caption and actions of Proceed and Close from the table of panels.
 void completeFrame(PanelFrame* panel, int number, Shell& shell) {
-  panel->setTitle(findPanel(number)->caption);
+  panel->setCaption(findPanel(number)->caption);
   QObject::connect(panel, &PanelFrame::proceed, panel,
                    [&shell] { shell.guarded("cmdProceed_Click", [&shell] { shell.cmdProceed(); }); });
   QObject::connect(panel, &PanelFrame::closeRequested, panel,
@@ -89,7 +91,7 @@ QWidget* makePanel(int number, QWidget* parent, Shell& shell, QtDisplay& display
 
 PanelStack::PanelStack(QWidget* parent, Shell& shell, QtDisplay& display)
     : QWidget(parent), shell_(shell), display_(display), stack_(new QStackedLayout(this)) {
-  setFixedWidth(kPanelWidth);
+  setFixedWidth(std::max(kLeastWidth, kWidthInLines * fontMetrics().height()));
   showPanel(shell_.screen().mActivePanel);
 }
 

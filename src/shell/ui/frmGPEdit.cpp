@@ -2,6 +2,7 @@
 
 #include "document/ui/CurrentIconView.h"
 #include "document/ui/EditingAreaView.h"
+#include "document/ui/FileDrops.h"
 #include "document/ui/IconsPanelView.h"
 #include "document/ui/QtDisplay.h"
 #include "document/ui/ReadoutsView.h"
@@ -144,6 +145,11 @@ void frmGPEdit::connectEditingArea() {
   connect(&view, &EditingAreaView::left, this, [this] { shell_.drawing().tools.leave(); });
   connect(&view, &EditingAreaView::popUpRequested, this, &frmGPEdit::popUp);
   connect(room_, &EditingAreaRoom::resized, this, &frmGPEdit::resizeRoom);
+  IconsPanel& icons = shell_.document().iconsPanel;
+  const auto drop = [this, &icons](const std::vector<std::string>& files) {
+    shell_.guarded("picDisp_OLEDragDrop", [&] { icons.AreaDrop(files); });
+  };
+  connect(new FileDrops(room_, icons), &FileDrops::dropped, this, drop, Qt::QueuedConnection);
 }
 
 void frmGPEdit::connectIconsPanel() {
@@ -245,7 +251,8 @@ FormPlace frmGPEdit::place() const {
 }
 
 void frmGPEdit::setPlace(const FormPlace& place) {
-  setMinimumSize(pixelsOf(kFormWidth), pixelsOf(kFormHeight));
+  // With a large font the controls need more.
+  setMinimumSize(QSize(pixelsOf(kFormWidth), pixelsOf(kFormHeight)).expandedTo(minimumSizeHint()));
   move(pixelsOf(place.left), pixelsOf(place.top));
   resize(pixelsOf(place.width), pixelsOf(place.height));
 }

@@ -2,6 +2,7 @@
 
 #include "platform/qt/Accessibility.h"
 
+#include <QEvent>
 #include <QPainter>
 
 namespace gp {
@@ -10,6 +11,7 @@ namespace {
 constexpr int kPadding = 8;  // between the frame and its content, pixels
 constexpr int kCaptionIndent = 2;
 constexpr int kCaptionGap = 3;
+constexpr int kCaptionSlack = 2;  // letter widths are not whole pixels
 
 }  // namespace
 
@@ -17,10 +19,20 @@ CaptionFrame::CaptionFrame(QWidget* parent, const QString& objectName, const QSt
     : QWidget(parent), caption_(caption) {
   setObjectName(objectName);
   makeGroup(this, caption);
+  makeRoomForCaption();
 }
 
-QMargins CaptionFrame::frameMargins() const {
-  return {kPadding, fontMetrics().height() + kCaptionGap + kPadding, kPadding, kPadding};
+void CaptionFrame::makeRoomForCaption() {
+  setMinimumWidth(kCaptionIndent + fontMetrics().horizontalAdvance(caption_) + kCaptionSlack);
+}
+
+void CaptionFrame::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::FontChange) makeRoomForCaption();
+  QWidget::changeEvent(event);
+}
+
+QMargins CaptionFrame::marginsFor(const QFontMetrics& metrics) {
+  return {kPadding, metrics.height() + kCaptionGap + kPadding, kPadding, kPadding};
 }
 
 void CaptionFrame::paintEvent(QPaintEvent*) {

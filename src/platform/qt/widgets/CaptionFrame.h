@@ -1,5 +1,5 @@
-// A frame with a caption above it, for a labelled group of controls. The caption is only painted: the controls inside
-// have their own accessible names.
+// A frame with a caption above it, for a labelled group of controls. It is never narrower than its caption. The caption
+// is only painted: the controls inside have their own accessible names.
 #pragma once
 
 #include <QWidget>
@@ -14,12 +14,16 @@ class CaptionFrame : public QWidget {
 
   const QString& caption() const { return caption_; }
   // Returns the margins for a layout inside the frame.
-  QMargins frameMargins() const;
+  QMargins frameMargins() const { return marginsFor(fontMetrics()); }
+  static QMargins marginsFor(const QFontMetrics& metrics);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
+  void makeRoomForCaption();
+
   QString caption_;
 };
 

@@ -1,13 +1,14 @@
-// The common frame of the panels in the right column: a title at the top, the panel's own rows, and Proceed and Close
-// at the bottom. Enter presses Proceed, unless the focused control handles it, and Esc presses Close. The owner
-// connects the signals to their actions.
+// The common frame of the panels in the right column: a title at the top, the panel's rows, and Proceed and Close at
+// the bottom. A row has its label in the first column and its control in the second. Rows that do not fit scroll. Enter
+// presses Proceed, unless the focused control handles it, and Esc presses Close. The owner connects the signals to
+// their actions.
 #pragma once
 
 #include <QWidget>
 
+class QGridLayout;
 class QLabel;
 class QPushButton;
-class QVBoxLayout;
 
 namespace gp {
 
@@ -18,13 +19,11 @@ class PanelFrame : public QWidget {
   // `number` is the index of fraPanel.
   PanelFrame(QWidget* parent, int number);
 
-  // Takes a menu caption, with && for &.
+  // The name of the frame, a menu caption with && for &. It is the title of a panel that has no other one.
+  void setCaption(const QString& caption);
+  // The name of what the panel does, if it has another one; the caption is then above it.
   void setTitle(const QString& title);
 
-  // The layout for the panel's rows, from the top.
-  QVBoxLayout* rows() const { return rows_; }
-  // Must be called once, after the rows, so that the buttons are last in the Tab order.
-  void addButtons();
   // Sets the control that gets the focus when the panel opens; addButtons() sets Proceed. It is not a focus proxy,
   // which would make the frame itself report the focus.
   void setFirstControl(QWidget* control) { firstControl_ = control; }
@@ -36,13 +35,32 @@ class PanelFrame : public QWidget {
   void closeRequested();
 
  protected:
+  // Adds a row. A long caption is above its control, from the first column on; one without a control is alone in its
+  // row. The caption may have an access letter.
+  QLabel* addRow(const QString& objectName, const QString& caption, QWidget* control = nullptr);
+  // Puts another control in the place of the last row's control. At most one of them may be visible.
+  void addControl(QWidget* control);
+  // Adds a row that is as wide as the panel.
+  void addWide(QWidget* content);
+  // Adds a row that gets all the height that the others leave.
+  void addTall(QWidget* content);
+  // Must be called once, after the rows, so that the buttons are last in the Tab order.
+  void addButtons();
+  // The parent of what is added.
+  QWidget* rows() const { return rows_; }
+
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  QLabel* makeTitle();
+  QLabel* makeHeading();
+  QWidget* makeRows();
+  void showHeadings();
 
+  QString caption_, titleText_;
+  QLabel* frameCaption_;
   QLabel* title_;
-  QVBoxLayout* rows_;
+  QWidget* rows_ = nullptr;
+  QGridLayout* grid_ = nullptr;
   QWidget* firstControl_ = nullptr;
   QPushButton* cmdProceed_ = nullptr;
   QPushButton* cmdCancel_ = nullptr;

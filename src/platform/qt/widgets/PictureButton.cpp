@@ -1,6 +1,8 @@
 #include "platform/qt/widgets/PictureButton.h"
 
 #include "platform/qt/Accessibility.h"
+#include "platform/qt/Contrast.h"
+#include "platform/qt/FocusRing.h"
 #include "platform/qt/KeyToolTip.h"
 #include "platform/qt/Pictures.h"
 
@@ -10,9 +12,19 @@
 #include <QToolTip>
 
 namespace gp {
+namespace {
+
+constexpr int kTile = 7;  // eighths of the way from the window's colour to that of its text
+constexpr int kTileRadius = 3;
+
+// What makes Qt paint a panel behind the picture.
+constexpr QStyle::State kRaisedOrSunken =
+    QStyle::State_On | QStyle::State_Sunken | QStyle::State_Raised | QStyle::State_MouseOver;
+
+}  // namespace
 
 PictureButton::PictureButton(QWidget* parent, const QString& objectName, const PictureButtonLook& look)
-    : QToolButton(parent) {
+    : QToolButton(parent), reversed_(Pictures::reversedIcon(look.picture)) {
   setObjectName(objectName);
   setAutoRaise(true);
   setIconSize(QSize(Pictures::kSize, Pictures::kSize));
@@ -47,11 +59,27 @@ void PictureButton::setDimmed(bool dimmed) {
   update();
 }
 
+// A chosen button is a tile in nearly the colour of text, which differs from any window.
+void PictureButton::paintTile(QPainter& painter) const {
+  const QColor window = palette().color(QPalette::Window), text = palette().color(QPalette::WindowText);
+  const int edge = hasFocus() ? kFocusRing : 0;
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(visibleOn(window, text));
+  painter.setBrush(visibleOn(window, between(window, text, kTile)));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(edge + 0.5, edge + 0.5, -edge - 0.5, -edge - 0.5), kTileRadius,
+                          kTileRadius);
+}
+
 void PictureButton::paintEvent(QPaintEvent*) {
   QStylePainter painter(this);
   QStyleOptionToolButton option;
   initStyleOption(&option);
   if (dimmed_) option.state &= ~QStyle::State_Enabled;
+  if (isChecked() || isDown()) {
+    paintTile(painter);
+    option.icon = reversed_;
+    option.state &= ~kRaisedOrSunken;
+  }
   painter.drawComplexControl(QStyle::CC_ToolButton, option);
 }
 

@@ -1,6 +1,7 @@
 // A flat button with one of the program's pictures. Its tooltip is also its accessible name, unless another one is set.
 // The tooltip on the screen also names the key. A checkable button is a radio button that shows what the program has
 // chosen: a click changes nothing by itself.
+// While it is checked or pressed, the picture is on a tile that is dark in a light window and light in a dark one.
 #pragma once
 
 #include <QToolButton>
@@ -35,6 +36,9 @@ class PictureButton : public QToolButton {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void paintTile(QPainter& painter) const;
+
+  QIcon reversed_;
   bool dimmed_ = false;
   QString key_;
 };
