@@ -51,7 +51,7 @@ void Tools::locate(const MouseInput& mouse) {
 }
 
 ToolMouse Tools::toolMouse(const MouseInput& mouse) const {
-  return {selected_, mPixelX, mPixelY, mouse.x, mouse.y, mouse.modifiers};
+  return {selected_, mPixelX, mPixelY, mouse.x, mouse.y, mouse.modifiers, mouse.byKeyboard};
 }
 
 void Tools::press(const MouseInput& mouse) {
@@ -62,6 +62,7 @@ void Tools::press(const MouseInput& mouse) {
   if (!state_.current().present || !isToolActive()) return;
   locate(mouse);
   worker(selected_)->press(toolMouse(mouse));
+  writeDrawnSize();
 }
 
 void Tools::move(const MouseInput& mouse) {
@@ -77,6 +78,7 @@ void Tools::move(const MouseInput& mouse) {
   locate(mouse);
   writeReadouts();
   if (isToolActive()) worker(selected_)->move(toolMouse(mouse));
+  writeDrawnSize();
 }
 
 void Tools::leave() {
@@ -99,7 +101,21 @@ void Tools::release(const MouseInput& mouse) {
   if (!isToolActive()) return;
   state_.current().modified = true;
   worker(selected_)->release(toolMouse(mouse));
+  writeDrawnSize();
   context_.editor.UpdateCommands();
+}
+
+bool Tools::isHeld() const { return isToolActive() && worker(selected_)->isHeld(); }
+
+void Tools::giveUp() {
+  if (!isHeld()) return;
+  worker(selected_)->giveUp();
+  writeDrawnSize();
+  context_.editor.UpdateCommands();
+}
+
+void Tools::followMagnification() {
+  if (isToolActive()) worker(selected_)->followMagnification();
 }
 
 void Tools::pickColor() {
@@ -117,6 +133,11 @@ void Tools::setReadout(Readout which, std::string text) {
 void Tools::writeReadouts() {
   setReadout(Readout::Position, "X=" + std::to_string(mPixelX + 1) + "  Y=" + std::to_string(mPixelY + 1));
   if (state_.screen.pixelRgbVisible) setReadout(Readout::PixelRgb, pixelRgbText());
+}
+
+void Tools::writeDrawnSize() {
+  const auto size = isToolActive() ? worker(selected_)->drawnSize() : std::nullopt;
+  setReadout(Readout::Size, size ? std::to_string(size->width) + " x " + std::to_string(size->height) : "");
 }
 
 std::string Tools::pixelRgbText() const {
@@ -165,6 +186,7 @@ void Tools::selectTool(Tool tool) {
 void Tools::deselect() {
   DrawingTool* former = worker(std::exchange(selected_, kNoTool));
   if (former) former->cancel();
+  writeDrawnSize();
 }
 
 void Tools::toolsChanged() {

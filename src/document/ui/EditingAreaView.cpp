@@ -1,11 +1,14 @@
 #include "document/ui/EditingAreaView.h"
 
 #include "document/EditState.h"
+#include "document/ui/RegionMark.h"
 #include "document/ui/SurfacePainting.h"
 
 #include <QContextMenuEvent>
+#include <QCursor>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScrollBar>
 
 namespace gp {
 namespace {
@@ -22,6 +25,10 @@ QString EditingAreaView::accessibleValue() const {
   return state_.current().present ? MagnifiedView::accessibleValue() : QString();
 }
 
+void EditingAreaView::paintMarks(QPainter& painter) const {
+  if (state_.screen.regionOutline.shown) paintRegionMark(painter, state_.screen.regionOutline, scale(), markLine());
+}
+
 void EditingAreaView::keyPressEvent(QKeyEvent* event) {
   const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
   if (event->key() == Qt::Key_F10 && modifiers == Qt::ShiftModifier)
@@ -36,30 +43,89 @@ void EditingAreaView::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 EditingAreaRoom::EditingAreaRoom(QWidget* parent, const EditState& state)
-    : QWidget(parent), view_(new EditingAreaView(this, state)) {
+    : QAbstractScrollArea(parent), view_(new EditingAreaView(viewport(), state)) {
   setObjectName("picDispContainer");
   setMinimumSize(kSmallestRoom, kSmallestRoom);
-  setAttribute(Qt::WA_OpaquePaintEvent);
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::NoFocus);
+  viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  horizontalScrollBar()->setAccessibleName("Scroll Editing Area horizontally");
+  verticalScrollBar()->setAccessibleName("Scroll Editing Area vertically");
+  connect(view_, &EditingAreaView::workedAt, this, &EditingAreaRoom::scrollTo);
+  connect(view_, &EditingAreaView::zoomRequested, this,
+          [this](bool in, QPointF position) { zoomAround(in ? ZoomStep::In : ZoomStep::Out, position); });
 }
 
 void EditingAreaRoom::refresh() {
   const QSize before = view_->size();
   view_->refresh();
-  if (view_->size() == before) return;
-  centre();
-  update();
+  if (view_->size() != before) layOut();
 }
 
-void EditingAreaRoom::centre() { view_->move((width() - view_->width()) / 2, (height() - view_->height()) / 2); }
+void EditingAreaRoom::zoom(ZoomStep step) {
+  zoomAround(step, positionToKeep());
+  if (const QRect cursor = view_->shownCursor(); !cursor.isEmpty()) scrollTo(cursor);
+}
+
+QPointF EditingAreaRoom::positionToKeep() const {
+  if (const QRect cursor = view_->shownCursor(); !cursor.isEmpty()) return QRectF(cursor).center();
+  const QPoint mouse = viewport()->mapFromGlobal(QCursor::pos());
+  const QRect visible = viewport()->rect();
+  return view_->mapFrom(viewport(), visible.contains(mouse) ? mouse : visible.center());
+}
+
+// The icon has the same point at the same place before and after.
+void EditingAreaRoom::zoomAround(ZoomStep step, const QPointF& position) {
+  const QPointF place = position + view_->pos();
+  const double before = view_->width();
+  emit zoomRequested(step);
+  const QPointF corner = place - position * (view_->width() / before);
+  horizontalScrollBar()->setValue(qRound(-corner.x()));
+  verticalScrollBar()->setValue(qRound(-corner.y()));
+}
+
+void EditingAreaRoom::layOut() {
+  const QSize all = view_->size();
+  // With scroll bars the room for the view is smaller, so it is asked whether it fits without any.
+  const QSize most = maximumViewportSize();
+  const bool fits = all.width() <= most.width() && all.height() <= most.height();
+  const QSize page = fits ? most : viewport()->size();
+  horizontalScrollBar()->setPageStep(page.width());
+  horizontalScrollBar()->setRange(0, all.width() - page.width());
+  verticalScrollBar()->setPageStep(page.height());
+  verticalScrollBar()->setRange(0, all.height() - page.height());
+  placeView();
+}
+
+void EditingAreaRoom::placeView() {
+  const auto corner = [](int room, int length, int scrolled) {
+    return length < room ? (room - length) / 2 : -scrolled;
+  };
+  const QRect room = viewport()->rect();
+  view_->move(corner(room.width(), view_->width(), horizontalScrollBar()->value()),
+              corner(room.height(), view_->height(), verticalScrollBar()->value()));
+  viewport()->update();
+}
+
+void EditingAreaRoom::scrollTo(const QRect& part) {
+  const auto bring = [](QScrollBar& bar, int from, int to) {
+    if (from < bar.value()) bar.setValue(from);
+    if (to > bar.value() + bar.pageStep()) bar.setValue(to - bar.pageStep());
+  };
+  bring(*horizontalScrollBar(), part.left(), part.left() + part.width());
+  bring(*verticalScrollBar(), part.top(), part.top() + part.height());
+}
+
+void EditingAreaRoom::scrollContentsBy(int, int) { placeView(); }
 
 void EditingAreaRoom::resizeEvent(QResizeEvent*) {
-  centre();
+  layOut();
   emit resized(size());
 }
 
 void EditingAreaRoom::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.fillRect(rect(), QColor(toRgb(kGround)));
+  QPainter painter(viewport());
+  painter.fillRect(viewport()->rect(), QColor(toRgb(kGround)));
   painter.setPen(QColor(kRoomOutline));
   painter.drawRect(view_->geometry().adjusted(-1, -1, 0, 0));
 }

@@ -6,7 +6,7 @@
 #include "document/ui/QtDisplay.h"
 #include "document/ui/ReadoutsView.h"
 #include "document/ui/StatusBarView.h"
-#include "drawing/ui/MouseInputs.h"
+#include "document/ui/ZoomKeys.h"
 #include "drawing/ui/ShiftPad.h"
 #include "drawing/ui/ToolBox.h"
 #include "files/ui/frmGPHeaderDiff.h"
@@ -17,6 +17,7 @@
 #include "shell/FormPlacement.h"
 #include "shell/Shell.h"
 #include "shell/ui/CommandMenus.h"
+#include "shell/ui/EditingAreaEvents.h"
 #include "shell/ui/PanelStack.h"
 #include "shell/ui/PointerView.h"
 #include "shell/ui/ToolbarView.h"
@@ -127,16 +128,9 @@ void frmGPEdit::connectEditingArea() {
     return QString("X=%1  Y=%2  ").arg(pixel.x() + 1).arg(pixel.y() + 1) +
            toText(shell_.drawing().tools.pixelText(pixel.x(), pixel.y()));
   });
-  connect(&view, &EditingAreaView::pressed, this, [this](QPointF at, Qt::MouseButton button, auto modifiers) {
-    shell_.guarded("picDisp_MouseDown", [&] { shell_.drawing().tools.press(mouseInput(at, modifiers, button)); });
-  });
-  connect(&view, &EditingAreaView::moved, this, [this](QPointF at, auto modifiers) {
-    shell_.guarded("picDisp_MouseMove", [&] { shell_.drawing().tools.move(mouseInput(at, modifiers)); });
-  });
-  connect(&view, &EditingAreaView::released, this, [this](QPointF at, Qt::MouseButton button, auto modifiers) {
-    shell_.guarded("picDisp_MouseUp", [&] { shell_.drawing().tools.release(mouseInput(at, modifiers, button)); });
-  });
-  connect(&view, &EditingAreaView::left, this, [this] { shell_.drawing().tools.leave(); });
+  connectTools(view, shell_);
+  connect(room_, &EditingAreaRoom::zoomRequested, this,
+          [this](ZoomStep step) { shell_.guarded("picDisp_Zoom", [&] { shell_.zoom(step); }); });
   connect(&view, &EditingAreaView::popUpRequested, this, &frmGPEdit::popUp);
   connect(room_, &EditingAreaRoom::resized, this, &frmGPEdit::resizeRoom);
 }
@@ -271,6 +265,8 @@ void frmGPEdit::keyPressEvent(QKeyEvent* event) {
     shell_.guarded("Form_KeyDown", [this] { shell_.escapeKey(); });
   else if (event->key() == Qt::Key_Delete)
     shell_.run(*findCommand("mnuEditSub", kEraseRegion));
+  else if (const auto step = zoomStepOf(*event))
+    room_->zoom(*step);
   else
     QMainWindow::keyPressEvent(event);
 }
