@@ -14,6 +14,7 @@ namespace gp {
 namespace {
 
 constexpr int kSmallestRoom = 400;  // picDispContainer at the smallest size of the form, pixels
+constexpr int kScrollStep = 20;     // of an arrow of a scroll bar; a notch of the wheel is three of them
 constexpr QRgb kRoomOutline = 0xFF808080;
 
 }  // namespace
@@ -84,16 +85,28 @@ void EditingAreaRoom::zoomAround(ZoomStep step, const QPointF& position) {
   verticalScrollBar()->setValue(qRound(-corner.y()));
 }
 
-void EditingAreaRoom::layOut() {
+// The room that is left beside the scroll bars that are needed. It is computed, because setting one range shows a bar
+// at once and changes the viewport.
+QSize EditingAreaRoom::visibleSize() const {
   const QSize all = view_->size();
-  // With scroll bars the room for the view is smaller, so it is asked whether it fits without any.
   const QSize most = maximumViewportSize();
-  const bool fits = all.width() <= most.width() && all.height() <= most.height();
-  const QSize page = fits ? most : viewport()->size();
-  horizontalScrollBar()->setPageStep(page.width());
-  horizontalScrollBar()->setRange(0, all.width() - page.width());
-  verticalScrollBar()->setPageStep(page.height());
-  verticalScrollBar()->setRange(0, all.height() - page.height());
+  const int row = horizontalScrollBar()->sizeHint().height();
+  const int column = verticalScrollBar()->sizeHint().width();
+  const bool isWide =
+      all.width() > most.width() || (all.height() > most.height() && all.width() > most.width() - column);
+  const bool isHigh = all.height() > most.height() || (isWide && all.height() > most.height() - row);
+  return {most.width() - (isHigh ? column : 0), most.height() - (isWide ? row : 0)};
+}
+
+void EditingAreaRoom::layOut() {
+  const QSize page = visibleSize();
+  const auto set = [](QScrollBar& bar, int all, int shown) {
+    bar.setPageStep(shown);
+    bar.setSingleStep(kScrollStep);
+    bar.setRange(0, all - shown);
+  };
+  set(*horizontalScrollBar(), view_->width(), page.width());
+  set(*verticalScrollBar(), view_->height(), page.height());
   placeView();
 }
 

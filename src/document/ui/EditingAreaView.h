@@ -58,6 +58,7 @@ class EditingAreaRoom : public QAbstractScrollArea {
 
  private:
   void zoomAround(ZoomStep step, const QPointF& position);
+  QSize visibleSize() const;
   void layOut();
   void placeView();
   void scrollTo(const QRect& part);
