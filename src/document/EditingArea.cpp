@@ -72,6 +72,8 @@ void EditingArea::showSquare(int left, int top, int right, int bottom, Color col
 
 void EditingArea::ChooseMagnify(int size) { state_.gMagnification = zoom_ != 0 ? zoom_ : optionMagnification(size); }
 
+void EditingArea::chooseMagnifyOfEmpty() { state_.gMagnification = optionMagnification(kDefaultIconSize); }
+
 int EditingArea::optionMagnification(int size) const {
   const bool small = size <= kLargestSmallIcon;
   const bool enlarged = state_.options.useEnlargedEditingArea && state_.screen.dispContainerWidth >= kEnlargedRoom &&
@@ -123,7 +125,7 @@ void EditingArea::showChangedIcon() {
 }
 
 void EditingArea::showEmpty() {
-  ChooseMagnify(kDefaultIconSize);
+  chooseMagnifyOfEmpty();
   const int side = state_.gMagnification * kDefaultIconSize;
   sizePicDisp(side, side);
 }

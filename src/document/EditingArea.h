@@ -33,6 +33,8 @@ class EditingArea {
 
   // Sets gMagnification: the zoom, or else what the option gives for an icon size in the available room.
   void ChooseMagnify(int size);
+  // The same for an empty Editing Area, which is never zoomed.
+  void chooseMagnifyOfEmpty();
   // The magnification that a person has chosen for all icons, 0 for that of the option. The next ChooseMagnify() uses
   // it.
   void setZoom(int magnification) { zoom_ = magnification; }

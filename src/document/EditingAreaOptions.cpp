@@ -33,6 +33,7 @@ void EditingAreaOptions::ApplyEnlargedOption() {
 }
 
 void EditingAreaOptions::zoom(ZoomStep step) {
+  if (!state_.current().present && step != ZoomStep::ToOption) return;
   const int before = state_.gMagnification;
   editingArea_.setZoom(step == ZoomStep::ToOption ? 0 : zoomed(before, step));
   chooseMagnify();
@@ -40,7 +41,10 @@ void EditingAreaOptions::zoom(ZoomStep step) {
 }
 
 void EditingAreaOptions::chooseMagnify() {
-  editingArea_.ChooseMagnify(state_.current().present ? state_.current().size : kDefaultIconSize);
+  if (state_.current().present)
+    editingArea_.ChooseMagnify(state_.current().size);
+  else
+    editingArea_.chooseMagnifyOfEmpty();
 }
 
 void EditingAreaOptions::showAtMagnification() {

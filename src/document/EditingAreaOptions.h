@@ -18,7 +18,8 @@ class EditingAreaOptions {
   void SetGrid(int index);
   // Chooses the magnification again after the option or the room changed. Forgets the zoom.
   void ApplyEnlargedOption();
-  // Enlarges or reduces all icons, until the zoom is forgotten. Pumps messages.
+  // Enlarges or reduces all icons, until the zoom is forgotten. Pumps messages. Without an icon it can only be
+  // forgotten.
   void zoom(ZoomStep step);
   // Takes the client size of picDispContainer, in pixels, after a new layout.
   void setRoom(int width, int height);

@@ -64,9 +64,11 @@ TEST_F(ZoomTest, HoldsForEveryIconUntilItIsForgotten) {
   zoom(ZoomStep::In, 3);
   showIcon(48);
   expectMagnification(15);
+  state.current().present = false;
   area.showEmpty();
-  EXPECT_EQ(state.gMagnification, 15);
+  EXPECT_EQ(state.gMagnification, 12) << "an empty area is not zoomed";
   showIcon(48);
+  expectMagnification(15);
   zoom(ZoomStep::ToOption, 1);
   expectMagnification(8);
 }
@@ -99,11 +101,18 @@ TEST_F(ZoomTest, TheOptionForgetsIt) {
   expectMagnification(12);
 }
 
-TEST_F(ZoomTest, WithoutAnIconTheEmptyAreaIsZoomed) {
+TEST_F(ZoomTest, WithoutAnIconItCanOnlyBeForgotten) {
   options.zoom(ZoomStep::In);
-  EXPECT_EQ(state.picDisp.width(), 13 * 32);
+  showIcon(16);
+  expectMagnification(12);
+  zoom(ZoomStep::In, 4);
+  state.current().present = false;
+  options.setRoom(600, 600);
+  EXPECT_EQ(state.picDisp.width(), 15 * 32) << "the empty area follows the room";
+  options.zoom(ZoomStep::Out);
   options.zoom(ZoomStep::ToOption);
-  EXPECT_EQ(state.picDisp.width(), 12 * 32);
+  showIcon(16);
+  expectMagnification(15);
 }
 
 TEST_F(ZoomTest, AtALimitNothingIsRebuilt) {

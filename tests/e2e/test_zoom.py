@@ -1,4 +1,7 @@
 """The magnification of the Editing Area by real keys and by the wheel, and what is drawn in it."""
+from Xlib import X
+from Xlib.protocol.event import ClientMessage
+
 from test_drawing import COLOR, SIZE
 from test_keyboard_drawing import Keyboard
 
@@ -26,6 +29,17 @@ class Zoomer(Keyboard):
             self.session.xdotool('click', button)
         self.session.xdotool('keyup', 'ctrl')
         self.session.screen.settle()
+
+
+def maximise(screen):
+    """Asks the window manager to maximise the active window."""
+    add, fromProgram = 1, 1
+    states = [screen.display.intern_atom(f'_NET_WM_STATE_MAXIMIZED_{way}') for way in ('VERT', 'HORZ')]
+    window = screen.property(screen.root, '_NET_ACTIVE_WINDOW')[0]
+    message = ClientMessage(window=window, client_type=screen.display.intern_atom('_NET_WM_STATE'),
+                            data=(32, [add, *states, fromProgram, 0]))
+    screen.root.send_event(message, event_mask=X.SubstructureRedirectMask | X.SubstructureNotifyMask)
+    screen.display.flush()
 
 
 def test_keys_and_wheel_zoom_and_the_area_scrolls(session):
@@ -61,9 +75,8 @@ def test_a_maximised_window_shows_what_the_option_gives_unless_zoomed(session):
     hand.newIcon()
     hand.program.keys('ctrl+plus')
     hand.expect(NORMAL + 1)
-    window = session.screen.property(session.screen.root, '_NET_ACTIVE_WINDOW')[0]
-    session.xdotool('windowsize', window, 1200, 900)
-    hand.program.wait(lambda: hand.program.box(hand.program.mainForm())[2] == 1200, 'the larger window')
+    maximise(session.screen)
+    hand.program.wait(lambda: hand.program.box(hand.program.mainForm())[2] > 1200, 'the maximised window')
     hand.expect(NORMAL + 1)
     hand.program.keys('ctrl+0')
     hand.expect(ENLARGED)

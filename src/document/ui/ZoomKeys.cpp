@@ -1,30 +1,28 @@
 #include "document/ui/ZoomKeys.h"
 
-#include <QKeyEvent>
+#include <QShortcut>
 
-#include <algorithm>
 #include <array>
 
 namespace gp {
 namespace {
 
 struct ZoomKey {
-  int key;
+  const char* keys;
   ZoomStep step;
 };
 
-constexpr std::array<ZoomKey, 4> kZoomKeys = {{{Qt::Key_Plus, ZoomStep::In},
-                                               {Qt::Key_Equal, ZoomStep::In},
-                                               {Qt::Key_Minus, ZoomStep::Out},
-                                               {Qt::Key_0, ZoomStep::ToOption}}};
+// Many keyboards have plus with Shift, on the key of the equals sign.
+constexpr std::array<ZoomKey, 4> kZoomKeys = {
+    {{"Ctrl++", ZoomStep::In}, {"Ctrl+=", ZoomStep::In}, {"Ctrl+-", ZoomStep::Out}, {"Ctrl+0", ZoomStep::ToOption}}};
 
 }  // namespace
 
-std::optional<ZoomStep> zoomStepOf(const QKeyEvent& event) {
-  // Many keyboards have plus, and some have 0, only with Shift.
-  if ((event.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) != Qt::ControlModifier) return std::nullopt;
-  const auto* const found = std::ranges::find(kZoomKeys, event.key(), &ZoomKey::key);
-  return found == kZoomKeys.end() ? std::nullopt : std::optional(found->step);
+void addZoomKeys(QWidget* window, const std::function<void(ZoomStep)>& zoom) {
+  for (const ZoomKey& key : kZoomKeys) {
+    auto* shortcut = new QShortcut(QKeySequence(QString(key.keys)), window);
+    QObject::connect(shortcut, &QShortcut::activated, window, [zoom, step = key.step] { zoom(step); });
+  }
 }
 
 }  // namespace gp

@@ -3,13 +3,13 @@
 
 #include "document/Zoom.h"
 
-#include <optional>
+#include <functional>
 
-class QKeyEvent;
+class QWidget;
 
 namespace gp {
 
-// Returns the step of a key, nothing for any other key.
-std::optional<ZoomStep> zoomStepOf(const QKeyEvent& event);
+// Calls `zoom` at each of the keys, whichever control of the window has the focus, for as long as the window lives.
+void addZoomKeys(QWidget* window, const std::function<void(ZoomStep)>& zoom);
 
 }  // namespace gp

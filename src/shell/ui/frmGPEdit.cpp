@@ -129,6 +129,7 @@ void frmGPEdit::connectEditingArea() {
            toText(shell_.drawing().tools.pixelText(pixel.x(), pixel.y()));
   });
   connectTools(view, shell_);
+  addZoomKeys(this, [this](ZoomStep step) { room_->zoom(step); });
   connect(room_, &EditingAreaRoom::zoomRequested, this,
           [this](ZoomStep step) { shell_.guarded("picDisp_Zoom", [&] { shell_.zoom(step); }); });
   connect(&view, &EditingAreaView::popUpRequested, this, &frmGPEdit::popUp);
@@ -265,8 +266,6 @@ void frmGPEdit::keyPressEvent(QKeyEvent* event) {
     shell_.guarded("Form_KeyDown", [this] { shell_.escapeKey(); });
   else if (event->key() == Qt::Key_Delete)
     shell_.run(*findCommand("mnuEditSub", kEraseRegion));
-  else if (const auto step = zoomStepOf(*event))
-    room_->zoom(*step);
   else
     QMainWindow::keyPressEvent(event);
 }
