@@ -20,10 +20,11 @@ class EditingAreaZoomTest : public test::FormFixture {
   void keys(int code, int times, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
     for (int i = 0; i < times; ++i) key(code, modifiers);
   }
-  void wheel(const QPoint& onView, int turn, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
-    QWheelEvent event(onView, view()->mapToGlobal(onView), {}, {0, turn}, Qt::NoButton, modifiers, Qt::NoScrollPhase,
+  // At a position of the viewport, which gets the wheel also from the view.
+  void wheel(const QPoint& at, int turn, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
+    QWheelEvent event(at, viewport()->mapToGlobal(at), {}, {0, turn}, Qt::NoButton, modifiers, Qt::NoScrollPhase,
                       false);
-    QApplication::sendEvent(view(), &event);
+    QApplication::sendEvent(viewport(), &event);
     settle();
   }
   // The cell of an icon pixel, in the viewport.
@@ -145,17 +146,17 @@ TEST_F(EditingAreaZoomTest, TheWheelWithCtrlKeepsThePixelUnderTheMouse) {
     const QPoint onView = view()->mapFrom(viewport(), place);
     return QPoint(onView.x() / state.gMagnification, onView.y() / state.gMagnification);
   };
-  wheel(view()->mapFrom(viewport(), at), kNotch);
+  wheel(at, kNotch);
   expectZoom(9);
-  for (int i = 0; i < 10; ++i) wheel(view()->mapFrom(viewport(), at), kNotch);
+  for (int i = 0; i < 10; ++i) wheel(at, kNotch);
   const QPoint pixel = pixelAt(at);
   for (int i = 0; i < 9; ++i) {
-    wheel(view()->mapFrom(viewport(), at), kNotch);
+    wheel(at, kNotch);
     EXPECT_EQ(pixelAt(at), pixel) << state.gMagnification;
   }
   expectZoom(40);
   for (int i = 0; i < 9; ++i) {
-    wheel(view()->mapFrom(viewport(), at), -kNotch);
+    wheel(at, -kNotch);
     EXPECT_EQ(pixelAt(at), pixel) << state.gMagnification;
   }
 }
@@ -168,9 +169,7 @@ TEST_F(EditingAreaZoomTest, PartsOfANotchAddUpAndTheWheelAloneScrolls) {
   expectZoom(13);
   keys(Qt::Key_Plus, 40);
   room()->verticalScrollBar()->setValue(0);
-  QWheelEvent alone({5, 5}, view()->mapToGlobal(QPoint(5, 5)), {}, {0, -kNotch}, Qt::NoButton, {}, Qt::NoScrollPhase,
-                    false);
-  QCoreApplication::sendEvent(viewport(), &alone);
+  wheel({5, 5}, -kNotch, {});
   expectZoom(40);
   EXPECT_EQ(room()->verticalScrollBar()->value(), 60);
 }

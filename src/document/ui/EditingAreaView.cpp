@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QWheelEvent>
 
 namespace gp {
 namespace {
@@ -53,8 +54,6 @@ EditingAreaRoom::EditingAreaRoom(QWidget* parent, const EditState& state)
   horizontalScrollBar()->setAccessibleName("Scroll Editing Area horizontally");
   verticalScrollBar()->setAccessibleName("Scroll Editing Area vertically");
   connect(view_, &EditingAreaView::workedAt, this, &EditingAreaRoom::scrollTo);
-  connect(view_, &EditingAreaView::zoomRequested, this,
-          [this](bool in, QPointF position) { zoomAround(in ? ZoomStep::In : ZoomStep::Out, position); });
 }
 
 void EditingAreaRoom::refresh() {
@@ -127,6 +126,15 @@ void EditingAreaRoom::scrollTo(const QRect& part) {
   };
   bring(*horizontalScrollBar(), part.left(), part.left() + part.width());
   bring(*verticalScrollBar(), part.top(), part.top() + part.height());
+}
+
+void EditingAreaRoom::wheelEvent(QWheelEvent* event) {
+  if (!(event->modifiers() & Qt::ControlModifier)) return QAbstractScrollArea::wheelEvent(event);
+  constexpr int kNotch = QWheelEvent::DefaultDeltasPerStep;
+  const auto zoomAtMouse = [&](ZoomStep step) { zoomAround(step, event->position() - view_->pos()); };
+  wheelTurn_ += event->angleDelta().y();
+  for (; wheelTurn_ >= kNotch; wheelTurn_ -= kNotch) zoomAtMouse(ZoomStep::In);
+  for (; wheelTurn_ <= -kNotch; wheelTurn_ += kNotch) zoomAtMouse(ZoomStep::Out);
 }
 
 void EditingAreaRoom::scrollContentsBy(int, int) { placeView(); }

@@ -34,7 +34,8 @@ class EditingAreaView : public MagnifiedView {
   const EditState& state_;
 };
 
-// picDispContainer: keeps the Editing Area in its middle, with scroll bars only while it does not fit.
+// picDispContainer: keeps the Editing Area in its middle, with scroll bars only while it does not fit. The wheel
+// scrolls, and with Ctrl it asks for a zoom.
 class EditingAreaRoom : public QAbstractScrollArea {
   Q_OBJECT
 
@@ -55,6 +56,7 @@ class EditingAreaRoom : public QAbstractScrollArea {
   void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
+  void wheelEvent(QWheelEvent* event) override;
 
  private:
   void zoomAround(ZoomStep step, const QPointF& position);
@@ -65,6 +67,7 @@ class EditingAreaRoom : public QAbstractScrollArea {
   QPointF positionToKeep() const;
 
   EditingAreaView* view_;
+  int wheelTurn_ = 0;  // with Ctrl, less than a notch
 };
 
 }  // namespace gp

@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
-#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -150,18 +149,6 @@ void MagnifiedView::mouseReleaseEvent(QMouseEvent* event) {
 
 void MagnifiedView::leaveEvent(QEvent*) {
   if (!isHeldByKey()) emit left();
-}
-
-void MagnifiedView::wheelEvent(QWheelEvent* event) {
-  if (!(event->modifiers() & Qt::ControlModifier)) {
-    event->ignore();
-    return;
-  }
-  wheelTurn_ += event->angleDelta().y();
-  for (; wheelTurn_ >= QWheelEvent::DefaultDeltasPerStep; wheelTurn_ -= QWheelEvent::DefaultDeltasPerStep)
-    emit zoomRequested(true, event->position());
-  for (; wheelTurn_ <= -QWheelEvent::DefaultDeltasPerStep; wheelTurn_ += QWheelEvent::DefaultDeltasPerStep)
-    emit zoomRequested(false, event->position());
 }
 
 void MagnifiedView::keyPressEvent(QKeyEvent* event) {

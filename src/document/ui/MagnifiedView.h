@@ -62,8 +62,6 @@ class MagnifiedView : public QWidget, public AccessibleValue {
   void left();
   // Shift with an arrow key, in icon pixels; the step can be longer than any icon.
   void sizeRequested(QPoint step);
-  // Ctrl with the wheel, by one notch, at a position in the view's own pixels.
-  void zoomRequested(bool in, QPointF position);
   // The pixel cursor or a held mouse moved there, in the view's own pixels.
   void workedAt(QRect part);
 
@@ -80,7 +78,6 @@ class MagnifiedView : public QWidget, public AccessibleValue {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
   void leaveEvent(QEvent* event) override;
-  void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
@@ -111,7 +108,6 @@ class MagnifiedView : public QWidget, public AccessibleValue {
   std::function<bool()> isHeld_;
   bool heldByKey_ = false;               // Space pressed and has not released
   Qt::KeyboardModifiers heldModifiers_;  // of that press
-  int wheelTurn_ = 0;                    // less than a notch
 };
 
 }  // namespace gp
