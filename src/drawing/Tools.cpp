@@ -66,7 +66,8 @@ void Tools::press(const MouseInput& mouse) {
 }
 
 void Tools::move(const MouseInput& mouse) {
-  context_.pump.pump();
+  // Every key counts, so that the next one must not overtake it. Of the mouse only the last position does.
+  if (!mouse.byKeyboard) context_.pump.pump();
   if (!state_.current().present) return;
   const Surface& disp = state_.picDisp;
   if (mouse.x < 0 || mouse.y < 0 || mouse.x > static_cast<float>(disp.width() - 1) ||

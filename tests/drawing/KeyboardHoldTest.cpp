@@ -83,6 +83,16 @@ TEST_F(KeyboardHoldTest, AShapeThatIsGivenUpLeavesNothing) {
   }
 }
 
+TEST_F(KeyboardHoldTest, NoKeyOvertakesTheOneBefore) {
+  tools.selectTool(kRectangle);
+  tools.press(key(2, 2));
+  pump.inside = [this] { tools.move(key(9, 9)); };
+  tools.move(key(4, 3));
+  pump.inside = nullptr;
+  EXPECT_EQ(size(), "3 x 2");
+  EXPECT_EQ(readout(Readout::Position), "X=5  Y=4");
+}
+
 TEST_F(KeyboardHoldTest, AnotherToolEndsTheHold) {
   tools.selectTool(kLine);
   tools.press(key(2, 3));

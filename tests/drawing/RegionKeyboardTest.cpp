@@ -214,7 +214,13 @@ TEST_P(RegionByKeyboard, SizingAPastedRegionMergesItAsAStep) {
   EXPECT_TRUE(state.mRegionExists);
   EXPECT_EQ(content(), (Rows{"aac"}));
   EXPECT_EQ(icon(), (Rows{"aacc", "abcc"}));
-  EXPECT_TRUE(history.canUndo());
+  EXPECT_EQ(history.undoCount(), 2);
+  pressKey(0, 0);
+  moveKey(0, 4);
+  releaseKey(0, 4);
+  EXPECT_EQ(icon(), (Rows{"...c", "abcc", "", "", "aac"}));
+  undo.doUndo();
+  EXPECT_EQ(icon(), (Rows{"aacc", "abcc"}));
   undo.doUndo();
   EXPECT_EQ(icon(), (Rows{"cccc", "cccc"}));
 }

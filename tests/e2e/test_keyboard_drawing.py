@@ -34,8 +34,9 @@ class Hand:
         self.program.typeInto('Color value', text, becomes=text.upper())
         self.session.keys('Return')
 
-    def read(self, name):
-        return self.program.value(name, role='label')
+    def expect(self, name, text):
+        """Waits for the text of a readout."""
+        self.program.wait(lambda: self.program.value(name, role='label') == text, f'{text!r} in {name}')
 
     def save(self, name):
         path = self.session.path(name)
@@ -213,9 +214,9 @@ def test_esc_and_the_loss_of_the_focus_give_up_what_is_held(session):
     session.keys('space')
     hand.goTo(20, 20)
     session.keys('Escape')
-    assert hand.read('Region') == 'Region: Start [3, 3]   W=3 H=3'
+    hand.expect('Region', 'Region: Start [3, 3]   W=3 H=3')
     session.keys('Escape')
-    assert hand.read('Region') == ''
+    hand.expect('Region', '')
     assert hand.save('again.ico') == drawn
 
 
@@ -227,10 +228,10 @@ def test_the_readout_has_the_size_of_what_is_drawn(session):
         hand.goTo(4, 6)
         session.keys('space')
         hand.goTo(15, 7)
-        assert hand.read('Size') == '12 x 2', tool
-        assert hand.read('Position') == 'X=16  Y=8', tool
+        hand.expect('Size', '12 x 2')
+        hand.expect('Position', 'X=16  Y=8')
         session.keys('Return')
-        assert hand.read('Size') == '', tool
-    assert hand.read('Region') == 'Region: Start [5, 7]   W=12 H=2'
+        hand.expect('Size', '')
+    hand.expect('Region', 'Region: Start [5, 7]   W=12 H=2')
     session.keys('shift+Down', 'shift+Left', 'shift+Left')
-    assert hand.read('Region') == 'Region: Start [5, 7]   W=10 H=3'
+    hand.expect('Region', 'Region: Start [5, 7]   W=10 H=3')

@@ -16,7 +16,7 @@ class Zoomer(Keyboard):
     def magnification(self):
         return self.program.box(self.program.need('Editing Area'))[2] // SIZE
 
-    def expect(self, magnification):
+    def expectMagnification(self, magnification):
         self.program.wait(lambda: self.magnification() == magnification, f'{magnification} pixels per icon pixel')
 
     def hasScrollBars(self):
@@ -45,26 +45,26 @@ def maximise(screen):
 def test_keys_and_wheel_zoom_and_the_area_scrolls(session):
     hand = Zoomer(session)
     hand.newIcon()
-    hand.expect(NORMAL)
+    hand.expectMagnification(NORMAL)
     assert not hand.hasScrollBars()
     hand.program.keys('ctrl+plus', 'ctrl+equal', 'ctrl+KP_Add')
-    hand.expect(NORMAL + 3)
+    hand.expectMagnification(NORMAL + 3)
     hand.program.keys(*['ctrl+plus'] * 20)
-    hand.expect(MOST)
+    hand.expectMagnification(MOST)
     assert hand.hasScrollBars()
     before = hand.program.box(hand.program.need('Editing Area'))
     session.move(hand.artist.middle(10, 10))
     session.xdotool('click', WHEEL_DOWN)
     hand.program.wait(lambda: hand.program.box(hand.program.need('Editing Area'))[1] < before[1], 'the wheel to scroll')
     hand.program.keys(*['ctrl+minus'] * 30)
-    hand.expect(LEAST)
+    hand.expectMagnification(LEAST)
     assert not hand.hasScrollBars()
     hand.program.keys('ctrl+0')
-    hand.expect(NORMAL)
+    hand.expectMagnification(NORMAL)
     hand.turn(hand.artist.middle(10, 10), WHEEL_UP, 5)
-    hand.expect(18)
+    hand.expectMagnification(18)
     hand.turn(hand.artist.middle(10, 10), WHEEL_DOWN, 2)
-    hand.expect(15)
+    hand.expectMagnification(15)
     hand.program.menu('File', 'New Icon 16x16')
     hand.program.wait(lambda: hand.program.value('Status 3') == '16 x 16', 'the other icon')
     hand.program.wait(lambda: hand.program.box(hand.program.need('Editing Area'))[2] == 16 * 15, 'the zoom of all icons')
@@ -74,14 +74,14 @@ def test_a_maximised_window_shows_what_the_option_gives_unless_zoomed(session):
     hand = Zoomer(session)
     hand.newIcon()
     hand.program.keys('ctrl+plus')
-    hand.expect(NORMAL + 1)
+    hand.expectMagnification(NORMAL + 1)
     maximise(session.screen)
     hand.program.wait(lambda: hand.program.box(hand.program.mainForm())[2] > 1200, 'the maximised window')
-    hand.expect(NORMAL + 1)
+    hand.expectMagnification(NORMAL + 1)
     hand.program.keys('ctrl+0')
-    hand.expect(ENLARGED)
+    hand.expectMagnification(ENLARGED)
     hand.program.command('ctrl+w')
-    hand.expect(NORMAL)
+    hand.expectMagnification(NORMAL)
 
 
 def test_what_is_drawn_in_a_zoomed_and_scrolled_area_is_what_is_drawn_without(session):
@@ -115,11 +115,11 @@ def test_the_mouse_draws_in_a_scrolled_area(session):
     hand.choose('Paint')
     hand.goTo(31, 31)
     hand.program.keys(*['ctrl+plus'] * 20)
-    hand.expect(MOST)
+    hand.expectMagnification(MOST)
     left, top, _, _ = hand.program.box(hand.program.need('Editing Area'))
     session.click((left + 28 * MOST + 3, top + 30 * MOST + 38))
     hand.program.keys('ctrl+0')
-    hand.expect(NORMAL)
+    hand.expectMagnification(NORMAL)
     hand.artist.findEditingArea()
     hand.program.wait(lambda: session.colorAt(hand.artist.middle(28, 30)) == COLOR['red'], 'the pixel under the mouse')
     assert sum(color == COLOR['red'] for row in hand.artist.shown() for color in row) == 1
