@@ -4,12 +4,17 @@ enable_language(ASM)
 
 set(GP_PICTURE_TEMPLATE ${CMAKE_CURRENT_LIST_DIR}/PictureSheets.S.in)
 
-# gp_embed_pictures(target): adds the sheets of resources/pictures and resources/app to the target.
+# gp_embed_pictures(target): adds the sheets of resources/pictures, resources/boxes and resources/app to the target.
 function(gp_embed_pictures target)
   if(NOT TARGET rasterize)
     add_subdirectory(${CMAKE_SOURCE_DIR}/tools/rasterize ${CMAKE_BINARY_DIR}/tools/rasterize)
   endif()
   file(GLOB drawings CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/resources/pictures/*.svg)
+  file(GLOB boxes CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/resources/boxes/*.svg)
+  set(box_sizes "")
+  foreach(box ${boxes})
+    list(APPEND box_sizes ${box}:40)
+  endforeach()
   set(logo ${CMAKE_SOURCE_DIR}/resources/app/logo.svg)
   set(program ${CMAKE_SOURCE_DIR}/resources/app/glimmerpane.svg)
 
@@ -21,8 +26,8 @@ function(gp_embed_pictures target)
   endforeach()
   add_custom_command(
     OUTPUT ${sheets}
-    COMMAND rasterize ${GP_SHEET_DIR} ${drawings} ${logo}:64 ${program}:16,32,48,64
-    DEPENDS rasterize ${drawings} ${logo} ${program}
+    COMMAND rasterize ${GP_SHEET_DIR} ${drawings} ${box_sizes} ${logo}:64 ${program}:16,32,48,64
+    DEPENDS rasterize ${drawings} ${boxes} ${logo} ${program}
     COMMENT "Rasterising pictures"
     VERBATIM)
 

@@ -2,6 +2,7 @@
 
 #include "colour/ColorMixer.h"
 #include "document/Editor.h"
+#include "platform/dialogs/StartFolder.h"
 #include "platform/dialogs/clsGPDialog.h"
 #include "platform/files/BitmapFile.h"
 #include "platform/ports/MessageBoxes.h"
@@ -71,7 +72,7 @@ void PaletteFile::imgSavePalette() {
   prepareDialog();
   SaveOptions options;
   options.filter = kSaveFilter;
-  options.initialFolder = folder_;
+  options.initialFolder = existingStartFolder(context_.boxes, folder_);
   options.defaultExtension = kExtension;
   const std::string path = dialog_.ShowSave(options);
   if (path.empty() || writeBitmap(mixer_.picMixGradient(), path)) return;

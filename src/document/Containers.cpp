@@ -7,6 +7,8 @@ namespace gp {
 
 namespace {
 
+constexpr const char* kEmptyName = "empty";
+
 AlphaMatrix& currentAlphaRec(EditState& state) {
   return state.mAlphaRecs.at(static_cast<std::size_t>(state.mCurContainer));
 }
@@ -41,6 +43,14 @@ IconContainerRec NewRecord() {
   record.present = true;
   record.path = "Untitled";
   return record;
+}
+
+std::string nameOf(const IconContainerRec& record) {
+  const std::string path = record.path.trimmed();
+  if (!record.used || path.empty()) return kEmptyName;
+  // Below a root, the other separator is a letter of a name.
+  const std::size_t folder = path.find_last_of(path.front() == '/' ? "/" : "/\\");
+  return folder == std::string::npos ? path : path.substr(folder + 1);
 }
 
 void SetRecord(EditState& state, int container, const IconImage& icon, const IconContainerRec& record) {

@@ -4,6 +4,8 @@
 
 #include "document/IconContainerRec.h"
 
+#include <string>
+
 namespace gp {
 
 struct EditState;
@@ -14,6 +16,9 @@ struct IconImage;
 void ClearContainer(EditState& state);
 // Returns the record of a new, unsaved icon. SetRecord sets its size.
 IconContainerRec NewRecord();
+// Returns the name that users know a container's icon by: of its file without the folder, "Untitled" for a new icon,
+// "empty" for a container without one.
+std::string nameOf(const IconContainerRec& record);
 // Sets a container's record and alpha values for an icon it receives. The record keeps its number; `used` and `size`
 // are set here. An icon described as one with alpha, but without a value for each pixel, becomes one of 24 bits.
 void SetRecord(EditState& state, int container, const IconImage& icon, const IconContainerRec& record);

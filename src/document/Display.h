@@ -2,6 +2,8 @@
 // the state of their subsystem again.
 #pragma once
 
+#include <string>
+
 namespace gp {
 
 enum class DisplayPart {
@@ -31,6 +33,9 @@ class Display {
   virtual void nudgeMousePointer() = 0;
   // The input focus goes to txbDirectEntryColorValue.
   virtual void focusColorValue() = 0;
+  // Shows a short text for some seconds and has it spoken: what a command has done, or why it cannot run, where neither
+  // a message box nor the control with the focus says so.
+  virtual void announce(const std::string& text) = 0;
 };
 
 }  // namespace gp

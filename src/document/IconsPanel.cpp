@@ -1,6 +1,7 @@
 #include "document/IconsPanel.h"
 
 #include "document/AlphaIndicator.h"
+#include "document/Announcements.h"
 #include "document/Containers.h"
 #include "document/CurrentIconGuard.h"
 #include "document/Display.h"
@@ -62,8 +63,8 @@ void IconsPanel::SwitchContainer(int container) {
   state_.mCurContainer = container;
   context_.display.changed(DisplayPart::IconsPanel);
   // The Icons List only selects the container; its icon is shown later.
-  if (screen.mActivePanel == kIconsListPanel) return;
-  showCurrentContainer();
+  if (screen.mActivePanel != kIconsListPanel) showCurrentContainer();
+  context_.display.announce(news::container(state_.mCurContainer, nameOf(state_.current())));
 }
 
 void IconsPanel::showCurrentContainer() {

@@ -1,6 +1,8 @@
 #include "drawing/ClipboardCommands.h"
 
+#include "document/Announcements.h"
 #include "document/Containers.h"
+#include "document/Display.h"
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
@@ -48,7 +50,7 @@ void ClipboardCommands::doCutRegion(bool copyFirst) {
   }
   regions_.finishDrag();
   if (state_.screen.mActivePanel != kColorPanel) context_.editor.showPanel(kColorPanel);
-  if (copyFirst) doCopyRegion();
+  if (copyFirst) copy();
   const bool pasted = regions_.isPasted();
   // What the region has changed is a step before the cut. A pasted picture that is cut again is no step.
   if (!pasted) history_.recordOpenStep();
@@ -63,6 +65,7 @@ void ClipboardCommands::doCutRegion(bool copyFirst) {
     history_.recordOpenStep();
   else
     history_.recordUndo();
+  context_.display.announce(copyFirst ? news::kCutAndCopied : news::kErased);
 }
 
 void ClipboardCommands::cutContent() {
@@ -79,6 +82,11 @@ void ClipboardCommands::cutContent() {
 // Copy.
 
 void ClipboardCommands::doCopyRegion() {
+  copy();
+  context_.display.announce(news::kCopied);
+}
+
+void ClipboardCommands::copy() {
   clipboard_.clear();
   if (regions_.exists()) {
     regions_.finishDrag();
@@ -105,6 +113,7 @@ Surface ClipboardCommands::pictureOfRegion() const {
 void ClipboardCommands::clearClipboard() {
   clipboard_.clear();
   context_.editor.UpdateCommands();
+  context_.display.announce(news::kClipboardCleared);
 }
 
 // Paste.
@@ -167,6 +176,7 @@ void ClipboardCommands::showPasted(const Surface& picture, bool opaque) {
   tools_.clearAllTools();
   tools_.selectTool(kRegion);
   regions_.placePicture(picture, opaque);
+  context_.display.announce(news::kPasted);
 }
 
 }  // namespace gp

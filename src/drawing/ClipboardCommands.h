@@ -33,6 +33,7 @@ class ClipboardCommands {
   void clearClipboard();
 
  private:
+  void copy();
   void cutContent();
   Surface pictureOfRegion() const;
   bool startHistory();

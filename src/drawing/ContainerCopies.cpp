@@ -1,7 +1,9 @@
 #include "drawing/ContainerCopies.h"
 
+#include "document/Announcements.h"
 #include "document/Containers.h"
 #include "document/CurrentIconGuard.h"
+#include "document/Display.h"
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
@@ -51,6 +53,7 @@ void ContainerCopies::mnuEditSubCopyToContainer(int target) {
   regions_.finishDrag();
   document_.arrival.fillContainer(target, {state_.picImage, state_.picMask, {}}, copyOf(state_.current()));
   context_.editor.UpdateCommands();
+  context_.display.announce(news::kCopied);
 }
 
 bool ContainerCopies::mayCopyFrom(int source) {
@@ -67,6 +70,7 @@ void ContainerCopies::mnuEditSubCopyFromContainer(int source) {
   const auto from = static_cast<std::size_t>(source);
   const IconImage icon{state_.picPanelImage.at(from), state_.picPanelMask.at(from), {}};
   document_.arrival.arrive(icon, copyOf(state_.mIconRecs.at(from)));
+  context_.display.announce(news::kCopied);
 }
 
 void ContainerCopies::doClearContainer() {

@@ -86,6 +86,7 @@ void Regions::sizeBy(int dx, int dy) {
   liftRegion(true);
   wipeRegionBox();
   drawRegionBox();
+  announceSize();
   context_.editor.UpdateCommands();
 }
 

@@ -1,6 +1,7 @@
 // The phases of a region: what each event does in each of them.
 #include "drawing/Regions.h"
 
+#include "document/Announcements.h"
 #include "document/Display.h"
 #include "document/EditState.h"
 #include "document/EditingArea.h"
@@ -128,6 +129,11 @@ void Regions::finishBox() {
   enter(RegionPhase::Standing);
   outlineBox(true);
   repaintBox();
+  announceSize();
+}
+
+void Regions::announceSize() {
+  context_.display.announce(news::region(content_.image.width(), content_.image.height()));
 }
 
 // Moving a side.
@@ -157,6 +163,7 @@ void Regions::finishEdge() {
   liftRegion(true);
   wipeRegionBox();
   drawRegionBox();
+  announceSize();
 }
 
 // Moving the region.

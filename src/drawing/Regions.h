@@ -118,6 +118,7 @@ class Regions {
   void beginBox(const Point& corner);
   void extendBox(const Point& corner, int modifiers);
   void finishBox();
+  void announceSize();
   void pullEdge(double x, double y);
   void moveEdge(double x, double y);
   void finishEdge();

@@ -1,5 +1,6 @@
 #include "drawing/RotatePanel.h"
 
+#include "document/Announcements.h"
 #include "document/Display.h"
 #include "document/EditState.h"
 #include "document/EditingArea.h"
@@ -98,6 +99,7 @@ void RotatePanel::doRotateProceed() {
   rotateIcon();
   context_.editor.closePanels();
   // Recording processes events, so it is the last step: the Panel must be closed by then.
+  context_.display.announce(news::kApplied);
   history_.recordUndo();
 }
 

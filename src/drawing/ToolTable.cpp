@@ -27,6 +27,12 @@ const ToolRow& toolRow(int index) {
   return toolTable()[static_cast<std::size_t>(index - kFirstTool)];
 }
 
+std::string toolHint(int index) {
+  const std::string tooltip = toolRow(index).tooltip;
+  const std::size_t bracket = tooltip.find(" (");
+  return bracket == std::string::npos ? "" : tooltip.substr(bracket + 2, tooltip.rfind(')') - bracket - 2);
+}
+
 std::string toolName(int index) {
   const std::string tooltip = toolRow(index).tooltip;
   return tooltip.substr(0, tooltip.find(" ("));

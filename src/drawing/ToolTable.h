@@ -19,6 +19,9 @@ inline constexpr Tool kLastTool = kShift;
 const std::array<ToolRow, 12>& toolTable();
 // Throws std::out_of_range for an index without a tool.
 const ToolRow& toolRow(int index);
+inline constexpr const char* kColorPickerName = "Color Picker";
+// Returns what a tool's tooltip says in brackets: what the Shift key does, or how it paints. Empty for some.
+std::string toolHint(int index);
 // Returns a tool's tooltip up to its first bracket: the name that users know.
 std::string toolName(int index);
 

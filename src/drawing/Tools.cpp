@@ -1,6 +1,7 @@
 #include "drawing/Tools.h"
 
 #include "colour/ColorSelection.h"
+#include "document/Announcements.h"
 #include "document/Display.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
@@ -199,16 +200,27 @@ void Tools::toolsChanged() {
 void Tools::selectFromMenu(int tool) {
   selectTool(toolRow(tool).index);
   display_.nudgeMousePointer();
+  announceTool();
 }
 
 void Tools::pickColorFromMenu() {
   colors_.imgColorPicker();
   display_.nudgeMousePointer();
+  announceTool();
 }
 
 void Tools::clearFromMenu() {
   imgClearAllTools();
   display_.nudgeMousePointer();
+  announceTool();
+}
+
+// Keys change the tool away from the keyboard focus.
+void Tools::announceTool() {
+  if (colors_.isPickerSelected())
+    display_.announce(kColorPickerName);
+  else
+    display_.announce(selected_ == kNoTool ? news::kNoTool : toolName(selected_));
 }
 
 void Tools::clearAllTools() {

@@ -87,6 +87,7 @@ class Tools {
   int pointerAt(float x, float y) const;
   void updateEditingPointer(float x, float y);
   void deselect();
+  void announceTool();
   void toolsChanged();
 
   Context context_;

@@ -1,5 +1,7 @@
 #include "drawing/UndoCommands.h"
 
+#include "document/Announcements.h"
+#include "document/Display.h"
 #include "document/EditingArea.h"
 #include "document/Editor.h"
 #include "drawing/Regions.h"
@@ -19,23 +21,29 @@ void UndoCommands::endToolAction() {
   regions_.clearRegion();
 }
 
-void UndoCommands::restore(UndoMode mode) {
+void UndoCommands::restore(UndoMode mode, const char* news) {
   if (!history_.canUndo()) return;
   context_.editor.closePanels();
   endToolAction();
-  if (history_.restoreUndo(mode)) editingArea_.MagnifyIcon();
+  if (!history_.restoreUndo(mode)) return;
+  editingArea_.MagnifyIcon();
+  context_.display.announce(news);
 }
 
 // A shift is undone as a whole, not step by step: the history started again when Shift was turned on.
-void UndoCommands::doUndo() { restore(tools_.selectedTool() == kShift ? UndoMode::Baseline : UndoMode::OneStep); }
+void UndoCommands::doUndo() {
+  restore(tools_.selectedTool() == kShift ? UndoMode::Baseline : UndoMode::OneStep, news::kUndone);
+}
 
-void UndoCommands::doUndoAll() { restore(UndoMode::Baseline); }
+void UndoCommands::doUndoAll() { restore(UndoMode::Baseline, news::kAllUndone); }
 
 void UndoCommands::doRedo() {
   if (!history_.canRedo()) return;
   context_.editor.closePanels();
   endToolAction();
-  if (history_.restoreRedo()) editingArea_.MagnifyIcon();
+  if (!history_.restoreRedo()) return;
+  editingArea_.MagnifyIcon();
+  context_.display.announce(news::kRedone);
 }
 
 }  // namespace gp

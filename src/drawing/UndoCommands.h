@@ -23,7 +23,7 @@ class UndoCommands {
 
  private:
   void endToolAction();
-  void restore(UndoMode mode);
+  void restore(UndoMode mode, const char* news);
 
   Context context_;
   EditingArea& editingArea_;

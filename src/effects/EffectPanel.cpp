@@ -1,5 +1,6 @@
 #include "effects/EffectPanel.h"
 
+#include "document/Announcements.h"
 #include "document/Compositing.h"
 #include "document/Display.h"
 #include "document/Document.h"
@@ -37,6 +38,7 @@ void EffectPanel::proceed() {
     frame_.document().iconsPanel.EndToolAction();
     frame_.applyTemps(apply(frame_.currentIcon()));
   }
+  frame_.context().display.announce(news::kApplied);
   // Recording pumps messages, so it comes after the panel is closed.
   if (!isStep()) frame_.history().clearUndoHistory();
   frame_.history().recordUndo();

@@ -2,6 +2,7 @@
 
 #include "document/CurrentIconGuard.h"
 #include "document/ProcessValues.h"
+#include "platform/dialogs/StartFolder.h"
 #include "platform/dialogs/clsGPDialog.h"
 #include "platform/text/Paths.h"
 
@@ -31,7 +32,7 @@ std::string askToSave(FilesContext& context, const std::string& proposedName, co
   options.filter = filter;
   options.defaultExtension = extension;
   options.overwritePrompt = question == OverwriteQuestion::ByDialog;
-  options.initialFolder = folder.empty() ? context.process.mLastFolder : folder;
+  options.initialFolder = existingStartFolder(context.boxes, folder.empty() ? context.process.mLastFolder : folder);
   return remembered(context, context.dialog.ShowSave(options));
 }
 

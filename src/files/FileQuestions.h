@@ -1,5 +1,5 @@
 // The file dialogs of the commands on icon files. They start in the folder of the last dialog unless the caller states
-// one, and store the folder that was used.
+// one, and store the folder that was used. A dialog that saves first reports that its folder is gone.
 #pragma once
 
 #include "files/FilesContext.h"

@@ -6,6 +6,9 @@
 #include "platform/ports/Clipboard.h"
 #include "shell/Shell.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace gp::needs {
 
 namespace {
@@ -60,6 +63,30 @@ const char* otherContainer(const Shell& shell, int index) {
 const char* otherUsedContainer(const Shell& shell, int index) {
   if (!shell.state().mIconRecs.at(static_cast<std::size_t>(index)).used) return "Cannot copy from empty container";
   return quietly(index != shell.state().mCurContainer);
+}
+
+const char* reasonWithoutBox(Need need) {
+  struct Reason {
+    Need need;
+    const char* text;
+  };
+  static constexpr Reason kReasons[] = {
+      {iconQuietly, kNoIconYet},
+      {multiIconFile, "Icon is not from a multi-icon file"},
+      {singleIconFile, "Icon is from a multi-icon file"},
+      {alpha, "Icon has no alpha channel"},
+      {cursor, "Icon is not from a cursor"},
+      {discrepancy, "Headers agree"},
+      {colorPicker, "Only with the 256-color palette"},
+      {region, "No region"},
+      {noRegion, "Not while there is a region"},
+      {undoStep, "Nothing to undo"},
+      {redoStep, "Nothing to redo"},
+      {clipboardPicture, "Not while the Icons List is open"},
+      {otherUsedContainer, "This is the current container"},
+  };
+  const auto* row = std::ranges::find(kReasons, need, &Reason::need);
+  return row == std::end(kReasons) ? "Not available" : row->text;
 }
 
 }  // namespace gp::needs

@@ -1,5 +1,5 @@
 // The needs of commands, one function for each kind. Each returns null when the need is met, otherwise the message that
-// explains it, empty for no message. Menus and toolbar disable a command whose need is not met.
+// explains it, empty for no message box. Menus and toolbar disable a command whose need is not met.
 #pragma once
 
 namespace gp {
@@ -25,6 +25,10 @@ const char* redoStep(const Shell& shell, int index);
 const char* clipboardPicture(const Shell& shell, int index);
 const char* otherContainer(const Shell& shell, int index);
 const char* otherUsedContainer(const Shell& shell, int index);
+
+using Need = const char* (*)(const Shell& shell, int index);
+// Returns what is announced when a need is not met and has no message box.
+const char* reasonWithoutBox(Need need);
 
 }  // namespace needs
 }  // namespace gp

@@ -59,4 +59,9 @@ std::string captionOf(const Command& command, const Shell& shell) {
   return history->caption(command.index);
 }
 
+std::string historyPathOf(const Command& command, const Shell& shell) {
+  const History* history = historyOf(command, shell);
+  return history ? history->path(command.index) : std::string();
+}
+
 }  // namespace gp

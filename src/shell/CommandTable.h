@@ -59,5 +59,7 @@ bool isEnabled(const Command& command, const Shell& shell);
 bool isChecked(const Command& command, const Shell& shell);
 bool isVisible(const Command& command, const Shell& shell);
 std::string captionOf(const Command& command, const Shell& shell);
+// Returns the path of a history entry; empty for other commands.
+std::string historyPathOf(const Command& command, const Shell& shell);
 
 }  // namespace gp

@@ -24,8 +24,8 @@ std::string depthText(int bits) {
 
 std::string screenInformation(SystemInfo& system) {
   return "Total RAM (KB):         " + std::to_string(system.totalMemoryKb()) +
-         "\nScreen Width (Pixel):   " + std::to_string(system.screenWidth()) +
-         "\nScreen Height (Pixel):  " + std::to_string(system.screenHeight()) +
+         "\nScreen Width (Pixel):   " + std::to_string(system.physicalScreenWidth()) +
+         "\nScreen Height (Pixel):  " + std::to_string(system.physicalScreenHeight()) +
          "\nBPP Set:   " + depthText(system.GetScreenBPP()) +
          "\nPixels/Inch Set:   " + std::to_string(system.GetPixelsPerInch());
 }

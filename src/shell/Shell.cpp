@@ -4,6 +4,7 @@
 #include "document/EditState.h"
 #include "document/Hourglass.h"
 #include "platform/ports/MessageBoxes.h"
+#include "shell/CommandNeeds.h"
 #include "shell/PanelTable.h"
 
 namespace gp {
@@ -58,7 +59,11 @@ bool Shell::prepare(const Command& command) {
   return mayRun(command);
 }
 
-bool Shell::mayRun(const Command& command) { return isMet(command.unmet(*this, command.index)); }
+bool Shell::mayRun(const Command& command) {
+  const char* refusal = command.unmet(*this, command.index);
+  if (refusal && !*refusal) display_.announce(needs::reasonWithoutBox(command.unmet));
+  return isMet(refusal);
+}
 
 bool Shell::isMet(const char* refusal) {
   if (refusal && *refusal) ports_.boxes.tell(refusal);

@@ -53,8 +53,8 @@ bool acceptScreenColors(StartUp& start) {
 }
 
 bool acceptScreenSize(StartUp& start) {
-  const int width = start.system.screenWidth();
-  const int height = start.system.screenHeight();
+  const int width = start.system.physicalScreenWidth();
+  const int height = start.system.physicalScreenHeight();
   if (width >= kLeastScreenWidth && height >= kLeastScreenHeight) return true;
   return start.boxes.ask("This program requires a 800x600 screen or better.\n Your current screen is " +
                          std::to_string(width) + "x" + std::to_string(height) + ".  Proceed still?");

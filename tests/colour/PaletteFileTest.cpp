@@ -78,6 +78,14 @@ TEST_F(PaletteFileTest, TheSaveDialogOffersAllFilesAndAddsTheExtension) {
   EXPECT_EQ(editor.calls, (std::vector<std::string>{"closePanels"}));
 }
 
+TEST_F(PaletteFileTest, ASaveReportsFirstThatTheProgramsFolderIsGone) {
+  std::filesystem::remove_all(folder.path());
+  dialogs.paths = {""};
+  boxes.expectTold(folder.path() + "\nFolder not found.", BoxIcon::Exclamation);
+  files.imgSavePalette();
+  EXPECT_EQ(dialogs.requests[0].folder, std::filesystem::path(folder.path()).parent_path());
+}
+
 TEST_F(PaletteFileTest, ACancelledDialogDoesNothing) {
   dialogs.paths = {""};
   files.imgLoadPalette();

@@ -73,6 +73,22 @@ TEST(ClearContainer, EmptiesOnlyTheSurfacesOfTheCurrentContainer) {
   EXPECT_EQ(state.picPanelImage[1].GetPixel(0, 0), 0x123456);
 }
 
+TEST(NameOfAnIcon, IsItsFilesNameOrThatItIsUntitledOrEmpty) {
+  IconContainerRec record;
+  EXPECT_EQ(nameOf(record), "empty");
+  record.path = "/home/ana/former.ico";
+  EXPECT_EQ(nameOf(record), "empty") << "of a cleared container";
+  EXPECT_EQ(nameOf(NewRecord()), "Untitled");
+  record.used = true;
+  EXPECT_EQ(nameOf(record), "former.ico");
+  record.path = "C:\\icons\\tools.ico";
+  EXPECT_EQ(nameOf(record), "tools.ico");
+  record.path = "/home/ana/back\\slash.ico";
+  EXPECT_EQ(nameOf(record), "back\\slash.ico");
+  record.path = "/home/ana/" + std::string(300, 'a') + ".ico";
+  EXPECT_EQ(nameOf(record), std::string(300, 'a') + ".ico");
+}
+
 TEST(NewRecord, IsAnUntitledIconThatWasNeverChanged) {
   const IconContainerRec record = NewRecord();
   EXPECT_TRUE(record.used);

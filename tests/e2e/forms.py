@@ -138,7 +138,7 @@ class Desk:
     # The main form ---------------------------------------------------------------------------------------------------
 
     def waitForIcon(self, size, path):
-        self.program.wait(lambda: self.program.value('Status 3') == f'{size} x {size}' and self.program.value('Status 0') == path,
+        self.program.wait(lambda: self.program.value('Icon size') == f'{size} x {size}' and self.program.value('File') == path,
                           f'the icon of {os.path.basename(path)}')
 
     def waitForPixel(self, x, y, size, color):

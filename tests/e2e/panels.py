@@ -56,7 +56,7 @@ class PanelDesk(Desk):
         before = read(path)
         self.program.command('ctrl+s')
         self.program.wait(lambda: read(path) != before, f'{path} to be saved')
-        self.program.wait(lambda: not self.program.value('Status 1'), 'the icon to count as unchanged')
+        self.program.wait(lambda: not self.program.value('Headers'), 'the icon to count as unchanged')
 
     def isPossible(self, button):
         return self.program.isEnabled(self.program.need(button, role='push button'))

@@ -116,6 +116,7 @@ class Program:
         return None
 
     def isActive(self, window):
+        window.clear_cache()  # an event about it may have been missed
         return window.getState().contains(pyatspi.STATE_ACTIVE)
 
     def isShown(self, control):

@@ -39,13 +39,13 @@ def test_files_that_are_no_icons_end_in_the_text_and_the_program_goes_on(session
     with open(session.path('good.ico'), 'wb') as file:
         file.write(plainIcon())
     program = session.start(session.path('good.ico'))
-    program.wait(lambda: program.value('Status 3') == '16 x 16', 'the icon')
+    program.wait(lambda: program.value('Icon size') == '16 x 16', 'the icon')
     bad = {'empty.ico': b'', 'short.ico': b'\0\0\1\0\1\0', 'text.ico': b'hello world' * 10, 'zero size.ico': b'\0\0\1\0\1\0' + bytes(16)}
     for name, content in bad.items():
         with open(session.path(name), 'wb') as file:
             file.write(content)
         assert INVALID in openAndReadBox(program, session.path(name)), name
-    assert program.value('Status 0') == session.path('good.ico')
+    assert program.value('File') == session.path('good.ico')
 
 
 def test_of_a_huge_file_little_is_read(session):
@@ -56,7 +56,7 @@ def test_of_a_huge_file_little_is_read(session):
     memory, read = peakBytes(program.process), bytesRead(program.process)
     program.command('ctrl+o')
     program.chooseFile(session.path('huge.ico'))
-    program.wait(lambda: program.dialogs() or program.value('Status 3'), 'an icon or a box')
+    program.wait(lambda: program.dialogs() or program.value('Icon size'), 'an icon or a box')
     # Data that is not read takes no time on any machine. The dialog takes some.
     assert bytesRead(program.process) - read < MOST_BYTES
     assert peakBytes(program.process) - memory < MOST_BYTES
@@ -79,7 +79,7 @@ def test_unusual_names_open_from_the_command_line(session):
         with open(path, 'wb') as file:
             file.write(plainIcon(24))
         program = session.start(path)
-        program.wait(lambda: program.value('Status 3') == '24 x 24', f'the icon {name!r}')
+        program.wait(lambda: program.value('Icon size') == '24 x 24', f'the icon {name!r}')
         program.command('alt+F4')
         assert program.waitForEnd() == 0
 
@@ -90,7 +90,7 @@ def test_saving_to_a_read_only_file_tells_so_and_keeps_the_change(session):
         file.write(plainIcon(32))
     os.chmod(path, 0o444)
     program = session.start(path)
-    program.wait(lambda: program.value('Status 3') == '32 x 32', 'the icon')
+    program.wait(lambda: program.value('Icon size') == '32 x 32', 'the icon')
     program.press('Erase')
     session.click(program.pixelPoint(3, 3, 32))
     program.command('ctrl+s')

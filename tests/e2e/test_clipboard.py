@@ -29,7 +29,7 @@ def test_a_program_that_does_not_answer_keeps_nothing_waiting(session):
         assert program.mainForm()
         program.wait(owner.asked.is_set, 'the clipboard to be asked')
         program.command('ctrl+n')
-        program.wait(lambda: program.value('Status 3') == '32 x 32', 'a new icon')
+        program.wait(lambda: program.value('Icon size') == '32 x 32', 'a new icon')
         assert not canPaste(program)
     with ClipboardOwner(bitmap(20, 20)):
         program.wait(lambda: canPaste(program), 'a picture to be pasted')

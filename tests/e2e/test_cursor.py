@@ -69,7 +69,7 @@ def test_a_cursor_is_saved_with_the_hot_spot_that_was_clicked_or_chosen(session)
     waitForHotspot(desk, 3, 31)
     seesBlink(desk, 3, 31, lambda: desk.program.press(SHOW))
     readers.assertCursor(saveCursor(desk, 'chosen.cur'), picture, 4, (3, 31))
-    assert desk.program.value('Status 0') == opened, 'the icon is still the opened one'
+    assert desk.program.value('File') == opened, 'the icon is still the opened one'
     assert read(opened) == icons.cursor(picture, 4, 12, 20)
 
 
@@ -96,7 +96,7 @@ def test_a_close_while_the_hot_spot_blinks_ends_the_program(session):
     picture = icons.motif(SIZE, 4)
     desk = Desk(session)
     desk.openCursor(write(session, 'hand.cur', icons.cursor(picture, 4, 12, 20)))
-    desk.program.wait(lambda: desk.program.value('Status 3') == '32 x 32', 'the cursor')
+    desk.program.wait(lambda: desk.program.value('Icon size') == '32 x 32', 'the cursor')
     point = desk.program.pixelPoint(12, 20, SIZE)
     desk.program.command('ctrl+h')
     desk.program.wait(lambda: session.colorAt(point) in (HOT_RED, HOT_WHITE), 'the blinking', poll=BLINK_POLL_SECONDS)
@@ -115,14 +115,14 @@ def test_what_is_no_cursor_of_this_kind_is_refused(session):
         desk.openCursor(path)
         desk.program.answerBox(path + ' Invalid cursor file')
     desk.openFile(write(session, 'small.ico', icons.icons((24, 4))))
-    desk.program.wait(lambda: desk.program.value('Status 3') == '24 x 24', 'the icon')
+    desk.program.wait(lambda: desk.program.value('Icon size') == '24 x 24', 'the icon')
     desk.program.openMenu('File')
     assert not desk.program.isEnabled(desk.program.need('Save As Cursor', startsWith=True, role='menu item'))
     session.keys('Escape', 'Escape')
     desk.program.waitForNoMenu()
 
     desk.openFile(write(session, 'right.ico', icons.icons((SIZE, 4))))
-    desk.program.wait(lambda: desk.program.value('Status 3') == '32 x 32', 'the icon')
+    desk.program.wait(lambda: desk.program.value('Icon size') == '32 x 32', 'the icon')
     openPanel(desk)
     desk.program.goTo(HOTSPOT_X, role='combo box')
     desk.program.keys('Escape')

@@ -148,7 +148,7 @@ class Artist:
         self.places = {}
 
     def findEditingArea(self):
-        self.program.wait(lambda: self.program.value('Status 3') == f'{SIZE} x {SIZE}', 'the icon')
+        self.program.wait(lambda: self.program.value('Icon size') == f'{SIZE} x {SIZE}', 'the icon')
         self.left, self.top, width, _ = self.program.box(self.program.need('Editing Area'))
         self.cell = width // SIZE
 
@@ -473,7 +473,7 @@ def test_a_picture_that_uses_every_region_command(session):
     artist.saveAndCompare('regions.ico', picture)
     artist.program.menu('Edit', 'Clear Container')
     artist.answer('Clear current icon from container.  Proceed?', 'alt+y')
-    artist.program.wait(lambda: artist.program.value('Status 3') == '', 'the container to be empty')
+    artist.program.wait(lambda: artist.program.value('Icon size') == '', 'the container to be empty')
 
 
 def test_a_picture_that_is_shifted_flipped_and_rotated(session):

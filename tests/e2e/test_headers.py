@@ -24,7 +24,7 @@ def openLying(session):
     desk.loadAndExit(1)
     desk.program.answerBox(REMINDER)
     desk.waitForIcon(32, path)
-    desk.program.wait(lambda: '*' in desk.program.value('Status 1'), 'the asterisk')
+    desk.program.wait(lambda: desk.program.value('Headers') == 'disagree', 'the asterisk')
     desk.program.menu(*INQUIRY)
     desk.waitForForm(HEADER_DIFF)
     return desk, path

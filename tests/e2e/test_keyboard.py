@@ -5,6 +5,7 @@ from PIL import Image
 
 import icons
 from forms import Desk, write
+from session import waitUntil
 
 RED = (255, 0, 0, 255)
 CLEAR = 0
@@ -19,7 +20,7 @@ def pixels(path):
 def test_an_icon_is_drawn_and_saved_without_the_mouse(session):
     program = session.start()
     program.command('ctrl+e')
-    program.wait(lambda: program.value('Status 3') == '16 x 16', 'the new icon')
+    program.wait(lambda: program.value('Icon size') == '16 x 16', 'the new icon')
     program.menuByKeys('alt+p', 'd')
     program.typeInto('Color value', 'ff', becomes='FF')
     session.keys('Return')
@@ -55,3 +56,20 @@ def test_the_keys_come_back_every_time_a_file_was_replaced(session):
         desk.program.command('ctrl+t')
         desk.program.chooseFile(path, replace=True)  # the question and the dialog under it close at once
         desk.program.waitForNoDialog()
+
+
+def test_the_menu_bar_shows_where_the_keys_are_and_lets_commands_through(session):
+    program = session.start()
+    bar = program.box(program.need('File', role='menu item'))
+    middle = (bar[0] + 2, bar[1] + bar[3] // 2)
+    plain = session.colorAt(middle)
+    for keys in (['F10'], ['alt+f', 'Escape']):
+        session.keys(*keys)
+        waitUntil(lambda: session.colorAt(middle) != plain, 'the mark on the entry')
+        session.keys('Escape')
+        waitUntil(lambda: session.colorAt(middle) == plain, 'the menu bar without the keys')
+    session.keys('F10', 'F10')
+    waitUntil(lambda: session.colorAt(middle) == plain, 'the menu bar without the keys')
+    session.keys('F10', 'ctrl+e')
+    program.wait(lambda: program.value('Status 3') == '16 x 16', 'the new icon')
+    assert session.colorAt(middle) == plain

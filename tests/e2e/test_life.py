@@ -19,7 +19,7 @@ def test_a_second_start_is_refused_and_the_first_goes_on(session):
 def test_closing_with_unsaved_work_asks_and_no_stays(session):
     program = session.start()
     program.command('ctrl+n')
-    program.wait(lambda: program.value('Status 3') == '32 x 32', 'the new icon')
+    program.wait(lambda: program.value('Icon size') == '32 x 32', 'the new icon')
     session.click(program.pixelPoint(3, 3, 32))
     program.command('alt+F4')
     dialog = program.waitForDialog()
@@ -53,9 +53,9 @@ def test_an_opened_file_stands_in_the_history_of_the_next_start(session):
     with open(path, 'wb') as file:
         file.write(icons.icon16([[(0, 0, 255)] * 24 for _ in range(24)]))
     program = session.start(path)
-    program.wait(lambda: program.value('Status 3') == '24 x 24', 'the icon')
+    program.wait(lambda: program.value('Icon size') == '24 x 24', 'the icon')
     program.command('alt+F4')
     program.waitForEnd()
     program = session.start()
     program.menuByKeys('alt+f', '1')
-    program.wait(lambda: program.value('Status 0') == path, 'the file of the history')
+    program.wait(lambda: program.value('File') == path, 'the file of the history')

@@ -269,11 +269,11 @@ def test_escape_leaves_every_form_and_file_as_it_was(session):
     if desk.form(EDIT_FACE):
         desk.program.keys('Escape')
     desk.waitForNoForm(EDIT_FACE)
-    assert desk.program.value('Status 3') == ''
+    assert desk.program.value('Icon size') == ''
 
     desk.program.command('ctrl+o')
     desk.program.answerFileDialog(writeIcons(session, 'single.ico', [(48, 8)]))
-    desk.program.wait(lambda: desk.program.value('Status 3') == '48 x 48', 'the icon')
+    desk.program.wait(lambda: desk.program.value('Icon size') == '48 x 48', 'the icon')
     desk.addTo(second)
     desk.waitForForm(ADD_FACE)
     desk.program.keys('Escape')

@@ -10,7 +10,7 @@ TOOLBAR = ['New 32x32', 'New 16x16', 'Open icon file', 'Display all icons in fol
            'Rotate icon/region right 90-degree', 'Add text', 'Auto-draw sphere', 'Buttonize icon',
            'Gradient background (unpainted areas)', 'Adjust brightness of colors', 'General properties',
            'Capture image from desktop', 'Create/edit animated cursor', 'View/edit/create Alpha (32 BPP icon)']
-STATUS = [f'Status {number}' for number in range(5)]
+STATUS = ['File', 'Headers', 'Several icons', 'Icon size', 'Alpha']
 
 
 def writeIcon(session, name, size=16):
@@ -22,7 +22,7 @@ def writeIcon(session, name, size=16):
 
 def test_every_control_has_its_name(session):
     program = session.start(writeIcon(session, 'a.ico'))
-    program.wait(lambda: program.value('Status 3') == '16 x 16', 'the icon')
+    program.wait(lambda: program.value('Icon size') == '16 x 16', 'the icon')
     for name in CONTAINERS + TOOLS + TOOLBAR + STATUS + ['Editing Area', '16-Color Palette', 'Color to use']:
         program.need(name)
     program.menu('Palette', 'Direct Entry Of Color Value')
@@ -33,7 +33,7 @@ def test_every_control_has_its_name(session):
 
 def test_nothing_shown_is_without_a_name(session):
     program = session.start(writeIcon(session, 'a.ico'))
-    program.wait(lambda: program.value('Status 3') == '16 x 16', 'the icon')
+    program.wait(lambda: program.value('Icon size') == '16 x 16', 'the icon')
     for window in program.windows():
         for control in program.walk(window):
             if control.getRoleName() in ('push button', 'check box', 'text', 'combo box', 'canvas', 'color chooser'):
@@ -43,6 +43,6 @@ def test_nothing_shown_is_without_a_name(session):
 def test_the_status_bar_tells_path_and_size(session):
     path = writeIcon(session, 'a.ico')
     program = session.start(path)
-    program.wait(lambda: program.value('Status 0') == path, 'the path')
-    assert program.value('Status 3') == '16 x 16'
-    assert program.value('Status 1') == ''
+    program.wait(lambda: program.value('File') == path, 'the path')
+    assert program.value('Icon size') == '16 x 16'
+    assert program.value('Headers') == ''

@@ -367,7 +367,7 @@ def test_bitmaps_of_each_depth_are_read_alike(session):
         else:
             readers.assertSame([pillow], [wanted], 'Pillow', path)
         desk.expectIcon(picture, 'the icon that was saved as a bitmap')
-        assert desk.program.value('Status 0') == icon
+        assert desk.program.value('File') == icon
 
 
 def test_a_bitmap_is_given_up_at_the_question_and_in_the_file_dialog_and_named_by_it(session):

@@ -68,7 +68,7 @@ def test_the_command_line_and_the_history_offer_them_too(session):
     desk.waitForIcon(32, path)
     desk.program.menu('Edit', 'Clear Container')
     desk.program.answerBox('Clear current icon from container. Proceed?', 'alt+y')
-    desk.program.wait(lambda: not desk.program.value('Status 3'), 'the empty container')
+    desk.program.wait(lambda: not desk.program.value('Icon size'), 'the empty container')
     desk.program.menuByKeys('alt+f', '1')
     desk.program.answerBox(f'{path} {REFUSAL}', 'alt+y')
     desk.waitForForm(EDIT_FACE)

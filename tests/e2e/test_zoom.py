@@ -66,7 +66,7 @@ def test_keys_and_wheel_zoom_and_the_area_scrolls(session):
     hand.turn(hand.artist.middle(10, 10), WHEEL_DOWN, 2)
     hand.expectMagnification(15)
     hand.program.menu('File', 'New Icon 16x16')
-    hand.program.wait(lambda: hand.program.value('Status 3') == '16 x 16', 'the other icon')
+    hand.program.wait(lambda: hand.program.value('Icon size') == '16 x 16', 'the other icon')
     hand.program.wait(lambda: hand.program.box(hand.program.need('Editing Area'))[2] == 16 * 15, 'the zoom of all icons')
 
 

@@ -101,6 +101,16 @@ TEST_F(StartUpChecks, AScreenOf799PixelsWidthIsTheUsersChoice) {
   EXPECT_TRUE(run());
 }
 
+TEST_F(StartUpChecks, AScaledScreenCountsByItsPhysicalPixels) {
+  system_.width = 640;
+  system_.height = 400;
+  system_.scale = 1.5;
+  EXPECT_TRUE(run());
+  system_.scale = 1.25;
+  boxes_.expectAsked(screenText("800x500"), BoxAnswer::No);
+  EXPECT_FALSE(run());
+}
+
 TEST_F(StartUpChecks, AScreenOf599PixelsHeightEndsTheProgramOnNo) {
   system_.width = 800;
   system_.height = 599;

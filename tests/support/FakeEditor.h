@@ -17,6 +17,7 @@ class RecordingDisplay : public Display {
  public:
   std::vector<DisplayPart> parts;
   int repaints = 0, popUpMenus = 0, nudges = 0, colorValueFocuses = 0;
+  std::vector<std::string> announced;
   std::function<void(DisplayPart part)> onChanged;
 
   void changed(DisplayPart part) override {
@@ -27,6 +28,7 @@ class RecordingDisplay : public Display {
   void showPopUpMenu() override { ++popUpMenus; }
   void nudgeMousePointer() override { ++nudges; }
   void focusColorValue() override { ++colorValueFocuses; }
+  void announce(const std::string& text) override { announced.push_back(text); }
   int count(DisplayPart part) const { return static_cast<int>(std::count(parts.begin(), parts.end(), part)); }
   bool hasChanged(DisplayPart part) const { return count(part) > 0; }
 };

@@ -14,6 +14,7 @@ class FakeSystem : public SystemInfo {
   int bits = 32;
   int width = 1280;
   int height = 1024;
+  double scale = 1;  // physical pixels per pixel of a window
   int pixelsPerInch = 96;
   long long memoryKb = 8000000;
   std::string windows = "/usr", system = "/usr/lib", temp = "/tmp/", desktop = "/home/ana/Desktop";
@@ -21,6 +22,8 @@ class FakeSystem : public SystemInfo {
   int GetScreenBPP() override { return bits; }
   int screenWidth() override { return width; }
   int screenHeight() override { return height; }
+  int physicalScreenWidth() override { return static_cast<int>(width * scale); }
+  int physicalScreenHeight() override { return static_cast<int>(height * scale); }
   int GetPixelsPerInch() override { return pixelsPerInch; }
   long long totalMemoryKb() override { return memoryKb; }
   std::string windowsDirectory() override { return windows; }

@@ -164,7 +164,7 @@ TEST_F(EditingAreaViewTest, SpeaksPositionAndColourOfThePixelCursor) {
   EXPECT_EQ(valueOf(view()), "X=2  Y=1  RGB: 252, 3, 48");
   state.picImage.SetPixelV(1, 0, kBlack);
   state.picMask.SetPixelV(1, 0, kWhite);
-  EXPECT_EQ(valueOf(view()), "X=2  Y=1  N/A");
+  EXPECT_EQ(valueOf(view()), "X=2  Y=1  transparent");
 }
 
 TEST_F(EditingAreaViewTest, ThePixelCursorIsSeenOnlyWhileTheKeyboardIsUsed) {

@@ -161,7 +161,7 @@ TEST_F(HeaderDiffForm, SalvageWritesTheCopy) {
       "File salvaged to " + target + "\n\n(per bitmap header entry, irrespective of actual color depth)\n\n",
       BoxIcon::None);
   QTest::keyClick(form.get(), Qt::Key_S, Qt::AltModifier);
-  QTest::qWait(150);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return boxes.done(); }));
   std::vector<Told> truth = kLying;
   truth[1].bits = truth[2].bits = 4;
   EXPECT_EQ(folder.read("out.ico"), iconFileOf(truth));

@@ -47,19 +47,23 @@ TEST_F(IconsPanelViewTest, AClickOnAContainerOrItsLabelMakesItCurrent) {
   EXPECT_EQ(state.mCurContainer, 5);
 }
 
-TEST_F(IconsPanelViewTest, ContainersArePushButtonsForAssistiveTechnology) {
-  start();
+TEST_F(IconsPanelViewTest, ContainersAreRadioButtonsDescribedByTheirFile) {
+  startWithIcon(16);
   for (int i = 0; i < kContainerCount; ++i) {
     QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(indexed("picPanelIcon", i));
     EXPECT_EQ(spoken->text(QAccessible::Name), QString("Container %1").arg(i + 1));
-    EXPECT_EQ(spoken->role(), QAccessible::PushButton);
-    EXPECT_EQ(spoken->text(QAccessible::Description) == "current", i == 0);
+    EXPECT_EQ(spoken->role(), QAccessible::RadioButton);
+    EXPECT_EQ(spoken->text(QAccessible::Description), i == 0 ? "icon.ico" : "empty");
+    EXPECT_TRUE(spoken->state().checkable);
+    EXPECT_EQ(static_cast<bool>(spoken->state().checked), i == 0);
   }
   QAccessible::queryAccessibleInterface(indexed("picPanelIcon", 3))
       ->actionInterface()
       ->doAction(QAccessibleActionInterface::pressAction());
   QTest::qWait(200);
   EXPECT_EQ(state.mCurContainer, 3);
+  EXPECT_TRUE(QAccessible::queryAccessibleInterface(indexed("picPanelIcon", 3))->state().checked);
+  EXPECT_FALSE(QAccessible::queryAccessibleInterface(indexed("picPanelIcon", 0))->state().checked);
 }
 
 TEST_F(IconsPanelViewTest, ArrowsAndDigitsMoveWithinTheColumnEnterAndSpaceSwitch) {

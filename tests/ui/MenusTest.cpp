@@ -4,6 +4,7 @@
 
 #include <QMenu>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QShortcut>
 
 namespace gp {
@@ -136,7 +137,8 @@ class StatusBar : public test::FormFixture {};
 
 TEST_F(StatusBar, ItsPanelsAreNamedAndTheirTextIsTheirValue) {
   startWithIcon(24);
-  EXPECT_EQ(indexed("lblStatusPanel", 3)->accessibleName(), "Status 3");
+  const char* names[] = {"File", "Headers", "Several icons", "Icon size", "Alpha"};
+  for (int i = 0; i < kStatusPanelCount; ++i) EXPECT_EQ(indexed("lblStatusPanel", i)->accessibleName(), names[i]);
   EXPECT_EQ(valueOf(indexed("lblStatusPanel", 3)), "24 x 24");
   EXPECT_EQ(valueOf(indexed("lblStatusPanel", 0)).toStdString(), folder.file("icon.ico"));
   EXPECT_EQ(valueOf(indexed("lblStatusPanel", 4)), "");
@@ -148,7 +150,7 @@ TEST_F(StatusBar, ProgressShowsOnlyWhileThereIsSome) {
   const QRect place = find("picProgressContainer")->geometry();
   state.screen.progressPercent = 40;
   display.changed(DisplayPart::StatusBar);
-  auto* bar = find("picProgressContainer")->findChild<QWidget*>();
+  auto* bar = find("picProgressContainer")->findChild<QProgressBar*>();
   ASSERT_TRUE(bar);
   EXPECT_TRUE(bar->isVisible());
   state.screen.progressPercent = -1;

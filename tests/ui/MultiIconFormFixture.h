@@ -114,7 +114,13 @@ class MultiIconFormFixture : public testing::Test {
   }
   void access(Qt::Key letter) {
     QTest::keyClick(form->focusWidget(), letter, Qt::AltModifier);
-    QTest::qWait(150);
+    // A button that is pressed by its key stays down for a moment and only then acts.
+    const auto isUp = [this] {
+      return std::ranges::none_of(form->findChildren<QAbstractButton*>(),
+                                  [](auto* button) { return button->isDown(); });
+    };
+    EXPECT_TRUE(QTest::qWaitFor(isUp));
+    settle();
   }
   void click(const char* name) {
     QTest::mouseClick(find(name), Qt::LeftButton);

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -372,6 +373,30 @@ TEST_F(MultiIconForm, GrowingKeepsItOnTheScreen) {
   click("imgHideOtherSizes(0)");
   click("imgShowOtherSizes(0)");
   expectOn(screen);
+}
+
+TEST_F(MultiIconForm, ItGrowsDownwardsAsFarAsTheScreenHasRoom) {
+  if (!screenHasRoom()) GTEST_SKIP() << "the screen is too small";
+  open();
+  const QRect screen = form->screen()->availableGeometry();
+  const QPoint corner(10, screen.bottom() - form->height() - 128);
+  form->move(corner);
+  click("imgShowOtherSizes(0)");
+  EXPECT_EQ(form->pos(), corner);
+  EXPECT_LE(form->frameGeometry().bottom(), screen.bottom());
+  EXPECT_TRUE(isShown("fraOtherIcons"));
+  click("imgHideOtherSizes(0)");
+  EXPECT_EQ(form->pos(), corner);
+}
+
+TEST_F(MultiIconForm, TheButtonForOtherSizesSaysSo) {
+  open();
+  for (const char* name : {"imgShowOtherSizes(0)", "imgHideOtherSizes(0)"}) {
+    const auto* button = find<QToolButton>(name);
+    EXPECT_EQ(button->text(), "Other sizes");
+    EXPECT_GE(button->width(), button->sizeHint().width());
+  }
+  EXPECT_EQ(find("imgShowOtherSizes(0)")->accessibleName(), "Show icons of other sizes");
 }
 
 TEST_F(MultiIconForm, OtherSizesCannotBeSelected) {

@@ -2,22 +2,19 @@
 #include "platform/files/ProgramFolders.h"
 #include "platform/qt/Accessibility.h"
 #include "platform/qt/PathText.h"
+#include "platform/qt/Pictures.h"
 #include "platform/qt/ProcessTable.h"
-#include "platform/qt/QtFileDialogs.h"
 #include "platform/qt/QtMessageBoxes.h"
 #include "platform/qt/QtMessagePump.h"
 #include "platform/qt/QtProcesses.h"
 #include "platform/qt/QtSystemInfo.h"
 #include "support/TempFolder.h"
+#include "ui/ModalDialogs.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
-#include <QColorDialog>
 #include <QElapsedTimer>
-#include <QFileDialog>
-#include <QFileSystemModel>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
@@ -33,22 +30,6 @@
 
 namespace gp {
 namespace {
-
-constexpr int kPatience = 5000;  // ms
-
-// Runs `act` on the next modal window of a type.
-template <class Dialog>
-void whenShown(std::function<void(Dialog&)> act) {
-  auto* poll = new QTimer(qApp);
-  QObject::connect(poll, &QTimer::timeout, poll, [poll, act] {
-    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-    if (!dialog) return;
-    poll->stop();
-    poll->deleteLater();
-    act(*dialog);
-  });
-  poll->start(5);
-}
 
 // ---- Paths
 
@@ -96,6 +77,19 @@ TEST(QtMessageBoxes, HaveTheirTitlePlainTextDefaultButtonAndEscape) {
       QTest::keyClick(&box, Qt::Key_Escape);
     });
     EXPECT_EQ(QtMessageBoxes().show(text, look.buttons, look.icon, look.suggested), look.onEscape);
+  }
+}
+
+TEST(QtMessageBoxes, HaveThePicturesOfTheProgramAndPlainButtons) {
+  for (const auto& [icon, name] :
+       {std::pair(BoxIcon::Information, "box-information"), std::pair(BoxIcon::Question, "box-question"),
+        std::pair(BoxIcon::Exclamation, "box-exclamation")}) {
+    QMessageBox box;
+    QtMessageBoxes::prepare(box, "?", BoxButtons::YesNo, icon, BoxAnswer::No);
+    const QPixmap own = Pictures::pixmap(name, box.devicePixelRatioF(), Pictures::kBoxSize);
+    ASSERT_FALSE(own.isNull());
+    EXPECT_EQ(box.iconPixmap().toImage(), own.toImage()) << name;
+    for (const QAbstractButton* button : box.buttons()) EXPECT_TRUE(button->icon().isNull());
   }
 }
 
@@ -159,149 +153,6 @@ TEST(QtMessageBoxes, TheWindowBeneathIsActiveAgainAfterTwoThatClosedAtOnce) {
   EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
 }
 
-// ---- File dialogs
-
-std::string noFolder(const std::string&, const std::string&) { return {}; }
-
-FileDialogRequest iconRequest(const test::TempFolder& folder) {
-  FileDialogRequest request;
-  request.title = "Open icon file";
-  request.folder = folder.path();
-  request.filters = {{"Icon files (*.ico)", "*.ico"}};
-  request.flags = kFileMustExist | kFileHideReadOnly;
-  return request;
-}
-
-void typeName(QFileDialog& dialog, const QString& name) {
-  auto* field = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-  ASSERT_NE(field, nullptr);
-  field->setFocus();
-  field->clear();
-  QTest::keyClicks(field, name);
-  QTest::keyClick(field, Qt::Key_Return);
-}
-
-TEST(QtFileDialogs, OpenGivesTheFileThatIsTyped) {
-  const test::TempFolder folder;
-  folder.write("a b.ico");
-  whenShown<QFileDialog>([](QFileDialog& dialog) {
-    EXPECT_EQ(dialog.windowTitle(), "Open icon file");
-    EXPECT_EQ(dialog.nameFilters(), QStringList{"Icon files (*.ico)"});
-    typeName(dialog, "a b.ico");
-  });
-  std::string path;
-  int error = -1;
-  EXPECT_TRUE(QtFileDialogs(noFolder).openFile(iconRequest(folder), path, error));
-  EXPECT_EQ(path, folder.file("a b.ico"));
-  EXPECT_EQ(error, 0);
-}
-
-TEST(QtFileDialogs, CancellingGivesAnEmptyPathAndNoError) {
-  const test::TempFolder folder;
-  whenShown<QFileDialog>([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-  std::string path = "left over";
-  int error = -1;
-  EXPECT_FALSE(QtFileDialogs(noFolder).openFile(iconRequest(folder), path, error));
-  EXPECT_EQ(path, "");
-  EXPECT_EQ(error, 0);
-}
-
-TEST(QtFileDialogs, PatternsMatchInAnyCase) {
-  const test::TempFolder folder;
-  for (const char* name : {"A.ICO", "b.ico", "c.Ico", "d.bmp"}) folder.write(name);
-  QFileDialog dialog;
-  QtFileDialogs::prepareOpen(dialog, iconRequest(folder));
-  dialog.show();
-  auto* model = dialog.findChild<QFileSystemModel*>();
-  ASSERT_NE(model, nullptr);
-  QStringList names;
-  const auto listed = [&] {
-    names.clear();
-    const QModelIndex root = model->index(pathToText(folder.path()));
-    for (int row = 0; row < model->rowCount(root); ++row) names << model->fileName(model->index(row, 0, root));
-    names.sort();
-    return names.size() == 3;
-  };
-  EXPECT_TRUE(QTest::qWaitFor(listed, kPatience));
-  EXPECT_EQ(names, (QStringList{"A.ICO", "b.ico", "c.Ico"}));
-}
-
-TEST(QtFileDialogs, StarDotStarAlsoMeansNamesWithoutADot) {
-  FileDialogRequest request;
-  request.filters = {{"All files (*.*)", "*.*"}, {"Icons and cursors", "*.ico;*.cur"}};
-  QFileDialog dialog;
-  QtFileDialogs::prepareOpen(dialog, request);
-  EXPECT_EQ(dialog.nameFilters(), (QStringList{"All files (*)", "Icons and cursors (*.ico *.cur)"}));
-}
-
-// Saves over a file and answers the question that may follow; counts the questions.
-bool saveOver(const test::TempFolder& folder, const std::string& name, unsigned flags,
-              QMessageBox::StandardButton answer, std::string& path, int& questions) {
-  questions = 0;
-  FileDialogRequest request = iconRequest(folder);
-  request.fileName = name;
-  request.flags = flags;
-  QTimer poll;
-  bool accepted = false;
-  QObject::connect(&poll, &QTimer::timeout, [&] {
-    QWidget* top = QApplication::activeModalWidget();
-    if (auto* box = qobject_cast<QMessageBox*>(top)) {
-      ++questions;
-      box->button(answer)->click();
-    } else if (auto* dialog = qobject_cast<QFileDialog*>(top)) {
-      if (accepted) return dialog->reject();
-      accepted = true;
-      auto* field = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-      // Not from within the timer, which would not fire again during the question.
-      QTimer::singleShot(0, field, [field] { QTest::keyClick(field, Qt::Key_Return); });
-    }
-  });
-  poll.start(20);
-  int error = -1;
-  return QtFileDialogs(noFolder).saveFile(request, path, error);
-}
-
-TEST(QtFileDialogs, SaveAsksBeforeAnExistingFileIsReplaced) {
-  const test::TempFolder folder;
-  std::string path;
-  int questions = 0;
-  // The second name is not UTF-8.
-  for (const char* name : {"there.ico", "caf\xE9.ico"}) {
-    folder.write(name);
-    EXPECT_FALSE(saveOver(folder, name, kFileOverwritePrompt, QMessageBox::No, path, questions)) << name;
-    EXPECT_EQ(questions, 1);
-    EXPECT_TRUE(saveOver(folder, name, kFileOverwritePrompt, QMessageBox::Yes, path, questions)) << name;
-    EXPECT_EQ(questions, 1);
-    EXPECT_EQ(path, folder.file(name));
-    EXPECT_TRUE(saveOver(folder, name, 0, QMessageBox::No, path, questions)) << name;
-    EXPECT_EQ(questions, 0);
-  }
-}
-
-TEST(QtFileDialogs, TheColourDialogStartsAtTheColourAndGivesTheChosenOne) {
-  Color color = rgb(1, 2, 3);
-  whenShown<QColorDialog>([](QColorDialog& dialog) {
-    EXPECT_EQ(dialog.currentColor(), QColor(1, 2, 3));
-    for (int i = 0; i < QColorDialog::customCount(); ++i) EXPECT_EQ(QColorDialog::customColor(i), QColor(Qt::white));
-    dialog.setCurrentColor(QColor(200, 100, 50));
-    dialog.accept();
-  });
-  EXPECT_TRUE(QtFileDialogs(noFolder).chooseColor(color));
-  EXPECT_EQ(color, rgb(200, 100, 50));
-
-  whenShown<QColorDialog>([](QColorDialog& dialog) {
-    dialog.setCurrentColor(Qt::red);
-    QTest::keyClick(&dialog, Qt::Key_Escape);
-  });
-  EXPECT_FALSE(QtFileDialogs(noFolder).chooseColor(color));
-  EXPECT_EQ(color, rgb(200, 100, 50));
-}
-
-TEST(QtFileDialogs, FoldersComeFromTheProgramsOwnForm) {
-  QtFileDialogs dialogs([](const std::string& pattern, const std::string& start) { return pattern + " in " + start; });
-  EXPECT_EQ(dialogs.chooseFolder("*.ICO", "/home"), "*.ICO in /home");
-}
-
 // ---- Pump and machine
 
 TEST(QtMessagePump, PumpRunsWhatIsPending) {
@@ -328,6 +179,8 @@ TEST(QtSystemInfo, TellsTheScreenTheMemoryAndTheFolders) {
   EXPECT_EQ(system.GetScreenBPP(), 32);
   EXPECT_EQ(system.screenWidth(), 800);
   EXPECT_EQ(system.screenHeight(), 800);
+  EXPECT_EQ(system.physicalScreenWidth(), 800);
+  EXPECT_EQ(system.physicalScreenHeight(), 800);
   EXPECT_EQ(system.GetPixelsPerInch(), 96);
   EXPECT_GT(system.totalMemoryKb(), 1024);
   EXPECT_EQ(system.windowsDirectory(), "/usr");
@@ -535,14 +388,14 @@ class ValueCanvas : public QWidget, public AccessibleValue {
 
 TEST(Accessibility, APanelKeepsItsNameAndTellsItsTextAsValue) {
   ValuePanel panel;
-  panel.setAccessibleName(QStringLiteral("Status 2"));
+  panel.setAccessibleName(QStringLiteral("Icon size"));
   panel.setText(QStringLiteral("32 x 32"));
   QAccessibleInterface* shown = QAccessible::queryAccessibleInterface(&panel);
   ASSERT_NE(shown, nullptr);
   EXPECT_EQ(shown->role(), QAccessible::StaticText);
-  EXPECT_EQ(shown->text(QAccessible::Name), "Status 2");
+  EXPECT_EQ(shown->text(QAccessible::Name), "Icon size");
   EXPECT_EQ(shown->text(QAccessible::Value), "32 x 32");
-  EXPECT_EQ(shown->text(QAccessible::Description), "32 x 32");
+  EXPECT_EQ(shown->text(QAccessible::Description), "") << "it would be read twice";
   ASSERT_NE(shown->textInterface(), nullptr);
   EXPECT_EQ(shown->textInterface()->characterCount(), 7);
   EXPECT_EQ(shown->textInterface()->text(0, 2), "32");
@@ -557,6 +410,7 @@ TEST(Accessibility, AWidgetChoosesItsRole) {
   EXPECT_EQ(shown->role(), QAccessible::Canvas);
   EXPECT_EQ(shown->text(QAccessible::Name), "Editing Area");
   EXPECT_EQ(shown->text(QAccessible::Description), "X=3  Y=4  Red");
+  EXPECT_EQ(shown->textInterface(), nullptr) << "it would be read twice";
   EXPECT_TRUE(shown->state().focusable);
 }
 

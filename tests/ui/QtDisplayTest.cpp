@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace gp {
 namespace {
@@ -39,6 +41,17 @@ TEST(QtDisplay, AListenerEndsWithItsView) {
   view.reset();
   display.changed(DisplayPart::SidePanel);
   EXPECT_EQ(changes, 1);
+}
+
+TEST(QtDisplay, AnAnnouncementReachesTheFormAndIsDroppedWithoutOne) {
+  QtDisplay display;
+  std::vector<std::string> heard;
+  display.announce("Saved");
+  display.requests().announce = [&](const std::string& text) { heard.push_back(text); };
+  display.announce("Copied");
+  display.forgetAll();
+  display.announce("Undone");
+  EXPECT_EQ(heard, std::vector<std::string>{"Copied"});
 }
 
 TEST(QtDisplay, ForgettingAllEndsListenersAndRequests) {

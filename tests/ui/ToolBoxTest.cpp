@@ -22,6 +22,40 @@ TEST_F(ToolBoxTest, EveryToolHasItsTooltipAndTheNameBeforeItsBracket) {
   EXPECT_EQ(tool(kErase)->accessibleName(), "Erase");
 }
 
+TEST_F(ToolBoxTest, ToolsAreRadioButtonsWithoutTheirNameInTheDescription) {
+  startWithIcon(16);
+  click(tool(kErase));
+  for (const ToolRow& row : toolTable()) {
+    const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(tool(row.index));
+    EXPECT_EQ(spoken->role(), QAccessible::RadioButton);
+    EXPECT_EQ(spoken->text(QAccessible::Name).toStdString(), toolName(row.index));
+    EXPECT_EQ(spoken->text(QAccessible::Description).toStdString(), toolHint(row.index));
+    EXPECT_EQ(static_cast<bool>(spoken->state().checked), row.index == kErase);
+  }
+  EXPECT_EQ(toolHint(kErase), "paint transparent");
+  EXPECT_EQ(toolHint(kLine), "+Shift key if for straight line");
+  EXPECT_EQ(toolHint(kPaint), "");
+  QAccessibleInterface* picker = QAccessible::queryAccessibleInterface(find("imgColorPicker"));
+  EXPECT_EQ(picker->role(), QAccessible::RadioButton);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(find("fraTools(1)"))->role(), QAccessible::Grouping);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(find("fraTools(1)"))->text(QAccessible::Name), "Tools");
+}
+
+TEST_F(ToolBoxTest, ToolsCarryTheKeysOfTheirMenuEntries) {
+  startWithIcon(16);
+  const auto keyOf = [this](const QString& name) {
+    QAccessibleInterface* button = QAccessible::queryAccessibleInterface(find(name));
+    return button->actionInterface()->keyBindingsForAction(button->actionInterface()->actionNames().front());
+  };
+  EXPECT_EQ(keyOf("imgTool(4)"), QStringList("F4"));
+  EXPECT_EQ(keyOf("imgTool(14)"), QStringList("Shift+F7"));
+  EXPECT_EQ(keyOf("imgTool(15)"), QStringList("Shift+F8"));
+  EXPECT_EQ(keyOf("imgClearAllTools"), QStringList("F2"));
+  EXPECT_EQ(keyOf("imgColorPicker"), QStringList("F3"));
+  EXPECT_EQ(keyOf("cmdTB(4)"), QStringList("Ctrl+S"));
+  EXPECT_EQ(keyOf("cmdTB(14)"), QStringList());
+}
+
 TEST_F(ToolBoxTest, ASelectedToolIsSunkenAndASecondClickTurnsItOff) {
   startWithIcon(16);
   click(tool(kPaint));

@@ -93,6 +93,7 @@ QWidget* ColorMixerView::makeChannel(int channel) {
   auto* slider = HsrRGB_.at(i) = new QSlider(Qt::Horizontal, row);
   slider->setObjectName(indexed("HsrRGB", channel));
   slider->setAccessibleName(name);
+  setAccessibleRole(slider, QAccessible::Slider);
   slider->setToolTip(name);
   slider->setRange(0, kMostOfChannel);
   slider->setPageStep(kSliderPage);

@@ -7,6 +7,7 @@
 #include "document/EditState.h"
 #include "document/ui/Lists.h"
 #include "document/ui/SurfacePainting.h"
+#include "platform/qt/Accessibility.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/CaptionFrame.h"
 #include "platform/qt/widgets/PictureButton.h"
@@ -104,6 +105,7 @@ ColorPanel::ColorPanel(QWidget* parent, const EditState& state, ColorSelection& 
                        PaletteFile& palette)
     : QWidget(parent), state_(state), colors_(colors), mixer_(mixer), palette_(palette) {
   setObjectName("fraPanel(0)");
+  makeGroup(this, "Color panel");
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(kFrameGap);
@@ -147,6 +149,7 @@ QWidget* ColorPanel::makeColorFrame() {
 
 QWidget* ColorPanel::makeScreenColorFrame() {
   CaptionFrame* frame = makeFrame(this, kScreenColorFrame);
+  frame->setAccessibleName("Screen color");
   auto* button = new PictureButton(frame, "imgScreenColor", {"screen-color", "Screen Color", kSwatchHeight});
   // Disabled: there is no copy of the screen from which it could take a colour.
   button->setEnabled(false);
@@ -165,6 +168,7 @@ QWidget* ColorPanel::makeBrushFrame() {
 QWidget* ColorPanel::makeChartFrame(ChartKind chart) {
   const ColorFrame index = chart == ChartKind::Chart16 ? ColorFrame::Chart16 : ColorFrame::Chart256;
   CaptionFrame* frame = makeFrame(this, static_cast<int>(index));
+  frame->setAccessibleName("Palette");  // its only control has the caption as name
   auto* view = new ColorChartView(frame, chart);
   view->setFixedSize(kChartWidth, kChartHeight);
   connect(view, &ColorChartView::hovered, this,
@@ -195,10 +199,8 @@ void ColorPanel::refresh() {
   frameDirect_->refresh();
   showMixer(screen.fraColorMixerVisible);
   cboBrushSize_->setCurrentIndex(screen.brushIndex);
-  picColorToUse_->setAccessibleDescription(QString("RGB: %1, %2, %3")
-                                               .arg(redOf(state_.mCurrentColor))
-                                               .arg(greenOf(state_.mCurrentColor))
-                                               .arg(blueOf(state_.mCurrentColor)));
+  const Color color = state_.mCurrentColor;
+  setDescription(picColorToUse_, QString("RGB: %1, %2, %3").arg(redOf(color)).arg(greenOf(color)).arg(blueOf(color)));
   picColorToUse_->update();
 }
 

@@ -1,6 +1,7 @@
 #include "colour/ui/MixSwatch.h"
 
 #include "document/ui/SurfacePainting.h"
+#include "platform/qt/Accessibility.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -18,7 +19,7 @@ MixSwatch::MixSwatch(QWidget* parent, const QString& objectName, const QString& 
 
 void MixSwatch::setColor(Color color) {
   color_ = color;
-  setAccessibleDescription(QString("RGB: %1, %2, %3").arg(redOf(color)).arg(greenOf(color)).arg(blueOf(color)));
+  setDescription(this, QString("RGB: %1, %2, %3").arg(redOf(color)).arg(greenOf(color)).arg(blueOf(color)));
   update();
 }
 

@@ -2,6 +2,7 @@
 
 #include "document/EditState.h"
 #include "document/ui/SurfacePainting.h"
+#include "platform/qt/Accessibility.h"
 
 namespace gp {
 namespace {
@@ -13,6 +14,7 @@ constexpr int kSide = 48 + 2;  // the largest icon with an outline, pixels
 CurrentIconView::CurrentIconView(QWidget* parent, const EditState& state) : QWidget(parent), state_(state) {
   setObjectName("PicIcon");
   setAccessibleName("Current icon");
+  setAccessibleRole(this, QAccessible::Graphic);
   setFixedSize(kSide, kSide);
   setAttribute(Qt::WA_OpaquePaintEvent);
 }

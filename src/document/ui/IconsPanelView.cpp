@@ -1,8 +1,10 @@
 #include "document/ui/IconsPanelView.h"
 
+#include "document/Containers.h"
 #include "document/EditState.h"
 #include "document/IconsPanel.h"
 #include "document/ui/SurfacePainting.h"
+#include "platform/qt/Accessibility.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/PictureButton.h"
 #include "platform/qt/widgets/RovingFocus.h"
@@ -43,6 +45,8 @@ ContainerButton::ContainerButton(QWidget* parent, int container, const EditState
     : QAbstractButton(parent), container_(container), state_(state), panel_(panel) {
   setObjectName(indexed("picPanelIcon", container));
   setAccessibleName(QString("Container %1").arg(container + 1));
+  setAccessibleRole(this, QAccessible::RadioButton);
+  setCheckable(true);
   setFixedSize(sizeHint());
   setAcceptDrops(true);
 }
@@ -55,7 +59,8 @@ void ContainerButton::refresh() {
   const IconContainerRec& record = state_.mIconRecs.at(static_cast<std::size_t>(container_));
   const QString path = toText(record.path.trimmed());
   setToolTip(path.isEmpty() ? accessibleName() : path.toHtmlEscaped());
-  setAccessibleDescription(isCurrent() ? "current" : "");
+  setDescription(this, toText(nameOf(record)));
+  setChecked(isCurrent());
   update();
 }
 
@@ -110,6 +115,7 @@ void ContainerButton::dropEvent(QDropEvent* event) {
 
 ContainerLabel::ContainerLabel(QWidget* parent, int container) : QLabel(QString::number(container + 1), parent) {
   setObjectName(indexed("lblPanelIcon", container));
+  hideFromAccessibility(this);
   setAlignment(Qt::AlignCenter);
   setAutoFillBackground(true);
   setCurrent(false);
@@ -129,6 +135,7 @@ void ContainerLabel::mouseReleaseEvent(QMouseEvent* event) {
 IconsPanelView::IconsPanelView(QWidget* parent, const EditState& state, const IconsPanel& panel)
     : QWidget(parent), state_(state) {
   setObjectName("picContainer(0)");
+  makeGroup(this, "Containers");
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);

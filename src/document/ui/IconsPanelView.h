@@ -30,6 +30,8 @@ class ContainerButton : public QAbstractButton {
   void filesDropped(std::vector<std::string> files);
 
  protected:
+  // A click asks for the container; refresh() checks the button.
+  void nextCheckState() override {}
   void paintEvent(QPaintEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;

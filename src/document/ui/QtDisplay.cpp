@@ -33,4 +33,8 @@ void QtDisplay::focusColorValue() {
   if (requests_.focusColorValue) requests_.focusColorValue();
 }
 
+void QtDisplay::announce(const std::string& text) {
+  if (requests_.announce) requests_.announce(text);
+}
+
 }  // namespace gp

@@ -20,6 +20,7 @@ class QtDisplay final : public QObject, public Display {
     std::function<void()> showPopUpMenu;
     std::function<void()> nudgeMousePointer;
     std::function<void()> focusColorValue;
+    std::function<void(const std::string& text)> announce;
   };
 
   // Calls the listener at each change of the part, for as long as the view lives.
@@ -33,6 +34,7 @@ class QtDisplay final : public QObject, public Display {
   void showPopUpMenu() override;
   void nudgeMousePointer() override;
   void focusColorValue() override;
+  void announce(const std::string& text) override;
 
  signals:
   void partChanged(gp::DisplayPart part);

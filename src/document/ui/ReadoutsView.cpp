@@ -1,5 +1,6 @@
 #include "document/ui/ReadoutsView.h"
 
+#include "platform/qt/Accessibility.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/TextCell.h"
 
@@ -18,10 +19,13 @@ constexpr std::array<Cell, kReadoutCount> kCells = {
 
 }  // namespace
 
+QString spokenPixel(QString text) { return text.replace("N/A", "transparent"); }
+
 ReadoutsView::ReadoutsView(QWidget* parent, const ScreenState& screen) : QWidget(parent), screen_(screen) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(0);
+  makeGroup(this, "Readouts");
   for (std::size_t i = 0; i < kCells.size(); ++i) {
     auto* cell = new TextCell(this, QString("lblDispXY(%1)").arg(i), kCells[i].name);
     cell->setText(kCells[i].widest);
@@ -33,7 +37,10 @@ ReadoutsView::ReadoutsView(QWidget* parent, const ScreenState& screen) : QWidget
 }
 
 void ReadoutsView::refresh() {
-  for (std::size_t i = 0; i < lblDispXY_.size(); ++i) lblDispXY_[i]->setText(toText(screen_.lblDispXY[i]));
+  for (std::size_t i = 0; i < lblDispXY_.size(); ++i) {
+    const QString text = toText(screen_.lblDispXY[i]);
+    lblDispXY_[i]->setText(text, spokenPixel(text));
+  }
   lblDispXY_[static_cast<std::size_t>(Readout::PixelRgb)]->setVisible(screen_.pixelRgbVisible);
 }
 

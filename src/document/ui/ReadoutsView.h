@@ -12,6 +12,9 @@ namespace gp {
 
 class TextCell;
 
+// Returns how a pixel is spoken: one that is "N/A" is transparent.
+QString spokenPixel(QString text);
+
 class ReadoutsView : public QWidget {
   Q_OBJECT
 

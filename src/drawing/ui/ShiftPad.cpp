@@ -3,6 +3,7 @@
 #include "document/ScreenState.h"
 #include "drawing/ToolTable.h"
 #include "drawing/Tools.h"
+#include "platform/qt/Accessibility.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/PictureButton.h"
 #include "platform/qt/widgets/RovingFocus.h"
@@ -17,6 +18,7 @@ namespace {
 constexpr int kCellsAcross = 3;
 constexpr int kCellSide = ShiftPad::kSide / kCellsAcross;
 constexpr const char* kPadTooltip = "Shift image (when middle square is sunken)";
+constexpr const char* kPadHint = "when middle square is sunken";
 
 struct CellLook {
   ShiftCell cell;
@@ -46,7 +48,8 @@ const CellLook& lookOf(ShiftCell cell) { return *std::ranges::find(kCells, cell,
 ShiftPad::ShiftPad(QWidget* parent, const ScreenState& screen, const Tools& tools, ShiftTool& shift)
     : QWidget(parent), screen_(screen), tools_(tools), shift_(shift), focus_(new RovingFocus(this, kCellsAcross)) {
   setObjectName("imgShiftDirBase");
-  setAccessibleName("Shift image");
+  makeGroup(this, "Shift image");
+  setAccessibleDescription(kPadHint);
   setToolTip(kPadTooltip);
   setFixedSize(kSide, kSide);
   for (std::size_t i = 0; i < kCells.size(); ++i) {
@@ -64,7 +67,7 @@ PictureButton* ShiftPad::makeTool() {
   const QString tooltip = toText(toolRow(kShift).tooltip);
   imgTool_ = new PictureButton(this, QString("imgTool(%1)").arg(kShift),
                                {lookOf(ShiftCell::Rest).picture, tooltip, kCellSide});
-  imgTool_->setCheckable(true);
+  imgTool_->setChoice();
   connect(imgTool_, &PictureButton::clicked, this, [this] { emit toolChosen(kShift); });
   return imgTool_;
 }
@@ -75,6 +78,7 @@ PictureButton* ShiftPad::makeDirection(ShiftCell cell) {
   auto* button =
       new PictureButton(this, QString("imgShiftDir(%1)").arg(indexOf(cell)), {look.picture, kPadTooltip, kCellSide});
   button->setAccessibleName(look.name);
+  button->setAccessibleDescription(kPadHint);
   button->setAttribute(Qt::WA_TransparentForMouseEvents);
   connect(button, &PictureButton::pressed, this, [=, this] { press(cell); });
   connect(button, &PictureButton::released, this, [this] { press(ShiftCell::Rest); });
@@ -99,6 +103,8 @@ void ShiftPad::letGo() {
   held_ = false;
   press(ShiftCell::Rest);
 }
+
+void ShiftPad::setKey(const QString& key) { imgTool_->setKey(key); }
 
 void ShiftPad::refresh() {
   const bool dimmed = !screen_.fraTools[1];

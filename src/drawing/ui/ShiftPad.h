@@ -25,6 +25,8 @@ class ShiftPad : public QWidget {
   ShiftPad(QWidget* parent, const ScreenState& screen, const Tools& tools, ShiftTool& shift);
 
   void refresh();
+  // The key that selects the tool.
+  void setKey(const QString& key);
 
  signals:
   void toolChosen(int tool);

@@ -3,6 +3,7 @@
 #include "colour/ColorSelection.h"
 #include "document/ScreenState.h"
 #include "drawing/Tools.h"
+#include "platform/qt/Accessibility.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/PictureButton.h"
 #include "platform/qt/widgets/RovingFocus.h"
@@ -14,6 +15,7 @@ namespace {
 
 constexpr int kColumns = 2;
 constexpr int kButtonSide = 28;
+constexpr int kClearToolsEntry = 0;  // of mnuTools
 
 }  // namespace
 
@@ -25,13 +27,15 @@ ToolBox::ToolBox(QWidget* parent, const ScreenState& screen, const Tools& tools,
       grid_(new QGridLayout(this)),
       focus_(new RovingFocus(this, kColumns)) {
   setObjectName("fraTools(1)");
+  makeGroup(this, "Tools");
   grid_->setContentsMargins(0, 0, 0, 0);
   grid_->setSpacing(0);
   for (const ToolRow& row : toolTable()) {
     if (row.index == kShift) continue;  // shown on the ShiftPad
     PictureButton* button = add(QString("imgTool(%1)").arg(row.index), {row.picture, toText(row.tooltip), kButtonSide});
     button->setAccessibleName(toText(toolName(row.index)));
-    button->setCheckable(true);
+    button->setAccessibleDescription(toText(toolHint(row.index)));
+    button->setChoice();
     button->setEnabled(tools.isAvailable(row.index));
     connect(button, &PictureButton::clicked, this, [this, tool = row.index] { emit toolChosen(tool); });
     imgTool_.at(static_cast<std::size_t>(row.index - kFirstTool)) = button;
@@ -39,8 +43,9 @@ ToolBox::ToolBox(QWidget* parent, const ScreenState& screen, const Tools& tools,
   imgClearAllTools_ = add("imgClearAllTools", {"clear-tools", "Clear all tools", kButtonSide});
   connect(imgClearAllTools_, &PictureButton::clicked, this, &ToolBox::clearAllChosen);
   imgColorPicker_ = add("imgColorPicker", {"color-picker", "Color Picker (pick color from icon)", kButtonSide});
-  imgColorPicker_->setAccessibleName("Color Picker");
-  imgColorPicker_->setCheckable(true);
+  imgColorPicker_->setAccessibleName(kColorPickerName);
+  imgColorPicker_->setAccessibleDescription("pick color from icon");
+  imgColorPicker_->setChoice();
   connect(imgColorPicker_, &PictureButton::clicked, this, &ToolBox::colorPickerChosen);
   refresh();
 }
@@ -54,6 +59,16 @@ PictureButton* ToolBox::add(const QString& objectName, const PictureButtonLook& 
   focus_->add(button);
   ++count_;
   return button;
+}
+
+PictureButton* ToolBox::button(int index) const {
+  if (index == kClearToolsEntry) return imgClearAllTools_;
+  if (index == kColorPickerPointer) return imgColorPicker_;
+  return index >= kFirstTool && index < kShift ? imgTool_.at(static_cast<std::size_t>(index - kFirstTool)) : nullptr;
+}
+
+void ToolBox::setKey(int index, const QString& key) {
+  if (PictureButton* named = button(index)) named->setKey(key);
 }
 
 void ToolBox::refresh() {

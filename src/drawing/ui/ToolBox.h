@@ -27,6 +27,9 @@ class ToolBox : public QWidget {
   ToolBox(QWidget* parent, const ScreenState& screen, const Tools& tools, const ColorSelection& colors);
 
   void refresh();
+  // The key of an entry of the Toolbox menu, by its index: a tool, Clear Tools or the colour picker. Others are
+  // ignored.
+  void setKey(int index, const QString& key);
 
  signals:
   void toolChosen(int tool);
@@ -34,6 +37,7 @@ class ToolBox : public QWidget {
   void clearAllChosen();
 
  private:
+  PictureButton* button(int index) const;
   PictureButton* add(const QString& objectName, const PictureButtonLook& look);
 
   const ScreenState& screen_;

@@ -1,6 +1,7 @@
 #include "files/browser/HeaderDiff.h"
 
 #include "colour/ColorCount.h"
+#include "document/Announcements.h"
 #include "document/Display.h"
 #include "document/Hourglass.h"
 #include "files/FileQuestions.h"
@@ -208,6 +209,7 @@ void HeaderDiff::salvageTo(const std::string& target) {
   if (defect == WriteDefect::NotOpened) return context_.boxes.tell(kNotSalvaged + target, BoxIcon::Exclamation);
   if (defect != WriteDefect::None) return context_.boxes.tell(kNotWritten);
   context_.boxes.tell("File salvaged to " + target + kSalvaged);
+  context_.display.announce(news::kSalvaged);
   if (!isSameFile(target, file_)) return;
   const int item = selected_;
   readMultiIconFile();

@@ -1,4 +1,6 @@
 // Commands of the browser that save single entries.
+#include "document/Announcements.h"
+#include "document/Display.h"
 #include "document/Hourglass.h"
 #include "document/ProcessValues.h"
 #include "files/FileQuestions.h"
@@ -7,6 +9,7 @@
 #include "files/format/SingleEntryFile.h"
 #include "files/opening/IconMessages.h"
 #include "files/saving/HeldFiles.h"
+#include "platform/dialogs/StartFolder.h"
 #include "platform/dialogs/clsGPDialog.h"
 #include "platform/files/Files.h"
 #include "platform/ports/MessageBoxes.h"
@@ -44,14 +47,18 @@ void MultiIconBrowser::cmdSaveSingle() {
   const std::string path = askToSave(context_, proposed, kIconFilter, kIconExtension);
   if (path.empty() || !mayWriteOver(context_, path, Saved::Other)) return;
   const bool isOwnFile = isSameFile(path, file());
-  if (!saveItem(selected_, path)) tellIconNotSaved(context_.boxes, path);
+  if (saveItem(selected_, path))
+    context_.display.announce(news::kSaved);
+  else
+    tellIconNotSaved(context_.boxes, path);
   // The list must match the file that a later command rewrites.
   if (isOwnFile || path == file()) openFile();
 }
 
 void MultiIconBrowser::cmdSplitSave() {
   if (!isIcon(selected_)) return;
-  const std::string folder = context_.dialog.chooseFolder(kFolderPattern, context_.process.mLastFolder);
+  const std::string folder =
+      context_.dialog.chooseFolder(kFolderPattern, existingStartFolder(context_.boxes, context_.process.mLastFolder));
   if (folder.empty()) return;
   const std::string stem = joined(folder, ParseFileName(file(), PathPart::BareName));
   const std::string question = "Single-icon files will be saved as " + stem + "_(Size)_(Color), ...\nTotally " +

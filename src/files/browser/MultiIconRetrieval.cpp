@@ -1,6 +1,9 @@
 #include "files/browser/MultiIconRetrieval.h"
 
+#include "document/Announcements.h"
+#include "document/Containers.h"
 #include "document/CurrentIconGuard.h"
+#include "document/Display.h"
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
@@ -81,6 +84,8 @@ void MultiIconRetrieval::load(const LoadAnswer& answer) {
     context_.document.arrival.fillContainer(answer.container, icon, record);
   context_.editor.UpdateCommands();
   context_.editor.AddHistory(file_);
+  const auto container = static_cast<std::size_t>(answer.container);
+  context_.display.announce(news::container(answer.container, nameOf(state_.mIconRecs.at(container))));
 }
 
 }  // namespace gp

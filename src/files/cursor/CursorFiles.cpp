@@ -1,6 +1,8 @@
 #include "files/cursor/CursorFiles.h"
 
 #include "document/AlphaIndicator.h"
+#include "document/Announcements.h"
+#include "document/Containers.h"
 #include "document/Display.h"
 #include "document/Document.h"
 #include "document/EditState.h"
@@ -52,6 +54,7 @@ void CursorFiles::doOpenCursorFile(const std::string& path, bool& ok) {
   }
   if (state_.screen.mActivePanel == kCursorPanel) setSpot(startOf(state_.current()));
   ok = true;
+  context_.display.announce(news::opened(nameOf(state_.current())));
   remindOfAlpha();
 }
 

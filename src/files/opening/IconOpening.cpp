@@ -1,6 +1,9 @@
 #include "files/opening/IconOpening.h"
 
 #include "document/AlphaIndicator.h"
+#include "document/Announcements.h"
+#include "document/Containers.h"
+#include "document/Display.h"
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
@@ -132,6 +135,7 @@ void IconOpening::show() {
   }
   if (!isSpoken()) return;
   context_.editor.AddHistory(path_);
+  context_.display.announce(news::opened(nameOf(state_.current())));
   remind();
 }
 

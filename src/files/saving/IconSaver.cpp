@@ -1,5 +1,6 @@
 #include "files/saving/IconSaver.h"
 
+#include "document/Announcements.h"
 #include "document/Containers.h"
 #include "document/CurrentIconGuard.h"
 #include "document/Display.h"
@@ -39,6 +40,12 @@ constexpr const char* kFileNotSaved = "Failed to save this file.";
 constexpr const char* kMultiIconReminder =
     "Reminder:  The original icon file contains multiple icons.\n\n"
     " If you don't wish to overwrite it, save to a different name.";
+
+// Empty when the folder exists, or the path states none.
+std::string missingFolderOf(const std::string& path) {
+  const std::string folder = ParseFileName(path, PathPart::DriveAndFolder);
+  return directoryExists(folder) ? std::string() : folder;
+}
 
 }  // namespace
 
@@ -91,6 +98,7 @@ bool IconSaver::endsAniSession(int size) {
 void IconSaver::showNewIcon(int size) {
   context_.document.arrival.arrive(transparentIcon(size), NewRecord());
   context_.drawing.tools.selectTool(kPaint);
+  context_.display.announce(news::newIcon(size));
 }
 
 void IconSaver::closeSidePanels() {
@@ -117,7 +125,7 @@ void IconSaver::doFileSave() {
   const IconContainerRec& record = state_.current();
   const std::string path = record.path.trimmed();
   if (record.fromMultiIconFile || !endsWithAnyCase(path, kIconEnding) || !FileExists(path))
-    return doSaveAs(SaveMode::Icon);
+    return saveAs(SaveMode::Icon, missingFolderOf(path));
   if (record.neverSaved && !mayWriteOverOriginal(context_, path)) {
     mSaveFailed_ = true;
     return;
@@ -137,6 +145,7 @@ bool IconSaver::saveOver(const std::string& path) {
   const auto read = findFileOfOneIcon(path);
   bool ok = false;
   if (read) saveIconTo(path, read, ok);
+  if (ok) context_.display.announce(news::kSaved);
   return read.has_value();
 }
 
@@ -157,13 +166,15 @@ void IconSaver::saveIconTo(const std::string& path, const std::optional<FileVers
   context_.editor.AddHistory(path);
 }
 
-void IconSaver::doSaveAs(SaveMode mode) {
+void IconSaver::doSaveAs(SaveMode mode) { saveAs(mode, {}); }
+
+void IconSaver::saveAs(SaveMode mode, const std::string& folder) {
   const SaveKind& kind = kindOf(mode);
   closeSidePanels();
   context_.document.iconsPanel.EndToolAction();
   context_.drawing.regions.clearRegion();
   if (mode == SaveMode::Icon) remindOfMultiIconFile();
-  const std::string path = askForName(kind);
+  const std::string path = askForName(kind, folder);
   if (path.empty() || !mayWriteOver(context_, path, Saved::CurrentIcon)) {
     mSaveFailed_ = true;
     return;
@@ -171,10 +182,12 @@ void IconSaver::doSaveAs(SaveMode mode) {
   lastSavedFile_ = path;
   bool ok = false;
   (this->*kind.save)(path, ok);
-  if (!ok)
+  if (!ok) {
     mSaveFailed_ = true;
-  else if (mode == SaveMode::Icon)
-    state_.current().modified = false;
+    return;
+  }
+  if (mode == SaveMode::Icon) state_.current().modified = false;
+  context_.display.announce(news::kSaved);
 }
 
 void IconSaver::remindOfMultiIconFile() {
@@ -190,8 +203,8 @@ std::string IconSaver::proposedName(SaveMode mode) const {
   return name;
 }
 
-std::string IconSaver::askForName(const SaveKind& kind) {
-  return askToSave(context_, proposedName(kind.mode), kind.filter, kind.extension);
+std::string IconSaver::askForName(const SaveKind& kind, const std::string& folder) {
+  return askToSave(context_, proposedName(kind.mode), kind.filter, kind.extension, OverwriteQuestion::ByDialog, folder);
 }
 
 // Saving as a cursor does not change the Current Icon's record.

@@ -50,7 +50,9 @@ class IconSaver {
   void closeSidePanels();
   void remindOfMultiIconFile();
   bool saveOver(const std::string& path);
-  std::string askForName(const SaveKind& kind);
+  std::string askForName(const SaveKind& kind, const std::string& folder);
+  // An empty folder means that of the last dialog.
+  void saveAs(SaveMode mode, const std::string& folder);
   // When `read` is given, the file must still be that version.
   void saveIconTo(const std::string& path, const std::optional<FileVersion>& read, bool& ok);
   void saveCursorTo(const std::string& path, bool& ok);

@@ -1,5 +1,6 @@
 #include "files/saving/MultiIconAdd.h"
 
+#include "document/Announcements.h"
 #include "document/Display.h"
 #include "document/Document.h"
 #include "document/EditState.h"
@@ -53,6 +54,7 @@ void MultiIconAdd::run() {
   context_.document.editingArea.UpdatePanelFromCurrent();
   context_.document.editingArea.RefreshStatusBar();
   context_.editor.UpdateCommands();
+  context_.display.announce(news::kSaved);
 }
 
 bool MultiIconAdd::refuse(const std::string& text) {

@@ -1,5 +1,6 @@
 #include "files/saving/MultiIconReplace.h"
 
+#include "document/Announcements.h"
 #include "document/Display.h"
 #include "document/Document.h"
 #include "document/EditState.h"
@@ -141,6 +142,7 @@ void MultiIconReplace::describeSaved(const std::string& path) {
   context_.document.editingArea.RefreshStatusBar();
   context_.editor.UpdateCommands();
   context_.editor.AddHistory(path);
+  context_.display.announce(news::kSaved);
 }
 
 }  // namespace gp

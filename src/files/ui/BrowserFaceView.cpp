@@ -108,15 +108,23 @@ void BrowserFaceView::makeControls() {
   preview_ =
       new EntryView(this, {indexed("lblIconInFile"), indexed("picIconInFile")}, browser_.picIconInFile(), kLargestIcon);
   selector_ = named(new QComboBox(this), QLatin1String(texts.selector));
+  selector_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   selector_->setAccessibleName(QLatin1String(texts.selectorName));
+  fillSelector();  // an empty combo box would keep its larger minimum width
   footnote_ = makeLabel(labelName(face_, kFootnoteLabel), "");
 
-  imgShowOtherSizes_ = new PictureButton(this, indexed("imgShowOtherSizes"),
-                                         {"extend", QStringLiteral("Show icons of other sizes"), kPictureButtonSide});
-  imgHideOtherSizes_ = new PictureButton(this, indexed("imgHideOtherSizes"),
-                                         {"shrink", QStringLiteral("Hide icons of other sizes"), kPictureButtonSide});
+  imgShowOtherSizes_ = makeOtherSizes("imgShowOtherSizes", "extend", "Show icons of other sizes");
+  imgHideOtherSizes_ = makeOtherSizes("imgHideOtherSizes", "shrink", "Hide icons of other sizes");
   connect(imgShowOtherSizes_, &QToolButton::clicked, this, [this] { showOtherSizes(true); });
   connect(imgHideOtherSizes_, &QToolButton::clicked, this, [this] { showOtherSizes(false); });
+}
+
+PictureButton* BrowserFaceView::makeOtherSizes(const char* name, const char* picture, const char* toolTip) {
+  auto* button = new PictureButton(this, indexed(name), {picture, QLatin1String(toolTip), kPictureButtonSide});
+  button->setText(QStringLiteral("Other sizes"));
+  button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  button->setFixedWidth(button->sizeHint().width());
+  return button;
 }
 
 // The file, and on the add face the icon to add.
@@ -250,12 +258,16 @@ void BrowserFaceView::refreshList() {
   if (hasOtherCount && isVisible()) lisIcons_->setFocus();
 }
 
+void BrowserFaceView::fillSelector() {
+  const int count = face_ == BrowserFace::Edit ? kContainerCount : browser_.addPositionCount();
+  if (selector_->count() != count) selector_->clear();
+  for (int i = selector_->count(); i < count; ++i) selector_->addItem(QString::number(i + 1));
+}
+
 void BrowserFaceView::refreshSelector() {
   const bool isEdit = face_ == BrowserFace::Edit;
   const QSignalBlocker quiet(selector_);
-  const int count = isEdit ? kContainerCount : browser_.addPositionCount();
-  if (selector_->count() != count) selector_->clear();
-  for (int i = selector_->count(); i < count; ++i) selector_->addItem(QString::number(i + 1));
+  fillSelector();
   selector_->setCurrentIndex(isEdit ? browser_.containerItem() : browser_.addPosition());
   const bool hasSelector = !isEdit || browser_.containerItem() >= 0;
   selectorLabel_->setVisible(hasSelector);

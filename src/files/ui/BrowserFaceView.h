@@ -38,6 +38,7 @@ class BrowserFaceView final : public QWidget {
   QString indexed(const char* control) const;
   QLabel* makeLabel(const QString& name, const char* caption, QWidget* buddy = nullptr);
   void makeControls();
+  PictureButton* makeOtherSizes(const char* name, const char* picture, const char* toolTip);
   void makeButtons();
   QGridLayout* makeHeading(const MultiIconExchange& exchange);
   QBoxLayout* makeListColumn();
@@ -46,6 +47,7 @@ class BrowserFaceView final : public QWidget {
   void connectSelector();
   void showOtherSizes(bool shown);
   void refreshList();
+  void fillSelector();
   void refreshSelector();
 
   MultiIconBrowser& browser_;

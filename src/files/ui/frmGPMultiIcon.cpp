@@ -131,13 +131,17 @@ void frmGPMultiIcon::showOtherSizes(bool shown) {
     resizeOnScreen(width, shown ? heightBefore + room : heightBefore - room);
 }
 
-// Resizes the form as far as the screen has room. The desktop chooses the first position; later ones stay on the
-// screen.
+// Resizes the form as far as the screen has room below and beside it: the controls stay where they are. The desktop
+// chooses the first position; the form moves only if its smallest size does not fit there.
 void frmGPMultiIcon::resizeOnScreen(int width, int height) {
   const QRect free = screen()->availableGeometry();
   const QSize border = frameGeometry().size() - size();
-  resize(std::min(width, free.width() - border.width()), std::min(height, free.height() - border.height()));
-  if (!isVisible()) return;
+  if (!isVisible()) {
+    resize(std::min(width, free.width() - border.width()), std::min(height, free.height() - border.height()));
+    return;
+  }
+  const QSize room = QSize(free.right() + 1, free.bottom() + 1) - QSize(x(), y()) - border;
+  resize(QSize(width, height).boundedTo(room).expandedTo(minimumSizeHint()));
   const QRect frame = frameGeometry();
   const QPoint last = free.bottomRight() - QPoint(frame.width() - 1, frame.height() - 1);
   const QPoint place(std::max(free.left(), std::min(frame.left(), last.x())),

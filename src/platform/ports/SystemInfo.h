@@ -9,8 +9,12 @@ class SystemInfo {
  public:
   virtual ~SystemInfo() = default;
   virtual int GetScreenBPP() = 0;  // bits per pixel
-  virtual int screenWidth() = 0;   // pixels
-  virtual int screenHeight() = 0;  // pixels
+  // The screen in the pixels of windows, which a desktop's scale makes larger than those of the screen.
+  virtual int screenWidth() = 0;
+  virtual int screenHeight() = 0;
+  // The screen in its physical pixels.
+  virtual int physicalScreenWidth() = 0;
+  virtual int physicalScreenHeight() = 0;
   virtual int GetPixelsPerInch() = 0;
   virtual long long totalMemoryKb() = 0;
   // Folders; empty when unknown.

@@ -1,5 +1,7 @@
 #include "platform/qt/Accessibility.h"
 
+#include "platform/qt/AccessibleRoles.h"
+
 #include <QAccessibleWidget>
 #include <QWidget>
 
@@ -8,18 +10,21 @@
 namespace gp {
 namespace {
 
-// The accessible interface of a read-only text: the whole value, with a caret that stays at the start.
+// The accessible interface of a widget that paints its content. A read-only text reports it as text, with a caret that
+// stays at the start; other widgets as description, which is what screen readers speak of a focused one. Reporting it
+// in both ways would have it read twice.
 class ValueInterface final : public QAccessibleWidget, public QAccessibleTextInterface {
  public:
   ValueInterface(QWidget* shown, const AccessibleValue& value)
       : QAccessibleWidget(shown, value.accessibleRole()), announced_(value.accessibleValue()) {}
 
   void* interface_cast(QAccessible::InterfaceType type) override {
-    if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
+    if (type == QAccessible::TextInterface && isText()) return static_cast<QAccessibleTextInterface*>(this);
     return QAccessibleWidget::interface_cast(type);
   }
   QString text(QAccessible::Text kind) const override {
-    if (kind == QAccessible::Value || kind == QAccessible::Description) return value();
+    if (kind == QAccessible::Value) return value();
+    if (kind == QAccessible::Description) return isText() || value() == name() ? QString() : value();
     return QAccessibleWidget::text(kind);
   }
   QAccessible::State state() const override {
@@ -32,10 +37,13 @@ class ValueInterface final : public QAccessibleWidget, public QAccessibleTextInt
     const QString now = value();
     if (now == announced_) return;
     const QString before = std::exchange(announced_, now);
-    QAccessibleTextUpdateEvent textChange(widget(), 0, before, now);
-    QAccessible::updateAccessibility(&textChange);
-    QAccessibleEvent descriptionChange(widget(), QAccessible::DescriptionChanged);
-    QAccessible::updateAccessibility(&descriptionChange);
+    if (isText()) {
+      QAccessibleTextUpdateEvent change(widget(), 0, before, now);
+      QAccessible::updateAccessibility(&change);
+    } else {
+      QAccessibleEvent change(widget(), QAccessible::DescriptionChanged);
+      QAccessible::updateAccessibility(&change);
+    }
   }
 
   int characterCount() const override { return static_cast<int>(value().size()); }
@@ -57,6 +65,8 @@ class ValueInterface final : public QAccessibleWidget, public QAccessibleTextInt
   }
 
  private:
+  bool isText() const { return role() == QAccessible::StaticText; }
+  QString name() const { return QAccessibleWidget::text(QAccessible::Name); }
   // Queried on each call: while a widget is being destroyed, its value is gone before its interface.
   QString value() const {
     const auto* shown = dynamic_cast<const AccessibleValue*>(object());
@@ -67,13 +77,26 @@ class ValueInterface final : public QAccessibleWidget, public QAccessibleTextInt
 };
 
 QAccessibleInterface* makeInterface(const QString&, QObject* object) {
+  auto* widget = qobject_cast<QWidget*>(object);
+  if (!widget) return nullptr;
   const auto* value = dynamic_cast<const AccessibleValue*>(object);
-  return value ? new ValueInterface(static_cast<QWidget*>(object), *value) : nullptr;
+  return value ? new ValueInterface(widget, *value) : makeRoleInterface(widget);
 }
 
 }  // namespace
 
 void installAccessibility() { QAccessible::installFactory(makeInterface); }
+
+void makeGroup(QWidget* widget, const QString& name, QAccessible::Role role) {
+  setAccessibleRole(widget, role);
+  widget->setAccessibleName(name);
+}
+
+void hideFromAccessibility(QWidget* widget) { setAccessibleRole(widget, QAccessible::NoRole); }
+
+void setDescription(QWidget* widget, const QString& description) {
+  if (widget->accessibleDescription() != description) widget->setAccessibleDescription(description);
+}
 
 void accessibleValueChanged(QWidget* widget) {
   if (!QAccessible::isActive()) return;

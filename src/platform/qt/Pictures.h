@@ -12,9 +12,11 @@ namespace gp {
 
 class Pictures {
  public:
-  // Width and height of all pictures except the logo and the program icon, in device-independent pixels.
+  // Width and height of all pictures except those of message boxes, the logo and the program icon, in
+  // device-independent pixels.
   static constexpr int kSize = 20;
   static constexpr int kLogoSize = 64;
+  static constexpr int kBoxSize = 40;
 
   static bool has(std::string_view name);
 

@@ -1,5 +1,7 @@
 #include "platform/qt/ProgramStyle.h"
 
+#include "platform/qt/Pictures.h"
+
 #include <QApplication>
 #include <QProxyStyle>
 #include <QStyleOption>
@@ -23,13 +25,35 @@ Option withVisibleOutline(const Option& option) {
   return visible;
 }
 
+struct BoxPicture {
+  QStyle::StandardPixmap standard;
+  const char* picture;
+};
+constexpr BoxPicture kBoxPictures[] = {
+    {QStyle::SP_MessageBoxInformation, "box-information"},
+    {QStyle::SP_MessageBoxQuestion, "box-question"},
+    {QStyle::SP_MessageBoxWarning, "box-exclamation"},
+    {QStyle::SP_MessageBoxCritical, "box-exclamation"},
+};
+
 class ProgramStyle final : public QProxyStyle {
  public:
   using QProxyStyle::QProxyStyle;
 
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* returned) const override {
-    return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
+    if (hint == SH_ComboBox_Popup || hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, returned);
+  }
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+    return metric == PM_MessageBoxIconSize ? Pictures::kBoxSize : QProxyStyle::pixelMetric(metric, option, widget);
+  }
+
+  QIcon standardIcon(StandardPixmap standard, const QStyleOption* option, const QWidget* widget) const override {
+    for (const BoxPicture& box : kBoxPictures)
+      if (box.standard == standard) return Pictures::icon(box.picture);
+    return QProxyStyle::standardIcon(standard, option, widget);
   }
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -40,6 +64,18 @@ class ProgramStyle final : public QProxyStyle {
       return QProxyStyle::drawPrimitive(element, &visible, painter, widget);
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+
+  // The style marks an entry of the menu bar only while its menu is open.
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (entry && element == CE_MenuBarItem && widget && widget->hasFocus() && entry->state & State_Selected) {
+      QStyleOptionMenuItem marked = *entry;
+      marked.state |= State_Sunken;
+      return QProxyStyle::drawControl(element, &marked, painter, widget);
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
   }
 
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,

@@ -9,12 +9,15 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QScreen>
+#include <QTreeView>
 
 #include <algorithm>
 
@@ -22,6 +25,7 @@ namespace gp {
 namespace {
 
 constexpr int kCustomColors = 16;
+constexpr QSize kDialogSize(800, 520);
 constexpr const char* kAllFiles = "*.*";
 
 bool meansAllFiles(const std::string& pattern) { return pattern.empty() || pattern == kAllFiles; }
@@ -44,6 +48,25 @@ QStringList qtFilters(const std::vector<FileFilter>& filters) {
   QStringList result;
   for (const FileFilter& filter : filters) result << qtFilter(filter);
   return result;
+}
+
+// The names take the width that the other columns leave.
+void fitColumns(QFileDialog& dialog) {
+  auto* list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+  if (!list) return;
+  QHeaderView* columns = list->header();
+  columns->setStretchLastSection(false);
+  columns->setSectionResizeMode(QHeaderView::ResizeToContents);
+  columns->setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
+void arrange(QFileDialog& dialog, QFileIconProvider& pictures) {
+  dialog.resize(kDialogSize.boundedTo(dialog.screen()->availableGeometry().size()));
+  dialog.setViewMode(QFileDialog::Detail);
+  dialog.setIconProvider(&pictures);
+  for (auto* list : dialog.findChildren<QAbstractItemView*>())
+    if (list->objectName() != QStringLiteral("sidebar")) list->setIconSize({FilePictures::kSide, FilePictures::kSide});
+  fitColumns(dialog);
 }
 
 void prepare(QFileDialog& dialog, const FileDialogRequest& request) {
@@ -136,7 +159,8 @@ bool run(QFileDialog& dialog, std::string& path, int& error) {
 
 }  // namespace
 
-QtFileDialogs::QtFileDialogs(FolderChooser folderChooser) : folderChooser_(std::move(folderChooser)) {}
+QtFileDialogs::QtFileDialogs(FolderChooser folderChooser, FilePicture pictureOf)
+    : folderChooser_(std::move(folderChooser)), pictures_(std::move(pictureOf)) {}
 
 QtFileDialogs::~QtFileDialogs() = default;
 
@@ -157,6 +181,7 @@ bool QtFileDialogs::openFile(const FileDialogRequest& request, std::string& path
   const DialogOwner owner;
   QFileDialog dialog(owner.window());
   prepareOpen(dialog, request);
+  arrange(dialog, pictures_);
   return run(dialog, path, error);
 }
 
@@ -164,6 +189,7 @@ bool QtFileDialogs::saveFile(const FileDialogRequest& request, std::string& path
   const DialogOwner owner;
   SaveDialog dialog(owner.window(), request);
   prepareSave(dialog, request);
+  arrange(dialog, pictures_);
   bool chosen = run(dialog, path, error);
   while (chosen && !mayReplace(dialog, request, path)) chosen = run(dialog, path, error);
   return chosen;

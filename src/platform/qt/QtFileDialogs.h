@@ -1,8 +1,9 @@
 // The common dialogs. They are Qt's own on every desktop, so that they look and behave the same and are accessible
-// everywhere. The folder chooser is a form of the program and is passed in.
+// everywhere. The folder chooser is a form of the program and is passed in, and so is what gives files their pictures.
 #pragma once
 
 #include "platform/ports/FileDialogs.h"
+#include "platform/qt/FilePictures.h"
 
 #include <functional>
 #include <memory>
@@ -18,7 +19,7 @@ class QtFileDialogs final : public FileDialogs {
   // Takes a pattern and a start folder; returns the chosen folder or an empty text.
   using FolderChooser = std::function<std::string(const std::string& pattern, const std::string& startFolder)>;
 
-  explicit QtFileDialogs(FolderChooser folderChooser);
+  explicit QtFileDialogs(FolderChooser folderChooser, FilePicture pictureOf = {});
   ~QtFileDialogs() override;
 
   bool openFile(const FileDialogRequest& request, std::string& path, int& error) override;
@@ -36,6 +37,7 @@ class QtFileDialogs final : public FileDialogs {
 
  private:
   FolderChooser folderChooser_;
+  FilePictures pictures_;
   std::unique_ptr<QPrinter> printer_;
 };
 

@@ -18,6 +18,11 @@ constexpr std::array kDepths = {4, 8, 16, 24, 32};
 constexpr const char* kMemoryFile = "/proc/meminfo";
 constexpr const char* kTotalMemory = "MemTotal:";
 
+int physicalPixels(int length) {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  return screen ? qRound(length * screen->devicePixelRatio()) : 0;
+}
+
 }  // namespace
 
 int QtSystemInfo::GetScreenBPP() {
@@ -36,6 +41,10 @@ int QtSystemInfo::screenHeight() {
   const QScreen* screen = QGuiApplication::primaryScreen();
   return screen ? screen->size().height() : 0;
 }
+
+int QtSystemInfo::physicalScreenWidth() { return physicalPixels(screenWidth()); }
+
+int QtSystemInfo::physicalScreenHeight() { return physicalPixels(screenHeight()); }
 
 int QtSystemInfo::GetPixelsPerInch() {
   const QScreen* screen = QGuiApplication::primaryScreen();

@@ -11,6 +11,8 @@ class QtSystemInfo final : public SystemInfo {
   int GetScreenBPP() override;
   int screenWidth() override;
   int screenHeight() override;
+  int physicalScreenWidth() override;
+  int physicalScreenHeight() override;
   int GetPixelsPerInch() override;
   long long totalMemoryKb() override;
   std::string windowsDirectory() override;

@@ -5,11 +5,14 @@
 #include "shell/Shell.h"
 
 #include <QAction>
+#include <QHelpEvent>
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
 #include <QShortcut>
+#include <QToolTip>
 
+#include <algorithm>
 #include <string_view>
 
 namespace gp {
@@ -44,6 +47,7 @@ void CommandMenus::addTopMenu(const TopMenu& top, QWidget* form, QMenuBar* bar) 
   menu->setObjectName(top.control);
   menu->menuAction()->setObjectName(top.control);
   fill(menu);
+  menu->installEventFilter(this);
   connect(menu, &QMenu::aboutToShow, this, &CommandMenus::refresh);
   if (top.inMenuBar)
     bar->addMenu(menu);
@@ -105,9 +109,21 @@ void CommandMenus::refresh() {
     action->setVisible(isVisible(*command, shell_));
     if (separator) continue;
     action->setText(toText(captionOf(*command, shell_)));
+    if (const std::string path = historyPathOf(*command, shell_); !path.empty())
+      action->setToolTip(pathToText(path).toHtmlEscaped());
     action->setEnabled(isEnabled(*command, shell_));
     if (action->isCheckable()) action->setChecked(isChecked(*command, shell_));
   }
+}
+
+bool CommandMenus::eventFilter(QObject* menu, QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QObject::eventFilter(menu, event);
+  const auto* help = static_cast<QHelpEvent*>(event);
+  const auto* hovered = static_cast<QMenu*>(menu)->actionAt(help->pos());
+  const auto entry = std::ranges::find(entries_, hovered, &Entry::action);
+  if (entry == entries_.end() || historyPathOf(*entry->command, shell_).empty()) return false;
+  QToolTip::showText(help->globalPos(), hovered->toolTip(), static_cast<QMenu*>(menu));
+  return true;
 }
 
 }  // namespace gp

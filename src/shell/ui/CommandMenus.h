@@ -28,6 +28,9 @@ class CommandMenus : public QObject {
   // Updates all entries.
   void refresh();
 
+  // Shows the tooltips of history entries, and of no others: those would only repeat the captions.
+  bool eventFilter(QObject* menu, QEvent* event) override;
+
  signals:
   // A command has run from a menu or by its key.
   void commandRan();

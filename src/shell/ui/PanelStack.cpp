@@ -111,7 +111,10 @@ void PanelStack::showPanel(int number) {
   const bool closes = number == kColorPanel && stack_->currentWidget() != widget;
   stack_->setCurrentWidget(widget);
   // A side panel takes the keyboard focus at once; the colour panel does not take it.
-  if (auto* frame = qobject_cast<PanelFrame*>(widget)) frame->focusFirstControl();
+  if (auto* frame = qobject_cast<PanelFrame*>(widget)) {
+    frame->focusFirstControl();
+    display_.announce(frame->accessibleName().toStdString());
+  }
   if (closes && hadFocus) emit focusGivenBack();
 }
 

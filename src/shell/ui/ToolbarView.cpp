@@ -1,14 +1,18 @@
 #include "shell/ui/ToolbarView.h"
 
+#include "platform/qt/Accessibility.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/PictureButton.h"
 #include "platform/qt/widgets/RovingFocus.h"
 #include "shell/Shell.h"
 
+#include <QKeySequence>
 #include <QPainter>
 
 namespace gp {
 namespace {
+
+QString nativeKey(const char* key) { return QKeySequence(key).toString(QKeySequence::NativeText); }
 
 constexpr int kButtonSide = 24;
 constexpr int kButtonGap = 2;
@@ -20,6 +24,7 @@ constexpr int kVertical = 3;  // above and below the buttons
 
 ToolbarView::ToolbarView(QWidget* parent, Shell& shell) : QWidget(parent), shell_(shell) {
   setObjectName("picToolbar");
+  makeGroup(this, "Toolbar", QAccessible::ToolBar);
   setFixedHeight(kButtonSide + 2 * kVertical);
   auto* focus = new RovingFocus(this, static_cast<int>(toolbarTable().size()));
   int x = kEdge;
@@ -31,6 +36,7 @@ ToolbarView::ToolbarView(QWidget* parent, Shell& shell) : QWidget(parent), shell
     }
     auto* button = new PictureButton(this, QString("cmdTB(%1)").arg(row.index),
                                      {command ? command->picture : "", toText(row.tooltip), kButtonSide});
+    if (command) button->setKey(nativeKey(command->key));
     button->move(x, kVertical);
     x += kButtonSide + kButtonGap;
     connect(button, &PictureButton::clicked, this, [this, &row] { shell_.runToolbar(row); });

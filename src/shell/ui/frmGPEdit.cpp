@@ -1,5 +1,7 @@
 #include "shell/ui/frmGPEdit.h"
 
+#include "document/Containers.h"
+#include "document/EditState.h"
 #include "document/ui/CurrentIconView.h"
 #include "document/ui/EditingAreaView.h"
 #include "document/ui/IconsPanelView.h"
@@ -11,6 +13,7 @@
 #include "drawing/ui/ToolBox.h"
 #include "files/ui/frmGPHeaderDiff.h"
 #include "files/ui/frmGPMultiIcon.h"
+#include "platform/qt/Accessibility.h"
 #include "platform/qt/DialogOwner.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/Pictures.h"
@@ -18,6 +21,7 @@
 #include "shell/Shell.h"
 #include "shell/ui/CommandMenus.h"
 #include "shell/ui/EditingAreaEvents.h"
+#include "shell/ui/MenuBar.h"
 #include "shell/ui/PanelStack.h"
 #include "shell/ui/PointerView.h"
 #include "shell/ui/ToolbarView.h"
@@ -27,11 +31,13 @@
 #include <QCursor>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QLabel>
 #include <QMenu>
-#include <QMenuBar>
 #include <QTimer>
 #include <QVBoxLayout>
+
+#include <string_view>
 
 namespace gp {
 namespace {
@@ -39,6 +45,8 @@ namespace {
 constexpr int kEdge = 3;         // around and between the columns, pixels
 constexpr int kEraseRegion = 5;  // index of mnuEditSub
 constexpr int kToolColumnWidth = ShiftPad::kSide;
+
+const QString kChangedMark = QStringLiteral("[*]");
 
 int pixelsOf(int twips) { return twips / kTwipsPerPixel; }
 int twipsOf(int pixels) { return pixels * kTwipsPerPixel; }
@@ -48,7 +56,6 @@ int twipsOf(int pixels) { return pixels * kTwipsPerPixel; }
 frmGPEdit::frmGPEdit(Shell& shell, QtDisplay& display, std::string commandLine)
     : shell_(shell), display_(display), commandLine_(std::move(commandLine)), commandsTimer_(new QTimer(this)) {
   setObjectName("frmGPEdit");
-  setWindowTitle(kProgramName);
   setWindowIcon(Pictures::icon("glimmerpane"));
 
   auto* whole = new QWidget(this);
@@ -59,7 +66,9 @@ frmGPEdit::frmGPEdit(Shell& shell, QtDisplay& display, std::string commandLine)
   rows->addWidget(makeMiddle(whole), 1);
   rows->addWidget(statusBar_ = new StatusBarView(whole, shell_.screen()));
   setCentralWidget(whole);
-  menus_ = new CommandMenus(this, menuBar(), shell_);
+  auto* bar = new MenuBar(this);
+  setMenuBar(bar);
+  menus_ = new CommandMenus(this, bar, shell_);
 
   connectEditingArea();
   connectIconsPanel();
@@ -105,6 +114,7 @@ QWidget* frmGPEdit::makeToolColumn(QWidget* parent) {
                   Qt::AlignHCenter);
   auto* label = new QLabel("1:1", column);
   label->setObjectName("lblIcon");
+  hideFromAccessibility(label);  // picIcon says what it is
   label->setAlignment(Qt::AlignCenter);
   rows->addWidget(lblIcon_ = label);
   rows->addWidget(picIcon_ = new CurrentIconView(column, shell_.state()), 0, Qt::AlignHCenter);
@@ -126,7 +136,7 @@ void frmGPEdit::connectEditingArea() {
   EditingAreaView& view = room_->view();
   view.setPixelDescription([this](QPoint pixel) {
     return QString("X=%1  Y=%2  ").arg(pixel.x() + 1).arg(pixel.y() + 1) +
-           toText(shell_.drawing().tools.pixelText(pixel.x(), pixel.y()));
+           spokenPixel(toText(shell_.drawing().tools.pixelText(pixel.x(), pixel.y())));
   });
   connectTools(view, shell_);
   addZoomKeys(this, [this](ZoomStep step) { room_->zoom(step); });
@@ -156,6 +166,7 @@ void frmGPEdit::connectIconsPanel() {
 }
 
 void frmGPEdit::connectToolBox() {
+  setKeys();
   connect(shiftPad_, &ShiftPad::toolChosen, this, &frmGPEdit::chooseTool);
   connect(toolBox_, &ToolBox::toolChosen, this, &frmGPEdit::chooseTool);
   connect(toolBox_, &ToolBox::colorPickerChosen, this, [this] {
@@ -168,6 +179,18 @@ void frmGPEdit::connectToolBox() {
     shell_.guarded("imgShiftDir_MouseUp", [&] { shell_.shiftTowards(cell); });
     shiftPad_->refresh();
   });
+}
+
+// The tool box shows the keys of the Toolbox menu.
+void frmGPEdit::setKeys() {
+  for (const Command& command : commandTable()) {
+    if (std::string_view(command.control) != "mnuTools") continue;
+    const QString key = QKeySequence(command.key).toString(QKeySequence::NativeText);
+    if (command.index == kShift)
+      shiftPad_->setKey(key);
+    else
+      toolBox_->setKey(command.index, key);
+  }
 }
 
 void frmGPEdit::chooseTool(int tool) {
@@ -194,6 +217,7 @@ void frmGPEdit::setRequests() {
     room_->view().refreshPart(x, y, width, height);
     picIcon_->update();
   };
+  requests.announce = [this](const std::string& text) { statusBar_->announce(toText(text)); };
   requests.showPopUpMenu = [this] { popUp(QCursor::pos()); };
   requests.nudgeMousePointer = [] {
     const QPoint at = QCursor::pos();
@@ -208,6 +232,17 @@ void frmGPEdit::refreshCommandsSoon() { commandsTimer_->start(0); }
 void frmGPEdit::refreshCommands() {
   menus_->refresh();
   toolbar_->refresh();
+  refreshTitle();
+}
+
+// With the desktop's mark while the Current Icon has unsaved changes. A mark in the name itself is doubled, which Qt
+// shows as it is.
+void frmGPEdit::refreshTitle() {
+  const EditState& state = shell_.state();
+  const QString program = kProgramName;
+  const QString name = toText(nameOf(state.current())).replace(kChangedMark, kChangedMark + kChangedMark);
+  setWindowTitle(state.current().present ? name + kChangedMark + " - " + program : program);
+  setWindowModified(state.IsIconChanged());
 }
 
 void frmGPEdit::refreshCurrentIcon() {

@@ -65,6 +65,8 @@ class frmGPEdit final : public QMainWindow, public ShellForms, public FileForms 
   void chooseTool(int tool);
   void refreshCommands();
   void refreshCommandsSoon();
+  void refreshTitle();
+  void setKeys();
   void refreshCurrentIcon();
   void resizeRoom(const QSize& client);
   void popUp(const QPoint& at);

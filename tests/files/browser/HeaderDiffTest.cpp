@@ -403,6 +403,7 @@ TEST_F(HeaderDiffTest, AFileThatCannotBeCreatedIsReported) {
   const std::string readOnly = folder.write("ro.ico", {1, 2, 3});
   std::filesystem::permissions(readOnly, std::filesystem::perms::owner_read);
   dialogs.paths = {readOnly};
+  boxes.expectTold(folder.path("no folder/") + "\nFolder not found.", BoxIcon::Exclamation);
   boxes.expectAsked(readOnly + " already in existence.\n\nOverwrite?\n", BoxAnswer::Yes);
   boxes.expectTold("Failed to salvage to " + readOnly, BoxIcon::Exclamation);
   diff->cmdSalvage();

@@ -58,12 +58,13 @@ TEST_F(BrowserSavesTest, SavesTheSelectedEntryAsAFileOfItsOwn) {
 
 TEST_F(BrowserSavesTest, TheDialogOffersIconFiles) {
   browse({anyEntry(16, 4), anyEntry(32, 8)});
-  state.process.mLastFolder = "/last";
+  state.process.mLastFolder = folder.path("last");
+  std::filesystem::create_directory(folder.path("last"));
   save("one.ico");
   const FileDialogRequest& request = dialogs.requests.back();
   EXPECT_EQ(request.filters, (std::vector<FileFilter>{{"Icon files (*.ico)", "*.ico"}}));
   EXPECT_EQ(request.defaultExtension, "ico");
-  EXPECT_EQ(request.folder, "/last");
+  EXPECT_EQ(request.folder, folder.path("last"));
 }
 
 TEST_F(BrowserSavesTest, ProposesBitsForTrueColorAndColorsOtherwise) {

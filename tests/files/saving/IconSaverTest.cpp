@@ -169,6 +169,29 @@ TEST_F(IconSaverTest, SaveAsksForANameInEveryOtherCase) {
   EXPECT_TRUE(saver.mSaveFailed());
 }
 
+TEST_F(IconSaverTest, SaveReportsThatTheFilesFolderIsGoneAndStartsAboveIt) {
+  fs::create_directory(folder.path("sub"));
+  given(entryOf(anyPicture(32, 4)), "sub/icon.ico");
+  state.process.mLastFolder = folder.path("");
+  fs::remove_all(folder.path("sub"));
+  dialogs.paths = {""};
+  boxes.expectTold(folder.path("sub/") + "\nFolder not found.", BoxIcon::Exclamation);
+  saver.doFileSave();
+  ASSERT_EQ(dialogs.requests.size(), 1u);
+  EXPECT_TRUE(fs::equivalent(dialogs.requests[0].folder, folder.path("")));
+  EXPECT_TRUE(boxes.done());
+}
+
+TEST_F(IconSaverTest, SaveAsReportsThatTheFolderOfTheLastDialogIsGone) {
+  given(entryOf(anyPicture(32, 4)));
+  state.process.mLastFolder = folder.path("gone/deeper/");
+  dialogs.paths = {""};
+  boxes.expectTold(folder.path("gone/deeper/") + "\nFolder not found.", BoxIcon::Exclamation);
+  saver.doSaveAs(SaveMode::Icon);
+  EXPECT_TRUE(fs::equivalent(dialogs.requests.back().folder, folder.path("")));
+  EXPECT_EQ(state.process.mLastFolder, folder.path("gone/deeper/")) << "a cancelled dialog changes nothing";
+}
+
 TEST_F(IconSaverTest, AFileThatIsNoFileOfOneIconAnyMoreGoesToAnotherName) {
   const std::string path = given(anyEntry(32, 4));
   IcoFile cursor{{anyEntry(32, 4)}, 0, 2, {}};

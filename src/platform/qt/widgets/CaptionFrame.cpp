@@ -1,5 +1,7 @@
 #include "platform/qt/widgets/CaptionFrame.h"
 
+#include "platform/qt/Accessibility.h"
+
 #include <QPainter>
 
 namespace gp {
@@ -14,6 +16,7 @@ constexpr int kCaptionGap = 3;
 CaptionFrame::CaptionFrame(QWidget* parent, const QString& objectName, const QString& caption)
     : QWidget(parent), caption_(caption) {
   setObjectName(objectName);
+  makeGroup(this, caption);
 }
 
 QMargins CaptionFrame::frameMargins() const {

@@ -1,5 +1,6 @@
 #include "platform/qt/widgets/PanelFrame.h"
 
+#include "platform/qt/Accessibility.h"
 #include "platform/qt/Pictures.h"
 
 #include <QHBoxLayout>
@@ -28,6 +29,7 @@ QPushButton* makeButton(QWidget* parent, const char* objectName, const QString& 
 
 PanelFrame::PanelFrame(QWidget* parent, int number) : QWidget(parent), title_(makeTitle()), rows_(new QVBoxLayout) {
   setObjectName(QString("fraPanel(%1)").arg(number));
+  setAccessibleRole(this, QAccessible::Grouping);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(kGap);

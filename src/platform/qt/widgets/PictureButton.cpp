@@ -1,9 +1,13 @@
 #include "platform/qt/widgets/PictureButton.h"
 
+#include "platform/qt/Accessibility.h"
+#include "platform/qt/KeyToolTip.h"
 #include "platform/qt/Pictures.h"
 
+#include <QHelpEvent>
 #include <QStyleOptionToolButton>
 #include <QStylePainter>
+#include <QToolTip>
 
 namespace gp {
 
@@ -16,6 +20,25 @@ PictureButton::PictureButton(QWidget* parent, const QString& objectName, const P
   setIcon(Pictures::icon(look.picture));
   setToolTip(look.tooltip);
   setAccessibleName(look.tooltip);
+  setAccessibleRole(this, QAccessible::PushButton);
+}
+
+void PictureButton::setKey(const QString& key) {
+  key_ = key;
+  setAccessibleKey(this, key);
+}
+
+void PictureButton::setChoice() {
+  setCheckable(true);
+  setAccessibleRole(this, QAccessible::RadioButton);
+}
+
+// The key is added here, so that the tooltip remains the plain text that is also the button's name.
+bool PictureButton::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip || key_.isEmpty()) return QToolButton::event(event);
+  const auto* help = static_cast<QHelpEvent*>(event);
+  QToolTip::showText(help->globalPos(), toolTipWithKey(toolTip(), key_, QToolTip::palette()), this);
+  return true;
 }
 
 void PictureButton::setDimmed(bool dimmed) {

@@ -29,9 +29,10 @@ TextCell::TextCell(QWidget* parent, const QString& objectName, const QString& ac
   setAccessibleName(accessibleName);
 }
 
-void TextCell::setText(const QString& text) {
-  if (text_ == text) return;
+void TextCell::setText(const QString& text, const QString& spoken) {
+  if (text_ == text && spoken_ == spoken) return;
   text_ = text;
+  spoken_ = spoken;
   update();
   accessibleValueChanged(this);
 }
@@ -39,6 +40,8 @@ void TextCell::setText(const QString& text) {
 QSize TextCell::sizeHint() const {
   return {fontMetrics().horizontalAdvance(text_) + kSlack + 2 * kMargin, fontMetrics().height() + kLeading};
 }
+
+QSize TextCell::minimumSizeHint() const { return {0, sizeHint().height()}; }
 
 QString TextCell::shownText() const {
   return fontMetrics().elidedText(printable(text_), elide_, width() - 2 * kMargin);

@@ -16,13 +16,17 @@ class TextCell : public QWidget, public AccessibleValue {
 
   TextCell(QWidget* parent, const QString& objectName, const QString& accessibleName);
 
-  void setText(const QString& text);
+  void setText(const QString& text) { setText(text, text); }
+  // `spoken` is what assistive technology gets for the text.
+  void setText(const QString& text, const QString& spoken);
   const QString& text() const { return text_; }
   void setElideMode(Qt::TextElideMode mode) { elide_ = mode; }
   void setAlignment(Qt::Alignment alignment) { alignment_ = alignment; }
 
-  QString accessibleValue() const override { return text_; }
+  QString accessibleValue() const override { return spoken_; }
   QSize sizeHint() const override;
+  // One line in height, so that a crowded form does not cut it.
+  QSize minimumSizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -32,6 +36,7 @@ class TextCell : public QWidget, public AccessibleValue {
   QString shownText() const;
 
   QString text_;
+  QString spoken_;
   Qt::TextElideMode elide_ = Qt::ElideRight;
   Qt::Alignment alignment_ = Qt::AlignLeft;
 };
