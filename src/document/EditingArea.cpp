@@ -70,14 +70,16 @@ void EditingArea::showSquare(int left, int top, int right, int bottom, Color col
   display_.repaintEditingArea(left, top, right - left + 1, bottom - top + 1);
 }
 
-void EditingArea::ChooseMagnify(int size) {
+void EditingArea::ChooseMagnify(int size) { state_.gMagnification = zoom_ != 0 ? zoom_ : optionMagnification(size); }
+
+void EditingArea::chooseMagnifyOfEmpty() { state_.gMagnification = optionMagnification(kDefaultIconSize); }
+
+int EditingArea::optionMagnification(int size) const {
   const bool small = size <= kLargestSmallIcon;
   const bool enlarged = state_.options.useEnlargedEditingArea && state_.screen.dispContainerWidth >= kEnlargedRoom &&
                         state_.screen.dispContainerHeight >= kEnlargedRoom;
-  if (enlarged)
-    state_.gMagnification = small ? 15 : 10;
-  else
-    state_.gMagnification = small ? 12 : 8;
+  if (enlarged) return small ? 15 : 10;
+  return small ? 12 : 8;
 }
 
 void EditingArea::sizePicDisp(int width, int height) {
@@ -123,7 +125,7 @@ void EditingArea::showChangedIcon() {
 }
 
 void EditingArea::showEmpty() {
-  ChooseMagnify(kDefaultIconSize);
+  chooseMagnifyOfEmpty();
   const int side = state_.gMagnification * kDefaultIconSize;
   sizePicDisp(side, side);
 }

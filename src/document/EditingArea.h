@@ -31,8 +31,13 @@ class EditingArea {
   // pixels, both corners are included, and the square may reach beyond the edge.
   void showSquare(int left, int top, int right, int bottom, Color color);
 
-  // Sets gMagnification for an icon size, from the option and the available room.
+  // Sets gMagnification: the zoom, or else what the option gives for an icon size in the available room.
   void ChooseMagnify(int size);
+  // The same for an empty Editing Area, which is never zoomed.
+  void chooseMagnifyOfEmpty();
+  // The magnification that a person has chosen for all icons, 0 for that of the option. The next ChooseMagnify() uses
+  // it.
+  void setZoom(int magnification) { zoom_ = magnification; }
   // Rebuilds PicGrid and gives picDisp its size. Pumps messages. Does nothing while no icon is present.
   void BuildGrid();
   // Rebuilds picDisp from picImage and picMask, with the grid over it, then redraws a region.
@@ -53,10 +58,12 @@ class EditingArea {
   void sizePicDisp(int width, int height);
   // Gives picDisp the size of the magnified icon.
   void fitPicDisp();
+  int optionMagnification(int size) const;
 
   Context context_;
   EditState& state_;
   Display& display_;
+  int zoom_ = 0;
 };
 
 }  // namespace gp

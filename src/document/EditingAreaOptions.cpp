@@ -27,11 +27,31 @@ void EditingAreaOptions::ApplyEnlargedOption() {
     context_.editor.clearAllTools();
     context_.editor.clearRegion();
   }
+  editingArea_.setZoom(0);
+  chooseMagnify();
+  showAtMagnification();
+}
+
+void EditingAreaOptions::zoom(ZoomStep step) {
+  if (!state_.current().present && step != ZoomStep::ToOption) return;
+  const int before = state_.gMagnification;
+  editingArea_.setZoom(step == ZoomStep::ToOption ? 0 : zoomed(before, step));
+  chooseMagnify();
+  if (state_.gMagnification != before) showAtMagnification();
+}
+
+void EditingAreaOptions::chooseMagnify() {
+  if (state_.current().present)
+    editingArea_.ChooseMagnify(state_.current().size);
+  else
+    editingArea_.chooseMagnifyOfEmpty();
+}
+
+void EditingAreaOptions::showAtMagnification() {
   if (!state_.current().present) {
     editingArea_.showEmpty();
     return;
   }
-  editingArea_.ChooseMagnify(state_.current().size);
   editingArea_.BuildGrid();
   editingArea_.MagnifyIcon();
 }
@@ -41,7 +61,7 @@ void EditingAreaOptions::setRoom(int width, int height) {
   const int before = state_.gMagnification;
   state_.screen.dispContainerWidth = width;
   state_.screen.dispContainerHeight = height;
-  editingArea_.ChooseMagnify(state_.current().present ? state_.current().size : kDefaultIconSize);
+  chooseMagnify();
   if (state_.gMagnification != before) ApplyEnlargedOption();
 }
 

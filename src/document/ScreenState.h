@@ -21,8 +21,19 @@ inline constexpr int kColorPickerPointer = 2;  // the picker's index in mnuTools
 inline constexpr int kStatusPanelCount = 5;
 enum class StatusPanel { Path = 0, Discrepancy = 1, MultiIcon = 2, Size = 3, Alpha = 4 };
 
-inline constexpr int kReadoutCount = 3;
-enum class Readout { Position = 0, PixelRgb = 1, Region = 2 };
+inline constexpr int kReadoutCount = 4;
+// Size is the width and height of a shape or a region while it is drawn.
+enum class Readout { Position = 0, PixelRgb = 1, Region = 2, Size = 3 };
+
+// Where the view outlines a region: its box in Editing Area pixels, right and bottom on the lines behind the last
+// pixels. It can reach beyond the icon.
+struct RegionOutline {
+  static constexpr int kReach = 6;  // pixels by which what the view paints can reach beyond the box
+  int left = 0, top = 0, right = 0, bottom = 0;
+  bool shown = false;
+  bool hasHandles = false;  // the mouse can move its sides
+  bool operator==(const RegionOutline&) const = default;
+};
 
 struct ScreenState {
   std::array<std::string, kStatusPanelCount> lblStatusPanel;
@@ -39,6 +50,7 @@ struct ScreenState {
   bool fraColorMixerVisible = false;
   bool hourglass = false;
   int editingPointer = kDefaultPointer;
+  RegionOutline regionOutline;   // Regions
   int brushIndex = 0;            // list index of cboBrushSize; the brush is one wider
   int dispContainerWidth = 400;  // client size of picDispContainer, pixels
   int dispContainerHeight = 400;

@@ -2,6 +2,7 @@
 
 #include "platform/text/Numbers.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -70,6 +71,13 @@ bool isFlatBox(const DrawRect& box) { return std::abs(box.x2 - box.x1) < 1 || st
 
 bool RegionLimits::allow(double left, double top) const {
   return left >= mRegionMinX && left <= mRegionMaxX && top >= mRegionMinY && top <= mRegionMaxY;
+}
+
+std::pair<double, double> RegionLimits::nearest(double left, double top, int magnification) const {
+  const auto within = [m = static_cast<double>(magnification)](double position, int least, int most) {
+    return std::clamp(position, std::ceil(least / m) * m, std::floor(most / m) * m);
+  };
+  return {within(left, mRegionMinX, mRegionMaxX), within(top, mRegionMinY, mRegionMaxY)};
 }
 
 RegionLimits limitsOfRegion(const DrawRect& box, const RegionScale& scale) {

@@ -5,6 +5,7 @@
 #include "drawing/DrawState.h"
 
 #include <string>
+#include <utility>
 
 namespace gp {
 
@@ -36,6 +37,8 @@ struct RegionLimits {
   int mRegionMaxX = 0;
   int mRegionMaxY = 0;
   bool allow(double left, double top) const;
+  // Returns the corner on the grid of that magnification that is nearest to (left, top) and allowed.
+  std::pair<double, double> nearest(double left, double top, int magnification) const;
 };
 RegionLimits limitsOfRegion(const DrawRect& box, const RegionScale& scale);
 

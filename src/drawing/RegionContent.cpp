@@ -143,6 +143,7 @@ void Regions::renderRegionFast() {
     former = {0, 0, static_cast<double>(state_.picDisp.width()), static_cast<double>(state_.picDisp.height())};
   }
   dragView_.moveContent(former, draw_.region);
+  repaintBox();
   drawRegionBox();
 }
 

@@ -62,8 +62,20 @@ void Regions::drawRegionBox() {
   BandBox(state_.picDisp, drawnSide(box.x1, width), drawnSide(box.y1, height), drawnSide(box.x2, width),
           drawnSide(box.y2, height));
   shown_ = box;
+  outlineBox(true);
   repaintBox();
   updateRegionLabel();
+}
+
+// Sides of floating content do not move.
+void Regions::outlineBox(bool shown) {
+  RegionOutline& outline = state_.screen.regionOutline;
+  outline = {};
+  if (!shown) return;
+  DrawRect box = draw_.region;
+  normalizeBox(box);
+  outline = {roundToInteger(box.x1), roundToInteger(box.y1), roundToInteger(box.x2), roundToInteger(box.y2), true,
+             exists() && !floating_};
 }
 
 void Regions::wipeRegionBox() {
@@ -74,9 +86,11 @@ void Regions::wipeRegionBox() {
 void Regions::repaintBox() {
   DrawRect box = shown_;
   normalizeBox(box);
-  const int left = roundToInteger(box.x1) - 1;
-  const int top = roundToInteger(box.y1) - 1;
-  context_.display.repaintEditingArea(left, top, roundToInteger(box.x2) - left + 1, roundToInteger(box.y2) - top + 1);
+  constexpr int kReach = RegionOutline::kReach;
+  const int left = roundToInteger(box.x1) - kReach;
+  const int top = roundToInteger(box.y1) - kReach;
+  context_.display.repaintEditingArea(left, top, roundToInteger(box.x2) - left + kReach,
+                                      roundToInteger(box.y2) - top + kReach);
 }
 
 void Regions::updateRegionLabel() {

@@ -12,6 +12,9 @@
 //   *1 a box without width or height      *3 after finishDrag
 //   *2 on a side; inside; outside         *4 with the option to update only the Editing Area
 //
+// The keyboard presses, moves and releases too, on whole pixels: a press never leads to Sizing, and merges outside the
+// pixels of the region. giveUp() leads from Drawing to None, and from the others to Standing at the place of the press.
+//
 // In every phase: clearRegion() and dropContent() lead to None, a pasted picture leads to Standing, and another icon on
 // the Editing Area calls clearRegion() before it arrives. Transformed content leads to Standing, after finishDrag().
 #pragma once

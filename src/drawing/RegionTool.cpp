@@ -12,12 +12,17 @@ RegionTool::RegionTool(const Context& context, UndoHistory& history, Regions& re
     : context_(context), history_(history), regions_(regions), tools_(tools) {}
 
 void RegionTool::press(const ToolMouse& mouse) {
-  if (!regions_.press(static_cast<double>(mouse.x), static_cast<double>(mouse.y))) return merge();
+  const bool taken = mouse.byKeyboard ? regions_.pressPixel(mouse.pixelX, mouse.pixelY)
+                                      : regions_.press(static_cast<double>(mouse.x), static_cast<double>(mouse.y));
+  if (!taken) return merge();
   pumpWhileSizing();
 }
 
 void RegionTool::move(const ToolMouse& mouse) {
-  regions_.move(static_cast<double>(mouse.x), static_cast<double>(mouse.y), mouse.modifiers);
+  if (mouse.byKeyboard)
+    regions_.movePixel(mouse.pixelX, mouse.pixelY, mouse.modifiers);
+  else
+    regions_.move(static_cast<double>(mouse.x), static_cast<double>(mouse.y), mouse.modifiers);
   pumpWhileSizing();
 }
 
@@ -28,6 +33,14 @@ void RegionTool::release(const ToolMouse& /*mouse*/) {
 }
 
 void RegionTool::cancel() { regions_.cancel(); }
+
+bool RegionTool::isHeld() const { return regions_.isDragged(); }
+
+void RegionTool::giveUp() { regions_.giveUp(); }
+
+void RegionTool::followMagnification() { regions_.followMagnification(); }
+
+std::optional<DrawnSize> RegionTool::drawnSize() const { return regions_.drawnSize(); }
 
 // The region stays merged where it is, and a new one can be drawn.
 void RegionTool::merge() {

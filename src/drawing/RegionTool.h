@@ -19,6 +19,10 @@ class RegionTool : public DrawingTool {
   void move(const ToolMouse& mouse) override;
   void release(const ToolMouse& mouse) override;
   void cancel() override;
+  bool isHeld() const override;
+  void giveUp() override;
+  void followMagnification() override;
+  std::optional<DrawnSize> drawnSize() const override;
   int pointer(float x, float y) const override;
 
  private:

@@ -54,6 +54,7 @@ Regions::Regions(const Context& context, EditingArea& editingArea, UndoHistory& 
 void Regions::enter(RegionPhase phase) {
   phase_ = phase;
   if (phase != RegionPhase::Sizing) pulledEdge_ = RegionEdge::None;
+  if (!isDragged()) byKeyboard_ = false;
   if (!exists()) floating_ = opaque_ = pasted_ = false;
   state_.mRegionExists = exists();
   state_.mPendingPaint = floating_;
@@ -70,7 +71,7 @@ bool Regions::press(double x, double y) {
     pullEdge(x, y);
   } else if (isInBox(draw_.region, corner.x, corner.y)) {
     grab_ = {draw_.region.x1 - corner.x, draw_.region.y1 - corner.y};
-    enter(RegionPhase::Moving);
+    takeHold();
   } else {
     return false;
   }
@@ -107,6 +108,7 @@ void Regions::beginBox(const Point& corner) {
   clearRegion();
   enter(RegionPhase::Drawing);
   draw_.region = {corner.x, corner.y, corner.x, corner.y};
+  magnification_ = state_.gMagnification;
   regionToPixels();
   drawRegionBox();
 }
@@ -125,6 +127,8 @@ void Regions::finishBox() {
   if (normalizeRegion()) updateRegionLabel();
   liftRegion(true);
   enter(RegionPhase::Standing);
+  outlineBox(true);
+  repaintBox();
   announceSize();
 }
 
@@ -164,11 +168,20 @@ void Regions::finishEdge() {
 
 // Moving the region.
 
+void Regions::takeHold() {
+  atPress_ = {draw_.draw, state_.picImage, state_.picMask, state_.current().modified};
+  enter(RegionPhase::Moving);
+}
+
 void Regions::moveTo(const Point& corner) {
-  DrawRect& box = draw_.region;
   const double left = grab_.x + corner.x;
   const double top = grab_.y + corner.y;
-  if (!limits_.allow(left, top) || (left == box.x1 && top == box.y1)) return;
+  if (limits_.allow(left, top)) placeBox(left, top);
+}
+
+void Regions::placeBox(double left, double top) {
+  DrawRect& box = draw_.region;
+  if (left == box.x1 && top == box.y1) return;
   box = {left, top, left + (box.x2 - box.x1), top + (box.y2 - box.y1)};
   regionToPixels();
   if (!state_.options.updateOnlyEditingArea) return renderRegion();
@@ -199,9 +212,10 @@ void Regions::finishDrag() {
 }
 
 void Regions::settleAtNewMagnification() {
-  // Positions of the mouse have another meaning now, so that a drag ends here.
+  // Positions of the mouse have another meaning now, so that its drag ends here. The keyboard means pixels.
   const bool unwritten = phase_ == RegionPhase::MovingView;
-  enter(RegionPhase::Standing);
+  const bool goesOn = byKeyboard_ && (unwritten || phase_ == RegionPhase::Moving);
+  enter(goesOn ? RegionPhase::Moving : RegionPhase::Standing);
   pixelsToRegion();
   setRegionLimits();
   if (unwritten)
@@ -225,6 +239,7 @@ void Regions::clearRegion() {
   draw_.draw = draw_.region = {};
   draw_.mPainting = draw_.mErasing = draw_.mRestoring = false;
   enter(RegionPhase::None);
+  outlineBox(false);
   shown_ = {};
   dragView_.forget();
   state_.picDisp.clearDrawing();

@@ -9,9 +9,12 @@
 #include "document/Context.h"
 #include "document/IconImage.h"
 #include "drawing/DrawState.h"
+#include "drawing/DrawingTool.h"
 #include "drawing/RegionBox.h"
 #include "drawing/RegionDrag.h"
 #include "drawing/RegionPhase.h"
+
+#include <optional>
 
 namespace gp {
 
@@ -49,6 +52,22 @@ class Regions {
   void move(double x, double y, int modifiers);
   void release();
 
+  // The same by keyboard, on icon pixels, which need not exist. A box is drawn around the pixel of the press and that
+  // of the last move, both included. A press on any pixel of a region takes hold of it; a move beyond the limits goes
+  // as far as they allow.
+  [[nodiscard]] bool pressPixel(int x, int y);
+  void movePixel(int x, int y, int modifiers);
+  // Moves the right side of the region by dx and its bottom side by dy icon pixels; it keeps at least one pixel and
+  // ends at the edge of the icon. What the box then covers is lifted again; content that floats is merged first, as a
+  // step of Undo. Nothing during a drag, and for a region that hangs over the edge, which would be cut off there.
+  void sizeBy(int dx, int dy);
+  // Gives a drag up: a box that is drawn is gone, and a region, icon and record are what they were at the press.
+  void giveUp();
+  // Draws a box that is being drawn on an Editing Area that was rebuilt at another magnification.
+  void followMagnification();
+  // The size of the box that is being drawn, none in other phases and for a box without sides.
+  std::optional<DrawnSize> drawnSize() const;
+
   // The tool was taken away in the middle of a drag.
   void cancel();
   // Ends a drag of a region at its present place; a side that is moved goes back. Commands call it first.
@@ -79,7 +98,23 @@ class Regions {
     double y = 0;
   };
 
+  struct Cell {
+    int x = 0;
+    int y = 0;
+  };
+  // What a drag that is given up brings back.
+  struct AtPress {
+    DrawRect pixels;
+    Surface image;
+    Surface mask;
+    bool modified = false;
+  };
+
   void enter(RegionPhase phase);
+  void takeHold();
+  void placeBox(double left, double top);
+  void putBack();
+  bool isInsideIcon() const;
   void beginBox(const Point& corner);
   void extendBox(const Point& corner, int modifiers);
   void finishBox();
@@ -102,6 +137,7 @@ class Regions {
   void repaintBox();
   void updateRegionLabel();
   void setLabel(const std::string& text);
+  void outlineBox(bool shown);
 
   void floatWith(bool opaque);
   bool isOfCurrentIcon() const;
@@ -127,6 +163,9 @@ class Regions {
   unsigned liftedFrom_ = 0;  // the iconSerial of the icon that both were taken from
   RegionDrag dragView_;
 
+  bool byKeyboard_ = false;  // the drag under way
+  Cell anchor_;              // by keyboard: the pixel of the press, or box corner minus pixel
+  AtPress atPress_;
   Point grab_;                                // box corner minus mouse, when a move began
   RegionEdge pulledEdge_ = RegionEdge::None;  // None too where the pointer's bands reach beyond those of the press
   double mEdgeMouse_ = 0;                     // where the mouse was when the side last moved

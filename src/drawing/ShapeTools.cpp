@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <utility>
 
 namespace gp {
@@ -174,6 +175,25 @@ void ShapeTool::move(const ToolMouse& mouse) {
   if ((mouse.modifiers & kConstrainKeys) != 0)
     constrainToSquare(drawState_, state_.current().size, state_.gMagnification);
   showBand(mouse.tool);
+}
+
+void ShapeTool::followMagnification() {
+  if (!isDragging()) return;
+  const auto centre = [m = state_.gMagnification](double pixel) {
+    return snapToCell(pixel * m, SnapMode::CellCentre, m);
+  };
+  const DrawRect& draw = drawState_.draw;
+  drawState_.band.x1 = centre(draw.x1);
+  drawState_.band.y1 = centre(draw.y1);
+  drawState_.band.x2 = centre(draw.x2);
+  drawState_.band.y2 = centre(draw.y2);
+  showBand(tools_.selectedTool());
+}
+
+std::optional<DrawnSize> ShapeTool::drawnSize() const {
+  if (!isDragging()) return std::nullopt;
+  const Corners c = wholeCorners(drawState_.draw);
+  return DrawnSize{std::abs(c.x2 - c.x1) + 1, std::abs(c.y2 - c.y1) + 1};
 }
 
 void ShapeTool::showBand(Tool tool) {

@@ -28,6 +28,9 @@ class ShapeTool : public DrawingTool {
   void release(const ToolMouse& mouse) override;
   // Ends a drag without drawing and removes its band.
   void cancel() override;
+  bool isHeld() const override { return isDragging(); }
+  void followMagnification() override;
+  std::optional<DrawnSize> drawnSize() const override;
 
  private:
   // Identifies the icon and the state in which a drag draws.

@@ -52,7 +52,7 @@ void Tools::locate(const MouseInput& mouse) {
 }
 
 ToolMouse Tools::toolMouse(const MouseInput& mouse) const {
-  return {selected_, mPixelX, mPixelY, mouse.x, mouse.y, mouse.modifiers};
+  return {selected_, mPixelX, mPixelY, mouse.x, mouse.y, mouse.modifiers, mouse.byKeyboard};
 }
 
 void Tools::press(const MouseInput& mouse) {
@@ -63,10 +63,12 @@ void Tools::press(const MouseInput& mouse) {
   if (!state_.current().present || !isToolActive()) return;
   locate(mouse);
   worker(selected_)->press(toolMouse(mouse));
+  writeDrawnSize();
 }
 
 void Tools::move(const MouseInput& mouse) {
-  context_.pump.pump();
+  // Every key counts, so that the next one must not overtake it. Of the mouse only the last position does.
+  if (!mouse.byKeyboard) context_.pump.pump();
   if (!state_.current().present) return;
   const Surface& disp = state_.picDisp;
   if (mouse.x < 0 || mouse.y < 0 || mouse.x > static_cast<float>(disp.width() - 1) ||
@@ -78,6 +80,7 @@ void Tools::move(const MouseInput& mouse) {
   locate(mouse);
   writeReadouts();
   if (isToolActive()) worker(selected_)->move(toolMouse(mouse));
+  writeDrawnSize();
 }
 
 void Tools::leave() {
@@ -100,7 +103,21 @@ void Tools::release(const MouseInput& mouse) {
   if (!isToolActive()) return;
   state_.current().modified = true;
   worker(selected_)->release(toolMouse(mouse));
+  writeDrawnSize();
   context_.editor.UpdateCommands();
+}
+
+bool Tools::isHeld() const { return isToolActive() && worker(selected_)->isHeld(); }
+
+void Tools::giveUp() {
+  if (!isHeld()) return;
+  worker(selected_)->giveUp();
+  writeDrawnSize();
+  context_.editor.UpdateCommands();
+}
+
+void Tools::followMagnification() {
+  if (isToolActive()) worker(selected_)->followMagnification();
 }
 
 void Tools::pickColor() {
@@ -118,6 +135,11 @@ void Tools::setReadout(Readout which, std::string text) {
 void Tools::writeReadouts() {
   setReadout(Readout::Position, "X=" + std::to_string(mPixelX + 1) + "  Y=" + std::to_string(mPixelY + 1));
   if (state_.screen.pixelRgbVisible) setReadout(Readout::PixelRgb, pixelRgbText());
+}
+
+void Tools::writeDrawnSize() {
+  const auto size = isToolActive() ? worker(selected_)->drawnSize() : std::nullopt;
+  setReadout(Readout::Size, size ? std::to_string(size->width) + " x " + std::to_string(size->height) : "");
 }
 
 std::string Tools::pixelRgbText() const {
@@ -166,6 +188,7 @@ void Tools::selectTool(Tool tool) {
 void Tools::deselect() {
   DrawingTool* former = worker(std::exchange(selected_, kNoTool));
   if (former) former->cancel();
+  writeDrawnSize();
 }
 
 void Tools::toolsChanged() {

@@ -25,6 +25,7 @@ struct MouseInput {
   int modifiers = 0;  // bits kShiftKey, kCtrlKey and kAltKey
   float x = 0;        // Editing Area pixels
   float y = 0;
+  bool byKeyboard = false;
 };
 
 class ColorSelection;
@@ -47,6 +48,13 @@ class Tools {
   void press(const MouseInput& mouse);
   void move(const MouseInput& mouse);
   void release(const MouseInput& mouse);
+  // True when the last press stays down for the keyboard: the arrow keys move, and a further key releases. False for a
+  // tool that works at a point, and once the drag has ended otherwise.
+  bool isHeld() const;
+  // Instead of a release: nothing that the press and the moves have done stays.
+  void giveUp();
+  // Draws the band of a drag on an Editing Area that was rebuilt at another magnification.
+  void followMagnification();
   // The pointer has left picDisp.
   void leave();
 
@@ -74,6 +82,7 @@ class Tools {
   void pickColor();
   void setReadout(Readout which, std::string text);
   void writeReadouts();
+  void writeDrawnSize();
   std::string pixelRgbText() const;
   int pointerAt(float x, float y) const;
   void updateEditingPointer(float x, float y);

@@ -102,6 +102,8 @@ class Shell final : public Editor {
   void selectStartScreen(int index);
   void resetToDefault();
   void confirmReset();
+  // Enlarges or reduces the Editing Area; a region and what a drag shows follow.
+  void zoom(ZoomStep step);
   // Esc closes what is open: a side panel, or else the region, which is merged.
   void escapeKey();
   void exitProgram();

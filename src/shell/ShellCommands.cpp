@@ -49,6 +49,11 @@ void Shell::shiftTowards(ShiftCell cell) {
   if (isMet(needs::icon(*this, kShift))) drawing_.shift.padRelease(cell);
 }
 
+void Shell::zoom(ZoomStep step) {
+  document_.areaOptions.zoom(step);
+  drawing_.tools.followMagnification();
+}
+
 void Shell::openHelp() {
   const std::string manual = folders_.dataFile(kHelpFile);
   if (!FileExists(manual)) {

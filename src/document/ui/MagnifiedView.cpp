@@ -13,7 +13,9 @@
 namespace gp {
 namespace {
 
-constexpr int kCursorLine = 2;  // each of the two lines around the pixel cursor, device pixels at 100 %
+constexpr int kLongStep = 8;  // of an arrow key with Ctrl, icon pixels
+
+bool isReturn(int key) { return key == Qt::Key_Return || key == Qt::Key_Enter; }
 
 bool comesFromKeyboard(Qt::FocusReason reason) {
   return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
@@ -64,12 +66,15 @@ void MagnifiedView::paintEvent(QPaintEvent* event) {
   if (!icon.contains(exposed)) painter.fillRect(exposed, QColor(toRgb(kGround)));
   const QRect part = exposed & icon;
   if (!part.isEmpty()) painter.drawImage(part.topLeft(), imageOf(picture_.surface, scale(), part));
+  paintMarks(painter);
   if (cursorShown_) paintCursor(painter);
 }
 
+int MagnifiedView::markLine() const { return std::max(1, static_cast<int>(devicePixelRatioF())); }
+
 // Black within white is visible on any colour.
 void MagnifiedView::paintCursor(QPainter& painter) const {
-  const int line = std::max(1, static_cast<int>(kCursorLine * devicePixelRatioF() / 2));
+  const int line = markLine();
   QRect around = cursorRect();
   for (const Qt::GlobalColor color : {Qt::white, Qt::black}) {
     for (int i = 0; i < line; ++i) {
@@ -99,55 +104,120 @@ QPoint MagnifiedView::pixelCursorOnScreen() const {
   return mapToGlobal((QPointF(cursorRect().center()) / devicePixelRatioF()).toPoint());
 }
 
+QRect MagnifiedView::shownCursor() const {
+  if (!cursorShown_) return {};
+  const double ratio = devicePixelRatioF();
+  const QRect cell = cursorRect();
+  return QRectF(QPointF(cell.topLeft()) / ratio, QSizeF(cell.size()) / ratio).toAlignedRect();
+}
+
 void MagnifiedView::mousePressEvent(QMouseEvent* event) {
+  giveUp();
   showCursor(false);
   const QPoint source = sourceAt(event->position()).toPoint();
   cursor_.place({source.x() / picture_.magnification, source.y() / picture_.magnification}, cells());
   if (event->button() == Qt::LeftButton) hold(event);
-  emit pressed(sourceAt(event->position()), event->button(), event->modifiers());
+  emit pressed(sourceAt(event->position()), event->button(), event->modifiers(), false);
 }
 
 void MagnifiedView::hold(const QMouseEvent* event) {
   held_ = true;
-  lastHeld_ = sourceAt(event->position());
+  lastHeld_ = sourceAt(event->position()) / picture_.magnification;
 }
 
-// A window that opens while the button is held takes the release: the stroke ends at its last position.
+// A window that opens while the button is held takes the release: the stroke ends at its last position. A drag by
+// keyboard has not been confirmed yet.
 void MagnifiedView::endHold() {
-  if (std::exchange(held_, false)) emit released(lastHeld_, Qt::LeftButton, Qt::NoModifier);
+  giveUp();
+  if (std::exchange(held_, false))
+    emit released(lastHeld_ * picture_.magnification, Qt::LeftButton, Qt::NoModifier, false);
 }
 
 void MagnifiedView::mouseMoveEvent(QMouseEvent* event) {
+  if (isHeldByKey()) return;
   // A pop-up menu, which the second button opens, also takes the release.
   if (!(event->buttons() & Qt::LeftButton)) endHold();
   if (held_) hold(event);
-  emit moved(sourceAt(event->position()), event->modifiers());
+  emit moved(sourceAt(event->position()), event->modifiers(), false);
+  if (held_) emit workedAt(QRect(event->position().toPoint(), QSize(1, 1)));
 }
 
 void MagnifiedView::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton && !std::exchange(held_, false)) return;
-  emit released(sourceAt(event->position()), event->button(), event->modifiers());
+  emit released(sourceAt(event->position()), event->button(), event->modifiers(), false);
 }
 
-void MagnifiedView::leaveEvent(QEvent*) { emit left(); }
+void MagnifiedView::leaveEvent(QEvent*) {
+  if (!isHeldByKey()) emit left();
+}
 
 void MagnifiedView::keyPressEvent(QKeyEvent* event) {
   const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
-  if (event->key() == Qt::Key_Space) {
-    showCursor(true);
-    applyAtCursor(modifiers);
-  } else if (modifiers == Qt::NoModifier && cursor_.move(event->key(), cells())) {
-    showCursor(true);
-    emit moved(cursorCentre(), modifiers);
-    accessibleValueChanged(this);
-  } else {
-    QWidget::keyPressEvent(event);
-  }
+  const bool again = event->isAutoRepeat() && event->key() == Qt::Key_Space;
+  if (!again && !usesKey(event->key(), modifiers)) QWidget::keyPressEvent(event);
 }
 
-void MagnifiedView::applyAtCursor(Qt::KeyboardModifiers modifiers) {
-  emit pressed(cursorCentre(), Qt::LeftButton, modifiers);
-  emit released(cursorCentre(), Qt::LeftButton, modifiers);
+// While the mouse is held, the keys that would work too have no effect.
+bool MagnifiedView::usesKey(int key, Qt::KeyboardModifiers modifiers) {
+  const bool worksByKey = key == Qt::Key_Space || cellStep(key);
+  if (held_) return worksByKey;
+  if (isHeldByKey() && isReturn(key)) {
+    releaseByKey(modifiers);
+  } else if (isHeldByKey() && key == Qt::Key_Escape) {
+    giveUp();
+  } else if (key == Qt::Key_Space) {
+    pressSpace(modifiers);
+  } else {
+    return moveCursor(key, modifiers);
+  }
+  return true;
+}
+
+bool MagnifiedView::moveCursor(int key, Qt::KeyboardModifiers modifiers) {
+  const auto step = cellStep(key);
+  if (!step || (modifiers & ~(Qt::ShiftModifier | Qt::ControlModifier))) return false;
+  const QPoint way = *step * (modifiers & Qt::ControlModifier ? kLongStep : 1);
+  const bool held = isHeldByKey();
+  if (!held && (modifiers & Qt::ShiftModifier)) {
+    emit sizeRequested(way);
+    return true;
+  }
+  cursor_.place(cursor_.position() + way, cells());
+  showCursor(true);
+  emit moved(cursorCentre(), held ? heldModifiers_ | (modifiers & Qt::ShiftModifier) : Qt::NoModifier, true);
+  emit workedAt(shownCursor());
+  accessibleValueChanged(this);
+  return true;
+}
+
+void MagnifiedView::pressSpace(Qt::KeyboardModifiers modifiers) {
+  if (isHeldByKey()) return releaseByKey(modifiers);
+  showCursor(true);
+  emit pressed(cursorCentre(), Qt::LeftButton, modifiers, true);
+  heldByKey_ = isHeld_ && isHeld_();
+  heldModifiers_ = modifiers;
+  if (!heldByKey_) emit released(cursorCentre(), Qt::LeftButton, modifiers, true);
+  accessibleValueChanged(this);
+}
+
+// A tool that reads the modifier while it moves gets it also from the last key.
+void MagnifiedView::releaseByKey(Qt::KeyboardModifiers modifiers) {
+  if (modifiers & ~heldModifiers_) emit moved(cursorCentre(), heldModifiers_ | modifiers, true);
+  heldByKey_ = false;
+  emit released(cursorCentre(), Qt::LeftButton, modifiers, true);
+  accessibleValueChanged(this);
+}
+
+// A command can have ended the drag.
+bool MagnifiedView::isHeldByKey() {
+  heldByKey_ = heldByKey_ && isHeld_();
+  return heldByKey_;
+}
+
+void MagnifiedView::giveUp() {
+  if (!isHeldByKey()) return;
+  heldByKey_ = false;
+  emit givenUp();
   accessibleValueChanged(this);
 }
 
@@ -156,9 +226,15 @@ void MagnifiedView::showCursor(bool shown) {
   update();
 }
 
-void MagnifiedView::focusInEvent(QFocusEvent* event) { showCursor(comesFromKeyboard(event->reason())); }
+void MagnifiedView::focusInEvent(QFocusEvent* event) {
+  showCursor(comesFromKeyboard(event->reason()));
+  if (cursorShown_) emit workedAt(shownCursor());
+}
 
-void MagnifiedView::focusOutEvent(QFocusEvent*) { showCursor(false); }
+void MagnifiedView::focusOutEvent(QFocusEvent*) {
+  giveUp();
+  showCursor(false);
+}
 
 bool MagnifiedView::event(QEvent* event) {
   if (event->type() == QEvent::ScreenChangeInternal) refresh();

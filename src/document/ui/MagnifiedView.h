@@ -36,9 +36,15 @@ class MagnifiedView : public QWidget, public AccessibleValue {
   // A rectangle of the Surface changed, in its own pixels.
   void refreshPart(int x, int y, int width, int height);
 
+  // Sets what answers whether a press of the keyboard stays down after it was reported. Without it, Space presses and
+  // releases at once.
+  void setHoldQuestion(std::function<bool()> isHeld) { isHeld_ = std::move(isHeld); }
+
   // The icon pixel that the keyboard works on, and where its middle is on the screen.
   const QPoint& pixelCursor() const { return cursor_.position(); }
   QPoint pixelCursorOnScreen() const;
+  // The cell of that pixel in the view's own pixels; empty while the keyboard is not used.
+  QRect shownCursor() const;
 
   QString accessibleValue() const override;
   QAccessible::Role accessibleRole() const override { return QAccessible::Canvas; }
@@ -46,13 +52,26 @@ class MagnifiedView : public QWidget, public AccessibleValue {
 
  signals:
   // Positions are in pixels of the Surface and may lie outside. The keyboard acts in the middle of a cell. After a
-  // press of the left button there is always one release of it, even if a window or a menu takes the real one.
-  void pressed(QPointF position, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
-  void moved(QPointF position, Qt::KeyboardModifiers modifiers);
-  void released(QPointF position, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+  // press of the left button there is always one release of it, even if a window or a menu takes the real one. After a
+  // press by keyboard there is one release or givenUp(), unless it has ended otherwise; the mouse is not reported
+  // before.
+  void pressed(QPointF position, Qt::MouseButton button, Qt::KeyboardModifiers modifiers, bool byKeyboard);
+  void moved(QPointF position, Qt::KeyboardModifiers modifiers, bool byKeyboard);
+  void released(QPointF position, Qt::MouseButton button, Qt::KeyboardModifiers modifiers, bool byKeyboard);
+  void givenUp();
   void left();
+  // Shift with an arrow key, in icon pixels; the step can be longer than any icon.
+  void sizeRequested(QPoint step);
+  // The pixel cursor or a held mouse moved there, in the view's own pixels.
+  void workedAt(QRect part);
 
  protected:
+  ScreenScale scale() const;
+  // Painted over the icon and beneath the pixel cursor, in device pixels.
+  virtual void paintMarks(QPainter& /*painter*/) const {}
+  // The width of the lines of a mark, device pixels.
+  int markLine() const;
+
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
@@ -66,13 +85,17 @@ class MagnifiedView : public QWidget, public AccessibleValue {
 
  private:
   int cells() const;
-  ScreenScale scale() const;
   QPointF sourceAt(const QPointF& position) const;
   QPointF cursorCentre() const;
   QRect cursorRect() const;
   void hold(const QMouseEvent* event);
   void endHold();
-  void applyAtCursor(Qt::KeyboardModifiers modifiers);
+  bool usesKey(int key, Qt::KeyboardModifiers modifiers);
+  bool moveCursor(int key, Qt::KeyboardModifiers modifiers);
+  void pressSpace(Qt::KeyboardModifiers modifiers);
+  void releaseByKey(Qt::KeyboardModifiers modifiers);
+  bool isHeldByKey();
+  void giveUp();
   void showCursor(bool shown);
   void paintCursor(QPainter& painter) const;
 
@@ -80,8 +103,11 @@ class MagnifiedView : public QWidget, public AccessibleValue {
   std::function<QString(QPoint)> describePixel_;
   PixelCursor cursor_;
   bool cursorShown_ = false;
-  bool held_ = false;  // the left button is down; lastHeld_ is its last position
+  bool held_ = false;  // the left button is down; lastHeld_ is its last position, in icon pixels
   QPointF lastHeld_;
+  std::function<bool()> isHeld_;
+  bool heldByKey_ = false;               // Space pressed and has not released
+  Qt::KeyboardModifiers heldModifiers_;  // of that press
 };
 
 }  // namespace gp

@@ -11,11 +11,11 @@ namespace {
 
 struct Cell {
   const char* name;
-  const char* widest;  // the longest text of the cell; the last cell fills the rest of the row
+  const char* widest;  // the longest text of the cell; the region's cell fills the rest of the row
 };
 
 constexpr std::array<Cell, kReadoutCount> kCells = {
-    {{"Position", "X=48  Y=48 "}, {"Color of pixel", "RGB: 255, 255, 255 "}, {"Region", ""}}};
+    {{"Position", "X=48  Y=48 "}, {"Color of pixel", "RGB: 255, 255, 255 "}, {"Region", ""}, {"Size", "48 x 48 "}}};
 
 }  // namespace
 
@@ -30,7 +30,7 @@ ReadoutsView::ReadoutsView(QWidget* parent, const ScreenState& screen) : QWidget
     auto* cell = new TextCell(this, QString("lblDispXY(%1)").arg(i), kCells[i].name);
     cell->setText(kCells[i].widest);
     cell->setMinimumSize(cell->sizeHint());
-    row->addWidget(cell, i + 1 == kCells.size() ? 1 : 0);
+    row->addWidget(cell, i == static_cast<std::size_t>(Readout::Region) ? 1 : 0);
     lblDispXY_[i] = cell;
   }
   refresh();

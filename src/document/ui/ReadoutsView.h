@@ -1,4 +1,5 @@
-// lblDispXY(0..2): the position, the pixel's colour and the region, in one row above the Editing Area.
+// lblDispXY(0..3): the position, the pixel's colour, the region and the size of what is drawn, in one row above the
+// Editing Area.
 #pragma once
 
 #include "document/ScreenState.h"

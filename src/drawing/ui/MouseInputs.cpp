@@ -12,9 +12,9 @@ int modifierBits(Qt::KeyboardModifiers modifiers) {
 
 static_assert(Qt::LeftButton == kLeftButton && Qt::RightButton == kRightButton);
 
-MouseInput mouseInput(QPointF position, Qt::KeyboardModifiers modifiers, Qt::MouseButton button) {
+MouseInput mouseInput(QPointF position, Qt::KeyboardModifiers modifiers, Qt::MouseButton button, bool byKeyboard) {
   return {static_cast<int>(button), modifierBits(modifiers), static_cast<float>(position.x()),
-          static_cast<float>(position.y())};
+          static_cast<float>(position.y()), byKeyboard};
 }
 
 }  // namespace gp

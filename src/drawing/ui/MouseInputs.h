@@ -9,6 +9,6 @@ namespace gp {
 
 // Returns the input at a position in Editing Area pixels. The button is one of left, right and middle, or NoButton for
 // a movement.
-MouseInput mouseInput(QPointF position, Qt::KeyboardModifiers modifiers, Qt::MouseButton button = Qt::NoButton);
+MouseInput mouseInput(QPointF position, Qt::KeyboardModifiers modifiers, Qt::MouseButton button, bool byKeyboard);
 
 }  // namespace gp

@@ -7,7 +7,7 @@
 #include "document/ui/QtDisplay.h"
 #include "document/ui/ReadoutsView.h"
 #include "document/ui/StatusBarView.h"
-#include "drawing/ui/MouseInputs.h"
+#include "document/ui/ZoomKeys.h"
 #include "drawing/ui/ShiftPad.h"
 #include "drawing/ui/ToolBox.h"
 #include "files/ui/frmGPHeaderDiff.h"
@@ -19,6 +19,7 @@
 #include "shell/FormPlacement.h"
 #include "shell/Shell.h"
 #include "shell/ui/CommandMenus.h"
+#include "shell/ui/EditingAreaEvents.h"
 #include "shell/ui/FormTitle.h"
 #include "shell/ui/MenuBar.h"
 #include "shell/ui/PanelStack.h"
@@ -129,27 +130,17 @@ QWidget* frmGPEdit::makeEditingColumn(QWidget* parent) {
 
 void frmGPEdit::connectEditingArea() {
   EditingAreaView& view = room_->view();
-  view.setPixelDescription([this](QPoint pixel) {
-    return QString("X=%1  Y=%2  ").arg(pixel.x() + 1).arg(pixel.y() + 1) +
-           spokenPixel(toText(shell_.drawing().tools.pixelText(pixel.x(), pixel.y())));
-  });
-  connect(&view, &EditingAreaView::pressed, this, [this](QPointF at, Qt::MouseButton button, auto modifiers) {
-    shell_.guarded("picDisp_MouseDown", [&] { shell_.drawing().tools.press(mouseInput(at, modifiers, button)); });
-  });
-  connect(&view, &EditingAreaView::moved, this, [this](QPointF at, auto modifiers) {
-    shell_.guarded("picDisp_MouseMove", [&] { shell_.drawing().tools.move(mouseInput(at, modifiers)); });
-  });
-  connect(&view, &EditingAreaView::released, this, [this](QPointF at, Qt::MouseButton button, auto modifiers) {
-    shell_.guarded("picDisp_MouseUp", [&] { shell_.drawing().tools.release(mouseInput(at, modifiers, button)); });
-  });
-  connect(&view, &EditingAreaView::left, this, [this] { shell_.drawing().tools.leave(); });
+  connectTools(view, shell_);
+  addZoomKeys(this, [this](ZoomStep step) { room_->zoom(step); });
+  connect(room_, &EditingAreaRoom::zoomRequested, this,
+          [this](ZoomStep step) { shell_.guarded("picDisp_Zoom", [&] { shell_.zoom(step); }); });
   connect(&view, &EditingAreaView::popUpRequested, this, &frmGPEdit::popUp);
   connect(room_, &EditingAreaRoom::resized, this, &frmGPEdit::resizeRoom);
   IconsPanel& icons = shell_.document().iconsPanel;
   const auto drop = [this, &icons](const std::vector<std::string>& files) {
     shell_.guarded("picDisp_OLEDragDrop", [&] { icons.AreaDrop(files); });
   };
-  connect(new FileDrops(room_, icons), &FileDrops::dropped, this, drop, Qt::QueuedConnection);
+  connect(new FileDrops(room_->viewport(), icons), &FileDrops::dropped, this, drop, Qt::QueuedConnection);
 }
 
 void frmGPEdit::connectIconsPanel() {
