@@ -71,5 +71,5 @@ def test_the_menu_bar_shows_where_the_keys_are_and_lets_commands_through(session
     session.keys('F10', 'F10')
     waitUntil(lambda: session.colorAt(middle) == plain, 'the menu bar without the keys')
     session.keys('F10', 'ctrl+e')
-    program.wait(lambda: program.value('Status 3') == '16 x 16', 'the new icon')
+    program.wait(lambda: program.value('Icon size') == '16 x 16', 'the new icon')
     assert session.colorAt(middle) == plain
