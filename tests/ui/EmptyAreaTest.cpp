@@ -5,6 +5,7 @@
 #include "ui/FormFixture.h"
 #include "ui/WholeTexts.h"
 
+#include <QAbstractScrollArea>
 #include <QMimeData>
 #include <QUrl>
 
@@ -16,6 +17,8 @@ constexpr const char* kSaveQuestion = "Save current icon to file?";
 class EmptyArea : public test::FormFixture {
  protected:
   ~EmptyArea() override { QApplication::setPalette(QPalette()); }
+  // The ground around the Editing Area.
+  QWidget* room() { return find<QAbstractScrollArea>("picDispContainer")->viewport(); }
   QImage area() { return test::seen(*find("picDisp")); }
   QImage ground() {
     QImage image(find("picDisp")->size(), QImage::Format_RGB32);
@@ -74,12 +77,12 @@ TEST_F(EmptyArea, TheTextIsGoneWithTheFirstIconAndBackInAnEmptyContainer) {
 
 TEST_F(EmptyArea, AFileDroppedOnTheAreaOrAroundItOpensInTheCurrentContainer) {
   start();
-  EXPECT_FALSE(drop(find("picDispContainer"), folder.file("picture.bmp")));
-  EXPECT_TRUE(find("picDispContainer")->acceptDrops());
+  EXPECT_FALSE(drop(room(), folder.file("picture.bmp")));
+  EXPECT_TRUE(room()->acceptDrops());
   EXPECT_TRUE(find("picDispContainer")->isAncestorOf(find("picDisp"))) << "a drop on the child comes to its parent";
   EXPECT_FALSE(find("picDisp")->acceptDrops());
   click(indexed("picPanelIcon", 2));
-  EXPECT_TRUE(drop(find("picDispContainer"), folder.write("a.ico", test::plainIconFile(16, 3))));
+  EXPECT_TRUE(drop(room(), folder.write("a.ico", test::plainIconFile(16, 3))));
   EXPECT_EQ(state.mCurContainer, 2);
   EXPECT_TRUE(state.current().present);
   EXPECT_EQ(state.current().size, 16);
@@ -93,7 +96,7 @@ TEST_F(EmptyArea, ADropOverUnsavedWorkAsksAndCancelKeepsTheIcon) {
   ASSERT_TRUE(state.IsIconChanged());
   const std::string path = folder.write("a.ico", test::plainIconFile(16, 3));
   boxes.expect(kSaveQuestion, BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Cancel);
-  EXPECT_TRUE(drop(find("picDispContainer"), path));
+  EXPECT_TRUE(drop(room(), path));
   EXPECT_TRUE(boxes.done());
   EXPECT_EQ(state.current().size, 32);
 }

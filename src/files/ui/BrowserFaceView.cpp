@@ -125,7 +125,7 @@ PictureButton* BrowserFaceView::makeOtherSizes(const char* name, const char* pic
   auto* button = new PictureButton(this, indexed(name), {picture, QLatin1String(toolTip), kPictureButtonSide});
   button->setText(QStringLiteral("Other sizes"));
   button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  button->setFixedWidth(button->sizeHint().width());
+  button->setFixedSize(button->sizeHint());
   return button;
 }
 

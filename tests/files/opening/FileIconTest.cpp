@@ -28,7 +28,7 @@ TEST(FileIcon, HasTheMostBitsOfItsSize) {
 
 TEST(FileIcon, OneThatCannotBeShownGivesWayToTheNext) {
   const IconFolder folder;
-  EXPECT_EQ(sideShown(folder, {entryOf(anyPicture(32, 4), 8, 3), anyEntry(16, 4)}), 16);
+  EXPECT_EQ(sideShown(folder, {entryOf(anyPicture(32, 4), 0, 2), anyEntry(16, 4)}), 16);
 }
 
 TEST(FileIcon, ACursorStandsForItself) {
