@@ -89,7 +89,7 @@ def test_a_png_picture_is_saved_as_a_bitmap(session):
     desk = Desk(session)
     desk.openFile(path)
     desk.waitForIcon(48, path)
-    assert '*' not in desk.program.value('Status 1')
+    assert desk.program.value('Headers') == ''
     desk.paint([(0, 0)], RED_CELL, RED, 48)
     content = read(path)
     desk.program.command('ctrl+s')

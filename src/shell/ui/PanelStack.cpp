@@ -115,7 +115,7 @@ void PanelStack::showPanel(int number) {
   // A side panel takes the keyboard focus at once; the colour panel does not take it.
   if (auto* frame = qobject_cast<PanelFrame*>(widget)) {
     frame->focusFirstControl();
-    display_.announce(frame->accessibleName().toStdString());
+    display_.announce(frame->title().toStdString());
   }
   if (closes && hadFocus) emit focusGivenBack();
 }

@@ -87,10 +87,9 @@ void PanelFrame::setTitle(const QString& title) {
 }
 
 void PanelFrame::showHeadings() {
-  const QString title = titleText_.isEmpty() ? caption_ : titleText_;
-  title_->setText(title);
+  title_->setText(title());
   frameCaption_->setText(caption_);
-  frameCaption_->setVisible(caption_ != title);
+  frameCaption_->setVisible(caption_ != title());
 }
 
 QLabel* PanelFrame::addRow(const QString& objectName, const QString& caption, QWidget* control) {

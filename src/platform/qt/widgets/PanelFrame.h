@@ -23,6 +23,8 @@ class PanelFrame : public QWidget {
   void setCaption(const QString& caption);
   // The name of what the panel does, if it has another one; the caption is then above it.
   void setTitle(const QString& title);
+  // The heading that is shown last: the title, or else the caption.
+  QString title() const { return titleText_.isEmpty() ? caption_ : titleText_; }
 
   // Sets the control that gets the focus when the panel opens; addButtons() sets Proceed. It is not a focus proxy,
   // which would make the frame itself report the focus.
