@@ -9,6 +9,31 @@ namespace gp::cli {
 namespace {
 
 constexpr std::array kRows = std::to_array<Command>({
+    {.name = "make",
+     .usage = "make OUT.ico PICTURE... [--from PICTURE] [--sizes 16,24,...] [--bits BITS] [--png-above SIZE]\n"
+              "            [--filter FILTER] [--dither DITHER] [--hotspot X,Y] [--json] [--force]",
+     .summary = "an icon or cursor file from PNG and BMP pictures",
+     .help = "Makes an icon file with one image of each PICTURE, a PNG or BMP file of 256x256 at\n"
+             "most, in this order, and then one for each of the sizes, scaled from the PICTURE\n"
+             "after --from, of 4096x4096 at most. Without --sizes these are 16, 24, 32, 48, 64,\n"
+             "128 and 256. A size that a PICTURE has is not scaled. A picture that is not square\n"
+             "is centered. An OUT named .cur becomes a cursor file.\n"
+             "  --bits       auto (if not given), 32, 24, 8, 4 or 1 bits per pixel. auto is 32 for\n"
+             "               alpha between 0 and 255, else what the colors need: 1, 4, 8 or 24.\n"
+             "               Colors that do not fit are reduced to 256 computed ones, to the 16\n"
+             "               standard ones, or to black and white. Pixels with an alpha below 128\n"
+             "               are transparent in the mask\n"
+             "  --png-above  larger sizes are stored as PNG (64 if not given)\n"
+             "  --filter     box (if not given), the mean of an area, or lanczos, which is sharper\n"
+             "  --dither     none (if not given) or floyd, when colors are reduced\n"
+             "  --hotspot    of a cursor, in pixels of the first PICTURE, or else of the one after\n"
+             "               --from; the other images get it in proportion (0,0 if not given)\n"
+             "Prints one line per image, parted by tabs: index, size, bits, encoding (bmp or png),\n"
+             "bytes, scaled or unscaled, and the PICTURE. With --json, one array with an object for\n"
+             "each; nothing when OUT is \"-\". Refused when two images have the same size and bits,\n"
+             "and when OUT is already there, which --force replaces.",
+     .example = "make app.ico small.png --from logo.png --sizes 32,48,256",
+     .run = runMake},
     {.name = "probe",
      .usage = "probe [--json] FILE...",
      .summary = "kind, size and depth of a file, as numbers",

@@ -26,10 +26,6 @@ bool parseBounds(const std::string& text, OutputBounds& bounds) {
   return true;
 }
 
-const char* reasonOf(WriteDefect defect) {
-  return defect == WriteDefect::AlreadyThere ? "already there, and not replaced" : "cannot be written";
-}
-
 }  // namespace
 
 bool OutputFolder::write(const std::string& name, std::span<const std::uint8_t> bytes) {
@@ -40,7 +36,7 @@ bool OutputFolder::write(const std::string& name, std::span<const std::uint8_t> 
   }
   const WriteDefect defect = writeInto(folder_, name, bytes, replaces_ ? ExistingFile::Replace : ExistingFile::Keep);
   if (defect != WriteDefect::None) {
-    complain(path, reasonOf(defect));
+    complain(path, describe(defect));
     return false;
   }
   --left_.files;

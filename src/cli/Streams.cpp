@@ -57,4 +57,8 @@ bool writeOutput(const std::string& path, std::span<const std::uint8_t> bytes) {
   return std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() && std::fflush(stdout) == 0;
 }
 
+const char* describe(WriteDefect defect) {
+  return defect == WriteDefect::AlreadyThere ? "already there, and not replaced" : "cannot be written";
+}
+
 }  // namespace gp::cli

@@ -25,4 +25,7 @@ std::optional<IconFile> readWholeIconInput(const std::string& path);
 // Writes to a file as replaceFile does, or to standard output.
 [[nodiscard]] bool writeOutput(const std::string& path, std::span<const std::uint8_t> bytes);
 
+// The reason why a file could not be written, in one line.
+const char* describe(WriteDefect defect);
+
 }  // namespace gp::cli

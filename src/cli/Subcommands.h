@@ -6,6 +6,8 @@
 
 namespace gp::cli {
 
+// Making.
+int runMake(const Arguments& arguments);
 // Looking.
 int runProbe(const Arguments& arguments);
 int runList(const Arguments& arguments);
