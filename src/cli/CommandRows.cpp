@@ -84,11 +84,25 @@ constexpr std::array kRows = std::to_array<Command>({
              "With --json, one array with an object for each, and null for nothing.",
      .example = "check --json app.ico",
      .run = runCheck},
+    {.name = "show",
+     .usage = "show FILE... [--color WHEN] [--width COLUMNS]",
+     .summary = "the images of a file as colored text",
+     .help = "Prints each image of every size that can be decoded: a line with the file, index and\n"
+             "size, parted by tabs, and lines of half blocks, two pixels in each. Pixels with an\n"
+             "alpha below 128 show the ground. Images wider than COLUMNS (80 if not given) are\n"
+             "scaled down. Colors are 24-bit sequences of terminals. WHEN is always, never, or auto\n"
+             "(if not given): in a terminal, unless NO_COLOR is set. Without colors, the blocks\n"
+             "show which pixels are not transparent.",
+     .example = "show app.ico --width 48",
+     .run = runShow},
     {.name = "unpack",
-     .usage = "unpack FILE... -d DIR [--force] [--max-size MB]",
+     .usage = "unpack FILE... -d DIR [--png] [--force] [--max-size MB]",
      .summary = "the pictures in files, as PNG or as image, mask and alpha",
      .help = "Writes for every usable image NAME_INDEX.image.ppm, NAME_INDEX.mask.pgm (255\n"
              "transparent) and, with 32 bits, NAME_INDEX.alpha.pgm, as the editor shows them.\n"
+             "With --png, writes every image of every size that can be decoded as NAME_INDEX.png:\n"
+             "the bytes of a PNG picture as they are, and a bitmap with alpha, which is 0 where its\n"
+             "mask is set, unless its 32 bits have alpha. Depth and size are the image's own.\n"
              "NAME is the file's name without folder and extension; when two files share it,\n"
              "the later ones become NAME-2, NAME-3 and so on. DIR is made if it is not there.\n"
              "Files that are there already are kept and complained of; --force replaces them,\n"
@@ -179,6 +193,17 @@ constexpr std::array kRows = std::to_array<Command>({
              "when the directory tells a width or height above 128.",
      .example = "salvage broken.ico -o whole.ico",
      .run = runSalvage},
+    {.name = "strip",
+     .usage = "strip FILE... [-o OUT] [--json]",
+     .summary = "makes files smaller without changing a pixel",
+     .help = "Leaves out the chunks of PNG pictures that gpicon and most programs ignore, such as\n"
+             "texts, times, color profiles and further frames, and colors of palettes that no pixel\n"
+             "uses: a bitmap whose colors fit into a smaller palette gets fewer bits. Prints file,\n"
+             "bytes before and bytes after, parted by tabs, or with --json an array of objects;\n"
+             "nothing when OUT is \"-\". A file that cannot become smaller is not written. -o goes\n"
+             "with one FILE.",
+     .example = "strip icons/*.ico",
+     .run = runStrip},
     {.name = "help",
      .usage = "help [COMMAND]",
      .summary = "describes all commands, or one with an example",

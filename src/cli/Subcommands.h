@@ -12,6 +12,7 @@ int runMake(const Arguments& arguments);
 int runProbe(const Arguments& arguments);
 int runList(const Arguments& arguments);
 int runCheck(const Arguments& arguments);
+int runShow(const Arguments& arguments);
 // Taking apart.
 int runUnpack(const Arguments& arguments);
 int runSplit(const Arguments& arguments);
@@ -25,5 +26,6 @@ int runAdd(const Arguments& arguments);
 int runRemove(const Arguments& arguments);
 int runReorder(const Arguments& arguments);
 int runSalvage(const Arguments& arguments);
+int runStrip(const Arguments& arguments);
 
 }  // namespace gp::cli

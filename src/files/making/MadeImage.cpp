@@ -20,12 +20,6 @@ bool hasPartAlpha(const PngPicture& picture) {
   return false;
 }
 
-int paletteBits(std::size_t colors) {
-  for (const ColorDepth& depth : kPaletteDepths)
-    if (colors <= static_cast<std::size_t>(depth.colors)) return depth.bits;
-  return kBitsWithoutAlpha;
-}
-
 // Rows of `bits` per pixel from the bottom up, padded to 4 bytes. `valueAt` gives the bits of a pixel by its number.
 template <class ValueAt>
 void writeRows(int width, int height, int bits, const ValueAt& valueAt, ByteWriter& out) {
@@ -84,22 +78,6 @@ void writeMask(const PngPicture& picture, ByteWriter& out) {
   writeRows(picture.width, picture.height, 1, isMasked, out);
 }
 
-std::vector<std::uint8_t> bitmapOf(const PngPicture& picture, int bits) {
-  ByteWriter out;
-  writeHeader(picture, bits, out);
-  const auto indexed = bits <= kPaletteDepth.bits ? indexedPicture(picture, std::size_t{1} << bits) : std::nullopt;
-  if (indexed) {
-    writePalette(*indexed, bits, out);
-    writeRows(
-        picture.width, picture.height, bits, [&](std::size_t pixel) -> unsigned { return indexed->indices[pixel]; },
-        out);
-  } else {
-    writeTrueRows(picture, bits, out);
-  }
-  writeMask(picture, out);
-  return out.take();
-}
-
 // The pixels as an image without alpha shows them: opaque, or transparent and black.
 PngPicture masked(PngPicture picture) {
   picture.hasAlpha = false;
@@ -131,17 +109,39 @@ PngPicture pixelsOfDepth(const PngPicture& picture, int bits, bool dithers) {
 
 }  // namespace
 
+int bitsForColors(std::size_t colors) {
+  for (const ColorDepth& depth : kPaletteDepths)
+    if (colors <= static_cast<std::size_t>(depth.colors)) return depth.bits;
+  return kBitsWithoutAlpha;
+}
+
 int bitsNeeded(const PngPicture& picture) {
   if (hasPartAlpha(picture)) return kBitsWithAlpha;
   const auto indexed = indexedPicture(masked(picture), kPaletteDepth.colors);
-  return indexed ? paletteBits(indexed->palette.size()) : kBitsWithoutAlpha;
+  return indexed ? bitsForColors(indexed->palette.size()) : kBitsWithoutAlpha;
+}
+
+std::vector<std::uint8_t> composeImage(const PngPicture& picture, int bits) {
+  ByteWriter out;
+  writeHeader(picture, bits, out);
+  const auto indexed = bits <= kPaletteDepth.bits ? indexedPicture(picture, std::size_t{1} << bits) : std::nullopt;
+  if (indexed) {
+    writePalette(*indexed, bits, out);
+    writeRows(
+        picture.width, picture.height, bits, [&](std::size_t pixel) -> unsigned { return indexed->indices[pixel]; },
+        out);
+  } else {
+    writeTrueRows(picture, bits, out);
+  }
+  writeMask(picture, out);
+  return out.take();
 }
 
 MadeImage makeImage(const PngPicture& picture, const MakeSettings& settings) {
   const int bits = settings.bits == kAutoBits ? bitsNeeded(picture) : settings.bits;
   const PngPicture shown = pixelsOfDepth(picture, bits, settings.dithers);
   if (std::max(picture.width, picture.height) <= settings.pngAbove)
-    return {picture.width, picture.height, bits, false, bitmapOf(shown, bits)};
+    return {picture.width, picture.height, bits, false, composeImage(shown, bits)};
   return {picture.width, picture.height, shown.hasAlpha ? kBitsWithAlpha : kBitsWithoutAlpha, true, encodePng(shown)};
 }
 

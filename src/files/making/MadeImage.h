@@ -29,9 +29,14 @@ struct MadeImage {
   std::vector<std::uint8_t> bytes;
 };
 
+// The bits per pixel that so many colours need: 1, 4, 8 or 24.
+int bitsForColors(std::size_t colors);
 // The depth that loses nothing: 32 bits for alpha between 0 and 255, otherwise 1, 4 or 8 bits if the colours, with
 // black for transparent pixels, fit into a palette of 2, 16 or 256, and else 24.
 int bitsNeeded(const PngPicture& picture);
+
+// The bytes of a bitmap image with such a depth: its colours must fit into the palette of up to 8 bits.
+std::vector<std::uint8_t> composeImage(const PngPicture& picture, int bits);
 
 // Makes an image of a picture whose sides are 1 to 256. With fewer than 32 bits, transparent pixels are black. With 8,
 // 4 and 1 bits, colours that do not fit into a palette are reduced: to 256 colours computed from the picture, to the

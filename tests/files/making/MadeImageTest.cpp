@@ -98,8 +98,11 @@ TEST(MadeImage, ColorsThatFitAPaletteAreKeptInIt) {
 }
 
 TEST(MadeImage, MoreColorsAreReducedToThePaletteOfTheDepth) {
+  PngPicture faded = photoPicture(48, 48);
+  faded.hasAlpha = true;
+  for (std::size_t at = 3; at < faded.rgba.size(); at += 4) faded.rgba[at] = static_cast<std::uint8_t>(at % 256);
   for (const bool dithers : {false, true})
-    for (const PngPicture& picture : {photoPicture(48, 48), logoPicture(48)}) {
+    for (const PngPicture& picture : {photoPicture(48, 48), faded}) {
       const PngPicture of8 = shown(makeImage(picture, {.bits = 8, .dithers = dithers})),
                        of4 = shown(makeImage(picture, {.bits = 4, .dithers = dithers})),
                        of1 = shown(makeImage(picture, {.bits = 1, .dithers = dithers}));
@@ -122,7 +125,7 @@ TEST(MadeImage, WithoutDitheringEachPixelBecomesTheNearestColor) {
   const PngPicture of1 = shown(makeImage(ramp, {.bits = 1, .pngAbove = 256}));
   for (int x = 0; x < 256; ++x) {
     EXPECT_EQ(of1.rgba[static_cast<std::size_t>(x) * 4], x < 128 ? 0 : 255) << x;
-    EXPECT_EQ(of4.rgba[static_cast<std::size_t>(x) * 4], x <= 64 ? 0 : x <= 160 ? 128 : x <= 223 ? 192 : 255) << x;
+    EXPECT_EQ(of4.rgba[static_cast<std::size_t>(x) * 4], x <= 64 ? 0 : x < 160 ? 128 : x <= 223 ? 192 : 255) << x;
   }
 }
 
