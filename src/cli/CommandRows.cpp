@@ -40,7 +40,8 @@ constexpr std::array kRows = std::to_array<Command>({
      .help = "Prints the file's name, a tab, and nine numbers joined by \"/\": kind (0 no icon\n"
              "file, 1 one entry, 2 several), usable entries as far as the scan went, chosen\n"
              "entry, its width, height, colors and bits by the directory, colors and bits by\n"
-             "the bitmap header. Colors are -1 for true color. Of several entries the first\n"
+             "the bitmap header. Colors are -1 for true color. A PNG picture tells all of them\n"
+             "itself, as 32 bits with alpha and 24 without. Of several entries the first\n"
              "of 32x32 is chosen, or a later one of 32x32 with 8 bits, which ends the scan.\n"
              "Of a cursor file, which its content tells and not its name, there are three\n"
              "numbers: 1 for a cursor that the editor takes, its colors and its bits by the\n"
@@ -50,16 +51,17 @@ constexpr std::array kRows = std::to_array<Command>({
     {.name = "list",
      .usage = "list [--json] FILE...",
      .summary = "one line per image of a file",
-     .help = "Prints one line per image, parted by tabs: file, index, size, colors and bits by\n"
-             "the directory, colors and bits by the bitmap header (0 for PNG), bytes, offset,\n"
-             "encoding (bmp or png), usable or unusable. A width or height of 0 in the file is\n"
-             "256. Usable images are square bitmaps of 16, 24, 32 or 48 pixels and of 1, 4, 8,\n"
-             "24 or 32 bits. With --json, one array with an object for each file; bytes of a\n"
-             "name that are not UTF-8 stand as \"\\udc80\" to \"\\udcff\".\n"
-             "Lines of cursor files end with two more columns, the hot spot's x and y (with\n"
-             "--json: kind \"cur\", \"hotspotX\", \"hotspotY\"). A cursor's directory tells no\n"
-             "depth: both pairs of colors and bits are the bitmap header's. Usable is a first\n"
-             "image of 32x32 at offset 22 with its hot spot inside.",
+     .help =
+         "Prints one line per image, parted by tabs: file, index, size, colors and bits by\n"
+         "the directory, colors and bits by the bitmap header (0 for PNG), bytes, offset,\n"
+         "encoding (bmp or png), usable or unusable. A width or height of 0 in the file is\n"
+         "256. Usable images are square, of 16, 24, 32 or 48 pixels, and either bitmaps of\n"
+         "1, 4, 8, 24 or 32 bits or PNG pictures, whose size is their own. With --json, one\n"
+         "array with an object for each file; bytes of a name that are not UTF-8 become \"\\udc80\" to \"\\udcff\".\n"
+         "Lines of cursor files end with two more columns, the hot spot's x and y (with\n"
+         "--json: kind \"cur\", \"hotspotX\", \"hotspotY\"). A cursor's directory tells no\n"
+         "depth: both pairs of colors and bits are the bitmap header's. Usable is a first\n"
+         "image of 32x32 at offset 22 with its hot spot inside.",
      .example = "list --json app.ico | python3 -m json.tool",
      .run = runList},
     {.name = "check",
@@ -71,6 +73,7 @@ constexpr std::array kRows = std::to_array<Command>({
              "  width, height  the size; PNG pictures are asked too\n"
              "  colors, bits   the depth; last, the depth that the pixels need\n"
              "  bytes          fewer told than the image needs; \"incomplete\" for a cut PNG\n"
+             "  png            \"damaged\": a PNG picture that cannot be read\n"
              "  offset         inside the directory; last, where that ends\n"
              "  end            behind the file's end; last, the file's size\n"
              "  pixels         palette index beyond the colors that the header tells\n"

@@ -5,6 +5,7 @@
 #include "cli/ImagePixels.h"
 #include "files/format/IcoLayout.h"
 #include "files/format/ImageHeader.h"
+#include "files/format/PngEntry.h"
 #include "platform/files/ByteReader.h"
 #include "platform/files/WholePicture.h"
 
@@ -91,6 +92,17 @@ void findMissingBytes(const Inspection& image, const DiscrepancySink& tell) {
   }
 }
 
+// Nothing of such an image is shown. One that ends inside is reported by its bytes.
+void findDamagedPng(const Inspection& image, const DiscrepancySink& tell) {
+  if (image.sharesBytes || !isPngImage(image.file, image.entry)) return;
+  if (image.header &&
+      !isWholePng(ByteReader(image.file.span()).bytesAt(image.entry.imageOffset, image.entry.bytesInRes)))
+    return;
+  const IconEntry shown = shownEntry(image.file, image.entry);
+  const DecodedIcon decoded = decodePngEntry(image.file, shown, sideOf(shown.width), sideOf(shown.height));
+  if (decoded.defect == IconDefect::DamagedPng) tell({image.index, "png", kNothingTold, kNothingTold, "damaged"});
+}
+
 void findWrongPlace(const Inspection& image, const DiscrepancySink& tell) {
   const std::uint64_t end = std::uint64_t{image.entry.imageOffset} + image.entry.bytesInRes;
   const std::size_t directoryEnd =
@@ -123,8 +135,8 @@ void findStrayHotspot(const Inspection& image, const DiscrepancySink& tell) {
     tell({image.index, "hotspotY", text(image.entry.hotspotY()), kNothingTold, text(height)});
 }
 
-constexpr std::array kRules{findOtherSize,  findOtherDepth,      findMissingBytes, findWrongPlace,
-                            findStrayIndex, findMaskBesideAlpha, findStrayHotspot};
+constexpr std::array kRules{findOtherSize,  findOtherDepth, findMissingBytes,    findDamagedPng,
+                            findWrongPlace, findStrayIndex, findMaskBesideAlpha, findStrayHotspot};
 
 void tellRelation(int index, const char* what, int other, const DiscrepancySink& tell) {
   if (other >= 0) tell({index, what, "image " + text(other)});

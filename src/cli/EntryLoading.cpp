@@ -29,7 +29,7 @@ ChosenEntry chooseEntry(const IconFile& file) {
 // The editor lets the user choose among the icons of such a file.
 bool hasToBeNamed(const IconFile& file, IconDefect defect) {
   return (defect == IconDefect::NotAnIcon || defect == IconDefect::SizeNotOffered) && file.isIcon() &&
-         countIconSizes(file.directory) > 0;
+         countIconSizes(file) > 0;
 }
 
 std::optional<LoadedIcon> loadChosenEntry(const IconFile& file, const std::string& path) {

@@ -4,6 +4,7 @@
 #include "cli/Streams.h"
 #include "files/cursor/CursorLoading.h"
 #include "files/format/IconProbe.h"
+#include "files/format/PngEntry.h"
 
 namespace gp::cli {
 namespace {
@@ -20,13 +21,15 @@ std::optional<IconFile> openFile(const std::string& path, bool withCursors) {
 
 bool isUsableCursor(const IconFile& file) {
   const CursorFacts facts = probeCursor(file);
-  return facts.valid && facts.depth.isShown();
+  return facts.valid && facts.depth.isShown() && (!isPngImage(file, file.entry(0)) || loadCursorImage(file).isRead());
 }
 
-std::optional<DecodedImage> decodeCursor(const IconFile& file, const IconEntry& entry) {
+std::optional<DecodedImage> decodeCursor(const IconFile& file) {
+  const CursorFacts facts = probeCursor(file);
+  if (!facts.valid || !facts.depth.isShown()) return std::nullopt;
   DecodedIcon decoded = loadCursorImage(file);
   if (!decoded.isRead()) return std::nullopt;
-  return DecodedImage{std::move(decoded.icon), depthOfBits(headerBitCount(file, entry)).hasAlpha()};
+  return DecodedImage{std::move(decoded.icon), facts.depth.hasAlpha()};
 }
 
 }  // namespace
@@ -42,12 +45,11 @@ bool isUsableImage(const IconFile& file, int index) {
 }
 
 std::optional<DecodedImage> decodeImage(const IconFile& file, int index) {
-  if (!isUsableImage(file, index)) return std::nullopt;
+  if (file.isCursor()) return index == 0 ? decodeCursor(file) : std::nullopt;
   const IconEntry entry = file.entry(index);
-  if (file.isCursor()) return decodeCursor(file, entry);
-  DecodedIcon decoded = decodeEntry(file, entry, entry.width, entry.height);
+  DecodedIcon decoded = decodeUsableEntry(file, entry);
   if (!decoded.isRead()) return std::nullopt;
-  return DecodedImage{std::move(decoded.icon), corrected(depthOfEntry(entry)).hasAlpha()};
+  return DecodedImage{std::move(decoded.icon), corrected(depthOfEntry(shownEntry(file, entry))).hasAlpha()};
 }
 
 }  // namespace gp::cli

@@ -21,7 +21,7 @@ bool refuse(const std::string& file, const std::string& reason) {
 bool isNew(const IconArrays& arrays, const NewIcon& icon, int except, const std::string& path, SaveInto save) {
   const int same = findSameIcon(arrays, icon.traits, except);
   if (same < 0) return true;
-  return refuse(path, sameIconText(traitsOfEntry(arrays.entries[static_cast<std::size_t>(same)]), save));
+  return refuse(path, sameIconText(traitsOfEntry(arrays, same), save));
 }
 
 bool replaceIn(const std::string& path, int index, NewIcon icon, const std::string& output) {

@@ -50,14 +50,11 @@ Netpbm alphaFile(const AlphaMatrix& alpha) {
   return file;
 }
 
-// Decodes one image as the editor does and writes its files. False, after an error message, when one cannot be written.
-bool unpackImage(const IconFile& file, int index, const std::string& name, OutputFolder& folder) {
-  const auto decoded = decodeImage(file, index);
-  if (!decoded) return false;
-  const std::string start = name + "_" + std::to_string(index);
-  return folder.write(start + ".image.ppm", imageFile(decoded->icon.image).bytes()) &&
-         folder.write(start + ".mask.pgm", maskFile(decoded->icon.mask).bytes()) &&
-         (!decoded->hasAlpha || folder.write(start + ".alpha.pgm", alphaFile(decoded->icon.alpha).bytes()));
+// Writes the files of one image. False, after an error message, when one cannot be written.
+bool writeImage(const DecodedImage& image, const std::string& start, OutputFolder& folder) {
+  return folder.write(start + ".image.ppm", imageFile(image.icon.image).bytes()) &&
+         folder.write(start + ".mask.pgm", maskFile(image.icon.mask).bytes()) &&
+         (!image.hasAlpha || folder.write(start + ".alpha.pgm", alphaFile(image.icon.alpha).bytes()));
 }
 
 bool unpackFile(const std::string& path, const std::string& name, OutputFolder& folder) {
@@ -65,9 +62,10 @@ bool unpackFile(const std::string& path, const std::string& name, OutputFolder& 
   if (!file) return false;
   int unpacked = 0;
   for (int i = 0; i < file->directory.presentCount(); ++i) {
-    if (!isUsableImage(*file, i)) continue;
+    const auto image = decodeImage(*file, i);
+    if (!image) continue;
     ++unpacked;
-    if (!unpackImage(*file, i, name, folder)) return false;
+    if (!writeImage(*image, name + "_" + std::to_string(i), folder)) return false;
   }
   if (unpacked == 0) complain(path, "no usable image");
   return unpacked != 0;

@@ -1,5 +1,6 @@
 // gpicon check: a line for each wrong field of a directory, and none for correct files.
 #include "cli/GpiconFixture.h"
+#include "files/PngEntries.h"
 
 namespace gp::test {
 namespace {
@@ -27,18 +28,17 @@ void put32At(Bytes& bytes, std::size_t at, std::uint32_t value) {
   for (std::size_t i = 0; i < 4; ++i) bytes[at + i] = static_cast<std::uint8_t>(value >> 8 * i);
 }
 
-// The smallest PNG picture that is complete according to the sizes of its chunks.
-Bytes pngPicture(std::uint8_t width, std::uint8_t height) {
-  return {0x89,   'P', 'N', 'G', '\r', '\n', 0x1A, '\n', 0, 0, 0, 13, 'I', 'H', 'D', 'R', 0,   0,   0, width, 0, 0, 0,
-          height, 8,   6,   0,   0,    0,    1,    2,    3, 4, 0, 0,  0,   0,   'I', 'E', 'N', 'D', 1, 2,     3, 4};
+PngFile pngPicture(std::uint32_t width, std::uint32_t height) {
+  PngFile file = anyPng(1);
+  file.width = width;
+  file.height = height;
+  return file;
 }
-Entry pngEntry(int width, int height, const Bytes& image) {
-  Entry png;
-  png.width = width;
-  png.height = height;
-  png.bitCount = 32;
-  png.image = image;
-  return png;
+Entry pngEntry(int width, int height, const PngFile& picture) {
+  Entry entry = pngEntryOf(picture);
+  entry.width = width;
+  entry.height = height;
+  return entry;
 }
 
 Picture hundredColors() {
@@ -78,9 +78,8 @@ TEST_F(GpiconCheck, ARareDepthThatIsStatedCorrectlyIsHealthy) {
 
 TEST_F(GpiconCheck, PngPicturesWithCorrectFieldsAreHealthy) {
   EXPECT_EQ(linesOf(pngEntry(48, 32, pngPicture(48, 32))), "");
-  Bytes full = pngPicture(0, 0);
-  full[18] = full[22] = 1;  // 256
-  EXPECT_EQ(linesOf(pngEntry(0, 0, full)), "");
+  EXPECT_EQ(linesOf(pngEntry(0, 0, pngPicture(256, 256))), "");
+  EXPECT_EQ(linesOf(pngEntry(0, 0, pngPicture(512, 512))), "0\twidth\t256\t512\t-\n0\theight\t256\t512\t-\n");
 }
 
 TEST_F(GpiconCheck, AWrongSizeInTheDirectoryIsReported) {
@@ -251,9 +250,20 @@ TEST_F(GpiconCheck, ACountBeyondTheFileIsReported) {
 
 TEST_F(GpiconCheck, PngPicturesOfAnotherSizeOrCutOffAreReported) {
   EXPECT_EQ(linesOf(pngEntry(16, 16, pngPicture(48, 32))), "0\twidth\t16\t48\t-\n0\theight\t16\t32\t-\n");
-  Bytes cut = pngPicture(16, 16);
-  cut.pop_back();
-  EXPECT_EQ(linesOf(pngEntry(16, 16, cut)), "0\tbytes\t44\t-\tincomplete\n");
+  Entry cut = anyPngEntry(16);
+  cut.image.pop_back();
+  const std::string size = std::to_string(cut.image.size());
+  EXPECT_EQ(linesOf(cut), "0\tbytes\t" + size + "\t-\tincomplete\n");
+}
+
+TEST_F(GpiconCheck, DamagedPngPicturesAreReportedOnce) {
+  PngFile sum = anyPng(16), data = sum;
+  sum.hasRightDataCrc = false;
+  data.data = Bytes(100);
+  for (const PngFile& picture : {sum, data}) EXPECT_EQ(linesOf(pngEntryOf(picture)), "0\tpng\t-\t-\tdamaged\n");
+  Entry other = anyPngEntry(16);
+  other.image[12] = 'J';  // the first chunk is not the header
+  EXPECT_EQ(linesOf(other), "0\tpng\t-\t-\tdamaged\n");
 }
 
 TEST_F(GpiconCheck, CursorsAreAskedForTheirHotSpotAndNotForADepth) {

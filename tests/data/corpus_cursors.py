@@ -3,7 +3,7 @@
 
 usage: corpus_cursors.py FACTS.JSON > corpus-cursors.tsv
 Columns: file, expected result of the editor's probe, hot spot x and y, SHA-256 of the first entry's picture as rows of
-R, G, B and of its AND mask as bytes 0 or 1; "-" for a PNG picture, which the editor refuses to read.
+R, G, B and of its AND mask as bytes 0 or 1; "-" for a PNG picture.
 """
 import json
 import sys
@@ -11,8 +11,8 @@ import sys
 SIDE = 32
 ONLY_OFFSET = 22
 COLORS = {1: 2, 4: 16, 8: 256}
-# The bytes of a PNG picture at the offset of biBitCount: the last letters of its chunk IHDR.
-PNG_BITS = int.from_bytes(b"DR", "little")
+# A PNG picture with alpha. The corpus has no cursor without.
+PNG_BITS = 32
 
 
 def probe(directory, entry):

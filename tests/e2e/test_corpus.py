@@ -104,7 +104,7 @@ def removeAndReverse(copies, desk):
     desk.openIcons(fourth)
     desk.program.press('Reposition')
     desk.program.wait(lambda: len(desk.refs(SEQUENCE)) == 7, 'the pane')
-    # Ref 4 is a PNG, which cannot be shown and so not be selected: the others move past it.
+    # Ref 4, a PNG of 128 x 128, is shown too. The others move past it.
     desk.shift((7, -6), (6, -5), (5, -4), (1, 3), (2, 2), (3, 1))
     desk.program.press('Proceed')
     desk.program.answerBox(fourth, 'alt+y')

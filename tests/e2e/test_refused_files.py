@@ -4,7 +4,7 @@ from dropping import drop
 from forms import CONTAINER, EDIT_FACE, Desk, read, write
 
 RED, RED_CELL = (255, 0, 0), (3, 0)
-PNG = b'\x89PNG\r\n\x1a\n' + b'\0\0\0\rIHDR' + bytes(60)
+DAMAGED_PNG = b'\x89PNG\r\n\x1a\n\0\0\0\rIHDR' + b'\0\0\0\x20' * 2 + bytes(52)
 SAVE_QUESTION = 'Save current icon to file?'
 REFUSAL = ('Invalid icon file or icon not a size of 16x16, 24x24, 32x32 or 48x48. '
            'Please try to use Open Bitmap File menu instead. It holds 2 icons of these sizes all the same. Show them?')
@@ -18,7 +18,7 @@ def largeFirst():
 
 def test_a_file_that_cannot_be_decoded_leaves_unsaved_work_and_its_undo(session):
     good = write(session, 'good.ico', icons.icons((32, 4)))
-    bad = write(session, 'bad.ico', icons.fileOf([icons.entryOf(icons.motif(32, 24), 24)._replace(image=PNG, size=len(PNG))]))
+    bad = write(session, 'bad.ico', icons.fileOf([icons.entryOf(icons.motif(32, 24), 24)._replace(image=DAMAGED_PNG, size=len(DAMAGED_PNG))]))
     desk = Desk(session, good)
     desk.waitForIcon(32, good)
     desk.paint([(5, 7)], RED_CELL, RED, 32)
@@ -78,7 +78,7 @@ def test_the_command_line_and_the_history_offer_them_too(session):
 
 def test_a_drop_keeps_unsaved_work_and_offers_icons_for_its_container(session):
     good, path = write(session, 'good.ico', icons.icons((32, 4))), write(session, 'large.ico', largeFirst())
-    bad = write(session, 'bad.ico', icons.fileOf([icons.entryOf(icons.motif(32, 24), 24)._replace(image=PNG, size=len(PNG))]))
+    bad = write(session, 'bad.ico', icons.fileOf([icons.entryOf(icons.motif(32, 24), 24)._replace(image=DAMAGED_PNG, size=len(DAMAGED_PNG))]))
     desk = Desk(session, good)
     desk.waitForIcon(32, good)
     desk.paint([(5, 7)], RED_CELL, RED, 32)

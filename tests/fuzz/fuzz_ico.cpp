@@ -1,6 +1,7 @@
 // Icon files: directory, probe, and every entry decoded with its stated size and as 32x32.
 #include "FuzzIcons.h"
 #include "files/format/IconProbe.h"
+#include "files/format/PngEntry.h"
 
 #include <cstdint>
 
@@ -28,6 +29,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     (void)gp::isUsableEntry(file, entry);
     decodeAs(file, entry, entry.width, entry.height);
     decodeAs(file, entry, 32, 32);
+    if (!gp::isPngImage(file, entry)) continue;
+    const gp::IconEntry shown = gp::shownEntry(file, entry);
+    decodeAs(file, shown, shown.width, shown.height);
   }
   return 0;
 }

@@ -42,7 +42,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Report report(file);
   gp::cli::findDiscrepancies(file, [&](const Discrepancy& discrepancy) { report.take(discrepancy); });
   for (int i = 0; i < gp::fuzz::entriesToDecode(file); ++i)
-    require(gp::cli::decodeImage(file, i).has_value() <= gp::cli::isUsableImage(file, i));
+    require(gp::cli::decodeImage(file, i).has_value() == gp::cli::isUsableImage(file, i));
   if (!file.isIcon()) return 0;
   // A file that does not contain all that it states is reported, and is refused for updates.
   gp::IconArrays arrays;

@@ -3,7 +3,7 @@
 #include "document/AlphaCompositing.h"
 #include "document/Compositing.h"
 #include "document/IconContainerRec.h"
-#include "files/format/IconDecoder.h"
+#include "files/format/PngEntry.h"
 
 #include <utility>
 
@@ -22,15 +22,23 @@ Surface composedWithAlpha(const IconImage& icon) {
   return composed;
 }
 
+// The Mask of a bitmap marks its transparent pixels, that of a PNG picture only those without any alpha.
+Surface composedPlain(const IconImage& icon, bool isPng) {
+  if (!isPng) return composedIcon(icon.image, icon.mask);
+  const IconImage plain = withoutAlpha(icon);
+  return composedIcon(plain.image, plain.mask);
+}
+
 }  // namespace
 
 bool EntryPreview::show(const IconArrays& arrays, const IconEntry& entry, SizeRule rule, bool showAlpha) {
-  if (!isReadSize(entry, rule)) return false;
-  DecodedIcon decoded = decodeEntry(arrays.file, entry, entry.width, entry.height);
+  const IconEntry shown = shownEntry(arrays.file, entry);
+  if (!isReadSize(shown, rule)) return false;
+  DecodedIcon decoded = decodeEntry(arrays.file, shown, shown.width, shown.height);
   if (!decoded.isRead()) return false;
   icon_ = std::move(decoded.icon);
-  const bool hasAlpha = depthOfEntry(entry).isTrueColor();
-  picIcon_ = hasAlpha && showAlpha ? composedWithAlpha(icon_) : composedIcon(icon_.image, icon_.mask);
+  const bool hasAlpha = depthOfEntry(shown).isTrueColor();
+  picIcon_ = hasAlpha && showAlpha ? composedWithAlpha(icon_) : composedPlain(icon_, isPngImage(arrays.file, shown));
   picIcon_.makePersistent();
   return true;
 }

@@ -25,6 +25,7 @@ constexpr const char* kSalvaged = "\n\n(per bitmap header entry, irrespective of
 constexpr const char* kNameEnding = "_X.ico";
 
 constexpr const char* kTrue = "True";
+constexpr const char* kPng = "PNG";
 constexpr const char* kDoubtful = "   (?)";
 constexpr int kPreferredSize = 32;
 constexpr std::size_t kPixelBytes = 4;
@@ -96,7 +97,7 @@ void HeaderDiff::readMultiIconFile() {
   preview_.clear();
   // On a defect the arrays are empty, and so is the list.
   static_cast<void>(readIconArrays(file_, ReservedField::Any, arrays_));
-  entries_ = listEntries(arrays_);
+  entries_ = listStatedEntries(arrays_);
   headers_.clear();
   for (const ImageBytes image : arrays_.images) headers_.push_back(headerFactsOf(image));
   listIcons();
@@ -161,16 +162,17 @@ bool HeaderDiff::readImageAtIndex(std::size_t index) {
 
 EnquiryTable HeaderDiff::tableOf(std::size_t index) const {
   const ListedEntry& entry = entries_[index];
-  const int headerBits = headers_[index].bits;
+  const int headerBits = entry.isPng ? entry.header.bits : headers_[index].bits;
   EnquiryTable table;
   table.lblIDEColor = colorLabel(entry.directory.colors);
   table.lblIDEBPP = bitsLabel(entry.directory);
-  table.lblBIHColor = colorLabel(entry.header.colors);
+  table.lblBIHColor = entry.isPng ? kPng : colorLabel(entry.header.colors);
   table.lblBIHBPP = std::to_string(headerBits);
 
   int actual = 0;
   GetColorBitCount_Image(preview_.icon().image, actual);
-  if (hasAlphaBytes(arrays_.images[index], headers_[index])) actual = kTrueColor;
+  const bool isPngWithAlpha = entry.isPng && entry.header.hasAlpha();
+  if (isPngWithAlpha || hasAlphaBytes(arrays_.images[index], headers_[index])) actual = kTrueColor;
   table.lblActualColor = colorLabel(actual);
   table.lblActualBPP = std::to_string(depthOfColors(actual, headerBits == kBitsWithAlpha).bits);
   return table;

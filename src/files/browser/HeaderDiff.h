@@ -1,6 +1,7 @@
 // The rules of frmGPHeaderDiff, which compares what an icon file's directory, its bitmap headers and its pixels state,
 // and writes a copy whose directory follows the bitmap headers. It works on MultiIconExchange's file, which it holds in
-// memory. Images that the decoder refuses, such as PNG pictures, are not shown.
+// memory. Images that the decoder refuses are not shown. A PNG picture has no bitmap header: "PNG" and its own bits
+// take the place of the header's values, and it is shown in its own size.
 #pragma once
 
 #include "files/FilesContext.h"

@@ -2,6 +2,7 @@
 
 #include "document/IconSizes.h"
 #include "files/format/IcoLayout.h"
+#include "files/format/PngEntry.h"
 #include "platform/text/Numbers.h"
 #include "platform/text/Utf8.h"
 
@@ -22,12 +23,28 @@ constexpr std::size_t kRefWidth = 2;
 
 int lowHeaderBits(ImageBytes image) { return image.size() > ico::kHeaderBitCount ? image[ico::kHeaderBitCount] : 0; }
 
-ListedEntry listedEntry(const IconEntry& entry, ImageBytes image) {
-  ListedEntry listed;
-  listed.width = entry.width;
-  listed.height = entry.height;
-  listed.directory = depthOfEntry(entry);
-  listed.header = depthOfEntry(entry, lowHeaderBits(image));
+// `shown` is the entry as its image describes it, `listed` the one that is listed.
+ListedEntry listedEntry(const IconEntry& listed, const IconEntry& shown, ImageBytes image, bool isPng) {
+  ListedEntry result;
+  result.width = listed.width;
+  result.height = listed.height;
+  result.directory = depthOfEntry(listed);
+  result.header = isPng ? depthOfEntry(shown) : depthOfEntry(listed, lowHeaderBits(image));
+  result.isPng = isPng;
+  return result;
+}
+
+enum class Listed { AsShown, AsStated };
+
+std::vector<ListedEntry> listAll(const IconArrays& arrays, Listed manner) {
+  std::vector<ListedEntry> listed;
+  listed.reserve(arrays.entries.size());
+  for (std::size_t i = 0; i < arrays.entries.size(); ++i) {
+    const IconEntry& stated = arrays.entries[i];
+    const IconEntry shown = shownEntry(arrays.file, stated);
+    listed.push_back(listedEntry(manner == Listed::AsShown ? shown : stated, shown, arrays.images[i],
+                                 isPngImage(arrays.file, stated)));
+  }
   return listed;
 }
 
@@ -52,13 +69,8 @@ int wholeRefIn(std::string_view text) {
 bool ListedEntry::isStandard() const { return width == height && isIconSize(width); }
 bool ListedEntry::lacksBits() const { return directory.hasPalette() && directory.bits == 0; }
 
-std::vector<ListedEntry> listEntries(const IconArrays& arrays) {
-  std::vector<ListedEntry> listed;
-  listed.reserve(arrays.entries.size());
-  for (std::size_t i = 0; i < arrays.entries.size(); ++i)
-    listed.push_back(listedEntry(arrays.entries[i], arrays.images[i]));
-  return listed;
-}
+std::vector<ListedEntry> listEntries(const IconArrays& arrays) { return listAll(arrays, Listed::AsShown); }
+std::vector<ListedEntry> listStatedEntries(const IconArrays& arrays) { return listAll(arrays, Listed::AsStated); }
 
 std::string itemText(int ref, const ListedEntry& entry, bool padded) {
   const auto [colorCount, bitCount] = entry.directory;

@@ -10,12 +10,14 @@
 
 namespace gp {
 
-// One entry as its directory entry and the bitmap header of its image describe it.
+// One entry as its directory entry and the bitmap header of its image describe it; a PNG picture as it describes
+// itself.
 struct ListedEntry {
   int width = 0;  // the directory's bytes
   int height = 0;
   ColorDepth directory = {};  // mDirColors and mDirBits
   ColorDepth header = {};     // mBihColors and mBihBits: the low byte of biBitCount, 0 where the image is too short
+  bool isPng = false;
 
   // Square, and of 16, 24, 32 or 48 pixels.
   bool isStandard() const;
@@ -24,6 +26,8 @@ struct ListedEntry {
 };
 
 std::vector<ListedEntry> listEntries(const IconArrays& arrays);
+// The same with the directory's size and depth for PNG pictures too.
+std::vector<ListedEntry> listStatedEntries(const IconArrays& arrays);
 
 // "Ref 3  \t32 BPP\tTrue-Color\t   32 x  32"; with padding width and height are three characters each.
 std::string itemText(int ref, const ListedEntry& entry, bool padded);

@@ -1,5 +1,7 @@
 #include "files/cursor/CursorLoading.h"
 
+#include "files/format/PngEntry.h"
+
 namespace gp {
 namespace {
 
@@ -8,7 +10,7 @@ constexpr const char* kCurLabel = "CUR file";
 // The entry of a cursor file states no depth; that of the bitmap header is used instead. Images without a palette that
 // are not of 24 bits are read as four bytes per pixel.
 IconEntry entryByHeader(const IconFile& file) {
-  IconEntry entry = file.entry(0);
+  IconEntry entry = shownEntry(file, file.entry(0));
   const int bits = headerBitCount(file, entry);
   entry.colorCount = 0;
   entry.bitCount = depthOfBits(bits).hasPalette() || bits == kBitsWithoutAlpha ? bits : kBitsWithAlpha;

@@ -1,12 +1,14 @@
 #include "files/cursor/CursorProbe.h"
 
 #include "files/format/IcoLayout.h"
+#include "files/format/PngEntry.h"
 
 namespace gp {
 namespace {
 
-bool isEditable(const IconEntry& entry) {
-  return entry.width == kCursorSide && entry.height == kCursorSide && entry.imageOffset == ico::kSingleImageOffset &&
+bool isEditable(const IconFile& file, const IconEntry& entry) {
+  const IconEntry shown = shownEntry(file, entry);
+  return shown.width == kCursorSide && shown.height == kCursorSide && entry.imageOffset == ico::kSingleImageOffset &&
          entry.hotspotX() < kCursorSide && entry.hotspotY() < kCursorSide;
 }
 
@@ -18,7 +20,7 @@ std::string CursorFacts::joined() const {
 
 CursorFacts probeCursor(const IconFile& file) {
   const IconEntry entry = file.entry(0);
-  if (!file.isCursor() || !isEditable(entry)) return {};
+  if (!file.isCursor() || !isEditable(file, entry)) return {};
   return {true, depthOfBits(headerBitCount(file, entry)), entry.hotspotX(), entry.hotspotY()};
 }
 

@@ -12,7 +12,7 @@ inline constexpr int kCursorSide = 32;  // pixels; a hot spot lies in 0 to 31
 
 struct CursorFacts {
   bool valid = false;
-  ColorDepth depth;  // by the bitmap header alone
+  ColorDepth depth;  // by the bitmap header or PNG picture alone
   int hotspotX = 0;
   int hotspotY = 0;
 

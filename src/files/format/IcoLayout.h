@@ -6,7 +6,6 @@
 #include "platform/files/BitmapLayout.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 
@@ -44,9 +43,6 @@ inline constexpr std::size_t kPaletteEntrySize = 4;
 inline constexpr int kMaxPaletteColors = kPaletteDepth.colors;
 inline constexpr int kMaxEntrySide = 255;
 
-// The first bytes of a PNG picture, which may take the place of a bitmap.
-inline constexpr std::array<std::uint8_t, 8> kPngSignature{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
-
 using dib::aligned;
 using dib::rowBytes;
 using dib::rowStride;
@@ -57,9 +53,17 @@ constexpr std::size_t trueRowStride(int width, int bits) {
   return rowBytes(width, bits) + (aligned(static_cast<std::size_t>(width)) - static_cast<std::size_t>(width));
 }
 
-// The largest distance from an image's offset that any entry can make a reader go.
+// The largest bitmap that an entry can describe, in bytes from its offset on.
 inline constexpr std::size_t kLargestImage =
     kBitmapHeaderSize + kMaxPaletteColors * kPaletteEntrySize +
     kMaxEntrySide * (trueRowStride(kMaxEntrySide, kBitsWithAlpha) + rowStride(kMaxEntrySide, 1));
+
+// The largest PNG picture that is read. Pictures of an icon size need far less, and many entries can share a long one.
+inline constexpr std::size_t kLargestPng = std::size_t{512} * 1024;
+
+// The bytes from an image's offset on that a reader uses at most. A bitmap can be larger than its entry states.
+constexpr std::size_t readSize(std::uint32_t bytesInRes) {
+  return std::clamp<std::size_t>(bytesInRes, kLargestImage, kLargestPng);
+}
 
 }  // namespace gp::ico

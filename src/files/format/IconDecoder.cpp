@@ -1,6 +1,7 @@
 #include "files/format/IconDecoder.h"
 
 #include "files/format/IcoLayout.h"
+#include "files/format/PngEntry.h"
 #include "platform/files/ByteReader.h"
 
 #include <algorithm>
@@ -180,9 +181,16 @@ AlphaMatrix readAlpha(const std::uint8_t* rows, const ImageFormat& format, int w
 
 bool hasRowFormat(ColorDepth depth) { return depth.isTrueColor() || isPaletteSize(depth.colors); }
 
-IconDefect defectOfImage(const IconFile& file, const IconEntry& entry) {
-  if (isPngImage(file, entry)) return IconDefect::PngImage;
-  return hasRowFormat(depthOfEntry(entry)) ? IconDefect::None : IconDefect::StrangeDepth;
+DecodedIcon decodeBitmap(const IconFile& file, const IconEntry& entry, int width, int height) {
+  const ImageFormat format = formatOf(entry, width);
+  const PaddedBytes image(file.span(), std::uint64_t{entry.imageOffset} + ico::kBitmapHeaderSize, format.size(height));
+  const Palette palette = paletteFor(image.data(), format);
+  const std::uint8_t* const imageRows = image.data() + format.paletteBytes();
+  const std::uint8_t* const maskRows = imageRows + static_cast<std::size_t>(height) * format.imageStride;
+  return {IconDefect::None,
+          {readRows(imageRows, format.imageStride, width, height, palette.data(), rowReaderFor(format.bits)),
+           readRows(maskRows, format.maskStride, width, height, kMaskTable.data(), readMonoRow),
+           readAlpha(imageRows, format, width, height)}};
 }
 
 }  // namespace
@@ -199,8 +207,8 @@ const char* describe(IconDefect defect) {
       return "no image of that index";
     case IconDefect::SizeNotOffered:
       return "icon not of size 16x16, 24x24, 32x32 or 48x48";
-    case IconDefect::PngImage:
-      return "a PNG image, not a bitmap";
+    case IconDefect::DamagedPng:
+      return "a damaged PNG image";
     case IconDefect::StrangeDepth:
       return "not of 1, 4, 8, 24 or 32 bits per pixel";
     case IconDefect::StrangeTrueColor:
@@ -211,22 +219,15 @@ const char* describe(IconDefect defect) {
 
 DecodedIcon decodeEntry(const IconFile& file, const IconEntry& entry, int width, int height) {
   if (width < 1 || height < 1) return {IconDefect::SizeNotOffered, {}};
-  if (const IconDefect defect = defectOfImage(file, entry); defect != IconDefect::None) return {defect, {}};
-
-  const ImageFormat format = formatOf(entry, width);
-  const PaddedBytes image(file.span(), std::uint64_t{entry.imageOffset} + ico::kBitmapHeaderSize, format.size(height));
-  const Palette palette = paletteFor(image.data(), format);
-  const std::uint8_t* const imageRows = image.data() + format.paletteBytes();
-  const std::uint8_t* const maskRows = imageRows + static_cast<std::size_t>(height) * format.imageStride;
-  return {IconDefect::None,
-          {readRows(imageRows, format.imageStride, width, height, palette.data(), rowReaderFor(format.bits)),
-           readRows(maskRows, format.maskStride, width, height, kMaskTable.data(), readMonoRow),
-           readAlpha(imageRows, format, width, height)}};
+  if (isPngImage(file, entry)) return decodePngEntry(file, entry, width, height);
+  if (!hasRowFormat(depthOfEntry(entry))) return {IconDefect::StrangeDepth, {}};
+  return decodeBitmap(file, entry, width, height);
 }
 
 IconDefect defectOfEntry(const IconFile& file, const IconEntry& entry) {
-  if (const IconDefect defect = defectOfImage(file, entry); defect != IconDefect::None) return defect;
-  return depthOfEntry(entry).isShown() ? IconDefect::None : IconDefect::StrangeTrueColor;
+  const ColorDepth depth = depthOfEntry(shownEntry(file, entry));
+  if (!hasRowFormat(depth)) return IconDefect::StrangeDepth;
+  return depth.isShown() ? IconDefect::None : IconDefect::StrangeTrueColor;
 }
 
 }  // namespace gp

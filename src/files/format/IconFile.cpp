@@ -1,6 +1,8 @@
 #include "files/format/IconFile.h"
 
 #include "files/format/IcoLayout.h"
+#include "files/format/PngEntry.h"
+#include "platform/codec/Png.h"
 #include "platform/files/ByteReader.h"
 
 #include <algorithm>
@@ -19,15 +21,16 @@ constexpr std::uint64_t kMostRead = std::uint64_t{64} << 20;
 // The parts of the file that a reader can use, up to kMostRead: the directory, and each image once, even if several
 // entries share it.
 std::vector<FileRange> wantedRanges(const IconDirectory& directory) {
-  std::vector<std::uint64_t> offsets;
-  for (const IconEntry& entry : directory.entries) offsets.push_back(entry.imageOffset);
-  std::ranges::sort(offsets);
+  std::vector<FileRange> images;
+  for (const IconEntry& entry : directory.entries)
+    images.push_back({entry.imageOffset, std::uint64_t{entry.imageOffset} + ico::readSize(entry.bytesInRes)});
+  std::ranges::sort(images, {}, &FileRange::begin);
   std::vector<FileRange> ranges{{0, ico::kMaxDirectorySize}};
   std::uint64_t taken = ico::kMaxDirectorySize;
-  for (const std::uint64_t offset : offsets) {
+  for (const FileRange& image : images) {
     FileRange& last = ranges.back();
-    const std::uint64_t begin = std::max(offset, last.end);
-    const std::uint64_t end = std::min(std::max(offset + ico::kLargestImage, last.end), begin + kMostRead - taken);
+    const std::uint64_t begin = std::max(image.begin, last.end);
+    const std::uint64_t end = std::min(std::max(image.end, last.end), begin + kMostRead - taken);
     taken += end - begin;
     if (begin == last.end)
       last.end = end;
@@ -64,16 +67,12 @@ std::optional<IconFile> readIconFile(const std::string& path) {
 std::optional<IconFile> readWholeIconFile(const std::string& path) { return parsed(readFile(path)); }
 
 int headerBitCount(const IconFile& file, const IconEntry& entry) {
+  if (isPngImage(file, entry)) return pngBitCount(file, entry);
   return ByteReader(file.span()).u16At(ByteReader::Position{entry.imageOffset} + ico::kHeaderBitCount);
 }
 
 bool isPngImage(const IconFile& file, const IconEntry& entry) {
-  return isPngImage(ByteReader(file.span()).bytesAt(entry.imageOffset, ico::kPngSignature.size()));
-}
-
-bool isPngImage(std::span<const std::uint8_t> image) {
-  const std::size_t length = std::min(image.size(), ico::kPngSignature.size());
-  return std::ranges::equal(image.first(length), ico::kPngSignature);
+  return isPng(ByteReader(file.span()).bytesAt(entry.imageOffset, kPngSignature.size()));
 }
 
 }  // namespace gp

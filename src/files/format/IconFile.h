@@ -29,11 +29,10 @@ std::optional<IconFile> readIconFile(const std::string& path);
 // Reads all bytes of a file, for callers that rewrite it or check its size. Empty as above.
 std::optional<IconFile> readWholeIconFile(const std::string& path);
 
-// biBitCount of the bitmap header of an entry's image; 0 when the file ends before it.
+// biBitCount of the bitmap header of an entry's image; 0 when the file ends before it. For a PNG picture, 32 with alpha
+// and 24 without.
 int headerBitCount(const IconFile& file, const IconEntry& entry);
 // True when the entry's image is a PNG picture.
 bool isPngImage(const IconFile& file, const IconEntry& entry);
-// The same for the bytes of one image.
-bool isPngImage(std::span<const std::uint8_t> image);
 
 }  // namespace gp

@@ -1,7 +1,8 @@
 #include "files/format/IconProbe.h"
 
 #include "document/IconSizes.h"
-#include "files/format/IconDecoder.h"
+#include "files/format/IcoLayout.h"
+#include "files/format/PngEntry.h"
 
 #include <algorithm>
 
@@ -14,9 +15,12 @@ constexpr int kPreferredSize = 32;
 
 bool isSquareIcon(const IconEntry& entry) { return entry.width == entry.height && isIconSize(entry.width); }
 
+// A side that a directory can state other than by 0.
+bool isStatedSide(int side) { return side >= 1 && side <= ico::kMaxEntrySide; }
+
 // Checks on the first entry. A file that fails them does not count as an icon.
 bool isSound(const IconEntry& first) {
-  return first.width > 0 && first.height > 0 && first.bytesInRes > 0 && first.imageOffset > 0;
+  return isStatedSide(first.width) && isStatedSide(first.height) && first.bytesInRes > 0 && first.imageOffset > 0;
 }
 
 IconFacts nothingUsable(int kind) {
@@ -26,11 +30,16 @@ IconFacts nothingUsable(int kind) {
 }
 
 IconFacts probeSingle(const IconFile& file) {
-  const IconEntry entry = file.entry(0);
+  const IconEntry entry = shownEntry(file, file.entry(0));
   if (!isIconSize(entry.width) || !isIconSize(entry.height)) return nothingUsable(kOneEntry);
   IconFacts facts = factsOfEntry(file, 0);
   facts.usable = 1;
   return facts;
+}
+
+// A picture that cannot be decoded must not take the place of another image.
+bool isDamagedPng(const IconFile& file, const IconEntry& entry) {
+  return isPngImage(file, entry) && !decodePngEntry(file, entry, entry.width, entry.height).isRead();
 }
 
 // Scans a file with several entries. A first 32x32 entry does not end the scan, even if it has 8 bits.
@@ -48,8 +57,8 @@ class EntryScan {
 
  private:
   void consider(int index) {
-    const IconEntry entry = file_.entry(index);
-    if (!isSquareIcon(entry)) return;
+    const IconEntry entry = shownEntry(file_, file_.entry(index));
+    if (!isSquareIcon(entry) || isDamagedPng(file_, entry)) return;
     ++usable_;
     if (entry.width != kPreferredSize) {
       if (!met32_) chosen_ = index;
@@ -80,7 +89,7 @@ std::string IconFacts::joined() const {
 }
 
 IconFacts factsOfEntry(const IconFile& file, int index) {
-  const IconEntry entry = file.entry(index);
+  const IconEntry entry = shownEntry(file, file.entry(index));
   IconFacts facts;
   facts.kind = file.directory.count > 1 ? kSeveralEntries : kOneEntry;
   facts.chosen = index;
@@ -92,7 +101,8 @@ IconFacts factsOfEntry(const IconFile& file, int index) {
 }
 
 IconFacts probeIcon(const IconFile& file, bool preferEightBit) {
-  if (!file.isIcon() || !isSound(file.entry(0))) return {};
+  const IconEntry first = file.entry(0);
+  if (!file.isIcon() || !(isSound(first) || isSound(shownEntry(file, first)))) return {};
   return file.directory.count == 1 ? probeSingle(file) : EntryScan(file, preferEightBit).run();
 }
 
@@ -101,12 +111,22 @@ IconFacts ProbeIconFile(const std::string& path, bool preferEightBit) {
   return file ? probeIcon(*file, preferEightBit) : IconFacts{};
 }
 
-int countIconSizes(const IconDirectory& directory) {
-  return static_cast<int>(std::ranges::count_if(directory.entries, isSquareIcon));
+int countIconSizes(const IconFile& file) {
+  const auto& entries = file.directory.entries;
+  return static_cast<int>(
+      std::ranges::count_if(entries, [&](const IconEntry& entry) { return isSquareIcon(shownEntry(file, entry)); }));
+}
+
+DecodedIcon decodeUsableEntry(const IconFile& file, const IconEntry& entry) {
+  const IconEntry shown = shownEntry(file, entry);
+  if (!isSquareIcon(shown)) return {IconDefect::SizeNotOffered, {}};
+  if (const IconDefect defect = defectOfEntry(file, shown); defect != IconDefect::None) return {defect, {}};
+  return decodeEntry(file, shown, shown.width, shown.height);
 }
 
 bool isUsableEntry(const IconFile& file, const IconEntry& entry) {
-  return isSquareIcon(entry) && defectOfEntry(file, entry) == IconDefect::None;
+  const IconEntry shown = shownEntry(file, entry);
+  return isSquareIcon(shown) && defectOfEntry(file, shown) == IconDefect::None && !isDamagedPng(file, shown);
 }
 
 }  // namespace gp

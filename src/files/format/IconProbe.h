@@ -1,7 +1,8 @@
-// Describes an icon file by nine numbers, which decide whether and how it can be opened. Reads only the directory and
-// the bitmap headers. Accepts any file; one that is not an icon has kind 0.
+// Describes an icon file by nine numbers, which decide whether and how it can be opened. Reads only the directory, the
+// bitmap headers and PNG pictures. Accepts any file; one that is not an icon has kind 0.
 #pragma once
 
+#include "files/format/IconDecoder.h"
 #include "files/format/IconFile.h"
 
 #include <string>
@@ -33,9 +34,12 @@ IconFacts probeIcon(const IconFile& file, bool preferEightBit);
 // The same for a file on disk. One that cannot be read counts as not an icon file.
 IconFacts ProbeIconFile(const std::string& path, bool preferEightBit);
 
-// The number of entries whose directory states one of the icon sizes, whether or not they can be decoded.
-int countIconSizes(const IconDirectory& directory);
-// True when the editor can show the entry: a square bitmap of an icon size and of a supported depth.
+// The number of entries of one of the icon sizes, whether or not they can be decoded.
+int countIconSizes(const IconFile& file);
+// Decodes an entry that the editor can show; a defect otherwise.
+[[nodiscard]] DecodedIcon decodeUsableEntry(const IconFile& file, const IconEntry& entry);
+// True when the editor can show the entry: a square image of an icon size; a bitmap of a supported depth, or a PNG
+// picture that can be decoded.
 bool isUsableEntry(const IconFile& file, const IconEntry& entry);
 
 }  // namespace gp

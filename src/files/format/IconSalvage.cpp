@@ -1,7 +1,7 @@
 #include "files/format/IconSalvage.h"
 
 #include "files/format/IcoLayout.h"
-#include "files/format/IconFile.h"
+#include "platform/codec/Png.h"
 #include "platform/files/ByteReader.h"
 #include "platform/text/Numbers.h"
 
@@ -26,7 +26,7 @@ int halfOf(std::int32_t height) {
 
 }  // namespace
 
-bool hasBitmapHeader(ImageBytes image) { return image.size() > dib::kHeaderBitCount && !isPngImage(image); }
+bool hasBitmapHeader(ImageBytes image) { return image.size() > dib::kHeaderBitCount && !isPng(image); }
 
 HeaderFacts headerFactsOf(ImageBytes image) {
   if (!hasBitmapHeader(image)) return {};

@@ -2,6 +2,7 @@
 
 #include "files/format/IconWriter.h"
 #include "files/format/ImageSizes.h"
+#include "files/format/PngEntry.h"
 #include "platform/files/ByteReader.h"
 
 #include <utility>
@@ -26,11 +27,15 @@ IconTraits traitsToWrite(const IconImage& icon, const IconContainerRec& record) 
   return {icon.width(), icon.height(), depthToWrite(icon, record)};
 }
 
-IconTraits traitsOfEntry(const IconEntry& entry) { return {entry.width, entry.height, depthOfEntry(entry)}; }
+IconTraits traitsOfEntry(const IconArrays& arrays, int index) {
+  const auto at = static_cast<std::size_t>(index);
+  const IconEntry entry = shownEntry(arrays.entries.at(at), arrays.images.at(at));
+  return {entry.width, entry.height, depthOfEntry(entry)};
+}
 
 int findSameIcon(const IconArrays& arrays, const IconTraits& traits, int except) {
   for (int i = 0; i < arrays.count(); ++i)
-    if (i != except && traitsOfEntry(arrays.entries[static_cast<std::size_t>(i)]) == traits) return i;
+    if (i != except && traitsOfEntry(arrays, i) == traits) return i;
   return -1;
 }
 

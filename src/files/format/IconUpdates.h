@@ -25,8 +25,8 @@ struct IconTraits {
 
 // The traits of an icon as depthToWrite writes it.
 IconTraits traitsToWrite(const IconImage& icon, const IconContainerRec& record);
-// The traits of an entry as the directory states them.
-IconTraits traitsOfEntry(const IconEntry& entry);
+// The traits of an entry as the directory states them; of a PNG picture as it states them itself.
+IconTraits traitsOfEntry(const IconArrays& arrays, int index);
 // The index of the first entry with these traits other than `except` (-1 for none); -1 when there is none.
 int findSameIcon(const IconArrays& arrays, const IconTraits& traits, int except);
 

@@ -1,6 +1,7 @@
 #include "files/format/ImageHeader.h"
 
 #include "files/format/IcoLayout.h"
+#include "platform/codec/Png.h"
 #include "platform/files/ByteReader.h"
 
 #include <algorithm>
@@ -9,24 +10,17 @@
 namespace gp {
 namespace {
 
-// Offsets in a PNG picture, whose numbers are big-endian.
-constexpr std::size_t kPngWidth = 16;
-constexpr std::size_t kPngHeight = 20;
-constexpr std::size_t kPngSizeEnd = 24;
-
 constexpr int kMaxPaletteBits = 8;
 constexpr int kBitsPerByte = 8;
 constexpr std::array<int, 7> kKnownBits{1, 2, 4, 8, 16, 24, 32};
 
-std::uint32_t bigEndian32(std::uint32_t value) {
-  return value << 24 | (value << 8 & 0xFF0000) | (value >> 8 & 0xFF00) | value >> 24;
-}
-
-ImageHeader readPngHeader(ByteReader& reader, ByteReader::Position at) {
+std::optional<ImageHeader> readPictureHeader(std::span<const std::uint8_t> picture) {
+  const auto stated = readPngHeader(picture);
+  if (!stated) return std::nullopt;
   ImageHeader header;
   header.isPng = true;
-  header.width = bigEndian32(reader.u32At(at + kPngWidth));
-  header.rows = bigEndian32(reader.u32At(at + kPngHeight));
+  header.width = stated->width;
+  header.rows = stated->height;
   return header;
 }
 
@@ -67,9 +61,9 @@ std::uint64_t ImageHeader::bytesNeeded(std::uint32_t paletteEntries) const {
 std::optional<ImageHeader> readImageHeader(const IconFile& file, const IconEntry& entry) {
   ByteReader reader(file.span());
   const ByteReader::Position at = entry.imageOffset;
-  const bool isPng = isPngImage(file, entry);
-  if (!reader.contains(at, isPng ? kPngSizeEnd : ico::kBitmapHeaderSize)) return std::nullopt;
-  return isPng ? readPngHeader(reader, at) : readBitmapHeader(reader, at);
+  if (isPngImage(file, entry)) return readPictureHeader(reader.bytesAt(at, kPngHeaderSize));
+  if (!reader.contains(at, ico::kBitmapHeaderSize)) return std::nullopt;
+  return readBitmapHeader(reader, at);
 }
 
 }  // namespace gp

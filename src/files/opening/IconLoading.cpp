@@ -1,5 +1,7 @@
 #include "files/opening/IconLoading.h"
 
+#include "files/format/PngEntry.h"
+
 namespace gp {
 namespace {
 
@@ -10,7 +12,7 @@ constexpr const char* kIcoLabel = "ICO file";
 DecodedIcon loadIconImage(const IconFile& file, int index, bool checkSize, const std::optional<ReadSize>& size) {
   if (!file.isIcon()) return {IconDefect::NotAnIcon, {}};
   if (index < 0 || index >= file.directory.count) return {IconDefect::NoSuchEntry, {}};
-  const IconEntry entry = file.entry(index);
+  const IconEntry entry = shownEntry(file, file.entry(index));
   const ReadSize wanted = size.value_or(ReadSize{entry.width, entry.height});
   if (checkSize && !isIconSize(wanted.width, wanted.height)) return {IconDefect::SizeNotOffered, {}};
   return decodeEntry(file, entry, wanted.width, wanted.height);

@@ -11,7 +11,7 @@
 
 namespace gp {
 
-// The size that an entry is decoded at: that of its directory entry, or one that the caller states.
+// The size that an entry is decoded at: that of its directory entry or PNG picture, or one that the caller states.
 struct ReadSize {
   int width = 0;
   int height = 0;

@@ -72,7 +72,7 @@ bool IconOpening::probe() {
 
 // 0 also for a file that the browser cannot list.
 int IconOpening::iconsInside() {
-  const int icons = file_.isIcon() ? countIconSizes(file_.directory) : 0;
+  const int icons = file_.isIcon() ? countIconSizes(file_) : 0;
   IconArrays arrays;
   const bool isListed = icons > 0 && readIconArrays(path_, ReservedField::Any, arrays) == ArraysDefect::None;
   return isListed ? icons : 0;

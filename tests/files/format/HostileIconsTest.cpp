@@ -304,52 +304,5 @@ TEST(HostileBitmap, OtherPictureFilesUnderTheNameOfAnIconAreNoIconFile) {
   for (const Bytes& other : others) EXPECT_EQ(probe(other), kNoIcon);
 }
 
-// C3: PNG inside. All are recognised by their signature and refused, whatever their other fields are.
-
-Entry pngEntry(int size, const Bytes& behindSignature) {
-  Entry entry;
-  entry.width = entry.height = size;
-  entry.bitCount = 32;
-  entry.image = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
-  append(entry.image, behindSignature);
-  return entry;
-}
-Bytes ihdr(std::uint8_t side, std::uint8_t depth, std::uint8_t colorType) {
-  return {0, 0, 0, 13, 'I', 'H', 'D', 'R', 0, 0, 0, side, 0, 0, 0, side, depth, colorType, 0, 0, 0};
-}
-
-TEST(HostilePng, APngOfAnySizeIsRefused) {
-  for (const int size : {16, 24, 32, 48})
-    EXPECT_EQ(decode(build(pngEntry(size, ihdr(32, 8, 6)))).defect, IconDefect::PngImage) << size;
-}
-
-TEST(HostilePng, APngOfAnyKindOfPixelsIsRefused) {
-  for (const int type : {0, 2, 3, 4})
-    EXPECT_EQ(decode(build(pngEntry(32, ihdr(32, 16, static_cast<std::uint8_t>(type))))).defect, IconDefect::PngImage);
-}
-
-TEST(HostilePng, APngThatClaimsToBeHugeTakesNoRoom) {
-  Bytes bomb = ihdr(32, 8, 6);
-  bomb[8] = bomb[12] = 0x7F;
-  EXPECT_EQ(decode(build(pngEntry(32, bomb))).defect, IconDefect::PngImage);
-}
-
-TEST(HostilePng, APngOfAnotherSizeThanTheDirectorysIsRefused) {
-  EXPECT_EQ(decode(build(pngEntry(32, ihdr(64, 8, 6)))).defect, IconDefect::PngImage);
-}
-
-TEST(HostilePng, ACutPngIsRefusedAndOneWithoutItsSignatureIsABitmapOfZeros) {
-  EXPECT_EQ(decode(build(pngEntry(32, {}))).defect, IconDefect::PngImage);
-  Entry cut = pngEntry(32, {});
-  cut.image.pop_back();
-  EXPECT_EQ(decode(build(cut)).defect, IconDefect::None);
-}
-
-TEST(HostilePng, APngNeverCostsTheOtherImages) {
-  const Bytes bytes = build(fileOf({icon(32, 8), pngEntry(32, ihdr(32, 8, 6))}));
-  EXPECT_TRUE(sameIcon(decode(bytes, 0), good(32, 8)));
-  EXPECT_EQ(decode(bytes, 1).defect, IconDefect::PngImage);
-}
-
 }  // namespace
 }  // namespace gp::test
