@@ -28,4 +28,8 @@ std::optional<EntryPicture> pictureOfEntry(const IconFile& file, int index) {
   return EntryPicture{std::move(decoded.picture), image.first(std::max(stated, wholePngSize(image)))};
 }
 
+std::string undecodedText(int undecoded, int count) {
+  return std::to_string(undecoded) + " of its " + std::to_string(count) + " images cannot be decoded";
+}
+
 }  // namespace gp::cli

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string>
 
 namespace gp::cli {
 
@@ -17,5 +18,8 @@ struct EntryPicture {
 // Decodes an entry of an icon or cursor file as its own header describes it, and not the directory. Alpha is as
 // decodeIconBitmap has it. Empty for an image that cannot be decoded.
 std::optional<EntryPicture> pictureOfEntry(const IconFile& file, int index);
+
+// The complaint about images of a file that cannot be decoded.
+std::string undecodedText(int undecoded, int count);
 
 }  // namespace gp::cli

@@ -15,6 +15,7 @@ namespace gp::cli {
 namespace {
 
 constexpr int kUsualWidth = 80;
+constexpr int kMostImages = 1000;  // of one file
 
 struct ShowOptions {
   int width = kUsualWidth;  // columns
@@ -42,22 +43,31 @@ PngPicture fitted(const PngPicture& picture, int width) {
   return std::move(scaledPictures(picture, size, ScalingFilter::Box).front());
 }
 
+void printEntry(const std::string& path, int index, const PngPicture& picture, const ShowOptions& options) {
+  std::printf("%s\t%d\t%dx%d\n%s", printable(path).c_str(), index, picture.width, picture.height,
+              halfBlocks(fitted(picture, options.width), options.withColors).c_str());
+}
+
+bool refuse(const std::string& path, const std::string& reason) {
+  complain(path, reason);
+  return false;
+}
+
 bool showFile(const std::string& path, const ShowOptions& options) {
   const auto file = readWholeIconInput(path);
-  const bool fits = file && (file->isIcon() || file->isCursor());
-  if (!fits) complain(path, gp::describe(file ? IconDefect::NotAnIcon : IconDefect::NotReadable));
-  bool isWhole = fits;
-  for (int i = 0; fits && i < file->directory.presentCount(); ++i) {
+  if (!file) return refuse(path, gp::describe(IconDefect::NotReadable));
+  const int count = file->directory.presentCount();
+  if (!(file->isIcon() || file->isCursor()) || count == 0) return refuse(path, gp::describe(IconDefect::NotAnIcon));
+  if (count > kMostImages) return refuse(path, "more than " + std::to_string(kMostImages) + " images, and not shown");
+  int undecoded = 0;
+  for (int i = 0; i < count; ++i) {
     const auto entry = pictureOfEntry(*file, i);
-    if (!entry) {
-      complain(path, "image " + std::to_string(i) + " cannot be decoded");
-      isWhole = false;
-      continue;
-    }
-    std::printf("%s\t%d\t%dx%d\n%s", printable(path).c_str(), i, entry->picture.width, entry->picture.height,
-                halfBlocks(fitted(entry->picture, options.width), options.withColors).c_str());
+    if (entry)
+      printEntry(path, i, entry->picture, options);
+    else
+      ++undecoded;
   }
-  return isWhole;
+  return undecoded == 0 || refuse(path, undecodedText(undecoded, count));
 }
 
 }  // namespace

@@ -28,4 +28,8 @@ int runReorder(const Arguments& arguments);
 int runSalvage(const Arguments& arguments);
 int runStrip(const Arguments& arguments);
 
+// About gpicon.
+int runManual(const Arguments& arguments);
+int runCompletions(const Arguments& arguments);
+
 }  // namespace gp::cli

@@ -24,13 +24,15 @@ bool unpackPictures(const std::string& path, const std::string& name, OutputFold
   if (!file) return refuse(path, gp::describe(IconDefect::NotReadable));
   const int count = file->directory.presentCount();
   if (!(file->isIcon() || file->isCursor()) || count == 0) return refuse(path, gp::describe(IconDefect::NotAnIcon));
-  bool isWhole = true;
+  int undecoded = 0;
   for (int i = 0; i < count; ++i) {
     const auto entry = pictureOfEntry(*file, i);
-    if (!entry) isWhole = refuse(path, "image " + std::to_string(i) + " cannot be decoded");
-    if (entry && !writePicture(*entry, name + "_" + std::to_string(i) + ".png", folder)) return false;
+    if (!entry)
+      ++undecoded;
+    else if (!writePicture(*entry, name + "_" + std::to_string(i) + ".png", folder))
+      return false;
   }
-  return isWhole;
+  return undecoded == 0 || refuse(path, undecodedText(undecoded, count));
 }
 
 }  // namespace gp::cli

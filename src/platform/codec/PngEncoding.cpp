@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kBitDepth = 8;
 constexpr int kBestCompression = 9;
-constexpr int kFastCompression = 3;
+constexpr int kFastCompression = 1;
 
 // What libpng has written. No exception may leave a function that libpng calls.
 struct Written {
