@@ -24,9 +24,17 @@ std::string roff(std::string_view text) {
   return out;
 }
 
+// A usage of several lines as one.
+std::string oneLine(std::string text) {
+  for (std::size_t at; (at = text.find('\n')) != std::string::npos;)
+    text.erase(at, text.find_first_not_of(' ', at + 1) - at - 1).replace(at, 1, " ");
+  return text;
+}
+
 void printPage(const Command& command) {
-  std::printf(".SS gpicon %s\n.nf\n%s\n.fi\n.PP\nExample:\n.RS\ngpicon %s\n.RE\n", roff(command.wholeUsage()).c_str(),
-              roff(command.wholeHelp()).c_str(), roff(command.example).c_str());
+  std::printf(".SS gpicon %s\n.nf\n%s\n.fi\n.PP\nExample:\n.RS\ngpicon %s\n.RE\n",
+              roff(oneLine(command.wholeUsage())).c_str(), roff(command.wholeHelp()).c_str(),
+              roff(command.example).c_str());
 }
 
 int printManual() {

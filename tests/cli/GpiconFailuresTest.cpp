@@ -86,9 +86,11 @@ class GpiconFailures : public CommandUnderFailures, public testing::WithParamInt
     cli::Arguments arguments;
     for (const std::string& argument : command().arguments)
       arguments.push_back(argument.starts_with('@') ? path(argument.substr(1)) : argument);
+    testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
     const int status = command().run(arguments);
     const std::string errors = testing::internal::GetCapturedStderr();
+    testing::internal::GetCapturedStdout();
     EXPECT_TRUE(status == cli::kDone || status == cli::kRefused) << errors;
     EXPECT_EQ(status == cli::kDone, errors.empty()) << errors;
     EXPECT_TRUE(status == cli::kDone || errors.starts_with("gpicon: " + work() + "/")) << errors;
