@@ -53,6 +53,7 @@ std::vector<std::uint8_t> composeFile(const std::vector<MadeImage>& images, cons
                                       bool isCursor) {
   if (!isCursor) return composeIconFile(images);
   std::vector<Hotspot> hotspots;
+  hotspots.reserve(sources.size());
   for (const MakeSource& source : sources) hotspots.push_back(source.hotspot);
   return composeCursorFile(images, hotspots);
 }

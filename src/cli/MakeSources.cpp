@@ -73,6 +73,7 @@ void addScaled(const MakeArguments& arguments, const PngPicture& from, std::vect
   std::vector<int> sides = arguments.sizes;
   std::erase_if(sides, [&](int side) { return hasSize(sources, side); });
   std::vector<PictureSize> sizes;
+  sizes.reserve(sides.size());
   for (const int side : sides) sizes.push_back(fitInto(side, from).size);
   std::vector<PngPicture> scaled = scaledPictures(from, sizes, arguments.filter);
   for (std::size_t i = 0; i < sides.size(); ++i) {

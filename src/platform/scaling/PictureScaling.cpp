@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace gp {
 namespace {
@@ -26,7 +27,7 @@ void readRow(std::span<const std::uint8_t> stored, const LinearLight& light, Lig
 // The stored form of a pixel. Filters with negative weights can leave the range of alpha and of light.
 void storePixel(const double* pixel, const LinearLight& light, std::uint8_t* stored) {
   const double alpha = std::clamp(pixel[kAlpha], 0.0, 1.0);
-  stored[kAlpha] = static_cast<std::uint8_t>(alpha * kMostAlpha + 0.5);
+  stored[kAlpha] = static_cast<std::uint8_t>(std::floor(alpha * kMostAlpha + 0.5));
   if (stored[kAlpha] == 0) return;
   for (std::size_t i = 0; i < kAlpha; ++i) stored[i] = light.storedOf(pixel[i] / alpha);
 }
@@ -87,6 +88,7 @@ std::vector<PngPicture> scaledPictures(const PngPicture& source, std::span<const
                                        ScalingFilter filter) {
   const LinearLight light;
   std::vector<Scaling> scalings;
+  scalings.reserve(sizes.size());
   for (const PictureSize size : sizes) scalings.emplace_back(PictureSize{source.width, source.height}, size, filter);
   LightRow row(static_cast<std::size_t>(source.width) * kChannels);
   for (int y = 0; y < source.height; ++y) {
@@ -94,6 +96,7 @@ std::vector<PngPicture> scaledPictures(const PngPicture& source, std::span<const
     for (Scaling& scaling : scalings) scaling.add(y, row);
   }
   std::vector<PngPicture> pictures;
+  pictures.reserve(sizes.size());
   for (const Scaling& scaling : scalings) pictures.push_back(scaling.result(source.hasAlpha, light));
   return pictures;
 }
