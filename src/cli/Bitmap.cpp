@@ -1,4 +1,5 @@
 #include "cli/OneImage.h"
+#include "cli/Streams.h"
 #include "cli/Subcommands.h"
 #include "files/saving/BitmapSaving.h"
 #include "platform/text/ColorDigits.h"
@@ -22,7 +23,7 @@ int runBmp(const Arguments& arguments) {
   const auto loaded = loadImage(given);
   if (!loaded) return kRefused;
   const Surface look = composedForBitmap(loaded->icon, loaded->record, background);
-  return answerToWriting(saveByColors(look, given.output), given.output);
+  return answerToWriting(writeOutput(given.output, composeByColors(look)), given.output);
 }
 
 }  // namespace gp::cli

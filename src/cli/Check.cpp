@@ -1,47 +1,70 @@
 #include "cli/Discrepancies.h"
 #include "cli/ImageFile.h"
+#include "cli/Json.h"
+#include "cli/Streams.h"
 #include "cli/Subcommands.h"
 
 #include <cstdio>
+#include <functional>
 
 namespace gp::cli {
 namespace {
 
 // Reads the whole file, unlike openImageFile: its size is one of the things that are checked.
 std::optional<IconFile> openWholeFile(const std::string& path) {
-  auto file = readWholeIconFile(path);
+  auto file = readWholeIconInput(path);
   if (file && (file->isIcon() || file->isCursor())) return file;
   complain(path, describe(file ? IconDefect::NotAnIcon : IconDefect::NotReadable));
   return std::nullopt;
 }
 
-void print(const std::string& path, const Discrepancy& discrepancy) {
+void printText(const std::string& path, const Discrepancy& discrepancy) {
   const std::string index = discrepancy.index < 0 ? kNothingTold : std::to_string(discrepancy.index);
   std::printf("%s\t%s\t%s\t%s\t%s\t%s\n", printable(path).c_str(), index.c_str(), discrepancy.what,
               discrepancy.directory.c_str(), discrepancy.header.c_str(), discrepancy.pixels.c_str());
 }
 
-bool checkFile(const std::string& path) {
-  const auto file = openWholeFile(path);
-  if (!file) return false;
-  bool isHealthy = true;
-  findDiscrepancies(*file, [&](const Discrepancy& discrepancy) {
-    isHealthy = false;
-    print(path, discrepancy);
+std::string jsonOrNull(const std::string& text) { return text == kNothingTold ? "null" : jsonText(text); }
+
+void printJson(const std::string& path, const Discrepancy& discrepancy) {
+  const std::string index = discrepancy.index < 0 ? "null" : std::to_string(discrepancy.index);
+  std::printf("{\"file\":%s,\"index\":%s,\"what\":\"%s\",\"directory\":%s,\"header\":%s,\"pixels\":%s}",
+              jsonText(path).c_str(), index.c_str(), discrepancy.what, jsonOrNull(discrepancy.directory).c_str(),
+              jsonOrNull(discrepancy.header).c_str(), jsonOrNull(discrepancy.pixels).c_str());
+}
+
+using Printer = std::function<void(const std::string& path, const Discrepancy& discrepancy)>;
+
+int checkFiles(const Arguments& files, const Printer& print) {
+  int status = kDone;
+  for (const std::string& path : files) {
+    const auto file = openWholeFile(path);
+    if (!file) status = kRefused;
+    if (!file) continue;
+    findDiscrepancies(*file, [&](const Discrepancy& discrepancy) {
+      status = kRefused;
+      print(path, discrepancy);
+    });
+  }
+  return status;
+}
+
+int checkAsJson(const Arguments& files) {
+  JsonArray array;
+  const int status = checkFiles(files, [&](const std::string& path, const Discrepancy& discrepancy) {
+    array.next();
+    printJson(path, discrepancy);
   });
-  return isHealthy;
+  array.end();
+  return status;
 }
 
 }  // namespace
 
 int runCheck(const Arguments& arguments) {
-  const Split split = splitOptions(arguments);
-  if (!split.options.empty()) return badUsage("check: unknown option " + split.options.front());
-  if (split.files.empty()) return badUsage("check: no file given");
-  int status = kDone;
-  for (const std::string& path : split.files)
-    if (!checkFile(path)) status = kRefused;
-  return status;
+  ListArguments given;
+  if (const int status = takeListArguments("check", arguments, given); status != kDone) return status;
+  return given.asJson ? checkAsJson(given.files) : checkFiles(given.files, printText);
 }
 
 }  // namespace gp::cli

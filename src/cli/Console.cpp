@@ -84,6 +84,23 @@ bool takeOption(Arguments& arguments, std::string_view name, std::string& value)
   return true;
 }
 
+bool takeFlag(Arguments& arguments, std::string_view flag) {
+  const auto end = std::ranges::find(arguments, "--");
+  const auto kept = std::remove(arguments.begin(), end, flag);
+  const bool isTaken = kept != end;
+  arguments.erase(kept, end);
+  return isTaken;
+}
+
+int takeListArguments(const std::string& command, Arguments arguments, ListArguments& given) {
+  given.asJson = takeFlag(arguments, "--json");
+  Split split = splitOptions(arguments);
+  if (!split.options.empty()) return badUsage(command + ": unknown option " + split.options.front());
+  if (split.files.empty()) return badUsage(command + ": no file given");
+  given.files = std::move(split.files);
+  return kDone;
+}
+
 bool parseNumber(std::string_view text, int& number) {
   const char* const end = text.data() + text.size();
   const auto [stop, error] = std::from_chars(text.data(), end, number);

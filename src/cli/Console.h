@@ -30,6 +30,17 @@ Split splitOptions(const Arguments& arguments);
 // without the option, `value` is not changed.
 bool takeOption(Arguments& arguments, std::string_view name, std::string& value);
 
+// Removes all occurrences of a flag from the arguments before "--". True when there was one.
+bool takeFlag(Arguments& arguments, std::string_view flag);
+
+// What a command that prints about files is given.
+struct ListArguments {
+  Arguments files;
+  bool asJson = false;
+};
+// Parses "[--json] FILE...". Returns kDone, or kBadUsage after an error message.
+int takeListArguments(const std::string& command, Arguments arguments, ListArguments& given);
+
 // False for anything but a number from 0 up.
 bool parseNumber(std::string_view text, int& number);
 

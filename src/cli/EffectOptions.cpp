@@ -46,15 +46,6 @@ void complainAboutValues() {
   badUsage("effect: " + listed(names) + " take one value each");
 }
 
-// True when the flag was among the options.
-bool takeFlag(Arguments& arguments, const std::string& flag) {
-  const auto end = std::ranges::find(arguments, "--");
-  const auto found = std::find(arguments.begin(), end, flag);
-  if (found == end) return false;
-  arguments.erase(found);
-  return true;
-}
-
 // False when the option is given twice or without its value.
 bool takeSetting(const Setting& setting, Arguments& arguments, GivenOptions& given) {
   const std::string option = "--" + std::string(setting.option);

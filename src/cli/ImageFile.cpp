@@ -1,6 +1,7 @@
 #include "cli/ImageFile.h"
 
 #include "cli/Console.h"
+#include "cli/Streams.h"
 #include "files/cursor/CursorLoading.h"
 #include "files/format/IconProbe.h"
 #include "files/format/PngEntry.h"
@@ -11,7 +12,7 @@ namespace {
 constexpr int kSideOfZero = 256;
 
 std::optional<IconFile> openFile(const std::string& path, bool withCursors) {
-  auto file = readIconFile(path);
+  auto file = readIconInput(path);
   const bool fits = file && (file->isIcon() || (withCursors && file->isCursor()));
   if (fits && file->directory.presentCount() != 0) return file;
   complain(path, describe(file ? IconDefect::NotAnIcon : IconDefect::NotReadable));

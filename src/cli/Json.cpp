@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <cstdio>
 
 namespace gp::cli {
 namespace {
@@ -75,5 +76,12 @@ std::string jsonText(std::string_view text) {
   }
   return out + '"';
 }
+
+void JsonArray::next() {
+  std::fputs(isEmpty_ ? "[\n" : ",\n", stdout);
+  isEmpty_ = false;
+}
+
+void JsonArray::end() { std::fputs(isEmpty_ ? "[]\n" : "\n]\n", stdout); }
 
 }  // namespace gp::cli

@@ -10,4 +10,14 @@ namespace gp::cli {
 // names stay different and a reader can restore the bytes.
 std::string jsonText(std::string_view text);
 
+// Prints an array to stdout, one element per line: call next() before each element, and end() once.
+class JsonArray {
+ public:
+  void next();
+  void end();
+
+ private:
+  bool isEmpty_ = true;
+};
+
 }  // namespace gp::cli

@@ -72,37 +72,31 @@ int listAsText(const Arguments& files) {
 
 int listAsJson(const Arguments& files) {
   int status = kDone;
-  const char* separator = "[";
+  JsonArray array;
   for (const std::string& path : files) {
     const auto file = openImageFile(path);
     if (!file) {
       status = kRefused;
       continue;
     }
-    std::printf("%s\n{\"file\":%s,\"kind\":\"%s\",\"images\":[", separator, jsonText(path).c_str(),
-                file->isCursor() ? "cur" : "ico");
+    array.next();
+    std::printf("{\"file\":%s,\"kind\":\"%s\",\"images\":[", jsonText(path).c_str(), file->isCursor() ? "cur" : "ico");
     for (int i = 0; i < file->directory.presentCount(); ++i) {
       std::fputs(i == 0 ? "\n" : ",\n", stdout);
       printJson(rowOf(*file, i));
     }
     std::fputs("]}", stdout);
-    separator = ",";
   }
-  std::fputs(*separator == '[' ? "[]\n" : "\n]\n", stdout);
+  array.end();
   return status;
 }
 
 }  // namespace
 
 int runList(const Arguments& arguments) {
-  const Split split = splitOptions(arguments);
-  bool json = false;
-  for (const std::string& option : split.options) {
-    if (option != "--json") return badUsage("list: unknown option " + option);
-    json = true;
-  }
-  if (split.files.empty()) return badUsage("list: no file given");
-  return json ? listAsJson(split.files) : listAsText(split.files);
+  ListArguments given;
+  if (const int status = takeListArguments("list", arguments, given); status != kDone) return status;
+  return given.asJson ? listAsJson(given.files) : listAsText(given.files);
 }
 
 }  // namespace gp::cli

@@ -1,6 +1,7 @@
 #include "cli/OneImage.h"
 
 #include "cli/ImageFile.h"
+#include "cli/Streams.h"
 #include "effects/EffectTexts.h"
 #include "files/format/IconWriter.h"
 
@@ -46,9 +47,9 @@ int answerToWriting(bool isWritten, const std::string& output) {
 }
 
 int writeIcon(const IconImage& icon, const IconContainerRec& record, const std::string& output) {
-  bool ok = false;
-  WriteSingleIconFile(icon, depthToWrite(icon, record), output, ok);
-  return answerToWriting(ok, output);
+  const ColorDepth depth = depthToWrite(icon, record);
+  const bool isComplete = !depth.hasAlpha() || icon.hasAlphaValues();
+  return answerToWriting(isComplete && writeOutput(output, composeSingleIcon(icon, depth)), output);
 }
 
 }  // namespace gp::cli

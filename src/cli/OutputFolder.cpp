@@ -1,5 +1,6 @@
 #include "cli/OutputFolder.h"
 
+#include "cli/Streams.h"
 #include "platform/files/FileWriting.h"
 #include "platform/files/Files.h"
 
@@ -8,13 +9,13 @@
 namespace gp::cli {
 namespace {
 
+constexpr const char* kInputName = "stdin";
+
 bool makeFolder(const std::string& folder) {
   std::error_code error;
   std::filesystem::create_directories(folder, error);
   return directoryExists(folder);
 }
-
-bool takeFlag(Arguments& options, const char* flag) { return std::erase(options, flag) != 0; }
 
 // A number of megabytes. Every file takes at least a byte, so the bound of bytes is enough.
 bool parseBounds(const std::string& text, OutputBounds& bounds) {
@@ -23,10 +24,6 @@ bool parseBounds(const std::string& text, OutputBounds& bounds) {
   bounds.bytes = static_cast<std::uint64_t>(megabytes) << 20;
   bounds.files = bounds.bytes;
   return true;
-}
-
-const char* reasonOf(WriteDefect defect) {
-  return defect == WriteDefect::AlreadyThere ? "already there, and not replaced" : "cannot be written";
 }
 
 }  // namespace
@@ -39,7 +36,7 @@ bool OutputFolder::write(const std::string& name, std::span<const std::uint8_t> 
   }
   const WriteDefect defect = writeInto(folder_, name, bytes, replaces_ ? ExistingFile::Replace : ExistingFile::Keep);
   if (defect != WriteDefect::None) {
-    complain(path, reasonOf(defect));
+    complain(path, describe(defect));
     return false;
   }
   --left_.files;
@@ -56,7 +53,9 @@ std::string OutputNames::nameFor(const std::string& bare) {
   }
 }
 
-std::string stemOf(const std::string& path) { return std::filesystem::path(path).stem().string(); }
+std::string stemOf(const std::string& path) {
+  return isStream(path) ? kInputName : std::filesystem::path(path).stem().string();
+}
 
 int takeFolderArguments(const std::string& command, Arguments arguments, FolderArguments& given) {
   if (!takeOption(arguments, "-d", given.folder) || given.folder.empty())
@@ -64,8 +63,8 @@ int takeFolderArguments(const std::string& command, Arguments arguments, FolderA
   std::string size;
   if (!takeOption(arguments, "--max-size", size) || (!size.empty() && !parseBounds(size, given.bounds)))
     return badUsage(command + ": --max-size takes a number of megabytes");
+  given.replaces = takeFlag(arguments, "--force");
   Split split = splitOptions(arguments);
-  given.replaces = takeFlag(split.options, "--force");
   if (!split.options.empty()) return badUsage(command + ": unknown option " + split.options.front());
   if (split.files.empty()) return badUsage(command + ": no file given");
   given.files = split.files;

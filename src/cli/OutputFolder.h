@@ -23,7 +23,7 @@ class OutputNames {
   std::map<std::string, int> last_;  // the last number given to a bare name
 };
 
-// The file name in a path, without extension.
+// The file name in a path, without extension; "stdin" for standard input.
 std::string stemOf(const std::string& path);
 
 // What one call may write.

@@ -1,9 +1,12 @@
+#include "cli/Json.h"
+#include "cli/Streams.h"
 #include "cli/Subcommands.h"
 #include "files/cursor/CursorProbe.h"
 #include "files/format/IcoLayout.h"
 #include "files/format/IconDecoder.h"
 #include "files/format/IconProbe.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace gp::cli {
@@ -13,26 +16,44 @@ std::string numbersOf(const IconFile& file) {
   return file.directory.type == ico::kTypeCursor ? probeCursor(file).joined() : probeIcon(file, true).joined();
 }
 
-bool probeFile(const std::string& path) {
-  const auto file = readIconFile(path);
-  if (!file) {
-    complain(path, describe(IconDefect::NotReadable));
-    return false;
+std::optional<std::string> probe(const std::string& path) {
+  const auto file = readIconInput(path);
+  if (file) return numbersOf(*file);
+  complain(path, describe(IconDefect::NotReadable));
+  return std::nullopt;
+}
+
+int probeAsText(const Arguments& files) {
+  int status = kDone;
+  for (const std::string& path : files)
+    if (const auto numbers = probe(path))
+      std::printf("%s\t%s\n", printable(path).c_str(), numbers->c_str());
+    else
+      status = kRefused;
+  return status;
+}
+
+int probeAsJson(const Arguments& files) {
+  int status = kDone;
+  JsonArray array;
+  for (const std::string& path : files) {
+    auto numbers = probe(path);
+    if (!numbers) status = kRefused;
+    if (!numbers) continue;
+    std::ranges::replace(*numbers, '/', ',');
+    array.next();
+    std::printf("{\"file\":%s,\"numbers\":[%s]}", jsonText(path).c_str(), numbers->c_str());
   }
-  std::printf("%s\t%s\n", printable(path).c_str(), numbersOf(*file).c_str());
-  return true;
+  array.end();
+  return status;
 }
 
 }  // namespace
 
 int runProbe(const Arguments& arguments) {
-  const Split split = splitOptions(arguments);
-  if (!split.options.empty()) return badUsage("probe: unknown option " + split.options.front());
-  if (split.files.empty()) return badUsage("probe: no file given");
-  int status = kDone;
-  for (const std::string& path : split.files)
-    if (!probeFile(path)) status = kRefused;
-  return status;
+  ListArguments given;
+  if (const int status = takeListArguments("probe", arguments, given); status != kDone) return status;
+  return given.asJson ? probeAsJson(given.files) : probeAsText(given.files);
 }
 
 }  // namespace gp::cli

@@ -1,5 +1,6 @@
 // The subcommands that put an icon into files with several icons: replacing one, or adding to them.
 #include "cli/EntryLoading.h"
+#include "cli/Streams.h"
 #include "cli/Subcommands.h"
 #include "cli/Updating.h"
 #include "document/Messages.h"
@@ -24,11 +25,11 @@ bool isNew(const IconArrays& arrays, const NewIcon& icon, int except, const std:
 }
 
 bool replaceIn(const std::string& path, int index, NewIcon icon, const std::string& output) {
-  if (!FileExists(path)) return refuse(path, kFileGone);
+  if (!isStream(path) && !FileExists(path)) return refuse(path, kFileGone);
   const auto lock = lockForUpdate(path);
   if (!lock) return false;
   IconArrays arrays;
-  if (readIconArrays(path, ReservedField::MustBeZero, arrays) != ArraysDefect::None)
+  if (readArraysInput(path, ReservedField::MustBeZero, arrays) != ArraysDefect::None)
     return refuse(path, kReplaceNotRead);
   if (index >= arrays.count()) return refuse(path, describe(IconDefect::NoSuchEntry));
   if (!isNew(arrays, icon, index, path, SaveInto::Replace)) return false;
@@ -44,7 +45,7 @@ struct Place {
 };
 
 bool readForAdding(const std::string& path, IconArrays& arrays) {
-  auto file = readWholeIconFile(path);
+  auto file = readWholeIconInput(path);
   if (!file) return refuse(path, addNotReadText(path, ArraysDefect::NotReadable));
   if (!file->isIcon()) return refuse(path, kAddToNoIcon);
   const ArraysDefect defect = takeIconArrays(std::move(*file), ReservedField::MustBeZero, arrays);

@@ -1,5 +1,6 @@
 #include "cli/ImageFile.h"
 #include "cli/OutputFolder.h"
+#include "cli/Streams.h"
 #include "cli/Subcommands.h"
 #include "files/format/DepthTexts.h"
 #include "files/format/IcoLayout.h"
@@ -71,7 +72,7 @@ bool refuse(const std::string& path, const std::string& reason) {
 }
 
 bool splitFile(const std::string& path, Output& output) {
-  auto file = readWholeIconFile(path);
+  auto file = readWholeIconInput(path);
   if (!file) return refuse(path, describe(IconDefect::NotReadable));
   if (!file->isIcon() || file->directory.presentCount() == 0) return refuse(path, describe(IconDefect::NotAnIcon));
   const IconArrays arrays = takePresentImages(std::move(*file));

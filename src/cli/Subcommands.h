@@ -6,10 +6,13 @@
 
 namespace gp::cli {
 
+// Making.
+int runMake(const Arguments& arguments);
 // Looking.
 int runProbe(const Arguments& arguments);
 int runList(const Arguments& arguments);
 int runCheck(const Arguments& arguments);
+int runShow(const Arguments& arguments);
 // Taking apart.
 int runUnpack(const Arguments& arguments);
 int runSplit(const Arguments& arguments);
@@ -23,5 +26,10 @@ int runAdd(const Arguments& arguments);
 int runRemove(const Arguments& arguments);
 int runReorder(const Arguments& arguments);
 int runSalvage(const Arguments& arguments);
+int runStrip(const Arguments& arguments);
+
+// About gpicon.
+int runManual(const Arguments& arguments);
+int runCompletions(const Arguments& arguments);
 
 }  // namespace gp::cli

@@ -1,6 +1,7 @@
 #include "cli/ImageFile.h"
 #include "cli/OutputFolder.h"
 #include "cli/Subcommands.h"
+#include "cli/UnpackPng.h"
 
 namespace gp::cli {
 namespace {
@@ -73,13 +74,16 @@ bool unpackFile(const std::string& path, const std::string& name, OutputFolder& 
 }  // namespace
 
 int runUnpack(const Arguments& arguments) {
+  Arguments rest = arguments;
   FolderArguments given;
-  if (const int status = takeFolderArguments("unpack", arguments, given); status != kDone) return status;
+  const bool asPng = takeFlag(rest, "--png");
+  if (const int status = takeFolderArguments("unpack", rest, given); status != kDone) return status;
+  const auto unpack = asPng ? unpackPictures : unpackFile;
   OutputNames names;
   OutputFolder folder(given);
   int status = kDone;
   for (const std::string& path : given.files)
-    if (!unpackFile(path, names.nameFor(stemOf(path)), folder)) status = kRefused;
+    if (!unpack(path, names.nameFor(stemOf(path)), folder)) status = kRefused;
   return status;
 }
 

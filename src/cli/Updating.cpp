@@ -1,5 +1,6 @@
 #include "cli/Updating.h"
 
+#include "cli/Streams.h"
 #include "files/format/IconDecoder.h"
 
 #include <filesystem>
@@ -16,6 +17,13 @@ constexpr const char* kShorterThanTold = "shorter than its directory says";
 const char* describeUnread(ArraysDefect defect) {
   if (defect == ArraysDefect::CutShort) return kShorterThanTold;
   return describe(defect == ArraysDefect::NotReadable ? IconDefect::NotReadable : IconDefect::NotAnIcon);
+}
+
+WriteDefect writeTarget(IconArrays& arrays, const std::string& path, const std::string& output) {
+  const std::string& target = targetOf(path, output);
+  if (isStream(target))
+    return writeOutput(target, composeWholeFile(arrays)) ? WriteDefect::None : WriteDefect::NotWritten;
+  return output.empty() ? writeBack(arrays, path) : writeWholeFile(arrays, output);
 }
 
 // True also if there is no file.
@@ -58,7 +66,7 @@ std::optional<FileLock> lockForUpdate(const std::string& path) {
 }
 
 bool readForUpdate(const std::string& path, IconArrays& arrays) {
-  const ArraysDefect defect = readIconArrays(path, ReservedField::Any, arrays);
+  const ArraysDefect defect = readArraysInput(path, ReservedField::Any, arrays);
   if (defect == ArraysDefect::None) return true;
   complain(path, describeUnread(defect));
   return false;
@@ -70,7 +78,7 @@ const std::string& targetOf(const std::string& path, const std::string& output) 
 
 bool writeUpdate(IconArrays& arrays, const std::string& path, const std::string& output, const FailureText& failure) {
   const std::string& target = targetOf(path, output);
-  const WriteDefect defect = output.empty() ? writeBack(arrays, path) : writeWholeFile(arrays, output);
+  const WriteDefect defect = writeTarget(arrays, path, output);
   if (defect == WriteDefect::None) return true;
   if (defect == WriteDefect::Changed)
     complain(target, kChanged);

@@ -51,13 +51,13 @@ void writeTrueColor(const clsGPDIB& dib, std::size_t stride, ByteWriter& out) {
 
 }  // namespace
 
-bool clsGPPalSave::Save_BMP(const std::string& path, const clsGPDIB& dib, const clsGPPal& palette,
-                            const clsGPPalDither& dither, int bits) const {
-  if (dib.isEmpty() || bits < 1 || bits > kMaxBits) return false;
+std::vector<std::uint8_t> clsGPPalSave::compose(const clsGPDIB& dib, const clsGPPal& palette,
+                                                const clsGPPalDither& dither, int bits) const {
+  if (dib.isEmpty() || bits < 1 || bits > kMaxBits) return {};
   const std::size_t count = paletteEntries(bits);
   const std::size_t stride = dib::rowStride(dib.DIBWidth(), bits);
   const std::size_t pixelBytes = stride * static_cast<std::size_t>(dib.DIBHeight());
-  if (isDithered(bits) && dither.PalID().size() != pixelBytes) return false;
+  if (isDithered(bits) && dither.PalID().size() != pixelBytes) return {};
   ByteWriter out(kHeaders + count * kEntrySize + pixelBytes);
   writeHeaders(dib, count * kEntrySize, pixelBytes, bits, out);
   writePalette(palette, count, out);
@@ -67,7 +67,13 @@ bool clsGPPalSave::Save_BMP(const std::string& path, const clsGPDIB& dib, const 
     writeTrueColor(dib, stride, out);
   else
     out.zeros(pixelBytes);
-  return replaceFile(path, out.span());
+  return out.take();
+}
+
+bool clsGPPalSave::Save_BMP(const std::string& path, const clsGPDIB& dib, const clsGPPal& palette,
+                            const clsGPPalDither& dither, int bits) const {
+  const std::vector<std::uint8_t> bytes = compose(dib, palette, dither, bits);
+  return !bytes.empty() && replaceFile(path, bytes);
 }
 
 }  // namespace gp

@@ -2,6 +2,7 @@
 #include "cli/Subcommands.h"
 #include "files/IcoBuilder.h"
 #include "support/CommandUnderFailures.h"
+#include "support/PngBuilder.h"
 
 #include <algorithm>
 #include <string>
@@ -36,6 +37,10 @@ const std::vector<WritingSubcommand> kWritingSubcommands{
     {"Salvage", cli::runSalvage, {"@lies.ico", "-o", "@a.ico"}, "a.ico"},
     {"SalvageOverItself", cli::runSalvage, {"@lies.ico", "-o", "@lies.ico"}, "lies.ico", true},
     {"Unpack", cli::runUnpack, {"@multi.ico", "@single.ico", "-d", "@out", "--force"}, "out/multi_0.image.ppm"},
+    {"UnpackPng", cli::runUnpack, {"@multi.ico", "--png", "-d", "@out", "--force"}, "out/multi_0.png"},
+    {"Make", cli::runMake, {"@a.ico", "@logo.png", "--force"}, "a.ico"},
+    {"Strip", cli::runStrip, {"@thin.ico"}, "thin.ico", true},
+    {"StripTo", cli::runStrip, {"@thin.ico", "-o", "@a.ico"}, "a.ico"},
     {"Split", cli::runSplit, {"@multi.ico", "@single.ico", "-d", "@out", "--force"}, "out/multi_32_16.ico"},
 };
 
@@ -70,6 +75,10 @@ class GpiconFailures : public CommandUnderFailures, public testing::WithParamInt
     if (GetParam().target != Target::New) write(command().target, {'o', 'l', 'd'});
     write("single.ico", build(anyEntry(24, 8)));
     write("multi.ico", build(IcoFile{{anyEntry(32, 4), anyEntry(16, 24), anyEntry(48, 8)}, 0, 1, {}}));
+    Picture thin = anyPicture(32, 8);
+    thin.index = [](int x, int y) { return (x + y) % 3; };
+    write("thin.ico", build(entryOf(thin)));
+    write("logo.png", build(anyPng(32)));
     write("lies.ico", build(entryOf(anyPicture(32, 8), 16, 4)));
   }
   // A failure is a status of 1 and a line for each file that was not written.
@@ -77,9 +86,11 @@ class GpiconFailures : public CommandUnderFailures, public testing::WithParamInt
     cli::Arguments arguments;
     for (const std::string& argument : command().arguments)
       arguments.push_back(argument.starts_with('@') ? path(argument.substr(1)) : argument);
+    testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
     const int status = command().run(arguments);
     const std::string errors = testing::internal::GetCapturedStderr();
+    testing::internal::GetCapturedStdout();
     EXPECT_TRUE(status == cli::kDone || status == cli::kRefused) << errors;
     EXPECT_EQ(status == cli::kDone, errors.empty()) << errors;
     EXPECT_TRUE(status == cli::kDone || errors.starts_with("gpicon: " + work() + "/")) << errors;

@@ -11,9 +11,9 @@ namespace fs = std::filesystem;
 TEST_F(Gpicon, HelpTellsEverySubcommandAndSucceeds) {
   const Outcome o = run({"--help"});
   EXPECT_EQ(o.status, 0);
-  for (const char* word : {"gpicon probe FILE...",
+  for (const char* word : {"gpicon probe [--json] FILE...",
                            "gpicon list [--json] FILE...",
-                           "gpicon check FILE...",
+                           "gpicon check [--json] FILE...",
                            "gpicon unpack FILE... -d DIR",
                            "gpicon split FILE... -d DIR",
                            "gpicon resave IN.ico INDEX OUT.ico",
@@ -50,7 +50,7 @@ TEST_F(Gpicon, BadUsageIsStatus2WithOneLine) {
                                              {"resave", a, "0x", "b.ico"},
                                              {"resave", a, "99999999999", "b.ico"},
                                              {"check"},
-                                             {"check", "--json", a},
+                                             {"check", "--yaml", a},
                                              {"split", a},
                                              {"split", "-d", folder.folder()},
                                              {"split", a, "-d", folder.folder(), "-d", folder.folder()},

@@ -6,6 +6,7 @@
 #include "palette/DitheredReduction.h"
 #include "palette/clsGPPalSave.h"
 #include "platform/files/BitmapFile.h"
+#include "platform/files/FileWriting.h"
 
 #include <algorithm>
 #include <array>
@@ -32,17 +33,22 @@ Surface composedForBitmap(const IconImage& icon, const IconContainerRec& record,
   return look;
 }
 
-bool saveByColors(const Surface& picture, const std::string& path) {
+std::vector<std::uint8_t> composeByColors(const Surface& picture) {
   int colors = 0;
   GetColorBitCount_Image(picture, colors);
   const auto reduction = std::ranges::find(kReductions, depthOfColors(colors), &Reduction::depth);
-  if (reduction == kReductions.end()) return writeBitmap(picture, path);
+  if (reduction == kReductions.end()) return composeBitmap(picture);
   clsGPDIB dib;
   clsGPPal palette;
   clsGPPalDither dither;
   dib.CreateDIBFromPic(picture);
   reduction->reduce(dib, palette, dither);
-  return clsGPPalSave().Save_BMP(path, dib, palette, dither, reduction->depth.bits);
+  return clsGPPalSave().compose(dib, palette, dither, reduction->depth.bits);
+}
+
+bool saveByColors(const Surface& picture, const std::string& path) {
+  const std::vector<std::uint8_t> bytes = composeByColors(picture);
+  return !bytes.empty() && replaceFile(path, bytes);
 }
 
 }  // namespace gp

@@ -5,7 +5,9 @@
 #include "document/IconImage.h"
 #include "platform/gdi/Surface.h"
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 namespace gp {
 
@@ -13,9 +15,10 @@ namespace gp {
 // opaque silver pixels. Alpha values are always blended over the usual background.
 Surface composedForBitmap(const IconImage& icon, const IconContainerRec& record, Color ground);
 
-// Writes 1 bit per pixel for black and white, 4 for the sixteen standard colours, 8 for up to 256 colours and 24 for
-// more. A picture of 256 colours gets its own palette. Replaces an existing file. False when the file cannot be
-// written.
+// A bitmap file with 1 bit per pixel for black and white, 4 for the sixteen standard colours, 8 for up to 256 colours
+// and 24 for more. A picture of 256 colours gets its own palette. Empty for a picture without pixels.
+std::vector<std::uint8_t> composeByColors(const Surface& picture);
+// Writes that file, replacing an existing one. False when it cannot be written.
 [[nodiscard]] bool saveByColors(const Surface& picture, const std::string& path);
 
 }  // namespace gp

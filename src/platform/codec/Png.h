@@ -68,8 +68,16 @@ std::optional<PngHeader> readPngHeader(std::span<const std::uint8_t> bytes);
 // behind the last chunk are ignored, and so are all chunks that do not change pixels, such as gamma and colour
 // profiles. 16 bits per channel are rounded to 8.
 [[nodiscard]] DecodedPng decodePng(std::span<const std::uint8_t> bytes, PngLimits limits);
+enum class PngEffort {
+  Small,  // the smallest file
+  Fast    // for many pictures
+};
 // Encodes a picture with 8 bits per channel, without alpha if it has none. The bytes depend on the pixels only and have
 // no chunks but IHDR, IDAT and IEND. Empty for a picture whose pixels do not match its size.
-std::vector<std::uint8_t> encodePng(const PngPicture& picture);
+std::vector<std::uint8_t> encodePng(const PngPicture& picture, PngEffort effort = PngEffort::Small);
+
+// Copies a picture without what does not change its pixels: all chunks but the header, palette, transparent colours,
+// data and end, and the palette entries behind the last one that is used. Empty for a picture that cannot be decoded.
+std::vector<std::uint8_t> strippedPng(std::span<const std::uint8_t> bytes, PngLimits limits);
 
 }  // namespace gp

@@ -1,32 +1,17 @@
 #include "platform/codec/Png.h"
 #include "platform/codec/PngLibrary.h"
 
-#include <cstring>
 #include <vector>
 
 namespace gp {
 namespace {
-
-// What libpng has not read yet.
-struct Unread {
-  const std::uint8_t* at;
-  std::size_t left;
-};
-
-void readBytes(png_structp png, png_bytep out, std::size_t count) {
-  auto& input = *static_cast<Unread*>(png_get_io_ptr(png));
-  if (count > input.left) png_error(png, "cut short");
-  std::memcpy(out, input.at, count);
-  input.at += count;
-  input.left -= count;
-}
 
 // One picture being decoded. Each step returns false if libpng refuses the picture.
 class Decoding {
  public:
   Decoding(std::span<const std::uint8_t> bytes, const PngHeader& header)
       : header_(header),
-        input_{bytes.data(), bytes.size()},
+        input_{bytes},
         png_(png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, jumpOnPngError, dropPngWarning)),
         info_(png_ ? png_create_info_struct(png_) : nullptr) {}
   ~Decoding() { png_destroy_read_struct(&png_, &info_, nullptr); }
@@ -38,7 +23,7 @@ class Decoding {
              png_set_user_limits(png_, static_cast<png_uint_32>(limits.width), static_cast<png_uint_32>(limits.height));
              // A negative count: all chunks but the critical ones and tRNS.
              png_set_keep_unknown_chunks(png_, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
-             png_set_read_fn(png_, &input_, readBytes);
+             png_set_read_fn(png_, &input_, readPngInput);
              png_read_info(png_, info_);
              hasTransparency_ = png_get_valid(png_, info_, PNG_INFO_tRNS) != 0;
              convertToRgba();
@@ -75,7 +60,7 @@ class Decoding {
   }
 
   const PngHeader& header_;
-  Unread input_;
+  PngInput input_;
   png_structp png_;
   png_infop info_;
   bool hasTransparency_ = false;

@@ -18,6 +18,8 @@ inline constexpr std::size_t kHeaderBitCount = 14;
 inline constexpr std::size_t kHeaderCompression = 16;
 inline constexpr std::size_t kHeaderSizeImage = 20;
 inline constexpr std::size_t kHeaderColorsUsed = 32;
+inline constexpr std::size_t kHeaderMasks = 40;  // of red, green, blue and alpha, in longer headers or behind this one
+inline constexpr std::size_t kHeaderWithAlphaMask = 56;
 
 inline constexpr std::size_t kRowAlignment = 4;
 

@@ -1,0 +1,235 @@
+#include "cli/CommandTable.h"
+#include "cli/EffectOptions.h"
+#include "cli/Help.h"
+#include "cli/Subcommands.h"
+
+#include <array>
+
+namespace gp::cli {
+namespace {
+
+constexpr std::array kRows = std::to_array<Command>({
+    {.name = "make",
+     .usage = "make OUT.ico PICTURE... [--from PICTURE] [--sizes 16,24,...] [--bits BITS] [--png-above SIZE]\n"
+              "            [--filter FILTER] [--dither DITHER] [--hotspot X,Y] [--json] [--force]",
+     .summary = "an icon or cursor file from PNG and BMP pictures",
+     .help = "Makes an icon file with one image of each PICTURE, a PNG or BMP file of 256x256 at\n"
+             "most, in this order, and then one for each of the sizes, scaled from the PICTURE\n"
+             "after --from, of 4096x4096 at most. Without --sizes these are 16, 24, 32, 48, 64,\n"
+             "128 and 256. A size that a PICTURE has is not scaled. A picture that is not square\n"
+             "is centered. An OUT named .cur becomes a cursor file.\n"
+             "  --bits       auto (if not given), 32, 24, 8, 4 or 1 bits per pixel. auto is 32 for\n"
+             "               alpha between 0 and 255, else what the colors need: 1, 4, 8 or 24.\n"
+             "               Colors that do not fit are reduced to 256 computed ones, to the 16\n"
+             "               standard ones, or to black and white. Pixels with an alpha below 128\n"
+             "               are transparent in the mask\n"
+             "  --png-above  larger sizes are stored as PNG (64 if not given)\n"
+             "  --filter     box (if not given), the mean of an area, or lanczos, which is sharper\n"
+             "  --dither     none (if not given) or floyd, when colors are reduced\n"
+             "  --hotspot    of a cursor, in pixels of the first PICTURE, or else of the one after\n"
+             "               --from; the other images get it in proportion (0,0 if not given)\n"
+             "Prints one line per image, parted by tabs: index, size, bits, encoding (bmp or png),\n"
+             "bytes, scaled or unscaled, and the PICTURE. With --json, one array with an object for\n"
+             "each; nothing when OUT is \"-\". Refused when two images have the same size and bits,\n"
+             "and when OUT is already there, which --force replaces.",
+     .example = "make app.ico small.png --from logo.png --sizes 32,48,256",
+     .run = runMake},
+    {.name = "probe",
+     .usage = "probe [--json] FILE...",
+     .summary = "kind, size and depth of a file, as numbers",
+     .help = "Prints the file's name, a tab, and nine numbers joined by \"/\": kind (0 no icon\n"
+             "file, 1 one entry, 2 several), usable entries as far as the scan went, chosen\n"
+             "entry, its width, height, colors and bits by the directory, colors and bits by\n"
+             "the bitmap header. Colors are -1 for true color. A PNG picture tells all of them\n"
+             "itself, as 32 bits with alpha and 24 without. Of several entries the first\n"
+             "of 32x32 is chosen, or a later one of 32x32 with 8 bits, which ends the scan.\n"
+             "Of a cursor file, which its content tells and not its name, there are three\n"
+             "numbers: 1 for a cursor that the editor takes, its colors and its bits by the\n"
+             "bitmap header; 0/0/0 for others. With --json, the numbers as an array.",
+     .example = "probe *.ico",
+     .run = runProbe},
+    {.name = "list",
+     .usage = "list [--json] FILE...",
+     .summary = "one line per image of a file",
+     .help =
+         "Prints one line per image, parted by tabs: file, index, size, colors and bits by\n"
+         "the directory, colors and bits by the bitmap header (0 for PNG), bytes, offset,\n"
+         "encoding (bmp or png), usable or unusable. A width or height of 0 in the file is\n"
+         "256. Usable images are square, of 16, 24, 32 or 48 pixels, and either bitmaps of\n"
+         "1, 4, 8, 24 or 32 bits or PNG pictures, whose size is their own. With --json, one\n"
+         "array with an object for each file; bytes of a name that are not UTF-8 become \"\\udc80\" to \"\\udcff\".\n"
+         "Lines of cursor files end with two more columns, the hot spot's x and y (with\n"
+         "--json: kind \"cur\", \"hotspotX\", \"hotspotY\"). A cursor's directory tells no\n"
+         "depth: both pairs of colors and bits are the bitmap header's. Usable is a first\n"
+         "image of 32x32 at offset 22 with its hot spot inside.",
+     .example = "list --json app.ico | python3 -m json.tool",
+     .run = runList},
+    {.name = "check",
+     .usage = "check [--json] FILE...",
+     .summary = "what directory, headers and pixels of a file contradict each other in",
+     .help = "Prints one line for each place where directory, headers and pixels of an icon or\n"
+             "cursor file contradict each other, parted by tabs: file, index, what, and what\n"
+             "the directory, the header and the pixels tell of it (\"-\" for nothing). What is\n"
+             "  width, height  the size; PNG pictures are asked too\n"
+             "  colors, bits   the depth; last, the depth that the pixels need\n"
+             "  bytes          fewer told than the image needs; \"incomplete\" for a cut PNG\n"
+             "  png            \"damaged\": a PNG picture that cannot be read\n"
+             "  offset         inside the directory; last, where that ends\n"
+             "  end            behind the file's end; last, the file's size\n"
+             "  pixels         palette index beyond the colors that the header tells\n"
+             "  alpha          pixels that the alpha calls transparent (0) and the mask painted,\n"
+             "                 which open opaque; last, their number\n"
+             "  shared         the same bytes as another image\n"
+             "  same           size and colors of an image before it\n"
+             "  hotspotX, hotspotY  outside the picture; last, its width or height\n"
+             "  count          more entries told than the file holds (index \"-\")\n"
+             "Old icons that tell colors but no bits are healthy. Exit status 1 if there is any.\n"
+             "With --json, one array with an object for each, and null for nothing.",
+     .example = "check --json app.ico",
+     .run = runCheck},
+    {.name = "show",
+     .usage = "show FILE... [--color WHEN] [--width COLUMNS]",
+     .summary = "the images of a file as colored text",
+     .help = "Prints each image of every size that can be decoded: a line with the file, index and\n"
+             "size, parted by tabs, and lines of half blocks, two pixels in each. Pixels with an\n"
+             "alpha below 128 show the ground. Images wider than COLUMNS (80 if not given) are\n"
+             "scaled down. Colors are 24-bit sequences of terminals. WHEN is always, never, or auto\n"
+             "(if not given): in a terminal, unless NO_COLOR is set. Without colors, the blocks\n"
+             "show which pixels are not transparent.",
+     .example = "show app.ico --width 48",
+     .run = runShow},
+    {.name = "unpack",
+     .usage = "unpack FILE... -d DIR [--png] [--force] [--max-size MB]",
+     .summary = "the pictures in files, as PNG or as image, mask and alpha",
+     .help = "Writes for every usable image NAME_INDEX.image.ppm, NAME_INDEX.mask.pgm (255\n"
+             "transparent) and, with 32 bits, NAME_INDEX.alpha.pgm, as the editor shows them.\n"
+             "With --png, writes every image of every size that can be decoded as NAME_INDEX.png:\n"
+             "the bytes of a PNG picture as they are, and a bitmap with alpha, which is 0 where its\n"
+             "mask is set, unless its 32 bits have alpha. Depth and size are the image's own.\n"
+             "NAME is the file's name without folder and extension; when two files share it,\n"
+             "the later ones become NAME-2, NAME-3 and so on. DIR is made if it is not there.\n"
+             "Files that are there already are kept and complained of; --force replaces them,\n"
+             "but never links and files with several names. One call writes 256 MB and 100000\n"
+             "files at most, or as much as --max-size says.",
+     .example = "unpack --png app.ico -d pictures",
+     .run = runUnpack},
+    {.name = "split",
+     .usage = "split FILE... -d DIR [--force] [--max-size MB]",
+     .summary = "every image as a file with a single icon",
+     .help = "Writes every image of every size, PNG pictures too, as a single-icon file with\n"
+             "the image's bytes as they are: NAME_SIZE_COLOR.ico, where SIZE is the height and\n"
+             "COLOR the colors, or the bits and \"bpp\" for true color, by the directory:\n"
+             "NAME_32_256.ico, NAME_48_32bpp.ico. No two of one call get the same name: the\n"
+             "later ones become NAME_32_256-2.ico and so on, and none gets the name of an input\n"
+             "that stands in DIR. DIR, --force and --max-size are as with unpack. An image that\n"
+             "is not all there costs a complaint and not the others.",
+     .example = "split app.ico -d icons",
+     .run = runSplit},
+    {.name = "bmp",
+     .usage = "bmp IN.ico INDEX OUT.bmp [--background RRGGBB]",
+     .summary = "one image as a bitmap",
+     .help = "Writes one image as a bitmap, as the editor does. Transparent pixels get the\n"
+             "background, without it C0C0C0; alpha is blended over C0C0C0 with any background.\n"
+             "The bitmap has 1 bit for black and white, 4 for the standard colors, 8 for up to\n"
+             "256 colors, which become a palette of their own, and 24 for more.",
+     .example = "bmp app.ico 0 app.bmp --background FFFFFF",
+     .run = runBmp},
+    {.name = "resave",
+     .usage = "resave IN.ico INDEX OUT.ico",
+     .summary = "loads one image and saves it, as the editor does",
+     .help = "Loads one image as the editor does and saves it as the editor does.",
+     .example = "resave old.ico 0 new.ico",
+     .run = runResave},
+    {.name = "reduce",
+     .usage = "reduce IN.ico INDEX OUT.ico --to COLORS --method METHOD [--threshold N]",
+     .summary = "one image with fewer colors",
+     .help = "Brings one image down to fewer colors and saves it as resave does. True color\n"
+             "icons stay true color. Refused with alpha, or when there are so few colors already.\n"
+             "  --to 256  optimal, system\n"
+             "  --to 16   optimized, nearest, vga\n"
+             "  --to 2    cutoff, weighted, ordered\n"
+             "With cutoff, pixels whose mean channel is below N, without it 128, become black and\n"
+             "the others transparent.",
+     .example = "reduce app.ico 0 app16.ico --to 16 --method nearest",
+     .run = runReduce},
+    {.name = "effect",
+     .usage = "effect IN.ico INDEX OUT.ico NAME",
+     .summary = "applies an effect to one image",
+     .help = "Applies an effect to one image and saves it as resave does. Refused with alpha.",
+     .example = "effect app.ico 0 disabled.ico disabled",
+     .run = runEffect,
+     .moreUsage = effectUsage,
+     .moreHelp = effectHelp},
+    {.name = "replace",
+     .usage = "replace FILE INDEX ICON.ico [--image N] [-o OUT]",
+     .summary = "replaces one image of a file",
+     .help = "Puts ICON.ico in the place of one image. The icon is loaded and saved as the\n"
+             "editor does; of several images it has, N, or without --image the one that probe\n"
+             "chooses. Refused when another image of the file has its size and colors.",
+     .example = "replace app.ico 2 better.ico",
+     .run = runReplace},
+    {.name = "add",
+     .usage = "add FILE... ICON.ico [--at N] [--image N] [-o OUT]",
+     .summary = "adds an image to files",
+     .help = "Adds ICON.ico to each file, as its image number N counted from 1, without --at\n"
+             "behind the last one. Loading and refusals as with replace. -o goes with one FILE.",
+     .example = "add app.ico small.ico --at 1",
+     .run = runAdd},
+    {.name = "remove",
+     .usage = "remove FILE INDEX [-o OUT]",
+     .summary = "takes an image out of a file",
+     .help = "Takes one image out. The last one stays.",
+     .example = "remove app.ico 3 -o smaller.ico",
+     .run = runRemove},
+    {.name = "reorder",
+     .usage = "reorder FILE 3,1,2 [-o OUT]",
+     .summary = "changes the sequence of the images",
+     .help = "Puts the images into another sequence: here the third first. The numbers count\n"
+             "from 1, and each must stand there once.",
+     .example = "reorder app.ico 3,1,2",
+     .run = runReorder},
+    {.name = "salvage",
+     .usage = "salvage FILE -o OUT",
+     .summary = "corrects the directory of a file by its bitmap headers",
+     .help = "Writes a copy whose directory takes width, height and bits from the bitmap\n"
+             "headers. Images and color counts stay, and entries of PNG pictures too. Refused\n"
+             "when the directory tells a width or height above 128.",
+     .example = "salvage broken.ico -o whole.ico",
+     .run = runSalvage},
+    {.name = "strip",
+     .usage = "strip FILE... [-o OUT] [--json]",
+     .summary = "makes files smaller without changing a pixel",
+     .help = "Leaves out the chunks of PNG pictures that gpicon and most programs ignore, such as\n"
+             "texts, times, color profiles and further frames, and colors of palettes that no pixel\n"
+             "uses: a bitmap whose colors fit into a smaller palette gets fewer bits. Prints file,\n"
+             "bytes before and bytes after, parted by tabs, or with --json an array of objects;\n"
+             "nothing when OUT is \"-\". A file that cannot become smaller is not written. -o goes\n"
+             "with one FILE.",
+     .example = "strip icons/*.ico",
+     .run = runStrip},
+    {.name = "manual",
+     .usage = "manual",
+     .summary = "prints the manual page",
+     .help = "Prints the manual page of gpicon in the language of man.",
+     .example = "manual | man -l -",
+     .run = runManual},
+    {.name = "completions",
+     .usage = "completions SHELL",
+     .summary = "prints what a shell needs to complete commands",
+     .help = "Prints the completions of commands and options for bash, zsh or fish.",
+     .example = "completions bash > ~/.local/share/bash-completion/completions/gpicon",
+     .run = runCompletions},
+    {.name = "help",
+     .usage = "help [COMMAND]",
+     .summary = "describes all commands, or one with an example",
+     .help = "Describes one command and shows an example of it, or describes all. COMMAND --help\n"
+             "does the same. gpicon --version prints the version.",
+     .example = "help check",
+     .run = runHelp},
+});
+
+}  // namespace
+
+std::span<const Command> commandTable() { return kRows; }
+
+}  // namespace gp::cli
