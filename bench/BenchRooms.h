@@ -31,6 +31,7 @@ class NoDisplay : public Display {
   void showPopUpMenu() override {}
   void nudgeMousePointer() override {}
   void focusColorValue() override {}
+  void announce(const std::string&) override {}
 };
 
 class NoPump : public MessagePump {

@@ -50,6 +50,11 @@ void complain(const std::string& file, const std::string& reason) {
   std::fprintf(stderr, "gpicon: %s: %s\n", printable(file).c_str(), printable(oneLine(reason)).c_str());
 }
 
+bool refuse(const std::string& file, const std::string& reason) {
+  complain(file, reason);
+  return false;
+}
+
 int badUsage(const std::string& text) {
   std::fprintf(stderr, "gpicon: %s (see gpicon --help)\n", printable(text).c_str());
   return kBadUsage;

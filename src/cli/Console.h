@@ -16,6 +16,8 @@ using Arguments = std::vector<std::string>;
 std::string printable(std::string_view text);
 // Prints "gpicon: FILE: REASON" on stderr. Line breaks of a message box become single blanks.
 void complain(const std::string& file, const std::string& reason);
+// The same; returns false.
+bool refuse(const std::string& file, const std::string& reason);
 // Prints "gpicon: TEXT" and a hint to the help on stderr; returns kBadUsage.
 int badUsage(const std::string& text);
 

@@ -12,11 +12,6 @@ namespace {
 
 enum ReplaceArgument { kFile, kIndex, kIcon, kReplaceArguments };
 
-bool refuse(const std::string& file, const std::string& reason) {
-  complain(file, reason);
-  return false;
-}
-
 // False, after an error message, when the file has another icon of this size and colours, other than at `except`.
 bool isNew(const IconArrays& arrays, const NewIcon& icon, int except, const std::string& path, SaveInto save) {
   const int same = findSameIcon(arrays, icon.traits, except);

@@ -7,11 +7,6 @@
 namespace gp::cli {
 namespace {
 
-bool refuse(const std::string& path, const std::string& reason) {
-  complain(path, reason);
-  return false;
-}
-
 bool writePicture(const EntryPicture& entry, const std::string& name, OutputFolder& folder) {
   if (!entry.png.empty()) return folder.write(name, entry.png);
   return folder.write(name, encodePng(entry.picture, PngEffort::Fast));
