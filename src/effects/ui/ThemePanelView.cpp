@@ -16,14 +16,15 @@ constexpr int kGap = 8;
 }  // namespace
 
 ThemePanelView::ThemePanelView(QWidget* parent, ThemePanel& panel) : EffectPanelView(parent, panel), panel_(panel) {
-  addColor();
+  QWidget* button = addColor();
   addPercent();
-  addRow("lblColorTheme(2)", "(The percentage acts on a gray or pure red theme only)");
+  addRow("lblColorTheme(2)", "(The percentage acts on a theme of hue 0 only, such as gray or pure red)");
   addSamples({{"picColorTheme(0)", "Sample", panel_.sample()}});
+  setFirstControl(button);
   refresh();
 }
 
-void ThemePanelView::addColor() {
+QWidget* ThemePanelView::addColor() {
   auto* place = new QWidget(rows());
   auto* columns = new QHBoxLayout(place);
   columns->setContentsMargins(0, 0, 0, 0);
@@ -39,7 +40,7 @@ void ThemePanelView::addColor() {
   columns->addWidget(swatch_);
   columns->addWidget(lblColor_, 1);
   addWide(place);
-  setFirstControl(button);
+  return button;
 }
 
 void ThemePanelView::addPercent() {

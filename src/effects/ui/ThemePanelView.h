@@ -20,7 +20,7 @@ class ThemePanelView final : public EffectPanelView {
   void refresh() override;
 
  private:
-  void addColor();
+  QWidget* addColor();
   void addPercent();
 
   ThemePanel& panel_;
