@@ -11,6 +11,7 @@ namespace gp {
 namespace {
 
 constexpr int kTen = 10;
+constexpr int kHighestLevel = 255;
 
 std::optional<int> wholeNumber(std::string_view text) {
   int number = 0;
@@ -61,6 +62,27 @@ std::string rangeOf(const Setting& setting) {
   return "a number from " + textOfValue(setting, setting.from) + " to " + textOfValue(setting, setting.to);
 }
 
+constexpr char kComma = ',';
+constexpr std::size_t kLevels = 3;
+
+// "0,127,255".
+std::optional<int> levelsOf(std::string_view text) {
+  int levels[kLevels] = {};
+  for (std::size_t i = 0; i < kLevels; ++i) {
+    const std::size_t end = i + 1 < kLevels ? text.find(kComma) : text.size();
+    const std::optional<int> level = end == std::string_view::npos ? std::nullopt : wholeNumber(text.substr(0, end));
+    if (!level || *level < 0 || *level > kHighestLevel) return std::nullopt;
+    levels[i] = *level;
+    text.remove_prefix(std::min(end + 1, text.size()));
+  }
+  return rgb(levels[0], levels[1], levels[2]);
+}
+
+std::string textOfLevels(Color levels) {
+  return std::to_string(redOf(levels)) + kComma + std::to_string(greenOf(levels)) + kComma +
+         std::to_string(blueOf(levels));
+}
+
 // What the kinds of settings differ in. Functions that take a text or a value do not check its range.
 struct Kind {
   bool hasList;
@@ -107,6 +129,14 @@ constexpr Kind kRgb{.hasList = false,
                     .allowed = [](const Setting&) { return std::string("six hexadecimal digits"); },
                     .parse = [](const Setting&, std::string_view text) { return colorOfDigits(text); },
                     .write = [](const Setting&, int value) { return digitsOfColor(value); }};
+constexpr Kind kLevelsKind{
+    .hasList = false,
+    .lowest = zero,
+    .highest = [](const Setting&) { return kWhite; },
+    .placeholder = [](const Setting&) { return std::string("R,G,B"); },
+    .allowed = [](const Setting&) { return std::string("three numbers from 0 to 255 with commas between them"); },
+    .parse = [](const Setting&, std::string_view text) { return levelsOf(text); },
+    .write = [](const Setting&, int value) { return textOfLevels(value); }};
 constexpr Kind kFlag{.hasList = false,
                      .lowest = zero,
                      .highest = [](const Setting&) { return 1; },
@@ -116,7 +146,7 @@ constexpr Kind kFlag{.hasList = false,
                      .write = [](const Setting&, int value) { return std::to_string(value); }};
 
 // In the order of SettingKind.
-constexpr const Kind* kKinds[] = {&kNumber, &kTenths, &kWord, &kRgb, &kFlag};
+constexpr const Kind* kKinds[] = {&kNumber, &kTenths, &kWord, &kRgb, &kLevelsKind, &kFlag};
 
 const Kind& kindOf(const Setting& setting) { return *kKinds[static_cast<std::size_t>(setting.kind)]; }
 
@@ -143,12 +173,13 @@ FilledList listOf(const Setting& setting) {
 
 int choiceCount(const Setting& setting) {
   constexpr int kOffAndOn = 2;
+  if (setting.kind == SettingKind::Levels) return highestValue(setting) + 1;
   return hasList(setting) ? static_cast<int>(listOf(setting).entries.size()) : kOffAndOn;
 }
 
 int firstChoice(const Setting& setting) {
   if (hasList(setting)) return listOf(setting).first;
-  return setting.kind == SettingKind::Flag ? setting.first : 0;
+  return setting.kind == SettingKind::Rgb ? 0 : setting.first;
 }
 
 int valueOfChoice(const Setting& setting, int choice, Color currentColor) {

@@ -172,7 +172,7 @@ TEST_F(GpiconEffect, BadUsage) {
   expectBadUsage(call(a, {}), needed);
   expectBadUsage(call(a, {"raised", "raised"}), needed);
   expectBadUsage({"effect", a, "x", out, "raised"}, "effect: the index is no number");
-  for (const std::string name : {"Raised", "raise", "sharpen", ""})
+  for (const std::string name : {"Raised", "raise", "sharp", ""})
     expectBadUsage(call(a, {name}), "effect: no effect is named " + name);
   for (const std::string color : {"12345", "1234567", "zzzzzz", "-00001"})
     expectBadUsage(call(a, {"shadowed", "--color", color}), "effect: --color takes six hexadecimal digits");

@@ -20,11 +20,30 @@ inline std::vector<const EffectRow*> builtEffects() {
   return effects;
 }
 
-// All values that a setting allows; of a colour three.
+// Of these, the effects whose side panel is made from their settings.
+inline std::vector<const EffectRow*> panelEffects() {
+  std::vector<const EffectRow*> effects;
+  for (const EffectRow* effect : builtEffects())
+    if (effect->panel.isGenerated) effects.push_back(effect);
+  return effects;
+}
+
+// The effects of the menu and those of gpicon only.
+inline std::vector<const EffectRow*> allEffects() {
+  std::vector<const EffectRow*> effects = builtEffects();
+  for (const EffectRow* effect : commandLineEffects())
+    if (std::ranges::find(effects, effect) == effects.end()) effects.push_back(effect);
+  return effects;
+}
+
+// All values that a setting allows; of a colour three, of a long range about twenty with both ends.
 inline std::vector<int> valuesToTry(const Setting& setting) {
-  if (setting.kind == SettingKind::Rgb) return {kBlack, kWhite, rgb(255, 128, 1)};
+  if (setting.kind == SettingKind::Rgb || setting.kind == SettingKind::Levels)
+    return {kBlack, kWhite, rgb(255, 128, 1)};
+  const int step = std::max(1, (highestValue(setting) - lowestValue(setting)) / 20);
   std::vector<int> values;
-  for (int value = lowestValue(setting); value <= highestValue(setting); ++value) values.push_back(value);
+  for (int value = lowestValue(setting); value < highestValue(setting); value += step) values.push_back(value);
+  values.push_back(highestValue(setting));
   return values;
 }
 
@@ -48,9 +67,21 @@ inline std::vector<std::string> optionsFor(const EffectRow& effect, const Effect
     const Setting& setting = effect.settings[i];
     const bool isFlag = setting.kind == SettingKind::Flag;
     if (isFlag && !values.flag(i)) continue;
+    if (setting.applies && !setting.applies(values)) continue;
     words.push_back("--" + std::string(setting.option));
     if (!isFlag) words.push_back(textOfValue(setting, values.number(i)));
   }
+  return words;
+}
+
+// The words that gpicon cannot do without, with the first values.
+inline std::vector<std::string> neededOptions(const EffectRow& effect) {
+  std::vector<std::string> words;
+  for (const Setting& setting : effect.settings)
+    if (setting.isRequired || (effect.needsOption && words.empty())) {
+      words.push_back("--" + std::string(setting.option));
+      words.push_back(textOfValue(setting, setting.first));
+    }
   return words;
 }
 
