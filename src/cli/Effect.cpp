@@ -8,6 +8,10 @@ namespace {
 int makeEffect(const EffectRow& effect, const EffectValues& values, const ImageArguments& arguments) {
   const auto loaded = loadImageForEffect(arguments);
   if (!loaded) return kRefused;
+  if (const char* reason = refusalOf(effect, loaded->icon, values)) {
+    complain(arguments.input, reason);
+    return kRefused;
+  }
   return writeIcon(effect.apply(loaded->icon, values), loaded->record, arguments.output);
 }
 

@@ -74,6 +74,33 @@ std::optional<int> valueOf(const Setting& setting, const GivenOptions& options) 
   return takesValue(setting) ? valueOfText(setting, given->second) : 1;
 }
 
+// False, after a complaint, when an option that the effect needs is not given.
+bool hasRequired(const EffectRow& effect, const GivenOptions& options) {
+  std::vector<std::string> names;
+  for (const Setting& setting : effect.settings)
+    if (setting.isRequired) names.push_back("--" + std::string(setting.option));
+  if (std::ranges::all_of(effect.settings, [&options](const Setting& setting) {
+        return !setting.isRequired || options.contains(setting.option);
+      }))
+    return true;
+  badUsage("effect: " + std::string(effect.name) + " needs " + listed(names));
+  return false;
+}
+
+// False, after a complaint, when a given option has no meaning with the value of the first one.
+bool areTogether(const EffectRow& effect, const GivenOptions& options, const EffectValues& values) {
+  for (const Setting& setting : effect.settings) {
+    if (!options.contains(setting.option) || goesWith(setting, values.number(0))) continue;
+    const Setting& first = effect.settings.front();
+    std::vector<std::string> words;
+    for (const int value : setting.onlyWith) words.push_back(textOfValue(first, value));
+    badUsage("effect: --" + std::string(setting.option) + " goes with --" + first.option + " " + listed(words) +
+             " only");
+    return false;
+  }
+  return true;
+}
+
 std::string optionText(const Setting& setting) {
   const std::string value = placeholderOf(setting);
   return "--" + std::string(setting.option) + (value.empty() ? "" : " " + value);
@@ -82,6 +109,7 @@ std::string optionText(const Setting& setting) {
 std::string helpOf(const Setting& setting) {
   std::string text = optionText(setting) + "  " + setting.help;
   if (!takesValue(setting)) return text;
+  if (setting.isRequired) return text + " (" + allowedValues(setting) + ")";
   return text + " (" + allowedValues(setting) + ", without it " + textOfValue(setting, setting.first) + ")";
 }
 
@@ -117,6 +145,7 @@ std::optional<EffectValues> valuesOf(const EffectRow& effect, const GivenOptions
     }
     values.append(*value);
   }
+  if (!hasRequired(effect, options) || !areTogether(effect, options, values)) return std::nullopt;
   return values;
 }
 

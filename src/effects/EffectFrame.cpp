@@ -6,6 +6,7 @@
 #include "document/Hourglass.h"
 #include "document/Messages.h"
 #include "document/PanelNumbers.h"
+#include "effects/EffectTable.h"
 #include "effects/EffectTexts.h"
 #include "platform/gdi/SurfaceOps.h"
 #include "platform/ports/MessageBoxes.h"
@@ -28,6 +29,13 @@ bool EffectFrame::mayApply() {
   }
   if (record.hasAlpha) context_.boxes.tell(kIconIsWithAlpha);
   return !record.hasAlpha;
+}
+
+bool EffectFrame::mayApply(const EffectRow& effect, const EffectValues& values) {
+  if (!mayApply()) return false;
+  const char* reason = refusalOf(effect, currentIcon(), values);
+  if (reason) context_.boxes.tell(reason);
+  return !reason;
 }
 
 bool EffectFrame::hasIcon() const { return state_.current().present; }

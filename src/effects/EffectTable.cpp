@@ -7,13 +7,12 @@ namespace gp {
 
 // Each is defined beside its function.
 extern const EffectRow kButtonize, kEmbossed, kEngraved, kRaised, kShadowed, kDisabledImage;
+extern const EffectRow kGradient, kSphere;
 
 namespace {
 
 // Not part of the program yet: a menu entry that is disabled.
 constexpr EffectRow kText{.menu = {0, "&Text ....", "Ctrl+F2", "text"}, .panel = {5}};
-constexpr EffectRow kSphere{.menu = {2, "Auto-Draw &Sphere ....", "Ctrl+F3", "sphere"}, .panel = {6}};
-constexpr EffectRow kGradient{.menu = {4, "Gradient &Unpainted Area ....", "Ctrl+F5", "gradient"}, .panel = {8}};
 constexpr EffectRow kBrightness{.menu = {6, "&Adjust Brightness Of Colors ....", "Ctrl+F6", "brightness"},
                                 .panel = {9}};
 constexpr EffectRow kSharpen{.menu = {7, "Shar&pen / Soften Image ....", "Ctrl+F7", ""}, .panel = {10}};

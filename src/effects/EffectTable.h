@@ -23,6 +23,7 @@ struct EffectPanelPlace {
   int number;                    // of fraPanel
   const char* sample = "";       // objectName of the sample
   const char* sampleLabel = "";  // objectName of the label that shows the title; empty for the plain label "Sample"
+  bool isGenerated = true;       // from the settings of its effects; false for a panel with its own class
 };
 
 // The side panel of effects that do not name another one.
@@ -31,6 +32,9 @@ inline constexpr EffectPanelPlace kSharedPanel{13, "picEffectsSample", "lblEffec
 // Returns the icon with the effect. `values` are those of the row's settings; the result has the size of `icon`.
 using EffectFunction = IconImage (*)(const IconImage& icon, const EffectValues& values);
 
+// Returns why the icon does not take the effect with these values; null when it takes it.
+using EffectRefusal = const char* (*)(const IconImage& icon, const EffectValues& values);
+
 struct EffectRow {
   const char* name = "";   // of gpicon's effect
   const char* title = "";  // shown on the side panel
@@ -38,8 +42,14 @@ struct EffectRow {
   EffectMenuEntry menu;
   EffectPanelPlace panel = kSharedPanel;
   std::span<const Setting> settings = {};
-  EffectFunction apply = nullptr;  // null for an effect that the program does not have yet
+  EffectFunction apply = nullptr;   // null for an effect that the program does not have yet
+  EffectRefusal refusal = nullptr;  // null for an effect that every icon takes
 };
+
+// Why the icon does not take the effect with these values; null when it takes it.
+inline const char* refusalOf(const EffectRow& effect, const IconImage& icon, const EffectValues& values) {
+  return effect.refusal ? effect.refusal(icon, values) : nullptr;
+}
 
 // Effects that the program does not have yet are included.
 std::span<const EffectRow* const> effectTable();

@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cstdlib>
 #include <iterator>
+#include <limits>
 
 namespace gp {
 namespace {
@@ -26,6 +27,20 @@ std::optional<int> tenths(std::string_view text) {
   if (point == std::string_view::npos) return wholeNumber(text) ? wholeNumber(std::string(text) + "0") : std::nullopt;
   if (point + 2 != text.size()) return std::nullopt;
   return wholeNumber(std::string(text).erase(point, 1));
+}
+
+// "12,-3"; coordinates that are too large are limited.
+std::optional<int> point(std::string_view text) {
+  const std::size_t comma = text.find(',');
+  if (comma == std::string_view::npos) return std::nullopt;
+  const std::optional<int> x = wholeNumber(text.substr(0, comma)), y = wholeNumber(text.substr(comma + 1));
+  if (!x || !y) return std::nullopt;
+  return pointValue(std::clamp(*x, -kFarthest, kFarthest), std::clamp(*y, -kFarthest, kFarthest));
+}
+
+std::string textOfPoint(int value) {
+  if (value == kMiddlePoint) return "the middle";
+  return std::to_string(xOfPoint(value)) + "," + std::to_string(yOfPoint(value));
 }
 
 std::string textOfTenths(int value) {
@@ -114,9 +129,16 @@ constexpr Kind kFlag{.hasList = false,
                      .allowed = [](const Setting&) { return std::string("no value"); },
                      .parse = [](const Setting&, std::string_view) { return std::optional<int>(); },
                      .write = [](const Setting&, int value) { return std::to_string(value); }};
+constexpr Kind kPoint{.hasList = false,
+                      .lowest = [](const Setting&) { return std::numeric_limits<int>::min(); },
+                      .highest = [](const Setting&) { return std::numeric_limits<int>::max(); },
+                      .placeholder = [](const Setting&) { return std::string("X,Y"); },
+                      .allowed = [](const Setting&) { return std::string("two whole numbers, X,Y"); },
+                      .parse = [](const Setting&, std::string_view text) { return point(text); },
+                      .write = [](const Setting&, int value) { return textOfPoint(value); }};
 
 // In the order of SettingKind.
-constexpr const Kind* kKinds[] = {&kNumber, &kTenths, &kWord, &kRgb, &kFlag};
+constexpr const Kind* kKinds[] = {&kNumber, &kTenths, &kWord, &kRgb, &kFlag, &kPoint};
 
 const Kind& kindOf(const Setting& setting) { return *kKinds[static_cast<std::size_t>(setting.kind)]; }
 
@@ -152,6 +174,7 @@ int firstChoice(const Setting& setting) {
 }
 
 int valueOfChoice(const Setting& setting, int choice, Color currentColor) {
+  if (setting.kind == SettingKind::Point) return setting.first;
   if (setting.kind == SettingKind::Rgb) return choice == 0 ? setting.first : currentColor;
   return listValue(setting, choice);
 }
@@ -166,6 +189,10 @@ std::optional<int> valueOfText(const Setting& setting, std::string_view text) {
 }
 
 std::string textOfValue(const Setting& setting, int value) { return kindOf(setting).write(setting, value); }
+
+bool goesWith(const Setting& setting, int value) {
+  return setting.onlyWith.empty() || std::ranges::find(setting.onlyWith, value) != setting.onlyWith.end();
+}
 
 EffectValues firstValues(std::span<const Setting> settings) {
   EffectValues values;

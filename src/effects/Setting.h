@@ -17,7 +17,8 @@ enum class SettingKind {
   Tenths,  // a number with one decimal, stored in tenths; a list on the panel
   Word,    // one of `words`, stored as its index; a list on the panel
   Rgb,     // a Colour; a tick box on the panel that selects the current colour instead of `first`
-  Flag     // 0 or 1; an option without a value, a tick box on the panel
+  Flag,    // 0 or 1; an option without a value, a tick box on the panel
+  Point    // see pointValue; a sample to click on, on a panel with its own class
 };
 
 struct Setting {
@@ -30,6 +31,9 @@ struct Setting {
   const char* control = "";                 // objectName of the panel's control: "cboButtonizePattern"
   const char* label = "";                   // caption of the control, with access letter
   const char* help = "";                    // what the values mean, for the help of gpicon
+  bool isRequired = false;                  // gpicon must be given the option
+  // The values of the effect's first setting with which this one has a meaning; empty for all.
+  std::span<const int> onlyWith = {};
 };
 
 // The lowest and highest value that the setting allows.
@@ -54,6 +58,8 @@ std::string allowedValues(const Setting& setting);
 std::optional<int> valueOfText(const Setting& setting, std::string_view text);
 // The text that describes a value.
 std::string textOfValue(const Setting& setting, int value);
+// Whether the setting has a meaning with this value of the effect's first setting.
+bool goesWith(const Setting& setting, int value);
 // The setting's first values, in their order.
 EffectValues firstValues(std::span<const Setting> settings);
 

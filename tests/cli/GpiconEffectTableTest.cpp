@@ -38,6 +38,14 @@ class GpiconEffectTable : public GpiconOneImage {
     arguments.insert(arguments.end(), options.begin(), options.end());
     return arguments;
   }
+  // The options that the effect needs, with their first values.
+  static std::vector<std::string> requiredOptions(const EffectRow& effect) {
+    std::vector<std::string> words;
+    for (const Setting& setting : effect.settings)
+      if (setting.isRequired)
+        words.insert(words.end(), {"--" + std::string(setting.option), textOfValue(setting, setting.first)});
+    return words;
+  }
   // Texts that a setting must refuse: one value beyond each end, and no value at all.
   static std::vector<std::string> refusedTexts(const Setting& setting) {
     std::vector<std::string> texts{"x", "1.23"};
@@ -56,6 +64,11 @@ TEST_F(GpiconEffectTable, EachValueMakesWhatTheFunctionMakes) {
         for (const EffectValues& values : valuesToTry(*effect)) {
           const std::vector<std::string> options = optionsFor(*effect, values);
           SCOPED_TRACE(effect->name + testing::PrintToString(options) + std::to_string(size));
+          std::filesystem::remove(out);
+          if (const char* reason = refusalOf(*effect, icon, values)) {
+            expectRefusal(call(input, *effect, options), input + ": " + reason);
+            continue;
+          }
           expectDone(call(input, *effect, options));
           expectPixels(writtenIcon(out), effect->apply(icon, values));
         }
@@ -67,7 +80,7 @@ TEST_F(GpiconEffectTable, WithoutOptionsTheFirstValuesApply) {
   const std::string input = write(icon);
   for (const EffectRow* effect : builtEffects()) {
     SCOPED_TRACE(effect->name);
-    expectDone(call(input, *effect, {}));
+    expectDone(call(input, *effect, requiredOptions(*effect)));
     expectPixels(writtenIcon(out), effect->apply(icon, firstValues(effect->settings)));
   }
 }
@@ -81,6 +94,21 @@ TEST_F(GpiconEffectTable, AValueThatASettingDoesNotAllowIsRefused) {
       for (const std::string& text : refusedTexts(setting))
         expectBadUsage(call(input, *effect, {option, text}), "effect: " + option + " takes " + allowedValues(setting));
     }
+}
+
+TEST_F(GpiconEffectTable, AnOptionThatTheEffectNeedsMustBeGiven) {
+  const std::string input = write(transparentIcon(16));
+  for (const EffectRow* effect : builtEffects()) {
+    const std::vector<std::string> required = requiredOptions(*effect);
+    std::vector<std::string> names;
+    for (std::size_t i = 0; i < required.size(); i += 2) names.push_back(required[i]);
+    for (std::size_t i = 0; i < required.size(); i += 2) {
+      std::vector<std::string> others = required;
+      others.erase(others.begin() + static_cast<std::ptrdiff_t>(i),
+                   others.begin() + static_cast<std::ptrdiff_t>(i) + 2);
+      expectBadUsage(call(input, *effect, others), "effect: " + std::string(effect->name) + " needs " + listed(names));
+    }
+  }
 }
 
 TEST_F(GpiconEffectTable, AnOptionOfAnotherEffectIsRefused) {
@@ -121,7 +149,7 @@ TEST_F(GpiconEffectTable, AlphaIsRefused) {
   const std::string input = icon("alpha.ico", 16, 32);
   for (const EffectRow* effect : builtEffects())
     expectRefusal(
-        call(input, *effect, {}),
+        call(input, *effect, requiredOptions(*effect)),
         input + ": Current icon is with alpha, please run Convert 32 To 24 BPP to convert it to 24-BPP first.");
 }
 

@@ -20,24 +20,38 @@ inline std::vector<const EffectRow*> builtEffects() {
   return effects;
 }
 
-// All values that a setting allows; of a colour three.
+// Those of them whose panel comes from their settings.
+inline std::vector<const EffectRow*> effectsOfGeneratedPanels() {
+  std::vector<const EffectRow*> effects = builtEffects();
+  std::erase_if(effects, [](const EffectRow* effect) { return !effect->panel.isGenerated; });
+  return effects;
+}
+
+// All values that a setting allows; of a colour and a point three, of a long range some, with both ends.
 inline std::vector<int> valuesToTry(const Setting& setting) {
   if (setting.kind == SettingKind::Rgb) return {kBlack, kWhite, rgb(255, 128, 1)};
+  if (setting.kind == SettingKind::Point) return {pointValue(15, 3), pointValue(11, 11), pointValue(5, 12)};
+  constexpr int kManyValues = 16;
   std::vector<int> values;
-  for (int value = lowestValue(setting); value <= highestValue(setting); ++value) values.push_back(value);
+  const int step = std::max(1, (highestValue(setting) - lowestValue(setting)) / kManyValues);
+  for (int value = lowestValue(setting); value < highestValue(setting); value += step) values.push_back(value);
+  values.push_back(highestValue(setting));
+  return values;
+}
+
+// The effect's first values with one setting changed, and the first setting so that the changed one has a meaning.
+inline EffectValues valuesWith(const EffectRow& effect, std::size_t setting, int value) {
+  EffectValues values = firstValues(effect.settings);
+  if (!effect.settings[setting].onlyWith.empty()) values.set(0, effect.settings[setting].onlyWith.front());
+  values.set(setting, value);
   return values;
 }
 
 // The first values, and then each value of each setting while the others have their first ones.
 inline std::vector<EffectValues> valuesToTry(const EffectRow& effect) {
-  const EffectValues first = firstValues(effect.settings);
-  std::vector<EffectValues> all{first};
+  std::vector<EffectValues> all{firstValues(effect.settings)};
   for (std::size_t i = 0; i < effect.settings.size(); ++i)
-    for (const int value : valuesToTry(effect.settings[i])) {
-      EffectValues values = first;
-      values.set(i, value);
-      all.push_back(values);
-    }
+    for (const int value : valuesToTry(effect.settings[i])) all.push_back(valuesWith(effect, i, value));
   return all;
 }
 
@@ -48,6 +62,7 @@ inline std::vector<std::string> optionsFor(const EffectRow& effect, const Effect
     const Setting& setting = effect.settings[i];
     const bool isFlag = setting.kind == SettingKind::Flag;
     if (isFlag && !values.flag(i)) continue;
+    if (values.number(i) == kMiddlePoint || !goesWith(setting, values.number(0))) continue;
     words.push_back("--" + std::string(setting.option));
     if (!isFlag) words.push_back(textOfValue(setting, values.number(i)));
   }

@@ -30,6 +30,7 @@ class LargeFonts : public test::FormFixture {
   };
   static constexpr Panel kPanels[] = {{"shadowed", "mnuEffectsSub", 14},   {"buttonize", "mnuEffectsSub", 3},
                                       {"disabled", "mnuEffectsSub", 21},   {"confine-256", "mnuEffectsSub3", 0},
+                                      {"sphere", "mnuEffectsSub", 2},      {"gradient", "mnuEffectsSub", 4},
                                       {"confine-16", "mnuEffectsSub3", 1}, {"confine-2", "mnuEffectsSub3", 2},
                                       {"rotate", "mnuRotateSubmenu", 4},   {"cursor", "mnuFileSub", 18}};
 

@@ -38,7 +38,7 @@ QString accessibleName(QWidget* widget) {
 
 TEST_F(EffectTablePanelsTest, EachEffectOpensByItsEntryWithItsControlsAndItsSample) {
   startWithPicture();
-  for (const EffectRow* effect : test::builtEffects()) {
+  for (const EffectRow* effect : test::effectsOfGeneratedPanels()) {
     SCOPED_TRACE(effect->name);
     EXPECT_EQ(entryOf(*effect)->text(), effect->menu.caption);
     EXPECT_EQ(entryOf(*effect)->shortcut(), QKeySequence(effect->menu.key));
@@ -53,7 +53,7 @@ TEST_F(EffectTablePanelsTest, EachEffectOpensByItsEntryWithItsControlsAndItsSamp
     if (*effect->panel.sampleLabel) {
       EXPECT_EQ(panel->findChild<QLabel*>(effect->panel.sampleLabel)->text(), effect->title);
     }
-    for (const EffectRow* other : test::builtEffects())
+    for (const EffectRow* other : test::effectsOfGeneratedPanels())
       for (const Setting& setting : other->settings) {
         if (other->panel.number != effect->panel.number) continue;
         auto* control = panel->findChild<QWidget*>(setting.control);
@@ -70,7 +70,7 @@ TEST_F(EffectTablePanelsTest, EachEffectOpensByItsEntryWithItsControlsAndItsSamp
 
 TEST_F(EffectTablePanelsTest, ReturnAppliesTheEffectThatTheSampleShows) {
   startWithPicture();
-  for (const EffectRow* effect : test::builtEffects()) {
+  for (const EffectRow* effect : test::effectsOfGeneratedPanels()) {
     entryOf(*effect)->trigger();
     settle();
     const IconImage shown = shell.effects().settingsPanel(effect->panel.number)->picture();

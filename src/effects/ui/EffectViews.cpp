@@ -2,9 +2,13 @@
 
 #include "effects/ConfinePanel.h"
 #include "effects/Effects.h"
+#include "effects/GradientPanel.h"
 #include "effects/SettingsPanel.h"
+#include "effects/SpherePanel.h"
 #include "effects/ui/ConfinePanelView.h"
+#include "effects/ui/GradientPanelView.h"
 #include "effects/ui/SettingsPanelView.h"
+#include "effects/ui/SpherePanelView.h"
 
 #include <algorithm>
 #include <array>
@@ -23,7 +27,8 @@ constexpr ViewRow kRowOf{Panel::kNumber, [](QWidget* parent, const Effects& effe
                          }};
 
 // Panels that have their own class.
-constexpr std::array kViews{kRowOf<ConfinePanelView, ConfinePanel>};
+constexpr std::array kViews{kRowOf<ConfinePanelView, ConfinePanel>, kRowOf<SpherePanelView, SpherePanel>,
+                            kRowOf<GradientPanelView, GradientPanel>};
 
 }  // namespace
 
