@@ -30,6 +30,11 @@ EffectValues GradientPanel::valuesOf(GradientKind kind) const {
           kind == GradientKind::Spherical ? center() : kMiddlePoint};
 }
 
+int GradientPanel::center() const {
+  const int side = iconSide();
+  return side == centerSide_ ? center_ : pointValue(side / 2, side / 2);
+}
+
 void GradientPanel::pickKind(int kind) {
   if (!isIndex(kind, kGradientKinds)) return;
   kind_ = static_cast<GradientKind>(kind);

@@ -29,6 +29,8 @@ class GradientPanel final : public EffectPanel {
   const Color& color(int i) const { return colors_.at(static_cast<std::size_t>(i)); }
   // The gradients of all kinds, of the icon's size; without pixels while there is no icon.
   const Surface& PicGradient(int kind) const { return PicGradient_.at(static_cast<std::size_t>(kind)); }
+  // The centre of the spherical gradient, a point in icon pixels.
+  int center() const;
   // What the effect gets for a gradient of that kind.
   EffectValues valuesOf(GradientKind kind) const;
 
@@ -50,13 +52,12 @@ class GradientPanel final : public EffectPanel {
  private:
   // 0 without an icon.
   int iconSide() const;
-  int center() const { return iconSide() == centerSide_ ? center_ : kMiddlePoint; }
 
   clsGPDialog& dialog_;
   GradientKind kind_ = GradientKind::Linear;
   std::array<int, kAngles> angles_{};
   std::array<Color, kColors> colors_;
-  int center_ = kMiddlePoint;
+  int center_ = 0;
   int centerSide_ = 0;  // of the icon that the centre belongs to
   std::array<Surface, kGradientKinds> PicGradient_;
 };

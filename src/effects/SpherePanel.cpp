@@ -14,7 +14,9 @@ constexpr int kFactors = 11;
 }  // namespace
 
 SpherePanel::SpherePanel(EffectFrame& frame, clsGPDialog& dialog)
-    : EffectPanel(frame, kNumber), dialog_(dialog), settings_(sphereSettings(firstValues(kSphere.settings))) {}
+    : EffectPanel(frame, kNumber), dialog_(dialog), settings_(sphereSettings(firstValues(kSphere.settings))) {
+  drawSphere();
+}
 
 void SpherePanel::open(const EffectRow& /*effect*/) {
   if (!frame().mayApply()) return;
@@ -58,7 +60,7 @@ void SpherePanel::chooseColor() {
 
 IconImage SpherePanel::apply(const IconImage& icon) const { return sphereIcon(icon.width(), icon.height(), settings_); }
 
-void SpherePanel::drawSamples() {
+void SpherePanel::drawSphere() {
   const IconImage ball = sphereIcon(kSphereSampleSide, kSphereSampleSide, settings_);
   PicSphere_ = composedIcon(ball.image, ball.mask);
 }

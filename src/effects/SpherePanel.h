@@ -35,10 +35,12 @@ class SpherePanel final : public EffectPanel {
 
  protected:
   IconImage apply(const IconImage& icon) const override;
-  void drawSamples() override;
+  void drawSamples() override { drawSphere(); }
   bool mayProceed() override;
 
  private:
+  void drawSphere();
+
   clsGPDialog& dialog_;
   SphereSettings settings_;
   Surface PicSphere_;

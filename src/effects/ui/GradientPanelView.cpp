@@ -86,7 +86,7 @@ void GradientPanelView::addGradients() {
       new PointSampleView(place, QString("PicGradient(%1)").arg(kSpherical), "Click to change center point",
                           panel_.PicGradient(kSpherical), kSampleSide, SampleRoom::Fixed);
   connect(spherical, &PointSampleView::picked, this, [this](int x, int y) { panel_.clickCenter(x, y); });
-  gradients_.at(kSpherical) = spherical;
+  gradients_.at(kSpherical) = spherical_ = spherical;
   for (SampleView* view : gradients_) row->addWidget(view);
   row->addStretch();
   addWide(place);
@@ -123,6 +123,9 @@ void GradientPanelView::refresh() {
     angles_.at(static_cast<std::size_t>(i))->setCurrentIndex(panel_.angle(i));
   for (ColorButton* button : colors_) button->refresh();
   for (SampleView* view : gradients_) view->refresh();
+  // The pixel of the keyboard stays where the user has moved it.
+  const int center = panel_.center();
+  spherical_->setPoint(spherical_->hasFocus() ? spherical_->point() : QPoint(xOfPoint(center), yOfPoint(center)));
 }
 
 }  // namespace gp

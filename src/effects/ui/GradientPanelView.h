@@ -38,6 +38,7 @@ class GradientPanelView final : public EffectPanelView {
   std::array<QRadioButton*, kGradientKinds> kinds_{};
   std::array<QComboBox*, GradientPanel::kAngles> angles_{};
   std::array<SampleView*, kGradientKinds> gradients_{};
+  PointSampleView* spherical_ = nullptr;  // the last of them
   std::array<ColorButton*, GradientPanel::kColors> colors_{};
 };
 

@@ -59,7 +59,9 @@ void PointSampleView::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   const QPoint position = devicePointAt(this, event->position());
   if (picture().width() == 0 || !place().contains(position)) return;
-  pick((position - place().topLeft()) / factor());
+  // The operators of QPoint round.
+  const QPoint inside = position - place().topLeft();
+  pick({inside.x() / factor(), inside.y() / factor()});
 }
 
 void PointSampleView::keyPressEvent(QKeyEvent* event) {
