@@ -39,6 +39,7 @@ constexpr NumberRow kNumberRows[] = {
     {"cboBrightness(1)", -90, 90, 5, 18},
     {"cboBrightness(2)", -90, 90, 5, 18},
     {"cboConfineColors(3)", 1, 354, 1, 127},
+    {"cboGradientAngle(0)", 0, 360, 1, 0},
     {"cboGradientAngle(1)", 0, 360, 1, 0},
     {"cboBlendIn(1)", 0, 90, 5, 8},
     {"cboTexturize(0)", 1, 9, 1, 4, NumberForm::TenthsAsShort},

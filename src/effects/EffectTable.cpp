@@ -7,6 +7,7 @@ namespace gp {
 
 // Each is defined beside its function.
 extern const EffectRow kButtonize, kEmbossed, kEngraved, kRaised, kShadowed, kDisabledImage;
+extern const EffectRow kSphere, kGradient;
 extern const EffectRow kBrightness, kSharpenSoften, kColorTheme, kAntialias, kCast, kGrayscale, kInvert, kSwapElements;
 extern const EffectRow kSharpen, kSoften, kSwap;
 
@@ -14,8 +15,6 @@ namespace {
 
 // Not part of the program yet: a menu entry that is disabled.
 constexpr EffectRow kText{.menu = {0, "&Text ....", "Ctrl+F2", "text"}, .panel = {5}};
-constexpr EffectRow kSphere{.menu = {2, "Auto-Draw &Sphere ....", "Ctrl+F3", "sphere"}, .panel = {6}};
-constexpr EffectRow kGradient{.menu = {4, "Gradient &Unpainted Area ....", "Ctrl+F5", "gradient"}, .panel = {8}};
 constexpr EffectRow kBlend{.menu = {23, "Bl&end In Another Icon ....", "", ""}, .panel = {16}};
 constexpr EffectRow kTexture{.menu = {24, "Texturi&ze Painted Surface ....", "", ""}, .panel = {17}};
 

@@ -2,7 +2,9 @@
 
 #include "effects/BrightnessPanel.h"
 #include "effects/ConfinePanel.h"
+#include "effects/GradientPanel.h"
 #include "effects/SettingsPanel.h"
+#include "effects/SpherePanel.h"
 #include "effects/ThemePanel.h"
 
 #include <algorithm>
@@ -15,6 +17,8 @@ Effects::Effects(const Context& context, Document& document, UndoHistory& histor
   panels_.push_back(std::make_unique<BrightnessPanel>(frame_));
   panels_.push_back(std::make_unique<ThemePanel>(frame_, dialog));
   panels_.push_back(std::make_unique<ConfinePanel>(frame_));
+  panels_.push_back(std::make_unique<SpherePanel>(frame_, dialog));
+  panels_.push_back(std::make_unique<GradientPanel>(frame_, dialog));
   for (const EffectRow* effect : effectTable())
     if (effect->apply && effect->panel.isGenerated && !find(effect->panel.number))
       addSettingsPanel(effect->panel.number);

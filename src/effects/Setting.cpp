@@ -6,6 +6,9 @@
 #include <charconv>
 #include <cstdlib>
 #include <iterator>
+#include <limits>
+#include <ranges>
+#include <vector>
 
 namespace gp {
 namespace {
@@ -27,6 +30,32 @@ std::optional<int> tenths(std::string_view text) {
   if (point == std::string_view::npos) return wholeNumber(text) ? wholeNumber(std::string(text) + "0") : std::nullopt;
   if (point + 2 != text.size()) return std::nullopt;
   return wholeNumber(std::string(text).erase(point, 1));
+}
+
+// "12,-3": that many whole numbers with commas between them.
+std::optional<std::vector<int>> wholeNumbers(std::string_view text, std::size_t count) {
+  std::vector<int> numbers;
+  for (const auto part : std::views::split(text, ',')) {
+    const std::optional<int> number = wholeNumber({part.begin(), part.end()});
+    if (!number) return std::nullopt;
+    numbers.push_back(*number);
+  }
+  if (numbers.size() != count) return std::nullopt;
+  return numbers;
+}
+
+// Coordinates that are too large are limited.
+std::optional<int> point(std::string_view text) {
+  constexpr std::size_t kCoordinates = 2;
+  const auto numbers = wholeNumbers(text, kCoordinates);
+  if (!numbers) return std::nullopt;
+  const auto limited = [&numbers](std::size_t i) { return std::clamp(numbers->at(i), -kFarthest, kFarthest); };
+  return pointValue(limited(0), limited(1));
+}
+
+std::string textOfPoint(int value) {
+  if (value == kMiddlePoint) return "the middle";
+  return std::to_string(xOfPoint(value)) + "," + std::to_string(yOfPoint(value));
 }
 
 std::string textOfTenths(int value) {
@@ -62,25 +91,16 @@ std::string rangeOf(const Setting& setting) {
   return "a number from " + textOfValue(setting, setting.from) + " to " + textOfValue(setting, setting.to);
 }
 
-constexpr char kComma = ',';
-constexpr std::size_t kLevels = 3;
-
-// "0,127,255".
 std::optional<int> levelsOf(std::string_view text) {
-  int levels[kLevels] = {};
-  for (std::size_t i = 0; i < kLevels; ++i) {
-    const std::size_t end = i + 1 < kLevels ? text.find(kComma) : text.size();
-    const std::optional<int> level = end == std::string_view::npos ? std::nullopt : wholeNumber(text.substr(0, end));
-    if (!level || *level < 0 || *level > kHighestLevel) return std::nullopt;
-    levels[i] = *level;
-    text.remove_prefix(std::min(end + 1, text.size()));
-  }
-  return rgb(levels[0], levels[1], levels[2]);
+  constexpr std::size_t kLevels = 3;
+  const auto levels = wholeNumbers(text, kLevels);
+  if (!levels || std::ranges::any_of(*levels, [](int level) { return level < 0 || level > kHighestLevel; }))
+    return std::nullopt;
+  return rgb(levels->at(0), levels->at(1), levels->at(2));
 }
 
 std::string textOfLevels(Color levels) {
-  return std::to_string(redOf(levels)) + kComma + std::to_string(greenOf(levels)) + kComma +
-         std::to_string(blueOf(levels));
+  return std::to_string(redOf(levels)) + "," + std::to_string(greenOf(levels)) + "," + std::to_string(blueOf(levels));
 }
 
 // What the kinds of settings differ in. Functions that take a text or a value do not check its range.
@@ -144,9 +164,16 @@ constexpr Kind kFlag{.hasList = false,
                      .allowed = [](const Setting&) { return std::string("no value"); },
                      .parse = [](const Setting&, std::string_view) { return std::optional<int>(); },
                      .write = [](const Setting&, int value) { return std::to_string(value); }};
+constexpr Kind kPoint{.hasList = false,
+                      .lowest = [](const Setting&) { return std::numeric_limits<int>::min(); },
+                      .highest = [](const Setting&) { return std::numeric_limits<int>::max(); },
+                      .placeholder = [](const Setting&) { return std::string("X,Y"); },
+                      .allowed = [](const Setting&) { return std::string("two whole numbers, X,Y"); },
+                      .parse = [](const Setting&, std::string_view text) { return point(text); },
+                      .write = [](const Setting&, int value) { return textOfPoint(value); }};
 
 // In the order of SettingKind.
-constexpr const Kind* kKinds[] = {&kNumber, &kTenths, &kWord, &kRgb, &kLevelsKind, &kFlag};
+constexpr const Kind* kKinds[] = {&kNumber, &kTenths, &kWord, &kRgb, &kLevelsKind, &kFlag, &kPoint};
 
 const Kind& kindOf(const Setting& setting) { return *kKinds[static_cast<std::size_t>(setting.kind)]; }
 
@@ -183,6 +210,7 @@ int firstChoice(const Setting& setting) {
 }
 
 int valueOfChoice(const Setting& setting, int choice, Color currentColor) {
+  if (setting.kind == SettingKind::Point) return setting.first;
   if (setting.kind == SettingKind::Rgb) return choice == 0 ? setting.first : currentColor;
   return listValue(setting, choice);
 }

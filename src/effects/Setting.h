@@ -18,7 +18,8 @@ enum class SettingKind {
   Word,    // one of `words`, stored as its index; a list on the panel
   Rgb,     // a Colour; a tick box on the panel that selects the current colour instead of `first`
   Levels,  // a number from 0 to 255 for each channel, stored as a Colour; three lists and a slider on the panel
-  Flag     // 0 or 1; an option without a value, a tick box on the panel
+  Flag,    // 0 or 1; an option without a value, a tick box on the panel
+  Point    // see pointValue; a sample to click on, on a panel with its own class
 };
 
 struct Setting {
@@ -61,6 +62,8 @@ std::string allowedValues(const Setting& setting);
 std::optional<int> valueOfText(const Setting& setting, std::string_view text);
 // The text that describes a value.
 std::string textOfValue(const Setting& setting, int value);
+// Whether the setting has a meaning with this value of the effect's first setting.
+bool goesWith(const Setting& setting, int value);
 // The setting's first values, in their order.
 EffectValues firstValues(std::span<const Setting> settings);
 

@@ -13,6 +13,11 @@ struct Example {
   Rows before, after;
 };
 
+const Rows kWhiteDisc{"................", "................", "......wwwww.....", "....wwwwwwwww...",
+                      "...wwwwwwwwwww..", "...wwwwwwwwwww..", "..wwwwwwwwwwwww.", "..wwwwwwwwwwwww.",
+                      "..wwwwwwwwwwwww.", "..wwwwwwwwwwwww.", "..wwwwwwwwwwwww.", "...wwwwwwwwwww..",
+                      "...wwwwwwwwwww..", "....wwwwwwwww...", "......wwwww.....", "................"};
+
 const Example kExamples[] = {
     {"embossed", {}, {"...", ".o.", "..^"}, {"w..", ".o.", "..g"}},
     {"engraved", {}, {"...", ".o.", "..^"}, {"g..", ".o.", "..w"}},
@@ -31,6 +36,8 @@ const Example kExamples[] = {
     {"invert", {}, {"o.", "^o"}, {"2.", "^2"}},
     {"swap", {0}, {"o.", "^o"}, {"3.", "^3"}},
     {"disabled", {}, {"...", "po.", "..^"}, {"...", ".g.", "..w"}},
+    {"gradient", {0, kWhite, kWhite, 0, kMiddlePoint}, {"...", ".o.", "..^"}, {"www", "wow", "www"}},
+    {"sphere", {kWhite, pointValue(16, 16), 2, 0}, flatRows(16, 16, 'o'), kWhiteDisc},
 };
 
 TEST(EffectExamples, EachExampleIsExact) {

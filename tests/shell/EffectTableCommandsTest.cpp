@@ -66,7 +66,7 @@ TEST_F(EffectTableCommandsTest, TheEntriesOfTheMenuAreInTheOrderOfTheirIndices) 
 
 TEST_F(EffectTableCommandsTest, SampleResultAndUndoFollowTheFunctionForEveryChoiceOfEverySetting) {
   start();
-  for (const EffectRow* effect : panelEffects())
+  for (const EffectRow* effect : effectsOfGeneratedPanels())
     for (const int size : kIconSides)
       for (const IconImage& icon : generatedIcons(size)) {
         startWith(icon);
@@ -86,7 +86,7 @@ TEST_F(EffectTableCommandsTest, SampleResultAndUndoFollowTheFunctionForEveryChoi
 
 TEST_F(EffectTableCommandsTest, CloseChangesNothing) {
   start();
-  for (const EffectRow* effect : panelEffects())
+  for (const EffectRow* effect : effectsOfGeneratedPanels())
     for (const IconImage& icon : generatedIcons(24)) {
       startWith(icon);
       const bool wasModified = state.current().modified;

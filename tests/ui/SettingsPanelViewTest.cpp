@@ -38,7 +38,7 @@ QString accessibleName(QWidget* widget) {
 
 TEST_F(EffectTablePanelsTest, EachEffectOpensByItsEntryWithItsControlsAndItsSample) {
   startWithPicture();
-  for (const EffectRow* effect : test::panelEffects()) {
+  for (const EffectRow* effect : test::effectsOfGeneratedPanels()) {
     SCOPED_TRACE(effect->name);
     EXPECT_EQ(entryOf(*effect)->text(), effect->menu.caption);
     EXPECT_EQ(entryOf(*effect)->shortcut(), QKeySequence(effect->menu.key));
@@ -53,7 +53,7 @@ TEST_F(EffectTablePanelsTest, EachEffectOpensByItsEntryWithItsControlsAndItsSamp
     if (*effect->panel.sampleLabel) {
       EXPECT_EQ(panel->findChild<QLabel*>(effect->panel.sampleLabel)->text(), effect->title);
     }
-    for (const EffectRow* other : test::panelEffects())
+    for (const EffectRow* other : test::effectsOfGeneratedPanels())
       for (const Setting& setting : other->settings) {
         if (other->panel.number != effect->panel.number) continue;
         const QString suffix = setting.kind == SettingKind::Levels ? "(0)" : "";
@@ -71,7 +71,7 @@ TEST_F(EffectTablePanelsTest, EachEffectOpensByItsEntryWithItsControlsAndItsSamp
 
 TEST_F(EffectTablePanelsTest, ReturnAppliesTheEffectThatTheSampleShows) {
   startWithPicture();
-  for (const EffectRow* effect : test::panelEffects()) {
+  for (const EffectRow* effect : test::effectsOfGeneratedPanels()) {
     entryOf(*effect)->trigger();
     settle();
     SettingsPanel* side = shell.effects().settingsPanel(effect->panel.number);
