@@ -159,6 +159,8 @@ TEST_F(SphereGradientPanelsTest, TheFourGradientsAreSideBySideWithNames) {
   EXPECT_EQ(nameOf(find("cmdGradientColor(0)")), "Click for first color");
   EXPECT_EQ(nameOf(find("cmdGradientColor(1)")), "Click for second color");
   EXPECT_EQ(nameOf(find("cmdGradientColor(2)")), "Swap 1st & 2nd colors");
+  EXPECT_EQ(find("cboGradientAngle(0)")->accessibleName(), "Linear angle");
+  EXPECT_EQ(find("cboGradientAngle(1)")->accessibleName(), "Symmetric angle");
   EXPECT_EQ(find<QComboBox>("cboGradientAngle(0)")->count(), 361);
   EXPECT_EQ(find<QComboBox>("cboGradientAngle(1)")->count(), 361);
 }
