@@ -94,7 +94,9 @@ TEST_F(SphereGradientPanelsTest, TheLightMovesByMouse) {
 TEST_F(SphereGradientPanelsTest, TheLightMovesByArrowKeysAndEnterAndThePointIsSpoken) {
   startWith(32, kSphereEntry);
   QWidget* sample = find("PicSphere(0)");
-  EXPECT_EQ(QApplication::focusWidget(), sample);
+  EXPECT_EQ(QApplication::focusWidget(), find("cboSphere(1)"));
+  for (int i = 0; i < 3; ++i) key(Qt::Key_Tab);
+  EXPECT_EQ(QApplication::focusWidget(), sample) << "size, factor, color, light";
   EXPECT_EQ(spoken(sample), "11, 11");
   for (int i = 0; i < 3; ++i) key(Qt::Key_Right);
   key(Qt::Key_Down);
