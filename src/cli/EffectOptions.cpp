@@ -87,15 +87,11 @@ bool hasRequired(const EffectRow& effect, const GivenOptions& options) {
   return false;
 }
 
-// False, after a complaint, when a given option has no meaning with the value of the first one.
-bool areTogether(const EffectRow& effect, const GivenOptions& options, const EffectValues& values) {
+// False, after a complaint, when a given option has no part in the result.
+bool allApply(const EffectRow& effect, const EffectValues& values, const GivenOptions& options) {
   for (const Setting& setting : effect.settings) {
-    if (!options.contains(setting.option) || goesWith(setting, values.number(0))) continue;
-    const Setting& first = effect.settings.front();
-    std::vector<std::string> words;
-    for (const int value : setting.onlyWith) words.push_back(textOfValue(first, value));
-    badUsage("effect: --" + std::string(setting.option) + " goes with --" + first.option + " " + listed(words) +
-             " only");
+    if (!setting.applies || setting.applies(values) || !options.contains(setting.option)) continue;
+    badUsage("effect: --" + std::string(setting.option) + " goes with " + setting.goesWith + " only");
     return false;
   }
   return true;
@@ -145,7 +141,7 @@ std::optional<EffectValues> valuesOf(const EffectRow& effect, const GivenOptions
     }
     values.append(*value);
   }
-  if (!hasRequired(effect, options) || !areTogether(effect, options, values)) return std::nullopt;
+  if (!hasRequired(effect, options) || !allApply(effect, values, options)) return std::nullopt;
   return values;
 }
 

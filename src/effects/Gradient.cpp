@@ -19,8 +19,14 @@ constexpr int kReserve = 2;
 constexpr double kSymmetricStretch = 1.3;
 
 constexpr const char* kKindWords[kGradientKinds] = {"linear", "symmetric", "square", "spherical"};
-constexpr int kStraightKinds[] = {static_cast<int>(GradientKind::Linear), static_cast<int>(GradientKind::Symmetric)};
-constexpr int kSphericalKind[] = {static_cast<int>(GradientKind::Spherical)};
+GradientKind kindOf(const EffectValues& values) {
+  return static_cast<GradientKind>(values.number(indexOf(GradientSetting::Kind)));
+}
+bool isStraight(const EffectValues& values) {
+  return kindOf(values) == GradientKind::Linear || kindOf(values) == GradientKind::Symmetric;
+}
+bool isSpherical(const EffectValues& values) { return kindOf(values) == GradientKind::Spherical; }
+
 constexpr int kWholeTurn = 360;
 
 constexpr Setting kSettings[] = {{.option = "kind",
@@ -49,14 +55,16 @@ constexpr Setting kSettings[] = {{.option = "kind",
                                   .control = "cboGradientAngle(0)",
                                   .label = "Angle",
                                   .help = "counter-clockwise, with linear and symmetric only",
-                                  .onlyWith = kStraightKinds},
+                                  .applies = isStraight,
+                                  .goesWith = "--kind linear and symmetric"},
                                  {.option = "center",
                                   .kind = SettingKind::Point,
                                   .first = kMiddlePoint,
                                   .control = "PicGradient(3)",
                                   .label = "Click to change center point",
                                   .help = "the pixel of the first color, with spherical only",
-                                  .onlyWith = kSphericalKind}};
+                                  .applies = isSpherical,
+                                  .goesWith = "--kind spherical"}};
 
 void drawRow(Surface& picture, int y, Color color) {
   std::uint32_t* pixels = picture.rowForWriting(y, 0, picture.width());
@@ -143,7 +151,7 @@ void drawSphericalGradient(Surface& target, int x, int y, Color colorA, Color co
 
 Surface gradientPicture(int width, int height, const EffectValues& values) {
   Surface picture(width, height);
-  const auto kind = static_cast<GradientKind>(values.number(indexOf(GradientSetting::Kind)));
+  const GradientKind kind = kindOf(values);
   const Color from = values.color(indexOf(GradientSetting::From)), to = values.color(indexOf(GradientSetting::To));
   if (kind == GradientKind::Square) {
     drawSquareGradient(picture, from, to);

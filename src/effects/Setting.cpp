@@ -190,10 +190,6 @@ std::optional<int> valueOfText(const Setting& setting, std::string_view text) {
 
 std::string textOfValue(const Setting& setting, int value) { return kindOf(setting).write(setting, value); }
 
-bool goesWith(const Setting& setting, int value) {
-  return setting.onlyWith.empty() || std::ranges::find(setting.onlyWith, value) != setting.onlyWith.end();
-}
-
 EffectValues firstValues(std::span<const Setting> settings) {
   EffectValues values;
   for (const Setting& setting : settings) values.append(setting.first);

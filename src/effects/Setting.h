@@ -32,8 +32,10 @@ struct Setting {
   const char* label = "";                   // caption of the control, with access letter
   const char* help = "";                    // what the values mean, for the help of gpicon
   bool isRequired = false;                  // gpicon must be given the option
-  // The values of the effect's first setting with which this one has a meaning; empty for all.
-  std::span<const int> onlyWith = {};
+  // Returns whether the setting has a part in the result with these values; null when it always has. Otherwise gpicon
+  // refuses the option, naming what it goes with: "--kind spherical".
+  bool (*applies)(const EffectValues& values) = nullptr;
+  const char* goesWith = "";
 };
 
 // The lowest and highest value that the setting allows.
@@ -58,8 +60,6 @@ std::string allowedValues(const Setting& setting);
 std::optional<int> valueOfText(const Setting& setting, std::string_view text);
 // The text that describes a value.
 std::string textOfValue(const Setting& setting, int value);
-// Whether the setting has a meaning with this value of the effect's first setting.
-bool goesWith(const Setting& setting, int value);
 // The setting's first values, in their order.
 EffectValues firstValues(std::span<const Setting> settings);
 

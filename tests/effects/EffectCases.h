@@ -42,8 +42,13 @@ inline std::vector<int> valuesToTry(const Setting& setting) {
 // The effect's first values with one setting changed, and the first setting so that the changed one has a meaning.
 inline EffectValues valuesWith(const EffectRow& effect, std::size_t setting, int value) {
   EffectValues values = firstValues(effect.settings);
-  if (!effect.settings[setting].onlyWith.empty()) values.set(0, effect.settings[setting].onlyWith.front());
   values.set(setting, value);
+  const auto applies = effect.settings[setting].applies;
+  if (!applies || applies(values)) return values;
+  for (const int first : valuesToTry(effect.settings[0])) {
+    values.set(0, first);
+    if (applies(values)) break;
+  }
   return values;
 }
 
@@ -62,7 +67,7 @@ inline std::vector<std::string> optionsFor(const EffectRow& effect, const Effect
     const Setting& setting = effect.settings[i];
     const bool isFlag = setting.kind == SettingKind::Flag;
     if (isFlag && !values.flag(i)) continue;
-    if (values.number(i) == kMiddlePoint || !goesWith(setting, values.number(0))) continue;
+    if (values.number(i) == kMiddlePoint || (setting.applies && !setting.applies(values))) continue;
     words.push_back("--" + std::string(setting.option));
     if (!isFlag) words.push_back(textOfValue(setting, values.number(i)));
   }

@@ -128,14 +128,5 @@ TEST(Setting, APointIsTwoNumbersOrTheMiddle) {
   }
 }
 
-TEST(Setting, SomeHaveAMeaningWithSomeKindsOnly) {
-  constexpr int kKinds[] = {1, 3};
-  const Setting limited{.option = "angle", .onlyWith = kKinds}, free{.option = "from"};
-  for (const int value : {0, 1, 2, 3}) {
-    EXPECT_EQ(goesWith(limited, value), value == 1 || value == 3);
-    EXPECT_TRUE(goesWith(free, value));
-  }
-}
-
 }  // namespace
 }  // namespace gp::test
