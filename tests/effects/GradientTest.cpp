@@ -104,6 +104,14 @@ TEST(Gradient, OnlyAnIconThatIsPaintedEverywhereIsRefused) {
   EXPECT_EQ(refusal({"oo", "o."}), "");
 }
 
+TEST(Gradient, TheAngleIsForStraightKindsAndTheCenterForTheSphericalOne) {
+  const std::span<const Setting> settings = findEffect("gradient")->settings;
+  for (int kind = 0; kind < kGradientKinds; ++kind) {
+    EXPECT_EQ(settings[3].applies(values(kind)), kind == kLinear || kind == kSymmetric);
+    EXPECT_EQ(settings[4].applies(values(kind)), kind == kSpherical);
+  }
+}
+
 TEST(Gradient, ACenterOutsideTheIconIsRefused) {
   const EffectRow& effect = *findEffect("gradient");
   const auto refusal = [&effect](int x, int y) {

@@ -94,7 +94,9 @@ TEST_F(SphereGradientPanelsTest, TheLightMovesByMouse) {
 TEST_F(SphereGradientPanelsTest, TheLightMovesByArrowKeysAndEnterAndThePointIsSpoken) {
   startWith(32, kSphereEntry);
   QWidget* sample = find("PicSphere(0)");
-  EXPECT_EQ(QApplication::focusWidget(), sample);
+  EXPECT_EQ(QApplication::focusWidget(), find("cboSphere(1)"));
+  for (int i = 0; i < 3; ++i) key(Qt::Key_Tab);
+  EXPECT_EQ(QApplication::focusWidget(), sample) << "size, factor, color, light";
   EXPECT_EQ(spoken(sample), "11, 11");
   for (int i = 0; i < 3; ++i) key(Qt::Key_Right);
   key(Qt::Key_Down);
@@ -159,6 +161,8 @@ TEST_F(SphereGradientPanelsTest, TheFourGradientsAreSideBySideWithNames) {
   EXPECT_EQ(nameOf(find("cmdGradientColor(0)")), "Click for first color");
   EXPECT_EQ(nameOf(find("cmdGradientColor(1)")), "Click for second color");
   EXPECT_EQ(nameOf(find("cmdGradientColor(2)")), "Swap 1st & 2nd colors");
+  EXPECT_EQ(find("cboGradientAngle(0)")->accessibleName(), "Linear angle");
+  EXPECT_EQ(find("cboGradientAngle(1)")->accessibleName(), "Symmetric angle");
   EXPECT_EQ(find<QComboBox>("cboGradientAngle(0)")->count(), 361);
   EXPECT_EQ(find<QComboBox>("cboGradientAngle(1)")->count(), 361);
 }

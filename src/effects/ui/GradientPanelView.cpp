@@ -63,7 +63,8 @@ void GradientPanelView::addKinds() {
 
 void GradientPanelView::addAngle(QGridLayout* grid, int kind) {
   const QString name = QString("%1 angle").arg(kLooks.at(static_cast<std::size_t>(kind)).name);
-  QComboBox* list = makeList(grid->parentWidget(), QString("cboGradientAngle(%1)").arg(kind), name);
+  // Its name says more than the label beside it.
+  QComboBox* list = makeUnlabelledList(grid->parentWidget(), QString("cboGradientAngle(%1)").arg(kind), name);
   auto* label = new QLabel("Angle:", grid->parentWidget());
   label->setObjectName(QString("lblGradientAngle(%1)").arg(kind));
   connect(list, &QComboBox::activated, this, [this, kind](int index) { panel_.pickAngle(kind, index); });

@@ -19,14 +19,14 @@ constexpr QPoint kFirstLight(11, 11);
 SpherePanelView::SpherePanelView(QWidget* parent, SpherePanel& panel)
     : EffectPanelView(parent, panel),
       panel_(panel),
-      color_(new ColorButton(rows(), "cmdSphereColor", "Click to select sphere color", panel.color())),
-      factor_(makeList(rows(), "cboSphere(0)", "Color adj factor")),
       size_(makeList(rows(), "cboSphere(1)", "Size")),
+      factor_(makeList(rows(), "cboSphere(0)", "Color adj factor")),
+      color_(new ColorButton(rows(), "cmdSphereColor", "Click to select sphere color", panel.color())),
       sample_(new PointSampleView(rows(), "PicSphere(0)", "Click to set the light", panel.PicSphere(), kLeastSample,
                                   SampleRoom::Grows)) {
-  addRow("lblSphereColor", "Col&or:", color_);
-  addRow("lblSphere(0)", "Color ad&j factor:", factor_);
   addRow("lblSphere(1)", "Si&ze:", size_);
+  addRow("lblSphere(0)", "Color ad&j factor:", factor_);
+  addRow("lblSphereColor", "Col&or:", color_);
   addRow("lblSphere(2)", "&Light: click on the sphere")->setBuddy(sample_);
   addTall(sample_);
   addButtons();
@@ -35,7 +35,7 @@ SpherePanelView::SpherePanelView(QWidget* parent, SpherePanel& panel)
   connect(factor_, &QComboBox::activated, this, [this](int index) { panel_.pickFactor(index); });
   connect(size_, &QComboBox::activated, this, [this](int index) { panel_.pickSize(index); });
   connect(sample_, &PointSampleView::picked, this, [this](int x, int y) { panel_.clickSample(x, y); });
-  setFirstControl(sample_);
+  setFirstControl(size_);
   refresh();
 }
 

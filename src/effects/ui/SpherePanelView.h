@@ -22,9 +22,10 @@ class SpherePanelView final : public EffectPanelView {
 
  private:
   SpherePanel& panel_;
-  ColorButton* color_;
-  QComboBox* factor_;
+  // In the order of the Tab key.
   QComboBox* size_;
+  QComboBox* factor_;
+  ColorButton* color_;
   PointSampleView* sample_;
 };
 
