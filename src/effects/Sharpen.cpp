@@ -78,7 +78,7 @@ constexpr Setting kChoices[] = {{.to = static_cast<int>(Filter::SoftenStrong),
                                  .first = static_cast<int>(Filter::Original),
                                  .control = "cboSharpenSoften",
                                  .label = "&Sharpen or soften:"}};
-constexpr Setting kStrength[] = {{.option = "strong", .kind = SettingKind::Flag, .help = "more of it"}};
+constexpr Setting kStrength[] = {{.option = "strong", .kind = SettingKind::Flag, .help = "stronger"}};
 
 }  // namespace
 
