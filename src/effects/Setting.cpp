@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <iterator>
 #include <limits>
-#include <ranges>
 #include <vector>
 
 namespace gp {
@@ -35,8 +34,9 @@ std::optional<int> tenths(std::string_view text) {
 // "12,-3": that many whole numbers with commas between them.
 std::optional<std::vector<int>> wholeNumbers(std::string_view text, std::size_t count) {
   std::vector<int> numbers;
-  for (const auto part : std::views::split(text, ',')) {
-    const std::optional<int> number = wholeNumber({part.begin(), part.end()});
+  for (std::size_t start = 0, end = 0; end < text.size(); start = end + 1) {
+    end = std::min(text.find(',', start), text.size());
+    const std::optional<int> number = wholeNumber(text.substr(start, end - start));
     if (!number) return std::nullopt;
     numbers.push_back(*number);
   }
