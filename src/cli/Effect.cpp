@@ -8,6 +8,10 @@ namespace {
 int makeEffect(const EffectRow& effect, const EffectValues& values, const ImageArguments& arguments) {
   const auto loaded = loadImageForEffect(arguments);
   if (!loaded) return kRefused;
+  if (const Refusal refusal = refusalOf(effect, loaded->icon, values); refusal.text) {
+    complain(arguments.input, refusal.text);
+    return kRefused;
+  }
   return writeIcon(effect.apply(loaded->icon, values), loaded->record, arguments.output);
 }
 

@@ -13,7 +13,7 @@ bool takesValue(const Setting& setting) { return setting.kind != SettingKind::Fl
 // All options, each once, in alphabetical order.
 std::map<std::string, const Setting*> allOptions() {
   std::map<std::string, const Setting*> options;
-  for (const EffectRow* effect : effectTable())
+  for (const EffectRow* effect : commandLineEffects())
     for (const Setting& setting : effect->settings) options.emplace(setting.option, &setting);
   return options;
 }
@@ -34,7 +34,7 @@ bool hasOption(const EffectRow& effect, std::string_view name) {
 
 std::string effectsWith(std::string_view option) {
   std::vector<std::string> names;
-  for (const EffectRow* effect : effectTable())
+  for (const EffectRow* effect : commandLineEffects())
     if (hasOption(*effect, option)) names.emplace_back(effect->name);
   return listed(names);
 }
@@ -59,6 +59,31 @@ bool takeSetting(const Setting& setting, Arguments& arguments, GivenOptions& giv
   return true;
 }
 
+// False, after a complaint, when an option that the effect needs is not given.
+bool hasRequired(const EffectRow& effect, const GivenOptions& options) {
+  std::vector<std::string> names;
+  bool areGiven = !effect.needsOption || !options.empty();
+  for (const Setting& setting : effect.settings) {
+    if (!setting.isRequired) continue;
+    names.push_back("--" + std::string(setting.option));
+    areGiven = areGiven && options.contains(setting.option);
+  }
+  if (areGiven) return true;
+  const std::string needed = effect.needsOption ? "at least one of its options" : listed(names);
+  badUsage("effect: " + std::string(effect.name) + " needs " + needed);
+  return false;
+}
+
+// False, after a complaint, when a given option has no part in the result.
+bool allApply(const EffectRow& effect, const EffectValues& values, const GivenOptions& options) {
+  for (const Setting& setting : effect.settings) {
+    if (!setting.applies || setting.applies(values) || !options.contains(setting.option)) continue;
+    badUsage("effect: --" + std::string(setting.option) + " goes with " + setting.goesWith + " only");
+    return false;
+  }
+  return true;
+}
+
 std::optional<int> valueOf(const Setting& setting, const GivenOptions& options) {
   const auto given = options.find(setting.option);
   if (given == options.end()) return setting.first;
@@ -73,7 +98,8 @@ std::string optionText(const Setting& setting) {
 std::string helpOf(const Setting& setting) {
   std::string text = optionText(setting) + "  " + setting.help;
   if (!takesValue(setting)) return text;
-  return text + " (" + allowedValues(setting) + ", without it " + textOfValue(setting, setting.first) + ")";
+  text += " (" + allowedValues(setting);
+  return text + (setting.isRequired ? ")" : ", without it " + textOfValue(setting, setting.first) + ")");
 }
 
 std::string column(std::string text) {
@@ -99,6 +125,7 @@ std::optional<EffectValues> valuesOf(const EffectRow& effect, const GivenOptions
     badUsage("effect: --" + name + " goes with " + effectsWith(name) + " only");
     return std::nullopt;
   }
+  if (!hasRequired(effect, options)) return std::nullopt;
   EffectValues values;
   for (const Setting& setting : effect.settings) {
     const std::optional<int> value = valueOf(setting, options);
@@ -108,6 +135,7 @@ std::optional<EffectValues> valuesOf(const EffectRow& effect, const GivenOptions
     }
     values.append(*value);
   }
+  if (!allApply(effect, values, options)) return std::nullopt;
   return values;
 }
 
@@ -119,8 +147,7 @@ std::string effectUsage() {
 
 std::string effectHelp() {
   std::string help;
-  for (const EffectRow* effect : effectTable()) {
-    if (!effect->apply) continue;
+  for (const EffectRow* effect : commandLineEffects()) {
     help += "\n" + column(effect->name) + effect->help;
     for (const Setting& setting : effect->settings) help += "\n" + column("") + helpOf(setting);
   }

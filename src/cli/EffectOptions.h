@@ -18,7 +18,8 @@ using GivenOptions = std::map<std::string, std::string, std::less<>>;
 std::optional<GivenOptions> takeEffectOptions(Arguments& arguments);
 
 // The values of the effect's settings: those that are given, otherwise the first ones. Nothing, after a complaint, for
-// an option that the effect does not have and for a value that is not allowed.
+// an option that the effect does not have, one that it needs and that is not given, one that has no part in the result,
+// and a value that is not allowed.
 std::optional<EffectValues> valuesOf(const EffectRow& effect, const GivenOptions& options);
 
 // " [--color RRGGBB] [--style N]": all options, as the usage of the subcommand lists them.

@@ -6,6 +6,7 @@
 #include "document/Hourglass.h"
 #include "document/Messages.h"
 #include "document/PanelNumbers.h"
+#include "effects/EffectTable.h"
 #include "effects/EffectTexts.h"
 #include "platform/gdi/SurfaceOps.h"
 #include "platform/ports/MessageBoxes.h"
@@ -29,6 +30,15 @@ bool EffectFrame::mayApply() {
   if (record.hasAlpha) context_.boxes.tell(kIconIsWithAlpha);
   return !record.hasAlpha;
 }
+
+bool EffectFrame::mayApply(const EffectRow& effect, const EffectValues& values) {
+  if (!mayApply()) return false;
+  const Refusal refusal = refusalOf(effect, currentIcon(), values);
+  if (refusal.text) tell(refusal);
+  return !refusal.text;
+}
+
+void EffectFrame::tell(const Refusal& refusal) { context_.boxes.tell(refusal.text, refusal.icon); }
 
 bool EffectFrame::hasIcon() const { return state_.current().present; }
 

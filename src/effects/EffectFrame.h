@@ -7,8 +7,11 @@
 
 namespace gp {
 
+class EffectValues;
 class UndoHistory;
 struct Document;
+struct EffectRow;
+struct Refusal;
 
 class EffectFrame {
  public:
@@ -17,6 +20,10 @@ class EffectFrame {
   // Whether the Current Icon takes an effect. If not, shows the reason: there is no icon, or it has alpha values, which
   // would no longer fit its pixels.
   bool mayApply();
+  // The same for one effect, which may refuse icons or values for a reason that it names.
+  bool mayApply(const EffectRow& effect, const EffectValues& values);
+  // Shows the reason of a refusal.
+  void tell(const Refusal& refusal);
   // Whether fraPanel(panel) is visible.
   bool isUp(int panel) const;
   // Whether there is a Current Icon.

@@ -27,6 +27,7 @@ void EffectPanel::preview() {
     const Hourglass hourglass(frame_.context());
     picture_ = frame_.hasIcon() ? apply(frame_.currentIcon()) : IconImage{};
     sample_ = composedIcon(picture_.image, picture_.mask);
+    drawSamples();
   }
   frame_.context().display.changed(DisplayPart::SidePanel);
 }

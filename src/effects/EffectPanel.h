@@ -34,6 +34,8 @@ class EffectPanel {
  protected:
   // Returns the icon with the effect.
   virtual IconImage apply(const IconImage& icon) const = 0;
+  // Draws the samples that a panel has besides `sample`.
+  virtual void drawSamples() {}
   // Whether the Current Icon takes the effect; if not, shows the reason.
   virtual bool mayProceed() { return frame_.mayApply(); }
   // Whether Proceed is a step of Undo. If not, earlier steps cannot be undone either.

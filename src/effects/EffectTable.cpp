@@ -7,22 +7,14 @@ namespace gp {
 
 // Each is defined beside its function.
 extern const EffectRow kButtonize, kEmbossed, kEngraved, kRaised, kShadowed, kDisabledImage;
+extern const EffectRow kSphere, kGradient;
+extern const EffectRow kBrightness, kSharpenSoften, kColorTheme, kAntialias, kCast, kGrayscale, kInvert, kSwapElements;
+extern const EffectRow kSharpen, kSoften, kSwap;
 
 namespace {
 
 // Not part of the program yet: a menu entry that is disabled.
 constexpr EffectRow kText{.menu = {0, "&Text ....", "Ctrl+F2", "text"}, .panel = {5}};
-constexpr EffectRow kSphere{.menu = {2, "Auto-Draw &Sphere ....", "Ctrl+F3", "sphere"}, .panel = {6}};
-constexpr EffectRow kGradient{.menu = {4, "Gradient &Unpainted Area ....", "Ctrl+F5", "gradient"}, .panel = {8}};
-constexpr EffectRow kBrightness{.menu = {6, "&Adjust Brightness Of Colors ....", "Ctrl+F6", "brightness"},
-                                .panel = {9}};
-constexpr EffectRow kSharpen{.menu = {7, "Shar&pen / Soften Image ....", "Ctrl+F7", ""}, .panel = {10}};
-constexpr EffectRow kAntialias{.menu = {8, "A&ntialias ....", "Ctrl+F8", ""}, .panel = {11}};
-constexpr EffectRow kColorTheme{.menu = {9, "Set Color The&me ....", "Ctrl+F9", ""}, .panel = {12}};
-constexpr EffectRow kCast{.menu = {16, "&Cast ....", "", ""}};
-constexpr EffectRow kGrayscale{.menu = {17, "&Grayscale ....", "", ""}};
-constexpr EffectRow kInvert{.menu = {18, "&Invert / Negative ....", "", ""}};
-constexpr EffectRow kSwapElements{.menu = {20, "Swap Elements Of Pi&xels ....", "", ""}, .panel = {14}};
 constexpr EffectRow kBlend{.menu = {23, "Bl&end In Another Icon ....", "", ""}, .panel = {16}};
 constexpr EffectRow kTexture{.menu = {24, "Texturi&ze Painted Surface ....", "", ""}, .panel = {17}};
 
@@ -33,7 +25,7 @@ constexpr const EffectRow* kEffects[] = {
     &kButtonize,      // 3
     &kGradient,       // 4
     &kBrightness,     // 6
-    &kSharpen,        // 7
+    &kSharpenSoften,  // 7
     &kAntialias,      // 8
     &kColorTheme,     // 9
     &kEmbossed,       // 11
@@ -49,23 +41,33 @@ constexpr const EffectRow* kEffects[] = {
     &kTexture,        // 24
 };
 
-template <class Matches>
-const EffectRow* findBuilt(Matches matches) {
-  const auto* found =
-      std::ranges::find_if(kEffects, [&](const EffectRow* effect) { return effect->apply && matches(*effect); });
-  return found == std::end(kEffects) ? nullptr : *found;
+// Effects of gpicon only, whose side panel has another row.
+constexpr const EffectRow* kWithoutPanel[] = {&kSharpen, &kSoften, &kSwap};
+
+const EffectRow* firstOf(auto&& effects, auto matches) {
+  const auto found = std::ranges::find_if(effects, [&](const EffectRow* effect) { return matches(*effect); });
+  return found == std::end(effects) ? nullptr : *found;
 }
 
 }  // namespace
 
 std::span<const EffectRow* const> effectTable() { return kEffects; }
 
+std::vector<const EffectRow*> commandLineEffects() {
+  std::vector<const EffectRow*> effects;
+  std::ranges::copy_if(kEffects, std::back_inserter(effects),
+                       [](const EffectRow* effect) { return effect->apply && *effect->name; });
+  std::ranges::copy(kWithoutPanel, std::back_inserter(effects));
+  return effects;
+}
+
 const EffectRow* findEffect(std::string_view name) {
-  return findBuilt([name](const EffectRow& effect) { return effect.name == name; });
+  return firstOf(commandLineEffects(), [name](const EffectRow& effect) { return effect.name == name; });
 }
 
 const EffectRow* findEffect(int menuIndex) {
-  return findBuilt([menuIndex](const EffectRow& effect) { return effect.menu.index == menuIndex; });
+  return firstOf(kEffects,
+                 [menuIndex](const EffectRow& effect) { return effect.apply && effect.menu.index == menuIndex; });
 }
 
 }  // namespace gp

@@ -5,17 +5,19 @@
 #include "document/IconImage.h"
 #include "effects/EffectValues.h"
 #include "effects/Setting.h"
+#include "platform/ports/MessageBoxes.h"
 
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace gp {
 
 struct EffectMenuEntry {
-  int index;            // of mnuEffectsSub
-  const char* caption;  // with "&"
-  const char* key;      // "Ctrl+F4", empty for none
-  const char* picture;  // name of the entry's picture, empty for none
+  int index = -1;            // of mnuEffectsSub; -1 for none
+  const char* caption = "";  // with "&"
+  const char* key = "";      // "Ctrl+F4", empty for none
+  const char* picture = "";  // name of the entry's picture, empty for none
 };
 
 // The side panel of an effect. Several effects may share one, which then shows the settings of one of them at a time.
@@ -23,6 +25,8 @@ struct EffectPanelPlace {
   int number;                    // of fraPanel
   const char* sample = "";       // objectName of the sample
   const char* sampleLabel = "";  // objectName of the label that shows the title; empty for the plain label "Sample"
+  bool isGenerated = true;       // from the settings of its effects; false for a panel with its own class
+  const char* remark = "";       // below the settings
 };
 
 // The side panel of effects that do not name another one.
@@ -31,18 +35,36 @@ inline constexpr EffectPanelPlace kSharedPanel{13, "picEffectsSample", "lblEffec
 // Returns the icon with the effect. `values` are those of the row's settings; the result has the size of `icon`.
 using EffectFunction = IconImage (*)(const IconImage& icon, const EffectValues& values);
 
+// Why an icon does not take an effect; without a text when it takes it.
+struct Refusal {
+  constexpr Refusal(const char* reason = nullptr, BoxIcon boxIcon = BoxIcon::None) : text(reason), icon(boxIcon) {}
+
+  const char* text;
+  BoxIcon icon;  // of the editor's box
+};
+using EffectRefusal = Refusal (*)(const IconImage& icon, const EffectValues& values);
+
 struct EffectRow {
-  const char* name = "";   // of gpicon's effect
+  const char* name = "";   // of gpicon's effect; empty when gpicon has other rows for it
   const char* title = "";  // shown on the side panel
   const char* help = "";   // one line for the help of gpicon
-  EffectMenuEntry menu;
+  EffectMenuEntry menu = {};
   EffectPanelPlace panel = kSharedPanel;
   std::span<const Setting> settings = {};
-  EffectFunction apply = nullptr;  // null for an effect that the program does not have yet
+  EffectFunction apply = nullptr;   // null for an effect that the program does not have yet
+  EffectRefusal refusal = nullptr;  // null for an effect that every icon takes with all values
+  bool needsOption = false;         // gpicon takes the effect only with at least one of its options
 };
 
-// Effects that the program does not have yet are included.
+// Why the icon does not take the effect with these values.
+inline Refusal refusalOf(const EffectRow& effect, const IconImage& icon, const EffectValues& values) {
+  return effect.refusal ? effect.refusal(icon, values) : Refusal();
+}
+
+// The effects of the menu. Effects that the program does not have yet are included.
 std::span<const EffectRow* const> effectTable();
+// The effects of gpicon.
+std::vector<const EffectRow*> commandLineEffects();
 // The effect that gpicon knows by this name, and the one of an index of mnuEffectsSub. Null when there is none or the
 // program does not have it yet.
 const EffectRow* findEffect(std::string_view name);

@@ -4,10 +4,21 @@
 #include "platform/gdi/Surface.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <initializer_list>
+#include <limits>
 #include <vector>
 
 namespace gp {
+
+// A point is one value. Coordinates are in pixels, from -kFarthest to kFarthest.
+inline constexpr int kFarthest = 32767;
+// The middle of the icon, whatever its size; it has no coordinates.
+inline constexpr int kMiddlePoint = std::numeric_limits<int>::min();
+
+constexpr int pointValue(int x, int y) { return y * (1 << 16) + (x & 0xFFFF); }
+constexpr int xOfPoint(int point) { return static_cast<std::int16_t>(point & 0xFFFF); }
+constexpr int yOfPoint(int point) { return point >> 16; }
 
 class EffectValues {
  public:

@@ -1,18 +1,27 @@
 #include "effects/Effects.h"
 
+#include "effects/BrightnessPanel.h"
 #include "effects/ConfinePanel.h"
+#include "effects/GradientPanel.h"
 #include "effects/SettingsPanel.h"
+#include "effects/SpherePanel.h"
+#include "effects/ThemePanel.h"
 
 #include <algorithm>
 
 namespace gp {
 
 // Panels with their own class come first; panels of settings follow from the table of effects.
-Effects::Effects(const Context& context, Document& document, UndoHistory& history)
+Effects::Effects(const Context& context, Document& document, UndoHistory& history, clsGPDialog& dialog)
     : frame_(context, document, history) {
+  panels_.push_back(std::make_unique<BrightnessPanel>(frame_));
+  panels_.push_back(std::make_unique<ThemePanel>(frame_, dialog));
   panels_.push_back(std::make_unique<ConfinePanel>(frame_));
+  panels_.push_back(std::make_unique<SpherePanel>(frame_, dialog));
+  panels_.push_back(std::make_unique<GradientPanel>(frame_, dialog));
   for (const EffectRow* effect : effectTable())
-    if (effect->apply && !find(effect->panel.number)) addSettingsPanel(effect->panel.number);
+    if (effect->apply && effect->panel.isGenerated && !find(effect->panel.number))
+      addSettingsPanel(effect->panel.number);
 }
 
 void Effects::addSettingsPanel(int number) {

@@ -11,10 +11,11 @@
 namespace gp {
 
 class SettingsPanel;
+class clsGPDialog;
 
 class Effects {
  public:
-  Effects(const Context& context, Document& document, UndoHistory& history);
+  Effects(const Context& context, Document& document, UndoHistory& history, clsGPDialog& dialog);
 
   // Opens the panel of the effect at this index of mnuEffectsSub; does nothing when the program has no effect there.
   void open(int menuIndex);

@@ -6,11 +6,14 @@
 #include <charconv>
 #include <cstdlib>
 #include <iterator>
+#include <limits>
+#include <vector>
 
 namespace gp {
 namespace {
 
 constexpr int kTen = 10;
+constexpr int kHighestLevel = 255;
 
 std::optional<int> wholeNumber(std::string_view text) {
   int number = 0;
@@ -26,6 +29,33 @@ std::optional<int> tenths(std::string_view text) {
   if (point == std::string_view::npos) return wholeNumber(text) ? wholeNumber(std::string(text) + "0") : std::nullopt;
   if (point + 2 != text.size()) return std::nullopt;
   return wholeNumber(std::string(text).erase(point, 1));
+}
+
+// "12,-3": that many whole numbers with commas between them.
+std::optional<std::vector<int>> wholeNumbers(std::string_view text, std::size_t count) {
+  std::vector<int> numbers;
+  for (std::size_t start = 0, end = 0; end < text.size(); start = end + 1) {
+    end = std::min(text.find(',', start), text.size());
+    const std::optional<int> number = wholeNumber(text.substr(start, end - start));
+    if (!number) return std::nullopt;
+    numbers.push_back(*number);
+  }
+  if (numbers.size() != count) return std::nullopt;
+  return numbers;
+}
+
+// Coordinates that are too large are limited.
+std::optional<int> point(std::string_view text) {
+  constexpr std::size_t kCoordinates = 2;
+  const auto numbers = wholeNumbers(text, kCoordinates);
+  if (!numbers) return std::nullopt;
+  const auto limited = [&numbers](std::size_t i) { return std::clamp(numbers->at(i), -kFarthest, kFarthest); };
+  return pointValue(limited(0), limited(1));
+}
+
+std::string textOfPoint(int value) {
+  if (value == kMiddlePoint) return "the middle";
+  return std::to_string(xOfPoint(value)) + "," + std::to_string(yOfPoint(value));
 }
 
 std::string textOfTenths(int value) {
@@ -59,6 +89,18 @@ std::string joined(std::span<const char* const> words) {
 
 std::string rangeOf(const Setting& setting) {
   return "a number from " + textOfValue(setting, setting.from) + " to " + textOfValue(setting, setting.to);
+}
+
+std::optional<int> levelsOf(std::string_view text) {
+  constexpr std::size_t kLevels = 3;
+  const auto levels = wholeNumbers(text, kLevels);
+  if (!levels || std::ranges::any_of(*levels, [](int level) { return level < 0 || level > kHighestLevel; }))
+    return std::nullopt;
+  return rgb(levels->at(0), levels->at(1), levels->at(2));
+}
+
+std::string textOfLevels(Color levels) {
+  return std::to_string(redOf(levels)) + "," + std::to_string(greenOf(levels)) + "," + std::to_string(blueOf(levels));
 }
 
 // What the kinds of settings differ in. Functions that take a text or a value do not check its range.
@@ -107,6 +149,14 @@ constexpr Kind kRgb{.hasList = false,
                     .allowed = [](const Setting&) { return std::string("six hexadecimal digits"); },
                     .parse = [](const Setting&, std::string_view text) { return colorOfDigits(text); },
                     .write = [](const Setting&, int value) { return digitsOfColor(value); }};
+constexpr Kind kLevelsKind{
+    .hasList = false,
+    .lowest = zero,
+    .highest = [](const Setting&) { return kWhite; },
+    .placeholder = [](const Setting&) { return std::string("R,G,B"); },
+    .allowed = [](const Setting&) { return std::string("three numbers from 0 to 255 with commas between them"); },
+    .parse = [](const Setting&, std::string_view text) { return levelsOf(text); },
+    .write = [](const Setting&, int value) { return textOfLevels(value); }};
 constexpr Kind kFlag{.hasList = false,
                      .lowest = zero,
                      .highest = [](const Setting&) { return 1; },
@@ -114,9 +164,16 @@ constexpr Kind kFlag{.hasList = false,
                      .allowed = [](const Setting&) { return std::string("no value"); },
                      .parse = [](const Setting&, std::string_view) { return std::optional<int>(); },
                      .write = [](const Setting&, int value) { return std::to_string(value); }};
+constexpr Kind kPoint{.hasList = false,
+                      .lowest = [](const Setting&) { return std::numeric_limits<int>::min(); },
+                      .highest = [](const Setting&) { return std::numeric_limits<int>::max(); },
+                      .placeholder = [](const Setting&) { return std::string("X,Y"); },
+                      .allowed = [](const Setting&) { return std::string("two whole numbers, X,Y"); },
+                      .parse = [](const Setting&, std::string_view text) { return point(text); },
+                      .write = [](const Setting&, int value) { return textOfPoint(value); }};
 
 // In the order of SettingKind.
-constexpr const Kind* kKinds[] = {&kNumber, &kTenths, &kWord, &kRgb, &kFlag};
+constexpr const Kind* kKinds[] = {&kNumber, &kTenths, &kWord, &kRgb, &kLevelsKind, &kFlag, &kPoint};
 
 const Kind& kindOf(const Setting& setting) { return *kKinds[static_cast<std::size_t>(setting.kind)]; }
 
@@ -143,15 +200,17 @@ FilledList listOf(const Setting& setting) {
 
 int choiceCount(const Setting& setting) {
   constexpr int kOffAndOn = 2;
+  if (setting.kind == SettingKind::Levels) return highestValue(setting) + 1;
   return hasList(setting) ? static_cast<int>(listOf(setting).entries.size()) : kOffAndOn;
 }
 
 int firstChoice(const Setting& setting) {
   if (hasList(setting)) return listOf(setting).first;
-  return setting.kind == SettingKind::Flag ? setting.first : 0;
+  return setting.kind == SettingKind::Rgb ? 0 : setting.first;
 }
 
 int valueOfChoice(const Setting& setting, int choice, Color currentColor) {
+  if (setting.kind == SettingKind::Point) return setting.first;
   if (setting.kind == SettingKind::Rgb) return choice == 0 ? setting.first : currentColor;
   return listValue(setting, choice);
 }

@@ -17,26 +17,34 @@ enum class SettingKind {
   Tenths,  // a number with one decimal, stored in tenths; a list on the panel
   Word,    // one of `words`, stored as its index; a list on the panel
   Rgb,     // a Colour; a tick box on the panel that selects the current colour instead of `first`
-  Flag     // 0 or 1; an option without a value, a tick box on the panel
+  Levels,  // a number from 0 to 255 for each channel, stored as a Colour; three lists and a slider on the panel
+  Flag,    // 0 or 1; an option without a value, a tick box on the panel
+  Point    // see pointValue; a sample to click on, on a panel with its own class
 };
 
 struct Setting {
-  const char* option;  // name of gpicon's option, without "--"
+  const char* option = "";  // name of gpicon's option, without "--"; empty for a setting of the panel only
   SettingKind kind = SettingKind::Number;
   int from = 0, to = 0;                     // lowest and highest value of a number or tenths
   int step = 1;                             // from one list entry to the next; below 0 the list starts with `to`
   int first = 0;                            // the value that applies until another one is chosen
   std::span<const char* const> words = {};  // of a Word
-  const char* control = "";                 // objectName of the panel's control: "cboButtonizePattern"
-  const char* label = "";                   // caption of the control, with access letter
-  const char* help = "";                    // what the values mean, for the help of gpicon
+  bool isRequired = false;                  // gpicon requires the option
+  // Returns whether the setting has a part in the result with these values; null when it always has. Otherwise gpicon
+  // refuses the option, naming what it goes with: "a color of hue 0".
+  bool (*applies)(const EffectValues& values) = nullptr;
+  const char* goesWith = "";
+  const char* control = "";  // objectName of the panel's control: "cboButtonizePattern"; empty for an option only
+  const char* label = "";    // caption of the control, with access letter
+  const char* help = "";     // what the values mean, for the help of gpicon
 };
 
 // The lowest and highest value that the setting allows.
 int lowestValue(const Setting& setting);
 int highestValue(const Setting& setting);
 
-// The panel's control offers a number of choices, counted from 0: the entries of a list, or off and on.
+// The panel's control offers a number of choices, counted from 0: the entries of a list, off and on, or all
+// levels.
 bool hasList(const Setting& setting);
 // The list of the control. One that the tables of lists do not contain has an entry for each value.
 FilledList listOf(const Setting& setting);
@@ -54,6 +62,8 @@ std::string allowedValues(const Setting& setting);
 std::optional<int> valueOfText(const Setting& setting, std::string_view text);
 // The text that describes a value.
 std::string textOfValue(const Setting& setting, int value);
+// Whether the setting has a meaning with this value of the effect's first setting.
+bool goesWith(const Setting& setting, int value);
 // The setting's first values, in their order.
 EffectValues firstValues(std::span<const Setting> settings);
 

@@ -28,6 +28,8 @@ void SettingsPanel::choose(const Setting& setting, int choice) {
   preview();
 }
 
+bool SettingsPanel::mayProceed() { return frame().mayApply(*effect_, values()); }
+
 EffectValues SettingsPanel::values() const {
   EffectValues values;
   for (const Setting& setting : effect_->settings)

@@ -36,6 +36,7 @@ class SettingsPanel final : public EffectPanel {
 
  protected:
   IconImage apply(const IconImage& icon) const override { return effect_->apply(icon, values()); }
+  bool mayProceed() override;
 
  private:
   const std::vector<const EffectRow*> effects_;

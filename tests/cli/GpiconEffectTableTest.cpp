@@ -52,46 +52,75 @@ TEST_F(GpiconEffectTable, EachValueMakesWhatTheFunctionMakes) {
   for (const int size : kIconSides)
     for (const IconImage& icon : generatedIcons(size)) {
       const std::string input = write(icon);
-      for (const EffectRow* effect : builtEffects())
+      for (const EffectRow* effect : commandLineEffects())
         for (const EffectValues& values : valuesToTry(*effect)) {
           const std::vector<std::string> options = optionsFor(*effect, values);
           SCOPED_TRACE(effect->name + testing::PrintToString(options) + std::to_string(size));
+          std::filesystem::remove(out);
+          if (const Refusal refusal = refusalOf(*effect, icon, values); refusal.text) {
+            expectRefusal(call(input, *effect, options), input + ": " + refusal.text);
+            continue;
+          }
           expectDone(call(input, *effect, options));
           expectPixels(writtenIcon(out), effect->apply(icon, values));
         }
     }
 }
 
-TEST_F(GpiconEffectTable, WithoutOptionsTheFirstValuesApply) {
+TEST_F(GpiconEffectTable, WithoutTheirOptionsTheFirstValuesApply) {
   const IconImage icon = generatedIcons(32).back();
   const std::string input = write(icon);
-  for (const EffectRow* effect : builtEffects()) {
+  for (const EffectRow* effect : commandLineEffects()) {
     SCOPED_TRACE(effect->name);
-    expectDone(call(input, *effect, {}));
+    expectDone(call(input, *effect, neededOptions(*effect)));
     expectPixels(writtenIcon(out), effect->apply(icon, firstValues(effect->settings)));
   }
 }
 
 TEST_F(GpiconEffectTable, AValueThatASettingDoesNotAllowIsRefused) {
   const std::string input = write(transparentIcon(16));
-  for (const EffectRow* effect : builtEffects())
+  for (const EffectRow* effect : commandLineEffects())
     for (const Setting& setting : effect->settings) {
       if (setting.kind == SettingKind::Flag) continue;
       const std::string option = "--" + std::string(setting.option);
-      for (const std::string& text : refusedTexts(setting))
-        expectBadUsage(call(input, *effect, {option, text}), "effect: " + option + " takes " + allowedValues(setting));
+      for (const std::string& text : refusedTexts(setting)) {
+        std::vector<std::string> words = neededOptions(*effect);
+        const auto given = std::ranges::find(words, option);
+        if (given == words.end())
+          words.insert(words.end(), {option, text});
+        else
+          *(given + 1) = text;
+        expectBadUsage(call(input, *effect, words), "effect: " + option + " takes " + allowedValues(setting));
+      }
     }
+}
+
+TEST_F(GpiconEffectTable, AnOptionThatTheEffectNeedsMustBeGiven) {
+  const std::string input = write(transparentIcon(16));
+  for (const EffectRow* effect : commandLineEffects()) {
+    const std::vector<std::string> needed = neededOptions(*effect);
+    std::vector<std::string> names;
+    for (std::size_t i = 0; i < needed.size(); i += 2) names.push_back(needed[i]);
+    for (std::size_t i = 0; i < needed.size(); i += 2) {
+      std::vector<std::string> others = needed;
+      const auto left = others.begin() + static_cast<std::ptrdiff_t>(i);
+      others.erase(left, left + 2);
+      expectBadUsage(call(input, *effect, others),
+                     "effect: " + std::string(effect->name) + " needs " +
+                         (effect->needsOption ? "at least one of its options" : listed(names)));
+    }
+  }
 }
 
 TEST_F(GpiconEffectTable, AnOptionOfAnotherEffectIsRefused) {
   const std::string input = write(transparentIcon(16));
-  for (const EffectRow* other : builtEffects())
+  for (const EffectRow* other : commandLineEffects())
     for (const Setting& setting : other->settings) {
       const std::string option = "--" + std::string(setting.option);
       std::vector<std::string> owners;
-      for (const EffectRow* effect : builtEffects())
+      for (const EffectRow* effect : commandLineEffects())
         if (hasOption(*effect, setting.option)) owners.emplace_back(effect->name);
-      for (const EffectRow* effect : builtEffects()) {
+      for (const EffectRow* effect : commandLineEffects()) {
         if (hasOption(*effect, setting.option)) continue;
         std::vector<std::string> words{option};
         if (setting.kind != SettingKind::Flag) words.push_back(textOfValue(setting, setting.first));
@@ -103,11 +132,11 @@ TEST_F(GpiconEffectTable, AnOptionOfAnotherEffectIsRefused) {
 TEST_F(GpiconEffectTable, AnOptionTakesOneValue) {
   const std::string input = write(transparentIcon(16));
   std::set<std::string> options;
-  for (const EffectRow* effect : builtEffects())
+  for (const EffectRow* effect : commandLineEffects())
     for (const Setting& setting : effect->settings)
       if (setting.kind != SettingKind::Flag) options.insert("--" + std::string(setting.option));
   const std::string once = "effect: " + listed({options.begin(), options.end()}) + " take one value each";
-  for (const EffectRow* effect : builtEffects())
+  for (const EffectRow* effect : commandLineEffects())
     for (const Setting& setting : effect->settings) {
       if (setting.kind == SettingKind::Flag) continue;
       const std::string option = "--" + std::string(setting.option), value = textOfValue(setting, setting.first);
@@ -119,15 +148,15 @@ TEST_F(GpiconEffectTable, AnOptionTakesOneValue) {
 
 TEST_F(GpiconEffectTable, AlphaIsRefused) {
   const std::string input = icon("alpha.ico", 16, 32);
-  for (const EffectRow* effect : builtEffects())
+  for (const EffectRow* effect : commandLineEffects())
     expectRefusal(
-        call(input, *effect, {}),
+        call(input, *effect, neededOptions(*effect)),
         input + ": Current icon is with alpha, please run Convert 32 To 24 BPP to convert it to 24-BPP first.");
 }
 
 TEST_F(GpiconEffectTable, TheHelpNamesEveryEffectAndItsOptions) {
   const std::string help = run({"--help"}).out;
-  for (const EffectRow* effect : builtEffects()) {
+  for (const EffectRow* effect : commandLineEffects()) {
     EXPECT_NE(help.find("\n  " + std::string(effect->name) + " "), std::string::npos) << effect->name;
     EXPECT_NE(help.find(effect->help), std::string::npos) << effect->name;
     for (const Setting& setting : effect->settings) {

@@ -172,13 +172,47 @@ TEST_F(GpiconEffect, BadUsage) {
   expectBadUsage(call(a, {}), needed);
   expectBadUsage(call(a, {"raised", "raised"}), needed);
   expectBadUsage({"effect", a, "x", out, "raised"}, "effect: the index is no number");
-  for (const std::string name : {"Raised", "raise", "sharpen", ""})
+  for (const std::string name : {"Raised", "raise", "sharp", ""})
     expectBadUsage(call(a, {name}), "effect: no effect is named " + name);
   for (const std::string color : {"12345", "1234567", "zzzzzz", "-00001"})
     expectBadUsage(call(a, {"shadowed", "--color", color}), "effect: --color takes six hexadecimal digits");
   for (const std::string style : {"3", "-1", "x", "0x1", "99999999999"})
     expectBadUsage(call(a, {"buttonize", "--style", style}), "effect: --style takes a number from 0 to 2");
   expectBadUsage(call(a, {"raised", "--threshold", "1"}), "effect: unknown option --threshold");
+}
+
+TEST_F(GpiconEffect, AGradientHasTheOptionsOfItsKind) {
+  const std::string a = icon("a.ico", 16, 24);
+  const auto gradient = [this, &a](std::vector<std::string> more) {
+    more.insert(more.begin(), {"gradient", "--from", "000000", "--to", "FFFFFF", "--kind"});
+    return call(a, more);
+  };
+  for (const std::string kind : {"square", "spherical"})
+    expectBadUsage(gradient({kind, "--angle", "0"}), "effect: --angle goes with --kind linear and symmetric only");
+  for (const std::string kind : {"linear", "symmetric", "square"})
+    expectBadUsage(gradient({kind, "--center", "1,1"}), "effect: --center goes with --kind spherical only");
+  expectBadUsage(call(a, {"gradient", "--kind", "square"}), "effect: gradient needs --kind, --from and --to");
+  for (const std::string angle : {"361", "-1", "1.5"})
+    expectBadUsage(gradient({"linear", "--angle", angle}), "effect: --angle takes a number from 0 to 360");
+  expectBadUsage(gradient({"spherical", "--center", "3"}), "effect: --center takes two whole numbers, X,Y");
+}
+
+TEST_F(GpiconEffect, AnIconThatAnEffectDoesNotTakeIsRefused) {
+  const std::vector<std::string> gradient{"gradient", "--from", "000000", "--to", "FFFFFF", "--kind", "spherical"};
+  const auto with = [](std::vector<std::string> words, const std::vector<std::string>& more) {
+    words.insert(words.end(), more.begin(), more.end());
+    return words;
+  };
+  const std::string input = write(disc(16, 24));
+  for (const std::string center : {"16,3", "3,16", "-1,0"})
+    expectRefusal(call(input, with(gradient, {"--center", center})), input + ": Center point is outside the icon.");
+  expectRefusal(call(input, {"sphere"}), input + ": Current icon is less then 32x 32.");
+  expectRefusal(call(input, {"sphere", "--size", "small"}), input + ": Current icon is less then 24x24.");
+  expectRefusal(call(input, {"sphere", "--size", "tiny", "--light", "0,0"}),
+                input + ": Please click a point on sphere");
+  Picture full = disc(16, 24);
+  full.transparent = [](int, int) { return false; };
+  expectRefusal(call(write(full), gradient), input + ": No unpainted area in current icon.");
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // What gpicon prints about itself, from its table of commands.
 #include "cli/CommandTable.h"
 #include "cli/GpiconFixture.h"
+#include "effects/EffectTable.h"
 
 #include <set>
 
@@ -55,7 +56,10 @@ TEST_F(GpiconHelp, UnknownAndSurplusNamesAreBadUsage) {
 TEST_F(GpiconHelp, TheOptionsOfACommandAreThoseOfItsUsage) {
   EXPECT_EQ(cli::findCommand("split")->options(), (std::vector<std::string>{"-d", "--force", "--max-size"}));
   EXPECT_EQ(cli::findCommand("reduce")->options(), (std::vector<std::string>{"--to", "--method", "--threshold"}));
-  EXPECT_EQ(cli::findCommand("effect")->options(), (std::vector<std::string>{"--color", "--style"}));
+  std::set<std::string> ofEffects;
+  for (const EffectRow* effect : commandLineEffects())
+    for (const Setting& setting : effect->settings) ofEffects.insert("--" + std::string(setting.option));
+  EXPECT_EQ(cli::findCommand("effect")->options(), std::vector<std::string>(ofEffects.begin(), ofEffects.end()));
   EXPECT_EQ(cli::findCommand("resave")->options(), std::vector<std::string>());
 }
 

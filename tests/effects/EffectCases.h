@@ -20,24 +20,55 @@ inline std::vector<const EffectRow*> builtEffects() {
   return effects;
 }
 
-// All values that a setting allows; of a colour three.
+// Of these, the effects whose side panel is made from their settings.
+inline std::vector<const EffectRow*> effectsOfGeneratedPanels() {
+  std::vector<const EffectRow*> effects = builtEffects();
+  std::erase_if(effects, [](const EffectRow* effect) { return !effect->panel.isGenerated; });
+  return effects;
+}
+
+// The effects of the menu and those of gpicon only.
+inline std::vector<const EffectRow*> allEffects() {
+  std::vector<const EffectRow*> effects = builtEffects();
+  for (const EffectRow* effect : commandLineEffects())
+    if (std::ranges::find(effects, effect) == effects.end()) effects.push_back(effect);
+  return effects;
+}
+
+// All values that a setting allows; of a colour and a point three, of a long range about twenty with both ends.
 inline std::vector<int> valuesToTry(const Setting& setting) {
-  if (setting.kind == SettingKind::Rgb) return {kBlack, kWhite, rgb(255, 128, 1)};
+  if (setting.kind == SettingKind::Rgb || setting.kind == SettingKind::Levels)
+    return {kBlack, kWhite, rgb(255, 128, 1)};
+  if (setting.kind == SettingKind::Point) return {pointValue(15, 3), pointValue(11, 11), pointValue(5, 12)};
+  const int step = std::max(1, (highestValue(setting) - lowestValue(setting)) / 20);
   std::vector<int> values;
-  for (int value = lowestValue(setting); value <= highestValue(setting); ++value) values.push_back(value);
+  for (int value = lowestValue(setting); value < highestValue(setting); value += step) values.push_back(value);
+  values.push_back(highestValue(setting));
+  return values;
+}
+
+// Whether the setting has a part in the result with these values.
+inline bool hasPart(const Setting& setting, const EffectValues& values) {
+  return !setting.applies || setting.applies(values);
+}
+
+// The effect's first values with one setting changed, and the first setting so that the changed one has a part.
+inline EffectValues valuesWith(const EffectRow& effect, std::size_t setting, int value) {
+  EffectValues values = firstValues(effect.settings);
+  values.set(setting, value);
+  if (hasPart(effect.settings[setting], values)) return values;
+  for (const int first : valuesToTry(effect.settings.front())) {
+    values.set(0, first);
+    if (hasPart(effect.settings[setting], values)) break;
+  }
   return values;
 }
 
 // The first values, and then each value of each setting while the others have their first ones.
 inline std::vector<EffectValues> valuesToTry(const EffectRow& effect) {
-  const EffectValues first = firstValues(effect.settings);
-  std::vector<EffectValues> all{first};
+  std::vector<EffectValues> all{firstValues(effect.settings)};
   for (std::size_t i = 0; i < effect.settings.size(); ++i)
-    for (const int value : valuesToTry(effect.settings[i])) {
-      EffectValues values = first;
-      values.set(i, value);
-      all.push_back(values);
-    }
+    for (const int value : valuesToTry(effect.settings[i])) all.push_back(valuesWith(effect, i, value));
   return all;
 }
 
@@ -48,9 +79,21 @@ inline std::vector<std::string> optionsFor(const EffectRow& effect, const Effect
     const Setting& setting = effect.settings[i];
     const bool isFlag = setting.kind == SettingKind::Flag;
     if (isFlag && !values.flag(i)) continue;
+    if (values.number(i) == kMiddlePoint || !hasPart(setting, values)) continue;
     words.push_back("--" + std::string(setting.option));
     if (!isFlag) words.push_back(textOfValue(setting, values.number(i)));
   }
+  return words;
+}
+
+// The words that gpicon cannot do without, with the first values.
+inline std::vector<std::string> neededOptions(const EffectRow& effect) {
+  std::vector<std::string> words;
+  for (const Setting& setting : effect.settings)
+    if (setting.isRequired || (effect.needsOption && words.empty())) {
+      words.push_back("--" + std::string(setting.option));
+      words.push_back(textOfValue(setting, setting.first));
+    }
   return words;
 }
 

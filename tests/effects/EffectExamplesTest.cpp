@@ -13,6 +13,11 @@ struct Example {
   Rows before, after;
 };
 
+const Rows kWhiteDisc{"................", "................", "......wwwww.....", "....wwwwwwwww...",
+                      "...wwwwwwwwwww..", "...wwwwwwwwwww..", "..wwwwwwwwwwwww.", "..wwwwwwwwwwwww.",
+                      "..wwwwwwwwwwwww.", "..wwwwwwwwwwwww.", "..wwwwwwwwwwwww.", "...wwwwwwwwwww..",
+                      "...wwwwwwwwwww..", "....wwwwwwwww...", "......wwwww.....", "................"};
+
 const Example kExamples[] = {
     {"embossed", {}, {"...", ".o.", "..^"}, {"w..", ".o.", "..g"}},
     {"engraved", {}, {"...", ".o.", "..^"}, {"g..", ".o.", "..w"}},
@@ -21,7 +26,18 @@ const Example kExamples[] = {
     {"buttonize", {0}, {"opo", "pop", "opo"}, {".w.", "wob", ".b."}},
     {"buttonize", {1}, {"opo", "pop", "opo"}, {".g.", "wgw", ".w."}},
     {"buttonize", {2}, {"opo", "pop", "opo"}, {".w.", "wdb", ".b."}},
+    {"sharpen", {0}, {"oo.", "og^"}, {"oo.", "o7^"}},
+    {"soften", {0}, {".b.", "bwb", "^b."}, {".b.", "b8b", "^b."}},
+    {"antialias", {}, {"..", "^w"}, {"..", "^9"}},
+    {"brightness", {100, 0, 0, -50}, {"o.", "^o"}, {"4.", "^4"}},
+    {"theme", {rgb(0, 9, 0), 100}, {"o.", "^o"}, {"5.", "^5"}},
+    {"cast", {rgb(128, 128, 128)}, {"bb.", "bb^"}, {"gw.", "66^"}},
+    {"grayscale", {}, {"o.", "^o"}, {"1.", "^1"}},
+    {"invert", {}, {"o.", "^o"}, {"2.", "^2"}},
+    {"swap", {0}, {"o.", "^o"}, {"3.", "^3"}},
     {"disabled", {}, {"...", "po.", "..^"}, {"...", ".g.", "..w"}},
+    {"gradient", {0, kWhite, kWhite, 0, kMiddlePoint}, {"...", ".o.", "..^"}, {"www", "wow", "www"}},
+    {"sphere", {kWhite, pointValue(16, 16), 2, 0}, flatRows(16, 16, 'o'), kWhiteDisc},
 };
 
 TEST(EffectExamples, EachExampleIsExact) {
@@ -30,7 +46,7 @@ TEST(EffectExamples, EachExampleIsExact) {
 }
 
 TEST(EffectExamples, EachEffectHasOne) {
-  for (const EffectRow* effect : builtEffects())
+  for (const EffectRow* effect : commandLineEffects())
     EXPECT_TRUE(std::ranges::any_of(kExamples, [effect](const Example& example) {
       return effect->name == std::string_view(example.effect);
     })) << effect->name;

@@ -3,7 +3,7 @@
 
 #include "effects/EffectTable.h"
 
-#include <iterator>
+#include <algorithm>
 #include <random>
 #include <string>
 #include <string_view>
@@ -34,7 +34,20 @@ inline constexpr PixelLook kPixelLooks[] = {
     {'~', rgb(32, 96, 152), kWhite},              // changes the ground
     {'/', rgb(32, 96, 152), rgb(128, 128, 128)},  // a Mask that is neither black nor white
     {'-', kBlack, rgb(128, 128, 128)},            // the same with a black image
+    // What effects make of these.
+    {'1', rgb(83, 83, 83), kBlack},
+    {'2', rgb(223, 159, 103), kBlack},
+    {'3', rgb(152, 96, 32), kBlack},
+    {'4', rgb(32, 48, 76), kBlack},
+    {'5', rgb(32, 152, 32), kBlack},
+    {'6', rgb(127, 128, 128), kBlack},
+    {'7', rgb(176, 144, 116), kBlack},
+    {'8', rgb(51, 51, 51), kBlack},
+    {'9', rgb(63, 64, 64), kBlack},
 };
+
+// The letters in front of those that effects make.
+inline constexpr std::size_t kSourceLooks = std::ranges::find(kPixelLooks, '1', &PixelLook::letter) - kPixelLooks;
 
 inline IconImage iconOf(const Rows& rows) {
   const int width = rows.empty() ? 0 : static_cast<int>(rows.front().size());
@@ -83,7 +96,7 @@ inline std::vector<Rows> randomIcons(int count) {
     const std::size_t density = 1 + below(9);
     for (std::string& row : rows)
       for (std::size_t x = 0; x < width; ++x)
-        row += below(10) < density ? '.' : kPixelLooks[below(std::size(kPixelLooks))].letter;
+        row += below(10) < density ? '.' : kPixelLooks[below(kSourceLooks)].letter;
     icons.push_back(rows);
   }
   return icons;

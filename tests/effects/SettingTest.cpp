@@ -110,5 +110,23 @@ TEST(Setting, FirstValuesAreInTheOrderOfTheSettings) {
   EXPECT_EQ(firstValues({}), EffectValues());
 }
 
+TEST(Setting, APointIsTwoNumbersOrTheMiddle) {
+  const Setting center{.option = "center", .kind = SettingKind::Point, .first = kMiddlePoint};
+  EXPECT_EQ(placeholderOf(center), "X,Y");
+  EXPECT_EQ(allowedValues(center), "two whole numbers, X,Y");
+  EXPECT_EQ(textOfValue(center, kMiddlePoint), "the middle");
+  EXPECT_EQ(textOfValue(center, pointValue(-3, 12)), "-3,12");
+  EXPECT_EQ(valueOfText(center, "12,-3"), pointValue(12, -3));
+  EXPECT_EQ(valueOfText(center, "99999,-99999"), pointValue(kFarthest, -kFarthest));
+  EXPECT_EQ(valueOfChoice(center, 0, kBlack), kMiddlePoint);
+  for (const char* text : {"", ",", "1", "1,", ",1", "1,2,3", "1, 2", "x,1", "1.5,2", "99999999999,1", "the middle"})
+    EXPECT_EQ(valueOfText(center, text), std::nullopt) << text;
+  for (const auto& [x, y] : {std::pair{0, 0}, {-1, -1}, {kFarthest, -kFarthest}, {-kFarthest, kFarthest}, {-1, 0}}) {
+    EXPECT_EQ(xOfPoint(pointValue(x, y)), x);
+    EXPECT_EQ(yOfPoint(pointValue(x, y)), y);
+    EXPECT_NE(pointValue(x, y), kMiddlePoint);
+  }
+}
+
 }  // namespace
 }  // namespace gp::test

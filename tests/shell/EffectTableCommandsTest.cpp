@@ -15,12 +15,24 @@ class EffectTableCommandsTest : public EffectFixture {
   SettingsPanel& panelOf(const EffectRow& effect) { return settings(effect.panel.number); }
   IconImage current() const { return {state.picImage, state.picMask, {}}; }
 
+  // Proceed shows the text, and the panel stays open.
+  void expectRefused(const EffectRow& effect, const Refusal& refusal, const IconImage& icon) {
+    boxes.expectTold(refusal.text, refusal.icon);
+    shell.cmdProceed();
+    EXPECT_EQ(panel(), effect.panel.number);
+    EXPECT_TRUE(samePixels(current(), icon)) << effect.title;
+    EXPECT_FALSE(enabled("mnuEditSub", kUndo));
+    shell.cmdCancel();
+  }
+
   // The sample and the icon after Proceed are what the effect's function returns; one step of Undo brings back `icon`.
   void expectMade(const EffectRow& effect, const IconImage& icon) {
     SettingsPanel& side = panelOf(effect);
     const IconImage expected = effect.apply(icon, side.values());
     EXPECT_TRUE(samePixels(side.picture(), expected)) << effect.name;
     EXPECT_TRUE(samePixels(current(), icon)) << effect.name;
+    const Refusal refusal = refusalOf(effect, icon, side.values());
+    if (refusal.text) return expectRefused(effect, refusal, icon);
     shell.cmdProceed();
     EXPECT_EQ(panel(), kColorPanel);
     EXPECT_TRUE(samePixels(current(), expected)) << effect.name;
@@ -54,7 +66,7 @@ TEST_F(EffectTableCommandsTest, TheEntriesOfTheMenuAreInTheOrderOfTheirIndices) 
 
 TEST_F(EffectTableCommandsTest, SampleResultAndUndoFollowTheFunctionForEveryChoiceOfEverySetting) {
   start();
-  for (const EffectRow* effect : builtEffects())
+  for (const EffectRow* effect : effectsOfGeneratedPanels())
     for (const int size : kIconSides)
       for (const IconImage& icon : generatedIcons(size)) {
         startWith(icon);
@@ -74,7 +86,7 @@ TEST_F(EffectTableCommandsTest, SampleResultAndUndoFollowTheFunctionForEveryChoi
 
 TEST_F(EffectTableCommandsTest, CloseChangesNothing) {
   start();
-  for (const EffectRow* effect : builtEffects())
+  for (const EffectRow* effect : effectsOfGeneratedPanels())
     for (const IconImage& icon : generatedIcons(24)) {
       startWith(icon);
       const bool wasModified = state.current().modified;

@@ -28,10 +28,13 @@ class LargeFonts : public test::FormFixture {
     const char* control;
     int index;
   };
-  static constexpr Panel kPanels[] = {{"shadowed", "mnuEffectsSub", 14},   {"buttonize", "mnuEffectsSub", 3},
-                                      {"disabled", "mnuEffectsSub", 21},   {"confine-256", "mnuEffectsSub3", 0},
-                                      {"confine-16", "mnuEffectsSub3", 1}, {"confine-2", "mnuEffectsSub3", 2},
-                                      {"rotate", "mnuRotateSubmenu", 4},   {"cursor", "mnuFileSub", 18}};
+  static constexpr Panel kPanels[] = {
+      {"shadowed", "mnuEffectsSub", 14},    {"buttonize", "mnuEffectsSub", 3},   {"disabled", "mnuEffectsSub", 21},
+      {"confine-256", "mnuEffectsSub3", 0}, {"confine-16", "mnuEffectsSub3", 1}, {"confine-2", "mnuEffectsSub3", 2},
+      {"rotate", "mnuRotateSubmenu", 4},    {"cursor", "mnuFileSub", 18},        {"sphere", "mnuEffectsSub", 2},
+      {"gradient", "mnuEffectsSub", 4},     {"brightness", "mnuEffectsSub", 6},  {"sharpen", "mnuEffectsSub", 7},
+      {"antialias", "mnuEffectsSub", 8},    {"theme", "mnuEffectsSub", 9},       {"cast", "mnuEffectsSub", 16},
+      {"swap", "mnuEffectsSub", 20}};
 
   void trigger(const char* control, int index) {
     find<QAction>(QString("%1(%2)").arg(control).arg(index))->trigger();

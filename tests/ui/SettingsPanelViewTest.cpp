@@ -38,7 +38,7 @@ QString accessibleName(QWidget* widget) {
 
 TEST_F(EffectTablePanelsTest, EachEffectOpensByItsEntryWithItsControlsAndItsSample) {
   startWithPicture();
-  for (const EffectRow* effect : test::builtEffects()) {
+  for (const EffectRow* effect : test::effectsOfGeneratedPanels()) {
     SCOPED_TRACE(effect->name);
     EXPECT_EQ(entryOf(*effect)->text(), effect->menu.caption);
     EXPECT_EQ(entryOf(*effect)->shortcut(), QKeySequence(effect->menu.key));
@@ -53,10 +53,11 @@ TEST_F(EffectTablePanelsTest, EachEffectOpensByItsEntryWithItsControlsAndItsSamp
     if (*effect->panel.sampleLabel) {
       EXPECT_EQ(panel->findChild<QLabel*>(effect->panel.sampleLabel)->text(), effect->title);
     }
-    for (const EffectRow* other : test::builtEffects())
+    for (const EffectRow* other : test::effectsOfGeneratedPanels())
       for (const Setting& setting : other->settings) {
         if (other->panel.number != effect->panel.number) continue;
-        auto* control = panel->findChild<QWidget*>(setting.control);
+        const QString suffix = setting.kind == SettingKind::Levels ? "(0)" : "";
+        auto* control = panel->findChild<QWidget*>(setting.control + suffix);
         ASSERT_NE(control, nullptr) << setting.control;
         const SettingsPanel* side = shell.effects().settingsPanel(effect->panel.number);
         EXPECT_EQ(control->isVisible(), side->shows(setting)) << setting.control;
@@ -70,10 +71,12 @@ TEST_F(EffectTablePanelsTest, EachEffectOpensByItsEntryWithItsControlsAndItsSamp
 
 TEST_F(EffectTablePanelsTest, ReturnAppliesTheEffectThatTheSampleShows) {
   startWithPicture();
-  for (const EffectRow* effect : test::builtEffects()) {
+  for (const EffectRow* effect : test::effectsOfGeneratedPanels()) {
     entryOf(*effect)->trigger();
     settle();
-    const IconImage shown = shell.effects().settingsPanel(effect->panel.number)->picture();
+    SettingsPanel* side = shell.effects().settingsPanel(effect->panel.number);
+    if (!effect->settings.empty()) side->choose(effect->settings.front(), 1);
+    const IconImage shown = side->picture();
     key(Qt::Key_Return);
     EXPECT_EQ(state.screen.mActivePanel, kColorPanel) << effect->name;
     EXPECT_TRUE(test::samePixels({state.picImage, state.picMask, {}}, shown)) << effect->name;

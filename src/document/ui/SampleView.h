@@ -29,6 +29,7 @@ class SampleView : public QWidget, public AccessibleValue {
   QAccessible::Role accessibleRole() const override { return QAccessible::Graphic; }
 
  protected:
+  const Surface& picture() const { return picture_; }
   void paintEvent(QPaintEvent* event) override;
 
  private:

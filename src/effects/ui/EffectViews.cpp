@@ -1,10 +1,18 @@
 #include "effects/ui/EffectViews.h"
 
+#include "effects/BrightnessPanel.h"
 #include "effects/ConfinePanel.h"
 #include "effects/Effects.h"
+#include "effects/GradientPanel.h"
 #include "effects/SettingsPanel.h"
+#include "effects/SpherePanel.h"
+#include "effects/ThemePanel.h"
+#include "effects/ui/BrightnessPanelView.h"
 #include "effects/ui/ConfinePanelView.h"
+#include "effects/ui/GradientPanelView.h"
 #include "effects/ui/SettingsPanelView.h"
+#include "effects/ui/SpherePanelView.h"
+#include "effects/ui/ThemePanelView.h"
 
 #include <algorithm>
 #include <array>
@@ -23,7 +31,9 @@ constexpr ViewRow kRowOf{Panel::kNumber, [](QWidget* parent, const Effects& effe
                          }};
 
 // Panels that have their own class.
-constexpr std::array kViews{kRowOf<ConfinePanelView, ConfinePanel>};
+constexpr std::array kViews{kRowOf<SpherePanelView, SpherePanel>, kRowOf<GradientPanelView, GradientPanel>,
+                            kRowOf<BrightnessPanelView, BrightnessPanel>, kRowOf<ThemePanelView, ThemePanel>,
+                            kRowOf<ConfinePanelView, ConfinePanel>};
 
 }  // namespace
 

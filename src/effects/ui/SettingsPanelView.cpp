@@ -3,6 +3,7 @@
 #include "colour/ui/ColorSample.h"
 #include "document/ui/Lists.h"
 #include "effects/SettingsPanel.h"
+#include "effects/ui/LevelsControl.h"
 #include "platform/qt/widgets/WrappedCheckBox.h"
 
 #include <QComboBox>
@@ -42,6 +43,7 @@ SettingsPanelView::SettingsPanelView(QWidget* parent, SettingsPanel& panel)
     : EffectPanelView(parent, panel), panel_(panel) {
   for (const EffectRow* effect : panel_.effects())
     for (const Setting& setting : effect->settings) addControl(setting);
+  addRemark(panel_.effect().panel);
   addSample();
   refresh();
 }
@@ -49,12 +51,19 @@ SettingsPanelView::SettingsPanelView(QWidget* parent, SettingsPanel& panel)
 // Effects that have the same setting share its control.
 void SettingsPanelView::addControl(const Setting& setting) {
   if (std::ranges::find(controls_, &setting, &Control::setting) != controls_.end()) return;
-  if (hasList(setting)) {
-    QComboBox* list = makeSettingList(setting);
-    controls_.push_back({&setting, list, addRow(labelNameOf(setting), setting.label, list), nullptr});
-  } else {
-    addBox(setting);
-  }
+  if (hasList(setting))
+    controls_.push_back(makeListControl(setting));
+  else if (setting.kind == SettingKind::Levels)
+    controls_.push_back(makeLevelsControl(setting));
+  else
+    controls_.push_back(makeBoxControl(setting));
+}
+
+// Only a choice of the user reaches the panel: `activated` is not emitted when the list is set here.
+SettingsPanelView::Control SettingsPanelView::makeListControl(const Setting& setting) {
+  QComboBox* list = makeSettingList(setting);
+  QLabel* label = addRow(labelNameOf(setting), setting.label, list);
+  return {&setting, list, {list, label}, [list](int choice) { list->setCurrentIndex(choice); }};
 }
 
 QComboBox* SettingsPanelView::makeSettingList(const Setting& setting) {
@@ -63,8 +72,15 @@ QComboBox* SettingsPanelView::makeSettingList(const Setting& setting) {
   return list;
 }
 
+SettingsPanelView::Control SettingsPanelView::makeLevelsControl(const Setting& setting) {
+  auto* levels = new LevelsControl(rows(), setting);
+  connect(levels, &LevelsControl::chosen, this, [this, &setting](int choice) { panel_.choose(setting, choice); });
+  addWide(levels);
+  return {&setting, levels->firstList(), {levels}, [levels](int choice) { levels->showLevels(choice); }};
+}
+
 // A box that selects the current colour has the colour beside it.
-void SettingsPanelView::addBox(const Setting& setting) {
+SettingsPanelView::Control SettingsPanelView::makeBoxControl(const Setting& setting) {
   auto* row = new QWidget(rows());
   auto* columns = new QHBoxLayout(row);
   columns->setContentsMargins(0, 0, 0, 0);
@@ -74,13 +90,22 @@ void SettingsPanelView::addBox(const Setting& setting) {
   box->setAccessibleName(accessibleNameOf(setting));
   connect(box, &QCheckBox::toggled, this, [this, &setting](bool on) { panel_.choose(setting, on ? 1 : 0); });
   columns->addWidget(box, 1);
-  if (setting.kind == SettingKind::Rgb) {
-    auto* swatch = new ColorSample(row, swatchNameOf(setting), "Currently selected color", panel_.currentColor());
-    columns->addWidget(swatch, 0, Qt::AlignTop);
-    swatches_.push_back(swatch);
-  }
+  if (setting.kind == SettingKind::Rgb) addSwatch(row, setting);
   addWide(row);
-  controls_.push_back({&setting, nullptr, nullptr, box});
+  return {&setting, box, {row}, [box](int choice) {
+            const QSignalBlocker quiet(box);
+            box->setChecked(choice != 0);
+          }};
+}
+
+void SettingsPanelView::addSwatch(QWidget* row, const Setting& setting) {
+  auto* swatch = new ColorSample(row, swatchNameOf(setting), "Currently selected color", panel_.currentColor());
+  qobject_cast<QHBoxLayout*>(row->layout())->addWidget(swatch, 0, Qt::AlignTop);
+  swatches_.push_back(swatch);
+}
+
+void SettingsPanelView::addRemark(const EffectPanelPlace& place) {
+  if (*place.remark) addRow("", place.remark);
 }
 
 void SettingsPanelView::addSample() {
@@ -91,32 +116,13 @@ void SettingsPanelView::addSample() {
   sampleLabel_->setObjectName(place.sampleLabel);
 }
 
-// Only a choice of the user reaches the panel: `activated` is not emitted here, and the box is blocked.
-void SettingsPanelView::showChoice(const Control& control, int choice) {
-  if (control.list) {
-    control.list->setCurrentIndex(choice);
-    return;
-  }
-  const QSignalBlocker quiet(control.box);
-  control.box->setChecked(choice != 0);
-}
-
-void SettingsPanelView::showSetting(const Control& control, bool isShown) {
-  if (control.list) {
-    control.list->setVisible(isShown);
-    control.label->setVisible(isShown);
-  } else {
-    control.box->parentWidget()->setVisible(isShown);
-  }
-}
-
 void SettingsPanelView::refresh() {
   QWidget* first = nullptr;
   for (const Control& control : controls_) {
     const bool isShown = panel_.shows(*control.setting);
-    showChoice(control, panel_.choiceOf(*control.setting));
-    showSetting(control, isShown);
-    if (isShown && !first) first = control.list ? static_cast<QWidget*>(control.list) : control.box;
+    control.show(panel_.choiceOf(*control.setting));
+    for (QWidget* widget : control.widgets) widget->setVisible(isShown);
+    if (isShown && !first) first = control.first;
   }
   setFirstControl(first ? first : proceedButton());
   setTitle(panel_.effect().title);

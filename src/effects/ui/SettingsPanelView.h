@@ -4,13 +4,15 @@
 
 #include "effects/ui/EffectPanelView.h"
 
-class QCheckBox;
+#include <functional>
+
 class QComboBox;
 
 namespace gp {
 
 class ColorSample;
 class SettingsPanel;
+struct EffectPanelPlace;
 struct Setting;
 
 class SettingsPanelView final : public EffectPanelView {
@@ -23,20 +25,22 @@ class SettingsPanelView final : public EffectPanelView {
   void refresh() override;
 
  private:
-  // The control of one setting: a list with a label, or a tick box in a row of widgets.
+  // The control of one setting.
   struct Control {
     const Setting* setting;
-    QComboBox* list;
-    QLabel* label;
-    QCheckBox* box;
+    QWidget* first;                 // gets the focus
+    std::vector<QWidget*> widgets;  // all that are visible with the setting
+    std::function<void(int choice)> show;
   };
 
   void addControl(const Setting& setting);
+  Control makeListControl(const Setting& setting);
+  Control makeBoxControl(const Setting& setting);
+  Control makeLevelsControl(const Setting& setting);
   QComboBox* makeSettingList(const Setting& setting);
-  void addBox(const Setting& setting);
+  void addSwatch(QWidget* row, const Setting& setting);
+  void addRemark(const EffectPanelPlace& place);
   void addSample();
-  static void showSetting(const Control& control, bool isShown);
-  static void showChoice(const Control& control, int choice);
 
   SettingsPanel& panel_;
   std::vector<Control> controls_;
