@@ -62,9 +62,7 @@ std::string allowedValues(const Setting& setting);
 std::optional<int> valueOfText(const Setting& setting, std::string_view text);
 // The text that describes a value.
 std::string textOfValue(const Setting& setting, int value);
-// Whether the setting has a meaning with this value of the effect's first setting.
-bool goesWith(const Setting& setting, int value);
-// The setting's first values, in their order.
+// The settings' first values, in their order.
 EffectValues firstValues(std::span<const Setting> settings);
 
 }  // namespace gp
