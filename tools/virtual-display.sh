@@ -15,7 +15,9 @@ startVirtualDisplay() {
   export DISPLAY
   openbox >/dev/null 2>&1 &
   virtual_pids+=($!)
-  until xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; do sleep 0.05; done
+  # Openbox names itself first, and loses windows that ask for the screen before it lists its clients: with cold font
+  # caches that takes a second.
+  until xprop -root _NET_CLIENT_LIST | grep -q 'window id'; do sleep 0.05; done
 }
 
 stopVirtualDisplay() {

@@ -56,7 +56,8 @@ class Session:
                           QT_LINUX_ACCESSIBILITY_ALWAYS_ON='1')
         self.screen = Screen()
         self.run('openbox', '--config-file', WINDOW_MANAGER_SETTINGS)
-        waitUntil(lambda: 'window id' in self.rootProperty('_NET_SUPPORTING_WM_CHECK'), 'the window manager')
+        # It names itself first, and loses windows that ask for the screen before it lists its clients.
+        waitUntil(lambda: 'window id' in self.rootProperty('_NET_CLIENT_LIST'), 'the window manager')
         # Started before the first use: if a caller starts it, it may answer the program too late, which then registers
         # nothing.
         self.run(ACCESSIBILITY_BUS, '--launch-immediately')
