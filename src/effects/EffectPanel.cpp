@@ -32,12 +32,14 @@ void EffectPanel::preview() {
   frame_.context().display.changed(DisplayPart::SidePanel);
 }
 
+void EffectPanel::commit() { frame_.applyTemps(apply(frame_.currentIcon())); }
+
 void EffectPanel::proceed() {
   if (!mayProceed()) return;
   {
     const Hourglass hourglass(frame_.context());
     frame_.document().iconsPanel.EndToolAction();
-    frame_.applyTemps(apply(frame_.currentIcon()));
+    commit();
   }
   frame_.context().display.announce(news::kApplied);
   // Recording pumps messages, so it comes after the panel is closed.

@@ -34,6 +34,8 @@ class EffectPanel {
  protected:
   // Returns the icon with the effect.
   virtual IconImage apply(const IconImage& icon) const = 0;
+  // What Proceed does to an icon that takes the effect: by default the Current Icon becomes the icon with the effect.
+  virtual void commit();
   // Draws the samples that a panel has besides `sample`.
   virtual void drawSamples() {}
   // Whether the Current Icon takes the effect; if not, shows the reason.

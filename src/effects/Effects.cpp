@@ -1,5 +1,6 @@
 #include "effects/Effects.h"
 
+#include "drawing/Drawing.h"
 #include "effects/BrightnessPanel.h"
 #include "effects/ConfinePanel.h"
 #include "effects/GradientPanel.h"
@@ -12,13 +13,13 @@
 namespace gp {
 
 // Panels with their own class come first; panels of settings follow from the table of effects.
-Effects::Effects(const Context& context, Document& document, UndoHistory& history, clsGPDialog& dialog)
-    : frame_(context, document, history) {
+Effects::Effects(const Context& context, Document& document, Drawing& drawing, const EffectPorts& ports)
+    : frame_(context, document, drawing.history) {
   panels_.push_back(std::make_unique<BrightnessPanel>(frame_));
-  panels_.push_back(std::make_unique<ThemePanel>(frame_, dialog));
+  panels_.push_back(std::make_unique<ThemePanel>(frame_, ports.dialog));
   panels_.push_back(std::make_unique<ConfinePanel>(frame_));
-  panels_.push_back(std::make_unique<SpherePanel>(frame_, dialog));
-  panels_.push_back(std::make_unique<GradientPanel>(frame_, dialog));
+  panels_.push_back(std::make_unique<SpherePanel>(frame_, ports.dialog));
+  panels_.push_back(std::make_unique<GradientPanel>(frame_, ports.dialog));
   for (const EffectRow* effect : effectTable())
     if (effect->apply && effect->panel.isGenerated && !find(effect->panel.number))
       addSettingsPanel(effect->panel.number);

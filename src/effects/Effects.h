@@ -10,12 +10,20 @@
 
 namespace gp {
 
+class Drawing;
+class PictureLoader;
 class SettingsPanel;
 class clsGPDialog;
 
+// What the panels of some effects use of the platform.
+struct EffectPorts {
+  clsGPDialog& dialog;
+  PictureLoader& pictures;
+};
+
 class Effects {
  public:
-  Effects(const Context& context, Document& document, UndoHistory& history, clsGPDialog& dialog);
+  Effects(const Context& context, Document& document, Drawing& drawing, const EffectPorts& ports);
 
   // Opens the panel of the effect at this index of mnuEffectsSub; does nothing when the program has no effect there.
   void open(int menuIndex);
