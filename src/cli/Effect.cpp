@@ -1,3 +1,4 @@
+#include "cli/EffectFiles.h"
 #include "cli/EffectOptions.h"
 #include "cli/OneImage.h"
 #include "cli/Subcommands.h"
@@ -27,8 +28,9 @@ int runEffect(const Arguments& arguments) {
   const std::string& name = image.more.front();
   const EffectRow* effect = findEffect(name);
   if (!effect) return badUsage("effect: no effect is named " + name);
-  const std::optional<EffectValues> values = valuesOf(*effect, *options);
-  return values ? makeEffect(*effect, *values, image) : kBadUsage;
+  std::optional<EffectValues> values = valuesOf(*effect, *options);
+  if (!values) return kBadUsage;
+  return readEffectFile(*effect, *options, *values) ? makeEffect(*effect, *values, image) : kRefused;
 }
 
 }  // namespace gp::cli

@@ -9,14 +9,13 @@ namespace gp {
 extern const EffectRow kButtonize, kEmbossed, kEngraved, kRaised, kShadowed, kDisabledImage;
 extern const EffectRow kSphere, kGradient;
 extern const EffectRow kBrightness, kSharpenSoften, kColorTheme, kAntialias, kCast, kGrayscale, kInvert, kSwapElements;
+extern const EffectRow kBlend, kTexture;
 extern const EffectRow kSharpen, kSoften, kSwap;
 
 namespace {
 
 // Not part of the program yet: a menu entry that is disabled.
 constexpr EffectRow kText{.menu = {0, "&Text ....", "Ctrl+F2", "text"}, .panel = {5}};
-constexpr EffectRow kBlend{.menu = {23, "Bl&end In Another Icon ....", "", ""}, .panel = {16}};
-constexpr EffectRow kTexture{.menu = {24, "Texturi&ze Painted Surface ....", "", ""}, .panel = {17}};
 
 // In the order of the menu. The comments are the indices of mnuEffectsSub.
 constexpr const EffectRow* kEffects[] = {

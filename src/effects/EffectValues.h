@@ -1,12 +1,15 @@
 // The values of an effect's settings, in the order of the settings.
 #pragma once
 
-#include "platform/gdi/Surface.h"
+#include "document/IconImage.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <limits>
+#include <memory>
+#include <span>
+#include <utility>
 #include <vector>
 
 namespace gp {
@@ -31,13 +34,23 @@ class EffectValues {
   Color color(std::size_t i) const { return values_.at(i); }
   bool flag(std::size_t i) const { return values_.at(i) != 0; }
 
+  // What the file of a setting contains: icons without alpha, or one picture, which has no Mask. Empty without a file.
+  std::span<const IconImage> pictures() const {
+    return pictures_ ? std::span(*pictures_) : std::span<const IconImage>();
+  }
+  void setPictures(std::vector<IconImage> pictures) {
+    pictures_ = std::make_shared<const std::vector<IconImage>>(std::move(pictures));
+  }
+
   void append(int value) { values_.push_back(value); }
   void set(std::size_t i, int value) { values_.at(i) = value; }
 
+  // Pictures are equal only if one is a copy of the other.
   bool operator==(const EffectValues&) const = default;
 
  private:
   std::vector<int> values_;
+  std::shared_ptr<const std::vector<IconImage>> pictures_;  // shared by copies
 };
 
 }  // namespace gp

@@ -1,11 +1,13 @@
 #include "effects/Effects.h"
 
 #include "drawing/Drawing.h"
+#include "effects/BlendPanel.h"
 #include "effects/BrightnessPanel.h"
 #include "effects/ConfinePanel.h"
 #include "effects/GradientPanel.h"
 #include "effects/SettingsPanel.h"
 #include "effects/SpherePanel.h"
+#include "effects/TexturePanel.h"
 #include "effects/ThemePanel.h"
 
 #include <algorithm>
@@ -20,6 +22,8 @@ Effects::Effects(const Context& context, Document& document, Drawing& drawing, c
   panels_.push_back(std::make_unique<ConfinePanel>(frame_));
   panels_.push_back(std::make_unique<SpherePanel>(frame_, ports.dialog));
   panels_.push_back(std::make_unique<GradientPanel>(frame_, ports.dialog));
+  panels_.push_back(std::make_unique<BlendPanel>(frame_));
+  panels_.push_back(std::make_unique<TexturePanel>(frame_, ports.dialog, ports.pictures));
   for (const EffectRow* effect : effectTable())
     if (effect->apply && effect->panel.isGenerated && !find(effect->panel.number))
       addSettingsPanel(effect->panel.number);

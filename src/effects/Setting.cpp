@@ -115,6 +115,7 @@ struct Kind {
 };
 
 int zero(const Setting&) { return 0; }
+int countOfWords(const Setting& setting) { return static_cast<int>(setting.words.size()); }
 int lowestNumber(const Setting& setting) { return setting.from; }
 int highestNumber(const Setting& setting) { return setting.to; }
 std::string numberPlaceholder(const Setting&) { return "N"; }
@@ -136,7 +137,7 @@ constexpr Kind kTenths{.hasList = true,
 constexpr Kind kWord{
     .hasList = true,
     .lowest = zero,
-    .highest = [](const Setting& setting) { return static_cast<int>(setting.words.size()) - 1; },
+    .highest = [](const Setting& setting) { return countOfWords(setting) - 1; },
     .placeholder = [](const Setting& setting) { return joined(setting.words); },
     .allowed = [](const Setting& setting) { return alternatives(setting.words); },
     .parse = [](const Setting& setting, std::string_view text) { return indexOfWord(setting.words, text); },
@@ -172,8 +173,35 @@ constexpr Kind kPoint{.hasList = false,
                       .parse = [](const Setting&, std::string_view text) { return point(text); },
                       .write = [](const Setting&, int value) { return textOfPoint(value); }};
 
+constexpr const char* kIconFileName = "OTHER.ico";
+constexpr const char* kPictureFileName = "FILE.bmp";
+
+constexpr Kind kIconFile{.hasList = false,
+                         .lowest = zero,
+                         .highest = zero,
+                         .placeholder = [](const Setting&) { return std::string(kIconFileName); },
+                         .allowed = [](const Setting&) { return std::string("an icon file"); },
+                         .parse = [](const Setting&, std::string_view) { return std::optional(0); },
+                         .write = [](const Setting&, int) { return std::string(kIconFileName); }};
+constexpr Kind kPictureFile{
+    .hasList = false,
+    .lowest = zero,
+    .highest = countOfWords,
+    .placeholder = [](const Setting& setting) { return std::string(kPictureFileName) + "|" + joined(setting.words); },
+    .allowed = [](const Setting& setting) { return "a bitmap file, " + alternatives(setting.words); },
+    .parse =
+        [](const Setting& setting, std::string_view text) {
+          return std::optional(indexOfWord(setting.words, text).value_or(countOfWords(setting)));
+        },
+    .write =
+        [](const Setting& setting, int value) {
+          return isFile(setting, value) ? kPictureFileName
+                                        : std::string(setting.words[static_cast<std::size_t>(value)]);
+        }};
+
 // In the order of SettingKind.
-constexpr const Kind* kKinds[] = {&kNumber, &kTenths, &kWord, &kRgb, &kLevelsKind, &kFlag, &kPoint};
+constexpr const Kind* kKinds[] = {&kNumber, &kTenths, &kWord,     &kRgb,        &kLevelsKind,
+                                  &kFlag,   &kPoint,  &kIconFile, &kPictureFile};
 
 const Kind& kindOf(const Setting& setting) { return *kKinds[static_cast<std::size_t>(setting.kind)]; }
 
@@ -186,6 +214,11 @@ int listValue(const Setting& setting, int choice) {
 int lowestValue(const Setting& setting) { return kindOf(setting).lowest(setting); }
 int highestValue(const Setting& setting) { return kindOf(setting).highest(setting); }
 bool hasList(const Setting& setting) { return kindOf(setting).hasList; }
+
+bool isFile(const Setting& setting, int value) {
+  if (setting.kind == SettingKind::IconFile) return true;
+  return setting.kind == SettingKind::PictureFile && value == countOfWords(setting);
+}
 
 FilledList listOf(const Setting& setting) {
   FilledList list = fillList(setting.control);

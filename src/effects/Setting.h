@@ -19,7 +19,10 @@ enum class SettingKind {
   Rgb,     // a Colour; a tick box on the panel that selects the current colour instead of `first`
   Levels,  // a number from 0 to 255 for each channel, stored as a Colour; three lists and a slider on the panel
   Flag,    // 0 or 1; an option without a value, a tick box on the panel
-  Point    // see pointValue; a sample to click on, on a panel with its own class
+  Point,   // see pointValue; a sample to click on, on a panel with its own class
+  // The next two are files, whose content is in EffectValues::pictures(). A panel with its own class chooses them.
+  IconFile,    // the name of an icon file; stored as 0
+  PictureFile  // one of `words`, stored as its index, or the name of a picture file, stored as their number
 };
 
 struct Setting {
@@ -28,7 +31,7 @@ struct Setting {
   int from = 0, to = 0;                     // lowest and highest value of a number or tenths
   int step = 1;                             // from one list entry to the next; below 0 the list starts with `to`
   int first = 0;                            // the value that applies until another one is chosen
-  std::span<const char* const> words = {};  // of a Word
+  std::span<const char* const> words = {};  // of a Word or a PictureFile
   bool isRequired = false;                  // gpicon requires the option
   // Returns whether the setting has a part in the result with these values; null when it always has. Otherwise gpicon
   // refuses the option, naming what it goes with: "a color of hue 0".
@@ -46,6 +49,8 @@ int highestValue(const Setting& setting);
 // The panel's control offers a number of choices, counted from 0: the entries of a list, off and on, or all
 // levels.
 bool hasList(const Setting& setting);
+// Whether the value is the name of a file, which must be read.
+bool isFile(const Setting& setting, int value);
 // The list of the control. One that the tables of lists do not contain has an entry for each value.
 FilledList listOf(const Setting& setting);
 int choiceCount(const Setting& setting);

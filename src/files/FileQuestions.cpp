@@ -10,19 +10,23 @@ namespace gp {
 namespace {
 
 // A path that is too long to be parsed has no folder; the former one is kept.
-std::string remembered(FilesContext& context, const std::string& path) {
+std::string remembered(ProcessValues& process, const std::string& path) {
   const std::string folder = ParseFileName(path, PathPart::DriveAndFolder);
-  if (!folder.empty()) context.process.mLastFolder = folder;
+  if (!folder.empty()) process.mLastFolder = folder;
   return path;
 }
 
 }  // namespace
 
 std::string askToOpen(FilesContext& context, const char* filter) {
+  return askToOpen(context.process, context.dialog, filter);
+}
+
+std::string askToOpen(ProcessValues& process, clsGPDialog& dialog, const char* filter) {
   OpenOptions options;
   options.filter = filter;
-  options.initialFolder = context.process.mLastFolder;
-  return remembered(context, context.dialog.ShowOpen(options));
+  options.initialFolder = process.mLastFolder;
+  return remembered(process, dialog.ShowOpen(options));
 }
 
 std::string askToSave(FilesContext& context, const std::string& proposedName, const char* filter, const char* extension,
@@ -33,7 +37,7 @@ std::string askToSave(FilesContext& context, const std::string& proposedName, co
   options.defaultExtension = extension;
   options.overwritePrompt = question == OverwriteQuestion::ByDialog;
   options.initialFolder = existingStartFolder(context.boxes, folder.empty() ? context.process.mLastFolder : folder);
-  return remembered(context, context.dialog.ShowSave(options));
+  return remembered(context.process, context.dialog.ShowSave(options));
 }
 
 void openChosenFile(FilesContext& context, const char* filter, const OpenFile& open) {

@@ -14,6 +14,7 @@ enum class OverwriteQuestion { ByDialog, ByCaller };
 
 // Return the chosen path, empty after Cancel. An empty folder means that of the last dialog.
 std::string askToOpen(FilesContext& context, const char* filter);
+std::string askToOpen(ProcessValues& process, clsGPDialog& dialog, const char* filter);
 std::string askToSave(FilesContext& context, const std::string& proposedName, const char* filter, const char* extension,
                       OverwriteQuestion question = OverwriteQuestion::ByDialog, const std::string& folder = {});
 

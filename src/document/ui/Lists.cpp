@@ -10,6 +10,18 @@ namespace {
 
 constexpr int kVisibleItems = 12;
 
+QStringList toTexts(const std::vector<std::string>& entries) {
+  QStringList texts;
+  for (const std::string& entry : entries) texts << toText(entry);
+  return texts;
+}
+
+QStringList entriesOf(const QComboBox* list) {
+  QStringList texts;
+  for (int i = 0; i < list->count(); ++i) texts << list->itemText(i);
+  return texts;
+}
+
 }  // namespace
 
 QComboBox* makeList(QWidget* parent, const QString& objectName, const QString& accessibleName) {
@@ -21,7 +33,7 @@ QComboBox* makeList(QWidget* parent, const FilledList& list, const QString& acce
   combo->setObjectName(toText(list.control));
   combo->setAccessibleName(accessibleName);
   combo->setMaxVisibleItems(kVisibleItems);
-  for (const std::string& entry : list.entries) combo->addItem(toText(entry));
+  combo->addItems(toTexts(list.entries));
   combo->setCurrentIndex(list.first);
   return combo;
 }
@@ -33,6 +45,13 @@ QComboBox* makeUnlabelledList(QWidget* parent, const QString& objectName, const 
   label->setBuddy(combo);
   label->hide();
   return combo;
+}
+
+void showEntries(QComboBox* list, const std::vector<std::string>& entries) {
+  const QStringList texts = toTexts(entries);
+  if (entriesOf(list) == texts) return;
+  list->clear();
+  list->addItems(texts);
 }
 
 }  // namespace gp

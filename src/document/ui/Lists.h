@@ -5,6 +5,9 @@
 
 #include <QString>
 
+#include <string>
+#include <vector>
+
 class QComboBox;
 class QWidget;
 
@@ -18,5 +21,9 @@ QComboBox* makeList(QWidget* parent, const FilledList& list, const QString& acce
 
 // The same without a visible label: screen readers find its name in a hidden one.
 QComboBox* makeUnlabelledList(QWidget* parent, const QString& objectName, const QString& accessibleName);
+
+// Replaces the entries of a list where they differ; an open list is not disturbed otherwise. The list may then show
+// another entry.
+void showEntries(QComboBox* list, const std::vector<std::string>& entries);
 
 }  // namespace gp

@@ -1,17 +1,21 @@
 #include "effects/ui/EffectViews.h"
 
+#include "effects/BlendPanel.h"
 #include "effects/BrightnessPanel.h"
 #include "effects/ConfinePanel.h"
 #include "effects/Effects.h"
 #include "effects/GradientPanel.h"
 #include "effects/SettingsPanel.h"
 #include "effects/SpherePanel.h"
+#include "effects/TexturePanel.h"
 #include "effects/ThemePanel.h"
+#include "effects/ui/BlendPanelView.h"
 #include "effects/ui/BrightnessPanelView.h"
 #include "effects/ui/ConfinePanelView.h"
 #include "effects/ui/GradientPanelView.h"
 #include "effects/ui/SettingsPanelView.h"
 #include "effects/ui/SpherePanelView.h"
+#include "effects/ui/TexturePanelView.h"
 #include "effects/ui/ThemePanelView.h"
 
 #include <algorithm>
@@ -31,9 +35,10 @@ constexpr ViewRow kRowOf{Panel::kNumber, [](QWidget* parent, const Effects& effe
                          }};
 
 // Panels that have their own class.
-constexpr std::array kViews{kRowOf<SpherePanelView, SpherePanel>, kRowOf<GradientPanelView, GradientPanel>,
+constexpr std::array kViews{kRowOf<SpherePanelView, SpherePanel>,         kRowOf<GradientPanelView, GradientPanel>,
                             kRowOf<BrightnessPanelView, BrightnessPanel>, kRowOf<ThemePanelView, ThemePanel>,
-                            kRowOf<ConfinePanelView, ConfinePanel>};
+                            kRowOf<ConfinePanelView, ConfinePanel>,       kRowOf<BlendPanelView, BlendPanel>,
+                            kRowOf<TexturePanelView, TexturePanel>};
 
 }  // namespace
 
