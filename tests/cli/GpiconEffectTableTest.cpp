@@ -1,20 +1,27 @@
 // What holds for every effect of the table, on the command line.
 #include "cli/WrittenPicture.h"
 #include "effects/EffectCases.h"
+#include "files/BitmapBuilder.h"
 
 namespace gp::test {
 namespace {
 
-// The image of a file that has an icon's pixels, in 24 bits.
-Picture pictureOf(const IconImage& icon) {
+// A picture that has a Surface's pixels, in 24 bits.
+Picture pictureOf(const Surface& surface) {
   Picture p;
-  p.width = p.height = icon.width();
+  p.width = p.height = surface.width();
   p.bits = 24;
-  p.transparent = [icon](int x, int y) { return icon.mask.GetPixel(x, y) != kBlack; };
-  p.color = [icon](int x, int y) {
-    const Color color = icon.image.GetPixel(x, y);
+  p.color = [surface](int x, int y) {
+    const Color color = surface.GetPixel(x, y);
     return Rgb{redOf(color), greenOf(color), blueOf(color)};
   };
+  return p;
+}
+
+// The image of a file that has an icon's pixels, in 24 bits.
+Picture pictureOf(const IconImage& icon) {
+  Picture p = pictureOf(icon.image);
+  p.transparent = [icon](int x, int y) { return icon.mask.GetPixel(x, y) != kBlack; };
   return p;
 }
 
@@ -38,8 +45,21 @@ class GpiconEffectTable : public GpiconOneImage {
     arguments.insert(arguments.end(), options.begin(), options.end());
     return arguments;
   }
+  // Writes what the values have for the file of a setting: the icons of an icon file, or a pattern.
+  std::string fileFor(const Setting& setting, const EffectValues& values) const {
+    if (setting.kind == SettingKind::PictureFile)
+      return folder.write("pattern.bmp", bitmapFileOf(pictureOf(values.pictures().front().image)));
+    std::vector<Entry> entries;
+    for (const IconImage& other : values.pictures()) entries.push_back(entryOf(pictureOf(other)));
+    return folder.write("other.ico", fileOf(entries));
+  }
+  FileFor files() const {
+    return [this](const Setting& setting, const EffectValues& values) { return fileFor(setting, values); };
+  }
   // Texts that a setting must refuse: one value beyond each end, and no value at all.
   static std::vector<std::string> refusedTexts(const Setting& setting) {
+    // The name of a file can be any text.
+    if (setting.kind == SettingKind::IconFile || setting.kind == SettingKind::PictureFile) return {};
     std::vector<std::string> texts{"x", "1.23"};
     if (setting.kind != SettingKind::Number && setting.kind != SettingKind::Tenths) return texts;
     texts.push_back(textOfValue(setting, lowestValue(setting) - 1));
@@ -54,7 +74,7 @@ TEST_F(GpiconEffectTable, EachValueMakesWhatTheFunctionMakes) {
       const std::string input = write(icon);
       for (const EffectRow* effect : commandLineEffects())
         for (const EffectValues& values : valuesToTry(*effect)) {
-          const std::vector<std::string> options = optionsFor(*effect, values);
+          const std::vector<std::string> options = optionsFor(*effect, values, files());
           SCOPED_TRACE(effect->name + testing::PrintToString(options) + std::to_string(size));
           std::filesystem::remove(out);
           if (const Refusal refusal = refusalOf(*effect, icon, values); refusal.text) {
@@ -72,8 +92,8 @@ TEST_F(GpiconEffectTable, WithoutTheirOptionsTheFirstValuesApply) {
   const std::string input = write(icon);
   for (const EffectRow* effect : commandLineEffects()) {
     SCOPED_TRACE(effect->name);
-    expectDone(call(input, *effect, neededOptions(*effect)));
-    expectPixels(writtenIcon(out), effect->apply(icon, firstValues(effect->settings)));
+    expectDone(call(input, *effect, neededOptions(*effect, files())));
+    expectPixels(writtenIcon(out), effect->apply(icon, usualValues(*effect)));
   }
 }
 
@@ -84,7 +104,7 @@ TEST_F(GpiconEffectTable, AValueThatASettingDoesNotAllowIsRefused) {
       if (setting.kind == SettingKind::Flag) continue;
       const std::string option = "--" + std::string(setting.option);
       for (const std::string& text : refusedTexts(setting)) {
-        std::vector<std::string> words = neededOptions(*effect);
+        std::vector<std::string> words = neededOptions(*effect, files());
         const auto given = std::ranges::find(words, option);
         if (given == words.end())
           words.insert(words.end(), {option, text});
@@ -98,7 +118,7 @@ TEST_F(GpiconEffectTable, AValueThatASettingDoesNotAllowIsRefused) {
 TEST_F(GpiconEffectTable, AnOptionThatTheEffectNeedsMustBeGiven) {
   const std::string input = write(transparentIcon(16));
   for (const EffectRow* effect : commandLineEffects()) {
-    const std::vector<std::string> needed = neededOptions(*effect);
+    const std::vector<std::string> needed = neededOptions(*effect, files());
     std::vector<std::string> names;
     for (std::size_t i = 0; i < needed.size(); i += 2) names.push_back(needed[i]);
     for (std::size_t i = 0; i < needed.size(); i += 2) {
@@ -150,7 +170,7 @@ TEST_F(GpiconEffectTable, AlphaIsRefused) {
   const std::string input = icon("alpha.ico", 16, 32);
   for (const EffectRow* effect : commandLineEffects())
     expectRefusal(
-        call(input, *effect, neededOptions(*effect)),
+        call(input, *effect, neededOptions(*effect, files())),
         input + ": Current icon is with alpha, please run Convert 32 To 24 BPP to convert it to 24-BPP first.");
 }
 

@@ -18,6 +18,13 @@ const Rows kWhiteDisc{"................", "................", "......wwwww....."
                       "..wwwwwwwwwwwww.", "..wwwwwwwwwwwww.", "..wwwwwwwwwwwww.", "...wwwwwwwwwww..",
                       "...wwwwwwwwwww..", "....wwwwwwwww...", "......wwwww.....", "................"};
 
+// A pattern that rises by 40 from the first three pixels to the last one.
+Surface smallPattern() {
+  Surface pattern(2, 2, kBlack);
+  pattern.SetPixelV(1, 1, rgb(40, 40, 40));
+  return pattern;
+}
+
 const Example kExamples[] = {
     {"embossed", {}, {"...", ".o.", "..^"}, {"w..", ".o.", "..g"}},
     {"engraved", {}, {"...", ".o.", "..^"}, {"g..", ".o.", "..w"}},
@@ -37,6 +44,8 @@ const Example kExamples[] = {
     {"swap", {0}, {"o.", "^o"}, {"3.", "^3"}},
     {"disabled", {}, {"...", "po.", "..^"}, {"...", ".g.", "..w"}},
     {"gradient", {0, kWhite, kWhite, 0, kMiddlePoint}, {"...", ".o.", "..^"}, {"www", "wow", "www"}},
+    {"blend", withPictures({0, 50}, {iconOf({"ww", "w."})}), {"o.", "^o"}, {"Aw", "wo"}},
+    {"texture", withPictures({3, 5, 0}, {{smallPattern(), Surface(), {}}}), {"g.", "^g"}, {"B.", "^C"}},
     {"sphere", {kWhite, pointValue(16, 16), 2, 0}, flatRows(16, 16, 'o'), kWhiteDisc},
 };
 

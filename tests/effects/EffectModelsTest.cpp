@@ -1,6 +1,7 @@
 // Each effect against a slow model: the rule of one pixel, written from its description with nothing of the program.
 #include "effects/EffectCases.h"
 #include "effects/Pictures.h"
+#include "effects/TexturePatterns.h"
 
 #include <cmath>
 #include <functional>
@@ -201,6 +202,50 @@ TEST(EffectModels, Theme) {
               ASSERT_EQ(color, icon.image.GetPixel(x, y));
           }
       }
+}
+
+TEST(EffectModels, Blend) {
+  for (const int size : {16, 24, 32, 48}) {
+    const std::vector<IconImage> icons = iconsOfSize(size);
+    for (std::size_t i = 0; i < icons.size(); ++i) {
+      const IconImage &icon = icons[i], &other = icons[(i + 7) % icons.size()];
+      const int percent = static_cast<int>(i * 2 % 101);
+      const IconImage result = applied("blend", icon, withPictures({0, percent}, {other}));
+      for (int y = 0; y < size; ++y)
+        for (int x = 0; x < size; ++x) {
+          const bool isOwn = icon.mask.GetPixel(x, y) == 0, isOther = other.mask.GetPixel(x, y) == 0;
+          const Rgb3 a = at(icon, x, y), b = at(other, x, y);
+          const Rgb3 both =
+              each([&](auto channel) { return a.*channel - (a.*channel - b.*channel) * (percent / 100.0); });
+          ASSERT_EQ(result.image.GetPixel(x, y), rounded(!isOther ? a
+                                                         : !isOwn ? b
+                                                                  : both))
+              << size << ": " << x << "," << y;
+          ASSERT_EQ(result.mask.GetPixel(x, y), isOwn || isOther ? 0 : icon.mask.GetPixel(x, y));
+        }
+    }
+  }
+}
+
+double greyOfRelief(const IconImage& pattern, int size, int x, int y, double depth) {
+  const int right = x == size - 1 ? x - 1 : x + 1, below = y == size - 1 ? y - 1 : y + 1;
+  const Rgb3 own = at(pattern, x, y), neighbour = at(pattern, right, below);
+  const Rgb3 lit =
+      each([&](auto channel) { return std::fmin(std::fabs(depth * (own.*channel - neighbour.*channel) + 128), 255); });
+  return std::rint(0.1 * lit.blue + 0.2 * lit.green + 0.7 * lit.red);
+}
+
+TEST(EffectModels, Texture) {
+  for (int pattern = 0; pattern <= kStoredPatterns; ++pattern)
+    for (const auto& [tenths, style] : {std::pair{5, 0}, {5, 1}, {1, 0}, {9, 1}}) {
+      const IconImage picture{pattern < kStoredPatterns ? storedPattern(pattern) : customPattern(), Surface(), {}};
+      const double depth = (style == 0 ? 1 : -1) * tenths / 10.0;
+      expectModel("texture", withPictures({pattern, tenths, style}, {picture}),
+                  [&](const IconImage& icon, int x, int y) {
+                    const double grey = greyOfRelief(picture, icon.width(), x, y, depth);
+                    return each([&](auto channel) { return grey / 128 * (at(icon, x, y).*channel) + (grey - 128); });
+                  });
+    }
 }
 
 }  // namespace

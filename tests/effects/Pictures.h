@@ -7,6 +7,7 @@
 #include <random>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace gp::test {
@@ -44,6 +45,9 @@ inline constexpr PixelLook kPixelLooks[] = {
     {'7', rgb(176, 144, 116), kBlack},
     {'8', rgb(51, 51, 51), kBlack},
     {'9', rgb(63, 64, 64), kBlack},
+    {'A', rgb(144, 176, 204), kBlack},
+    {'B', rgb(88, 88, 88), kBlack},
+    {'C', rgb(168, 168, 168), kBlack},
 };
 
 // The letters in front of those that effects make.
@@ -105,6 +109,12 @@ inline std::vector<Rows> randomIcons(int count) {
 // Returns the icon with the effect of that name.
 inline IconImage applied(std::string_view effect, const IconImage& icon, const EffectValues& values = {}) {
   return findEffect(effect)->apply(icon, values);
+}
+
+// Returns the values with what the file of a setting contains.
+inline EffectValues withPictures(EffectValues values, std::vector<IconImage> pictures) {
+  values.setPictures(std::move(pictures));
+  return values;
 }
 
 // Sizes that no icon of the program has.

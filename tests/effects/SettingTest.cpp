@@ -54,6 +54,30 @@ TEST(Setting, AColorHasSixDigitsRedFirst) {
   EXPECT_EQ(placeholderOf(kRgb), "RRGGBB");
 }
 
+TEST(Setting, AnIconFileIsAnyText) {
+  const Setting file{.option = "with", .kind = SettingKind::IconFile};
+  for (const char* text : {"a.ico", "1", "-", "a b"}) EXPECT_EQ(valueOfText(file, text), 0) << text;
+  EXPECT_TRUE(isFile(file, 0));
+  EXPECT_EQ(placeholderOf(file), "OTHER.ico");
+  EXPECT_EQ(allowedValues(file), "an icon file");
+  EXPECT_FALSE(hasList(file));
+}
+
+TEST(Setting, APictureFileIsAnyTextThatIsNoneOfItsWords) {
+  const Setting file{.option = "pattern", .kind = SettingKind::PictureFile, .words = kSizes};
+  const std::pair<const char*, int> texts[] = {{"normal", 0},   {"small", 1}, {"tiny", 2}, {"Tiny", 3},
+                                               {"./normal", 3}, {"0", 3},     {"x.bmp", 3}};
+  for (const auto& [text, value] : texts) {
+    EXPECT_EQ(valueOfText(file, text), value) << text;
+    EXPECT_EQ(isFile(file, value), value == 3) << text;
+  }
+  EXPECT_EQ(textOfValue(file, 1), "small");
+  EXPECT_EQ(textOfValue(file, 3), "FILE.bmp");
+  EXPECT_EQ(placeholderOf(file), "FILE.bmp|normal|small|tiny");
+  EXPECT_EQ(allowedValues(file), "a bitmap file, normal, small or tiny");
+  EXPECT_FALSE(isFile(kWord, 2));
+}
+
 TEST(Setting, AFlagTakesNoText) {
   for (const char* text : {"", "0", "1"}) EXPECT_EQ(valueOfText(kFlag, text), std::nullopt) << text;
   EXPECT_EQ(placeholderOf(kFlag), "");

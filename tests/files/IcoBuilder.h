@@ -89,11 +89,13 @@ inline Bytes packedRows(int width, int height, int bits, const std::function<int
 inline Bytes trueRows(const Picture& p) {
   Bytes out;
   for (int y = p.height - 1; y >= 0; --y) {
+    const std::size_t start = out.size();
     for (int x = 0; x < p.width; ++x) {
       const Rgb c = p.color(x, y);
       for (int v : {c.b, c.g, c.r}) out.push_back(static_cast<std::uint8_t>(v));
       if (p.bits == 32) out.push_back(static_cast<std::uint8_t>(c.a));
     }
+    while ((out.size() - start) % 4) out.push_back(0);
   }
   return out;
 }
