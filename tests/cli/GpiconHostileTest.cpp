@@ -175,7 +175,9 @@ class GpiconHostile : public Gpicon {
              {"split", path, "-d", folder.path("parts")},
              {"bmp", path, "1", folder.path("made")},
              {"reduce", path, "1", folder.path("made"), "--to", "2", "--method", "ordered"},
-             {"effect", path, "1", folder.path("made"), "raised"}}) {
+             {"effect", path, "1", folder.path("made"), "raised"},
+             {"effect", icon24, "0", folder.path("made"), "blend", "--with", path},
+             {"effect", icon24, "0", folder.path("made"), "texture", "--pattern", path}}) {
       const Outcome o = limited(arguments);
       EXPECT_TRUE(o.status == 0 || o.status == 1) << arguments.front() << " " << o.status << o.err;
       EXPECT_LE(lines(o.err), 1) << arguments.front() << o.err;
