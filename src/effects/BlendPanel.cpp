@@ -64,7 +64,8 @@ bool BlendPanel::fits(int container) const {
   const auto place = static_cast<std::size_t>(container);
   const IconContainerRec& record = state.mIconRecs.at(place);
   const Surface& image = state.picPanelImage.at(place);
-  return record.present && !record.hasAlpha && image.width() == state.picImage.width() &&
+  // An icon that was loaded into another container counts as present only after it was shown.
+  return record.used && !record.hasAlpha && image.width() == state.picImage.width() &&
          image.height() == state.picImage.height();
 }
 
