@@ -1,4 +1,5 @@
 // The forms with fonts of 9, 12 and 14 points, in light and dark: no text is cut.
+#include "document/Containers.h"
 #include "document/PanelNumbers.h"
 #include "files/ui/frmGPHeaderDiff.h"
 #include "shell/ui/frmDirDialog.h"
@@ -34,7 +35,7 @@ class LargeFonts : public test::FormFixture {
       {"rotate", "mnuRotateSubmenu", 4},    {"cursor", "mnuFileSub", 18},        {"sphere", "mnuEffectsSub", 2},
       {"gradient", "mnuEffectsSub", 4},     {"brightness", "mnuEffectsSub", 6},  {"sharpen", "mnuEffectsSub", 7},
       {"antialias", "mnuEffectsSub", 8},    {"theme", "mnuEffectsSub", 9},       {"cast", "mnuEffectsSub", 16},
-      {"swap", "mnuEffectsSub", 20}};
+      {"swap", "mnuEffectsSub", 20},        {"blend", "mnuEffectsSub", 23},      {"texture", "mnuEffectsSub", 24}};
 
   void trigger(const char* control, int index) {
     find<QAction>(QString("%1(%2)").arg(control).arg(index))->trigger();
@@ -55,6 +56,9 @@ class LargeFonts : public test::FormFixture {
     shell.document().editingArea.ComposeCurrentIcon();
     shell.document().editingArea.UpdatePanelFromCurrent();
     shell.document().editingArea.MagnifyIcon();
+    // An icon that can be blended in.
+    shell.document().arrival.fillContainer(1, transparentIcon(32), NewRecord());
+    state.mIconRecs[1].neverSaved = false;
     settle();
   }
   void look(const QString& name, int points, const char* theme) {

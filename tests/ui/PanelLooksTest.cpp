@@ -1,4 +1,5 @@
 // The order of a side panel: title, settings with their labels in one column, and the sample directly below them.
+#include "document/Containers.h"
 #include "document/ui/SampleView.h"
 #include "document/ui/SurfacePainting.h"
 #include "effects/ConfinePanel.h"
@@ -23,6 +24,9 @@ class PanelLooks : public test::FormFixture {
     trigger("mnuFileSub", entry);
     state.current().neverSaved = false;
     const int size = state.picImage.width();
+    // An icon that can be blended in.
+    shell.document().arrival.fillContainer(1, transparentIcon(size), NewRecord());
+    state.mIconRecs[1].neverSaved = false;
     for (int y = 0; y < size; ++y)
       for (int x = 0; x < size; ++x) {
         if ((x + y) % 5 == 0) continue;
@@ -61,7 +65,8 @@ TEST_F(PanelLooks, TheSampleIsDirectlyBelowTheSettingsAndFillsTheSpace) {
   constexpr Panel kPanels[] = {{14, "ckbUseSelectedColor", "picEffectsSample"},
                                {11, nullptr, "picEffectsSample"},
                                {3, "cboButtonizePattern", "picButtonize"},
-                               {21, nullptr, "picImageForDisabledBtn"}};
+                               {21, nullptr, "picImageForDisabledBtn"},
+                               {23, "cboBlendIn(1)", "picBlendIn"}};
   for (const auto& [entry, side] : {std::pair{2, 32}, {3, 16}, {4, 48}}) {
     startWithNew(entry);
     for (const Panel& row : kPanels) {
