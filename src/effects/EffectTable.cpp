@@ -9,7 +9,7 @@ namespace gp {
 extern const EffectRow kButtonize, kEmbossed, kEngraved, kRaised, kShadowed, kDisabledImage;
 extern const EffectRow kSphere, kGradient;
 extern const EffectRow kBrightness, kSharpenSoften, kColorTheme, kAntialias, kCast, kGrayscale, kInvert, kSwapElements;
-extern const EffectRow kSharpen, kSoften, kSwap;
+extern const EffectRow kSharpen, kSoften, kSwap, kResize;
 
 namespace {
 
@@ -42,7 +42,7 @@ constexpr const EffectRow* kEffects[] = {
 };
 
 // Effects of gpicon only, whose side panel has another row.
-constexpr const EffectRow* kWithoutPanel[] = {&kSharpen, &kSoften, &kSwap};
+constexpr const EffectRow* kWithoutPanel[] = {&kSharpen, &kSoften, &kSwap, &kResize};
 
 const EffectRow* firstOf(auto&& effects, auto matches) {
   const auto found = std::ranges::find_if(effects, [&](const EffectRow* effect) { return matches(*effect); });
