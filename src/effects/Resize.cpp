@@ -83,6 +83,7 @@ Surface softened(const IconImage& icon, const Surface& mask) {
 }  // namespace
 
 IconImage resizedIcon(const IconImage& icon, int size, bool isSoftened) {
+  if (icon.isEmpty()) return transparentIcon(size);
   const Surface mask = plain(icon.mask, size);
   return {isSoftened ? softened(icon, mask) : plain(icon.image, size), mask, {}};
 }

@@ -13,10 +13,10 @@ extern const EffectRow kResize;
 // not become larger, or smaller, as wanted.
 inline constexpr Refusal kNotOfSuitableSize("No icon in Editing Area yet or not of suitable size.");
 
-// Returns the icon at size x size, without alpha values. The Mask keeps or drops whole pixels, and so does the image
-// unless it is softened: inverting pixels then still invert. A softened image is black where the icon is not painted;
-// a painted pixel is the mean of the painted pixels under it when the icon shrinks, and lies between the nearest
-// painted ones when it grows, so that no rim darkens.
+// Returns the icon at size x size, without alpha values; an icon without pixels becomes a transparent one. The Mask
+// keeps or drops whole pixels, and so does the image unless it is softened: inverting pixels then still invert. A
+// softened image is black where the icon is not painted; a painted pixel is the mean of the painted pixels under it
+// when the icon shrinks, and lies between the nearest painted ones when it grows, so that no rim darkens.
 IconImage resizedIcon(const IconImage& icon, int size, bool isSoftened);
 
 // The record of the icon after resizing: `record` with the new size, and the depth that the new picture needs.

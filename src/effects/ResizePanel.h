@@ -18,8 +18,8 @@ class ResizePanel final : public EffectPanel {
   explicit ResizePanel(EffectFrame& frame) : EffectPanel(frame, kNumber) {}
 
   // mnuEffectsSub1 and mnuEffectsSub2: show the panel for one of three sizes, unless the icon is refused: it has no
-  // larger, or smaller, size to get, it has alpha values, or its file holds icons of other sizes. A user who wants to
-  // keep unsaved changes can save or cancel first.
+  // larger, or smaller, size to get, it has alpha values, or its file holds icons of other sizes. Asks first about
+  // unsaved changes.
   void expandTo(int index);
   void shrinkTo(int index);
 

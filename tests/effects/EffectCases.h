@@ -47,6 +47,11 @@ inline std::vector<int> valuesToTry(const Setting& setting) {
   return values;
 }
 
+// The size of the result that an effect makes of an icon of that size.
+inline int sizeAfter(const EffectRow& effect, const EffectValues& values, int size) {
+  return effect.changesSize ? kIconSides.at(static_cast<std::size_t>(values.number(0))) : size;
+}
+
 // Whether the setting has a part in the result with these values.
 inline bool hasPart(const Setting& setting, const EffectValues& values) {
   return !setting.applies || setting.applies(values);

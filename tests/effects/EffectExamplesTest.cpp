@@ -37,6 +37,7 @@ const Example kExamples[] = {
     {"swap", {0}, {"o.", "^o"}, {"3.", "^3"}},
     {"disabled", {}, {"...", "po.", "..^"}, {"...", ".g.", "..w"}},
     {"gradient", {0, kWhite, kWhite, 0, kMiddlePoint}, {"...", ".o.", "..^"}, {"www", "wow", "www"}},
+    {"resize", {0, 0}, flatRows(32, 32, 'o'), flatRows(16, 16, 'o')},
     {"sphere", {kWhite, pointValue(16, 16), 2, 0}, flatRows(16, 16, 'o'), kWhiteDisc},
 };
 
