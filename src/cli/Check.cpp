@@ -19,12 +19,12 @@ std::optional<IconFile> openWholeFile(const std::string& path) {
 }
 
 void printText(const std::string& path, const Discrepancy& discrepancy) {
-  const std::string index = discrepancy.index < 0 ? kNothingTold : std::to_string(discrepancy.index);
+  const std::string index = discrepancy.index < 0 ? kNothingStated : std::to_string(discrepancy.index);
   std::printf("%s\t%s\t%s\t%s\t%s\t%s\n", printable(path).c_str(), index.c_str(), discrepancy.what,
               discrepancy.directory.c_str(), discrepancy.header.c_str(), discrepancy.pixels.c_str());
 }
 
-std::string jsonOrNull(const std::string& text) { return text == kNothingTold ? "null" : jsonText(text); }
+std::string jsonOrNull(const std::string& text) { return text == kNothingStated ? "null" : jsonText(text); }
 
 void printJson(const std::string& path, const Discrepancy& discrepancy) {
   const std::string index = discrepancy.index < 0 ? "null" : std::to_string(discrepancy.index);

@@ -40,10 +40,10 @@ constexpr std::array kRows = std::to_array<Command>({
      .help = "Prints the file's name, a tab, and nine numbers joined by \"/\": kind (0 no icon\n"
              "file, 1 one entry, 2 several), usable entries as far as the scan went, chosen\n"
              "entry, its width, height, colors and bits by the directory, colors and bits by\n"
-             "the bitmap header. Colors are -1 for true color. A PNG picture tells all of them\n"
+             "the bitmap header. Colors are -1 for true color. A PNG picture states all of them\n"
              "itself, as 32 bits with alpha and 24 without. Of several entries the first\n"
              "of 32x32 is chosen, or a later one of 32x32 with 8 bits, which ends the scan.\n"
-             "Of a cursor file, which its content tells and not its name, there are three\n"
+             "Of a cursor file, which its content shows and not its name, there are three\n"
              "numbers: 1 for a cursor that the editor takes, its colors and its bits by the\n"
              "bitmap header; 0/0/0 for others. With --json, the numbers as an array.",
      .example = "probe *.ico",
@@ -59,7 +59,7 @@ constexpr std::array kRows = std::to_array<Command>({
          "1, 4, 8, 24 or 32 bits or PNG pictures, whose size is their own. With --json, one\n"
          "array with an object for each file; bytes of a name that are not UTF-8 become \"\\udc80\" to \"\\udcff\".\n"
          "Lines of cursor files end with two more columns, the hot spot's x and y (with\n"
-         "--json: kind \"cur\", \"hotspotX\", \"hotspotY\"). A cursor's directory tells no\n"
+         "--json: kind \"cur\", \"hotspotX\", \"hotspotY\"). A cursor's directory states no\n"
          "depth: both pairs of colors and bits are the bitmap header's. Usable is a first\n"
          "image of 32x32 at offset 22 with its hot spot inside.",
      .example = "list --json app.ico | python3 -m json.tool",
@@ -69,21 +69,21 @@ constexpr std::array kRows = std::to_array<Command>({
      .summary = "what directory, headers and pixels of a file contradict each other in",
      .help = "Prints one line for each place where directory, headers and pixels of an icon or\n"
              "cursor file contradict each other, parted by tabs: file, index, what, and what\n"
-             "the directory, the header and the pixels tell of it (\"-\" for nothing). What is\n"
+             "the directory, the header and the pixels state of it (\"-\" for nothing). What is\n"
              "  width, height  the size; PNG pictures are asked too\n"
              "  colors, bits   the depth; last, the depth that the pixels need\n"
-             "  bytes          fewer told than the image needs; \"incomplete\" for a cut PNG\n"
+             "  bytes          fewer stated than the image needs; \"incomplete\" for a cut PNG\n"
              "  png            \"damaged\": a PNG picture that cannot be read\n"
              "  offset         inside the directory; last, where that ends\n"
              "  end            behind the file's end; last, the file's size\n"
-             "  pixels         palette index beyond the colors that the header tells\n"
+             "  pixels         palette index beyond the colors that the header states\n"
              "  alpha          pixels that the alpha calls transparent (0) and the mask painted,\n"
              "                 which open opaque; last, their number\n"
              "  shared         the same bytes as another image\n"
              "  same           size and colors of an image before it\n"
              "  hotspotX, hotspotY  outside the picture; last, its width or height\n"
-             "  count          more entries told than the file holds (index \"-\")\n"
-             "Old icons that tell colors but no bits are healthy. Exit status 1 if there is any.\n"
+             "  count          more entries stated than the file holds (index \"-\")\n"
+             "Old icons that state colors but no bits are healthy. Exit status 1 if there is any.\n"
              "With --json, one array with an object for each, and null for nothing.",
      .example = "check --json app.ico",
      .run = runCheck},
@@ -193,7 +193,7 @@ constexpr std::array kRows = std::to_array<Command>({
      .summary = "corrects the directory of a file by its bitmap headers",
      .help = "Writes a copy whose directory takes width, height and bits from the bitmap\n"
              "headers. Images and color counts stay, and entries of PNG pictures too. Refused\n"
-             "when the directory tells a width or height above 128.",
+             "when the directory states a width or height above 128.",
      .example = "salvage broken.ico -o whole.ico",
      .run = runSalvage},
     {.name = "strip",

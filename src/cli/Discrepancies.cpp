@@ -37,12 +37,12 @@ std::string halfText(std::int64_t halves) {
   return sign + text(std::abs(halves) / 2) + (halves % 2 != 0 ? ".5" : "");
 }
 
-void findOtherSize(const Inspection& image, const DiscrepancySink& tell) {
+void findOtherSize(const Inspection& image, const DiscrepancySink& report) {
   if (!image.header) return;
   const int width = sideOf(image.entry.width), height = sideOf(image.entry.height);
-  if (image.header->width != width) tell({image.index, "width", text(width), text(image.header->width)});
+  if (image.header->width != width) report({image.index, "width", text(width), text(image.header->width)});
   if (image.header->heightInHalves() != 2 * height)
-    tell({image.index, "height", text(height), halfText(image.header->heightInHalves())});
+    report({image.index, "height", text(height), halfText(image.header->heightInHalves())});
 }
 
 // The depth that the pixels need. Not measured for shared bytes, which could otherwise be read many times.
@@ -62,7 +62,7 @@ bool bitsFit(const IconEntry& entry, int headerBits, bool fittingColors) {
   return entry.bitCount == 0 ? fittingColors : entry.bitCount == headerBits;
 }
 
-void findOtherDepth(const Inspection& image, const DiscrepancySink& tell) {
+void findOtherDepth(const Inspection& image, const DiscrepancySink& report) {
   if (!image.isBitmap() || image.file.isCursor()) return;
   IconEntry uncounted = image.entry;
   uncounted.colorCount = 0;
@@ -71,91 +71,91 @@ void findOtherDepth(const Inspection& image, const DiscrepancySink& tell) {
   const bool sameBits = bitsFit(image.entry, headerBits, sameColors);
   if (sameColors && sameBits) return;
   const auto depth = depthOfPixels(image);
-  const std::string colors = depth ? text(depth->colors) : kNothingTold;
-  const std::string bits = depth ? text(depth->bits) : kNothingTold;
+  const std::string colors = depth ? text(depth->colors) : kNothingStated;
+  const std::string bits = depth ? text(depth->bits) : kNothingStated;
   if (!sameColors) {
     const int stated = ColorsForEntry(image.entry, image.entry.bitCount);
-    tell({image.index, "colors", text(stated), text(headerColors), colors});
+    report({image.index, "colors", text(stated), text(headerColors), colors});
   }
-  if (!sameBits) tell({image.index, "bits", text(image.entry.bitCount), text(headerBits), bits});
+  if (!sameBits) report({image.index, "bits", text(image.entry.bitCount), text(headerBits), bits});
 }
 
-void findMissingBytes(const Inspection& image, const DiscrepancySink& tell) {
+void findMissingBytes(const Inspection& image, const DiscrepancySink& report) {
   const std::uint32_t stated = image.entry.bytesInRes;
   if (stated < ico::kBitmapHeaderSize || !image.header) {
-    if (stated < ico::kBitmapHeaderSize) tell({image.index, "bytes", text(stated), text(ico::kBitmapHeaderSize)});
+    if (stated < ico::kBitmapHeaderSize) report({image.index, "bytes", text(stated), text(ico::kBitmapHeaderSize)});
   } else if (image.header->isPng) {
     const auto picture = ByteReader(image.file.span()).bytesAt(image.entry.imageOffset, stated);
-    if (!isWholePng(picture)) tell({image.index, "bytes", text(stated), kNothingTold, "incomplete"});
+    if (!isWholePng(picture)) report({image.index, "bytes", text(stated), kNothingStated, "incomplete"});
   } else if (const auto needed = image.header->bytesNeeded(image.header->paletteStated()); stated < needed) {
-    tell({image.index, "bytes", text(stated), text(needed)});
+    report({image.index, "bytes", text(stated), text(needed)});
   }
 }
 
 // Nothing of such an image is shown. One that ends inside is reported by its bytes.
-void findDamagedPng(const Inspection& image, const DiscrepancySink& tell) {
+void findDamagedPng(const Inspection& image, const DiscrepancySink& report) {
   if (image.sharesBytes || !isPngImage(image.file, image.entry)) return;
   if (image.header &&
       !isWholePng(ByteReader(image.file.span()).bytesAt(image.entry.imageOffset, image.entry.bytesInRes)))
     return;
   const IconEntry shown = shownEntry(image.file, image.entry);
   const DecodedIcon decoded = decodePngEntry(image.file, shown, sideOf(shown.width), sideOf(shown.height));
-  if (decoded.defect == IconDefect::DamagedPng) tell({image.index, "png", kNothingTold, kNothingTold, "damaged"});
+  if (decoded.defect == IconDefect::DamagedPng) report({image.index, "png", kNothingStated, kNothingStated, "damaged"});
 }
 
-void findWrongPlace(const Inspection& image, const DiscrepancySink& tell) {
+void findWrongPlace(const Inspection& image, const DiscrepancySink& report) {
   const std::uint64_t end = std::uint64_t{image.entry.imageOffset} + image.entry.bytesInRes;
   const std::size_t directoryEnd =
       ico::kDirSize + static_cast<std::size_t>(image.file.directory.count) * ico::kEntrySize;
   if (image.entry.imageOffset < directoryEnd)
-    tell({image.index, "offset", text(image.entry.imageOffset), kNothingTold, text(directoryEnd)});
-  if (end > image.fileSize()) tell({image.index, "end", text(end), kNothingTold, text(image.fileSize())});
+    report({image.index, "offset", text(image.entry.imageOffset), kNothingStated, text(directoryEnd)});
+  if (end > image.fileSize()) report({image.index, "end", text(end), kNothingStated, text(image.fileSize())});
 }
 
-void findStrayIndex(const Inspection& image, const DiscrepancySink& tell) {
+void findStrayIndex(const Inspection& image, const DiscrepancySink& report) {
   if (!image.isBitmap() || image.sharesBytes) return;
   const auto highest = highestIndex(image.file, image.entry, *image.header);
   if (highest && *highest >= image.header->colorsUsed)
-    tell({image.index, "pixels", kNothingTold, text(image.header->colorsUsed), text(*highest)});
+    report({image.index, "pixels", kNothingStated, text(image.header->colorsUsed), text(*highest)});
 }
 
 // The editor opens such pixels opaque.
-void findMaskBesideAlpha(const Inspection& image, const DiscrepancySink& tell) {
+void findMaskBesideAlpha(const Inspection& image, const DiscrepancySink& report) {
   if (!image.isBitmap() || image.sharesBytes) return;
   if (const int count = countOpenedOpaque(image.file, image.entry, *image.header); count > 0)
-    tell({image.index, "alpha", kNothingTold, kNothingTold, text(count)});
+    report({image.index, "alpha", kNothingStated, kNothingStated, text(count)});
 }
 
-void findStrayHotspot(const Inspection& image, const DiscrepancySink& tell) {
+void findStrayHotspot(const Inspection& image, const DiscrepancySink& report) {
   if (!image.file.isCursor()) return;
   const int width = sideOf(image.entry.width), height = sideOf(image.entry.height);
   if (image.entry.hotspotX() >= width)
-    tell({image.index, "hotspotX", text(image.entry.hotspotX()), kNothingTold, text(width)});
+    report({image.index, "hotspotX", text(image.entry.hotspotX()), kNothingStated, text(width)});
   if (image.entry.hotspotY() >= height)
-    tell({image.index, "hotspotY", text(image.entry.hotspotY()), kNothingTold, text(height)});
+    report({image.index, "hotspotY", text(image.entry.hotspotY()), kNothingStated, text(height)});
 }
 
 constexpr std::array kRules{findOtherSize,  findOtherDepth, findMissingBytes,    findDamagedPng,
                             findWrongPlace, findStrayIndex, findMaskBesideAlpha, findStrayHotspot};
 
-void tellRelation(int index, const char* what, int other, const DiscrepancySink& tell) {
-  if (other >= 0) tell({index, what, "image " + text(other)});
+void reportRelation(int index, const char* what, int other, const DiscrepancySink& report) {
+  if (other >= 0) report({index, what, "image " + text(other)});
 }
 
 }  // namespace
 
-void findDiscrepancies(const IconFile& file, const DiscrepancySink& tell) {
+void findDiscrepancies(const IconFile& file, const DiscrepancySink& report) {
   const int count = wholeEntries(file);
-  if (count < file.directory.count) tell({-1, "count", text(file.directory.count), kNothingTold, text(count)});
+  if (count < file.directory.count) report({-1, "count", text(file.directory.count), kNothingStated, text(count)});
   const std::vector<int> sharing = entriesSharedWith(file, count);
   const std::vector<int> alike = entriesLike(file, count);
   for (int i = 0; i < count; ++i) {
     const IconEntry entry = file.entry(i);
     const auto at = static_cast<std::size_t>(i);
     const Inspection image{file, i, entry, readImageHeader(file, entry), sharing[at] >= 0};
-    for (const auto rule : kRules) rule(image, tell);
-    tellRelation(i, "shared", sharing[at], tell);
-    tellRelation(i, "same", alike[at], tell);
+    for (const auto rule : kRules) rule(image, report);
+    reportRelation(i, "shared", sharing[at], report);
+    reportRelation(i, "same", alike[at], report);
   }
 }
 

@@ -10,21 +10,21 @@
 
 namespace gp::cli {
 
-inline constexpr const char* kNothingTold = "-";
+inline constexpr const char* kNothingStated = "-";
 
 struct Discrepancy {
   int index = -1;  // of the entry, -1 for the file as a whole
   const char* what = "";
   // The value that each of the three states.
-  std::string directory = kNothingTold;
-  std::string header = kNothingTold;
-  std::string pixels = kNothingTold;
+  std::string directory = kNothingStated;
+  std::string header = kNothingStated;
+  std::string pixels = kNothingStated;
 };
 
 // Receives them one by one: a file can have more than fit into memory.
 using DiscrepancySink = std::function<void(const Discrepancy&)>;
 // Reports discrepancies in the order of the entries. `file` must be read completely. Entries that share bytes or are
 // alike are each reported once.
-void findDiscrepancies(const IconFile& file, const DiscrepancySink& tell);
+void findDiscrepancies(const IconFile& file, const DiscrepancySink& report);
 
 }  // namespace gp::cli

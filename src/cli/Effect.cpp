@@ -2,6 +2,7 @@
 #include "cli/EffectOptions.h"
 #include "cli/OneImage.h"
 #include "cli/Subcommands.h"
+#include "effects/Resize.h"
 
 namespace gp::cli {
 namespace {
@@ -13,7 +14,9 @@ int makeEffect(const EffectRow& effect, const EffectValues& values, const ImageA
     complain(arguments.input, refusal.text);
     return kRefused;
   }
-  return writeIcon(effect.apply(loaded->icon, values), loaded->record, arguments.output);
+  const IconImage result = effect.apply(loaded->icon, values);
+  const IconContainerRec record = effect.changesSize ? recordOfResized(loaded->record, result) : loaded->record;
+  return writeIcon(result, record, arguments.output);
 }
 
 }  // namespace

@@ -90,6 +90,12 @@ std::optional<int> valueOf(const Setting& setting, const GivenOptions& options) 
   return takesValue(setting) ? valueOfText(setting, given->second) : 1;
 }
 
+// Adds a value to those before it, "RRGGBB|N", unless it is there.
+void addAlternative(std::string& alternatives, const std::string& value) {
+  if (("|" + alternatives + "|").find("|" + value + "|") != std::string::npos) return;
+  alternatives += (alternatives.empty() ? "" : "|") + value;
+}
+
 std::string optionText(const Setting& setting) {
   const std::string value = placeholderOf(setting);
   return "--" + std::string(setting.option) + (value.empty() ? "" : " " + value);
@@ -140,8 +146,12 @@ std::optional<EffectValues> valuesOf(const EffectRow& effect, const GivenOptions
 }
 
 std::string effectUsage() {
+  // Effects may take different values after the same option.
+  std::map<std::string, std::string> values;
+  for (const EffectRow* effect : commandLineEffects())
+    for (const Setting& setting : effect->settings) addAlternative(values[setting.option], placeholderOf(setting));
   std::string usage;
-  for (const auto& [name, setting] : allOptions()) usage += " [" + optionText(*setting) + "]";
+  for (const auto& [name, value] : values) usage += " [--" + name + (value.empty() ? "" : " " + value) + "]";
   return usage;
 }
 

@@ -5,6 +5,7 @@
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
+#include "drawing/UndoHistory.h"
 #include "effects/EffectTexts.h"
 #include "platform/ports/MessageBoxes.h"
 #include "platform/ports/MessagePump.h"
@@ -47,6 +48,11 @@ void ConfinePanel::doConfineColors(int run) {
 
 // The icon may be another one than the panel was opened for.
 bool ConfinePanel::mayProceed() { return EffectPanel::mayProceed() && !hasFewColors(run_); }
+
+void ConfinePanel::recordStep() {
+  frame().history().clearUndoHistory();
+  EffectPanel::recordStep();
+}
 
 bool ConfinePanel::hasFewColors(int run) {
   int colors = 0;

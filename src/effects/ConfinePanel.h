@@ -40,7 +40,8 @@ class ConfinePanel final : public EffectPanel {
  protected:
   IconImage apply(const IconImage& icon) const override;
   bool mayProceed() override;
-  bool isStep() const override { return false; }
+  // Earlier steps cannot be undone either.
+  void recordStep() override;
 
  private:
   bool hasFewColors(int run);

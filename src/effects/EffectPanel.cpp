@@ -43,8 +43,9 @@ void EffectPanel::proceed() {
   }
   frame_.context().display.announce(news::kApplied);
   // Recording pumps messages, so it comes after the panel is closed.
-  if (!isStep()) frame_.history().clearUndoHistory();
-  frame_.history().recordUndo();
+  recordStep();
 }
+
+void EffectPanel::recordStep() { frame_.history().recordUndo(); }
 
 }  // namespace gp

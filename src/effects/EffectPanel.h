@@ -40,8 +40,8 @@ class EffectPanel {
   virtual void drawSamples() {}
   // Whether the Current Icon takes the effect; if not, shows the reason.
   virtual bool mayProceed() { return frame_.mayApply(); }
-  // Whether Proceed is a step of Undo. If not, earlier steps cannot be undone either.
-  virtual bool isStep() const { return true; }
+  // Makes what Proceed did a step of Undo. May let events in.
+  virtual void recordStep();
 
   // Shows the panel with its samples.
   void show();

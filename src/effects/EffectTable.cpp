@@ -10,7 +10,7 @@ extern const EffectRow kButtonize, kEmbossed, kEngraved, kRaised, kShadowed, kDi
 extern const EffectRow kSphere, kGradient;
 extern const EffectRow kBrightness, kSharpenSoften, kColorTheme, kAntialias, kCast, kGrayscale, kInvert, kSwapElements;
 extern const EffectRow kBlend, kTexture;
-extern const EffectRow kSharpen, kSoften, kSwap;
+extern const EffectRow kSharpen, kSoften, kSwap, kResize;
 
 namespace {
 
@@ -41,7 +41,7 @@ constexpr const EffectRow* kEffects[] = {
 };
 
 // Effects of gpicon only, whose side panel has another row.
-constexpr const EffectRow* kWithoutPanel[] = {&kSharpen, &kSoften, &kSwap};
+constexpr const EffectRow* kWithoutPanel[] = {&kSharpen, &kSoften, &kSwap, &kResize};
 
 const EffectRow* firstOf(auto&& effects, auto matches) {
   const auto found = std::ranges::find_if(effects, [&](const EffectRow* effect) { return matches(*effect); });

@@ -32,7 +32,8 @@ struct EffectPanelPlace {
 // The side panel of effects that do not name another one.
 inline constexpr EffectPanelPlace kSharedPanel{13, "picEffectsSample", "lblEffectsSample"};
 
-// Returns the icon with the effect. `values` are those of the row's settings; the result has the size of `icon`.
+// Returns the icon with the effect. `values` are those of the row's settings. The result has the size of `icon` unless
+// the row says otherwise.
 using EffectFunction = IconImage (*)(const IconImage& icon, const EffectValues& values);
 
 // Why an icon does not take an effect; without a text when it takes it.
@@ -54,6 +55,7 @@ struct EffectRow {
   EffectFunction apply = nullptr;   // null for an effect that the program does not have yet
   EffectRefusal refusal = nullptr;  // null for an effect that every icon takes with all values
   bool needsOption = false;         // gpicon takes the effect only with at least one of its options
+  bool changesSize = false;         // the result has another size than the icon
 };
 
 // Why the icon does not take the effect with these values.

@@ -5,6 +5,7 @@
 #include "effects/BrightnessPanel.h"
 #include "effects/ConfinePanel.h"
 #include "effects/GradientPanel.h"
+#include "effects/ResizePanel.h"
 #include "effects/SettingsPanel.h"
 #include "effects/SpherePanel.h"
 #include "effects/TexturePanel.h"
@@ -20,6 +21,7 @@ Effects::Effects(const Context& context, Document& document, Drawing& drawing, c
   panels_.push_back(std::make_unique<BrightnessPanel>(frame_));
   panels_.push_back(std::make_unique<ThemePanel>(frame_, ports.dialog));
   panels_.push_back(std::make_unique<ConfinePanel>(frame_));
+  panels_.push_back(std::make_unique<ResizePanel>(frame_));
   panels_.push_back(std::make_unique<SpherePanel>(frame_, ports.dialog));
   panels_.push_back(std::make_unique<GradientPanel>(frame_, ports.dialog));
   panels_.push_back(std::make_unique<BlendPanel>(frame_));

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "effects/ConfinePanel.h"
+#include "effects/ResizePanel.h"
 #include "shell/Shell.h"
 
 #include <type_traits>
@@ -32,6 +33,9 @@ inline MultiIconCommands& ownerIn(Shell& shell, std::type_identity<MultiIconComm
   return shell.files().multiIcon;
 }
 inline Effects& ownerIn(Shell& shell, std::type_identity<Effects>) { return shell.effects(); }
+inline ResizePanel& ownerIn(Shell& shell, std::type_identity<ResizePanel>) {
+  return shell.effects().panel<ResizePanel>();
+}
 inline Enquiry& ownerIn(Shell& shell, std::type_identity<Enquiry>) { return shell.output().enquiry; }
 
 template <class Method>

@@ -3,6 +3,7 @@
 #include "document/EditState.h"
 #include "document/Messages.h"
 #include "document/PanelNumbers.h"
+#include "effects/Resize.h"
 #include "platform/ports/Clipboard.h"
 #include "shell/Shell.h"
 
@@ -31,6 +32,7 @@ const char* quietly(bool isMet) { return isMet ? kMet : kQuietly; }
 
 const char* always(const Shell&, int) { return kMet; }
 const char* icon(const Shell& shell, int) { return iconWith(shell, true); }
+const char* iconToResize(const Shell& shell, int) { return record(shell).present ? kMet : kNotOfSuitableSize.text; }
 const char* iconQuietly(const Shell& shell, int) { return quietly(record(shell).present); }
 
 const char* multiIconFile(const Shell& shell, int) { return iconWith(shell, record(shell).fromMultiIconFile); }

@@ -11,6 +11,7 @@ namespace needs {
 const char* always(const Shell& shell, int index);
 const char* icon(const Shell& shell, int index);
 const char* iconQuietly(const Shell& shell, int index);
+const char* iconToResize(const Shell& shell, int index);
 const char* multiIconFile(const Shell& shell, int index);
 const char* singleIconFile(const Shell& shell, int index);
 const char* cursorSize(const Shell& shell, int index);

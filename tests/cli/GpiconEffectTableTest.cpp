@@ -36,6 +36,13 @@ std::string listed(const std::vector<std::string>& words) {
   return text;
 }
 
+// What the usage offers behind an option, each alternative between bars: "|RRGGBB|16|24|", "||" for nothing.
+std::string valuesInUsage(const std::string& usage, const std::string& option) {
+  const std::size_t begin = usage.find("[" + option) + option.size() + 1;
+  const std::string values = usage.substr(begin, usage.find(']', begin) - begin);
+  return "|" + (values.empty() ? values : values.substr(1)) + "|";
+}
+
 class GpiconEffectTable : public GpiconOneImage {
  protected:
   std::string write(const IconImage& icon) const { return folder.write("in.ico", build(entryOf(pictureOf(icon)))); }
@@ -175,14 +182,13 @@ TEST_F(GpiconEffectTable, AlphaIsRefused) {
 }
 
 TEST_F(GpiconEffectTable, TheHelpNamesEveryEffectAndItsOptions) {
-  const std::string help = run({"--help"}).out;
+  const std::string help = run({"--help"}).out, usage = run({"help", "effect"}).out;
   for (const EffectRow* effect : commandLineEffects()) {
     EXPECT_NE(help.find("\n  " + std::string(effect->name) + " "), std::string::npos) << effect->name;
     EXPECT_NE(help.find(effect->help), std::string::npos) << effect->name;
     for (const Setting& setting : effect->settings) {
       const std::string option = "--" + std::string(setting.option);
-      const std::string value = setting.kind == SettingKind::Flag ? "" : " " + placeholderOf(setting);
-      EXPECT_NE(help.find(" [" + option + value + "]"), std::string::npos) << option;
+      EXPECT_NE(valuesInUsage(usage, option).find("|" + placeholderOf(setting) + "|"), std::string::npos) << option;
       EXPECT_NE(help.find(setting.help), std::string::npos) << option;
     }
   }

@@ -94,6 +94,16 @@ class PanelDesk(Desk):
     def expectSample(self, picture, what, name='Sample'):
         self.expect(lambda: self.sample(name, len(picture)), look(picture), 'the sample of ' + what)
 
+    def undoAndRedo(self, before, after, what):
+        """Undoes and redoes by keys; then the icon is as after the effect."""
+        self.expectIcon(after, what)
+        assert after != before
+        self.program.command('ctrl+z')
+        self.expectIcon(before, f'the icon after {what} was undone')
+        assert not self.isPossible('Undo'), f'{what} takes more than one step'
+        self.program.command('ctrl+r')
+        self.expectIcon(after, f'{what} done again')
+
     def expect(self, see, wanted, what):
         last = []
 

@@ -129,17 +129,6 @@ def expectUntouched(desk, picture, what):
     assert not desk.isPossible('Undo'), f'{what} was given up and can be undone'
 
 
-def undoAndRedo(desk, before, after, what):
-    """Undoes and redoes by keys; then the icon is as after the effect."""
-    desk.expectIcon(after, what)
-    assert after != before
-    desk.program.command('ctrl+z')
-    desk.expectIcon(before, f'the icon after {what} was undone')
-    assert not desk.isPossible('Undo'), f'{what} takes more than one step'
-    desk.program.command('ctrl+r')
-    desk.expectIcon(after, f'{what} done again')
-
-
 def test_reliefs_are_looked_at_given_up_applied_undone_and_saved(session):
     desk = PanelDesk(session)
     for (kind, edges), size, key in zip(RELIEFS.items(), (32, 16, 48, 24), ([], ['Return'], ['space'], [])):
@@ -155,7 +144,7 @@ def test_reliefs_are_looked_at_given_up_applied_undone_and_saved(session):
 
         desk.effect(SHADES, kind)
         desk.proceed(SHADES, *key)
-        undoAndRedo(desk, picture, wanted, kind)
+        desk.undoAndRedo(picture, wanted, kind)
         desk.save(path)
         readers.assertIcons(path, [(wanted, 4)])
 
@@ -180,7 +169,7 @@ def test_a_shadow_takes_the_selected_color_where_that_is_ticked(session):
     desk.effect(SHADES, 'Shadowed')
     desk.expectSample(red, 'a shadow whose tick was left')
     desk.proceed(SHADES, 'Return')
-    undoAndRedo(desk, picture, red, 'a red shadow')
+    desk.undoAndRedo(picture, red, 'a red shadow')
 
 
 def test_buttons_of_each_style_by_menu_key_and_toolbar(session):
@@ -202,7 +191,7 @@ def test_buttons_of_each_style_by_menu_key_and_toolbar(session):
         desk.waitForPanel(BUTTONIZE)
         desk.expectSample(wanted, 'the style of before')
         desk.proceed(BUTTONIZE)
-        undoAndRedo(desk, picture, wanted, f'style {style}')
+        desk.undoAndRedo(picture, wanted, f'style {style}')
         desk.save(path)
         readers.assertIcons(path, [(wanted, bits)])
 
@@ -218,7 +207,7 @@ def test_a_disabled_image_is_given_up_applied_undone_and_saved(session):
         expectUntouched(desk, picture, 'a disabled image')
     desk.effect(DISABLED, DISABLED_MENU)
     desk.proceed(DISABLED, 'Return')
-    undoAndRedo(desk, picture, wanted, 'a disabled image')
+    desk.undoAndRedo(picture, wanted, 'a disabled image')
     desk.save(path)
     readers.assertIcons(path, [(wanted, 4)])
 
@@ -227,7 +216,7 @@ def test_a_disabled_image_is_given_up_applied_undone_and_saved(session):
     desk.effect(DISABLED, DISABLED_MENU)
     desk.expectSample(blank(16), 'a pale icon')
     desk.proceed(DISABLED)
-    undoAndRedo(desk, pale, blank(16), 'the disabled image of a pale icon')
+    desk.undoAndRedo(pale, blank(16), 'the disabled image of a pale icon')
 
 
 # Refused and interrupted ---------------------------------------------------------------------------------------------
@@ -268,7 +257,7 @@ def test_a_panel_follows_the_icon_that_is_opened_while_it_is_up(session):
     assert desk.isUp(SHADES)
     desk.expectSample(wanted, 'the other icon')
     desk.proceed(SHADES)
-    undoAndRedo(desk, picture, wanted, 'a relief of the other icon')
+    desk.undoAndRedo(picture, wanted, 'a relief of the other icon')
     desk.save(path)
     readers.assertIcons(path, [(wanted, 4)])
 
@@ -305,7 +294,7 @@ def test_clicks_in_quick_succession_change_nothing_and_a_double_click_on_proceed
     proceed = desk.program.centre(desk.program.need('Proceed'))
     desk.clickAtOnce(proceed, proceed)
     desk.waitForNoPanel(SHADES)
-    undoAndRedo(desk, picture, relief(picture, *RELIEFS['Raised']), 'a relief')
+    desk.undoAndRedo(picture, relief(picture, *RELIEFS['Raised']), 'a relief')
 
 
 # By keyboard ---------------------------------------------------------------------------------------------------------
@@ -330,7 +319,7 @@ def test_a_button_is_made_by_keyboard_alone(session):
     desk.program.wait(lambda: desk.isFocusedOn(STYLE, 'combo box'), 'the list by its access key')
     desk.expectSample(button(picture, '2'), 'style 2')
     desk.proceed(BUTTONIZE, 'Return')
-    undoAndRedo(desk, picture, button(picture, '2'), 'style 2')
+    desk.undoAndRedo(picture, button(picture, '2'), 'style 2')
 
     desk.program.menuByKeys('alt+c', 'w')
     desk.waitForPanel(SHADES)

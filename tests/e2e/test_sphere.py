@@ -34,11 +34,11 @@ def test_a_sphere_is_lit_by_mouse_and_keys_applied_and_undone(session):
     desk.effect(SPHERE, SPHERE_MENU)
     before = desk.sample(LIGHT, SAMPLE)
     session.click(pixelOf(desk, LIGHT, SAMPLE, 20, 24))
-    desk.program.wait(lambda: desk.program.value(LIGHT, role='image') == '20, 24', 'the point to be told')
+    desk.program.wait(lambda: desk.program.value(LIGHT, role='image') == '20, 24', 'the point to be spoken')
     clicked = desk.sample(LIGHT, SAMPLE)
     assert clicked != before
     desk.program.command('Left', 'Up', 'Return')
-    desk.program.wait(lambda: desk.program.value(LIGHT, role='image') == '19, 23', 'the other point to be told')
+    desk.program.wait(lambda: desk.program.value(LIGHT, role='image') == '19, 23', 'the other point to be spoken')
     desk.program.wait(lambda: desk.sample(LIGHT, SAMPLE)[10][10] != clicked[10][10], 'the sample to change')
     session.click(pixelOf(desk, LIGHT, SAMPLE, 0, 0))
     desk.program.answerBox(OFF_SPHERE)
@@ -75,7 +75,7 @@ def test_a_gradient_is_centred_by_mouse_applied_and_undone(session):
     desk.effect(GRADIENT, GRADIENT_MENU)
     desk.program.press('Spherical', role='radio button')
     session.click(pixelOf(desk, CENTER, 16, 2, 13))
-    desk.program.wait(lambda: desk.program.value(CENTER, role='image') == '2, 13', 'the point to be told')
+    desk.program.wait(lambda: desk.program.value(CENTER, role='image') == '2, 13', 'the point to be spoken')
     desk.program.press('Swap 1st & 2nd colors')
     shown = desk.sample('Sample', 16)
     assert shown[13][2] != shown[0][15]

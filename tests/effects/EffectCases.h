@@ -36,24 +36,7 @@ inline std::vector<const EffectRow*> allEffects() {
   return effects;
 }
 
-// Icons of one size: without a painted pixel, painted all over in shades, and two mixtures of painted, transparent and
-// inverting pixels. The same in every run.
-inline std::vector<IconImage> generatedIcons(int size) {
-  IconImage full = transparentIcon(size), sparse = full, dense = full;
-  std::mt19937 numbers(20261122);
-  const auto below = [&numbers](int end) { return static_cast<int>(numbers() % static_cast<unsigned>(end)); };
-  for (int y = 0; y < size; ++y)
-    for (int x = 0; x < size; ++x) {
-      full.image.SetPixelV(x, y, rgb(x * 5, y * 5, (x + y) * 2));
-      full.mask.SetPixelV(x, y, kBlack);
-      for (const auto& [icon, tenths] : {std::pair{&sparse, 2}, std::pair{&dense, 7}}) {
-        const bool isPainted = below(10) < tenths, isInverting = below(10) == 0;
-        if (isPainted || isInverting) icon->image.SetPixelV(x, y, rgb(below(256), below(256), below(256)));
-        if (isPainted) icon->mask.SetPixelV(x, y, kBlack);
-      }
-    }
-  return {transparentIcon(size), full, sparse, dense};
-}
+inline std::vector<IconImage> generatedIcons(int size);
 
 // A picture in many colours, of the size of a pattern.
 inline Surface customPattern() {
@@ -94,6 +77,11 @@ inline std::vector<int> valuesToTry(const Setting& setting) {
   for (int value = lowestValue(setting); value < highestValue(setting); value += step) values.push_back(value);
   values.push_back(highestValue(setting));
   return values;
+}
+
+// The size of the result that an effect makes of an icon of that size.
+inline int sizeAfter(const EffectRow& effect, const EffectValues& values, int size) {
+  return effect.changesSize ? kIconSides.at(static_cast<std::size_t>(values.number(0))) : size;
 }
 
 // Whether the setting has a part in the result with these values.
@@ -154,6 +142,25 @@ inline std::vector<std::string> neededOptions(const EffectRow& effect, const Fil
                                                      : textOfValue(setting, setting.first));
     }
   return words;
+}
+
+// Icons of one size: without a painted pixel, painted all over in shades, and two mixtures of painted, transparent and
+// inverting pixels. The same in every run.
+inline std::vector<IconImage> generatedIcons(int size) {
+  IconImage full = transparentIcon(size), sparse = full, dense = full;
+  std::mt19937 numbers(20261122);
+  const auto below = [&numbers](int end) { return static_cast<int>(numbers() % static_cast<unsigned>(end)); };
+  for (int y = 0; y < size; ++y)
+    for (int x = 0; x < size; ++x) {
+      full.image.SetPixelV(x, y, rgb(x * 5, y * 5, (x + y) * 2));
+      full.mask.SetPixelV(x, y, kBlack);
+      for (const auto& [icon, tenths] : {std::pair{&sparse, 2}, std::pair{&dense, 7}}) {
+        const bool isPainted = below(10) < tenths, isInverting = below(10) == 0;
+        if (isPainted || isInverting) icon->image.SetPixelV(x, y, rgb(below(256), below(256), below(256)));
+        if (isPainted) icon->mask.SetPixelV(x, y, kBlack);
+      }
+    }
+  return {transparentIcon(size), full, sparse, dense};
 }
 
 inline bool samePixels(const Surface& a, const Surface& b) {

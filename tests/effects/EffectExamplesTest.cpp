@@ -46,6 +46,7 @@ const Example kExamples[] = {
     {"gradient", {0, kWhite, kWhite, 0, kMiddlePoint}, {"...", ".o.", "..^"}, {"www", "wow", "www"}},
     {"blend", withPictures({0, 50}, {iconOf({"ww", "w."})}), {"o.", "^o"}, {"Aw", "wo"}},
     {"texture", withPictures({3, 5, 0}, {{smallPattern(), Surface(), {}}}), {"g.", "^g"}, {"B.", "^C"}},
+    {"resize", {0, 0}, flatRows(32, 32, 'o'), flatRows(16, 16, 'o')},
     {"sphere", {kWhite, pointValue(16, 16), 2, 0}, flatRows(16, 16, 'o'), kWhiteDisc},
 };
 

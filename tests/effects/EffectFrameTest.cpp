@@ -13,7 +13,7 @@ class EffectFrameTest : public testing::Test, protected Rooms {
   EffectFrame frame{context, document, drawing.history};
 };
 
-TEST_F(EffectFrameTest, AMaskOfOneColorAndOneOfTwoAreToldApart) {
+TEST_F(EffectFrameTest, AMaskOfOneColorAndOneOfTwoAreDistinguished) {
   Surface mask(4, 3, kWhite);
   EXPECT_EQ(frame.countMaskColors(mask), 1);
   mask.SetPixelV(3, 2, kBlack);

@@ -87,17 +87,18 @@ TEST(EffectTable, TheListOfASettingOffersAllowedValuesAndStartsWithTheFirst) {
     }
 }
 
-TEST(EffectTable, AnEffectKeepsTheSizeAndLeavesTheIconAsItIs) {
+TEST(EffectTable, TheResultHasTheSizeOfTheRowAndTheIconStaysAsItIs) {
   for (const EffectRow* effect : allEffects())
     for (const int size : kIconSides)
       for (const IconImage& icon : generatedIcons(size)) {
         const IconImage before = icon;
         for (const EffectValues& values : valuesToTry(*effect)) {
           const IconImage result = effect->apply(icon, values);
-          EXPECT_EQ(result.width(), size) << effect->name;
-          EXPECT_EQ(result.height(), size) << effect->name;
-          EXPECT_EQ(result.mask.width(), size) << effect->name;
-          EXPECT_EQ(result.mask.height(), size) << effect->name;
+          const int after = sizeAfter(*effect, values, size);
+          EXPECT_EQ(result.width(), after) << effect->name;
+          EXPECT_EQ(result.height(), after) << effect->name;
+          EXPECT_EQ(result.mask.width(), after) << effect->name;
+          EXPECT_EQ(result.mask.height(), after) << effect->name;
           EXPECT_FALSE(result.hasAlphaValues()) << effect->name;
           EXPECT_TRUE(samePixels(effect->apply(icon, values), result)) << effect->name;
         }

@@ -2,6 +2,7 @@
 // channels.
 #include "effects/Brightness.h"
 #include "effects/ColorTheme.h"
+#include "effects/EffectCases.h"
 #include "effects/HueLightness.h"
 #include "effects/Pictures.h"
 
@@ -145,9 +146,10 @@ TEST(Tone, PicturesOfAnySizeAreTaken) {
   for (const OddSize& size : kOddSizes)
     for (const EffectRow* effect : commandLineEffects()) {
       const IconImage icon{Surface(size.width, size.height, kWhite), Surface(size.width, size.height, kBlack), {}};
-      const IconImage result = effect->apply(icon, firstValues(effect->settings));
-      EXPECT_EQ(result.width(), size.width) << effect->name;
-      EXPECT_EQ(result.height(), size.height) << effect->name;
+      const EffectValues values = firstValues(effect->settings);
+      const IconImage result = effect->apply(icon, values);
+      EXPECT_EQ(result.width(), sizeAfter(*effect, values, size.width)) << effect->name;
+      EXPECT_EQ(result.height(), sizeAfter(*effect, values, size.height)) << effect->name;
     }
 }
 

@@ -166,6 +166,8 @@ struct Need {
   bool (*isMet)(const Facts& facts, int index);
   const char* text;
 };
+inline constexpr Need kNeedsIconToResize{[](const Facts& f, int) { return f.icon; },
+                                         "No icon in Editing Area yet or not of suitable size."};
 inline constexpr Need kNeedsIcon{[](const Facts& f, int) { return f.icon; }, "No icon in Editing Area yet"};
 
 // The needs of the commands of a control, in the order in which they are checked.
@@ -217,6 +219,8 @@ inline const std::vector<CommandNeed> kCommandNeeds{
       {[](const Facts& f, int index) { return index != f.current; }, ""}}},
     {"mnuRotateSubmenu", {0, 1, 2, 3, 4}, {kNeedsIcon}},
     {"mnuEffectsSub", effectIndices(), {kNeedsIcon}},
+    {"mnuEffectsSub1", {0, 1, 2}, {kNeedsIconToResize}},
+    {"mnuEffectsSub2", {0, 1, 2}, {kNeedsIconToResize}},
     {"mnuEffectsSub3", {0, 1, 2}, {kNeedsIcon}},
     {"mnuBrushSize", {0, 1, 2, 3, 4, 5}, {}},
     {"mnuPaletteSub", {0, 1, 2, 4, 5}, {}},

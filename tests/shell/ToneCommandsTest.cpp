@@ -153,24 +153,26 @@ TEST_F(ToneCommands, ThePercentageOfAThemeActsWithHueZeroOnly) {
   EXPECT_EQ(shown(theme()), rgb(0, 0, 200));
 }
 
-TEST_F(ToneCommands, TheOriginalEntryOfSharpenIsNoChange) {
-  startWithPixel(rgb(200, 101, 8));
-  click("mnuEffectsSub", kSharpenEntry);
-  ASSERT_EQ(panel(), kSharpenPanel);
-  EXPECT_EQ(choice(kSharpenPanel), 2);
-  expectUnchanged("No change actually made", BoxIcon::Exclamation, kSharpenPanel);
-  choose(kSharpenPanel, 1);
-  expectApplied(rgb(200, 101, 8), rgb(255, 152, 12));
-}
-
-TEST_F(ToneCommands, ASwapMustBeChosen) {
-  startWithPixel(rgb(200, 101, 8));
-  click("mnuEffectsSub", kSwapEntry);
-  ASSERT_EQ(panel(), kSwapPanel);
-  EXPECT_EQ(choice(kSwapPanel), 0);
-  expectUnchanged("No swap selected yet.", BoxIcon::None, kSwapPanel);
-  choose(kSwapPanel, 1);
-  expectApplied(rgb(200, 101, 8), rgb(8, 101, 200));
+TEST_F(ToneCommands, TheOriginalEntryIsNoChangeAndAnotherOneIsApplied) {
+  struct Case {
+    int entry, panel, original;
+    const char* refusal;
+    BoxIcon icon;
+    Color after;
+  };
+  const Case cases[] = {
+      {kSharpenEntry, kSharpenPanel, 2, "No change actually made", BoxIcon::Exclamation, rgb(255, 152, 12)},
+      {kSwapEntry, kSwapPanel, 0, "No swap selected yet.", BoxIcon::None, rgb(8, 101, 200)}};
+  for (const Case& one : cases) {
+    startWithPixel(rgb(200, 101, 8));
+    click("mnuEffectsSub", one.entry);
+    ASSERT_EQ(panel(), one.panel);
+    EXPECT_EQ(choice(one.panel), one.original);
+    expectUnchanged(one.refusal, one.icon, one.panel);
+    choose(one.panel, 1);
+    expectApplied(rgb(200, 101, 8), one.after);
+    state.current().modified = false;
+  }
 }
 
 TEST_F(ToneCommands, CastStartsInTheMiddleAndIsAppliedAsItIs) {

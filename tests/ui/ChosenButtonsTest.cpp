@@ -1,4 +1,4 @@
-// Checks that chosen and pressed buttons can be told from the others.
+// Checks that chosen and pressed buttons differ from the others.
 #include "platform/qt/widgets/PictureButton.h"
 #include "ui/Contrast.h"
 #include "ui/FormFixture.h"
@@ -30,7 +30,7 @@ int pixelsVisibleOn(const QImage& image, const QColor& ground) {
   return count;
 }
 
-// `visible` is the number of pixels of the picture that can be told from the tile.
+// `visible` is the number of pixels of the picture that differ visibly from the tile.
 void expectChosenLook(QWidget& button, int visible) {
   const QImage image = seen(button);
   const QColor window = button.palette().color(QPalette::Window), fill = fillOf(image);

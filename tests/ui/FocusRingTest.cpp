@@ -128,7 +128,7 @@ TEST(FocusRing, EveryKindOfControlHasTheSameRingInEveryTheme) {
   QApplication::setPalette(before);
 }
 
-TEST(FocusRing, AnAccentThatCannotBeToldFromTheWindowIsChangedUntilItCan) {
+TEST(FocusRing, AnAccentTooNearToTheWindowIsChangedUntilItIsNot) {
   for (const int lightness : {0, 53, 128, 239, 255}) {
     QPalette palette = test::paletteOf(lightness);
     for (const QColor accent : {palette.color(QPalette::Window), QColor(Qt::yellow), QColor(Qt::darkBlue)}) {

@@ -35,7 +35,8 @@ class LargeFonts : public test::FormFixture {
       {"rotate", "mnuRotateSubmenu", 4},    {"cursor", "mnuFileSub", 18},        {"sphere", "mnuEffectsSub", 2},
       {"gradient", "mnuEffectsSub", 4},     {"brightness", "mnuEffectsSub", 6},  {"sharpen", "mnuEffectsSub", 7},
       {"antialias", "mnuEffectsSub", 8},    {"theme", "mnuEffectsSub", 9},       {"cast", "mnuEffectsSub", 16},
-      {"swap", "mnuEffectsSub", 20},        {"blend", "mnuEffectsSub", 23},      {"texture", "mnuEffectsSub", 24}};
+      {"swap", "mnuEffectsSub", 20},        {"blend", "mnuEffectsSub", 23},      {"texture", "mnuEffectsSub", 24},
+      {"resize", "mnuEffectsSub1", 2}};
 
   void trigger(const char* control, int index) {
     find<QAction>(QString("%1(%2)").arg(control).arg(index))->trigger();

@@ -5,6 +5,7 @@
 #include "effects/ConfinePanel.h"
 #include "effects/Effects.h"
 #include "effects/GradientPanel.h"
+#include "effects/ResizePanel.h"
 #include "effects/SettingsPanel.h"
 #include "effects/SpherePanel.h"
 #include "effects/TexturePanel.h"
@@ -13,6 +14,7 @@
 #include "effects/ui/BrightnessPanelView.h"
 #include "effects/ui/ConfinePanelView.h"
 #include "effects/ui/GradientPanelView.h"
+#include "effects/ui/ResizePanelView.h"
 #include "effects/ui/SettingsPanelView.h"
 #include "effects/ui/SpherePanelView.h"
 #include "effects/ui/TexturePanelView.h"
@@ -38,7 +40,7 @@ constexpr ViewRow kRowOf{Panel::kNumber, [](QWidget* parent, const Effects& effe
 constexpr std::array kViews{kRowOf<SpherePanelView, SpherePanel>,         kRowOf<GradientPanelView, GradientPanel>,
                             kRowOf<BrightnessPanelView, BrightnessPanel>, kRowOf<ThemePanelView, ThemePanel>,
                             kRowOf<ConfinePanelView, ConfinePanel>,       kRowOf<BlendPanelView, BlendPanel>,
-                            kRowOf<TexturePanelView, TexturePanel>};
+                            kRowOf<TexturePanelView, TexturePanel>,       kRowOf<ResizePanelView, ResizePanel>};
 
 }  // namespace
 

@@ -1,4 +1,4 @@
-// How well two colours can be told apart, and colours that can.
+// How well two colours can be distinguished, and colours that can.
 #pragma once
 
 #include <QColor>
