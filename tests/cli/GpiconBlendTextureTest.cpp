@@ -198,6 +198,11 @@ TEST_F(GpiconBlendTexture, ABitmapOfAnotherKindIsNotLoaded) {
     const std::string path = bitmap(p);
     expectRefusal(textureOf(path), path + ": " + kNotLoaded);
   }
+  // Complete, but with channel masks.
+  Picture masked = patternPicture(32);
+  masked.compression = 3;
+  const std::string withMasks = bitmap(masked);
+  expectRefusal(textureOf(withMasks), withMasks + ": " + kNotLoaded);
   for (const auto& [width, height] : {std::pair{0, 48}, {48, 0}, {-48, 48}, {0, 0}}) {
     Picture p = patternPicture(24);
     p.headerWidth = width;
