@@ -88,6 +88,7 @@ TEST_F(BlendTexturePanelsTest, TheControlsOfBlendHaveTheirTextsAndNames) {
   EXPECT_EQ(labelOf(list("cboBlendIn(1)")), "Translucency %:");
   EXPECT_EQ(entries("cboBlendIn(0)"), (QStringList{"", "2", "3"}));
   EXPECT_EQ(list("cboBlendIn(0)")->currentText(), "");
+  EXPECT_EQ(list("cboBlendIn(0)")->itemData(0, Qt::AccessibleTextRole), "none");
   EXPECT_EQ(entries("cboBlendIn(1)").size(), 19);
   EXPECT_EQ(entries("cboBlendIn(1)").first(), "0");
   EXPECT_EQ(entries("cboBlendIn(1)").last(), "90");

@@ -26,6 +26,7 @@ BlendPanelView::BlendPanelView(QWidget* parent, BlendPanel& panel)
 void BlendPanelView::refresh() {
   lblBlendIn_->setText(QString::fromStdString(panel_.lblBlendIn()));
   showEntries(container_, panel_.containerEntries());
+  container_->setItemData(0, "none", Qt::AccessibleTextRole);
   container_->setCurrentIndex(panel_.containerIndex());
   percent_->setCurrentIndex(panel_.percentIndex());
 }
