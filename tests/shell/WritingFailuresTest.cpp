@@ -35,6 +35,7 @@ class AgreeingProgram {
   FakeProcesses processes_;
   FakeClipboard clipboard_;
   ScriptedPictures pictures_;
+  FakeTextDrawing text_;
   RecordingDisplay display_;
   EditState state_;
   const std::string folder_;
@@ -44,7 +45,7 @@ class AgreeingProgram {
 
   explicit AgreeingProgram(const std::string& folder)
       : folder_(folder),
-        shell(state_, Ports{boxes, dialogs, pump_, system_, processes_, clipboard_, pictures_}, display_,
+        shell(state_, Ports{boxes, dialogs, pump_, system_, processes_, clipboard_, pictures_, text_}, display_,
               foldersIn(folder)) {
     shell.attach(&form, &form);
     shell.formLoad();

@@ -6,12 +6,14 @@
 #include "effects/GradientPanel.h"
 #include "effects/SettingsPanel.h"
 #include "effects/SpherePanel.h"
+#include "effects/TextPanel.h"
 #include "effects/ThemePanel.h"
 #include "effects/ui/BrightnessPanelView.h"
 #include "effects/ui/ConfinePanelView.h"
 #include "effects/ui/GradientPanelView.h"
 #include "effects/ui/SettingsPanelView.h"
 #include "effects/ui/SpherePanelView.h"
+#include "effects/ui/TextPanelView.h"
 #include "effects/ui/ThemePanelView.h"
 
 #include <algorithm>
@@ -31,9 +33,9 @@ constexpr ViewRow kRowOf{Panel::kNumber, [](QWidget* parent, const Effects& effe
                          }};
 
 // Panels that have their own class.
-constexpr std::array kViews{kRowOf<SpherePanelView, SpherePanel>, kRowOf<GradientPanelView, GradientPanel>,
-                            kRowOf<BrightnessPanelView, BrightnessPanel>, kRowOf<ThemePanelView, ThemePanel>,
-                            kRowOf<ConfinePanelView, ConfinePanel>};
+constexpr std::array kViews{kRowOf<TextPanelView, TextPanel>,         kRowOf<SpherePanelView, SpherePanel>,
+                            kRowOf<GradientPanelView, GradientPanel>, kRowOf<BrightnessPanelView, BrightnessPanel>,
+                            kRowOf<ThemePanelView, ThemePanel>,       kRowOf<ConfinePanelView, ConfinePanel>};
 
 }  // namespace
 
