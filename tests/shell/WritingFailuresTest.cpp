@@ -3,6 +3,7 @@
 #include "files/browser/HeaderDiff.h"
 #include "files/browser/MultiIconBrowser.h"
 #include "support/CommandUnderFailures.h"
+#include "support/FakeTextDrawing.h"
 #include "support/ShellFixture.h"
 
 #include <algorithm>

@@ -15,9 +15,7 @@ class FakeTextDrawing : public TextDrawing {
  public:
   std::vector<std::string> families{"Block", "Chalk", "Dot"};
   std::vector<std::string> gone;  // listed, but not there any more
-  TextFont lastFont;
   TextLook lastLook = TextLook::Filled;
-  int lastLongest = 0;
 
   std::vector<std::string> fontFamilies() override { return families; }
   bool hasFont(const std::string& family) override { return has(families, family) && !has(gone, family); }
@@ -25,9 +23,7 @@ class FakeTextDrawing : public TextDrawing {
   int capitalHeight(const TextFont& font) override { return font.pixels * 3 / 4; }
 
   Surface drawLine(const std::string& text, const TextFont& font, TextLook look, int longest) override {
-    lastFont = font;
     lastLook = look;
-    lastLongest = longest;
     return pictureOf(text, font, look, longest);
   }
 

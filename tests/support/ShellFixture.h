@@ -49,11 +49,11 @@ class ShellFixture : public testing::Test {
   FakeProcesses processes;
   FakeClipboard clipboard;
   ScriptedPictures pictures;
-  FakeTextDrawing text;
+  FakeTextDrawing textDrawing;
   RecordingDisplay display;
   FakeForm form;
   EditState state;
-  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures, text}, display,
+  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures, textDrawing}, display,
               test::foldersIn(folder.path())};
 
   ShellFixture() { shell.attach(&form, &form); }

@@ -33,10 +33,10 @@ class FormFixture : public testing::Test {
   FakeProcesses processes;
   FakeClipboard clipboard;
   ScriptedPictures pictures;
-  QtTextDrawing text;
+  QtTextDrawing textDrawing;
   EditState state;
   QtDisplay display;
-  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures, text}, display,
+  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures, textDrawing}, display,
               test::foldersIn(folder.path())};
   std::unique_ptr<frmGPEdit> form;
 

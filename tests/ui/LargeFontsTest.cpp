@@ -34,7 +34,7 @@ class LargeFonts : public test::FormFixture {
       {"rotate", "mnuRotateSubmenu", 4},    {"cursor", "mnuFileSub", 18},        {"sphere", "mnuEffectsSub", 2},
       {"gradient", "mnuEffectsSub", 4},     {"brightness", "mnuEffectsSub", 6},  {"sharpen", "mnuEffectsSub", 7},
       {"antialias", "mnuEffectsSub", 8},    {"theme", "mnuEffectsSub", 9},       {"cast", "mnuEffectsSub", 16},
-      {"swap", "mnuEffectsSub", 20}};
+      {"swap", "mnuEffectsSub", 20},        {"text", "mnuEffectsSub", 0}};
 
   void trigger(const char* control, int index) {
     find<QAction>(QString("%1(%2)").arg(control).arg(index))->trigger();

@@ -104,10 +104,14 @@ Surface surfaceOf(const QImage& image, const QRect& part) {
 
 }  // namespace
 
+// Qt lists a family once for each foundry, and names like "Serif" for whatever family the desktop prefers.
 std::vector<std::string> QtTextDrawing::fontFamilies() {
   QStringList names = QFontDatabase::families();
   names.removeIf([](const QString& name) { return QFontDatabase::isPrivateFamily(name); });
-  std::ranges::sort(names, [](const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) < 0; });
+  std::ranges::transform(names, names.begin(), withoutFoundry);
+  names.removeIf([](const QString& name) { return !QFontDatabase::hasFamily(name); });
+  names.removeDuplicates();
+  names.sort(Qt::CaseInsensitive);
   std::vector<std::string> families;
   for (const QString& name : names) families.push_back(name.toStdString());
   return families;
@@ -117,7 +121,7 @@ std::vector<std::string> QtTextDrawing::fontFamilies() {
 bool QtTextDrawing::hasFont(const std::string& family) {
   const QString name = toText(family);
   return QFontDatabase::hasFamily(name) &&
-         QFontInfo(QFont(name)).family().compare(withoutFoundry(name), Qt::CaseInsensitive) == 0;
+         withoutFoundry(QFontInfo(QFont(name)).family()).compare(name, Qt::CaseInsensitive) == 0;
 }
 
 int QtTextDrawing::capitalHeight(const TextFont& font) {
