@@ -91,7 +91,7 @@ TEST(WriteText, ATextInPureWhiteComesOutWhite) {
     }
 }
 
-TEST(WriteText, AnyOtherColorIsKeptAlsoTheOneThatStandsForWhiteAndThoseOfTheGround) {
+TEST(WriteText, AnyOtherColorIsKeptAlsoTheOneInPlaceOfWhiteAndThatOfTheGround) {
   for (const Color color : {kBlue, kBlack, kGround, Color{0xFFFFFE}, kGrey, kLight}) {
     const IconImage text = writtenText(lineOf(kCorner), {TextStyle::Ordinary, color, 0}, 16, 16);
     EXPECT_EQ(text.image.GetPixel(0, 0), color);
@@ -166,7 +166,9 @@ struct Model {
 
   Model(int w, int h) : width(w), height(h), pixels(static_cast<std::size_t>(w * h), kWhite) {}
   bool has(int x, int y) const { return x >= 0 && y >= 0 && x < width && y < height; }
-  Color& at(int x, int y) { return pixels[static_cast<std::size_t>(y * width + x)]; }
+  Color& at(int x, int y) {
+    return pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x)];
+  }
   void printAt(const Surface& line, int x, int y, Color color) {
     for (int row = 0; row < line.height(); ++row)
       for (int column = 0; column < line.width(); ++column)
@@ -194,9 +196,10 @@ Model rotated(Model source, int angle) {
   const int side = static_cast<int>(diagonal + 2);
   Model target(side, side);
   const int reach = static_cast<int>(std::nearbyint(diagonal) + 2) / 2;
+  const int middleX = source.width / 2, middleY = source.height / 2;
   const auto copy = [&](double fromX, double fromY, int x, int y) {
-    const int sourceX = static_cast<int>(std::nearbyint(source.width / 2 + fromX));
-    const int sourceY = static_cast<int>(std::nearbyint(source.height / 2 + fromY));
+    const int sourceX = static_cast<int>(std::nearbyint(middleX + fromX));
+    const int sourceY = static_cast<int>(std::nearbyint(middleY + fromY));
     if (!source.has(sourceX, sourceY) || source.at(sourceX, sourceY) == kWhite) return;
     if (target.has(side / 2 + x, side / 2 + y)) target.at(side / 2 + x, side / 2 + y) = source.at(sourceX, sourceY);
   };
