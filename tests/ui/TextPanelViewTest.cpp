@@ -1,6 +1,7 @@
 // The panel of Text on the main form with the fonts of the system, used by mouse and keyboard.
 #include "document/Containers.h"
 #include "document/PanelNumbers.h"
+#include "document/ui/SampleView.h"
 #include "document/ui/SurfacePainting.h"
 #include "effects/EffectCases.h"
 #include "effects/Effects.h"
@@ -86,6 +87,28 @@ TEST_F(TextPanelViewTest, EachControlHasItsNameEntriesAndAPlaceInTheTabOrder) {
     key(Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget()->objectName(), name);
   }
+}
+
+TEST_F(TextPanelViewTest, LabelsAndControlsHaveTheirColumnsAndTheSampleWholeSteps) {
+  startWith(transparentIcon(48));
+  form->resize(form->minimumSize());
+  settle();
+  QWidget* side = find("fraPanel(5)");
+  const auto place = [side](QWidget* widget) { return QRect(widget->mapTo(side, QPoint()), widget->size()); };
+  for (const char* label : {"lblWriteText", "lblFontName", "lblFontSize", "lblFontStyle", "lblTextWriteStyle",
+                            "lblTextColor", "lblTextWriteAngle"})
+    EXPECT_EQ(place(find(label)).left(), 0) << label;
+  const int left = place(typing()).left();
+  for (const char* control : {"cboFontName", "cboFontSize", "imgFontStyle(0)", "cboTextWriteStyle", "cmdTextColor",
+                              "hsrTextWriteSampleAngle"})
+    EXPECT_EQ(place(find(control)).left(), left) << control;
+  for (const char* control : {"txbWriteText", "cboFontName", "cboFontSize", "cboTextWriteStyle", "lblTextAngle"})
+    EXPECT_EQ(place(find(control)).right(), side->width() - 1) << control;
+  const auto* sample = dynamic_cast<SampleView*>(find("lblTextSample"));
+  EXPECT_EQ(sample->place().width() % 48, 0);
+  EXPECT_GE(sample->place().width(), 4 * 48);
+  EXPECT_EQ(dynamic_cast<SampleView*>(find("picTextWriteAngleSample"))->place().width(), 48);
+  EXPECT_GT(place(find("lblTextSample")).top(), place(find("hsrTextWriteSampleAngle")).bottom());
 }
 
 TEST_F(TextPanelViewTest, TypingIsShownInTheSampleAtOnce) {
