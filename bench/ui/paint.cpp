@@ -8,6 +8,7 @@
 #include "platform/qt/QtPictureLoader.h"
 #include "platform/qt/QtProcesses.h"
 #include "platform/qt/QtSystemInfo.h"
+#include "platform/qt/QtTextDrawing.h"
 #include "shell/Shell.h"
 #include "shell/ui/frmGPEdit.h"
 #include "support/FoldersIn.h"
@@ -62,10 +63,11 @@ class Program {
   gp::QtProcesses processes_;
   gp::QtClipboard clipboard_;
   gp::QtPictureLoader pictures_;
+  gp::QtTextDrawing text_;
   gp::EditState state_;
   gp::QtDisplay display_;
   gp::Shell shell_{state_,
-                   {boxes_, dialogs_, pump_, system_, processes_, clipboard_, pictures_},
+                   {boxes_, dialogs_, pump_, system_, processes_, clipboard_, pictures_, text_},
                    display_,
                    gp::test::foldersIn(folder_.path().toStdString())};
   gp::frmGPEdit form_{shell_, display_, ""};

@@ -14,6 +14,7 @@
 #include "platform/qt/QtPictureLoader.h"
 #include "platform/qt/QtProcesses.h"
 #include "platform/qt/QtSystemInfo.h"
+#include "platform/qt/QtTextDrawing.h"
 #include "shell/Shell.h"
 #include "shell/StartUp.h"
 #include "shell/ui/frmDirDialog.h"
@@ -41,6 +42,7 @@ int run(QApplication& application, const std::string& commandLine) {
   gp::QtProcesses processes;
   gp::QtClipboard clipboard(gp::QtClipboard::Asking::Later);
   gp::QtPictureLoader pictures;
+  gp::QtTextDrawing text;
   const gp::ProgramFolders folders = gp::programFolders();
 
   gp::EditState state;
@@ -49,7 +51,7 @@ int run(QApplication& application, const std::string& commandLine) {
   gp::frmGPAbout startUpPicture;
   startUpPicture.showAtStart();
   gp::QtDisplay display;
-  gp::Shell shell(state, {boxes, dialogs, pump, system, processes, clipboard, pictures}, display, folders);
+  gp::Shell shell(state, {boxes, dialogs, pump, system, processes, clipboard, pictures, text}, display, folders);
   gp::frmGPEdit form(shell, display, commandLine);
   clipboard.onChange = [&shell] { shell.UpdateCommands(); };
   shell.formLoad();

@@ -9,6 +9,7 @@
 #include "document/Hourglass.h"
 #include "document/Messages.h"
 #include "document/PanelNumbers.h"
+#include "drawing/FloatingContent.h"
 #include "drawing/Regions.h"
 #include "drawing/Tools.h"
 #include "drawing/UndoHistory.h"
@@ -172,10 +173,8 @@ bool ClipboardCommands::makeNewIcon(int size) {
 
 void ClipboardCommands::showPasted(const Surface& picture, bool opaque) {
   const Hourglass hourglass(context_);
-  regions_.clearRegion();
-  tools_.clearAllTools();
-  tools_.selectTool(kRegion);
-  regions_.placePicture(picture, opaque);
+  placeContent(tools_, regions_, opaque ? opaqueContentOf(picture) : contentOf(picture, state_.PicIcon.backColor),
+               opaque);
   context_.display.announce(news::kPasted);
 }
 

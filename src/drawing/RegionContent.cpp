@@ -1,6 +1,7 @@
 // The content of a region: lifts it from the icon, merges it back, and shows it while it moves.
 #include "document/EditState.h"
 #include "document/EditingArea.h"
+#include "drawing/FloatingContent.h"
 #include "drawing/Regions.h"
 #include "drawing/UndoHistory.h"
 #include "platform/gdi/Pens.h"
@@ -74,13 +75,11 @@ void Regions::liftBlock(int width, int height) {
   BitBlt(content_.mask, 0, 0, width, height, state_.picMask, x1, y1, RasterOp::SRCCOPY);
 }
 
-void Regions::placePicture(const Surface& picture, bool opaque) {
-  setRegionFromPicture(picture, 0, 0);
-  copyPicture(picture, content_.image);
-  MakeSameSize(picture, content_.mask);
-  content_.mask.fill(kBlack);
-  if (!opaque) maskPicture();
+void Regions::place(IconImage content, bool opaque) {
+  content_ = std::move(content);
+  content_.image.makePersistent();
   content_.mask.makePersistent();
+  setRegionFromPicture(content_.image, 0, 0);
   keepIconBeneath();
   floatWith(opaque);
   pasted_ = true;
@@ -91,20 +90,6 @@ void Regions::floatWith(bool opaque) {
   floating_ = true;
   opaque_ = opaque;
   enter(RegionPhase::Standing);
-}
-
-// A copied icon shows the ground in its transparent pixels: these become transparent again.
-void Regions::maskPicture() {
-  const Color transparent = state_.PicIcon.backColor;
-  Surface& image = content_.image;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) {
-      if (image.GetPixel(x, y) != transparent) continue;
-      image.SetPixelV(x, y, kBlack);
-      content_.mask.SetPixelV(x, y, kWhite);
-    }
-  }
-  image.makePersistent();
 }
 
 void Regions::renderRegion() {
@@ -120,18 +105,11 @@ void Regions::renderRegion() {
 void Regions::mergeContent() {
   const int x = roundToInteger(draw_.draw.x1);
   const int y = roundToInteger(draw_.draw.y1);
-  const Surface& image = content_.image;
-  const Surface& mask = content_.mask;
-  const int width = image.width();
-  const int height = image.height();
-  if (opaque_) {
-    BitBlt(state_.picMask, x, y, width, height, mask, 0, 0, RasterOp::SRCCOPY);
-    BitBlt(state_.picImage, x, y, width, height, image, 0, 0, RasterOp::SRCCOPY);
-    return;
-  }
-  BitBlt(state_.picMask, x, y, width, height, mask, 0, 0, RasterOp::SRCAND);
-  BitBlt(state_.picImage, x, y, width, height, mask, 0, 0, RasterOp::SRCAND);
-  BitBlt(state_.picImage, x, y, width, height, image, 0, 0, RasterOp::SRCINVERT);
+  if (!opaque_) return gp::mergeContent(content_, x, y, state_.picImage, state_.picMask);
+  const int width = content_.width();
+  const int height = content_.height();
+  BitBlt(state_.picMask, x, y, width, height, content_.mask, 0, 0, RasterOp::SRCCOPY);
+  BitBlt(state_.picImage, x, y, width, height, content_.image, 0, 0, RasterOp::SRCCOPY);
 }
 
 void Regions::renderRegionFast() {

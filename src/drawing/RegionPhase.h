@@ -15,7 +15,7 @@
 // The keyboard presses, moves and releases too, on whole pixels: a press never leads to Sizing, and merges outside the
 // pixels of the region. giveUp() leads from Drawing to None, and from the others to Standing at the place of the press.
 //
-// In every phase: clearRegion() and dropContent() lead to None, a pasted picture leads to Standing, and another icon on
+// In every phase: clearRegion() and dropContent() lead to None, placed content leads to Standing, and another icon on
 // the Editing Area calls clearRegion() before it arrives. Transformed content leads to Standing, after finishDrag().
 #pragma once
 

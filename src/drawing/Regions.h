@@ -33,7 +33,7 @@ class Regions {
   // True when the content did not come from its place on the icon: it was pasted or transformed.
   bool isFloating() const { return floating_; }
   bool isPasteOpaque() const { return opaque_; }
-  // True when the content was pasted, so that the icon beneath it lacks nothing.
+  // True when the content was placed by Paste or Text, so that the icon beneath it lacks nothing.
   bool isPasted() const { return pasted_; }
   // The pointer for a mouse position, in Editing Area pixels.
   RegionPointer pointerAt(double x, double y) const;
@@ -77,9 +77,9 @@ class Regions {
   void clearRegion();
   // The same, but the icon returns to what it is beneath the region, and no step is recorded.
   void dropContent();
-  // Makes a picture a floating region at the top left corner. Unless it is opaque, pixels of PicIcon's back colour are
-  // transparent in it.
-  void placePicture(const Surface& picture, bool opaque);
+  // Makes content a floating region at the top left corner. Opaque content covers what is beneath it, transparent
+  // pixels included.
+  void place(IconImage content, bool opaque);
   // Replaces the content, which then floats and is shown. The box takes its shape; its top left corner stays.
   void replaceContent(IconImage content);
   // Draws the box on an Editing Area that was rebuilt, also at another magnification. Nothing without a region.
@@ -144,7 +144,6 @@ class Regions {
   void keepIconBeneath();
   void liftOpaquePixels();
   void liftBlock(int width, int height);
-  void maskPicture();
   void mergeContent();
   void renderRegionFast();
 

@@ -41,6 +41,10 @@ void EffectPanel::proceed() {
     frame_.document().iconsPanel.EndToolAction();
     commit();
   }
+  finish();
+}
+
+void EffectPanel::finish() {
   frame_.context().display.announce(news::kApplied);
   // Recording pumps messages, so it comes after the panel is closed.
   recordStep();

@@ -36,6 +36,8 @@ class EffectPanel {
   virtual IconImage apply(const IconImage& icon) const = 0;
   // What Proceed does to an icon that takes the effect: by default the Current Icon becomes the icon with the effect.
   virtual void commit();
+  // What follows after it: announces the result and records the step of Undo.
+  virtual void finish();
   // Draws the samples that a panel has besides `sample`.
   virtual void drawSamples() {}
   // Whether the Current Icon takes the effect; if not, shows the reason.

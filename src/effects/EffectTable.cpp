@@ -7,15 +7,12 @@ namespace gp {
 
 // Each is defined beside its function.
 extern const EffectRow kButtonize, kEmbossed, kEngraved, kRaised, kShadowed, kDisabledImage;
-extern const EffectRow kSphere, kGradient;
+extern const EffectRow kText, kSphere, kGradient;
 extern const EffectRow kBrightness, kSharpenSoften, kColorTheme, kAntialias, kCast, kGrayscale, kInvert, kSwapElements;
 extern const EffectRow kBlend, kTexture;
 extern const EffectRow kSharpen, kSoften, kSwap, kResize;
 
 namespace {
-
-// Not part of the program yet: a menu entry that is disabled.
-constexpr EffectRow kText{.menu = {0, "&Text ....", "Ctrl+F2", "text"}, .panel = {5}};
 
 // In the order of the menu. The comments are the indices of mnuEffectsSub.
 constexpr const EffectRow* kEffects[] = {
@@ -66,7 +63,7 @@ const EffectRow* findEffect(std::string_view name) {
 
 const EffectRow* findEffect(int menuIndex) {
   return firstOf(kEffects,
-                 [menuIndex](const EffectRow& effect) { return effect.apply && effect.menu.index == menuIndex; });
+                 [menuIndex](const EffectRow& effect) { return isBuilt(effect) && effect.menu.index == menuIndex; });
 }
 
 }  // namespace gp

@@ -52,11 +52,14 @@ struct EffectRow {
   EffectMenuEntry menu = {};
   EffectPanelPlace panel = kSharedPanel;
   std::span<const Setting> settings = {};
-  EffectFunction apply = nullptr;   // null for an effect that the program does not have yet
+  EffectFunction apply = nullptr;   // null for one that the class of its panel makes, and that gpicon does not have
   EffectRefusal refusal = nullptr;  // null for an effect that every icon takes with all values
   bool needsOption = false;         // gpicon takes the effect only with at least one of its options
   bool changesSize = false;         // the result has another size than the icon
 };
+
+// Whether the program has the effect, or only its menu entry.
+inline bool isBuilt(const EffectRow& effect) { return effect.apply || !effect.panel.isGenerated; }
 
 // Why the icon does not take the effect with these values.
 inline Refusal refusalOf(const EffectRow& effect, const IconImage& icon, const EffectValues& values) {

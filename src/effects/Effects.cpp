@@ -8,6 +8,7 @@
 #include "effects/ResizePanel.h"
 #include "effects/SettingsPanel.h"
 #include "effects/SpherePanel.h"
+#include "effects/TextPanel.h"
 #include "effects/TexturePanel.h"
 #include "effects/ThemePanel.h"
 
@@ -18,6 +19,7 @@ namespace gp {
 // Panels with their own class come first; panels of settings follow from the table of effects.
 Effects::Effects(const Context& context, Document& document, Drawing& drawing, const EffectPorts& ports)
     : frame_(context, document, drawing.history) {
+  panels_.push_back(std::make_unique<TextPanel>(frame_, ports.dialog, ports.text, drawing));
   panels_.push_back(std::make_unique<BrightnessPanel>(frame_));
   panels_.push_back(std::make_unique<ThemePanel>(frame_, ports.dialog));
   panels_.push_back(std::make_unique<ConfinePanel>(frame_));

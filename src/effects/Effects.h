@@ -13,12 +13,14 @@ namespace gp {
 class Drawing;
 class PictureLoader;
 class SettingsPanel;
+class TextDrawing;
 class clsGPDialog;
 
 // What the panels of some effects use of the platform.
 struct EffectPorts {
   clsGPDialog& dialog;
   PictureLoader& pictures;
+  TextDrawing& text;
 };
 
 class Effects {

@@ -17,7 +17,7 @@ Command commandOf(const EffectRow& effect) {
           kMenu,           entry.caption,
           entry.key,       entry.picture,
           needs::icon,     Commits::No,
-          nullptr,         effect.apply ? bodies::callWithIndex<&Effects::open> : nullptr};
+          nullptr,         isBuilt(effect) ? bodies::callWithIndex<&Effects::open> : nullptr};
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ Shell::Shell(EditState& state, const Ports& ports, Display& display, ProgramFold
       colour_(context_, mDialog, ports.pictures, folders_.settings),
       drawing_(context_, document_, colour_.selection, ports.clipboard),
       files_(context_, document_, drawing_, mDialog, folders_.scratch + "/" + kScratchFileName),
-      effects_(context_, document_, drawing_, {mDialog, ports.pictures}),
+      effects_(context_, document_, drawing_, {mDialog, ports.pictures, ports.text}),
       output_(context_, files_),
       settings_(state.options, settingsPath()),
       fileHistory_(kFileHistorySection, kFileHistoryLimit, settingsPath()),

@@ -26,6 +26,7 @@ namespace gp {
 class Clipboard;
 class FileDialogs;
 class PictureLoader;
+class TextDrawing;
 struct EditState;
 struct ScreenState;
 
@@ -38,6 +39,7 @@ struct Ports {
   Processes& processes;
   Clipboard& clipboard;
   PictureLoader& pictures;
+  TextDrawing& text;
 };
 
 class Shell final : public Editor {

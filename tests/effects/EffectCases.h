@@ -13,7 +13,7 @@
 
 namespace gp::test {
 
-// The effects that the program has.
+// The effects of the menu that are a function of icon and values.
 inline std::vector<const EffectRow*> builtEffects() {
   std::vector<const EffectRow*> effects;
   for (const EffectRow* effect : effectTable())

@@ -41,7 +41,7 @@ TEST(EffectTable, EachEffectIsFoundByItsNameAndItsMenuEntry) {
 
 TEST(EffectTable, AnEffectThatTheProgramDoesNotHaveIsNotFound) {
   for (const EffectRow* effect : effectTable())
-    if (!effect->apply) {
+    if (!isBuilt(*effect)) {
       EXPECT_EQ(findEffect(effect->menu.index), nullptr) << effect->menu.caption;
     }
   for (const int index : {-1, 1, 5, 1000}) EXPECT_EQ(findEffect(index), nullptr);

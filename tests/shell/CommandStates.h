@@ -181,7 +181,7 @@ struct CommandNeed {
 inline std::vector<int> effectIndices() {
   std::vector<int> indices;
   for (const EffectRow* effect : effectTable())
-    if (effect->apply) indices.push_back(effect->menu.index);
+    if (isBuilt(*effect)) indices.push_back(effect->menu.index);
   return indices;
 }
 

@@ -51,7 +51,7 @@ TEST_F(EffectTableCommandsTest, EachEffectHasItsMenuEntry) {
     EXPECT_STREQ(command->key, effect->menu.key);
     EXPECT_STREQ(command->picture, effect->menu.picture);
     EXPECT_STREQ(command->parent, "mnuEffects");
-    EXPECT_EQ(command->run != nullptr, effect->apply != nullptr) << effect->menu.caption;
+    EXPECT_EQ(command->run != nullptr, isBuilt(*effect)) << effect->menu.caption;
   }
 }
 
@@ -115,7 +115,7 @@ TEST_F(EffectTableCommandsTest, AnIconWithAlphaIsRefused) {
 TEST_F(EffectTableCommandsTest, AnEffectThatTheProgramDoesNotHaveIsDisabledAndDoesNothing) {
   startWithNew();
   for (const EffectRow* effect : effectTable()) {
-    if (effect->apply) continue;
+    if (isBuilt(*effect)) continue;
     EXPECT_FALSE(enabled("mnuEffectsSub", effect->menu.index)) << effect->menu.caption;
     click("mnuEffectsSub", effect->menu.index);
     shell.effects().open(effect->menu.index);

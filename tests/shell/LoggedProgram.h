@@ -9,6 +9,7 @@
 #include "shell/ShellSnapshot.h"
 #include "support/FakeClipboard.h"
 #include "support/FakeMachine.h"
+#include "support/FakeTextDrawing.h"
 #include "support/FoldersIn.h"
 #include "support/ScriptedPorts.h"
 #include "support/TempFolder.h"
@@ -41,6 +42,7 @@ class LoggedProgram {
   FakeProcesses processes_;
   FakeClipboard clipboard_;
   ScriptedPictures pictures_;
+  FakeTextDrawing text_;
   EditState state_;
 
  protected:
@@ -48,7 +50,7 @@ class LoggedProgram {
   DisplayType display_;
 
  public:
-  Shell shell{state_, Ports{boxes_, dialogs_, pump_, system_, processes_, clipboard_, pictures_}, display_,
+  Shell shell{state_, Ports{boxes_, dialogs_, pump_, system_, processes_, clipboard_, pictures_, text_}, display_,
               test::foldersIn(folder_.path())};
 };
 

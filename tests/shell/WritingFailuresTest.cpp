@@ -3,6 +3,7 @@
 #include "files/browser/HeaderDiff.h"
 #include "files/browser/MultiIconBrowser.h"
 #include "support/CommandUnderFailures.h"
+#include "support/FakeTextDrawing.h"
 #include "support/ShellFixture.h"
 
 #include <algorithm>
@@ -35,6 +36,7 @@ class AgreeingProgram {
   FakeProcesses processes_;
   FakeClipboard clipboard_;
   ScriptedPictures pictures_;
+  FakeTextDrawing text_;
   RecordingDisplay display_;
   EditState state_;
   const std::string folder_;
@@ -44,7 +46,7 @@ class AgreeingProgram {
 
   explicit AgreeingProgram(const std::string& folder)
       : folder_(folder),
-        shell(state_, Ports{boxes, dialogs, pump_, system_, processes_, clipboard_, pictures_}, display_,
+        shell(state_, Ports{boxes, dialogs, pump_, system_, processes_, clipboard_, pictures_, text_}, display_,
               foldersIn(folder)) {
     shell.attach(&form, &form);
     shell.formLoad();

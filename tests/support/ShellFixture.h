@@ -6,6 +6,7 @@
 #include "support/FakeClipboard.h"
 #include "support/FakeEditor.h"
 #include "support/FakeMachine.h"
+#include "support/FakeTextDrawing.h"
 #include "support/FoldersIn.h"
 #include "support/ScriptedPorts.h"
 #include "support/TempFolder.h"
@@ -48,10 +49,11 @@ class ShellFixture : public testing::Test {
   FakeProcesses processes;
   FakeClipboard clipboard;
   ScriptedPictures pictures;
+  FakeTextDrawing textDrawing;
   RecordingDisplay display;
   FakeForm form;
   EditState state;
-  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures}, display,
+  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures, textDrawing}, display,
               test::foldersIn(folder.path())};
 
   ShellFixture() { shell.attach(&form, &form); }

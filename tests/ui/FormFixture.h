@@ -3,6 +3,7 @@
 
 #include "document/ui/QtDisplay.h"
 #include "platform/qt/PathText.h"
+#include "platform/qt/QtTextDrawing.h"
 #include "shell/Shell.h"
 #include "shell/ui/frmGPEdit.h"
 #include "support/FakeClipboard.h"
@@ -32,9 +33,10 @@ class FormFixture : public testing::Test {
   FakeProcesses processes;
   FakeClipboard clipboard;
   ScriptedPictures pictures;
+  QtTextDrawing textDrawing;
   EditState state;
   QtDisplay display;
-  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures}, display,
+  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures, textDrawing}, display,
               test::foldersIn(folder.path())};
   std::unique_ptr<frmGPEdit> form;
 

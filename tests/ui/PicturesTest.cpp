@@ -66,7 +66,8 @@ const std::vector<std::string> kOthers = {
     "color-dialog", "screen-color", "proceed",      "close",       "shrink",       "extend",       "alpha-indicator",
     "shift-nw",     "shift-n",      "shift-ne",     "shift-w",     "shift-center", "shift-e",      "shift-sw",
     "shift-s",      "shift-se",     "region-move",  "lighten",     "darken",       "save-palette", "load-palette",
-    "help",         "info",         "logo",         "glimmerpane", "more"};
+    "help",         "info",         "logo",         "glimmerpane", "more",         "bold",         "italic",
+    "underline",    "strikeout"};
 
 TEST(Pictures, EveryButtonToolAndDialogHasItsPicture) {
   EXPECT_EQ(kToolbar.size(), 27u);

@@ -8,6 +8,7 @@
 #include "effects/ResizePanel.h"
 #include "effects/SettingsPanel.h"
 #include "effects/SpherePanel.h"
+#include "effects/TextPanel.h"
 #include "effects/TexturePanel.h"
 #include "effects/ThemePanel.h"
 #include "effects/ui/BlendPanelView.h"
@@ -17,6 +18,7 @@
 #include "effects/ui/ResizePanelView.h"
 #include "effects/ui/SettingsPanelView.h"
 #include "effects/ui/SpherePanelView.h"
+#include "effects/ui/TextPanelView.h"
 #include "effects/ui/TexturePanelView.h"
 #include "effects/ui/ThemePanelView.h"
 
@@ -37,10 +39,11 @@ constexpr ViewRow kRowOf{Panel::kNumber, [](QWidget* parent, const Effects& effe
                          }};
 
 // Panels that have their own class.
-constexpr std::array kViews{kRowOf<SpherePanelView, SpherePanel>,         kRowOf<GradientPanelView, GradientPanel>,
-                            kRowOf<BrightnessPanelView, BrightnessPanel>, kRowOf<ThemePanelView, ThemePanel>,
-                            kRowOf<ConfinePanelView, ConfinePanel>,       kRowOf<BlendPanelView, BlendPanel>,
-                            kRowOf<TexturePanelView, TexturePanel>,       kRowOf<ResizePanelView, ResizePanel>};
+constexpr std::array kViews{kRowOf<TextPanelView, TextPanel>,         kRowOf<SpherePanelView, SpherePanel>,
+                            kRowOf<GradientPanelView, GradientPanel>, kRowOf<BrightnessPanelView, BrightnessPanel>,
+                            kRowOf<ThemePanelView, ThemePanel>,       kRowOf<ConfinePanelView, ConfinePanel>,
+                            kRowOf<BlendPanelView, BlendPanel>,       kRowOf<TexturePanelView, TexturePanel>,
+                            kRowOf<ResizePanelView, ResizePanel>};
 
 }  // namespace
 

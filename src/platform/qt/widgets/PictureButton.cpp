@@ -45,6 +45,11 @@ void PictureButton::setChoice() {
   setAccessibleRole(this, QAccessible::RadioButton);
 }
 
+void PictureButton::setToggle() {
+  setCheckable(true);
+  setAccessibleRole(this, QAccessible::CheckBox);
+}
+
 // The key is added here, so that the tooltip remains the plain text that is also the button's name.
 bool PictureButton::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip || key_.isEmpty()) return QToolButton::event(event);

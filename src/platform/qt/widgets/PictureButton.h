@@ -1,7 +1,7 @@
 // A flat button with one of the program's pictures. Its tooltip is also its accessible name, unless another one is set.
-// The tooltip on the screen also names the key. A checkable button is a radio button that shows what the program has
-// chosen: a click changes nothing by itself.
-// While it is checked or pressed, the picture is on a tile that is dark in a light window and light in a dark one.
+// The tooltip on the screen also names the key. A checkable button shows what the program has chosen: a click changes
+// nothing by itself. While it is checked or pressed, the picture is on a tile that is dark in a light window and light
+// in a dark one.
 #pragma once
 
 #include <QToolButton>
@@ -27,8 +27,9 @@ class PictureButton : public QToolButton {
   bool isDimmed() const { return dimmed_; }
   // The key that does the same, such as "Ctrl+S"; empty for none. It is handled elsewhere.
   void setKey(const QString& key);
-  // For a button that can be checked.
+  // For a button that can be checked: one of several choices, or one that is on or off by itself.
   void setChoice();
+  void setToggle();
 
  protected:
   bool event(QEvent* event) override;

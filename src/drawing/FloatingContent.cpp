@@ -1,0 +1,44 @@
+#include "drawing/FloatingContent.h"
+
+#include "document/Tool.h"
+#include "drawing/Regions.h"
+#include "drawing/Tools.h"
+#include "platform/gdi/RasterOps.h"
+
+#include <utility>
+
+namespace gp {
+
+IconImage opaqueContentOf(const Surface& picture) {
+  IconImage content{picture, Surface(picture.width(), picture.height()), {}};
+  content.mask.fill(kBlack);
+  return content;
+}
+
+// A copied icon shows the ground in its transparent pixels: these become transparent again.
+IconImage contentOf(const Surface& picture, Color transparent) {
+  IconImage content = opaqueContentOf(picture);
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x) {
+      if (picture.GetPixel(x, y) != transparent) continue;
+      content.image.SetPixelV(x, y, kBlack);
+      content.mask.SetPixelV(x, y, kWhite);
+    }
+  return content;
+}
+
+void mergeContent(const IconImage& content, int x, int y, Surface& image, Surface& mask) {
+  const int width = content.width(), height = content.height();
+  BitBlt(mask, x, y, width, height, content.mask, 0, 0, RasterOp::SRCAND);
+  BitBlt(image, x, y, width, height, content.mask, 0, 0, RasterOp::SRCAND);
+  BitBlt(image, x, y, width, height, content.image, 0, 0, RasterOp::SRCINVERT);
+}
+
+void placeContent(Tools& tools, Regions& regions, IconImage content, bool opaque) {
+  regions.clearRegion();
+  tools.clearAllTools();
+  tools.selectTool(kRegion);
+  regions.place(std::move(content), opaque);
+}
+
+}  // namespace gp
