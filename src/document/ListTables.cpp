@@ -26,6 +26,7 @@ constexpr NumberRow kNumberRows[] = {
     {"cboPrintSize", 25, 200, 25, 3},
     {"cboCursorHotSpot(0)", 0, 31, 1, 0},
     {"cboCursorHotSpot(1)", 0, 31, 1, 0},
+    {"cboFontSize", 7, 24, 1, 1},
     {"cboRotateImageAngle", -360, 360, 1, 360},
     {"cboButtonizePattern", 1, 3, 1, 0},
     {"cboSphere(0)", 0, 10, 1, 5, NumberForm::TenthsAsShort},
@@ -55,7 +56,7 @@ struct TextRow {
 
 constexpr TextRow kTextRows[] = {
     {"cboTextWriteStyle", {"Ordinary", "Hollow", "Embossed", "Engraved", "Shadowed"}, 0},
-    {"cboFontSize", {"Normal Size", "Small", "Tiny"}, 0},
+    {"cboTextSize", {"Normal Size", "Small", "Tiny"}, 0},
     {"cboSphere(1)", {"Normal Size", "Small", "Tiny"}, 0},
     {"cboSharpenSoften", {"Sharpen strong", "Sharpen", "Original", "Soften", "Soften strong"}, 2},
     {"cboConfineColors(0)", {"Optimal", "System"}, 0},

@@ -12,6 +12,7 @@
 #include "effects/EffectTable.h"
 #include "platform/dialogs/clsGPDialog.h"
 #include "platform/ports/MessageBoxes.h"
+#include "platform/text/Numbers.h"
 
 #include <algorithm>
 #include <utility>
@@ -20,6 +21,7 @@ namespace gp {
 namespace {
 
 constexpr const char* kFamilies = "cboFontName";
+constexpr const char* kPoints = "cboFontSize";
 constexpr const char* kNotAvailable = " not available in system.";
 constexpr const char* kSomeFont = "Font";  // the name of a font that has none
 constexpr Refusal kNoText("No text entered yet");
@@ -92,6 +94,13 @@ void TextPanel::refuseFamily(const std::string& family) {
 void TextPanel::pickSize(int index) {
   if (!isIndex(index, kTextSizes)) return;
   size_ = static_cast<TextSize>(index);
+  pointsIndex_ = -1;
+  preview();
+}
+
+void TextPanel::pickPoints(int index) {
+  if (!isIndex(index, static_cast<int>(fillList(kPoints).entries.size()))) return;
+  pointsIndex_ = index;
   preview();
 }
 
@@ -121,17 +130,22 @@ void TextPanel::setAngle(int angle) {
   preview();
 }
 
-IconImage TextPanel::contentOfLine(const std::string& line, int capitalHeight, int iconWidth, int iconHeight) const {
+int TextPanel::pixelsFor(int iconHeight) const {
+  if (pointsIndex_ < 0) return fontPixels(textDrawing_, font_, capitalHeightOf(size_, iconHeight));
+  return pixelsOfPoints(roundToInteger(Val(fillList(kPoints).entries.at(static_cast<std::size_t>(pointsIndex_)))));
+}
+
+IconImage TextPanel::contentOfLine(const std::string& line, int pixels, int iconWidth, int iconHeight) const {
   if (!hasFamily()) return {};
   TextFont font = font_;
-  font.pixels = fontPixels(textDrawing_, font, capitalHeight);
+  font.pixels = pixels;
   const int longest = kMostIcons * std::max(iconWidth, iconHeight);
   return writtenText(textDrawing_.drawLine(line, font, lookOf(settings_.style), longest), settings_, iconWidth,
                      iconHeight);
 }
 
 IconImage TextPanel::content(int iconWidth, int iconHeight) const {
-  return text_.empty() ? IconImage() : contentOfLine(text_, capitalHeightOf(size_, iconHeight), iconWidth, iconHeight);
+  return text_.empty() ? IconImage() : contentOfLine(text_, pixelsFor(iconHeight), iconWidth, iconHeight);
 }
 
 IconImage TextPanel::apply(const IconImage& icon) const {
@@ -141,8 +155,8 @@ IconImage TextPanel::apply(const IconImage& icon) const {
 }
 
 void TextPanel::drawSamples() {
-  const IconImage sample =
-      contentOfLine(kAngleText, capitalHeightOf(TextSize::Tiny, kAngleSampleSide), kAngleSampleSide, kAngleSampleSide);
+  const int pixels = fontPixels(textDrawing_, font_, capitalHeightOf(TextSize::Tiny, kAngleSampleSide));
+  const IconImage sample = contentOfLine(kAngleText, pixels, kAngleSampleSide, kAngleSampleSide);
   IconImage icon = transparentIcon(kAngleSampleSide);
   mergeContent(sample, (kAngleSampleSide - sample.width()) / 2, (kAngleSampleSide - sample.height()) / 2, icon.image,
                icon.mask);

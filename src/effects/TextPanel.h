@@ -30,8 +30,11 @@ class TextPanel final : public EffectPanel {
   // The entries of cboFontName, and the index of the chosen one; -1 when there are none.
   const std::vector<std::string>& families() const { return families_; }
   int familyIndex() const;
-  // List index of cboFontSize and of cboTextWriteStyle.
-  int sizeIndex() const { return static_cast<int>(size_); }
+  // The text has a size that fits the icon, or a number of points: list index of cboTextSize and of cboFontSize, of
+  // which one is -1.
+  int sizeIndex() const { return pointsIndex_ < 0 ? static_cast<int>(size_) : -1; }
+  int pointsIndex() const { return pointsIndex_; }
+  // List index of cboTextWriteStyle.
   int styleIndex() const { return static_cast<int>(settings_.style); }
   bool hasFontStyle(int i) const { return font_.*styleAt(i); }
   const Color& color() const { return settings_.color; }
@@ -44,6 +47,7 @@ class TextPanel final : public EffectPanel {
   // An index outside the list is ignored. A family that the system does not have is refused.
   void pickFamily(int index);
   void pickSize(int index);
+  void pickPoints(int index);
   void pickStyle(int index);
   void toggleFontStyle(int i);
   // cmdTextColor: opens the colour dialog. Colours that the style draws itself are refused.
@@ -67,7 +71,9 @@ class TextPanel final : public EffectPanel {
   void refuseFamily(const std::string& family);
   // The text as it is written on an icon of this size; empty when no pixel of it is visible.
   IconImage content(int iconWidth, int iconHeight) const;
-  IconImage contentOfLine(const std::string& line, int capitalHeight, int iconWidth, int iconHeight) const;
+  IconImage contentOfLine(const std::string& line, int pixels, int iconWidth, int iconHeight) const;
+  // The size of the font in pixels, in an icon of that height.
+  int pixelsFor(int iconHeight) const;
 
   clsGPDialog& dialog_;
   TextDrawing& textDrawing_;
@@ -76,6 +82,7 @@ class TextPanel final : public EffectPanel {
   std::vector<std::string> families_;
   TextFont font_;  // without its size, which depends on the icon
   TextSize size_ = TextSize::Normal;
+  int pointsIndex_ = -1;
   TextSettings settings_;
   Surface angleSample_;
 };

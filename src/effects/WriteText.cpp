@@ -131,6 +131,11 @@ int capitalHeightOf(TextSize size, int iconHeight) {
   return roundToInteger(static_cast<double>(iconHeight) * numerator / denominator);
 }
 
+int pixelsOfPoints(int points) {
+  constexpr double kPixelsPerInch = 96, kPointsPerInch = 72;
+  return roundToInteger(points * kPixelsPerInch / kPointsPerInch);
+}
+
 // The height is measured at a large size, at which the rounding to whole pixels does not count.
 int fontPixels(TextDrawing& drawing, TextFont font, int capitalHeight) {
   constexpr int kMeasured = 100;

@@ -38,6 +38,9 @@ const char* refusalOfColor(TextStyle style, Color color);
 // Returns the height of a capital letter in an icon, in pixels: 3/4, 1/2 and 1/3 of the icon's height.
 int capitalHeightOf(TextSize size, int iconHeight);
 
+// Returns the size in pixels of a font of that many points, of which an inch of 96 pixels has 72.
+int pixelsOfPoints(int points);
+
 // Returns the size of a font in pixels with which its capital letters have that height, 1 at least. `font` is any size
 // of the font.
 int fontPixels(TextDrawing& drawing, TextFont font, int capitalHeight);

@@ -23,6 +23,7 @@ TEST(ListTables, RangesHoldTheirNumbersAsText) {
       {"cboPrintSize", 8, "25", "50", "200", "100"},
       {"cboCursorHotSpot(0)", 32, "0", "1", "31", "0"},
       {"cboCursorHotSpot(1)", 32, "0", "1", "31", "0"},
+      {"cboFontSize", 18, "7", "8", "24", "8"},
       {"cboRotateImageAngle", 721, "-360", "-359", "360", "0"},
       {"cboButtonizePattern", 3, "1", "2", "3", "1"},
       {"cboSphere(0)", 11, "0", "0.1", "1", "0.5"},
@@ -54,7 +55,7 @@ TEST(ListTables, RangesHoldTheirNumbersAsText) {
 TEST(ListTables, TextsStandInTheirOrder) {
   const FilledList expected[] = {
       {"cboTextWriteStyle", {"Ordinary", "Hollow", "Embossed", "Engraved", "Shadowed"}, 0},
-      {"cboFontSize", {"Normal Size", "Small", "Tiny"}, 0},
+      {"cboTextSize", {"Normal Size", "Small", "Tiny"}, 0},
       {"cboSphere(1)", {"Normal Size", "Small", "Tiny"}, 0},
       {"cboSharpenSoften", {"Sharpen strong", "Sharpen", "Original", "Soften", "Soften strong"}, 2},
       {"cboConfineColors(0)", {"Optimal", "System"}, 0},

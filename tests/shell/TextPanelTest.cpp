@@ -410,10 +410,30 @@ TEST_F(TextPanelTest, ATextOfTenThousandLettersIsAtMostThreeIconsWideAndCanBeDra
   EXPECT_GE(regions().pixels().x1, 0) << "and its start again";
 }
 
+TEST_F(TextPanelTest, ASizeInPointsIsTheSameOnEveryIconUntilOneThatFitsIsChosen) {
+  for (const int size : {16, 48}) {
+    startWithSize(size);
+    side().setText("Hi");
+    // 24 points are 32 pixels, with capitals of 24; 9 points are 12 pixels, with capitals of 9.
+    for (const auto& [index, capital] : {std::pair{17, 24}, {2, 9}}) {
+      side().pickPoints(index);
+      EXPECT_EQ(side().pointsIndex(), index);
+      EXPECT_EQ(side().sizeIndex(), -1);
+      expectSample(merged(generatedIcons(size).back(), expectedText("Hi", size, capital)));
+    }
+    side().pickSize(0);
+    EXPECT_EQ(side().pointsIndex(), -1);
+    EXPECT_EQ(side().sizeIndex(), 0);
+    expectSample(merged(generatedIcons(size).back(), expectedText("Hi", size, size * 3 / 4)));
+  }
+}
+
 TEST_F(TextPanelTest, ChoicesOutOfRangeAreIgnoredOrLimited) {
   startWithSize(32);
   for (const int index : {-1, 3, 1000}) side().pickFamily(index);
   for (const int index : {-1, kTextSizes, 1000}) side().pickSize(index);
+  for (const int index : {-1, 18, 1000}) side().pickPoints(index);
+  EXPECT_EQ(side().pointsIndex(), -1);
   for (const int index : {-1, kTextStyles, 1000}) side().pickStyle(index);
   for (const int index : {-1, TextPanel::kFontStyles, 1000}) side().toggleFontStyle(index);
   EXPECT_EQ(side().familyIndex(), 0);

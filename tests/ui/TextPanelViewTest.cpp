@@ -64,7 +64,10 @@ TEST_F(TextPanelViewTest, EachControlHasItsNameEntriesAndAPlaceInTheTabOrder) {
   startWith(transparentIcon(48));
   EXPECT_EQ(nameOf(typing()), "Text");
   EXPECT_EQ(list("cboFontName")->accessibleName(), "Font");
-  EXPECT_EQ(list("cboFontSize")->accessibleName(), "Size");
+  EXPECT_EQ(list("cboTextSize")->accessibleName(), "Size");
+  EXPECT_EQ(list("cboFontSize")->accessibleName(), "Size in points");
+  EXPECT_EQ(list("cboFontSize")->toolTip(), "Size in points");
+  EXPECT_EQ(list("cboFontSize")->count(), 18);
   EXPECT_EQ(list("cboTextWriteStyle")->accessibleName(), "Style");
   EXPECT_EQ(nameOf(find("cmdTextColor")), "Click to select text color");
   EXPECT_EQ(nameOf(find("hsrTextWriteSampleAngle")), "Text angle");
@@ -75,14 +78,15 @@ TEST_F(TextPanelViewTest, EachControlHasItsNameEntriesAndAPlaceInTheTabOrder) {
     EXPECT_EQ(QAccessible::queryAccessibleInterface(indexed("imgFontStyle", i))->role(), QAccessible::CheckBox);
   }
   QStringList sizes, written;
-  for (int i = 0; i < list("cboFontSize")->count(); ++i) sizes << list("cboFontSize")->itemText(i);
+  for (int i = 0; i < list("cboTextSize")->count(); ++i) sizes << list("cboTextSize")->itemText(i);
   for (int i = 0; i < list("cboTextWriteStyle")->count(); ++i) written << list("cboTextWriteStyle")->itemText(i);
   EXPECT_EQ(sizes, QStringList({"Normal Size", "Small", "Tiny"}));
   EXPECT_EQ(written, QStringList({"Ordinary", "Hollow", "Embossed", "Engraved", "Shadowed"}));
   EXPECT_EQ(static_cast<std::size_t>(list("cboFontName")->count()), panel().families().size());
   const char* const order[] = {
-      "cboFontName",     "cboFontSize",       "imgFontStyle(0)", "imgFontStyle(1)",         "imgFontStyle(2)",
-      "imgFontStyle(3)", "cboTextWriteStyle", "cmdTextColor",    "hsrTextWriteSampleAngle", "cmdProceed"};
+      "cboFontName",     "cboTextSize",     "cboFontSize",       "imgFontStyle(0)", "imgFontStyle(1)",
+      "imgFontStyle(2)", "imgFontStyle(3)", "cboTextWriteStyle", "cmdTextColor",    "hsrTextWriteSampleAngle",
+      "cmdProceed"};
   for (const char* name : order) {
     key(Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget()->objectName(), name);
@@ -95,11 +99,11 @@ TEST_F(TextPanelViewTest, LabelsAndControlsHaveTheirColumnsAndTheSampleWholeStep
   settle();
   QWidget* side = find("fraPanel(5)");
   const auto place = [side](QWidget* widget) { return QRect(widget->mapTo(side, QPoint()), widget->size()); };
-  for (const char* label : {"lblWriteText", "lblFontName", "lblFontSize", "lblFontStyle", "lblTextWriteStyle",
+  for (const char* label : {"lblWriteText", "lblFontName", "lblTextSize", "lblFontStyle", "lblTextWriteStyle",
                             "lblTextColor", "lblTextWriteAngle"})
     EXPECT_EQ(place(find(label)).left(), 0) << label;
   const int left = place(typing()).left();
-  for (const char* control : {"cboFontName", "cboFontSize", "imgFontStyle(0)", "cboTextWriteStyle", "cmdTextColor",
+  for (const char* control : {"cboFontName", "cboTextSize", "imgFontStyle(0)", "cboTextWriteStyle", "cmdTextColor",
                               "hsrTextWriteSampleAngle"})
     EXPECT_EQ(place(find(control)).left(), left) << control;
   for (const char* control : {"txbWriteText", "cboFontName", "cboFontSize", "cboTextWriteStyle", "lblTextAngle"})
@@ -210,7 +214,11 @@ TEST_F(TextPanelViewTest, ListsAndAngleAreChosenByKeys) {
   startWith(transparentIcon(48));
   QTest::keyClicks(typing(), "T");
   QTest::keyClick(list("cboFontSize"), Qt::Key_End);
+  EXPECT_EQ(panel().pointsIndex(), 17);
+  EXPECT_EQ(list("cboTextSize")->currentIndex(), -1) << "24 points are no size that fits the icon";
+  QTest::keyClick(list("cboTextSize"), Qt::Key_End);
   EXPECT_EQ(panel().sizeIndex(), 2);
+  EXPECT_EQ(list("cboFontSize")->currentIndex(), -1);
   QTest::keyClick(list("cboTextWriteStyle"), Qt::Key_Down);
   EXPECT_EQ(panel().styleIndex(), 1);
   QTest::keyClick(list("cboFontName"), Qt::Key_End);

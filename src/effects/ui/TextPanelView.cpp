@@ -19,6 +19,7 @@ constexpr int kGap = 4;
 constexpr int kButtonSide = 28;
 constexpr int kLeastNameLetters = 8;  // of a family that is visible in any case
 constexpr int kSliderPage = 15;
+constexpr const char* kPointsTip = "Size in points";
 
 struct FontStyleLook {
   const char* picture;
@@ -41,14 +42,13 @@ QHBoxLayout* rowIn(QWidget* place) {
 TextPanelView::TextPanelView(QWidget* parent, TextPanel& panel) : EffectPanelView(parent, panel), panel_(panel) {
   addRow("lblWriteText", "&Write:", makeText());
   addRow("lblFontName", "Fam&ily:", makeFamilies());
-  addRow("lblFontSize", "Si&ze:", cboFontSize_ = makeList(rows(), "cboFontSize", "Size"));
+  addRow("lblTextSize", "Si&ze:", makeSizes())->setBuddy(cboTextSize_);
   addRow("lblFontStyle", "Look:", makeFontStyles());
   addRow("lblTextWriteStyle", "St&yle:", cboTextWriteStyle_ = makeList(rows(), "cboTextWriteStyle", "Style"));
   addRow("lblTextColor", "Co&lor:", makeColor());
   addRow("lblTextWriteAngle", "An&gle:", makeAngle())->setBuddy(hsrTextWriteSampleAngle_);
   addSamples({{"lblTextSample", "Sample", panel_.sample()},
               {"picTextWriteAngleSample", "Angle", panel_.picTextWriteAngleSample()}});
-  connect(cboFontSize_, &QComboBox::activated, this, [this](int index) { panel_.pickSize(index); });
   connect(cboTextWriteStyle_, &QComboBox::activated, this, [this](int index) { panel_.pickStyle(index); });
   setFirstControl(txbWriteText_);
   refresh();
@@ -69,6 +69,18 @@ QComboBox* TextPanelView::makeFamilies() {
   list->setMinimumContentsLength(kLeastNameLetters);
   connect(list, &QComboBox::activated, this, [this](int index) { panel_.pickFamily(index); });
   return list;
+}
+
+// A size that fits the icon, or a number of points.
+QWidget* TextPanelView::makeSizes() {
+  auto* place = new QWidget(rows());
+  QHBoxLayout* row = rowIn(place);
+  row->addWidget(cboTextSize_ = makeList(place, "cboTextSize", "Size"), 2);
+  row->addWidget(cboFontSize_ = makeUnlabelledList(place, "cboFontSize", kPointsTip), 1);
+  cboFontSize_->setToolTip(kPointsTip);
+  connect(cboTextSize_, &QComboBox::activated, this, [this](int index) { panel_.pickSize(index); });
+  connect(cboFontSize_, &QComboBox::activated, this, [this](int index) { panel_.pickPoints(index); });
+  return place;
 }
 
 QWidget* TextPanelView::makeFontStyles() {
@@ -118,7 +130,8 @@ QWidget* TextPanelView::makeAngle() {
 void TextPanelView::refresh() {
   refreshText();
   refreshFamilies();
-  cboFontSize_->setCurrentIndex(panel_.sizeIndex());
+  cboTextSize_->setCurrentIndex(panel_.sizeIndex());
+  cboFontSize_->setCurrentIndex(panel_.pointsIndex());
   cboTextWriteStyle_->setCurrentIndex(panel_.styleIndex());
   for (int i = 0; i < TextPanel::kFontStyles; ++i)
     imgFontStyle_.at(static_cast<std::size_t>(i))->setChecked(panel_.hasFontStyle(i));

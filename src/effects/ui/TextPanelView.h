@@ -27,6 +27,7 @@ class TextPanelView final : public EffectPanelView {
  private:
   QWidget* makeText();
   QComboBox* makeFamilies();
+  QWidget* makeSizes();
   QWidget* makeFontStyles();
   PictureButton* makeFontStyle(QWidget* parent, int i);
   ColorButton* makeColor();
@@ -39,6 +40,7 @@ class TextPanelView final : public EffectPanelView {
   std::vector<std::string> shownFamilies_;
   QLineEdit* txbWriteText_ = nullptr;
   QComboBox* cboFontName_ = nullptr;
+  QComboBox* cboTextSize_ = nullptr;
   QComboBox* cboFontSize_ = nullptr;
   QComboBox* cboTextWriteStyle_ = nullptr;
   std::array<PictureButton*, TextPanel::kFontStyles> imgFontStyle_{};
