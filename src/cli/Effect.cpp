@@ -1,18 +1,27 @@
-#include "cli/EffectOptions.h"
+#include "cli/ChosenEffect.h"
+#include "cli/EffectOnAll.h"
 #include "cli/OneImage.h"
 #include "cli/Subcommands.h"
 
 namespace gp::cli {
 namespace {
 
-int makeEffect(const EffectRow& effect, const EffectValues& values, const ImageArguments& arguments) {
-  const auto loaded = loadImageForEffect(arguments);
+int makeEffect(const ChosenEffect& effect, const ImageArguments& arguments) {
+  const auto loaded = loadImage(arguments);
   if (!loaded) return kRefused;
-  if (const Refusal refusal = refusalOf(effect, loaded->icon, values); refusal.text) {
-    complain(arguments.input, refusal.text);
+  if (const char* const reason = reasonAgainst(effect, *loaded)) {
+    complain(arguments.input, reason);
     return kRefused;
   }
-  return writeIcon(effect.apply(loaded->icon, values), loaded->record, arguments.output);
+  return writeIcon(applied(effect, loaded->icon), loaded->record, arguments.output);
+}
+
+int runOnOneImage(const Arguments& arguments, const GivenOptions& options) {
+  ImageArguments image;
+  const int status = takeImageArguments("effect", "IN.ico INDEX OUT.ico NAME", arguments, 1, image);
+  if (status != kDone) return status;
+  const auto effect = chooseEffect(image.more.front(), options);
+  return effect ? makeEffect(*effect, image) : kBadUsage;
 }
 
 }  // namespace
@@ -21,14 +30,7 @@ int runEffect(const Arguments& arguments) {
   Arguments rest = arguments;
   const std::optional<GivenOptions> options = takeEffectOptions(rest);
   if (!options) return kBadUsage;
-  ImageArguments image;
-  if (const int status = takeImageArguments("effect", "IN.ico INDEX OUT.ico NAME", rest, 1, image); status != kDone)
-    return status;
-  const std::string& name = image.more.front();
-  const EffectRow* effect = findEffect(name);
-  if (!effect) return badUsage("effect: no effect is named " + name);
-  const std::optional<EffectValues> values = valuesOf(*effect, *options);
-  return values ? makeEffect(*effect, *values, image) : kBadUsage;
+  return takeFlag(rest, "--all") ? runEffectOnAll(rest, *options) : runOnOneImage(rest, *options);
 }
 
 }  // namespace gp::cli

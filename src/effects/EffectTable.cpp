@@ -10,6 +10,7 @@ extern const EffectRow kButtonize, kEmbossed, kEngraved, kRaised, kShadowed, kDi
 extern const EffectRow kSphere, kGradient;
 extern const EffectRow kBrightness, kSharpenSoften, kColorTheme, kAntialias, kCast, kGrayscale, kInvert, kSwapElements;
 extern const EffectRow kSharpen, kSoften, kSwap;
+extern const EffectRow kRotate, kFlip, kTurn;
 
 namespace {
 
@@ -41,8 +42,8 @@ constexpr const EffectRow* kEffects[] = {
     &kTexture,        // 24
 };
 
-// Effects of gpicon only, whose side panel has another row.
-constexpr const EffectRow* kWithoutPanel[] = {&kSharpen, &kSoften, &kSwap};
+// Effects of gpicon only: the editor has them under another row of its menu, or in the Rotate menu.
+constexpr const EffectRow* kWithoutPanel[] = {&kSharpen, &kSoften, &kSwap, &kRotate, &kFlip, &kTurn};
 
 const EffectRow* firstOf(auto&& effects, auto matches) {
   const auto found = std::ranges::find_if(effects, [&](const EffectRow* effect) { return matches(*effect); });

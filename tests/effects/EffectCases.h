@@ -64,11 +64,26 @@ inline EffectValues valuesWith(const EffectRow& effect, std::size_t setting, int
   return values;
 }
 
-// The first values, and then each value of each setting while the others have their first ones.
+// The values that gpicon makes of the options that the effect needs: the first ones, with one flag where one is needed.
+inline EffectValues neededValues(const EffectRow& effect) {
+  EffectValues values = firstValues(effect.settings);
+  if (effect.needs == NeededOptions::ExactlyOne) values.set(0, 1);
+  return values;
+}
+
+// Whether gpicon can be given the values. An effect that needs exactly one of its options has flags only.
+inline bool areGivable(const EffectRow& effect, const EffectValues& values) {
+  int flags = 0;
+  for (std::size_t i = 0; i < effect.settings.size(); ++i) flags += values.flag(i) ? 1 : 0;
+  return effect.needs != NeededOptions::ExactlyOne || flags == 1;
+}
+
+// The needed values, and then each value of each setting while the others have their first ones.
 inline std::vector<EffectValues> valuesToTry(const EffectRow& effect) {
-  std::vector<EffectValues> all{firstValues(effect.settings)};
+  std::vector<EffectValues> all{neededValues(effect)};
   for (std::size_t i = 0; i < effect.settings.size(); ++i)
     for (const int value : valuesToTry(effect.settings[i])) all.push_back(valuesWith(effect, i, value));
+  std::erase_if(all, [&effect](const EffectValues& values) { return !areGivable(effect, values); });
   return all;
 }
 
@@ -90,9 +105,9 @@ inline std::vector<std::string> optionsFor(const EffectRow& effect, const Effect
 inline std::vector<std::string> neededOptions(const EffectRow& effect) {
   std::vector<std::string> words;
   for (const Setting& setting : effect.settings)
-    if (setting.isRequired || (effect.needsOption && words.empty())) {
+    if (setting.isRequired || (effect.needs != NeededOptions::None && words.empty())) {
       words.push_back("--" + std::string(setting.option));
-      words.push_back(textOfValue(setting, setting.first));
+      if (setting.kind != SettingKind::Flag) words.push_back(textOfValue(setting, setting.first));
     }
   return words;
 }
