@@ -3,7 +3,6 @@
 
 #include "drawing/RotateSurface.h"
 #include "effects/ColorRamp.h"
-#include "platform/gdi/RasterOps.h"
 #include "platform/text/Numbers.h"
 
 #include <algorithm>
@@ -110,10 +109,11 @@ void drawLinearGradient(bool symmetric, Surface& target, int angle, Color colorA
   const double width = target.width(), height = target.height();
   const int side = roundToInteger(std::sqrt(width * width + height * height) + kReserve);
   const Surface rows = symmetric ? symmetricRows(side, colorA, colorB) : straightRows(side, colorA, colorB);
-  Surface turned(side, side, kGround);
-  rotateSurface(rows, turned, {.angleDegrees = static_cast<double>(angle)});
-  BitBlt(target, 0, 0, target.width(), target.height(), turned, divide(side - target.width(), 2),
-         divide(side - target.height(), 2), RasterOp::SRCCOPY);
+  target.fill(kGround);
+  rotateSurface(rows, target,
+                {.angleDegrees = static_cast<double>(angle),
+                 .centerX = side / 2 - divide(side - target.width(), 2),
+                 .centerY = side / 2 - divide(side - target.height(), 2)});
 }
 
 void drawSquareGradient(Surface& target, Color colorA, Color colorB) {

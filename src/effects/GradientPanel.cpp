@@ -70,9 +70,12 @@ int GradientPanel::iconSide() const { return frame().hasIcon() ? frame().state()
 
 void GradientPanel::drawSamples() {
   const int side = iconSide();
-  for (int kind = 0; kind < kGradientKinds; ++kind)
-    PicGradient_.at(static_cast<std::size_t>(kind)) =
-        gradientPicture(side, side, valuesOf(static_cast<GradientKind>(kind)));
+  for (std::size_t kind = 0; kind < kGradientKinds; ++kind) {
+    const Drawn wanted{side, valuesOf(static_cast<GradientKind>(kind))};
+    if (drawn_.at(kind) == wanted) continue;
+    PicGradient_.at(kind) = gradientPicture(side, side, wanted.values);
+    drawn_.at(kind) = wanted;
+  }
 }
 
 bool GradientPanel::mayProceed() { return frame().mayApply(kGradient, valuesOf(kind_)); }

@@ -60,6 +60,13 @@ class GradientPanel final : public EffectPanel {
   int center_ = 0;
   int centerSide_ = 0;  // of the icon that the centre belongs to
   std::array<Surface, kGradientKinds> PicGradient_;
+  // What each sample shows: most changes are of one kind, and a straight gradient takes time.
+  struct Drawn {
+    int side = 0;
+    EffectValues values;
+    bool operator==(const Drawn&) const = default;
+  };
+  std::array<Drawn, kGradientKinds> drawn_;
 };
 
 }  // namespace gp
