@@ -5,6 +5,7 @@
 #include "document/IconSizes.h"
 
 #include <algorithm>
+#include <map>
 #include <random>
 #include <vector>
 
@@ -20,7 +21,7 @@ inline IconImage plainIcon(int size, Color color, Color mask) {
 // Icons of one size in 2, 16, 256 or many colours, with more or less painted, transparent and inverting pixels, and
 // icons without a transparent pixel, without a painted one, of inverting pixels only and of one colour. The same in
 // every run.
-inline std::vector<IconImage> iconsOfSize(int size) {
+inline std::vector<IconImage> makeIconsOfSize(int size) {
   std::mt19937 numbers(static_cast<unsigned>(size) * 7919U);
   const auto below = [&numbers](int end) { return static_cast<int>(numbers() % static_cast<unsigned>(end)); };
   std::vector<IconImage> icons{transparentIcon(size), plainIcon(size, kBlack, kBlack),
@@ -41,6 +42,13 @@ inline std::vector<IconImage> iconsOfSize(int size) {
     icons.push_back(icon);
   }
   return icons;
+}
+// The same, made once.
+inline const std::vector<IconImage>& iconsOfSize(int size) {
+  static std::map<int, std::vector<IconImage>> made;
+  const auto [icons, isNew] = made.try_emplace(size);
+  if (isNew) icons->second = makeIconsOfSize(size);
+  return icons->second;
 }
 
 }  // namespace gp::test

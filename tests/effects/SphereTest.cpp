@@ -162,7 +162,7 @@ Color modelColor(const Model& model, Color color, double lightX, double lightY, 
 TEST(Sphere, ItEqualsASlowModelForEveryIconBallLightAndFactor) {
   int compared = 0;
   for (const int size : kIconSides) {
-    const std::vector<IconImage> icons = iconsOfSize(size);
+    const std::vector<IconImage>& icons = iconsOfSize(size);
     for (int ball = 0; ball < 3; ++ball)
       for (const auto& [x, y] : {std::pair{11, 11}, {16, 16}, {3, 20}, {25, 7}, {16, 31}})
         for (const Color color : {kBlue, kWhite, kBlack, kGround, rgb(3, 3, 3), rgb(250, 17, 99)})

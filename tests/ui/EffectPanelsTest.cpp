@@ -2,8 +2,14 @@
 #include "document/PanelNumbers.h"
 #include "document/ui/SampleView.h"
 #include "document/ui/SurfacePainting.h"
+#include "effects/BrightnessPanel.h"
 #include "effects/ConfinePanel.h"
+#include "effects/EffectTable.h"
+#include "effects/Effects.h"
+#include "effects/GradientPanel.h"
 #include "effects/SettingsPanel.h"
+#include "effects/SpherePanel.h"
+#include "effects/ThemePanel.h"
 #include "ui/FormFixture.h"
 #include "ui/Screens.h"
 
@@ -312,6 +318,37 @@ TEST_F(EffectPanelsTest, TheSamplesFollowAnIconThatIsOpenedUnderThePanel) {
   ASSERT_TRUE(isUp(kReliefPanel));
   EXPECT_EQ(shell.effects().settingsPanel(kReliefPanel)->sample().width(), 16);
   EXPECT_EQ(sampleAt(find("picEffectsSample"), 8, 8), toRgb(state.picImage.GetPixel(8, 8)));
+}
+
+// The picture that a panel of effects has previewed.
+const IconImage& pictureOf(const Effects& effects, int number) {
+  if (const SettingsPanel* side = effects.settingsPanel(number)) return side->picture();
+  if (number == BrightnessPanel::kNumber) return effects.panel<BrightnessPanel>().picture();
+  if (number == ThemePanel::kNumber) return effects.panel<ThemePanel>().picture();
+  if (number == SpherePanel::kNumber) return effects.panel<SpherePanel>().picture();
+  return effects.panel<GradientPanel>().picture();
+}
+
+TEST_F(EffectPanelsTest, EveryPanelFollowsAnIconOfAnotherSizeAndAnEmptyContainer) {
+  for (const EffectRow* effect : effectTable()) {
+    if (!effect->apply) continue;
+    startWithDisc();
+    openPanel(effect->menu.index);
+    const int number = effect->panel.number;
+    ASSERT_TRUE(isUp(number)) << effect->title;
+    bool ok = false;
+    shell.doOpenIconFileQuietly(folder.write("other.ico", test::plainIconFile(16, 3)), ok);
+    settle();
+    ASSERT_TRUE(ok && isUp(number)) << effect->title;
+    EXPECT_EQ(pictureOf(shell.effects(), number).width(), 16) << effect->title;
+    state.current().present = false;
+    display.changed(DisplayPart::IconsPanel);
+    settle();
+    EXPECT_EQ(pictureOf(shell.effects(), number).width(), 0) << effect->title;
+    find(QString("fraPanel(%1)").arg(number))->grab();
+    state.current().modified = false;
+    form.reset();
+  }
 }
 
 TEST_F(EffectPanelsTest, TheSampleFollowsTheCurrentColor) {
