@@ -34,15 +34,16 @@ Entry pngEntry() {
   return e;
 }
 
-// The bytes of entry i in the directory, without its byte count and offset.
-Bytes fieldsOf(const Bytes& file, std::size_t i) {
-  const auto at = file.begin() + static_cast<std::ptrdiff_t>(kDirectory + i * kEntry);
-  return {at, at + 8};
+// Bytes of a file, as far as it has them.
+Bytes part(const Bytes& file, std::size_t at, std::size_t count) {
+  const std::size_t begin = std::min(at, file.size()), end = std::min(begin + count, file.size());
+  return {file.begin() + static_cast<std::ptrdiff_t>(begin), file.begin() + static_cast<std::ptrdiff_t>(end)};
 }
+// The bytes of entry i in the directory, without its byte count and offset.
+Bytes fieldsOf(const Bytes& file, std::size_t i) { return part(file, kDirectory + i * kEntry, 8); }
 Bytes imageOf(const Bytes& file, std::size_t i) {
   const std::size_t at = kDirectory + i * kEntry;
-  const auto begin = file.begin() + static_cast<std::ptrdiff_t>(number(file, at + 12, 4));
-  return {begin, begin + static_cast<std::ptrdiff_t>(number(file, at + 8, 4))};
+  return part(file, number(file, at + 12, 4), number(file, at + 8, 4));
 }
 
 class GpiconEffectOnAll : public Gpicon {
