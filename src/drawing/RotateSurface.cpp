@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <vector>
 
 namespace gp {
 
@@ -29,14 +28,20 @@ Polar computePolar(int x, int y) {
 }
 
 // Kept for the pixels of small pictures: computing them takes half of the time of a rotation.
+constexpr std::size_t kKept = 64;
+using PolarTable = std::array<Polar, kKept * kKept>;
+
+PolarTable makePolarTable() {
+  PolarTable table;
+  for (std::size_t i = 0; i < table.size(); ++i)
+    table[i] = computePolar(static_cast<int>(i / kKept), static_cast<int>(i % kKept));
+  return table;
+}
+
 Polar polarOf(int x, int y) {
-  constexpr int kKept = 64;
-  static const std::vector<Polar> table = [] {
-    std::vector<Polar> polars;
-    for (int i = 0; i < kKept * kKept; ++i) polars.push_back(computePolar(i / kKept, i % kKept));
-    return polars;
-  }();
-  return x < kKept && y < kKept ? table[static_cast<std::size_t>(x * kKept + y)] : computePolar(x, y);
+  static const PolarTable table = makePolarTable();
+  const auto column = static_cast<std::size_t>(x), row = static_cast<std::size_t>(y);
+  return column < kKept && row < kKept ? table[column * kKept + row] : computePolar(x, y);
 }
 
 struct Turn {

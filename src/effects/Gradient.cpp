@@ -78,11 +78,11 @@ int farthestCorner(const Surface& target, int x, int y) {
                    distanceToCorner(x, y, width, height)});
 }
 
-struct Pixel {
+struct Center {
   int x, y;
 };
 
-Pixel centerOf(int width, int height, const EffectValues& values) {
+Center centerOf(int width, int height, const EffectValues& values) {
   const int center = values.number(indexOf(GradientSetting::Center));
   if (center == kMiddlePoint) return {width / 2, height / 2};
   return {xOfPoint(center), yOfPoint(center)};
@@ -99,7 +99,7 @@ IconImage gradient(const IconImage& icon, const EffectValues& values) {
 
 Refusal refusal(const IconImage& icon, const EffectValues& values) {
   if (!hasUnpaintedArea(icon.mask)) return "No unpainted area in current icon.";
-  const Pixel center = centerOf(icon.width(), icon.height(), values);
+  const Center center = centerOf(icon.width(), icon.height(), values);
   return icon.image.contains(center.x, center.y) ? Refusal() : "Center point is outside the icon.";
 }
 
@@ -139,7 +139,7 @@ Surface gradientPicture(int width, int height, const EffectValues& values) {
   if (kind == GradientKind::Square) {
     drawSquareGradient(picture, from, to);
   } else if (kind == GradientKind::Spherical) {
-    const Pixel center = centerOf(width, height, values);
+    const Center center = centerOf(width, height, values);
     drawSphericalGradient(picture, center.x, center.y, from, to);
   } else {
     drawLinearGradient(kind == GradientKind::Symmetric, picture, values.number(indexOf(GradientSetting::Angle)), from,
