@@ -89,12 +89,7 @@ Center centerOf(int width, int height, const EffectValues& values) {
 }
 
 IconImage gradient(const IconImage& icon, const EffectValues& values) {
-  const Surface picture = gradientPicture(icon.width(), icon.height(), values);
-  IconImage result{icon.image, Surface(icon.width(), icon.height(), kBlack), {}};
-  for (int y = 0; y < icon.height(); ++y)
-    for (int x = 0; x < icon.width(); ++x)
-      if (icon.mask.GetPixel(x, y) == kWhite) result.image.SetPixelV(x, y, picture.GetPixel(x, y));
-  return result;
+  return paintedBehind(icon, gradientPicture(icon.width(), icon.height(), values));
 }
 
 Refusal refusal(const IconImage& icon, const EffectValues& values) {
@@ -146,6 +141,14 @@ Surface gradientPicture(int width, int height, const EffectValues& values) {
                        to);
   }
   return picture;
+}
+
+IconImage paintedBehind(const IconImage& icon, const Surface& picture) {
+  IconImage result{icon.image, Surface(icon.width(), icon.height(), kBlack), {}};
+  for (int y = 0; y < icon.height(); ++y)
+    for (int x = 0; x < icon.width(); ++x)
+      if (icon.mask.GetPixel(x, y) == kWhite) result.image.SetPixelV(x, y, picture.GetPixel(x, y));
+  return result;
 }
 
 bool hasUnpaintedArea(const Surface& mask) {
