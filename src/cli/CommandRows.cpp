@@ -153,9 +153,17 @@ constexpr std::array kRows = std::to_array<Command>({
      .example = "reduce app.ico 0 app16.ico --to 16 --method nearest",
      .run = runReduce},
     {.name = "effect",
-     .usage = "effect IN.ico INDEX OUT.ico NAME",
-     .summary = "applies an effect to one image",
-     .help = "Applies an effect to one image and saves it as resave does. Refused with alpha.",
+     .usage = "effect IN.ico INDEX OUT.ico NAME\n"
+              "            | FILE... NAME --all -d DIR [--force] [--max-size MB]\n"
+              "           ",
+     .summary = "applies an effect to one image, or to all images of files",
+     .help = "Applies an effect to one image and saves it as resave does. With --all, applies it to\n"
+             "every image of each FILE that takes it and writes the FILE under its name into DIR:\n"
+             "the images with the effect as replace puts them in, all others as they are. A FILE\n"
+             "without an image that takes the effect is not written, and of two FILEs of one name\n"
+             "only the first. DIR, --force and --max-size are as with unpack; INDEX does not go\n"
+             "with --all, and a FILE whose name is a number is ./0. Images with alpha are refused\n"
+             "unless the effect takes it.",
      .example = "effect app.ico 0 disabled.ico disabled",
      .run = runEffect,
      .moreUsage = effectUsage,

@@ -1,5 +1,5 @@
-#include "cli/EffectFiles.h"
-#include "cli/EffectOptions.h"
+#include "cli/ChosenEffect.h"
+#include "cli/EffectOnAll.h"
 #include "cli/OneImage.h"
 #include "cli/Subcommands.h"
 #include "effects/Resize.h"
@@ -7,16 +7,25 @@
 namespace gp::cli {
 namespace {
 
-int makeEffect(const EffectRow& effect, const EffectValues& values, const ImageArguments& arguments) {
-  const auto loaded = loadImageForEffect(arguments);
+int makeEffect(const ChosenEffect& effect, const ImageArguments& arguments) {
+  const auto loaded = loadImage(arguments);
   if (!loaded) return kRefused;
-  if (const Refusal refusal = refusalOf(effect, loaded->icon, values); refusal.text) {
-    complain(arguments.input, refusal.text);
+  if (const char* const reason = reasonAgainst(effect, *loaded)) {
+    complain(arguments.input, reason);
     return kRefused;
   }
-  const IconImage result = effect.apply(loaded->icon, values);
-  const IconContainerRec record = effect.changesSize ? recordOfResized(loaded->record, result) : loaded->record;
-  return writeIcon(result, record, arguments.output);
+  const IconImage result = applied(effect, loaded->icon);
+  const bool isResized = effect.row.changesSize;
+  return writeIcon(result, isResized ? recordOfResized(loaded->record, result) : loaded->record, arguments.output);
+}
+
+int runOnOneImage(const Arguments& arguments, const GivenOptions& options) {
+  ImageArguments image;
+  const int status = takeImageArguments("effect", "IN.ico INDEX OUT.ico NAME", arguments, 1, image);
+  if (status != kDone) return status;
+  int refusal = kDone;
+  const auto effect = chooseEffect(image.more.front(), options, refusal);
+  return effect ? makeEffect(*effect, image) : refusal;
 }
 
 }  // namespace
@@ -25,15 +34,7 @@ int runEffect(const Arguments& arguments) {
   Arguments rest = arguments;
   const std::optional<GivenOptions> options = takeEffectOptions(rest);
   if (!options) return kBadUsage;
-  ImageArguments image;
-  if (const int status = takeImageArguments("effect", "IN.ico INDEX OUT.ico NAME", rest, 1, image); status != kDone)
-    return status;
-  const std::string& name = image.more.front();
-  const EffectRow* effect = findEffect(name);
-  if (!effect) return badUsage("effect: no effect is named " + name);
-  std::optional<EffectValues> values = valuesOf(*effect, *options);
-  if (!values) return kBadUsage;
-  return readEffectFile(*effect, *options, *values) ? makeEffect(*effect, *values, image) : kRefused;
+  return takeFlag(rest, "--all") ? runEffectOnAll(rest, *options) : runOnOneImage(rest, *options);
 }
 
 }  // namespace gp::cli

@@ -59,18 +59,24 @@ bool takeSetting(const Setting& setting, Arguments& arguments, GivenOptions& giv
   return true;
 }
 
+bool areEnough(const GivenOptions& options, NeededOptions needed) {
+  return needed == NeededOptions::None ||
+         (needed == NeededOptions::AtLeastOne ? !options.empty() : options.size() == 1);
+}
+
 // False, after a complaint, when an option that the effect needs is not given.
 bool hasRequired(const EffectRow& effect, const GivenOptions& options) {
   std::vector<std::string> names;
-  bool areGiven = !effect.needsOption || !options.empty();
+  bool areGiven = areEnough(options, effect.needs);
   for (const Setting& setting : effect.settings) {
     if (!setting.isRequired) continue;
     names.push_back("--" + std::string(setting.option));
     areGiven = areGiven && options.contains(setting.option);
   }
   if (areGiven) return true;
-  const std::string needed = effect.needsOption ? "at least one of its options" : listed(names);
-  badUsage("effect: " + std::string(effect.name) + " needs " + needed);
+  constexpr const char* kNeeded[] = {"", "at least one of its options", "exactly one of its options"};
+  if (effect.needs != NeededOptions::None) names = {kNeeded[static_cast<std::size_t>(effect.needs)]};
+  badUsage("effect: " + std::string(effect.name) + " needs " + listed(names));
   return false;
 }
 

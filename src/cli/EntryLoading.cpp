@@ -59,15 +59,18 @@ std::optional<LoadedIcon> loadEntry(const IconFile& file, int index, const std::
   return LoadedIcon{std::move(decoded.icon), record};
 }
 
+std::optional<NewIcon> newIconOf(const LoadedIcon& loaded) {
+  const IconTraits traits = traitsToWrite(loaded.icon, loaded.record);
+  auto image = imageOfSingleIcon(FileBytes(composeSingleIcon(loaded.icon, traits.depth)));
+  if (!image) return std::nullopt;
+  return NewIcon{traits, std::move(*image)};
+}
+
 std::optional<NewIcon> loadNewIcon(const std::string& path, std::optional<int> index) {
   const auto file = openIconFile(path);
   if (!file) return std::nullopt;
   const auto loaded = index ? loadNamedEntry(*file, *index, path) : loadChosenEntry(*file, path);
-  if (!loaded) return std::nullopt;
-  const IconTraits traits = traitsToWrite(loaded->icon, loaded->record);
-  auto image = imageOfSingleIcon(FileBytes(composeSingleIcon(loaded->icon, traits.depth)));
-  if (!image) return std::nullopt;
-  return NewIcon{traits, std::move(*image)};
+  return loaded ? newIconOf(*loaded) : std::nullopt;
 }
 
 }  // namespace gp::cli

@@ -25,6 +25,8 @@ struct NewIcon {
   IconTraits traits;
   NewImage image;
 };
+// The image of an icon as a save writes it. Empty when it cannot be saved.
+std::optional<NewIcon> newIconOf(const LoadedIcon& loaded);
 // Loads a file's icon: entry `index`, or without an index the one that the editor opens without asking. Empty, after an
 // error message, for a file or an entry that the editor does not open.
 std::optional<NewIcon> loadNewIcon(const std::string& path, std::optional<int> index);

@@ -33,7 +33,7 @@ std::optional<LoadedIcon> loadImage(const ImageArguments& given) {
   return loaded;
 }
 
-std::optional<LoadedIcon> loadImageForEffect(const ImageArguments& given) {
+std::optional<LoadedIcon> loadImageWithoutAlpha(const ImageArguments& given) {
   auto loaded = loadImage(given);
   if (!loaded || !loaded->record.hasAlpha) return loaded;
   complain(given.input, kIconIsWithAlpha);

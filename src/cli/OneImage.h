@@ -25,8 +25,8 @@ int takeImageArguments(const std::string& command, const std::string& needed, co
 
 // Loads the image as the editor does when it opens a file. Empty after an error message.
 std::optional<LoadedIcon> loadImage(const ImageArguments& given);
-// The same for an effect, which refuses icons with alpha.
-std::optional<LoadedIcon> loadImageForEffect(const ImageArguments& given);
+// The same, refusing icons with alpha.
+std::optional<LoadedIcon> loadImageWithoutAlpha(const ImageArguments& given);
 
 // Returns kDone if the output has been written, otherwise kRefused after an error message.
 int answerToWriting(bool isWritten, const std::string& output);

@@ -11,12 +11,6 @@ namespace {
 
 constexpr const char* kInputName = "stdin";
 
-bool makeFolder(const std::string& folder) {
-  std::error_code error;
-  std::filesystem::create_directories(folder, error);
-  return directoryExists(folder);
-}
-
 // A number of megabytes. Every file takes at least a byte, so the bound of bytes is enough.
 bool parseBounds(const std::string& text, OutputBounds& bounds) {
   int megabytes = 0;
@@ -57,7 +51,7 @@ std::string stemOf(const std::string& path) {
   return isStream(path) ? kInputName : std::filesystem::path(path).stem().string();
 }
 
-int takeFolderArguments(const std::string& command, Arguments arguments, FolderArguments& given) {
+int parseFolderArguments(const std::string& command, Arguments arguments, FolderArguments& given) {
   if (!takeOption(arguments, "-d", given.folder) || given.folder.empty())
     return badUsage(command + ": one -d DIR is needed");
   std::string size;
@@ -68,9 +62,20 @@ int takeFolderArguments(const std::string& command, Arguments arguments, FolderA
   if (!split.options.empty()) return badUsage(command + ": unknown option " + split.options.front());
   if (split.files.empty()) return badUsage(command + ": no file given");
   given.files = split.files;
-  if (makeFolder(given.folder)) return kDone;
+  return kDone;
+}
+
+int makeFolderFor(const FolderArguments& given) {
+  std::error_code error;
+  std::filesystem::create_directories(given.folder, error);
+  if (directoryExists(given.folder)) return kDone;
   complain(given.folder, "not a folder, and cannot be made");
   return kRefused;
+}
+
+int takeFolderArguments(const std::string& command, const Arguments& arguments, FolderArguments& given) {
+  const int status = parseFolderArguments(command, arguments, given);
+  return status == kDone ? makeFolderFor(given) : status;
 }
 
 }  // namespace gp::cli

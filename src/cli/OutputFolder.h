@@ -60,8 +60,10 @@ class OutputFolder {
   bool replaces_;
 };
 
-// Parses the arguments and creates the folder if necessary. Returns kDone, or another exit status after an error
-// message.
-int takeFolderArguments(const std::string& command, Arguments arguments, FolderArguments& given);
+// Each returns kDone, or another exit status after an error message. The first parses the arguments, the second creates
+// the folder if necessary, the third does both.
+int parseFolderArguments(const std::string& command, Arguments arguments, FolderArguments& given);
+int makeFolderFor(const FolderArguments& given);
+int takeFolderArguments(const std::string& command, const Arguments& arguments, FolderArguments& given);
 
 }  // namespace gp::cli

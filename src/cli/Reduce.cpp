@@ -52,7 +52,7 @@ bool hasFewColors(const IconImage& icon, int most, const std::string& path) {
 }
 
 int reduceTo(const Method& method, const ReductionSettings& settings, const ImageArguments& given) {
-  const auto loaded = loadImageForEffect(given);
+  const auto loaded = loadImageWithoutAlpha(given);
   if (!loaded || hasFewColors(loaded->icon, method.colors, given.input)) return kRefused;
   return writeIcon(reduceColors(loaded->icon.image, loaded->icon.mask, settings), loaded->record, given.output);
 }

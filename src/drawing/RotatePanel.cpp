@@ -6,10 +6,12 @@
 #include "document/EditingArea.h"
 #include "document/Editor.h"
 #include "document/Hourglass.h"
+#include "drawing/IconTransforms.h"
 #include "drawing/Regions.h"
 #include "drawing/RotateSurface.h"
 #include "drawing/UndoHistory.h"
 #include "platform/gdi/RasterOps.h"
+#include "platform/gdi/SurfaceOps.h"
 #include "platform/text/Numbers.h"
 
 #include <algorithm>
@@ -20,20 +22,6 @@ namespace {
 
 // Pixels that the sample shows around the picture at both ends of its diagonal together.
 constexpr int kSampleMargin = 2;
-
-bool isWholeTurn(double angle) { return angle == 0 || angle == kLargestAngle || angle == -kLargestAngle; }
-
-// The work Surface has the width of the diagonal, rounded to the nearest pixel, and the offset is truncated, so that
-// the middle of the icon does not move.
-void rotate(Surface& picture, double angle, Color background) {
-  const int side = diagonalOf(picture.width(), picture.height());
-  Surface work(side, side, background);
-  rotateSurface(picture, work, {.angleDegrees = angle, .skipBackground = true, .backgroundColor = background});
-  const int offX = divide(side - picture.width(), 2);
-  const int offY = divide(side - picture.height(), 2);
-  BitBlt(picture, 0, 0, picture.width(), picture.height(), work, offX, offY, RasterOp::SRCCOPY);
-  picture.makePersistent();
-}
 
 }  // namespace
 
@@ -107,8 +95,9 @@ void RotatePanel::rotateIcon() {
   const Hourglass hourglass(context_);
   regions_.finishDrag();
   regions_.clearRegion();
-  rotate(state_.picImage, angle(), kBlack);
-  rotate(state_.picMask, angle(), kWhite);
+  const IconImage rotated = rotatedIcon({state_.picImage, state_.picMask, {}}, angle());
+  BitbltPic(rotated.image, state_.picImage);
+  BitbltPic(rotated.mask, state_.picMask);
   state_.current().modified = true;
   editingArea_.showChangedIcon();
 }

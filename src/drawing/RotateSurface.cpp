@@ -2,6 +2,7 @@
 
 #include "platform/text/Numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -17,6 +18,32 @@ constexpr double kAlmostOne = 0.999;
 // A picture's middle is rounded: its far corner can be this much further away.
 constexpr int kReserve = 2;
 
+// A pixel's direction and distance from the middle.
+struct Polar {
+  double angle, distance;
+};
+
+Polar computePolar(int x, int y) {
+  return {x == 0 ? kPi / 2 : std::atan(static_cast<double>(y) / x), std::sqrt(static_cast<double>(x * x + y * y))};
+}
+
+// Kept for the pixels of small pictures: computing them takes half of the time of a rotation.
+constexpr std::size_t kKept = 64;
+using PolarTable = std::array<Polar, kKept * kKept>;
+
+PolarTable makePolarTable() {
+  PolarTable table;
+  for (std::size_t i = 0; i < table.size(); ++i)
+    table[i] = computePolar(static_cast<int>(i / kKept), static_cast<int>(i % kKept));
+  return table;
+}
+
+Polar polarOf(int x, int y) {
+  static const PolarTable table = makePolarTable();
+  const auto column = static_cast<std::size_t>(x), row = static_cast<std::size_t>(y);
+  return column < kKept && row < kKept ? table[column * kKept + row] : computePolar(x, y);
+}
+
 struct Turn {
   double sourceX, sourceY;
   int targetX, targetY;
@@ -28,18 +55,22 @@ class Rotation {
       : src_(src), dst_(dst), settings_(settings), angle_(settings.angleDegrees / kFullCircle * 2 * kPi) {}
 
   void run() {
-    const int reach = diagonalOf(src_.width(), src_.height()) + kReserve;
-    for (int x = 0; x <= reach / 2.0; ++x)
-      for (int y = 0; y <= reach / 2.0; ++y) turnQuarters(x, y);
+    const int reach = std::min((diagonalOf(src_.width(), src_.height()) + kReserve) / 2, farthestSide());
+    for (int x = 0; x <= reach; ++x)
+      for (int y = 0; y <= reach; ++y) turnQuarters(x, y);
   }
 
  private:
+  // The distance from the middle to the farthest row or column of the target.
+  int farthestSide() const {
+    return std::max({targetX_, dst_.width() - 1 - targetX_, targetY_, dst_.height() - 1 - targetY_});
+  }
+
   // One angle applies to four pixels, a quarter turn apart.
   void turnQuarters(int x, int y) {
-    const double a = x == 0 ? kPi / 2 : std::atan(static_cast<double>(y) / x);
-    const double r = std::sqrt(static_cast<double>(x * x + y * y));
-    const double u = r * std::cos(angle_ + a);
-    const double v = r * std::sin(angle_ + a);
+    const Polar polar = polarOf(x, y);
+    const double u = polar.distance * std::cos(angle_ + polar.angle);
+    const double v = polar.distance * std::sin(angle_ + polar.angle);
     for (const Turn& turn : {Turn{u, v, x, y}, Turn{-u, -v, -x, -y}, Turn{v, -u, y, -x}, Turn{-v, u, -y, x}})
       write(turn);
   }

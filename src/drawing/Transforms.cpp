@@ -9,7 +9,6 @@
 #include "drawing/RotatePanel.h"
 #include "drawing/Tools.h"
 #include "drawing/UndoHistory.h"
-#include "platform/gdi/Stretch.h"
 #include "platform/gdi/SurfaceOps.h"
 #include "platform/ports/MessageBoxes.h"
 
@@ -18,28 +17,6 @@ namespace gp {
 namespace {
 
 constexpr const char* kEndShift = "Terminate Shift operation and accept the current image?\n";
-
-void mirrorHorizontally(const Surface& source, Surface& target) {
-  const int width = source.width();
-  const int height = source.height();
-  StretchBlt(target, width - 1, 0, -width, height, source, 0, 0, width, height, RasterOp::SRCCOPY);
-}
-
-void mirrorVertically(const Surface& source, Surface& target) {
-  const int width = source.width();
-  const int height = source.height();
-  StretchBlt(target, 0, height - 1, width, -height, source, 0, 0, width, height, RasterOp::SRCCOPY);
-}
-
-void turnLeft(const Surface& source, Surface& target) {
-  for (int i = 0; i < source.width(); ++i)
-    for (int j = 0; j < source.height(); ++j) target.SetPixelV(j, source.width() - 1 - i, source.GetPixel(i, j));
-}
-
-void turnRight(const Surface& source, Surface& target) {
-  for (int i = 0; i < source.width(); ++i)
-    for (int j = 0; j < source.height(); ++j) target.SetPixelV(source.height() - 1 - j, i, source.GetPixel(i, j));
-}
 
 }  // namespace
 
@@ -60,10 +37,10 @@ bool Transforms::endShift() {
   return true;
 }
 
-void Transforms::RotateFlipHoriz() { transform(mirrorHorizontally, false); }
-void Transforms::RotateFlipVertical() { transform(mirrorVertically, false); }
-void Transforms::RotateLeft() { transform(turnLeft, true); }
-void Transforms::RotateRight() { transform(turnRight, true); }
+void Transforms::RotateFlipHoriz() { transform(flippedHorizontally); }
+void Transforms::RotateFlipVertical() { transform(flippedVertically); }
+void Transforms::RotateLeft() { transform(turnedLeft); }
+void Transforms::RotateRight() { transform(turnedRight); }
 
 void Transforms::rotateAtAnyAngle() {
   if (endShift()) rotatePanel_.open();
@@ -73,25 +50,16 @@ void Transforms::bringColorPanelForward() {
   if (state_.screen.mActivePanel != kColorPanel) context_.editor.showPanel(kColorPanel);
 }
 
-// `turns`: the transformation exchanges width and height.
-void Transforms::transform(Transform transformPixels, bool turns) {
+void Transforms::transform(IconTransform transformed) {
   if (!endShift()) return;
   bringColorPanelForward();
-  const auto transformed = [&](const Surface& image, const Surface& mask) {
-    const int width = turns ? image.height() : image.width();
-    const int height = turns ? image.width() : image.height();
-    IconImage icon{Surface(width, height), Surface(width, height), {}};
-    transformPixels(image, icon.image);
-    transformPixels(mask, icon.mask);
-    return icon;
-  };
   if (!regions_.exists()) {
-    takeOver(transformed(state_.picImage, state_.picMask));
+    takeOver(transformed({state_.picImage, state_.picMask, {}}));
     return;
   }
   const Hourglass hourglass(context_);
   regions_.finishDrag();
-  regions_.replaceContent(transformed(regions_.content().image, regions_.content().mask));
+  regions_.replaceContent(transformed(regions_.content()));
 }
 
 void Transforms::takeOver(const IconImage& icon) {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "document/Context.h"
-#include "document/IconImage.h"
+#include "drawing/IconTransforms.h"
 
 namespace gp {
 
@@ -29,8 +29,7 @@ class Transforms {
 
  private:
   bool endShift();
-  using Transform = void (*)(const Surface& source, Surface& target);
-  void transform(Transform transformPixels, bool turns);
+  void transform(IconTransform transformed);
   void takeOver(const IconImage& icon);
   void bringColorPanelForward();
 

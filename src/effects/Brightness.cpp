@@ -56,6 +56,6 @@ extern const EffectRow kBrightness{.name = "brightness",
                                    .panel = {.number = 9, .sample = "picBrightness", .isGenerated = false},
                                    .settings = kSettings,
                                    .apply = brightness,
-                                   .needsOption = true};
+                                   .needs = NeededOptions::AtLeastOne};
 
 }  // namespace gp

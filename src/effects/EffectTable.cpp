@@ -10,7 +10,8 @@ extern const EffectRow kButtonize, kEmbossed, kEngraved, kRaised, kShadowed, kDi
 extern const EffectRow kText, kSphere, kGradient;
 extern const EffectRow kBrightness, kSharpenSoften, kColorTheme, kAntialias, kCast, kGrayscale, kInvert, kSwapElements;
 extern const EffectRow kBlend, kTexture;
-extern const EffectRow kSharpen, kSoften, kSwap, kResize;
+extern const EffectRow kSharpen, kSoften, kSwap;
+extern const EffectRow kResize, kRotate, kFlip, kTurn;
 
 namespace {
 
@@ -37,8 +38,8 @@ constexpr const EffectRow* kEffects[] = {
     &kTexture,        // 24
 };
 
-// Effects of gpicon only, whose side panel has another row.
-constexpr const EffectRow* kWithoutPanel[] = {&kSharpen, &kSoften, &kSwap, &kResize};
+// Effects of gpicon only: the editor has them under another row of its menu, or in another menu.
+constexpr const EffectRow* kWithoutPanel[] = {&kSharpen, &kSoften, &kSwap, &kResize, &kRotate, &kFlip, &kTurn};
 
 const EffectRow* firstOf(auto&& effects, auto matches) {
   const auto found = std::ranges::find_if(effects, [&](const EffectRow* effect) { return matches(*effect); });

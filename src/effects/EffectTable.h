@@ -45,6 +45,9 @@ struct Refusal {
 };
 using EffectRefusal = Refusal (*)(const IconImage& icon, const EffectValues& values);
 
+// How many of its options an effect must be given by gpicon, besides those that are required by themselves.
+enum class NeededOptions { None, AtLeastOne, ExactlyOne };
+
 struct EffectRow {
   const char* name = "";   // of gpicon's effect; empty when gpicon has other rows for it
   const char* title = "";  // shown on the side panel
@@ -54,8 +57,9 @@ struct EffectRow {
   std::span<const Setting> settings = {};
   EffectFunction apply = nullptr;   // null for one that the class of its panel makes, and that gpicon does not have
   EffectRefusal refusal = nullptr;  // null for an effect that every icon takes with all values
-  bool needsOption = false;         // gpicon takes the effect only with at least one of its options
-  bool changesSize = false;         // the result has another size than the icon
+  NeededOptions needs = NeededOptions::None;
+  bool takesAlpha = false;   // the icon may have alpha values, which the effect passes on; false: they are refused
+  bool changesSize = false;  // the result has another size, so gpicon does not apply it to all images of a file
 };
 
 // Whether the program has the effect, or only its menu entry.

@@ -37,11 +37,12 @@ class Effects {
   Panel& panel() const {
     return static_cast<Panel&>(*find(Panel::kNumber));
   }
-  // The panel of that number; null when that is no panel of settings.
+  // The panel of that number; null when there is none.
+  EffectPanel* find(int number) const;
+  // The same; null when that is no panel of settings.
   SettingsPanel* settingsPanel(int number) const;
 
  private:
-  EffectPanel* find(int number) const;
   void addSettingsPanel(int number);
 
   EffectFrame frame_;

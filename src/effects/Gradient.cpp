@@ -3,7 +3,6 @@
 
 #include "drawing/RotateSurface.h"
 #include "effects/ColorRamp.h"
-#include "platform/gdi/RasterOps.h"
 #include "platform/text/Numbers.h"
 
 #include <algorithm>
@@ -79,28 +78,23 @@ int farthestCorner(const Surface& target, int x, int y) {
                    distanceToCorner(x, y, width, height)});
 }
 
-struct Pixel {
+struct Center {
   int x, y;
 };
 
-Pixel centerOf(int width, int height, const EffectValues& values) {
+Center centerOf(int width, int height, const EffectValues& values) {
   const int center = values.number(indexOf(GradientSetting::Center));
   if (center == kMiddlePoint) return {width / 2, height / 2};
   return {xOfPoint(center), yOfPoint(center)};
 }
 
 IconImage gradient(const IconImage& icon, const EffectValues& values) {
-  const Surface picture = gradientPicture(icon.width(), icon.height(), values);
-  IconImage result{icon.image, Surface(icon.width(), icon.height(), kBlack), {}};
-  for (int y = 0; y < icon.height(); ++y)
-    for (int x = 0; x < icon.width(); ++x)
-      if (icon.mask.GetPixel(x, y) == kWhite) result.image.SetPixelV(x, y, picture.GetPixel(x, y));
-  return result;
+  return paintedBehind(icon, gradientPicture(icon.width(), icon.height(), values));
 }
 
 Refusal refusal(const IconImage& icon, const EffectValues& values) {
   if (!hasUnpaintedArea(icon.mask)) return "No unpainted area in current icon.";
-  const Pixel center = centerOf(icon.width(), icon.height(), values);
+  const Center center = centerOf(icon.width(), icon.height(), values);
   return icon.image.contains(center.x, center.y) ? Refusal() : "Center point is outside the icon.";
 }
 
@@ -110,10 +104,11 @@ void drawLinearGradient(bool symmetric, Surface& target, int angle, Color colorA
   const double width = target.width(), height = target.height();
   const int side = roundToInteger(std::sqrt(width * width + height * height) + kReserve);
   const Surface rows = symmetric ? symmetricRows(side, colorA, colorB) : straightRows(side, colorA, colorB);
-  Surface turned(side, side, kGround);
-  rotateSurface(rows, turned, {.angleDegrees = static_cast<double>(angle)});
-  BitBlt(target, 0, 0, target.width(), target.height(), turned, divide(side - target.width(), 2),
-         divide(side - target.height(), 2), RasterOp::SRCCOPY);
+  target.fill(kGround);
+  rotateSurface(rows, target,
+                {.angleDegrees = static_cast<double>(angle),
+                 .centerX = side / 2 - divide(side - target.width(), 2),
+                 .centerY = side / 2 - divide(side - target.height(), 2)});
 }
 
 void drawSquareGradient(Surface& target, Color colorA, Color colorB) {
@@ -139,13 +134,21 @@ Surface gradientPicture(int width, int height, const EffectValues& values) {
   if (kind == GradientKind::Square) {
     drawSquareGradient(picture, from, to);
   } else if (kind == GradientKind::Spherical) {
-    const Pixel center = centerOf(width, height, values);
+    const Center center = centerOf(width, height, values);
     drawSphericalGradient(picture, center.x, center.y, from, to);
   } else {
     drawLinearGradient(kind == GradientKind::Symmetric, picture, values.number(indexOf(GradientSetting::Angle)), from,
                        to);
   }
   return picture;
+}
+
+IconImage paintedBehind(const IconImage& icon, const Surface& picture) {
+  IconImage result{icon.image, Surface(icon.width(), icon.height(), kBlack), {}};
+  for (int y = 0; y < icon.height(); ++y)
+    for (int x = 0; x < icon.width(); ++x)
+      if (icon.mask.GetPixel(x, y) == kWhite) result.image.SetPixelV(x, y, picture.GetPixel(x, y));
+  return result;
 }
 
 bool hasUnpaintedArea(const Surface& mask) {

@@ -27,6 +27,9 @@ void drawSphericalGradient(Surface& target, int x, int y, Color colorA, Color co
 
 // Returns the gradient that the values of the effect describe, as a picture of that size in pixels.
 Surface gradientPicture(int width, int height, const EffectValues& values);
+// Returns the icon with each pixel that is white in its Mask replaced by that of a picture of its size, and all
+// painted.
+IconImage paintedBehind(const IconImage& icon, const Surface& picture);
 // Whether an icon has a pixel that the gradient paints.
 bool hasUnpaintedArea(const Surface& mask);
 

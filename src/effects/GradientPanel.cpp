@@ -64,15 +64,21 @@ void GradientPanel::swapColors() {
   preview();
 }
 
-IconImage GradientPanel::apply(const IconImage& icon) const { return kGradient.apply(icon, valuesOf(kind_)); }
+IconImage GradientPanel::apply(const IconImage& icon) const { return paintedBehind(icon, drawnSample(kind_)); }
 
 int GradientPanel::iconSide() const { return frame().hasIcon() ? frame().state().picImage.width() : 0; }
 
-void GradientPanel::drawSamples() {
+const Surface& GradientPanel::drawnSample(GradientKind kind) const {
+  Sample& sample = samples_.at(static_cast<std::size_t>(kind));
   const int side = iconSide();
-  for (int kind = 0; kind < kGradientKinds; ++kind)
-    PicGradient_.at(static_cast<std::size_t>(kind)) =
-        gradientPicture(side, side, valuesOf(static_cast<GradientKind>(kind)));
+  const EffectValues values = valuesOf(kind);
+  if (sample.picture.width() != side || sample.values != values)
+    sample = {.picture = gradientPicture(side, side, values), .values = values};
+  return sample.picture;
+}
+
+void GradientPanel::drawSamples() {
+  for (int kind = 0; kind < kGradientKinds; ++kind) drawnSample(static_cast<GradientKind>(kind));
 }
 
 bool GradientPanel::mayProceed() { return frame().mayApply(kGradient, valuesOf(kind_)); }

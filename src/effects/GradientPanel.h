@@ -28,7 +28,7 @@ class GradientPanel final : public EffectPanel {
   // The colour of cmdGradientColor(i).
   const Color& color(int i) const { return colors_.at(static_cast<std::size_t>(i)); }
   // The gradients of all kinds, of the icon's size; without pixels while there is no icon.
-  const Surface& PicGradient(int kind) const { return PicGradient_.at(static_cast<std::size_t>(kind)); }
+  const Surface& PicGradient(int kind) const { return samples_.at(static_cast<std::size_t>(kind)).picture; }
   // The centre of the spherical gradient, a point in icon pixels.
   int center() const;
   // What the effect gets for a gradient of that kind.
@@ -52,6 +52,8 @@ class GradientPanel final : public EffectPanel {
  private:
   // 0 without an icon.
   int iconSide() const;
+  // The gradient of a kind for the icon as it is now.
+  const Surface& drawnSample(GradientKind kind) const;
 
   clsGPDialog& dialog_;
   GradientKind kind_ = GradientKind::Linear;
@@ -59,7 +61,12 @@ class GradientPanel final : public EffectPanel {
   std::array<Color, kColors> colors_;
   int center_ = 0;
   int centerSide_ = 0;  // of the icon that the centre belongs to
-  std::array<Surface, kGradientKinds> PicGradient_;
+  // A straight gradient takes time, so each is drawn once for its values.
+  struct Sample {
+    Surface picture = Surface();
+    EffectValues values;
+  };
+  mutable std::array<Sample, kGradientKinds> samples_;
 };
 
 }  // namespace gp

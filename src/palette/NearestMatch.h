@@ -7,7 +7,8 @@
 
 namespace gp {
 
-// Uses the entry with the least squared distance, the first one among equals. An empty palette changes nothing.
+// Uses the entry with the least squared distance, the first one among equals. An empty palette changes nothing; a
+// palette has 8192 entries at most.
 void matchToPalette(clsGPDIB& dib, std::span<const Color> palette);
 
 }  // namespace gp

@@ -122,9 +122,10 @@ TEST_F(GpiconEffectTable, AValueThatASettingDoesNotAllowIsRefused) {
     }
 }
 
-TEST_F(GpiconEffectTable, AnOptionThatTheEffectNeedsMustBeGiven) {
+TEST_F(GpiconEffectTable, AnOptionThatTheEffectRequiresMustBeGiven) {
   const std::string input = write(transparentIcon(16));
   for (const EffectRow* effect : commandLineEffects()) {
+    if (effect->needs != NeededOptions::None) continue;
     const std::vector<std::string> needed = neededOptions(*effect, files());
     std::vector<std::string> names;
     for (std::size_t i = 0; i < needed.size(); i += 2) names.push_back(needed[i]);
@@ -132,11 +133,34 @@ TEST_F(GpiconEffectTable, AnOptionThatTheEffectNeedsMustBeGiven) {
       std::vector<std::string> others = needed;
       const auto left = others.begin() + static_cast<std::ptrdiff_t>(i);
       others.erase(left, left + 2);
-      expectBadUsage(call(input, *effect, others),
-                     "effect: " + std::string(effect->name) + " needs " +
-                         (effect->needsOption ? "at least one of its options" : listed(names)));
+      expectBadUsage(call(input, *effect, others), "effect: " + std::string(effect->name) + " needs " + listed(names));
     }
   }
+}
+
+TEST_F(GpiconEffectTable, AsManyOptionsAsTheEffectNeedsMustBeGiven) {
+  const std::string input = write(transparentIcon(16));
+  std::set<std::string> atLeastOne, exactlyOne;
+  for (const EffectRow* effect : commandLineEffects()) {
+    if (effect->needs == NeededOptions::None) continue;
+    const bool takesMore = effect->needs == NeededOptions::AtLeastOne;
+    (takesMore ? atLeastOne : exactlyOne).insert(effect->name);
+    const std::string text = "effect: " + std::string(effect->name) + " needs " + (takesMore ? "at least" : "exactly") +
+                             " one of its options";
+    expectBadUsage(call(input, *effect, {}), text);
+    std::vector<std::string> all;
+    for (const Setting& setting : effect->settings) {
+      all.push_back("--" + std::string(setting.option));
+      if (setting.kind != SettingKind::Flag) all.push_back(textOfValue(setting, setting.first));
+    }
+    if (takesMore)
+      expectDone(call(input, *effect, all));
+    else
+      expectBadUsage(call(input, *effect, all), text);
+    std::filesystem::remove(out);
+  }
+  EXPECT_EQ(atLeastOne, (std::set<std::string>{"brightness"}));
+  EXPECT_EQ(exactlyOne, (std::set<std::string>{"flip", "turn"}));
 }
 
 TEST_F(GpiconEffectTable, AnOptionOfAnotherEffectIsRefused) {
@@ -173,12 +197,21 @@ TEST_F(GpiconEffectTable, AnOptionTakesOneValue) {
     }
 }
 
-TEST_F(GpiconEffectTable, AlphaIsRefused) {
+TEST_F(GpiconEffectTable, AlphaIsRefusedUnlessTheEffectTakesIt) {
   const std::string input = icon("alpha.ico", 16, 32);
-  for (const EffectRow* effect : commandLineEffects())
+  std::set<std::string> taking;
+  for (const EffectRow* effect : commandLineEffects()) {
+    if (effect->takesAlpha) {
+      taking.insert(effect->name);
+      expectDone(call(input, *effect, neededOptions(*effect, files())));
+      std::filesystem::remove(out);
+      continue;
+    }
     expectRefusal(
         call(input, *effect, neededOptions(*effect, files())),
         input + ": Current icon is with alpha, please run Convert 32 To 24 BPP to convert it to 24-BPP first.");
+  }
+  EXPECT_EQ(taking, (std::set<std::string>{"rotate", "flip", "turn"}));
 }
 
 TEST_F(GpiconEffectTable, TheHelpNamesEveryEffectAndItsOptions) {

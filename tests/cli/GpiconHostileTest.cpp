@@ -177,12 +177,19 @@ class GpiconHostile : public Gpicon {
              {"reduce", path, "1", folder.path("made"), "--to", "2", "--method", "ordered"},
              {"effect", path, "1", folder.path("made"), "raised"},
              {"effect", icon24, "0", folder.path("made"), "blend", "--with", path},
-             {"effect", icon24, "0", folder.path("made"), "texture", "--pattern", path}}) {
+             {"effect", icon24, "0", folder.path("made"), "texture", "--pattern", path},
+             {"effect", path, "theme", "--color", "000080", "--all", "-d", folder.path("effects"), "--force"},
+             {"effect", path, "turn", "--left", "--all", "-d", folder.path("effects"), "--force"}}) {
       const Outcome o = limited(arguments);
       EXPECT_TRUE(o.status == 0 || o.status == 1) << arguments.front() << " " << o.status << o.err;
       EXPECT_LE(lines(o.err), 1) << arguments.front() << o.err;
     }
     EXPECT_EQ(bytesOf(path), bytes);
+    const std::string written = folder.path("effects/" + fs::path(path).filename().string());
+    if (fs::exists(written)) {
+      EXPECT_TRUE(isLaidOut(bytesOf(written)));
+    }
+    fs::remove(written);
   }
 
   // Changes a file by one command. Afterwards the file has the given bytes again.
@@ -251,7 +258,8 @@ std::vector<std::string> call(const std::string& command, std::vector<std::strin
 TEST_F(GpiconHostile, AFileThatIsCutAtAnyByteIsRefusedAndLeft) {
   const Bytes whole = fileOf({anyEntry(16, 1), pngOf({1, 2, 3})});
   const std::vector<std::string> paths = cuts(folder, whole);
-  for (const auto& arguments : {call("split", paths, {"-d", folder.path("parts")}), call("add", paths, {icon24})}) {
+  for (const auto& arguments : {call("split", paths, {"-d", folder.path("parts")}), call("add", paths, {icon24}),
+                                call("effect", paths, {"invert", "--all", "-d", folder.path("effects")})}) {
     const Outcome o = run(arguments);
     EXPECT_EQ(o.status, 1);
     EXPECT_EQ(lines(o.err), static_cast<long>(paths.size())) << arguments.front();
@@ -298,13 +306,35 @@ TEST_F(GpiconHostile, SixtyFiveThousandEntriesOverTheSameBytesTakeNoTime) {
   EXPECT_EQ(lines(limited({"list", path}).out), 65535);
   EXPECT_EQ(lines(limited({"check", path}).out), 4 * 65535 + 2 * 65534);  // size, depth; shared, same
   // All writing commands would write more than 256 MB.
-  for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
-           {"split", path, "-d", folder.path("parts")}, {"replace", path, "0", icon24}, {"remove", path, "0"}}) {
+  for (const std::vector<std::string>& arguments :
+       std::vector<std::vector<std::string>>{{"split", path, "-d", folder.path("parts")},
+                                             {"effect", path, "invert", "--all", "-d", folder.path("effects")},
+                                             {"replace", path, "0", icon24},
+                                             {"remove", path, "0"}}) {
     const Outcome o = limited(arguments);
     EXPECT_EQ(o.status, 1) << o.err;
     EXPECT_EQ(lines(o.err), 1) << o.err;
     EXPECT_EQ(bytesOf(path), bytes);
   }
+}
+
+// Few bytes of a file become many larger images: each of the entries is a mask of 384 bytes and 48 x 48 indices of the
+// same 816 bytes, which make 256 colours.
+TEST_F(GpiconHostile, ImagesThatAnEffectMakesLargerAreNoWayToFillTheMemory) {
+  std::vector<Entry> entries(65535);
+  for (Entry& entry : entries) {
+    entry.width = entry.height = 48;
+    entry.bitCount = 24;
+    entry.offset = 6 + 16 * 65535;
+    entry.bytesInRes = 816;
+  }
+  entries.back().image = imageBytes(anyPicture(48, 1));
+  const Bytes bytes = fileOf(entries);
+  const std::string path = folder.write("grows.ico", bytes);
+  const Outcome o = run({"effect", path, "invert", "--all", "-d", folder.path("effects")});
+  EXPECT_EQ(o.status, 1);
+  EXPECT_EQ(o.err, "gpicon: " + path + ": too large to be written\n");
+  EXPECT_TRUE(fs::is_empty(folder.path("effects")));
 }
 
 TEST_F(GpiconHostile, RandomBytesEndInAnAnswer) {

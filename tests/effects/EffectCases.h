@@ -58,10 +58,17 @@ inline std::vector<IconImage> contentOf(const Setting& setting, int kind = 0) {
 }
 
 // The effect's first values, and the content of its file if it has one.
-inline EffectValues usualValues(const EffectRow& effect) {
+inline EffectValues firstValuesOf(const EffectRow& effect) {
   EffectValues values = firstValues(effect.settings);
   for (const Setting& setting : effect.settings)
     if (const auto content = contentOf(setting); !content.empty()) values.setPictures(content);
+  return values;
+}
+
+// The values that gpicon makes of the options that the effect needs: the first ones, with one flag where one is needed.
+inline EffectValues usualValues(const EffectRow& effect) {
+  EffectValues values = firstValuesOf(effect);
+  if (effect.needs == NeededOptions::ExactlyOne) values.set(0, 1);
   return values;
 }
 
@@ -89,9 +96,9 @@ inline bool hasPart(const Setting& setting, const EffectValues& values) {
   return !setting.applies || setting.applies(values);
 }
 
-// The effect's usual values with one setting changed, and the first setting so that the changed one has a part.
+// The effect's first values with one setting changed, and the first setting so that the changed one has a part.
 inline EffectValues valuesWith(const EffectRow& effect, std::size_t setting, int value) {
-  EffectValues values = usualValues(effect);
+  EffectValues values = firstValuesOf(effect);
   if (effect.settings[setting].kind == SettingKind::IconFile)
     values.setPictures(contentOf(effect.settings[setting], value));
   else
@@ -104,11 +111,19 @@ inline EffectValues valuesWith(const EffectRow& effect, std::size_t setting, int
   return values;
 }
 
+// Whether gpicon can be given the values. An effect that needs exactly one of its options has flags only.
+inline bool areGivable(const EffectRow& effect, const EffectValues& values) {
+  int flags = 0;
+  for (std::size_t i = 0; i < effect.settings.size(); ++i) flags += values.flag(i) ? 1 : 0;
+  return effect.needs != NeededOptions::ExactlyOne || flags == 1;
+}
+
 // The usual values, and then each value of each setting while the others have their first ones.
 inline std::vector<EffectValues> valuesToTry(const EffectRow& effect) {
   std::vector<EffectValues> all{usualValues(effect)};
   for (std::size_t i = 0; i < effect.settings.size(); ++i)
     for (const int value : valuesToTry(effect.settings[i])) all.push_back(valuesWith(effect, i, value));
+  std::erase_if(all, [&effect](const EffectValues& values) { return !areGivable(effect, values); });
   return all;
 }
 
@@ -136,8 +151,9 @@ inline std::vector<std::string> optionsFor(const EffectRow& effect, const Effect
 inline std::vector<std::string> neededOptions(const EffectRow& effect, const FileFor& fileFor) {
   std::vector<std::string> words;
   for (const Setting& setting : effect.settings)
-    if (setting.isRequired || (effect.needsOption && words.empty())) {
+    if (setting.isRequired || (effect.needs != NeededOptions::None && words.empty())) {
       words.push_back("--" + std::string(setting.option));
+      if (setting.kind == SettingKind::Flag) continue;
       words.push_back(isFile(setting, setting.first) ? fileFor(setting, usualValues(effect))
                                                      : textOfValue(setting, setting.first));
     }

@@ -1,5 +1,6 @@
 // Each effect against a slow model: the rule of one pixel, written from its description with nothing of the program.
 #include "effects/EffectCases.h"
+#include "effects/ModelIcons.h"
 #include "effects/Pictures.h"
 #include "effects/TexturePatterns.h"
 
@@ -10,34 +11,9 @@
 namespace gp::test {
 namespace {
 
-constexpr int kIconsPerSize = 52;  // in each of the four sizes: 208 icons
-
 struct Rgb3 {
   double red, green, blue;
 };
-
-// Icons of one size in 2, 16, 256 or many colours, with more or less painted, transparent and inverting pixels.
-std::vector<IconImage> iconsOfSize(int size) {
-  std::mt19937 numbers(static_cast<unsigned>(size) * 7919U);
-  const auto below = [&numbers](int end) { return static_cast<int>(numbers() % static_cast<unsigned>(end)); };
-  std::vector<IconImage> icons;
-  for (int i = 0; i < kIconsPerSize; ++i) {
-    const int colorCounts[] = {2, 16, 256, 1 << 24};
-    const int colors = colorCounts[i % 4], paintedTenths = below(11);
-    std::vector<Color> palette;
-    for (int entry = 0; entry < std::min(colors, 256); ++entry) palette.push_back(below(1 << 24));
-    IconImage icon = transparentIcon(size);
-    for (int y = 0; y < size; ++y)
-      for (int x = 0; x < size; ++x) {
-        const bool isPainted = below(10) < paintedTenths;
-        if (!isPainted && below(4) != 0) continue;
-        icon.image.SetPixelV(x, y, colors > 256 ? below(1 << 24) : palette[static_cast<std::size_t>(below(colors))]);
-        if (isPainted) icon.mask.SetPixelV(x, y, kBlack);
-      }
-    icons.push_back(icon);
-  }
-  return icons;
-}
 
 Rgb3 at(const IconImage& icon, int x, int y) {
   if (x < 0 || y < 0 || x >= icon.width() || y >= icon.height()) return {-1, 0, 0};

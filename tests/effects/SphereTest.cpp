@@ -1,5 +1,6 @@
 // The shaded ball: exact pixels, and a slow model of it.
 #include "effects/EffectCases.h"
+#include "effects/ModelIcons.h"
 #include "effects/Pictures.h"
 #include "effects/Sphere.h"
 
@@ -157,16 +158,19 @@ Color modelColor(const Model& model, Color color, double lightX, double lightY, 
   return made == kGround ? kNearlyGround : made;
 }
 
+// Each of the icons is replaced at least once.
 TEST(Sphere, ItEqualsASlowModelForEveryIconBallLightAndFactor) {
   int compared = 0;
-  for (const int size : kIconSides)
+  for (const int size : kIconSides) {
+    const std::vector<IconImage>& icons = iconsOfSize(size);
     for (int ball = 0; ball < 3; ++ball)
       for (const auto& [x, y] : {std::pair{11, 11}, {16, 16}, {3, 20}, {25, 7}, {16, 31}})
         for (const Color color : {kBlue, kWhite, kBlack, kGround, rgb(3, 3, 3), rgb(250, 17, 99)})
           for (const int factor : {0, 3, 5, 10}) {
             const Model& model = kModels[ball];
             if (model.side > size) continue;
-            const IconImage made = sphere(size, color, pointValue(x, y), ball, factor);
+            const IconImage& icon = icons.at(static_cast<std::size_t>(compared) % icons.size());
+            const IconImage made = applied("sphere", icon, {color, pointValue(x, y), ball, factor});
             const int away = static_cast<int>(std::lround(std::hypot(x - 16, y - 16)));
             const int loss = ball == kNormal ? away * factor * 3 : 0;
             const int offset = (size - model.side) / 2, middle = model.side / 2;
@@ -180,6 +184,7 @@ TEST(Sphere, ItEqualsASlowModelForEveryIconBallLightAndFactor) {
               }
             ++compared;
           }
+  }
   EXPECT_EQ(compared, 1080);
 }
 

@@ -2,9 +2,11 @@
 #include "palette/NearestMatch.h"
 #include "palette/clsGPPal.h"
 #include "platform/gdi/GoldenFile.h"
+#include "platform/gdi/NearestColor.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <random>
 #include <sstream>
 #include <vector>
 
@@ -126,6 +128,23 @@ TEST(NearestMatch, WhatWasMetBeforeDoesNotChangeTheAnswer) {
 TEST(NearestMatch, ColorsOfThePaletteStay) {
   const std::vector<Color> colors(kHalftonePalette.begin(), kHalftonePalette.end());
   EXPECT_EQ(matched(colors, kHalftonePalette), colors);
+}
+
+TEST(NearestMatch, EqualsASearchOfEveryEntryAndTheFirstOfEqualOnesWins) {
+  std::mt19937 numbers(7);
+  for (const std::size_t count : {1U, 2U, 7U, 8U, 17U, 255U, 256U})
+    for (const unsigned range : {2U, 60U, 256U}) {
+      const auto color = [&] {
+        const auto level = [&] { return static_cast<int>(numbers() % range * (255 / (range - 1))); };
+        return rgb(level(), level(), level());
+      };
+      std::vector<Color> palette(count), colors(300), expected;
+      for (Color& entry : palette) entry = color();
+      for (Color& one : colors) one = rgb(static_cast<int>(numbers() % 256), color() & 0xFF, color() & 0xFF);
+      for (const Color one : colors)
+        expected.push_back(palette[static_cast<std::size_t>(GetNearestPaletteIndex(palette, one))]);
+      EXPECT_EQ(matched(colors, palette), expected) << count << " of " << range;
+    }
 }
 
 TEST(NearestMatch, APaletteOfNoEntryAndAnEmptyBitmapAreLeftAlone) {

@@ -52,6 +52,17 @@ class ScriptedBoxes : public MessageBoxes {
   std::deque<Expected> script_;
 };
 
+// A user who agrees to everything. The texts of all boxes are kept.
+class AgreeingBoxes : public MessageBoxes {
+ public:
+  std::vector<std::string> texts;
+
+  BoxAnswer show(const std::string& text, BoxButtons buttons, BoxIcon, BoxAnswer) override {
+    texts.push_back(text);
+    return buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::Yes;
+  }
+};
+
 class ScriptedDialogs : public FileDialogs {
  public:
   // Answers in order; an empty path is a cancel.

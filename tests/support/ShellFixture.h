@@ -38,11 +38,12 @@ class FakeForm : public ShellForms, public FileForms {
   void unload() override { ++unloads; }
 };
 
-class ShellFixture : public testing::Test {
+template <class Boxes>
+class ProgramFixture : public testing::Test {
  protected:
   KeptDirectory directory;
   TempFolder folder;
-  ScriptedBoxes boxes;
+  Boxes boxes;
   ScriptedDialogs dialogs;
   ScriptedPump pump;
   FakeSystem system;
@@ -56,7 +57,7 @@ class ShellFixture : public testing::Test {
   Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures, textDrawing}, display,
               test::foldersIn(folder.path())};
 
-  ShellFixture() { shell.attach(&form, &form); }
+  ProgramFixture() { shell.attach(&form, &form); }
   // Load and the first Activate, in the same order as app/.
   void start(const std::string& commandLine = "") {
     shell.formLoad();
@@ -75,6 +76,9 @@ class ShellFixture : public testing::Test {
   }
   std::string status(StatusPanel panel) const { return state.screen.lblStatusPanel[static_cast<std::size_t>(panel)]; }
 };
+
+// A test that expects each box.
+class ShellFixture : public ProgramFixture<ScriptedBoxes> {};
 
 // The bytes of a single-icon file of 16 colours, opaque; every pixel has the palette colour of that index.
 inline std::string plainIconFile(int size, int colorIndex) {

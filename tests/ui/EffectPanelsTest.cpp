@@ -1,9 +1,16 @@
 // The panels of the effects on the main form, used by mouse and keyboard.
+#include "document/Containers.h"
 #include "document/PanelNumbers.h"
 #include "document/ui/SampleView.h"
 #include "document/ui/SurfacePainting.h"
+#include "effects/BrightnessPanel.h"
 #include "effects/ConfinePanel.h"
+#include "effects/EffectTable.h"
+#include "effects/Effects.h"
+#include "effects/GradientPanel.h"
 #include "effects/SettingsPanel.h"
+#include "effects/SpherePanel.h"
+#include "effects/ThemePanel.h"
 #include "ui/FormFixture.h"
 #include "ui/Screens.h"
 
@@ -312,6 +319,33 @@ TEST_F(EffectPanelsTest, TheSamplesFollowAnIconThatIsOpenedUnderThePanel) {
   ASSERT_TRUE(isUp(kReliefPanel));
   EXPECT_EQ(shell.effects().settingsPanel(kReliefPanel)->sample().width(), 16);
   EXPECT_EQ(sampleAt(find("picEffectsSample"), 8, 8), toRgb(state.picImage.GetPixel(8, 8)));
+}
+
+// The picture that a panel of effects has previewed.
+const IconImage& pictureOf(const Effects& effects, int number) { return effects.find(number)->picture(); }
+
+TEST_F(EffectPanelsTest, EveryPanelFollowsAnIconOfAnotherSizeAndAnEmptyContainer) {
+  for (const EffectRow* effect : effectTable()) {
+    if (!effect->apply) continue;
+    startWithDisc();
+    // To blend in.
+    shell.document().arrival.fillContainer(5, transparentIcon(32), NewRecord());
+    openPanel(effect->menu.index);
+    const int number = effect->panel.number;
+    ASSERT_TRUE(isUp(number)) << effect->title;
+    bool ok = false;
+    shell.doOpenIconFileQuietly(folder.write("other.ico", test::plainIconFile(16, 3)), ok);
+    settle();
+    ASSERT_TRUE(ok && isUp(number)) << effect->title;
+    EXPECT_EQ(pictureOf(shell.effects(), number).width(), 16) << effect->title;
+    state.current().present = false;
+    display.changed(DisplayPart::IconsPanel);
+    settle();
+    EXPECT_EQ(pictureOf(shell.effects(), number).width(), 0) << effect->title;
+    find(QString("fraPanel(%1)").arg(number))->grab();
+    state.current().modified = false;
+    form.reset();
+  }
 }
 
 TEST_F(EffectPanelsTest, TheSampleFollowsTheCurrentColor) {
