@@ -173,7 +173,12 @@ class GpiconHostile : public Gpicon {
              {"show", path},
              {"strip", path, "-o", folder.path("made")},
              {"split", path, "-d", folder.path("parts")},
+             {"info", path},
+             {"info", "--json", path, "1"},
              {"bmp", path, "1", folder.path("made")},
+             {"alpha", path, "1", folder.path("made"), "--set", "9"},
+             {"to24", path, "1", folder.path("made")},
+             {"shades", path, "1", folder.path("made")},
              {"reduce", path, "1", folder.path("made"), "--to", "2", "--method", "ordered"},
              {"effect", path, "1", folder.path("made"), "raised"}}) {
       const Outcome o = limited(arguments);
