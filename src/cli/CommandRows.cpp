@@ -64,6 +64,16 @@ constexpr std::array kRows = std::to_array<Command>({
          "image of 32x32 at offset 22 with its hot spot inside.",
      .example = "list --json app.ico | python3 -m json.tool",
      .run = runList},
+    {.name = "info",
+     .usage = "info FILE [INDEX] [--json]",
+     .summary = "the properties of images, and their bytes when saved",
+     .help = "Prints one line for the image, without INDEX for each image that the editor opens,\n"
+             "parted by tabs: file, index, size, colors and bits by the directory, colors and bits\n"
+             "by the bitmap header, present colors and bits, number of colors used, and the bytes\n"
+             "when saved to a single-icon file. Colors are -1 for true color. Transparent pixels\n"
+             "count with their black. With --json, an array of objects.",
+     .example = "info app.ico 0",
+     .run = runInfo},
     {.name = "check",
      .usage = "check [--json] FILE...",
      .summary = "what directory, headers and pixels of a file contradict each other in",
@@ -134,6 +144,13 @@ constexpr std::array kRows = std::to_array<Command>({
              "256 colors, which become a palette of their own, and 24 for more.",
      .example = "bmp app.ico 0 app.bmp --background FFFFFF",
      .run = runBmp},
+    {.name = "shades",
+     .usage = "shades IN.ico INDEX OUT.pgm",
+     .summary = "the alpha of one image as shades of gray",
+     .help = "Writes the alpha of one image as a graymap: opaque is black, transparent is white,\n"
+             "and so is what the mask makes transparent. Refused without alpha.",
+     .example = "shades app.ico 0 alpha.pgm",
+     .run = runShades},
     {.name = "resave",
      .usage = "resave IN.ico INDEX OUT.ico",
      .summary = "loads one image and saves it, as the editor does",
@@ -168,6 +185,22 @@ constexpr std::array kRows = std::to_array<Command>({
      .run = runEffect,
      .moreUsage = effectUsage,
      .moreHelp = effectHelp},
+    {.name = "alpha",
+     .usage = "alpha IN.ico INDEX OUT.ico --set N [--area X,Y,W,H]",
+     .summary = "sets alpha values of one image",
+     .help = "Gives the painted pixels of an area, without --area of the whole image, the alpha N,\n"
+             "0 to 255, and saves the image with 32 bits. An image without alpha gets 255 in all\n"
+             "pixels first. 0 is written as 1, which looks the same: a 0 would be read as 255.",
+     .example = "alpha app.ico 0 soft.ico --set 128 --area 0,0,16,4",
+     .run = runAlpha},
+    {.name = "to24",
+     .usage = "to24 IN.ico INDEX OUT.ico [--palette]",
+     .summary = "one image without its alpha, as it looked",
+     .help = "Mixes the colors of one image with C0C0C0 as its alpha says, and saves it with 24\n"
+             "bits, or with --palette in the bits that its colors need. Pixels whose alpha is 0\n"
+             "percent become transparent. Refused without alpha.",
+     .example = "to24 app.ico 0 app24.ico",
+     .run = runTo24},
     {.name = "replace",
      .usage = "replace FILE INDEX ICON.ico [--image N] [-o OUT]",
      .summary = "replaces one image of a file",

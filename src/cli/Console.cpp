@@ -112,4 +112,13 @@ bool parseNumber(std::string_view text, int& number) {
   return error == std::errc() && stop == end && number >= 0;
 }
 
+bool parseNumbers(std::string_view text, std::vector<int>& numbers) {
+  for (;;) {
+    const std::size_t comma = text.find(',');
+    if (!parseNumber(text.substr(0, comma), numbers.emplace_back())) return false;
+    if (comma == std::string_view::npos) return true;
+    text.remove_prefix(comma + 1);
+  }
+}
+
 }  // namespace gp::cli

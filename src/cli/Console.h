@@ -45,5 +45,7 @@ int takeListArguments(const std::string& command, Arguments arguments, ListArgum
 
 // False for anything but a number from 0 up.
 bool parseNumber(std::string_view text, int& number);
+// Appends numbers with commas between them. False for anything else.
+bool parseNumbers(std::string_view text, std::vector<int>& numbers);
 
 }  // namespace gp::cli

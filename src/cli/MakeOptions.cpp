@@ -68,16 +68,6 @@ bool chooseNamed(const Names& names, const std::string& text, Value& value) {
   return true;
 }
 
-// Numbers with commas between them. False for anything else.
-bool parseNumbers(std::string_view text, std::vector<int>& numbers) {
-  for (;;) {
-    const std::size_t comma = text.find(',');
-    if (!parseNumber(text.substr(0, comma), numbers.emplace_back())) return false;
-    if (comma == std::string_view::npos) return true;
-    text.remove_prefix(comma + 1);
-  }
-}
-
 bool areSizes(std::vector<int> sizes) {
   std::ranges::sort(sizes);
   return sizes.front() >= 1 && sizes.back() <= kLargestMadeSide && std::ranges::adjacent_find(sizes) == sizes.end();

@@ -12,15 +12,19 @@ int runMake(const Arguments& arguments);
 int runProbe(const Arguments& arguments);
 int runList(const Arguments& arguments);
 int runCheck(const Arguments& arguments);
+int runInfo(const Arguments& arguments);
 int runShow(const Arguments& arguments);
 // Taking apart.
 int runUnpack(const Arguments& arguments);
 int runSplit(const Arguments& arguments);
 int runBmp(const Arguments& arguments);
+int runShades(const Arguments& arguments);
 // Writing.
 int runResave(const Arguments& arguments);
 int runReduce(const Arguments& arguments);
 int runEffect(const Arguments& arguments);
+int runAlpha(const Arguments& arguments);
+int runTo24(const Arguments& arguments);
 int runReplace(const Arguments& arguments);
 int runAdd(const Arguments& arguments);
 int runRemove(const Arguments& arguments);

@@ -1,4 +1,5 @@
 #include "cli/ImageFile.h"
+#include "cli/Netpbm.h"
 #include "cli/OutputFolder.h"
 #include "cli/Subcommands.h"
 #include "cli/UnpackPng.h"
@@ -8,22 +9,6 @@ namespace {
 
 constexpr std::uint8_t kTransparent = 255;
 constexpr std::uint8_t kOpaque = 0;
-
-// A portable pixmap or graymap: a header line and the samples.
-class Netpbm {
- public:
-  Netpbm(const char* magic, int width, int height, std::size_t bytesPerPixel) {
-    const std::string header =
-        std::string(magic) + "\n" + std::to_string(width) + " " + std::to_string(height) + "\n255\n";
-    bytes_.reserve(header.size() + static_cast<std::size_t>(width) * height * bytesPerPixel);
-    bytes_.assign(header.begin(), header.end());
-  }
-  void add(int sample) { bytes_.push_back(static_cast<std::uint8_t>(sample)); }
-  std::span<const std::uint8_t> bytes() const { return bytes_; }
-
- private:
-  std::vector<std::uint8_t> bytes_;
-};
 
 Netpbm imageFile(const Surface& image) {
   Netpbm file("P6", image.width(), image.height(), 3);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 
 namespace gp {
 namespace {
@@ -63,6 +64,12 @@ void GetColorBitCount_Image(const Surface& surface, int& count) {
     count = 16;
   else
     count = fitsColorTable(surface) ? kTableSize : kTrueColor;
+}
+
+int CountColors(const Surface& surface) {
+  std::set<std::uint32_t> colors;
+  for (const std::uint32_t pixel : surface.pixels()) colors.insert(pixel & kColorBits);
+  return static_cast<int>(colors.size());
 }
 
 }  // namespace gp

@@ -10,4 +10,7 @@ namespace gp {
 // fit into a table of 256, otherwise to -1.
 void GetColorBitCount_Image(const Surface& surface, int& count);
 
+// Returns how many different colours the pixels have; 0 without pixels.
+int CountColors(const Surface& surface);
+
 }  // namespace gp

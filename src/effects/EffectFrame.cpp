@@ -1,5 +1,6 @@
 #include "effects/EffectFrame.h"
 
+#include "colour/ColorCount.h"
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
@@ -10,9 +11,6 @@
 #include "effects/EffectTexts.h"
 #include "platform/gdi/SurfaceOps.h"
 #include "platform/ports/MessageBoxes.h"
-
-#include <cstdint>
-#include <set>
 
 namespace gp {
 
@@ -62,9 +60,7 @@ void EffectFrame::copyPanelAfterApply() {
 
 int EffectFrame::countMaskColors(const Surface& surface) {
   const Hourglass hourglass(context_);
-  std::set<std::uint32_t> colors;
-  for (const std::uint32_t pixel : surface.pixels()) colors.insert(pixel & kColorBits);
-  return static_cast<int>(colors.size());
+  return CountColors(surface);
 }
 
 }  // namespace gp

@@ -13,6 +13,10 @@ class Enquiry {
  public:
   Enquiry(const Context& context, Files& files);
 
+  // Each shows one box: the icon's properties, how many colours its image has, and the bytes of its file when saved.
+  void showProperties();
+  void showColorCount();
+  void showByteCount();
   // Shows the headers of the icon's original file.
   void showOriginalHeaders();
   // Shows the icons in the multi-icon file from which the icon was loaded.

@@ -138,9 +138,9 @@ constexpr Command kCommands[] = {
     {"mnuPaletteSub", 4, "mnuPalette", "&Load Palette ....", "", "load-palette", needs::always, Commits::No, nullptr, call<&PaletteFile::imgLoadPalette>},
     {"mnuPaletteSub", 5, "mnuPalette", "&Save Palette ....", "", "save-palette", needs::always, Commits::No, nullptr, call<&PaletteFile::imgSavePalette>},
     // Inquiry
-    {"mnuEnquiryCurrent", 0, "mnuEnquiry", "Enquiry - &General Properties", "Ctrl+Q", "properties", needs::icon, Commits::No, nullptr, nullptr},
-    {"mnuEnquiryCurrent", 2, "mnuEnquiry", "Enquiry - &Number Of Colors Used", "", "", needs::icon, Commits::No, nullptr, nullptr},
-    {"mnuEnquiryCurrent", 3, "mnuEnquiry", "Enquiry - Number Of B&ytes", "", "", needs::icon, Commits::No, nullptr, nullptr},
+    {"mnuEnquiryCurrent", 0, "mnuEnquiry", "Enquiry - &General Properties", "Ctrl+Q", "properties", needs::icon, Commits::No, nullptr, call<&Enquiry::showProperties>},
+    {"mnuEnquiryCurrent", 2, "mnuEnquiry", "Enquiry - &Number Of Colors Used", "", "", needs::icon, Commits::No, nullptr, call<&Enquiry::showColorCount>},
+    {"mnuEnquiryCurrent", 3, "mnuEnquiry", "Enquiry - Number Of B&ytes", "", "", needs::icon, Commits::No, nullptr, call<&Enquiry::showByteCount>},
     {"mnuEnquiryCurrent", 5, "mnuEnquiry", "Enquiry - &Original Header Entry  (If Diff To Image Data)", "", "", needs::discrepancy, Commits::No, nullptr, call<&Enquiry::showOriginalHeaders>},
     {"mnuEnquiryCurrent", 7, "mnuEnquiry", "&Preview With Different Screen Colors ....", "Ctrl+P", "", needs::icon, Commits::No, nullptr, nullptr},
     {"mnuEnquiryCurrent", 9, "mnuEnquiry", "&Show Icons In Current Multi-Icon File ....", "Ctrl+M", "", needs::multiIconFile, Commits::Yes, nullptr, call<&Enquiry::showIconsInFile>},

@@ -29,6 +29,9 @@ const std::vector<WritingSubcommand> kWritingSubcommands{
      cli::runEffect,
      {"@multi.ico", "@single.ico", "invert", "--all", "-d", "@out", "--force"},
      "out/multi.ico"},
+    {"Alpha", cli::runAlpha, {"@multi.ico", "0", "@a.ico", "--set", "9"}, "a.ico"},
+    {"To24", cli::runTo24, {"@alpha.ico", "0", "@a.ico"}, "a.ico"},
+    {"Shades", cli::runShades, {"@alpha.ico", "0", "@a.pgm"}, "a.pgm"},
     {"Replace", cli::runReplace, {"@multi.ico", "0", "@single.ico"}, "multi.ico", true},
     {"ReplaceTo", cli::runReplace, {"@multi.ico", "0", "@single.ico", "-o", "@a.ico"}, "a.ico"},
     {"Add", cli::runAdd, {"@multi.ico", "@single.ico"}, "multi.ico", true},
@@ -78,6 +81,7 @@ class GpiconFailures : public CommandUnderFailures, public testing::WithParamInt
     std::filesystem::create_directories(path("out"));
     if (GetParam().target != Target::New) write(command().target, {'o', 'l', 'd'});
     write("single.ico", build(anyEntry(24, 8)));
+    write("alpha.ico", build(anyEntry(16, 32)));
     write("multi.ico", build(IcoFile{{anyEntry(32, 4), anyEntry(16, 24), anyEntry(48, 8)}, 0, 1, {}}));
     Picture thin = anyPicture(32, 8);
     thin.index = [](int x, int y) { return (x + y) % 3; };

@@ -224,6 +224,7 @@ inline const std::vector<CommandNeed> kCommandNeeds{
     {"mnuEffectsSub3", {0, 1, 2}, {kNeedsIcon}},
     {"mnuBrushSize", {0, 1, 2, 3, 4, 5}, {}},
     {"mnuPaletteSub", {0, 1, 2, 4, 5}, {}},
+    {"mnuEnquiryCurrent", {0, 2, 3}, {kNeedsIcon}},
     {"mnuEnquiryCurrent", {5}, {kNeedsIcon, {[](const Facts& f, int) { return f.discrepant; }, ""}}},
     {"mnuEnquiryCurrent", {9}, {kNeedsIcon, {[](const Facts& f, int) { return f.multiIconFile; }, ""}}},
     {"mnuEnquiryCurrent", {11}, {kNeedsIcon, {[](const Facts& f, int) { return f.cursor; }, ""}}},

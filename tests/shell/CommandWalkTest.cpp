@@ -109,7 +109,7 @@ template <class Road>
 Outcome outcomeOf(const CommandState& state, Road road) {
   World world(state);
   road(world.shell);
-  return {world.log, world.snapshot()};
+  return {world.logWithoutFolder(), world.snapshot()};
 }
 void expectSame(const Outcome& menu, const Outcome& other, const std::string& what) {
   EXPECT_EQ(menu.log, other.log) << what;

@@ -23,6 +23,14 @@ class LoggedProgram {
  public:
   Snapshot snapshot() { return SnapshotMaker(shell, clipboard_, folder_).make(); }
 
+  // The log with paths as a snapshot writes them.
+  Log logWithoutFolder() {
+    const SnapshotMaker maker(shell, clipboard_, folder_);
+    Log entries;
+    for (const std::string& entry : log) entries.push_back(maker.withoutFolder(entry));
+    return entries;
+  }
+
   Log log;  // boxes, dialogs and forms, in order
 
  protected:

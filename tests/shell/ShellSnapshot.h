@@ -33,17 +33,19 @@ class SnapshotMaker {
     return snapshot_;
   }
 
+  // A text without the path of the program's folder.
+  std::string withoutFolder(std::string text) const {
+    const std::string path = folder_.path();
+    for (std::size_t at = text.find(path); at != std::string::npos; at = text.find(path)) text.erase(at, path.size());
+    return text;
+  }
+
  private:
   template <class... Values>
   void put(const std::string& name, const Values&... values) {
     std::ostringstream text;
     ((text << values << '|'), ...);
     snapshot_[name] = withoutFolder(text.str());
-  }
-  std::string withoutFolder(std::string text) const {
-    const std::string path = folder_.path();
-    for (std::size_t at = text.find(path); at != std::string::npos; at = text.find(path)) text.erase(at, path.size());
-    return text;
   }
   // The drawing, and the picture to which it is reset.
   void putSurface(const std::string& name, Surface surface) {

@@ -105,7 +105,7 @@ Outcome outcomeOf(const CommandState& state, Road road) {
   FormWorld world(state);
   road(world);
   world.settle();
-  return {world.log, world.snapshot()};
+  return {world.logWithoutFolder(), world.snapshot()};
 }
 
 // In the first state in which it can run.
