@@ -49,9 +49,9 @@ void ConfinePanel::doConfineColors(int run) {
 // The icon may be another one than the panel was opened for.
 bool ConfinePanel::mayProceed() { return EffectPanel::mayProceed() && !hasFewColors(run_); }
 
-void ConfinePanel::recordStep() {
+void ConfinePanel::finish() {
   frame().history().clearUndoHistory();
-  EffectPanel::recordStep();
+  EffectPanel::finish();
 }
 
 bool ConfinePanel::hasFewColors(int run) {

@@ -41,7 +41,7 @@ class ConfinePanel final : public EffectPanel {
   IconImage apply(const IconImage& icon) const override;
   bool mayProceed() override;
   // Earlier steps cannot be undone either.
-  void recordStep() override;
+  void finish() override;
 
  private:
   bool hasFewColors(int run);

@@ -47,9 +47,7 @@ void EffectPanel::proceed() {
 void EffectPanel::finish() {
   frame_.context().display.announce(news::kApplied);
   // Recording pumps messages, so it comes after the panel is closed.
-  recordStep();
+  frame_.history().recordUndo();
 }
-
-void EffectPanel::recordStep() { frame_.history().recordUndo(); }
 
 }  // namespace gp

@@ -42,8 +42,6 @@ class EffectPanel {
   virtual void drawSamples() {}
   // Whether the Current Icon takes the effect; if not, shows the reason.
   virtual bool mayProceed() { return frame_.mayApply(); }
-  // Makes what Proceed did a step of Undo. May let events in.
-  virtual void recordStep();
 
   // Shows the panel with its samples.
   void show();

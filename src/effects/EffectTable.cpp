@@ -63,8 +63,7 @@ const EffectRow* findEffect(std::string_view name) {
 }
 
 const EffectRow* findEffect(int menuIndex) {
-  return firstOf(kEffects,
-                 [menuIndex](const EffectRow& effect) { return isBuilt(effect) && effect.menu.index == menuIndex; });
+  return firstOf(kEffects, [menuIndex](const EffectRow& effect) { return effect.menu.index == menuIndex; });
 }
 
 }  // namespace gp

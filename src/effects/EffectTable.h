@@ -62,20 +62,16 @@ struct EffectRow {
   bool changesSize = false;  // the result has another size, so gpicon does not apply it to all images of a file
 };
 
-// Whether the program has the effect, or only its menu entry.
-inline bool isBuilt(const EffectRow& effect) { return effect.apply || !effect.panel.isGenerated; }
-
 // Why the icon does not take the effect with these values.
 inline Refusal refusalOf(const EffectRow& effect, const IconImage& icon, const EffectValues& values) {
   return effect.refusal ? effect.refusal(icon, values) : Refusal();
 }
 
-// The effects of the menu. Effects that the program does not have yet are included.
+// The effects of the menu.
 std::span<const EffectRow* const> effectTable();
 // The effects of gpicon.
 std::vector<const EffectRow*> commandLineEffects();
-// The effect that gpicon knows by this name, and the one of an index of mnuEffectsSub. Null when there is none or the
-// program does not have it yet.
+// The effect that gpicon knows by this name, and the one of an index of mnuEffectsSub. Null when there is none.
 const EffectRow* findEffect(std::string_view name);
 const EffectRow* findEffect(int menuIndex);
 

@@ -29,14 +29,13 @@ Effects::Effects(const Context& context, Document& document, Drawing& drawing, c
   panels_.push_back(std::make_unique<BlendPanel>(frame_));
   panels_.push_back(std::make_unique<TexturePanel>(frame_, ports.dialog, ports.pictures));
   for (const EffectRow* effect : effectTable())
-    if (effect->apply && effect->panel.isGenerated && !find(effect->panel.number))
-      addSettingsPanel(effect->panel.number);
+    if (effect->panel.isGenerated && !find(effect->panel.number)) addSettingsPanel(effect->panel.number);
 }
 
 void Effects::addSettingsPanel(int number) {
   std::vector<const EffectRow*> effects;
   for (const EffectRow* effect : effectTable())
-    if (effect->apply && effect->panel.number == number) effects.push_back(effect);
+    if (effect->panel.number == number) effects.push_back(effect);
   panels_.push_back(std::make_unique<SettingsPanel>(frame_, std::move(effects)));
 }
 

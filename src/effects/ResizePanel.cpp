@@ -1,5 +1,6 @@
 #include "effects/ResizePanel.h"
 
+#include "document/Announcements.h"
 #include "document/Compositing.h"
 #include "document/CurrentIconGuard.h"
 #include "document/Display.h"
@@ -114,6 +115,8 @@ void ResizePanel::drawSamples() {
 
 // The icon may be another one than the panel was opened for, or changed since.
 bool ResizePanel::mayProceed() { return mayResize(direction_, mResizeTo_) && mayIconGo(); }
+
+void ResizePanel::finish() { frame().context().display.announce(news::kApplied); }
 
 void ResizePanel::commit() {
   EditState& state = frame().state();

@@ -38,7 +38,7 @@ class ResizePanel final : public EffectPanel {
   bool mayProceed() override;
   void commit() override;
   // The arrival of the new size has begun a new history.
-  void recordStep() override {}
+  void finish() override;
 
  private:
   enum class Direction { Expand, Shrink };

@@ -17,7 +17,7 @@ Command commandOf(const EffectRow& effect) {
           kMenu,           entry.caption,
           entry.key,       entry.picture,
           needs::icon,     Commits::No,
-          nullptr,         isBuilt(effect) ? bodies::callWithIndex<&Effects::open> : nullptr};
+          nullptr,         bodies::callWithIndex<&Effects::open>};
 }
 
 }  // namespace

@@ -14,7 +14,7 @@
 namespace gp::test {
 
 // The effects of the menu that are a function of icon and values.
-inline std::vector<const EffectRow*> builtEffects() {
+inline std::vector<const EffectRow*> pixelEffects() {
   std::vector<const EffectRow*> effects;
   for (const EffectRow* effect : effectTable())
     if (effect->apply) effects.push_back(effect);
@@ -23,14 +23,14 @@ inline std::vector<const EffectRow*> builtEffects() {
 
 // Of these, the effects whose side panel is made from their settings.
 inline std::vector<const EffectRow*> effectsOfGeneratedPanels() {
-  std::vector<const EffectRow*> effects = builtEffects();
+  std::vector<const EffectRow*> effects = pixelEffects();
   std::erase_if(effects, [](const EffectRow* effect) { return !effect->panel.isGenerated; });
   return effects;
 }
 
 // The effects of the menu and those of gpicon only.
 inline std::vector<const EffectRow*> allEffects() {
-  std::vector<const EffectRow*> effects = builtEffects();
+  std::vector<const EffectRow*> effects = pixelEffects();
   for (const EffectRow* effect : commandLineEffects())
     if (std::ranges::find(effects, effect) == effects.end()) effects.push_back(effect);
   return effects;

@@ -180,8 +180,7 @@ struct CommandNeed {
 // The indices of mnuEffectsSub that open an effect.
 inline std::vector<int> effectIndices() {
   std::vector<int> indices;
-  for (const EffectRow* effect : effectTable())
-    if (isBuilt(*effect)) indices.push_back(effect->menu.index);
+  for (const EffectRow* effect : effectTable()) indices.push_back(effect->menu.index);
   return indices;
 }
 

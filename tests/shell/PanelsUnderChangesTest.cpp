@@ -30,7 +30,7 @@ struct PanelCommand {
 
 std::vector<PanelCommand> panelCommands() {
   std::vector<PanelCommand> commands;
-  for (const EffectRow* effect : builtEffects())
+  for (const EffectRow* effect : pixelEffects())
     commands.push_back({effect->title, "mnuEffectsSub", effect->menu.index, effect->panel.number});
   for (int run = 0; run < kConfineRuns; ++run)
     commands.push_back({"Reduction " + std::to_string(run), "mnuEffectsSub3", run, ConfinePanel::kNumber});
