@@ -13,11 +13,8 @@ constexpr const char* kMenu = "mnuEffects";
 
 Command commandOf(const EffectRow& effect) {
   const EffectMenuEntry& entry = effect.menu;
-  return {"mnuEffectsSub", entry.index,
-          kMenu,           entry.caption,
-          entry.key,       entry.picture,
-          needs::icon,     Commits::No,
-          nullptr,         bodies::callWithIndex<&Effects::open>};
+  return {"mnuEffectsSub", entry.index, kMenu,       entry.caption, entry.key,
+          entry.picture,   needs::icon, Commits::No, nullptr,       bodies::callWithIndex<&Effects::open>};
 }
 
 }  // namespace

@@ -71,11 +71,12 @@ QComboBox* TextPanelView::makeFamilies() {
   return list;
 }
 
-// A size that fits the icon, or a number of points.
+// A size that fits the icon, or a number of points. The label of the row is no sibling of the lists, so each has its
+// hidden one.
 QWidget* TextPanelView::makeSizes() {
   auto* place = new QWidget(rows());
   QHBoxLayout* row = rowIn(place);
-  row->addWidget(cboTextSize_ = makeList(place, "cboTextSize", "Size"), 2);
+  row->addWidget(cboTextSize_ = makeUnlabelledList(place, "cboTextSize", "Size"), 2);
   row->addWidget(cboFontSize_ = makeUnlabelledList(place, "cboFontSize", kPointsTip), 1);
   cboFontSize_->setToolTip(kPointsTip);
   connect(cboTextSize_, &QComboBox::activated, this, [this](int index) { panel_.pickSize(index); });
