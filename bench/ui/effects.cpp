@@ -12,6 +12,7 @@
 #include "effects/ResizePanel.h"
 #include "effects/SettingsPanel.h"
 #include "effects/SpherePanel.h"
+#include "effects/TextPanel.h"
 #include "effects/TexturePanel.h"
 #include "effects/ThemePanel.h"
 #include "effects/ui/EffectPanelView.h"
@@ -24,6 +25,7 @@
 
 #include <benchmark/benchmark.h>
 #include <memory>
+#include <string>
 
 namespace {
 
@@ -31,14 +33,16 @@ using namespace gp;
 
 constexpr int kPanelWidth = 264;
 constexpr int kPanelHeight = 500;
+constexpr QLatin1String kTextSample("lblTextSample");
 
 // Notices when a sample is painted.
 class PaintWatcher : public QObject {
  public:
   bool painted = false;
   bool eventFilter(QObject* watched, QEvent* event) override {
-    painted = painted || (event->type() == QEvent::Paint &&
-                          watched->objectName().startsWith(QLatin1String("pic"), Qt::CaseInsensitive));
+    const QString name = watched->objectName();
+    const bool isSample = name.startsWith(QLatin1String("pic"), Qt::CaseInsensitive) || name == kTextSample;
+    painted = painted || (event->type() == QEvent::Paint && isSample);
     return false;
   }
 };
@@ -137,13 +141,37 @@ void addBenchmark(const char* name, auto... arguments) {
 template <class Panel>
 void addPanel(const char* setting, void (*change)(Panel& panel, int turn)) {
   for (const EffectRow* effect : effectTable())
-    if (effect->apply && effect->panel.number == Panel::kNumber)
+    if (effect->panel.number == Panel::kNumber)
       addBenchmark((std::string(effect->title) + "/" + setting).c_str(), ofPanel<Panel>, *effect, change);
 }
 
+// A text of six letters, the largest that an icon shows, in a font that is loaded already.
+void write(TextPanel& panel) {
+  if (panel.text().empty()) panel.setText("Sample");
+}
+
+void addText() {
+  addPanel<TextPanel>("letters",
+                      [](TextPanel& panel, int turn) { panel.setText(turn % 2 == 0 ? "Sampled" : "Sample"); });
+  addPanel<TextPanel>("angle", [](TextPanel& panel, int turn) {
+    write(panel);
+    panel.setAngle(turn % kLargestTextAngle + 1);
+  });
+  addPanel<TextPanel>("style", [](TextPanel& panel, int turn) {
+    write(panel);
+    panel.pickStyle(turn % kTextStyles);
+  });
+  addPanel<TextPanel>("size", [](TextPanel& panel, int turn) {
+    write(panel);
+    panel.pickSize(turn % kTextSizes);
+  });
+  addPanel<TextPanel>("10,000 letters", [](TextPanel& panel, int) { panel.setText(std::string(10000, 'M')); });
+}
+
 void addEffects() {
+  addText();
   for (const EffectRow* effect : effectTable())
-    if (effect->apply && effect->panel.isGenerated) addBenchmark(effect->title, ofSettings, *effect);
+    if (effect->panel.isGenerated) addBenchmark(effect->title, ofSettings, *effect);
   addPanel<SpherePanel>("factor", [](SpherePanel& panel, int turn) { panel.pickFactor(turn % 11); });
   addPanel<SpherePanel>("size", [](SpherePanel& panel, int turn) { panel.pickSize(turn % kSphereSizes); });
   addPanel<SpherePanel>("light", [](SpherePanel& panel, int turn) { panel.clickSample(10 + turn % 12, 16); });

@@ -65,16 +65,6 @@ def openTrueColor(desk, name, picture):
     return desk.openContent(name, icons.fileOf([icons.entryOf(picture, 24)]), len(picture))
 
 
-def undoAndRedo(desk, before, after, what):
-    desk.expectIcon(after, what)
-    assert after != before
-    desk.program.command('ctrl+z')
-    desk.expectIcon(before, f'the icon after {what} was undone')
-    assert not desk.isPossible('Undo'), f'{what} takes more than one step'
-    desk.program.command('ctrl+r')
-    desk.expectIcon(after, f'{what} done again')
-
-
 def test_another_icon_is_blended_in_by_mouse_and_keys_undone_and_saved(session):
     desk, own, other = PanelDesk(session), shades(32), stripes(32)
     path = openTrueColor(desk, 'own.ico', own)
@@ -104,7 +94,7 @@ def test_another_icon_is_blended_in_by_mouse_and_keys_undone_and_saved(session):
     desk.program.command('Down', 'Tab', 'End')
     desk.expectSample(blended(own, other, 90), 'a blend at 90 %')
     desk.proceed(BLEND, 'Return')
-    undoAndRedo(desk, own, blended(own, other, 90), 'blending')
+    desk.undoAndRedo(own, blended(own, other, 90), 'blending')
     desk.save(path)
     readers.assertIcons(path, [(blended(own, other, 90), 24)])
 
@@ -171,7 +161,7 @@ def test_a_custom_pattern_is_opened_pressed_in_undone_and_saved(session):
     desk.choose(DEPTH, 8)
     desk.expectSample(textured(own, 0.9, True), 'a deep texture')
     desk.proceed(TEXTURE)
-    undoAndRedo(desk, own, textured(own, 0.9, True), 'a texture')
+    desk.undoAndRedo(own, textured(own, 0.9, True), 'a texture')
     desk.save(path)
     readers.assertIcons(path, [(textured(own, 0.9, True), 24)])
 
