@@ -10,7 +10,7 @@
 #include "document/PanelNumbers.h"
 #include "effects/EffectTable.h"
 #include "effects/Resize.h"
-#include "files/browser/MultiIconListing.h"
+#include "files/format/IconFile.h"
 
 #include <algorithm>
 
@@ -72,16 +72,15 @@ bool ResizePanel::mayResize(Direction direction, int size) {
   return false;
 }
 
-// A file that cannot be read holds nothing that the icon could be in the way of.
+// By the directory, so that a file counts too that is shorter than its directory states. One that cannot be read holds
+// no other size.
 bool ResizePanel::fileHasOtherSizes() const {
   const IconContainerRec& record = frame().state().current();
-  IconArrays arrays;
-  if (!record.fromMultiIconFile ||
-      readIconArrays(record.path.trimmed(), ReservedField::Any, arrays) != ArraysDefect::None)
-    return false;
-  return std::ranges::any_of(listEntries(arrays), [&record](const ListedEntry& entry) {
-    return entry.width != record.size || entry.height != record.size;
-  });
+  if (!record.fromMultiIconFile) return false;
+  const auto file = readIconFile(record.path.trimmed());
+  return file && file->isIcon() && std::ranges::any_of(file->directory.entries, [&record](const IconEntry& entry) {
+           return entry.width != record.size || entry.height != record.size;
+         });
 }
 
 bool ResizePanel::mayIconGo() {

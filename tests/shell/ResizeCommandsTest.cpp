@@ -77,20 +77,23 @@ TEST_F(ResizeCommandsTest, AnIconWithAlphaIsRefused) {
 TEST_F(ResizeCommandsTest, AnIconWhoseFileHoldsOtherSizesIsRefused) {
   startWith(32);
   const std::string two = write("two.ico", {anyEntry(32, 8), anyEntry(16, 8)});
+  const std::string cut = folder.write("cut.ico", folder.read("two.ico").substr(0, 60));
   const std::string same = write("same.ico", {anyEntry(32, 8), anyEntry(32, 4)});
   state.current().fromMultiIconFile = true;
-  state.current().path = two;
-  boxes.expectTold(
-      "Current icon originates from a multi-icon file which has\nalready had alternative size(s).  If you wish to "
-      "expand the\ncurrent one, save it as a single-icon file first.",
-      BoxIcon::None);
-  expand(2);
-  boxes.expectTold(
-      "Current icon originates from a multi-icon file which has\nalready had alternative size(s).  If you wish to "
-      "shrink the\ncurrent one, save it as a single-icon file first.",
-      BoxIcon::None);
-  shrink(2);
-  EXPECT_EQ(panel(), kColorPanel);
+  for (const std::string& path : {two, cut}) {
+    state.current().path = path;
+    boxes.expectTold(
+        "Current icon originates from a multi-icon file which has\nalready had alternative size(s).  If you wish to "
+        "expand the\ncurrent one, save it as a single-icon file first.",
+        BoxIcon::None);
+    expand(2);
+    boxes.expectTold(
+        "Current icon originates from a multi-icon file which has\nalready had alternative size(s).  If you wish to "
+        "shrink the\ncurrent one, save it as a single-icon file first.",
+        BoxIcon::None);
+    shrink(2);
+    EXPECT_EQ(panel(), kColorPanel) << path;
+  }
   for (const std::string& path : {same, folder.file("gone.ico")}) {
     state.current().path = path;
     expand(2);
