@@ -2,6 +2,8 @@
 #include "drawing/FloatingContent.h"
 #include "drawing/RegionFixture.h"
 
+#include <algorithm>
+
 namespace gp {
 namespace {
 
@@ -75,6 +77,15 @@ TEST_F(FloatingContentTest, ARegionThatWasThereEndsWhereItIs) {
   place({"c"});
   EXPECT_EQ(icon(), Rows{"c"});
   EXPECT_EQ(beneath(), Rows{"a"});
+}
+
+TEST_F(FloatingContentTest, ContentOverFloatingContentLeavesTheContainerAsItWas) {
+  makeIcon(16, {"b"});
+  place({"a"});
+  const Surface stored = state.picPanelImage[0];
+  place({"c"});
+  EXPECT_EQ(icon(), Rows{"c"});
+  EXPECT_TRUE(std::ranges::equal(state.picPanelImage[0].pixels(), stored.pixels())) << "only a click stores the icon";
 }
 
 TEST_F(FloatingContentTest, ContentLargerThanTheIconIsARegionLargerThanTheIcon) {
