@@ -67,9 +67,13 @@ void Tools::press(const MouseInput& mouse) {
 }
 
 void Tools::move(const MouseInput& mouse) {
+  const unsigned move = ++moves_;
   // Every key counts, so that the next one must not overtake it. Of the mouse only the last position does.
   if (!mouse.byKeyboard) context_.pump.pump();
   if (!state_.current().present) return;
+  // The mouse has moved on during the pump: what is dragged is there already. A stroke takes each position.
+  const bool isStroke = drawState_.mPainting || drawState_.mErasing || drawState_.mRestoring;
+  if (move != moves_ && !isStroke) return;
   const Surface& disp = state_.picDisp;
   if (mouse.x < 0 || mouse.y < 0 || mouse.x > static_cast<float>(disp.width() - 1) ||
       mouse.y > static_cast<float>(disp.height() - 1)) {

@@ -103,7 +103,8 @@ class Tools {
   Tool selected_ = kNoTool;
   int mPixelX = 0;
   int mPixelY = 0;
-  float lastX_ = 0;  // the pointer's last position, Editing Area pixels
+  unsigned moves_ = 0;  // how often the mouse or the keyboard has moved
+  float lastX_ = 0;     // the pointer's last position, Editing Area pixels
   float lastY_ = 0;
 };
 

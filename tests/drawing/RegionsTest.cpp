@@ -408,5 +408,18 @@ TEST_F(RegionsTest, CommittingAFloatingRegionMergesItIntoTheContainerAsAStep) {
   expectAgreement();
 }
 
+// A busy machine: the mouse moves on while its former position is still being handled.
+TEST_F(RegionsTest, ALaterPositionOfTheMouseIsNotOvertakenByAnEarlierOne) {
+  makeIcon(16, {"ab", "cd"});
+  mark(0, 0, 1, 1);
+  const int start = cells(1);
+  press(start, start);
+  pump.inside = [&] { move(start + cells(6), start + cells(4)); };
+  move(start + cells(3), start + cells(2));
+  release(start + cells(6), start + cells(4));
+  EXPECT_EQ(boxInPixels(), (Rows{"6,4", "7,5"}));
+  EXPECT_FALSE(regions.isDragged());
+}
+
 }  // namespace
 }  // namespace gp
