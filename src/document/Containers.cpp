@@ -1,13 +1,17 @@
 #include "document/Containers.h"
 
+#include "document/AlphaGreys.h"
 #include "document/EditState.h"
 #include "document/IconImage.h"
+#include "platform/gdi/SurfaceOps.h"
 
 namespace gp {
 
 namespace {
 
 constexpr const char* kEmptyName = "empty";
+
+bool isOfSize(const Surface& surface, int size) { return surface.width() == size && surface.height() == size; }
 
 AlphaMatrix& currentAlphaRec(EditState& state) {
   return state.mAlphaRecs.at(static_cast<std::size_t>(state.mCurContainer));
@@ -74,7 +78,7 @@ bool PrepareAlphaRec(EditState& state) {
   const IconContainerRec& record = state.current();
   AlphaMatrix& alpha = currentAlphaRec(state);
   alpha = AlphaMatrix();
-  if (!record.isAlphaIcon() || !state.gAlphaValues.isOfSize(record.size)) return false;
+  if (!record.isAlphaIcon() || !isOfSize(state.picAlpha, record.size)) return false;
   alpha = AlphaMatrix(record.size, record.size);
   return true;
 }
@@ -85,16 +89,17 @@ bool AlphaRecIsReady(const EditState& state) {
 }
 
 bool StoreAlphaToRec(EditState& state) {
-  if (!state.gAlphaValues.isOfSize(state.current().size)) return false;
-  currentAlphaRec(state) = state.gAlphaValues;
+  if (!isOfSize(state.picAlpha, state.current().size)) return false;
+  currentAlphaRec(state) = alphaOf(state.picAlpha);
   return true;
 }
 
 bool LoadAlphaFromRec(EditState& state) {
   const int size = state.current().size;
   const AlphaMatrix& alpha = currentAlphaRec(state);
-  if (!state.current().present || !alpha.isOfSize(size) || !state.gAlphaValues.isOfSize(size)) return false;
-  state.gAlphaValues = alpha;
+  if (!state.current().present || !alpha.isOfSize(size) || !isOfSize(state.picAlpha, size)) return false;
+  BitbltPic(greysOf(alpha), state.picAlpha);
+  state.picAlpha.makePersistent();
   return true;
 }
 

@@ -24,11 +24,11 @@ std::string nameOf(const IconContainerRec& record);
 void SetRecord(EditState& state, int container, const IconImage& icon, const IconContainerRec& record);
 
 // Creates the alpha matrix of the current container. Returns true and creates size x size values for a true colour icon
-// with alpha whose values are in gAlphaValues; otherwise creates a 1 x 1 matrix. Does nothing while the form is loaded.
+// with alpha whose values are in picAlpha; otherwise creates a 1 x 1 matrix. Does nothing while the form is loaded.
 bool PrepareAlphaRec(EditState& state);
 // Returns true when the current container has an icon with alpha and a matrix of its size.
 bool AlphaRecIsReady(const EditState& state);
-// Copy gAlphaValues to the container's matrix, and back. Return false when a size differs or there is no icon.
+// Copy picAlpha to the container's matrix, and back. Return false when a size differs or there is no icon.
 bool StoreAlphaToRec(EditState& state);
 bool LoadAlphaFromRec(EditState& state);
 

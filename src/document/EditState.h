@@ -28,15 +28,16 @@ struct EditState {
   // Identifies the Current Icon: incremented whenever another icon, or none, is shown in the Editing Area. IconArrival.
   unsigned iconSerial = 0;
 
-  // The alpha values of the Current Icon and of each container. IconArrival.
-  AlphaMatrix gAlphaValues;
+  // The alpha values of each container's icon, as old as its copy of the image. IconArrival and EditingArea.
   std::array<AlphaMatrix, kContainerCount> mAlphaRecs;
 
-  // The Current Icon, 1:1: image and Mask, which drawing and effects change, and the composite of both. The Editing
-  // Area and its grid. EditingArea composes and magnifies.
+  // The Current Icon, 1:1: image and Mask, which drawing and effects change, and the composite of both; its alpha
+  // values as greys (AlphaGreys), which drawing changes with image and Mask: white for an icon without alpha. The
+  // Editing Area and its grid. EditingArea composes and magnifies.
   Surface picImage{32, 32, kBlack};
   Surface picMask{32, 32, kWhite};
   Surface PicIcon{32, 32, kGround};
+  Surface picAlpha{32, 32, kWhite};
   Surface picDisp{384, 384, kGround};
   Surface PicGrid{384, 384, kWhite};
   // Each container's copy of its icon. EditingArea.

@@ -1,6 +1,7 @@
 #include "document/EditingArea.h"
 
 #include "document/Compositing.h"
+#include "document/Containers.h"
 #include "document/Display.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
@@ -27,7 +28,8 @@ EditingArea::EditingArea(const Context& context) : context_(context), state_(con
 
 void EditingArea::SizeEditSurfaces(int size) {
   ChooseMagnify(size);
-  for (Surface* surface : {&state_.picImage, &state_.picMask, &state_.PicIcon}) MakePicSize(*surface, size, size);
+  for (Surface* surface : {&state_.picImage, &state_.picMask, &state_.PicIcon, &state_.picAlpha})
+    MakePicSize(*surface, size, size);
 }
 
 void EditingArea::SizePanelSurfaces(int size) { sizeContainer(static_cast<std::size_t>(state_.mCurContainer), size); }
@@ -36,12 +38,14 @@ void EditingArea::ComposeCurrentIcon() {
   composeIcon(state_.picImage, state_.picMask, state_.PicIcon);
   state_.picImage.makePersistent();
   state_.picMask.makePersistent();
+  state_.picAlpha.makePersistent();
 }
 
 void EditingArea::UpdatePanelFromCurrent() {
   const auto container = static_cast<std::size_t>(state_.mCurContainer);
   if (SurfaceSizeDiffers(state_.picImage, state_.picPanelImage.at(container)))
     SizePanelSurfaces(state_.picImage.width());
+  if (PrepareAlphaRec(state_)) StoreAlphaToRec(state_);
   copyToContainer(container, state_.picImage, state_.picMask);
 }
 

@@ -31,7 +31,8 @@ void IconArrival::showCurrentContainer() {
   editingArea_.SizeEditSurfaces(state_.current().size);
   BitbltPic(state_.picPanelImage.at(container), state_.picImage);
   BitbltPic(state_.picPanelMask.at(container), state_.picMask);
-  state_.gAlphaValues = state_.mAlphaRecs.at(container);
+  state_.current().present = true;
+  LoadAlphaFromRec(state_);
   editingArea_.ComposeCurrentIcon();
   // Views that follow the Current Icon have not been notified since it changed.
   context_.display.changed(DisplayPart::IconsPanel);

@@ -88,7 +88,6 @@ void IconsPanel::showEmptyContainer() {
   editingArea_.SizeEditSurfaces(kDefaultIconSize);
   editingArea_.SizePanelSurfaces(kDefaultIconSize);
   editingArea_.showEmpty();
-  state_.gAlphaValues = AlphaMatrix();
   context_.editor.clearUndoHistory();
   context_.editor.clearRegion();
   editingArea_.ClearStatusBar();

@@ -1,6 +1,7 @@
 #include "output/Enquiry.h"
 
 #include "colour/ColorCount.h"
+#include "document/CurrentIcon.h"
 #include "document/CurrentIconGuard.h"
 #include "document/EditState.h"
 #include "document/Hourglass.h"

@@ -5,8 +5,10 @@
 
 namespace gp {
 
+class AlphaCommands;
+
 struct Output {
-  Output(const Context& context, Files& files) : enquiry(context, files) {}
+  Output(const Context& context, Files& files, AlphaCommands& /*alpha*/) : enquiry(context, files) {}
 
   Enquiry enquiry;
 };

@@ -32,6 +32,7 @@ inline IconSaver& ownerIn(Shell& shell, std::type_identity<IconSaver>) { return 
 inline MultiIconCommands& ownerIn(Shell& shell, std::type_identity<MultiIconCommands>) {
   return shell.files().multiIcon;
 }
+inline AlphaCommands& ownerIn(Shell& shell, std::type_identity<AlphaCommands>) { return shell.alpha().commands; }
 inline Effects& ownerIn(Shell& shell, std::type_identity<Effects>) { return shell.effects(); }
 inline ResizePanel& ownerIn(Shell& shell, std::type_identity<ResizePanel>) {
   return shell.effects().panel<ResizePanel>();

@@ -184,8 +184,8 @@ constexpr Command kCommands[] = {
     {"mnuANIFileHistory", 2, "mnuANIFile", "", "", "", needs::always, Commits::No, nullptr, nullptr},
     {"mnuANIFileHistory", 3, "mnuANIFile", "", "", "", needs::always, Commits::No, nullptr, nullptr},
     // Alpha
-    {"mnuAlphaSub", 0, "mnuAlpha", "&View/Edit/Create Alpha Channel ....", "", "alpha", needs::icon, Commits::No, nullptr, nullptr},
-    {"mnuAlphaSub", 1, "mnuAlpha", "&Convert 32 to 24 BPP (&& Retain Alpha Effects) ....", "", "", needs::icon, Commits::No, nullptr, nullptr},
+    {"mnuAlphaSub", 0, "mnuAlpha", "&View/Edit/Create Alpha Channel ....", "", "alpha", needs::icon, Commits::No, nullptr, callWithIndex<&AlphaCommands::mnuAlphaSub>},
+    {"mnuAlphaSub", 1, "mnuAlpha", "&Convert 32 to 24 BPP (&& Retain Alpha Effects) ....", "", "", needs::icon, Commits::No, nullptr, callWithIndex<&AlphaCommands::mnuAlphaSub>},
     // Help
     {"mnuHelpSub", 0, "mnuHelp", "&Help ....", "F1", "help", needs::always, Commits::No, nullptr, call<&Shell::openHelp>},
     {"mnuHelpSub", 1, "mnuHelp", "&About ....", "", "info", needs::always, Commits::No, nullptr, call<&Shell::showAbout>},

@@ -27,8 +27,9 @@ Shell::Shell(EditState& state, const Ports& ports, Display& display, ProgramFold
       colour_(context_, mDialog, ports.pictures, folders_.settings),
       drawing_(context_, document_, colour_.selection, ports.clipboard),
       files_(context_, document_, drawing_, mDialog, folders_.scratch + "/" + kScratchFileName),
+      alpha_(files_.context()),
       effects_(context_, document_, drawing_, {mDialog, ports.pictures, ports.text}),
-      output_(context_, files_),
+      output_(context_, files_, alpha_.commands),
       settings_(state.options, settingsPath()),
       fileHistory_(kFileHistorySection, kFileHistoryLimit, settingsPath()),
       aniHistory_(kAniHistorySection, kAniHistoryLimit, settingsPath()) {}
@@ -37,9 +38,10 @@ Shell::~Shell() = default;
 
 const ScreenState& Shell::screen() const { return state_.screen; }
 
-void Shell::attach(ShellForms* form, FileForms* fileForms) {
+void Shell::attach(ShellForms* form, FileForms* fileForms, AlphaForms* alphaForms) {
   form_ = form;
   files_.attach(fileForms);
+  alpha_.commands.attach(alphaForms);
 }
 
 std::string Shell::settingsPath() const { return folders_.settings + "/" + kSettingsFileName; }

@@ -2,6 +2,7 @@
 // owner, and handles commands and the life cycle of the main form. The forms forward their events to it.
 #pragma once
 
+#include "alpha/Alpha.h"
 #include "colour/Colour.h"
 #include "document/Document.h"
 #include "document/Editor.h"
@@ -48,7 +49,7 @@ class Shell final : public Editor {
   ~Shell() override;
 
   // Sets the main form; null before it is destroyed. Without a form, commands that need a window do nothing.
-  void attach(ShellForms* form, FileForms* fileForms);
+  void attach(ShellForms* form, FileForms* fileForms, AlphaForms* alphaForms);
 
   EditState& state() { return state_; }
   const EditState& state() const { return state_; }
@@ -61,6 +62,7 @@ class Shell final : public Editor {
   Drawing& drawing() { return drawing_; }
   const Drawing& drawing() const { return drawing_; }
   Files& files() { return files_; }
+  Alpha& alpha() { return alpha_; }
   Effects& effects() { return effects_; }
   const Effects& effects() const { return effects_; }
   Output& output() { return output_; }
@@ -153,6 +155,7 @@ class Shell final : public Editor {
   Colour colour_;
   Drawing drawing_;
   Files files_;
+  Alpha alpha_;
   Effects effects_;
   Output output_;
   Settings settings_;

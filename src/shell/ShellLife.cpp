@@ -39,7 +39,6 @@ void Shell::formLoad() {
   state_.process.mLastFolder = settings_.GetLastFolder();
   if (state_.process.mLastFolder.empty()) state_.process.mLastFolder = folders_.settings;
   state_.process.mDesktopFolder = ports_.system.desktopDirectory();
-  state_.gAlphaValues = AlphaMatrix();
   state_.mAlphaRecs.fill(AlphaMatrix());
   state_.mInLoad = false;
 }

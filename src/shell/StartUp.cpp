@@ -60,11 +60,6 @@ bool acceptScreenSize(StartUp& start) {
                          std::to_string(width) + "x" + std::to_string(height) + ".  Proceed still?");
 }
 
-bool resetAlpha(StartUp& start) {
-  start.state.gAlphaValues = AlphaMatrix();
-  return true;
-}
-
 bool keepFolder(StartUp& start, const std::string& found, std::string& kept, const char* refusal) {
   if (found.empty()) start.boxes.tell(refusal);
   kept = found;
@@ -90,8 +85,8 @@ bool findTempDirectory(StartUp& start) {
 
 using Step = bool (*)(StartUp&);
 constexpr Step kSteps[] = {
-    isOnlyInstance, endCompanion,         acceptScreenColors,  acceptScreenSize,
-    resetAlpha,     findWindowsDirectory, findSystemDirectory, findTempDirectory,
+    isOnlyInstance,       endCompanion,        acceptScreenColors, acceptScreenSize,
+    findWindowsDirectory, findSystemDirectory, findTempDirectory,
 };
 
 bool runSteps(StartUp& start) {

@@ -17,7 +17,7 @@ inline constexpr const char* kAboutTitle = "Glimmerpane By Zorvex Lattice";
 inline constexpr const char* kCompanionProgram = "gpsupp1.exe";
 
 // Runs the checks in order. Returns false when the program must end, after informing the user. Sets the screen depth
-// and the folders of `state.process` and makes gAlphaValues 1 x 1. `folder` is that of the settings.
+// and the folders of `state.process`. `folder` is that of the settings.
 [[nodiscard]] bool runStartUpChecks(SystemInfo& system, Processes& processes, MessageBoxes& boxes, EditState& state,
                                     const std::string& folder);
 

@@ -1,3 +1,4 @@
+#include "document/AlphaGreys.h"
 #include "document/Containers.h"
 #include "document/EditState.h"
 #include "document/IconImage.h"
@@ -15,7 +16,7 @@ void makeAlphaIcon(EditState& state, int size) {
   record.bitCount = 32;
   record.hasAlpha = true;
   record.size = static_cast<std::int16_t>(size);
-  state.gAlphaValues = AlphaMatrix(size, size, 7);
+  state.picAlpha = Surface(size, size, greyOf(7));
 }
 
 TEST(ClearContainer, LeavesTheSizeAtThirtyTwoAlthoughNothingIsThere) {
@@ -119,7 +120,7 @@ TEST(PrepareAlphaRec, MakesAMatrixOfTheIconsSizeOnlyForAnIconWithAlpha) {
 TEST(PrepareAlphaRec, RefusesValuesOfAnotherSize) {
   EditState state;
   makeAlphaIcon(state, 24);
-  state.gAlphaValues = AlphaMatrix(16, 16);
+  state.picAlpha = Surface(16, 16);
   EXPECT_FALSE(PrepareAlphaRec(state));
 }
 
@@ -135,19 +136,19 @@ TEST(PrepareAlphaRec, DoesNothingWhileTheFormLoads) {
 TEST(AlphaRecords, ValuesGoToTheRecordAndBack) {
   EditState state;
   makeAlphaIcon(state, 16);
-  state.gAlphaValues.at(3, 4) = 99;
+  state.picAlpha.SetPixelV(3, 4, greyOf(99));
   ASSERT_TRUE(PrepareAlphaRec(state));
   ASSERT_TRUE(StoreAlphaToRec(state));
   EXPECT_EQ(state.mAlphaRecs[0].at(3, 4), 99);
-  state.gAlphaValues = AlphaMatrix(16, 16);
+  state.picAlpha = Surface(16, 16);
   ASSERT_TRUE(LoadAlphaFromRec(state));
-  EXPECT_EQ(state.gAlphaValues.at(3, 4), 99);
+  EXPECT_EQ(state.picAlpha.GetPixel(3, 4), greyOf(99));
 }
 
 TEST(AlphaRecords, StoringRefusesAMatrixOfAnotherSize) {
   EditState state;
   makeAlphaIcon(state, 16);
-  state.gAlphaValues = AlphaMatrix();
+  state.picAlpha = Surface(1, 1);
   EXPECT_FALSE(StoreAlphaToRec(state));
 }
 

@@ -1,4 +1,5 @@
 #include "document/Containers.h"
+#include "document/CurrentIcon.h"
 #include "document/DocumentFixture.h"
 
 #include <algorithm>
@@ -202,7 +203,7 @@ TEST_F(IconArrivalTest, AnIconWithAlphaKeepsAValueForEachPixel) {
   IconImage icon = alphaIcon(24, 200);
   icon.alpha.at(23, 5) = 7;
   arrival.arrive(icon, alphaRecord());
-  EXPECT_EQ(state.gAlphaValues, icon.alpha);
+  EXPECT_EQ(currentIcon(state).alpha, icon.alpha);
   EXPECT_EQ(state.mAlphaRecs[0], icon.alpha);
   EXPECT_TRUE(AlphaRecIsReady(state));
   EXPECT_TRUE(state.current().hasAlpha);
@@ -218,7 +219,7 @@ TEST_F(IconArrivalTest, AnIconThatLacksItsAlphaValuesBecomesOneOf24Bits) {
     EXPECT_FALSE(state.current().hasAlpha);
     EXPECT_EQ(state.current().bitCount, kBitsWithoutAlpha);
     EXPECT_EQ(state.current().dirColors, kTrueColor);
-    EXPECT_EQ(state.gAlphaValues, AlphaMatrix());
+    EXPECT_EQ(currentIcon(state).alpha, AlphaMatrix());
     EXPECT_EQ(state.mAlphaRecs[0], AlphaMatrix());
     EXPECT_FALSE(state.screen.imgAlphaOnStatusPanel);
   }
@@ -229,12 +230,12 @@ TEST_F(IconArrivalTest, OnlyATrueColorIconOf32BitsKeepsAlphaValues) {
   record.dirColors = 256;
   arrival.arrive(alphaIcon(16, 200), record);
   EXPECT_FALSE(state.current().hasAlpha);
-  EXPECT_EQ(state.gAlphaValues, AlphaMatrix());
+  EXPECT_EQ(currentIcon(state).alpha, AlphaMatrix());
   record = alphaRecord();
   record.bitCount = kBitsWithoutAlpha;
   arrival.arrive(alphaIcon(16, 200), record);
   EXPECT_FALSE(state.current().hasAlpha);
-  EXPECT_EQ(state.gAlphaValues, AlphaMatrix());
+  EXPECT_EQ(currentIcon(state).alpha, AlphaMatrix());
 }
 
 TEST_F(IconArrivalTest, AlphaValuesOfAnIconWithoutAlphaAreDroppedAndItsDepthStays) {
@@ -242,14 +243,14 @@ TEST_F(IconArrivalTest, AlphaValuesOfAnIconWithoutAlphaAreDroppedAndItsDepthStay
   record.hasAlpha = false;
   arrival.arrive(alphaIcon(16, 200), record);
   EXPECT_EQ(state.current().bitCount, kBitsWithAlpha);
-  EXPECT_EQ(state.gAlphaValues, AlphaMatrix());
+  EXPECT_EQ(currentIcon(state).alpha, AlphaMatrix());
   EXPECT_EQ(state.mAlphaRecs[0], AlphaMatrix());
 }
 
 TEST_F(IconArrivalTest, AnIconWithoutAlphaLeavesNoValuesOfTheFormerOne) {
   arrival.arrive(alphaIcon(16, 200), alphaRecord());
   arrival.arrive(drawnIcon(), NewRecord());
-  EXPECT_EQ(state.gAlphaValues, AlphaMatrix());
+  EXPECT_EQ(currentIcon(state).alpha, AlphaMatrix());
   EXPECT_EQ(state.mAlphaRecs[0], AlphaMatrix());
 }
 
@@ -320,7 +321,7 @@ TEST_F(IconArrivalTest, FillingAnotherContainerLeavesTheEditingAreaAlone) {
   EXPECT_TRUE(same(state.picDisp, disp));
   expectShown(plainIcon(32, kBlue));
   EXPECT_EQ(state.mCurContainer, 0);
-  EXPECT_EQ(state.gAlphaValues, AlphaMatrix());
+  EXPECT_EQ(currentIcon(state).alpha, AlphaMatrix());
   EXPECT_EQ(state.mIconRecs[0].size, 32);
 
   EXPECT_EQ(display.count(DisplayPart::IconsPanel), panels + 1);
@@ -355,7 +356,7 @@ TEST_F(IconArrivalTest, AFilledContainerIsShownAsItWasStored) {
   arrival.showCurrentContainer();
   expectShown(plainIcon(16, kRed));
   EXPECT_TRUE(state.current().present);
-  EXPECT_EQ(state.gAlphaValues, AlphaMatrix(16, 16, 9));
+  EXPECT_EQ(currentIcon(state).alpha, AlphaMatrix(16, 16, 9));
   EXPECT_EQ(state.iconSerial, before + 1);
   EXPECT_EQ(editor.count("clearRegion"), 1);
   EXPECT_EQ(editor.count("chooseColorChart"), 1);

@@ -1,3 +1,4 @@
+#include "document/AlphaGreys.h"
 #include "document/DocumentFixture.h"
 
 namespace gp {
@@ -116,10 +117,12 @@ TEST_F(IconsPanelTest, SwitchingKeepsAPanelOpenDuringAnAnimatedCursorSession) {
 
 TEST_F(IconsPanelTest, TheAlphaValuesFollowTheContainer) {
   loadInto(0, 16, 0x0000FF);
+  state.mIconRecs[0].hasAlpha = true;
+  state.mIconRecs[0].setDepth({kTrueColor, kBitsWithAlpha});
   state.mAlphaRecs[0] = AlphaMatrix(16, 16, 77);
   loadInto(1, 16, 0x00FF00);
   panel.SwitchContainer(0);
-  EXPECT_EQ(state.gAlphaValues.at(15, 15), 77);
+  EXPECT_EQ(state.picAlpha.GetPixel(15, 15), greyOf(77));
 }
 
 TEST_F(IconsPanelTest, AnIconWithAlphaFlashesItsIndicatorTwice) {

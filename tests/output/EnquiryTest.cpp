@@ -1,9 +1,11 @@
 #include "document/Containers.h"
+#include "document/CurrentIcon.h"
 #include "files/Files.h"
 #include "files/IcoBuilder.h"
 #include "files/enquiry/IconProperties.h"
 #include "files/format/IconWriter.h"
 #include "files/saving/CurrentIcon.h"
+#include "alpha/Alpha.h"
 #include "output/Output.h"
 #include "support/Rooms.h"
 
@@ -35,7 +37,8 @@ class EnquiryTest : public testing::Test, protected Rooms {
  protected:
   IconFolder folder;
   Files files{context, document, drawing, dialog, folder.path("gptmp.ico")};
-  Output output{context, files};
+  Alpha alpha{files.context()};
+  Output output{context, files, alpha.commands};
   Enquiry& enquiry = output.enquiry;
   RecordingForms forms{files.context().multiIcon};
 

@@ -13,7 +13,7 @@ namespace {
 class World : public LoggedProgram<RecordingDisplay> {
  public:
   explicit World(const CommandState& state) : name_(state.name) {
-    shell.attach(&forms_, &forms_);
+    shell.attach(&forms_, &forms_, &forms_);
     shell.formLoad();
     shell.formActivate("");
     make(state);

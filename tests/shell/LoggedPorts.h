@@ -43,7 +43,7 @@ class CancelledDialogs : public FileDialogs {
   Log& log_;
 };
 
-class LoggedForms : public ShellForms, public FileForms {
+class LoggedForms : public ShellForms, public FileForms, public AlphaForms {
  public:
   explicit LoggedForms(Log& log) : log_(log) {}
   FormPlace place() const override { return {}; }
@@ -53,6 +53,10 @@ class LoggedForms : public ShellForms, public FileForms {
   void unload() override { log_.push_back("unload"); }
   void showMultiIcon() override { log_.push_back("browser"); }
   void showHeaderDiff() override { log_.push_back("headers"); }
+  AlphaOutcome showAlpha(const IconImage&, AlphaMode) override {
+    log_.push_back("alpha");
+    return {};
+  }
 
  private:
   Log& log_;

@@ -64,10 +64,10 @@ class SnapshotMaker {
   void addIcon() {
     putSurface("picImage", state_.picImage);
     putSurface("picMask", state_.picMask);
+    putSurface("picAlpha", state_.picAlpha);
     putSurface("PicIcon", state_.PicIcon);
     putSurface("picDisp", state_.picDisp);
     putSurface("PicGrid", state_.PicGrid);
-    putAlpha("gAlphaValues", state_.gAlphaValues);
     put("iconSerial", state_.iconSerial);
     put("magnification and grid", state_.gMagnification, state_.gGridColor);
     put("container", state_.mCurContainer);

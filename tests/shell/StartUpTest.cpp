@@ -38,13 +38,11 @@ TEST_F(StartUpChecks, AGoodMachineRaisesNoBox) {
 
 TEST_F(StartUpChecks, WhatIsFoundOutGoesIntoTheState) {
   system_.bits = 24;
-  state_.gAlphaValues = AlphaMatrix(48, 48);
   EXPECT_TRUE(run());
   EXPECT_EQ(state_.process.gScreenBPP, 24);
   EXPECT_EQ(state_.process.gWindowsDir, "/usr");
   EXPECT_EQ(state_.process.gSystemDir, "/usr/lib");
   EXPECT_EQ(state_.process.gTempDir, "/tmp/");
-  EXPECT_TRUE(state_.gAlphaValues.isOfSize(1));
 }
 
 TEST_F(StartUpChecks, ASecondInstanceClosesTheAboutScreenTellsAndEnds) {

@@ -48,7 +48,7 @@ class AgreeingProgram {
       : folder_(folder),
         shell(state_, Ports{boxes, dialogs, pump_, system_, processes_, clipboard_, pictures_, text_}, display_,
               foldersIn(folder)) {
-    shell.attach(&form, &form);
+    shell.attach(&form, &form, &form);
     shell.formLoad();
     shell.formActivate("");
   }

@@ -17,11 +17,12 @@
 
 namespace gp::test {
 
-class FakeForm : public ShellForms, public FileForms {
+class FakeForm : public ShellForms, public FileForms, public AlphaForms {
  public:
   FormPlace now;
   int abouts = 0, unloads = 0, maximizes = 0, multiIcons = 0, headerDiffs = 0;
   std::function<void()> onMultiIcon, onHeaderDiff;  // what the user does in them
+  std::function<AlphaOutcome(const IconImage&, AlphaMode)> onAlpha;
 
   FormPlace place() const override { return now; }
   void setPlace(const FormPlace& place) override { now = place; }
@@ -30,6 +31,9 @@ class FakeForm : public ShellForms, public FileForms {
   void showMultiIcon() override {
     ++multiIcons;
     if (onMultiIcon) onMultiIcon();
+  }
+  AlphaOutcome showAlpha(const IconImage& icon, AlphaMode mode) override {
+    return onAlpha ? onAlpha(icon, mode) : AlphaOutcome();
   }
   void showHeaderDiff() override {
     ++headerDiffs;
@@ -57,7 +61,7 @@ class ProgramFixture : public testing::Test {
   Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures, textDrawing}, display,
               test::foldersIn(folder.path())};
 
-  ProgramFixture() { shell.attach(&form, &form); }
+  ProgramFixture() { shell.attach(&form, &form, &form); }
   // Load and the first Activate, in the same order as app/.
   void start(const std::string& commandLine = "") {
     shell.formLoad();

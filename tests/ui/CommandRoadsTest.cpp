@@ -24,7 +24,7 @@ class FormWorld : public LoggedProgram<QtDisplay> {
     form_->show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
     settle();
-    shell.attach(form_.get(), &forms_);
+    shell.attach(form_.get(), &forms_, &forms_);
     make(state);
     settle();
     log.clear();

@@ -1,13 +1,10 @@
 #include "files/saving/CurrentIcon.h"
 
+#include "document/CurrentIcon.h"
 #include "document/EditState.h"
 #include "files/format/IconWriter.h"
 
 namespace gp {
-
-IconImage currentIcon(const EditState& state) {
-  return {state.picImage, state.picMask, state.mAlphaRecs.at(static_cast<std::size_t>(state.mCurContainer))};
-}
 
 bool writeCurrentIcon(const EditState& state, const std::string& path, const std::optional<FileVersion>& read) {
   const IconImage icon = currentIcon(state);

@@ -1,7 +1,6 @@
 // Saves the Current Icon: passes it from the shared state to the writers, and updates its record.
 #pragma once
 
-#include "document/IconImage.h"
 #include "platform/files/FileVersion.h"
 
 #include <optional>
@@ -11,8 +10,6 @@ namespace gp {
 
 struct EditState;
 
-// The pixels and alpha values of the Current Icon.
-IconImage currentIcon(const EditState& state);
 // Writes the Current Icon with the alpha channel that its record states. False as in WriteSingleIconFile.
 [[nodiscard]] bool writeCurrentIcon(const EditState& state, const std::string& path,
                                     const std::optional<FileVersion>& read = std::nullopt);

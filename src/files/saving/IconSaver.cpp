@@ -2,6 +2,7 @@
 
 #include "document/Announcements.h"
 #include "document/Containers.h"
+#include "document/CurrentIcon.h"
 #include "document/CurrentIconGuard.h"
 #include "document/Display.h"
 #include "document/Document.h"

@@ -1,6 +1,7 @@
 #include "files/saving/MultiIconReplace.h"
 
 #include "document/Announcements.h"
+#include "document/CurrentIcon.h"
 #include "document/Display.h"
 #include "document/Document.h"
 #include "document/EditState.h"

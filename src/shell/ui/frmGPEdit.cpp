@@ -78,11 +78,11 @@ frmGPEdit::frmGPEdit(Shell& shell, QtDisplay& display, std::string commandLine)
   setRequests();
   refreshCommands();
   room_->view().setFocus(Qt::OtherFocusReason);
-  shell_.attach(this, this);
+  shell_.attach(this, this, this);
 }
 
 frmGPEdit::~frmGPEdit() {
-  shell_.attach(nullptr, nullptr);
+  shell_.attach(nullptr, nullptr, nullptr);
   display_.forgetAll();
 }
 
@@ -266,6 +266,8 @@ void frmGPEdit::showHeaderDiff() {
   frmGPHeaderDiff form(shell_.files().context(), display_, this);
   form.exec();
 }
+
+AlphaOutcome frmGPEdit::showAlpha(const IconImage& /*icon*/, AlphaMode /*mode*/) { return {}; }
 
 void frmGPEdit::unload() { close(); }
 

@@ -2,6 +2,7 @@
 // makes no decisions and has no document state.
 #pragma once
 
+#include "alpha/AlphaForms.h"
 #include "files/FileForms.h"
 #include "shell/ShellForms.h"
 
@@ -28,7 +29,7 @@ class StatusBarView;
 class ToolBox;
 class ToolbarView;
 
-class frmGPEdit final : public QMainWindow, public ShellForms, public FileForms {
+class frmGPEdit final : public QMainWindow, public ShellForms, public FileForms, public AlphaForms {
   Q_OBJECT
 
  public:
@@ -45,6 +46,8 @@ class frmGPEdit final : public QMainWindow, public ShellForms, public FileForms 
   // FileForms.
   void showMultiIcon() override;
   void showHeaderDiff() override;
+  // AlphaForms.
+  AlphaOutcome showAlpha(const IconImage& icon, AlphaMode mode) override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;

@@ -1,3 +1,4 @@
+#include "document/CurrentIcon.h"
 #include "files/FilesFixture.h"
 #include "files/browser/HeaderDiff.h"
 #include "support/FullDisk.h"
@@ -104,7 +105,7 @@ TEST_F(HeaderDiffTest, TheFirst32x32EntryIsSelectedAndALaterOneOfEightBitsDispla
 
 TEST_F(HeaderDiffTest, TheAlphaValuesOfTheCurrentIconStandWhileTheFormIsOpenAndAfterwards) {
   given(entryOf(anyPicture(32, 32)), "current.ico");
-  const AlphaMatrix alpha = state.gAlphaValues;
+  const AlphaMatrix alpha = currentIcon(state).alpha;
   ASSERT_TRUE(alpha.isOfSize(32));
   Picture other = anyPicture(32, 32);
   other.color = [](int x, int y) { return Rgb{x, y, 0, 77}; };
@@ -114,12 +115,12 @@ TEST_F(HeaderDiffTest, TheAlphaValuesOfTheCurrentIconStandWhileTheFormIsOpenAndA
     for (int item = 0; item < 3; ++item) {
       diff->clickIcon(item);
       EXPECT_EQ(diff->selectedIcon(), item);
-      EXPECT_EQ(state.gAlphaValues, alpha) << item;
+      EXPECT_EQ(currentIcon(state).alpha, alpha) << item;
     }
   }
   salvage();
   diff.reset();
-  EXPECT_EQ(state.gAlphaValues, alpha);
+  EXPECT_EQ(currentIcon(state).alpha, alpha);
   EXPECT_EQ(state.mAlphaRecs[0], alpha);
 }
 

@@ -1,4 +1,5 @@
 // Showing, listing and selecting. The buttons are tested in other files.
+#include "document/CurrentIcon.h"
 #include "files/BrowserFixture.h"
 
 namespace gp::test {
@@ -218,17 +219,17 @@ TEST_F(BrowserTest, EntriesOf32BitsArePreviewedWithAlpha) {
 
 TEST_F(BrowserTest, TheAlphaValuesOfTheCurrentIconStandWhileEntriesAreLookedAtAndLoaded) {
   given(entryOf(anyPicture(32, 32)));
-  const AlphaMatrix alpha = state.gAlphaValues;
+  const AlphaMatrix alpha = currentIcon(state).alpha;
   ASSERT_TRUE(alpha.isOfSize(32));
   browse({anyEntry(48, 32), anyEntry(32, 4), anyEntry(16, 32)});
   for (const int item : {0, 1, 2}) {
     browser->clickIcon(item);
-    EXPECT_EQ(state.gAlphaValues, alpha) << item;
+    EXPECT_EQ(currentIcon(state).alpha, alpha) << item;
   }
   browser->cmdReposition();
   browser->cmdRepositionAbort();
   browser->cmdEdit();
-  EXPECT_EQ(state.gAlphaValues, alpha) << "the caller decides about the chosen icon";
+  EXPECT_EQ(currentIcon(state).alpha, alpha) << "the caller decides about the chosen icon";
 }
 
 TEST_F(BrowserTest, RefsAbove99CannotBeSelected) {

@@ -1,3 +1,4 @@
+#include "document/CurrentIcon.h"
 #include "files/MultiIconFixture.h"
 
 #include <filesystem>
@@ -117,7 +118,7 @@ TEST_F(MultiIconCommandsTest, AlphaValuesOfAnotherWidthMakeItAnIconOf24Bits) {
   EXPECT_FALSE(record().hasAlpha);
   EXPECT_EQ(record().bitCount, 24);
   EXPECT_EQ(state.mAlphaRecs[0], AlphaMatrix());
-  EXPECT_EQ(state.gAlphaValues, AlphaMatrix());
+  EXPECT_EQ(currentIcon(state).alpha, AlphaMatrix());
 }
 
 TEST_F(MultiIconCommandsTest, ALoadIntoAnotherContainerSwitchesThereWithoutLosingAnything) {
@@ -158,7 +159,7 @@ TEST_F(MultiIconCommandsTest, ClosingAfterALoadStillTellsThatLoad) {
 TEST_F(MultiIconCommandsTest, ClosingAtOnceChangesNothing) {
   given(entryOf(anyPicture(32, 32)));
   const IconContainerRec before = record();
-  const AlphaMatrix alpha = state.gAlphaValues;
+  const AlphaMatrix alpha = currentIcon(state).alpha;
   const unsigned serial = state.iconSerial;
   user.push_back([&] {
     leaves(bytes, 2);
@@ -166,7 +167,7 @@ TEST_F(MultiIconCommandsTest, ClosingAtOnceChangesNothing) {
   });
   EXPECT_EQ(retrieve(), "");
   EXPECT_EQ(record().path, before.path);
-  EXPECT_EQ(state.gAlphaValues, alpha) << "looking at entries leaves the Current Icon's alpha values";
+  EXPECT_EQ(currentIcon(state).alpha, alpha) << "looking at entries leaves the Current Icon's alpha values";
   EXPECT_EQ(state.iconSerial, serial);
   EXPECT_EQ(editor.calls, std::vector<std::string>{});
 }

@@ -1,4 +1,5 @@
 // PNG images in the editor: opened, browsed, replaced and saved as bitmaps are.
+#include "document/CurrentIcon.h"
 #include "files/BrowserFixture.h"
 #include "files/CursorBuilder.h"
 #include "files/MultiIconReplaceFixture.h"
@@ -30,7 +31,7 @@ class PngOpening : public FilesTest {
     const Decoded icon = decode(build(anyPngEntry(size)));
     EXPECT_TRUE(samePixels(state.picImage, icon.image));
     EXPECT_TRUE(samePixels(state.picMask, icon.mask));
-    EXPECT_EQ(state.gAlphaValues, icon.alpha);
+    EXPECT_EQ(currentIcon(state).alpha, icon.alpha);
     EXPECT_TRUE(panelIsUpToDate());
     EXPECT_EQ(record().size, size);
     EXPECT_EQ(record().dirColors, -1);

@@ -1,3 +1,4 @@
+#include "document/CurrentIcon.h"
 #include "files/MultiIconFixture.h"
 #include "files/browser/MultiIconBrowser.h"
 #include "support/FullDisk.h"
@@ -158,13 +159,13 @@ TEST_F(MultiIconAddTest, CancelsAndMalformedAnswersChangeNothing) {
 
 TEST_F(MultiIconAddTest, LookingAtEntriesLeavesTheAlphaValues) {
   hold(entryOf(anyPicture(16, 32)));
-  const AlphaMatrix alpha = state.gAlphaValues;
+  const AlphaMatrix alpha = currentIcon(state).alpha;
   user.push_back([&] {
     MultiIconBrowser(files.context()).activate();
     answers("");
   });
   addTo(target);
-  EXPECT_EQ(state.gAlphaValues, alpha);
+  EXPECT_EQ(currentIcon(state).alpha, alpha);
 }
 
 TEST_F(MultiIconAddTest, WhatIsOpenOnTheIconEndsFirst) {
