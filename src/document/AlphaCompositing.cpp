@@ -14,15 +14,15 @@ int blendChannel(int channel, int percent) {
   return divide((kFullPercent - percent) * kGroundChannel + percent * channel, kFullPercent);
 }
 
+}  // namespace
+
+int alphaPercent(int alpha) { return Fix(alpha / kFullAlpha * kFullPercent); }
+
 Color blendOverGround(Color color, int alpha) {
   const int percent = alphaPercent(alpha);
   return rgb(blendChannel(redOf(color), percent), blendChannel(greenOf(color), percent),
              blendChannel(blueOf(color), percent));
 }
-
-}  // namespace
-
-int alphaPercent(int alpha) { return Fix(alpha / kFullAlpha * kFullPercent); }
 
 void composeAlpha(const Surface& mask, const Surface& image, const AlphaMatrix& alpha, Surface& target) {
   for (int y = 0; y < image.height(); ++y) {
