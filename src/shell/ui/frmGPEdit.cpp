@@ -1,5 +1,6 @@
 #include "shell/ui/frmGPEdit.h"
 
+#include "alpha/ui/frmGPAlpha.h"
 #include "document/ui/CurrentIconView.h"
 #include "document/ui/EditingAreaView.h"
 #include "document/ui/FileDrops.h"
@@ -267,7 +268,12 @@ void frmGPEdit::showHeaderDiff() {
   form.exec();
 }
 
-AlphaOutcome frmGPEdit::showAlpha(const IconImage& /*icon*/, AlphaMode /*mode*/) { return {}; }
+AlphaOutcome frmGPEdit::showAlpha(const IconImage& icon, AlphaMode mode) {
+  const DialogOwner owner;
+  frmGPAlpha form(shell_.files().context(), icon, mode, this);
+  form.exec();
+  return form.outcome();
+}
 
 void frmGPEdit::unload() { close(); }
 
