@@ -94,13 +94,15 @@ void AlphaEditor::paint(bool straight) {
   if (brush_.paint(*pixel_, static_cast<std::uint8_t>(value_), straight)) mChanged_ = true;
 }
 
-std::string AlphaEditor::positionText() const {
-  return pixel_ ? "X= " + std::to_string(pixel_->x) + "  Y= " + std::to_string(pixel_->y) : "";
-}
+std::string AlphaEditor::positionText() const { return pixel_ ? positionText(*pixel_) : ""; }
 
 std::string AlphaEditor::colorText() const { return pixel_ ? colorText(*pixel_) : ""; }
 
 std::string AlphaEditor::alphaText() const { return pixel_ ? alphaText(*pixel_) : ""; }
+
+std::string AlphaEditor::positionText(IconPixel pixel) {
+  return "X= " + std::to_string(pixel.x) + "  Y= " + std::to_string(pixel.y);
+}
 
 std::string AlphaEditor::colorText(IconPixel pixel) const {
   const Color color = canvas_.icon().image.GetPixel(pixel.x, pixel.y);
@@ -116,7 +118,9 @@ std::string AlphaEditor::alphaText(IconPixel pixel) const {
 }
 
 std::string AlphaEditor::pixelText(int x, int y) const {
-  return "X= " + std::to_string(x) + "  Y= " + std::to_string(y) + "  " + colorText({x, y}) + "  " + alphaText({x, y});
+  const std::string content =
+      canvas_.isPainted(x, y) ? colorText(IconPixel{x, y}) + "  " + alphaText(IconPixel{x, y}) : "transparent";
+  return positionText({x, y}) + "  " + content;
 }
 
 void AlphaEditor::cmdAlpha(AlphaButton button) {

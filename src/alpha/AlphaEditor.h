@@ -61,7 +61,7 @@ class AlphaEditor {
   std::string positionText() const;
   std::string colorText() const;
   std::string alphaText() const;
-  // All of it in one line, for any pixel of the icon.
+  // What a screen reader speaks for any pixel of the icon.
   std::string pixelText(int x, int y) const;
 
   void cmdAlpha(AlphaButton button);
@@ -73,6 +73,7 @@ class AlphaEditor {
   std::optional<IconPixel> pixelAt(double x, double y) const;
   void paint(bool straight);
   bool isReadable(IconPixel pixel) const { return mEditing_ && canvas_.isPainted(pixel.x, pixel.y); }
+  static std::string positionText(IconPixel pixel);
   std::string colorText(IconPixel pixel) const;
   std::string alphaText(IconPixel pixel) const;
 

@@ -311,10 +311,12 @@ TEST_F(AlphaScreen, WithoutAlphaValuesTheReadoutsAreNotAvailable) {
   expectReadouts("X= 3  Y= 5", "RGB:  103, 5, 7", "Alpha =  255");
 }
 
-TEST_F(AlphaScreen, AnyPixelCanBeReadOut) {
+TEST_F(AlphaScreen, AnyPixelCanBeSpoken) {
   openWithAlpha();
   EXPECT_EQ(editor->pixelText(3, 5), "X= 3  Y= 5  RGB:  103, 5, 7  Alpha =  60");
-  EXPECT_EQ(editor->pixelText(20, 5), "X= 20  Y= 5  RGB:  N/A  Alpha =  N/A");
+  EXPECT_EQ(editor->pixelText(20, 5), "X= 20  Y= 5  transparent");
+  open(halfIcon());
+  EXPECT_EQ(editor->pixelText(3, 5), "X= 3  Y= 5  RGB:  N/A  Alpha =  N/A");
 }
 
 // Restore.
