@@ -7,6 +7,8 @@
 
 namespace gp {
 
+inline constexpr std::uint8_t kOpaqueAlpha = 255;
+
 class AlphaMatrix {
  public:
   AlphaMatrix() : AlphaMatrix(1, 1) {}

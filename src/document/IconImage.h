@@ -18,6 +18,8 @@ struct IconImage {
   bool isEmpty() const { return width() == 0 || height() == 0; }
   // Returns true when there is one alpha value for each pixel.
   bool hasAlphaValues() const { return alpha.width() == width() && alpha.height() == height(); }
+  // Returns the alpha value of a pixel, which must exist; opaque without alpha values.
+  std::uint8_t alphaAt(int x, int y) const { return hasAlphaValues() ? alpha.at(x, y) : kOpaqueAlpha; }
 };
 
 // Returns an icon of size x size without an opaque pixel.

@@ -1,5 +1,6 @@
 #include "drawing/ClipboardCommands.h"
 
+#include "document/AlphaGreys.h"
 #include "document/Announcements.h"
 #include "document/Containers.h"
 #include "document/Display.h"
@@ -77,6 +78,7 @@ void ClipboardCommands::cutContent() {
   const int y2 = roundToInteger(at.y2);
   FillBox(state_.picImage, x1, y1, x2, y2, kBlack);
   FillBox(state_.picMask, x1, y1, x2, y2, kWhite);
+  FillBox(state_.picAlpha, x1, y1, x2, y2, kOpaqueGrey);
   regions_.clearRegion();
 }
 

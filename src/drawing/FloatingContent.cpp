@@ -1,5 +1,6 @@
 #include "drawing/FloatingContent.h"
 
+#include "document/AlphaGreys.h"
 #include "document/Tool.h"
 #include "drawing/Regions.h"
 #include "drawing/Tools.h"
@@ -32,6 +33,12 @@ void mergeContent(const IconImage& content, int x, int y, Surface& image, Surfac
   BitBlt(mask, x, y, width, height, content.mask, 0, 0, RasterOp::SRCAND);
   BitBlt(image, x, y, width, height, content.mask, 0, 0, RasterOp::SRCAND);
   BitBlt(image, x, y, width, height, content.image, 0, 0, RasterOp::SRCINVERT);
+}
+
+void mergeAlpha(const IconImage& content, int x, int y, bool opaque, Surface& alpha) {
+  for (int j = 0; j < content.height(); ++j)
+    for (int i = 0; i < content.width(); ++i)
+      if (opaque || content.mask.GetPixel(i, j) == kBlack) alpha.SetPixelV(x + i, y + j, greyOf(content.alphaAt(i, j)));
 }
 
 void placeContent(Tools& tools, Regions& regions, IconImage content, bool opaque) {

@@ -17,6 +17,10 @@ IconImage opaqueContentOf(const Surface& picture);
 // Draws content over image and Mask, its upper left corner at the pixel (x, y). Parts outside are left out.
 void mergeContent(const IconImage& content, int x, int y, Surface& image, Surface& mask);
 
+// The same for alpha values as greys: painted pixels of the content bring theirs, or are opaque without alpha values.
+// Opaque content also brings those of its transparent pixels.
+void mergeAlpha(const IconImage& content, int x, int y, bool opaque, Surface& alpha);
+
 // Ends the region that there is and makes the content a floating one at the upper left corner of the Current Icon, with
 // the Region tool selected. Opaque content covers what is beneath it, transparent pixels included.
 void placeContent(Tools& tools, Regions& regions, IconImage content, bool opaque);

@@ -1,5 +1,6 @@
 #include "drawing/IconTransforms.h"
 
+#include "document/AlphaGreys.h"
 #include "drawing/RotateSurface.h"
 #include "platform/gdi/RasterOps.h"
 #include "platform/gdi/Stretch.h"
@@ -38,8 +39,13 @@ Surface rightTurn(const Surface& source) {
   return target;
 }
 
+template <class Transform>
+AlphaMatrix transformedAlpha(const IconImage& icon, const Transform& transform) {
+  return icon.hasAlphaValues() ? alphaOf(transform(greysOf(icon.alpha))) : AlphaMatrix();
+}
+
 IconImage transformed(const IconImage& icon, Surface (*transform)(const Surface& source)) {
-  return {transform(icon.image), transform(icon.mask), icon.alpha};
+  return {transform(icon.image), transform(icon.mask), transformedAlpha(icon, transform)};
 }
 
 // The work Surface has the width of the diagonal, rounded to the nearest pixel, and the offset is truncated, so that
@@ -67,7 +73,9 @@ bool isWholeTurn(double angleDegrees) {
 
 IconImage rotatedIcon(const IconImage& icon, double angleDegrees) {
   if (isWholeTurn(angleDegrees)) return icon;
-  return {rotated(icon.image, angleDegrees, kBlack), rotated(icon.mask, angleDegrees, kWhite), icon.alpha};
+  const auto rotatedGreys = [angleDegrees](const Surface& greys) { return rotated(greys, angleDegrees, kOpaqueGrey); };
+  return {rotated(icon.image, angleDegrees, kBlack), rotated(icon.mask, angleDegrees, kWhite),
+          transformedAlpha(icon, rotatedGreys)};
 }
 
 }  // namespace gp
