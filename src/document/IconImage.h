@@ -22,6 +22,13 @@ struct IconImage {
   std::uint8_t alphaAt(int x, int y) const { return hasAlphaValues() ? alpha.at(x, y) : kOpaqueAlpha; }
 };
 
+// Makes a pixel, which must exist, transparent. If it is painted again, it is opaque.
+inline void erasePixel(IconImage& icon, int x, int y) {
+  icon.image.SetPixelV(x, y, kBlack);
+  icon.mask.SetPixelV(x, y, kWhite);
+  if (icon.hasAlphaValues()) icon.alpha.at(x, y) = kOpaqueAlpha;
+}
+
 // Returns an icon of size x size without an opaque pixel.
 inline IconImage transparentIcon(int size) {
   return {Surface(size, size, kBlack), Surface(size, size, kWhite), AlphaMatrix()};

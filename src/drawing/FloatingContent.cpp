@@ -20,11 +20,18 @@ IconImage opaqueContentOf(const Surface& picture) {
 IconImage contentOf(const Surface& picture, Color transparent) {
   IconImage content = opaqueContentOf(picture);
   for (int y = 0; y < picture.height(); ++y)
-    for (int x = 0; x < picture.width(); ++x) {
-      if (picture.GetPixel(x, y) != transparent) continue;
-      content.image.SetPixelV(x, y, kBlack);
-      content.mask.SetPixelV(x, y, kWhite);
-    }
+    for (int x = 0; x < picture.width(); ++x)
+      if (picture.GetPixel(x, y) == transparent) erasePixel(content, x, y);
+  return content;
+}
+
+IconImage contentWithAlpha(const Surface& picture, const Surface& alpha, bool opaque) {
+  IconImage content = opaqueContentOf(picture);
+  content.alpha = alphaOf(alpha);
+  if (opaque) return content;
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x)
+      if (content.alpha.at(x, y) == 0) erasePixel(content, x, y);
   return content;
 }
 

@@ -14,6 +14,10 @@ IconImage contentOf(const Surface& picture, Color transparent);
 // Returns a picture as content without transparent pixels.
 IconImage opaqueContentOf(const Surface& picture);
 
+// Returns a picture with alpha values, given as greys, as content. Pixels of alpha 0 are transparent, or with `opaque`
+// painted like the others.
+IconImage contentWithAlpha(const Surface& picture, const Surface& alpha, bool opaque);
+
 // Draws content over image and Mask, its upper left corner at the pixel (x, y). Parts outside are left out.
 void mergeContent(const IconImage& content, int x, int y, Surface& image, Surface& mask);
 

@@ -39,23 +39,17 @@ IconImage blockOf(const IconImage& icon, const PixelBox& box) {
   return {blockOf(icon.image, box, kBlack), blockOf(icon.mask, box, kWhite), std::move(alpha)};
 }
 
-void erase(IconImage& icon, int x, int y) {
-  icon.image.SetPixelV(x, y, kBlack);
-  icon.mask.SetPixelV(x, y, kWhite);
-  if (icon.hasAlphaValues()) icon.alpha.at(x, y) = kOpaqueAlpha;
-}
-
 // Makes all other pixels transparent, inverting ones too.
 void keepPaintedPixels(IconImage& icon) {
   for (int y = 0; y < icon.height(); ++y)
     for (int x = 0; x < icon.width(); ++x)
-      if (icon.mask.GetPixel(x, y) != kBlack) erase(icon, x, y);
+      if (icon.mask.GetPixel(x, y) != kBlack) erasePixel(icon, x, y);
 }
 
 void blank(IconImage& icon, const PixelBox& box) {
   for (int y = box.y; y < box.y + box.height; ++y)
     for (int x = box.x; x < box.x + box.width; ++x)
-      if (icon.image.contains(x, y)) erase(icon, x, y);
+      if (icon.image.contains(x, y)) erasePixel(icon, x, y);
 }
 
 }  // namespace
