@@ -1,3 +1,4 @@
+#include "alpha/Alpha.h"
 #include "document/Containers.h"
 #include "document/CurrentIcon.h"
 #include "files/Files.h"
@@ -5,7 +6,6 @@
 #include "files/enquiry/IconProperties.h"
 #include "files/format/IconWriter.h"
 #include "files/saving/CurrentIcon.h"
-#include "alpha/Alpha.h"
 #include "output/Output.h"
 #include "support/Rooms.h"
 
@@ -37,7 +37,7 @@ class EnquiryTest : public testing::Test, protected Rooms {
  protected:
   IconFolder folder;
   Files files{context, document, drawing, dialog, folder.path("gptmp.ico")};
-  Alpha alpha{files.context()};
+  Alpha alpha{files.context(), files.iconSaver};
   Output output{context, files, alpha.commands};
   Enquiry& enquiry = output.enquiry;
   RecordingForms forms{files.context().multiIcon};

@@ -227,6 +227,7 @@ inline const std::vector<CommandNeed> kCommandNeeds{
     {"mnuEnquiryCurrent", {5}, {kNeedsIcon, {[](const Facts& f, int) { return f.discrepant; }, ""}}},
     {"mnuEnquiryCurrent", {9}, {kNeedsIcon, {[](const Facts& f, int) { return f.multiIconFile; }, ""}}},
     {"mnuEnquiryCurrent", {11}, {kNeedsIcon, {[](const Facts& f, int) { return f.cursor; }, ""}}},
+    {"mnuAlphaSub", {0, 1}, {kNeedsIcon}},
     {"mnuOptionsSubGrid", {0, 1, 2, 3, 4, 5, 6}, {}},
     {"mnuOptionsStartScreenSub", {0, 1, 2}, {}},
     {"mnuOptionsSub", {3, 5, 7, 11, 12, 13, 14, 16}, {}},

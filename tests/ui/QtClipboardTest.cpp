@@ -272,7 +272,7 @@ TEST_F(QtClipboardTest, AHugePictureThatCannotBeReadInPartIsRefused) {
 TEST_F(QtClipboardTest, AnIconCopiedHereIsAnOpaqueImageForOthers) {
   Surface icon(16, 16, kGround);
   icon.SetPixelV(2, 3, rgb(10, 20, 30));
-  EXPECT_TRUE(clipboard.setImage(icon));
+  EXPECT_TRUE(clipboard.setImage(icon, Surface()));
   EXPECT_TRUE(clipboard.hasImage());
   const QImage pasted = system().image();
   EXPECT_EQ(pasted.size(), QSize(16, 16));
@@ -286,12 +286,12 @@ TEST_F(QtClipboardTest, AnIconCopiedHereIsAnOpaqueImageForOthers) {
 
 TEST_F(QtClipboardTest, ASurfaceWithoutPixelsIsNotTaken) {
   system().setText("kept");
-  EXPECT_FALSE(clipboard.setImage(Surface(0, 0)));
+  EXPECT_FALSE(clipboard.setImage(Surface(0, 0), Surface()));
   EXPECT_EQ(system().text(), "kept");
 }
 
 TEST_F(QtClipboardTest, ClearLeavesNothing) {
-  clipboard.setImage(Surface(16, 16));
+  clipboard.setImage(Surface(16, 16), Surface());
   clipboard.clear();
   EXPECT_FALSE(clipboard.hasImage());
   EXPECT_TRUE(system().text().isEmpty());
@@ -307,7 +307,7 @@ TEST_F(QtClipboardTest, EachChangeIsReportedAndSeen) {
   system().setText("text");
   EXPECT_EQ(changes, 2);
   EXPECT_FALSE(hadImage);
-  clipboard.setImage(Surface(16, 16));
+  clipboard.setImage(Surface(16, 16), Surface());
   EXPECT_EQ(changes, 3);
   EXPECT_TRUE(hadImage);
 }
