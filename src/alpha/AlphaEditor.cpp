@@ -56,7 +56,7 @@ bool AlphaEditor::isEnabled(AlphaButton button) const {
 }
 
 void AlphaEditor::setValue(int value) {
-  value_ = std::clamp(value, 0, kOpaqueAlpha);
+  value_ = std::clamp<int>(value, 0, kOpaqueAlpha);
   picAlphaValue_ = greyOf(shadeOf(value_));
 }
 
