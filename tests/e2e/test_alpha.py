@@ -140,6 +140,7 @@ def test_the_alpha_screen_loses_nothing_by_accident(session):
     content = icons.fileOf([icons.entryOf(withAlpha(square(), {}), 32)])
     path = desk.openContent('soft.ico', content, SIZE)
     program = desk.program
+    program.answerBox(ALPHA_REMINDER)
     program.menuByKeys('alt+a', 'Return')
     desk.openScreen(EDIT)
     session.keys('ctrl+Right', 'ctrl+Down', 'space', 'Return')
