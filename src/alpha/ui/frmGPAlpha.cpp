@@ -132,8 +132,11 @@ QPushButton* frmGPAlpha::makeButton(int index) {
   auto* button = cmdAlpha_.at(i) = new QPushButton(QLatin1String(kButtonCaptions.at(i)), this);
   button->setObjectName(indexed("cmdAlpha", index));
   button->setAutoDefault(false);
-  connect(button, &QPushButton::clicked, this,
-          [this, index] { editor_.cmdAlpha(static_cast<AlphaButton>(index)), refresh(); });
+  connect(button, &QPushButton::clicked, this, [this, button, index] {
+    editor_.cmdAlpha(static_cast<AlphaButton>(index));
+    refresh();
+    if (!button->isEnabled()) area_->view().setFocus();
+  });
   return button;
 }
 
