@@ -229,6 +229,7 @@ inline const std::vector<CommandNeed> kCommandNeeds{
     {"mnuEnquiryCurrent", {9}, {kNeedsIcon, {[](const Facts& f, int) { return f.multiIconFile; }, ""}}},
     {"mnuEnquiryCurrent", {10}, {kNeedsIcon, {[](const Facts& f, int) { return f.alpha; }, ""}}},
     {"mnuEnquiryCurrent", {11}, {kNeedsIcon, {[](const Facts& f, int) { return f.cursor; }, ""}}},
+    {"mnuAlphaSub", {0, 1}, {kNeedsIcon}},
     {"mnuOptionsSubGrid", {0, 1, 2, 3, 4, 5, 6}, {}},
     {"mnuOptionsStartScreenSub", {0, 1, 2}, {}},
     {"mnuOptionsSub", {3, 5, 7, 11, 12, 13, 14, 16}, {}},

@@ -106,7 +106,6 @@ TEST_F(PreviewCommands, TheToolEndsAndAFloatingRegionIsMergedAsAStepOfUndo) {
 
 TEST_F(PreviewCommands, TheStepsOfUndoAreStillThere) {
   newIcon();
-  click("mnuTools", kPaint);
   paint(3, 3);
   paint(5, 5);
   click("mnuEnquiryCurrent", kColors);
@@ -130,7 +129,6 @@ TEST_F(PreviewCommands, AnotherOpenPanelCloses) {
 
 TEST_F(PreviewCommands, ProceedDoesNothingAndCloseAndEscLeaveTheIconAsItIs) {
   newIcon();
-  click("mnuTools", kPaint);
   paint(3, 3);
   for (const auto& close : {&Shell::cmdCancel, &Shell::escapeKey}) {
     click("mnuEnquiryCurrent", kColors);
