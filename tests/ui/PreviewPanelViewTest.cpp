@@ -137,9 +137,6 @@ TEST_F(PreviewPanelViewTest, KeysOpenTheDialogsAndClose) {
     key(code);
     EXPECT_EQ(around(0), rgb(code % 256, 5, 5));
   }
-  dialogs.colors = {rgb(7, 7, 7)};
-  key(Qt::Key_3, Qt::AltModifier);
-  EXPECT_EQ(around(2), rgb(7, 7, 7));
   key(Qt::Key_Escape);
   EXPECT_EQ(state.screen.mActivePanel, kColorPanel);
   key(Qt::Key_P, Qt::ControlModifier);
