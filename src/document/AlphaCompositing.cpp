@@ -14,8 +14,7 @@ int blendChannel(int channel, int ground, int percent) {
 
 Color blendOver(Color ground, Color color, int alpha) {
   const int percent = alphaPercent(alpha);
-  return rgb(blendChannel(redOf(color), redOf(ground), percent),
-             blendChannel(greenOf(color), greenOf(ground), percent),
+  return rgb(blendChannel(redOf(color), redOf(ground), percent), blendChannel(greenOf(color), greenOf(ground), percent),
              blendChannel(blueOf(color), blueOf(ground), percent));
 }
 
@@ -23,8 +22,7 @@ Color blendOver(Color ground, Color color, int alpha) {
 
 int alphaPercent(int alpha) { return Fix(alpha / kFullAlpha * kFullPercent); }
 
-void composeAlpha(const Surface& mask, const Surface& image, const AlphaMatrix& alpha, Surface& target,
-                  Color ground) {
+void composeAlpha(const Surface& mask, const Surface& image, const AlphaMatrix& alpha, Surface& target, Color ground) {
   for (int y = 0; y < image.height(); ++y) {
     for (int x = 0; x < image.width(); ++x) {
       if (mask.GetPixel(x, y) != kBlack) continue;

@@ -1,5 +1,5 @@
-// The side panel that shows the Current Icon at its own size on three screen colours, which the user chooses. It changes
-// nothing. The colours last for the session.
+// The side panel that shows the Current Icon at its own size on three screen colours, which the user chooses. It
+// changes nothing. The colours last for the session.
 #pragma once
 
 #include "document/Context.h"

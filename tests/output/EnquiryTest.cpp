@@ -1,3 +1,4 @@
+#include "alpha/Alpha.h"
 #include "document/Containers.h"
 #include "document/CurrentIcon.h"
 #include "files/Files.h"
@@ -5,7 +6,6 @@
 #include "files/enquiry/IconProperties.h"
 #include "files/format/IconWriter.h"
 #include "files/saving/CurrentIcon.h"
-#include "alpha/Alpha.h"
 #include "output/Output.h"
 #include "support/Rooms.h"
 

@@ -1,10 +1,9 @@
 // The panel that shows the icon on three screen colours: what its pictures are made of, and what they follow.
-#include "output/PreviewPanel.h"
-
 #include "alpha/Alpha.h"
 #include "document/Containers.h"
 #include "files/Files.h"
 #include "output/Output.h"
+#include "output/PreviewPanel.h"
 #include "support/Rooms.h"
 
 #include <gtest/gtest.h>
@@ -101,9 +100,8 @@ TEST_F(PreviewPanelTest, AlphaIsBlendedWithEachScreenColorByItsWholePercent) {
   panel.open(PreviewForm::AlphaEffects);
   choose(0, rgb(0, 50, 255));
   // 100, 99, 50, 1 and three times 0 percent, each channel without its fraction.
-  EXPECT_EQ(row(0, 8),
-            (std::vector<Color>{rgb(200, 100, 0), rgb(198, 99, 2), rgb(100, 75, 127), rgb(2, 50, 252), rgb(0, 50, 255),
-                                rgb(0, 50, 255), rgb(0, 50, 255), rgb(0, 50, 255)}));
+  EXPECT_EQ(row(0, 8), (std::vector<Color>{rgb(200, 100, 0), rgb(198, 99, 2), rgb(100, 75, 127), rgb(2, 50, 252),
+                                           rgb(0, 50, 255), rgb(0, 50, 255), rgb(0, 50, 255), rgb(0, 50, 255)}));
   EXPECT_EQ(row(1, 4), (std::vector<Color>{rgb(200, 100, 0), rgb(199, 100, 1), rgb(196, 146, 96), rgb(192, 191, 190)}));
   EXPECT_EQ(row(2, 3), (std::vector<Color>{rgb(200, 100, 0), rgb(198, 99, 0), rgb(116, 66, 16)}));
 }

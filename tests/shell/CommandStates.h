@@ -243,10 +243,8 @@ struct PopUpEntry {
   const char* control;
   int commandIndex;
 };
-inline constexpr std::array<PopUpEntry, 4> kPopUpEntries{{{0, "mnuFileSub", 7},
-                                                          {3, "mnuEnquiryCurrent", 9},
-                                                          {5, "mnuEnquiryCurrent", 10},
-                                                          {7, "mnuEnquiryCurrent", 11}}};
+inline constexpr std::array<PopUpEntry, 4> kPopUpEntries{
+    {{0, "mnuFileSub", 7}, {3, "mnuEnquiryCurrent", 9}, {5, "mnuEnquiryCurrent", 10}, {7, "mnuEnquiryCurrent", 11}}};
 
 inline const CommandNeed* findNeed(const Command& row) {
   const auto found = std::ranges::find_if(kCommandNeeds, [&row](const CommandNeed& need) {

@@ -46,11 +46,10 @@ TEST_F(PreviewCommands, EachEntryOpensThePanelInItsForm) {
     int index;
     PreviewForm form;
   };
-  for (const Entry& entry :
-       {Entry{"mnuEnquiryCurrent", kColors, PreviewForm::ScreenColors},
-        {"mnuEnquiryCurrent", kAlphaEffects, PreviewForm::AlphaEffects},
-        {"mnuEnquiryCurrent", kColors, PreviewForm::ScreenColors},
-        {"mnuPopUpSub", kPopUpAlphaEffects, PreviewForm::AlphaEffects}}) {
+  for (const Entry& entry : {Entry{"mnuEnquiryCurrent", kColors, PreviewForm::ScreenColors},
+                             {"mnuEnquiryCurrent", kAlphaEffects, PreviewForm::AlphaEffects},
+                             {"mnuEnquiryCurrent", kColors, PreviewForm::ScreenColors},
+                             {"mnuPopUpSub", kPopUpAlphaEffects, PreviewForm::AlphaEffects}}) {
     ASSERT_TRUE(enabled(entry.control, entry.index));
     click(entry.control, entry.index);
     EXPECT_EQ(panel(), 21);

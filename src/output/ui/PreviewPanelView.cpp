@@ -43,8 +43,9 @@ void PreviewPanelView::addPictures() {
 
 void PreviewPanelView::addPicture(QGridLayout* grid, int i) {
   QWidget* place = grid->parentWidget();
-  auto* picture = new ScreenColorView(place, indexed("picPreviewDiffScreenColors", i),
-                                      QString("Icon on screen color %1").arg(i + 1), panel_.picture(i), panel_.color(i));
+  auto* picture =
+      new ScreenColorView(place, indexed("picPreviewDiffScreenColors", i),
+                          QString("Icon on screen color %1").arg(i + 1), panel_.picture(i), panel_.color(i));
   auto* button = new ColorButton(place, indexed("cmdPreviewDiffScreenColors", i), kButtonTip, panel_.color(i));
   button->setAccessibleName(QString("Screen color %1").arg(i + 1));
   connect(button, &QAbstractButton::clicked, this, [this, i] { panel_.chooseColor(i); });

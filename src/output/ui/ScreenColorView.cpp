@@ -24,7 +24,8 @@ void ScreenColorView::refresh() {
 }
 
 QString ScreenColorView::accessibleValue() const {
-  const QString size = picture_.width() == 0 ? "No icon" : QString("%1 x %2").arg(picture_.width()).arg(picture_.height());
+  const QString size =
+      picture_.width() == 0 ? "No icon" : QString("%1 x %2").arg(picture_.width()).arg(picture_.height());
   return size + ", " + colorText(color_);
 }
 
