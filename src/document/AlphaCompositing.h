@@ -1,4 +1,4 @@
-// Composes an icon with alpha over the program's ground, for saving it as a bitmap and for the alpha views.
+// Composes an icon with alpha over a ground: for saving it as a bitmap, for the alpha views and for previews.
 #pragma once
 
 #include "document/AlphaMatrix.h"
@@ -11,6 +11,7 @@ int alphaPercent(int alpha);
 
 // Blends each opaque pixel (black in `mask`) of `image` over the ground by its alpha value and writes it to `target`.
 // Other pixels of `target` do not change. All four must have the same size.
-void composeAlpha(const Surface& mask, const Surface& image, const AlphaMatrix& alpha, Surface& target);
+void composeAlpha(const Surface& mask, const Surface& image, const AlphaMatrix& alpha, Surface& target,
+                  Color ground = kGround);
 
 }  // namespace gp

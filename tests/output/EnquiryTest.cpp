@@ -1,3 +1,4 @@
+#include "alpha/Alpha.h"
 #include "document/Containers.h"
 #include "document/CurrentIcon.h"
 #include "files/Files.h"
@@ -5,7 +6,6 @@
 #include "files/enquiry/IconProperties.h"
 #include "files/format/IconWriter.h"
 #include "files/saving/CurrentIcon.h"
-#include "alpha/Alpha.h"
 #include "output/Output.h"
 #include "support/Rooms.h"
 
@@ -250,6 +250,16 @@ TEST_F(EnquiryTest, TheBytesAreThoseOfTheFileThatASaveWrites) {
         boxes.expectTold(std::to_string(file.size()) + " bytes when saved to a single-icon file.", BoxIcon::None);
         enquiry.showByteCount();
       }
+}
+
+// A cursor cannot be saved as the icon with alpha whose bytes are stated.
+TEST_F(EnquiryTest, ACursorWithAlphaCountsAsAnIconWithAlpha) {
+  makeIcon("arrow.cur");
+  record().setDepth({kTrueColor, 32});
+  record().hasAlpha = true;
+  record().isCursor = true;
+  boxes.expectTold("4286 bytes when saved to a single-icon file.", BoxIcon::None);
+  enquiry.showByteCount();
 }
 
 TEST_F(EnquiryTest, ATrueColorIconOf32PixelsHas3262Bytes) {
