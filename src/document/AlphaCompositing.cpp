@@ -12,17 +12,29 @@ int blendChannel(int channel, int ground, int percent) {
   return divide((kFullPercent - percent) * ground + percent * channel, kFullPercent);
 }
 
+<<<<<<< HEAD
 Color blendOver(Color ground, Color color, int alpha) {
+=======
+}  // namespace
+
+int alphaPercent(int alpha) { return Fix(alpha / kFullAlpha * kFullPercent); }
+
+Color blendOverGround(Color color, int alpha) {
+>>>>>>> ae
   const int percent = alphaPercent(alpha);
   return rgb(blendChannel(redOf(color), redOf(ground), percent), blendChannel(greenOf(color), greenOf(ground), percent),
              blendChannel(blueOf(color), blueOf(ground), percent));
 }
 
+<<<<<<< HEAD
 }  // namespace
 
 int alphaPercent(int alpha) { return Fix(alpha / kFullAlpha * kFullPercent); }
 
 void composeAlpha(const Surface& mask, const Surface& image, const AlphaMatrix& alpha, Surface& target, Color ground) {
+=======
+void composeAlpha(const Surface& mask, const Surface& image, const AlphaMatrix& alpha, Surface& target) {
+>>>>>>> ae
   for (int y = 0; y < image.height(); ++y) {
     for (int x = 0; x < image.width(); ++x) {
       if (mask.GetPixel(x, y) != kBlack) continue;
