@@ -14,16 +14,6 @@
 namespace gp {
 namespace {
 
-// As a desktop shows an icon with alpha: exact, where blendOverGround() goes by whole percents.
-int blendChannel(int ground, int channel, int alpha) {
-  return (ground * (kOpaqueAlpha - alpha) + channel * alpha + kOpaqueAlpha / 2) / kOpaqueAlpha;
-}
-
-Color blendOver(Color ground, Color color, int alpha) {
-  return rgb(blendChannel(redOf(ground), redOf(color), alpha), blendChannel(greenOf(ground), greenOf(color), alpha),
-             blendChannel(blueOf(ground), blueOf(color), alpha));
-}
-
 PixelBox withPixel(const PixelBox& box, int x, int y) {
   if (box.isEmpty()) return {x, y, x + 1, y + 1};
   return {std::min(box.left, x), std::min(box.top, y), std::max(box.right, x + 1), std::max(box.bottom, y + 1)};
@@ -61,7 +51,7 @@ void AlphaCanvas::showPixel(int x, int y) {
   const Color color = icon_.image.GetPixel(x, y);
   const int alpha = icon_.alpha.at(x, y);
   picMaskAlpha_.SetPixelV(x, y, greyOf(shadeOf(alpha)));
-  picIconAlpha_.SetPixelV(x, y, blendOverGround(color, alpha));
+  picIconAlpha_.SetPixelV(x, y, blendOver(kGround, color, alpha));
   for (std::size_t i = 0; i < kGrounds.size(); ++i)
     onGrounds_.at(i).SetPixelV(x, y, blendOver(kGrounds.at(i), color, alpha));
   magnifyPixel(x, y);

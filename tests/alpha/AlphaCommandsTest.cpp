@@ -1,5 +1,6 @@
 // The commands of the Alpha menu: their questions, and what each outcome of the screen makes of the Current Icon.
 #include "alpha/AlphaFixture.h"
+#include "colour/ColorCount.h"
 #include "document/Announcements.h"
 #include "document/Messages.h"
 #include "platform/files/FileLock.h"
@@ -278,6 +279,20 @@ TEST_F(AlphaCommandsTest, APaletteIsNotOfferedForManyColors) {
   given(anyEntry(48, 32));
   convert();
   EXPECT_EQ(record().depth(), (ColorDepth{kTrueColor, 24}));
+}
+
+// 255 colours without black and white count as 256; with these two, a palette has no room for them.
+TEST_F(AlphaCommandsTest, APaletteThatAFileCannotHaveIsNotOffered) {
+  Picture picture = anyPicture(16, 32);
+  picture.color = [](int x, int y) { return Rgb{1 + std::min(16 * y + x, 254), 7, 9, 255}; };
+  picture.transparent = [](int, int) { return false; };
+  given(entryOf(picture));
+  int colors = 0;
+  GetColorBitCount_Image(state.picImage, colors);
+  ASSERT_EQ(colors, 256);
+  convert();
+  EXPECT_EQ(record().depth(), (ColorDepth{kTrueColor, 24}));
+  EXPECT_TRUE(samePixels(decode(bytesOf(target)).image, state.picImage));
 }
 
 TEST_F(AlphaCommandsTest, AnIconThatIsReplacedDuringThePaletteQuestionIsNotConverted) {

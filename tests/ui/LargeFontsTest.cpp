@@ -14,6 +14,8 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include <algorithm>
+
 namespace gp {
 namespace {
 
@@ -37,7 +39,7 @@ class LargeFonts : public test::FormFixture {
       {"gradient", "mnuEffectsSub", 4},     {"brightness", "mnuEffectsSub", 6},  {"sharpen", "mnuEffectsSub", 7},
       {"antialias", "mnuEffectsSub", 8},    {"theme", "mnuEffectsSub", 9},       {"cast", "mnuEffectsSub", 16},
       {"swap", "mnuEffectsSub", 20},        {"blend", "mnuEffectsSub", 23},      {"texture", "mnuEffectsSub", 24},
-      {"resize", "mnuEffectsSub1", 2},      {"text", "mnuEffectsSub", 0}};
+      {"resize", "mnuEffectsSub1", 2},      {"text", "mnuEffectsSub", 0},        {"preview", "mnuEnquiryCurrent", 7}};
 
   void trigger(const char* control, int index) {
     find<QAction>(QString("%1(%2)").arg(control).arg(index))->trigger();
@@ -106,6 +108,35 @@ TEST_F(LargeFonts, EachPanelShowsItsTextsWhole) {
       EXPECT_FALSE(area->verticalScrollBar()->isVisible());
       EXPECT_LE(area->widget()->minimumSizeHint().width(), area->viewport()->width());
     }
+  });
+}
+
+TEST_F(LargeFonts, ThePreviewWithAlphaEffectsShowsItsTextsWhole) {
+  inEachFontAndTheme([this](int points, const char* theme) {
+    start();
+    IconImage icon = transparentIcon(48);
+    icon.alpha = AlphaMatrix(48, 48, 255);
+    for (int y = 0; y < 48; ++y)
+      for (int x = 0; x < 48; ++x) {
+        const int distance = (x - 24) * (x - 24) + (y - 24) * (y - 24);
+        if (distance >= 576) continue;
+        icon.image.SetPixelV(x, y, rgb(220, 60 + x * 2, 30));
+        icon.mask.SetPixelV(x, y, kBlack);
+        icon.alpha.at(x, y) = static_cast<std::uint8_t>(std::min(255, (576 - distance) * 2 / 3 + 1));
+      }
+    IconContainerRec record = NewRecord();
+    record.setDepth({kTrueColor, 32});
+    record.setHeaderDepth({kTrueColor, 32});
+    record.hasAlpha = true;
+    record.neverSaved = false;
+    shell.document().arrival.arrive(icon, record);
+    settle();
+    trigger("mnuEnquiryCurrent", 10);
+    ASSERT_EQ(state.screen.mActivePanel, 21);
+    look("preview-alpha", points, theme);
+    const auto* area = find("fraPanel(21)")->findChild<QScrollArea*>();
+    EXPECT_FALSE(area->verticalScrollBar()->isVisible());
+    EXPECT_LE(area->widget()->minimumSizeHint().width(), area->viewport()->width());
   });
 }
 
