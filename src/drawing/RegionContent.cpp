@@ -16,24 +16,24 @@ namespace gp {
 
 namespace {
 
-struct PixelBox {
+struct Block {
   int x, y, width, height;
 };
 
-PixelBox pixelBoxOf(const DrawRect& pixels) {
+Block blockAt(const DrawRect& pixels) {
   const int x = roundToInteger(pixels.x1);
   const int y = roundToInteger(pixels.y1);
   return {x, y, roundToInteger(pixels.x2) - x + 1, roundToInteger(pixels.y2) - y + 1};
 }
 
-Surface blockOf(const Surface& surface, const PixelBox& box, Color outside) {
+Surface blockOf(const Surface& surface, const Block& box, Color outside) {
   Surface block(box.width, box.height, outside);
   BitBlt(block, 0, 0, box.width, box.height, surface, box.x, box.y, RasterOp::SRCCOPY);
   return block;
 }
 
 // Returns a part of an icon. Pixels outside the icon are transparent.
-IconImage blockOf(const IconImage& icon, const PixelBox& box) {
+IconImage blockOf(const IconImage& icon, const Block& box) {
   AlphaMatrix alpha;
   if (icon.hasAlphaValues()) alpha = alphaOf(blockOf(greysOf(icon.alpha), box, kOpaqueGrey));
   return {blockOf(icon.image, box, kBlack), blockOf(icon.mask, box, kWhite), std::move(alpha)};
@@ -46,7 +46,7 @@ void keepPaintedPixels(IconImage& icon) {
       if (icon.mask.GetPixel(x, y) != kBlack) erasePixel(icon, x, y);
 }
 
-void blank(IconImage& icon, const PixelBox& box) {
+void blank(IconImage& icon, const Block& box) {
   for (int y = box.y; y < box.y + box.height; ++y)
     for (int x = box.x; x < box.x + box.width; ++x)
       if (icon.image.contains(x, y)) erasePixel(icon, x, y);
@@ -67,7 +67,7 @@ void Regions::keepIconBeneath() {
 void Regions::liftRegion(bool blankSource) {
   regionToPixels();
   keepIconBeneath();
-  const PixelBox box = pixelBoxOf(draw_.draw);
+  const Block box = blockAt(draw_.draw);
   content_ = blockOf(beneath_, box);
   if (blankSource) keepPaintedPixels(content_);
   content_.image.makePersistent();

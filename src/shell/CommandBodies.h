@@ -38,6 +38,7 @@ inline ResizePanel& ownerIn(Shell& shell, std::type_identity<ResizePanel>) {
   return shell.effects().panel<ResizePanel>();
 }
 inline Enquiry& ownerIn(Shell& shell, std::type_identity<Enquiry>) { return shell.output().enquiry; }
+inline PreviewPanel& ownerIn(Shell& shell, std::type_identity<PreviewPanel>) { return shell.output().previewPanel; }
 
 template <class Method>
 struct OwnerOf;

@@ -63,7 +63,7 @@ constexpr Command kCommands[] = {
     {"mnuPopUpSub", 0, "mnuPopUp", "&Open Icon File ....", "", "", needs::always, Commits::Yes, nullptr, call<&IconFiles::doMnuFileOpenIcon>},
     {"mnuPopUpSub", 1, "mnuPopUp", "&Display All Icons In Folder ....", "", "", needs::always, Commits::No, nullptr, nullptr},
     {"mnuPopUpSub", 3, "mnuPopUp", "&Show Icons In Current Multi-Icon File ....", "", "", needs::multiIconFile, Commits::Yes, nullptr, call<&Enquiry::showIconsInFile>},
-    {"mnuPopUpSub", 5, "mnuPopUp", "&View Current Icon With Alpha Effects", "", "", needs::alpha, Commits::No, nullptr, nullptr},
+    {"mnuPopUpSub", 5, "mnuPopUp", "&View Current Icon With Alpha Effects", "", "", needs::alpha, Commits::No, nullptr, call<&PreviewPanel::open, PreviewForm::AlphaEffects>},
     {"mnuPopUpSub", 7, "mnuPopUp", "&Reveal Hotspot Of Original Cursor", "", "", needs::cursor, Commits::No, nullptr, call<&Enquiry::revealHotspot>},
     // Toolbox
     {"mnuTools", 0, "mnuToolBox", "&Clear Tools", "F2", "clear-tools", needs::iconQuietly, Commits::No, nullptr, call<&Tools::clearFromMenu>},
@@ -142,9 +142,9 @@ constexpr Command kCommands[] = {
     {"mnuEnquiryCurrent", 2, "mnuEnquiry", "Enquiry - &Number Of Colors Used", "", "", needs::icon, Commits::No, nullptr, call<&Enquiry::showColorCount>},
     {"mnuEnquiryCurrent", 3, "mnuEnquiry", "Enquiry - Number Of B&ytes", "", "", needs::icon, Commits::No, nullptr, call<&Enquiry::showByteCount>},
     {"mnuEnquiryCurrent", 5, "mnuEnquiry", "Enquiry - &Original Header Entry  (If Diff To Image Data)", "", "", needs::discrepancy, Commits::No, nullptr, call<&Enquiry::showOriginalHeaders>},
-    {"mnuEnquiryCurrent", 7, "mnuEnquiry", "&Preview With Different Screen Colors ....", "Ctrl+P", "", needs::icon, Commits::No, nullptr, nullptr},
+    {"mnuEnquiryCurrent", 7, "mnuEnquiry", "&Preview With Different Screen Colors ....", "Ctrl+P", "", needs::icon, Commits::No, nullptr, call<&PreviewPanel::open, PreviewForm::ScreenColors>},
     {"mnuEnquiryCurrent", 9, "mnuEnquiry", "&Show Icons In Current Multi-Icon File ....", "Ctrl+M", "", needs::multiIconFile, Commits::Yes, nullptr, call<&Enquiry::showIconsInFile>},
-    {"mnuEnquiryCurrent", 10, "mnuEnquiry", "&View Current Icon With Alpha Effects", "Ctrl+A", "", needs::alpha, Commits::No, nullptr, nullptr},
+    {"mnuEnquiryCurrent", 10, "mnuEnquiry", "&View Current Icon With Alpha Effects", "Ctrl+A", "", needs::alpha, Commits::No, nullptr, call<&PreviewPanel::open, PreviewForm::AlphaEffects>},
     {"mnuEnquiryCurrent", 11, "mnuEnquiry", "&Reveal Hotspot Of Original Cursor", "Ctrl+H", "", needs::cursor, Commits::No, nullptr, call<&Enquiry::revealHotspot>},
     // Options
     {"mnuOptionsSub", 0, "mnuOptions", "&Grid In Editing Area", "", "", needs::always, Commits::No, nullptr, nullptr},

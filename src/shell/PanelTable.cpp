@@ -36,7 +36,7 @@ constexpr PanelRow kPanels[] = {
     {18, "Resize current icon", applyEffect},
     {19, "Reduce number of colors", applyEffect},
     {20, "Search && extract from exe files", nullptr},
-    {21, "Preview - different screen colors", nullptr},
+    {PreviewPanel::kNumber, PreviewPanel::kCaption, nullptr},
 };
 
 }  // namespace

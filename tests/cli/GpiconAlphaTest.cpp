@@ -4,6 +4,8 @@
 #include "cli/EntryLoading.h"
 #include "cli/WrittenPicture.h"
 
+#include <set>
+
 namespace gp::test {
 namespace {
 
@@ -135,6 +137,22 @@ TEST_F(GpiconAlpha, InfoStatesDepthsColorsAndBytes) {
                           "\"presentColors\":-1,\"presentBits\":32,\"colorsUsed\":"),
             std::string::npos)
       << json.out;
+}
+
+TEST_F(GpiconAlpha, InfoCountsTheColorsWithTheBlackOfTransparentPixels) {
+  for (const int bits : {1, 4, 8, 24}) {
+    const std::string input = icon("in.ico", 16, bits);
+    IconDefect defect = IconDefect::None;
+    const auto loaded = cli::loadEntry(*readIconFile(input), 0, input, defect);
+    ASSERT_TRUE(loaded);
+    std::set<Color> colors;
+    for (int y = 0; y < 16; ++y)
+      for (int x = 0; x < 16; ++x)
+        colors.insert(loaded->icon.mask.GetPixel(x, y) == kBlack ? loaded->icon.image.GetPixel(x, y) : kBlack);
+    const std::string json = run({"info", "--json", input, "0"}).out;
+    EXPECT_NE(json.find("\"colorsUsed\":" + std::to_string(colors.size()) + ",\"bytesWhenSaved\":"), std::string::npos)
+        << json;
+  }
 }
 
 TEST_F(GpiconAlpha, TheBytesOfInfoAreThoseThatResaveWrites) {

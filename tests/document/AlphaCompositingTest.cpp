@@ -23,6 +23,13 @@ TEST(AlphaCompositing, PercentAndChannelAreBothTruncated) {
   EXPECT_EQ(blended(0, 254), 1);      // 99 percent: 1.92
 }
 
+TEST(AlphaCompositing, EachChannelIsBlendedOverThatOfTheGround) {
+  const Surface image(1, 1, rgb(200, 100, 0)), mask(1, 1, kBlack);
+  Surface target(1, 1, kGround);
+  composeAlpha(mask, image, AlphaMatrix(1, 1, 128), target, rgb(0, 51, 255));
+  EXPECT_EQ(target.GetPixel(0, 0), rgb(100, 75, 127));
+}
+
 TEST(AlphaCompositing, TransparentPixelsOfTheTargetStay) {
   Surface image(2, 1, rgb(1, 2, 3)), mask(2, 1, kBlack), target(2, 1, 0x445566);
   mask.SetPixelV(1, 0, kWhite);

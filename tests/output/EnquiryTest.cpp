@@ -252,6 +252,16 @@ TEST_F(EnquiryTest, TheBytesAreThoseOfTheFileThatASaveWrites) {
       }
 }
 
+// A cursor cannot be saved as the icon with alpha whose bytes are stated.
+TEST_F(EnquiryTest, ACursorWithAlphaCountsAsAnIconWithAlpha) {
+  makeIcon("arrow.cur");
+  record().setDepth({kTrueColor, 32});
+  record().hasAlpha = true;
+  record().isCursor = true;
+  boxes.expectTold("4286 bytes when saved to a single-icon file.", BoxIcon::None);
+  enquiry.showByteCount();
+}
+
 TEST_F(EnquiryTest, ATrueColorIconOf32PixelsHas3262Bytes) {
   makeIcon("app.ico");
   record().setDepth({kTrueColor, 24});

@@ -195,6 +195,7 @@ inline const std::vector<CommandNeed> kCommandNeeds{
     {"mnuFileExit", {kNoIndex}, {}},
     {"mnuPopUpSub", {0}, {}},
     {"mnuPopUpSub", {3}, {kNeedsIcon, {[](const Facts& f, int) { return f.multiIconFile; }, ""}}},
+    {"mnuPopUpSub", {5}, {kNeedsIcon, {[](const Facts& f, int) { return f.alpha; }, ""}}},
     {"mnuPopUpSub", {7}, {kNeedsIcon, {[](const Facts& f, int) { return f.cursor; }, ""}}},
     {"mnuTools", {0}, {{[](const Facts& f, int) { return f.icon; }, ""}}},
     {"mnuTools", {2}, {kNeedsIcon, {[](const Facts& f, int) { return f.largeChart; }, ""}}},
@@ -223,9 +224,10 @@ inline const std::vector<CommandNeed> kCommandNeeds{
     {"mnuEffectsSub3", {0, 1, 2}, {kNeedsIcon}},
     {"mnuBrushSize", {0, 1, 2, 3, 4, 5}, {}},
     {"mnuPaletteSub", {0, 1, 2, 4, 5}, {}},
-    {"mnuEnquiryCurrent", {0, 2, 3}, {kNeedsIcon}},
+    {"mnuEnquiryCurrent", {0, 2, 3, 7}, {kNeedsIcon}},
     {"mnuEnquiryCurrent", {5}, {kNeedsIcon, {[](const Facts& f, int) { return f.discrepant; }, ""}}},
     {"mnuEnquiryCurrent", {9}, {kNeedsIcon, {[](const Facts& f, int) { return f.multiIconFile; }, ""}}},
+    {"mnuEnquiryCurrent", {10}, {kNeedsIcon, {[](const Facts& f, int) { return f.alpha; }, ""}}},
     {"mnuEnquiryCurrent", {11}, {kNeedsIcon, {[](const Facts& f, int) { return f.cursor; }, ""}}},
     {"mnuAlphaSub", {0, 1}, {kNeedsIcon}},
     {"mnuOptionsSubGrid", {0, 1, 2, 3, 4, 5, 6}, {}},
@@ -241,8 +243,8 @@ struct PopUpEntry {
   const char* control;
   int commandIndex;
 };
-inline constexpr std::array<PopUpEntry, 3> kPopUpEntries{
-    {{0, "mnuFileSub", 7}, {3, "mnuEnquiryCurrent", 9}, {7, "mnuEnquiryCurrent", 11}}};
+inline constexpr std::array<PopUpEntry, 4> kPopUpEntries{
+    {{0, "mnuFileSub", 7}, {3, "mnuEnquiryCurrent", 9}, {5, "mnuEnquiryCurrent", 10}, {7, "mnuEnquiryCurrent", 11}}};
 
 inline const CommandNeed* findNeed(const Command& row) {
   const auto found = std::ranges::find_if(kCommandNeeds, [&row](const CommandNeed& need) {

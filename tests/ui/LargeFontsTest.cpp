@@ -4,6 +4,7 @@
 #include "files/ui/frmGPHeaderDiff.h"
 #include "shell/ui/frmDirDialog.h"
 #include "shell/ui/frmGPAbout.h"
+#include "ui/AlphaFormFixture.h"
 #include "ui/FormFixture.h"
 #include "ui/IconFiles.h"
 #include "ui/MultiIconFormFixture.h"
@@ -12,6 +13,8 @@
 
 #include <QScrollArea>
 #include <QScrollBar>
+
+#include <algorithm>
 
 namespace gp {
 namespace {
@@ -36,7 +39,7 @@ class LargeFonts : public test::FormFixture {
       {"gradient", "mnuEffectsSub", 4},     {"brightness", "mnuEffectsSub", 6},  {"sharpen", "mnuEffectsSub", 7},
       {"antialias", "mnuEffectsSub", 8},    {"theme", "mnuEffectsSub", 9},       {"cast", "mnuEffectsSub", 16},
       {"swap", "mnuEffectsSub", 20},        {"blend", "mnuEffectsSub", 23},      {"texture", "mnuEffectsSub", 24},
-      {"resize", "mnuEffectsSub1", 2},      {"text", "mnuEffectsSub", 0}};
+      {"resize", "mnuEffectsSub1", 2},      {"text", "mnuEffectsSub", 0},        {"preview", "mnuEnquiryCurrent", 7}};
 
   void trigger(const char* control, int index) {
     find<QAction>(QString("%1(%2)").arg(control).arg(index))->trigger();
@@ -108,6 +111,35 @@ TEST_F(LargeFonts, EachPanelShowsItsTextsWhole) {
   });
 }
 
+TEST_F(LargeFonts, ThePreviewWithAlphaEffectsShowsItsTextsWhole) {
+  inEachFontAndTheme([this](int points, const char* theme) {
+    start();
+    IconImage icon = transparentIcon(48);
+    icon.alpha = AlphaMatrix(48, 48, 255);
+    for (int y = 0; y < 48; ++y)
+      for (int x = 0; x < 48; ++x) {
+        const int distance = (x - 24) * (x - 24) + (y - 24) * (y - 24);
+        if (distance >= 576) continue;
+        icon.image.SetPixelV(x, y, rgb(220, 60 + x * 2, 30));
+        icon.mask.SetPixelV(x, y, kBlack);
+        icon.alpha.at(x, y) = static_cast<std::uint8_t>(std::min(255, (576 - distance) * 2 / 3 + 1));
+      }
+    IconContainerRec record = NewRecord();
+    record.setDepth({kTrueColor, 32});
+    record.setHeaderDepth({kTrueColor, 32});
+    record.hasAlpha = true;
+    record.neverSaved = false;
+    shell.document().arrival.arrive(icon, record);
+    settle();
+    trigger("mnuEnquiryCurrent", 10);
+    ASSERT_EQ(state.screen.mActivePanel, 21);
+    look("preview-alpha", points, theme);
+    const auto* area = find("fraPanel(21)")->findChild<QScrollArea*>();
+    EXPECT_FALSE(area->verticalScrollBar()->isVisible());
+    EXPECT_LE(area->widget()->minimumSizeHint().width(), area->viewport()->width());
+  });
+}
+
 // With a font as most desktops have it, the form is as small as it always was.
 TEST_F(LargeFonts, TheSmallestSizeGrowsWithTheFontOnly) {
   int width = 0, height = 0;
@@ -165,6 +197,22 @@ TEST_F(LargeFontsOfIconForms, TheBrowserAndTheHeadersShowTheirTextsWhole) {
     settle();
     expectAllTextsAreWhole(headers);
     test::savePicture(headers, QString("font-%1-headers").arg(points));
+  }
+}
+
+class LargeFontsOfAlpha : public test::AlphaFormFixture {};
+
+TEST_F(LargeFontsOfAlpha, TheAlphaScreenShowsItsTextsWholeAndFitsASmallScreen) {
+  constexpr QSize kSmallScreen(800, 600);
+  constexpr int kTitleBar = 30;
+  for (const int points : kPoints) {
+    SCOPED_TRACE(points);
+    const FontOf font(points);
+    openWithAlpha();
+    expectAllTextsAreWhole(*form);
+    EXPECT_LE(form->width(), kSmallScreen.width());
+    EXPECT_LE(form->height() + kTitleBar, kSmallScreen.height());
+    test::saveInBothThemes(QString("font-%1-alpha").arg(points), [&] { return make(test::discIcon(48, true)); });
   }
 }
 

@@ -7,6 +7,7 @@
 #include "effects/ui/EffectPanelView.h"
 #include "effects/ui/EffectViews.h"
 #include "files/ui/CursorPanelView.h"
+#include "output/ui/PreviewPanelView.h"
 #include "shell/PanelTable.h"
 #include "shell/Shell.h"
 
@@ -50,6 +51,17 @@ QWidget* makeCursorPanel(QWidget* parent, Shell& shell, QtDisplay& display) {
   return panel;
 }
 
+QWidget* makePreviewPanel(QWidget* parent, Shell& shell, QtDisplay& display) {
+  PreviewPanel& preview = shell.output().previewPanel;
+  auto* panel = new PreviewPanelView(parent, preview);
+  QObject::connect(panel, &PreviewPanelView::editAlphaRequested, panel, [&shell, &preview] {
+    shell.guarded("cmdEditAlphaChannel_Click", [&preview] { preview.editAlphaChannel(); });
+  });
+  display.listen(DisplayPart::IconsPanel, panel, [panel] { panel->follow(); });
+  display.listen(DisplayPart::SidePanel, panel, [panel] { panel->refresh(); });
+  return panel;
+}
+
 // An effect's samples depend on the icon and the current colour, which can change while the panel is open.
 QWidget* makeEffectPanel(int number, QWidget* parent, Shell& shell, QtDisplay& display) {
   EffectPanelView* view = makeEffectView(number, parent, shell.effects());
@@ -65,9 +77,9 @@ struct PanelWidget {
   QWidget* (*make)(QWidget* parent, Shell& shell, QtDisplay& display);
 };
 
-// Sets caption and actions of Proceed and Close from the table of panels.
+// Sets the caption, unless the panel has one already, and the actions of Proceed and Close from the table of panels.
 void completeFrame(PanelFrame* panel, int number, Shell& shell) {
-  panel->setCaption(findPanel(number)->caption);
+  if (panel->title().isEmpty()) panel->setCaption(findPanel(number)->caption);
   QObject::connect(panel, &PanelFrame::proceed, panel,
                    [&shell] { shell.guarded("cmdProceed_Click", [&shell] { shell.cmdProceed(); }); });
   QObject::connect(panel, &PanelFrame::closeRequested, panel,
@@ -78,6 +90,7 @@ constexpr std::array kPanelWidgets = {
     PanelWidget{kColorPanel, makeColorPanel},
     PanelWidget{kCursorPanel, makeCursorPanel},
     PanelWidget{kRotatePanel, makeRotatePanel},
+    PanelWidget{PreviewPanel::kNumber, makePreviewPanel},
 };
 
 // Returns null for a panel that is not implemented yet.

@@ -112,21 +112,36 @@ void PanelFrame::addTall(QWidget* content) {
   grid_->setRowStretch(grid_->rowCount() - 1, 1);
 }
 
-void PanelFrame::addButtons() {
+QHBoxLayout* PanelFrame::makeButtonRow() {
   auto* buttons = new QWidget(this);
   auto* row = new QHBoxLayout(buttons);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(kGap);
-  cmdProceed_ = makeButton(buttons, "cmdProceed", "Proceed", "proceed");
-  cmdProceed_->setDefault(true);
-  connect(cmdProceed_, &QPushButton::clicked, this, &PanelFrame::proceed);
-  cmdCancel_ = makeButton(buttons, "cmdCancel", "Close", "close");
+  layout()->addWidget(buttons);
+  return row;
+}
+
+void PanelFrame::addClose(QHBoxLayout* row) {
+  cmdCancel_ = makeButton(row->parentWidget(), "cmdCancel", "Close", "close");
   cmdCancel_->setToolTip("Close/cancel");
   connect(cmdCancel_, &QPushButton::clicked, this, &PanelFrame::closeRequested);
-  row->addWidget(cmdProceed_, 1);
   row->addWidget(cmdCancel_, 1);
-  layout()->addWidget(buttons);
+}
+
+void PanelFrame::addButtons() {
+  QHBoxLayout* row = makeButtonRow();
+  cmdProceed_ = makeButton(row->parentWidget(), "cmdProceed", "Proceed", "proceed");
+  cmdProceed_->setDefault(true);
+  connect(cmdProceed_, &QPushButton::clicked, this, &PanelFrame::proceed);
+  row->addWidget(cmdProceed_, 1);
+  addClose(row);
   setFirstControl(cmdProceed_);
+}
+
+void PanelFrame::addCloseButton() {
+  addClose(makeButtonRow());
+  cmdCancel_->setDefault(true);
+  setFirstControl(cmdCancel_);
 }
 
 // The reason of the Tab key makes the focus visible.
@@ -138,7 +153,7 @@ void PanelFrame::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      (cmdCancel_->hasFocus() ? cmdCancel_ : cmdProceed_)->click();
+      (cmdProceed_ && !cmdCancel_->hasFocus() ? cmdProceed_ : cmdCancel_)->click();
       return;
     case Qt::Key_Escape:
       cmdCancel_->click();

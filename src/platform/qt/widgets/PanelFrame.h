@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class QGridLayout;
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 
@@ -46,8 +47,10 @@ class PanelFrame : public QWidget {
   void addWide(QWidget* content);
   // Adds a row that gets all the height that the others leave.
   void addTall(QWidget* content);
-  // Must be called once, after the rows, so that the buttons are last in the Tab order.
+  // One of these must be called once, after the rows, so that the buttons are last in the Tab order. A panel that only
+  // shows something has no Proceed, and Enter closes it.
   void addButtons();
+  void addCloseButton();
   // The parent of what is added.
   QWidget* rows() const { return rows_; }
 
@@ -56,6 +59,8 @@ class PanelFrame : public QWidget {
  private:
   QLabel* makeHeading();
   QWidget* makeRows();
+  QHBoxLayout* makeButtonRow();
+  void addClose(QHBoxLayout* row);
   void showHeadings();
 
   QString caption_, titleText_;
