@@ -6,7 +6,7 @@
 namespace gp {
 
 struct Alpha {
-  explicit Alpha(const FilesContext& context) : commands(context) {}
+  Alpha(const FilesContext& context, IconSaver& saver) : commands(context, saver) {}
 
   AlphaCommands commands;
 };

@@ -6,19 +6,34 @@
 
 namespace gp {
 
+class IconSaver;
+struct IconContainerRec;
+
 class AlphaCommands {
  public:
-  explicit AlphaCommands(const FilesContext& context);
+  // The saver must outlive it.
+  AlphaCommands(const FilesContext& context, IconSaver& saver);
 
   // Null without a main form: the commands do nothing then.
   void attach(AlphaForms* forms) { forms_ = forms; }
 
-  // mnuAlphaSub: 0 edits alpha values, 1 converts to 24 bits.
+  // mnuAlphaSub: 0 edits alpha values, 1 converts to 24 bits. Saves what the screen leaves; the Current Icon changes
+  // only after its file has been written.
   void mnuAlphaSub(int index);
 
  private:
+  bool mayShow();
+  bool endsAniSession();
+  void reportMissingValues(const IconImage& icon);
+  void showScreen(AlphaMode mode);
+  void apply(const AlphaOutcome& outcome);
+  void saveWithAlpha(const AlphaOutcome& outcome);
+  void saveWithoutAlpha(const AlphaOutcome& outcome);
+  bool choosesPalette(const IconContainerRec& record, const IconImage& icon);
+
   FilesContext context_;
   EditState& state_;
+  IconSaver& saver_;
   AlphaForms* forms_ = nullptr;
 };
 

@@ -4,11 +4,6 @@
 #include "document/AlphaCompositing.h"
 
 namespace gp {
-namespace {
-
-constexpr std::uint8_t kOpaque = 255;
-
-}  // namespace
 
 IconImage convertRetainAlpha(const IconImage& icon) {
   IconImage result{Surface(icon.width(), icon.height(), kBlack), Surface(icon.width(), icon.height(), kWhite), {}};
@@ -34,7 +29,7 @@ IconContainerRec recordWithoutAlpha(IconContainerRec record, const IconImage& co
 
 IconImage withAlphaValues(const IconImage& icon) {
   if (icon.hasAlphaValues()) return icon;
-  return {icon.image, icon.mask, AlphaMatrix(icon.width(), icon.height(), kOpaque)};
+  return {icon.image, icon.mask, AlphaMatrix(icon.width(), icon.height(), kOpaqueAlpha)};
 }
 
 IconContainerRec recordWithAlpha(IconContainerRec record) {

@@ -6,15 +6,11 @@
 #include "cli/Streams.h"
 #include "cli/Subcommands.h"
 
-#include <algorithm>
-
 namespace gp::cli {
 namespace {
 
 constexpr const char* kNoAlpha = "the icon has no alpha channel";
 constexpr int kMostAlpha = 255;
-// An alpha of 0 in a file means that the pixel is transparent; 1 looks the same and stays.
-constexpr int kLeastPaintedAlpha = 1;
 
 struct Area {
   int left = 0, top = 0, width = 0, height = 0;
@@ -36,8 +32,7 @@ std::optional<Area> parseArea(const std::string& text) {
 void setAlpha(IconImage& icon, const Area& area, int value) {
   for (int y = area.top; y < area.top + area.height; ++y)
     for (int x = area.left; x < area.left + area.width; ++x)
-      if (icon.mask.GetPixel(x, y) == kBlack)
-        icon.alpha.at(x, y) = static_cast<std::uint8_t>(std::max(value, kLeastPaintedAlpha));
+      if (icon.mask.GetPixel(x, y) == kBlack) icon.alpha.at(x, y) = static_cast<std::uint8_t>(value);
 }
 
 int changeAlpha(const ImageArguments& given, int value, const std::optional<Area>& area) {

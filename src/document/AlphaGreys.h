@@ -7,7 +7,6 @@
 
 namespace gp {
 
-inline constexpr int kOpaqueAlpha = 255;
 // The grey of an opaque pixel.
 inline constexpr Color kOpaqueGrey = kWhite;
 

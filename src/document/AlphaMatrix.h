@@ -7,9 +7,12 @@
 
 namespace gp {
 
+inline constexpr std::uint8_t kOpaqueAlpha = 255;
+
 class AlphaMatrix {
  public:
-  AlphaMatrix() : AlphaMatrix(1, 1) {}
+  // Opaque, because it also is the matrix of a picture of one pixel without alpha.
+  AlphaMatrix() : AlphaMatrix(1, 1, kOpaqueAlpha) {}
   AlphaMatrix(int width, int height, std::uint8_t value = 0)
       : width_(width), height_(height), values_(static_cast<std::size_t>(width) * height, value) {}
 

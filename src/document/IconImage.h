@@ -18,7 +18,16 @@ struct IconImage {
   bool isEmpty() const { return width() == 0 || height() == 0; }
   // Returns true when there is one alpha value for each pixel.
   bool hasAlphaValues() const { return alpha.width() == width() && alpha.height() == height(); }
+  // Returns the alpha value of a pixel, which must exist; opaque without alpha values.
+  std::uint8_t alphaAt(int x, int y) const { return hasAlphaValues() ? alpha.at(x, y) : kOpaqueAlpha; }
 };
+
+// Makes a pixel, which must exist, transparent. If it is painted again, it is opaque.
+inline void erasePixel(IconImage& icon, int x, int y) {
+  icon.image.SetPixelV(x, y, kBlack);
+  icon.mask.SetPixelV(x, y, kWhite);
+  if (icon.hasAlphaValues()) icon.alpha.at(x, y) = kOpaqueAlpha;
+}
 
 // Returns an icon of size x size without an opaque pixel.
 inline IconImage transparentIcon(int size) {

@@ -43,6 +43,7 @@ constexpr NumberRow kNumberRows[] = {
     {"cboGradientAngle(1)", 0, 360, 1, 0},
     {"cboBlendIn(1)", 0, 90, 5, 8},
     {"cboTexturize(0)", 1, 9, 1, 4, NumberForm::TenthsAsShort},
+    {"cboAlphaValue", 0, 255, 1, 128},
     {"cboANI(0)", 1, 90, 1, 29},
     {"cboANI(1)", 0, 31, 1, 0},
     {"cboANI(2)", 0, 31, 1, 0},

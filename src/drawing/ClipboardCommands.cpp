@@ -1,7 +1,9 @@
 #include "drawing/ClipboardCommands.h"
 
+#include "document/AlphaGreys.h"
 #include "document/Announcements.h"
 #include "document/Containers.h"
+#include "document/CurrentIcon.h"
 #include "document/Display.h"
 #include "document/Document.h"
 #include "document/EditState.h"
@@ -19,6 +21,7 @@
 #include "platform/text/Numbers.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace gp {
 
@@ -28,6 +31,23 @@ constexpr const char* kNoRegion = "No picture region yet";
 
 std::string sizeText(const ClipboardImage& image) {
   return "Image size is of " + std::to_string(image.width) + "x" + std::to_string(image.height);
+}
+
+// Returns the alpha values of a copied icon as greys: those of transparent pixels are 0, and only these, so that the
+// picture has the icon's transparent pixels wherever it is pasted.
+Surface alphaToCopy(const IconImage& icon) {
+  Surface greys(icon.width(), icon.height(), kBlack);
+  for (int y = 0; y < icon.height(); ++y)
+    for (int x = 0; x < icon.width(); ++x)
+      if (icon.mask.GetPixel(x, y) == kBlack || icon.image.GetPixel(x, y) != kBlack)
+        greys.SetPixelV(x, y, greyOf(std::max(1, static_cast<int>(icon.alphaAt(x, y)))));
+  return greys;
+}
+
+Surface topLeftOf(const Surface& picture, int width, int height) {
+  Surface corner(width, height);
+  BitBlt(corner, 0, 0, width, height, picture, 0, 0, RasterOp::SRCCOPY);
+  return corner;
 }
 
 }  // namespace
@@ -77,6 +97,7 @@ void ClipboardCommands::cutContent() {
   const int y2 = roundToInteger(at.y2);
   FillBox(state_.picImage, x1, y1, x2, y2, kBlack);
   FillBox(state_.picMask, x1, y1, x2, y2, kWhite);
+  FillBox(state_.picAlpha, x1, y1, x2, y2, kOpaqueGrey);
   regions_.clearRegion();
 }
 
@@ -89,16 +110,17 @@ void ClipboardCommands::doCopyRegion() {
 
 void ClipboardCommands::copy() {
   clipboard_.clear();
+  const bool hasAlpha = AlphaRecIsReady(state_);
   if (regions_.exists()) {
     regions_.finishDrag();
-    clipboard_.setImage(pictureOfRegion());
+    clipboard_.setImage(pictureOfRegion(), hasAlpha ? alphaToCopy(regions_.content()) : Surface());
   } else {
-    clipboard_.setImage(state_.PicIcon);
+    clipboard_.setImage(state_.PicIcon, hasAlpha ? alphaToCopy(currentIcon(state_)) : Surface());
   }
   context_.editor.UpdateCommands();
 }
 
-// The clipboard carries no transparency: transparent pixels are copied in the colour kGround.
+// Transparent pixels are copied in the colour kGround. Only an icon with alpha is copied with its transparency.
 Surface ClipboardCommands::pictureOfRegion() const {
   const Surface& image = regions_.content().image;
   const Surface& mask = regions_.content().mask;
@@ -129,12 +151,17 @@ void ClipboardCommands::doPaste(bool opaque) {
   regions_.finishDrag();
   // A refusal leaves the history as it is.
   if (!makeRoomFor(image) || !startHistory()) return;
+  showPasted(contentToPaste(image, opaque), opaque);
+}
+
+// An icon with alpha takes the picture's alpha values over; any other gets the picture as it looks.
+IconImage ClipboardCommands::contentToPaste(const ClipboardImage& image, bool opaque) const {
   const int width = std::min(image.corner.width(), state_.picImage.width());
   const int height = std::min(image.corner.height(), state_.picImage.height());
-  Surface picture(width, height);
-  BitBlt(picture, 0, 0, width, height, image.corner, 0, 0, RasterOp::SRCCOPY);
-  picture.makePersistent();
-  showPasted(picture, opaque);
+  if (image.hasAlpha() && AlphaRecIsReady(state_))
+    return contentWithAlpha(topLeftOf(image.colors, width, height), topLeftOf(image.alpha, width, height), opaque);
+  const Surface picture = topLeftOf(image.corner, width, height);
+  return opaque ? opaqueContentOf(picture) : contentOf(picture, state_.PicIcon.backColor);
 }
 
 // Makes the icon beneath the picture the baseline. Recording processes events: returns false when another icon came up,
@@ -171,10 +198,9 @@ bool ClipboardCommands::makeNewIcon(int size) {
   return state_.iconSerial == arriving;
 }
 
-void ClipboardCommands::showPasted(const Surface& picture, bool opaque) {
+void ClipboardCommands::showPasted(IconImage content, bool opaque) {
   const Hourglass hourglass(context_);
-  placeContent(tools_, regions_, opaque ? opaqueContentOf(picture) : contentOf(picture, state_.PicIcon.backColor),
-               opaque);
+  placeContent(tools_, regions_, std::move(content), opaque);
   context_.display.announce(news::kPasted);
 }
 

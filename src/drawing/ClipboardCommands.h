@@ -3,7 +3,7 @@
 #pragma once
 
 #include "document/Context.h"
-#include "platform/gdi/Surface.h"
+#include "document/IconImage.h"
 
 #include <string>
 
@@ -24,7 +24,8 @@ class ClipboardCommands {
   // mnuEditSub(4) with copyFirst, and (5): makes the region transparent, or removes a floating region without changing
   // the pixels below. A step of Undo, unless the region was pasted. Shows a message when the region is empty.
   void doCutRegion(bool copyFirst);
-  // mnuEditSub(6): copies the region, or the whole icon; transparent pixels have the colour kGround.
+  // mnuEditSub(6): copies the region, or the whole icon; transparent pixels have the colour kGround. An icon with
+  // alpha values is copied with these.
   void doCopyRegion();
   // mnuEditSub(7) and (8): the clipboard's picture becomes a floating region, in a new icon if none is loaded. Undo
   // starts again with the icon beneath it.
@@ -40,7 +41,8 @@ class ClipboardCommands {
   bool fetch(ClipboardImage& image);
   bool makeRoomFor(const ClipboardImage& image);
   bool makeNewIcon(int size);
-  void showPasted(const Surface& picture, bool opaque);
+  IconImage contentToPaste(const ClipboardImage& image, bool opaque) const;
+  void showPasted(IconImage content, bool opaque);
 
   Context context_;
   EditState& state_;

@@ -1,5 +1,6 @@
 #include "drawing/FillTools.h"
 
+#include "document/AlphaGreys.h"
 #include "document/EditState.h"
 #include "document/EditingArea.h"
 #include "drawing/UndoHistory.h"
@@ -28,6 +29,7 @@ bool isTransparent(const EditState& state, int x, int y) {
 void setPixel(EditState& state, int x, int y, const PixelPair& pixel) {
   state.picImage.SetPixelV(x, y, pixel.image);
   state.picMask.SetPixelV(x, y, pixel.mask);
+  state.picAlpha.SetPixelV(x, y, kOpaqueGrey);
 }
 
 template <typename Condition>

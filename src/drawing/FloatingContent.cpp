@@ -1,5 +1,6 @@
 #include "drawing/FloatingContent.h"
 
+#include "document/AlphaGreys.h"
 #include "document/Tool.h"
 #include "drawing/Regions.h"
 #include "drawing/Tools.h"
@@ -19,11 +20,18 @@ IconImage opaqueContentOf(const Surface& picture) {
 IconImage contentOf(const Surface& picture, Color transparent) {
   IconImage content = opaqueContentOf(picture);
   for (int y = 0; y < picture.height(); ++y)
-    for (int x = 0; x < picture.width(); ++x) {
-      if (picture.GetPixel(x, y) != transparent) continue;
-      content.image.SetPixelV(x, y, kBlack);
-      content.mask.SetPixelV(x, y, kWhite);
-    }
+    for (int x = 0; x < picture.width(); ++x)
+      if (picture.GetPixel(x, y) == transparent) erasePixel(content, x, y);
+  return content;
+}
+
+IconImage contentWithAlpha(const Surface& picture, const Surface& alpha, bool opaque) {
+  IconImage content = opaqueContentOf(picture);
+  content.alpha = alphaOf(alpha);
+  if (opaque) return content;
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x)
+      if (content.alpha.at(x, y) == 0) erasePixel(content, x, y);
   return content;
 }
 
@@ -32,6 +40,12 @@ void mergeContent(const IconImage& content, int x, int y, Surface& image, Surfac
   BitBlt(mask, x, y, width, height, content.mask, 0, 0, RasterOp::SRCAND);
   BitBlt(image, x, y, width, height, content.mask, 0, 0, RasterOp::SRCAND);
   BitBlt(image, x, y, width, height, content.image, 0, 0, RasterOp::SRCINVERT);
+}
+
+void mergeAlpha(const IconImage& content, int x, int y, bool opaque, Surface& alpha) {
+  for (int j = 0; j < content.height(); ++j)
+    for (int i = 0; i < content.width(); ++i)
+      if (opaque || content.mask.GetPixel(i, j) == kBlack) alpha.SetPixelV(x + i, y + j, greyOf(content.alphaAt(i, j)));
 }
 
 void placeContent(Tools& tools, Regions& regions, IconImage content, bool opaque) {

@@ -1,5 +1,7 @@
 #include "drawing/Freehand.h"
 
+#include "document/AlphaGreys.h"
+#include "document/Containers.h"
 #include "document/EditState.h"
 #include "document/EditingArea.h"
 #include "drawing/DrawState.h"
@@ -68,6 +70,7 @@ void FreehandTool::stamp(const ToolMouse& mouse) {
   const bool erase = mouse.tool == kErase;
   FillBox(state_.picImage, square.x1, square.y1, square.x2, square.y2, erase ? kBlack : state_.mCurrentColor);
   FillBox(state_.picMask, square.x1, square.y1, square.x2, square.y2, erase ? kWhite : kBlack);
+  FillBox(state_.picAlpha, square.x1, square.y1, square.x2, square.y2, kOpaqueGrey);
 }
 
 // On picDisp the square does not cover the grid lines to its left and top, and can exceed the right and bottom edges.
@@ -101,6 +104,10 @@ void RestoreTool::restorePixel(const ToolMouse& mouse) {
   if (image == kNoColor || mask == kNoColor) return;
   state_.picImage.SetPixelV(mouse.pixelX, mouse.pixelY, image);
   state_.picMask.SetPixelV(mouse.pixelX, mouse.pixelY, mask);
+  const AlphaMatrix& alpha = state_.mAlphaRecs.at(container);
+  const bool hasAlpha = AlphaRecIsReady(state_);
+  state_.picAlpha.SetPixelV(mouse.pixelX, mouse.pixelY,
+                            hasAlpha ? greyOf(alpha.at(mouse.pixelX, mouse.pixelY)) : kOpaqueGrey);
   editingArea_.showChangedIcon();
 }
 

@@ -1,5 +1,6 @@
 #include "drawing/IconTransforms.h"
 
+#include "document/AlphaGreys.h"
 #include "drawing/RotateSurface.h"
 #include "platform/gdi/RasterOps.h"
 #include "platform/gdi/Stretch.h"
@@ -39,7 +40,8 @@ Surface rightTurn(const Surface& source) {
 }
 
 IconImage transformed(const IconImage& icon, Surface (*transform)(const Surface& source)) {
-  return {transform(icon.image), transform(icon.mask), icon.alpha};
+  return {transform(icon.image), transform(icon.mask),
+          icon.hasAlphaValues() ? alphaOf(transform(greysOf(icon.alpha))) : AlphaMatrix()};
 }
 
 // The work Surface has the width of the diagonal, rounded to the nearest pixel, and the offset is truncated, so that
@@ -52,6 +54,21 @@ Surface rotated(const Surface& picture, double angle, Color background) {
   BitBlt(result, 0, 0, picture.width(), picture.height(), work, divide(side - picture.width(), 2),
          divide(side - picture.height(), 2), RasterOp::SRCCOPY);
   return result;
+}
+
+// The background of the greys: no grey, so that every painted pixel is written, and its red reads as opaque.
+constexpr Color kUnpainted = rgb(kOpaqueAlpha, 0, 0);
+
+Surface paintedGreys(const IconImage& icon) {
+  Surface greys = greysOf(icon.alpha);
+  for (int y = 0; y < icon.height(); ++y)
+    for (int x = 0; x < icon.width(); ++x)
+      if (icon.mask.GetPixel(x, y) != kBlack) greys.SetPixelV(x, y, kUnpainted);
+  return greys;
+}
+
+AlphaMatrix rotatedAlpha(const IconImage& icon, double angle) {
+  return icon.hasAlphaValues() ? alphaOf(rotated(paintedGreys(icon), angle, kUnpainted)) : AlphaMatrix();
 }
 
 }  // namespace
@@ -67,7 +84,8 @@ bool isWholeTurn(double angleDegrees) {
 
 IconImage rotatedIcon(const IconImage& icon, double angleDegrees) {
   if (isWholeTurn(angleDegrees)) return icon;
-  return {rotated(icon.image, angleDegrees, kBlack), rotated(icon.mask, angleDegrees, kWhite), icon.alpha};
+  return {rotated(icon.image, angleDegrees, kBlack), rotated(icon.mask, angleDegrees, kWhite),
+          rotatedAlpha(icon, angleDegrees)};
 }
 
 }  // namespace gp

@@ -1,5 +1,5 @@
-// Flips, quarter turns and rotation of an icon or of the content of a region, as pure functions. Image and Mask are
-// transformed; alpha values stay where they are.
+// Flips, quarter turns and rotation of an icon or of the content of a region, as pure functions. Image, Mask and
+// alpha values are transformed alike.
 #pragma once
 
 #include "document/IconImage.h"
@@ -18,7 +18,7 @@ IconImage turnedRight(const IconImage& icon);
 // Whether rotating by the angle, of -360 to 360 degrees, changes nothing.
 bool isWholeTurn(double angleDegrees);
 // Returns the icon rotated about its middle, not smoothed; positive angles turn counter-clockwise. It keeps its size
-// and loses the corners outside it; vacated pixels are transparent.
+// and loses the corners outside it; vacated pixels are transparent, with an alpha value of 255.
 IconImage rotatedIcon(const IconImage& icon, double angleDegrees);
 
 }  // namespace gp

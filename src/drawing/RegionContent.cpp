@@ -1,10 +1,11 @@
 // The content of a region: lifts it from the icon, merges it back, and shows it while it moves.
+#include "document/AlphaGreys.h"
+#include "document/CurrentIcon.h"
 #include "document/EditState.h"
 #include "document/EditingArea.h"
 #include "drawing/FloatingContent.h"
 #include "drawing/Regions.h"
 #include "drawing/UndoHistory.h"
-#include "platform/gdi/Pens.h"
 #include "platform/gdi/RasterOps.h"
 #include "platform/gdi/SurfaceOps.h"
 #include "platform/text/Numbers.h"
@@ -15,9 +16,40 @@ namespace gp {
 
 namespace {
 
-void copyPicture(const Surface& source, Surface& target) {
-  MakeSameSize(source, target);
-  BitbltPic(source, target);
+struct Block {
+  int x, y, width, height;
+};
+
+Block blockAt(const DrawRect& pixels) {
+  const int x = roundToInteger(pixels.x1);
+  const int y = roundToInteger(pixels.y1);
+  return {x, y, roundToInteger(pixels.x2) - x + 1, roundToInteger(pixels.y2) - y + 1};
+}
+
+Surface blockOf(const Surface& surface, const Block& box, Color outside) {
+  Surface block(box.width, box.height, outside);
+  BitBlt(block, 0, 0, box.width, box.height, surface, box.x, box.y, RasterOp::SRCCOPY);
+  return block;
+}
+
+// Returns a part of an icon. Pixels outside the icon are transparent.
+IconImage blockOf(const IconImage& icon, const Block& box) {
+  AlphaMatrix alpha;
+  if (icon.hasAlphaValues()) alpha = alphaOf(blockOf(greysOf(icon.alpha), box, kOpaqueGrey));
+  return {blockOf(icon.image, box, kBlack), blockOf(icon.mask, box, kWhite), std::move(alpha)};
+}
+
+// Makes all other pixels transparent, inverting ones too.
+void keepPaintedPixels(IconImage& icon) {
+  for (int y = 0; y < icon.height(); ++y)
+    for (int x = 0; x < icon.width(); ++x)
+      if (icon.mask.GetPixel(x, y) != kBlack) erasePixel(icon, x, y);
+}
+
+void blank(IconImage& icon, const Block& box) {
+  for (int y = box.y; y < box.y + box.height; ++y)
+    for (int x = box.x; x < box.x + box.width; ++x)
+      if (icon.image.contains(x, y)) erasePixel(icon, x, y);
 }
 
 }  // namespace
@@ -27,52 +59,21 @@ bool Regions::isOfCurrentIcon() const {
 }
 
 void Regions::keepIconBeneath() {
-  copyPicture(state_.picImage, beneath_.image);
-  copyPicture(state_.picMask, beneath_.mask);
+  beneath_ = currentIcon(state_);
   liftedFrom_ = state_.iconSerial;
   dragView_.forget();
 }
 
 void Regions::liftRegion(bool blankSource) {
   regionToPixels();
-  const DrawRect& at = draw_.draw;
-  const int x1 = roundToInteger(at.x1);
-  const int y1 = roundToInteger(at.y1);
-  const int width = roundToInteger(at.x2) - x1 + 1;
-  const int height = roundToInteger(at.y2) - y1 + 1;
-  MakePicSize(content_.image, width, height);
-  MakePicSize(content_.mask, width, height);
   keepIconBeneath();
-  if (blankSource)
-    liftOpaquePixels();
-  else
-    liftBlock(width, height);
+  const Block box = blockAt(draw_.draw);
+  content_ = blockOf(beneath_, box);
+  if (blankSource) keepPaintedPixels(content_);
   content_.image.makePersistent();
   content_.mask.makePersistent();
-  FillBox(beneath_.image, x1, y1, x1 + width - 1, y1 + height - 1, kBlack);
-  FillBox(beneath_.mask, x1, y1, x1 + width - 1, y1 + height - 1, kWhite);
+  blank(beneath_, box);
   setRegionLimits();
-}
-
-void Regions::liftOpaquePixels() {
-  content_.image.fill(kBlack);
-  content_.mask.fill(kWhite);
-  const int x1 = roundToInteger(draw_.draw.x1);
-  const int y1 = roundToInteger(draw_.draw.y1);
-  for (int y = 0; y < content_.mask.height(); ++y) {
-    for (int x = 0; x < content_.mask.width(); ++x) {
-      if (state_.picMask.GetPixel(x1 + x, y1 + y) != kBlack) continue;
-      content_.image.SetPixelV(x, y, state_.picImage.GetPixel(x1 + x, y1 + y));
-      content_.mask.SetPixelV(x, y, kBlack);
-    }
-  }
-}
-
-void Regions::liftBlock(int width, int height) {
-  const int x1 = roundToInteger(draw_.draw.x1);
-  const int y1 = roundToInteger(draw_.draw.y1);
-  BitBlt(content_.image, 0, 0, width, height, state_.picImage, x1, y1, RasterOp::SRCCOPY);
-  BitBlt(content_.mask, 0, 0, width, height, state_.picMask, x1, y1, RasterOp::SRCCOPY);
 }
 
 void Regions::place(IconImage content, bool opaque) {
@@ -94,8 +95,7 @@ void Regions::floatWith(bool opaque) {
 
 void Regions::renderRegion() {
   if (!isOfCurrentIcon()) return;
-  BitbltPic(beneath_.image, state_.picImage);
-  BitbltPic(beneath_.mask, state_.picMask);
+  replacePixels(state_, beneath_);
   mergeContent();
   state_.current().modified = true;
   history_.openStep();
@@ -105,6 +105,7 @@ void Regions::renderRegion() {
 void Regions::mergeContent() {
   const int x = roundToInteger(draw_.draw.x1);
   const int y = roundToInteger(draw_.draw.y1);
+  mergeAlpha(content_, x, y, opaque_, state_.picAlpha);
   if (!opaque_) return gp::mergeContent(content_, x, y, state_.picImage, state_.picMask);
   const int width = content_.width();
   const int height = content_.height();

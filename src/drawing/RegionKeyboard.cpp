@@ -1,4 +1,5 @@
 // The region by keyboard: drags that go from icon pixel to icon pixel, and sides that move without a drag.
+#include "document/CurrentIcon.h"
 #include "document/EditState.h"
 #include "document/EditingArea.h"
 #include "document/Editor.h"
@@ -63,11 +64,10 @@ void Regions::giveUp() {
 // invert.
 void Regions::putBack() {
   enter(RegionPhase::Standing);
-  if (!isOfCurrentIcon() || SurfaceSizeDiffers(atPress_.image, state_.picImage)) return;
+  if (!isOfCurrentIcon() || SurfaceSizeDiffers(atPress_.icon.image, state_.picImage)) return;
   draw_.draw = atPress_.pixels;
   pixelsToRegion();
-  BitbltPic(atPress_.image, state_.picImage);
-  BitbltPic(atPress_.mask, state_.picMask);
+  replacePixels(state_, atPress_.icon);
   state_.current().modified = atPress_.modified;
   editingArea_.showChangedIcon();
 }

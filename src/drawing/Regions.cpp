@@ -2,6 +2,7 @@
 #include "drawing/Regions.h"
 
 #include "document/Announcements.h"
+#include "document/CurrentIcon.h"
 #include "document/Display.h"
 #include "document/EditState.h"
 #include "document/EditingArea.h"
@@ -9,7 +10,6 @@
 #include "drawing/ShapeGeometry.h"
 #include "drawing/Tools.h"
 #include "drawing/UndoHistory.h"
-#include "platform/gdi/SurfaceOps.h"
 #include "platform/text/Numbers.h"
 
 namespace gp {
@@ -169,7 +169,7 @@ void Regions::finishEdge() {
 // Moving the region.
 
 void Regions::takeHold() {
-  atPress_ = {draw_.draw, state_.picImage, state_.picMask, state_.current().modified};
+  atPress_ = {draw_.draw, currentIcon(state_), state_.current().modified};
   enter(RegionPhase::Moving);
 }
 
@@ -255,8 +255,7 @@ void Regions::dropContent() {
   history_.dropOpenStep();
   clearRegion();
   if (!restores) return;
-  BitbltPic(beneath_.image, state_.picImage);
-  BitbltPic(beneath_.mask, state_.picMask);
+  replacePixels(state_, beneath_);
 }
 
 }  // namespace gp

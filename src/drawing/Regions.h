@@ -1,7 +1,7 @@
 // The region: a rectangle of the Current Icon whose content is lifted, so that it can be moved over the rest. Owns the
-// box, the phase and the content. While a region exists, picImage and picMask have its content merged at its place, so
-// that ending a region loses nothing; only a drag whose mouse button is still down can be dropped. What a region has
-// changed, it opens a step of Undo for; the step is recorded when the region ends.
+// box, the phase and the content. While a region exists, picImage, picMask and picAlpha have its content merged at its
+// place, so that ending a region loses nothing; only a drag whose mouse button is still down can be dropped. What a
+// region has changed, it opens a step of Undo for; the step is recorded when the region ends.
 //
 // Other rooms read state.mRegionExists and, for floating content, state.mPendingPaint. Only this class writes them.
 #pragma once
@@ -105,8 +105,7 @@ class Regions {
   // What a drag that is given up brings back.
   struct AtPress {
     DrawRect pixels;
-    Surface image;
-    Surface mask;
+    IconImage icon;
     bool modified = false;
   };
 
@@ -142,8 +141,6 @@ class Regions {
   void floatWith(bool opaque);
   bool isOfCurrentIcon() const;
   void keepIconBeneath();
-  void liftOpaquePixels();
-  void liftBlock(int width, int height);
   void mergeContent();
   void renderRegionFast();
 

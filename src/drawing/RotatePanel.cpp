@@ -1,6 +1,7 @@
 #include "drawing/RotatePanel.h"
 
 #include "document/Announcements.h"
+#include "document/CurrentIcon.h"
 #include "document/Display.h"
 #include "document/EditState.h"
 #include "document/EditingArea.h"
@@ -11,7 +12,6 @@
 #include "drawing/RotateSurface.h"
 #include "drawing/UndoHistory.h"
 #include "platform/gdi/RasterOps.h"
-#include "platform/gdi/SurfaceOps.h"
 #include "platform/text/Numbers.h"
 
 #include <algorithm>
@@ -95,9 +95,7 @@ void RotatePanel::rotateIcon() {
   const Hourglass hourglass(context_);
   regions_.finishDrag();
   regions_.clearRegion();
-  const IconImage rotated = rotatedIcon({state_.picImage, state_.picMask, {}}, angle());
-  BitbltPic(rotated.image, state_.picImage);
-  BitbltPic(rotated.mask, state_.picMask);
+  replacePixels(state_, rotatedIcon(currentIcon(state_), angle()));
   state_.current().modified = true;
   editingArea_.showChangedIcon();
 }

@@ -1,5 +1,6 @@
 #include "drawing/ShapeTools.h"
 
+#include "document/AlphaGreys.h"
 #include "document/Display.h"
 #include "document/EditState.h"
 #include "document/EditingArea.h"
@@ -237,6 +238,7 @@ void ShapeTool::release(const ToolMouse& mouse) {
   const int penWidth = row->penWidth != 0 ? row->penWidth : state_.screen.brushIndex + 1;
   drawOn(state_.picImage, *row, penWidth, corners, state_.mCurrentColor);
   drawOn(state_.picMask, *row, penWidth, corners, kBlack);
+  drawOn(state_.picAlpha, *row, penWidth, corners, kOpaqueGrey);
   editingArea_.showChangedIcon();
   history_.recordUndo();
 }

@@ -1,5 +1,7 @@
 #include "drawing/ShiftTool.h"
 
+#include "document/AlphaGreys.h"
+#include "document/CurrentIcon.h"
 #include "document/EditState.h"
 #include "document/EditingArea.h"
 #include "drawing/Tools.h"
@@ -56,7 +58,7 @@ ShiftTool::ShiftTool(const Context& context, EditingArea& editingArea, UndoHisto
 
 // Records two equal entries: the first is the baseline to which Undo returns during Shift.
 void ShiftTool::turnOn() {
-  kept_ = {state_.picImage, state_.picMask, {}};
+  kept_ = currentIcon(state_);
   keptFrom_ = state_.iconSerial;
   mShiftX_ = mShiftY_ = 0;
   history_.clearUndoHistory();
@@ -98,12 +100,14 @@ void ShiftTool::redraw() {
   const int size = state_.current().size;
   FillBox(state_.picImage, 0, 0, size - 1, size - 1, kBlack);
   FillBox(state_.picMask, 0, 0, size - 1, size - 1, kWhite);
+  FillBox(state_.picAlpha, 0, 0, size - 1, size - 1, kOpaqueGrey);
   for (int j = std::max(mShiftY_, 0); j < size; ++j) {
     for (int i = std::max(mShiftX_, 0); i < size; ++i) {
       const Color color = kept_.image.GetPixel(i, j);
       if (color == kBlack && kept_.mask.GetPixel(i, j) != kBlack) continue;
       state_.picImage.SetPixelV(i - mShiftX_, j - mShiftY_, color);
       state_.picMask.SetPixelV(i - mShiftX_, j - mShiftY_, kBlack);
+      state_.picAlpha.SetPixelV(i - mShiftX_, j - mShiftY_, greyOf(kept_.alphaAt(i, j)));
     }
   }
   state_.current().modified = true;

@@ -1,5 +1,6 @@
 #include "drawing/Transforms.h"
 
+#include "document/CurrentIcon.h"
 #include "document/EditState.h"
 #include "document/EditingArea.h"
 #include "document/Editor.h"
@@ -9,7 +10,6 @@
 #include "drawing/RotatePanel.h"
 #include "drawing/Tools.h"
 #include "drawing/UndoHistory.h"
-#include "platform/gdi/SurfaceOps.h"
 #include "platform/ports/MessageBoxes.h"
 
 namespace gp {
@@ -54,7 +54,7 @@ void Transforms::transform(IconTransform transformed) {
   if (!endShift()) return;
   bringColorPanelForward();
   if (!regions_.exists()) {
-    takeOver(transformed({state_.picImage, state_.picMask, {}}));
+    takeOver(transformed(currentIcon(state_)));
     return;
   }
   const Hourglass hourglass(context_);
@@ -63,8 +63,7 @@ void Transforms::transform(IconTransform transformed) {
 }
 
 void Transforms::takeOver(const IconImage& icon) {
-  BitbltPic(icon.image, state_.picImage);
-  BitbltPic(icon.mask, state_.picMask);
+  replacePixels(state_, icon);
   state_.current().modified = true;
   editingArea_.showChangedIcon();
   history_.recordUndo();

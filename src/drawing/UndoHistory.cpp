@@ -16,6 +16,7 @@ namespace gp {
 
 namespace {
 
+constexpr int kParts = 3;                               // of a snapshot: image, Mask, alpha
 constexpr std::size_t kMaxEntries = kMaxUndoSteps + 1;  // the baseline is not a step
 
 bool sameColors(std::span<const std::uint32_t> a, std::span<const std::uint32_t> b) {
@@ -99,14 +100,16 @@ bool UndoHistory::restoreRedo() {
 }
 
 bool UndoHistory::fitsIcon(const Surface& snapshot) const {
-  return snapshot.width() == 2 * state_.picImage.width() && snapshot.height() == state_.picImage.height();
+  return snapshot.width() == kParts * state_.picImage.width() && snapshot.height() == state_.picImage.height();
 }
 
 bool UndoHistory::equalsIcon(const Surface& snapshot) const {
   const auto width = static_cast<std::size_t>(state_.picImage.width());
   for (int y = 0; y < state_.picImage.height(); ++y) {
     const auto row = snapshot.row(y);
-    if (!sameColors(row.first(width), state_.picImage.row(y)) || !sameColors(row.last(width), state_.picMask.row(y)))
+    if (!sameColors(row.first(width), state_.picImage.row(y)) ||
+        !sameColors(row.subspan(width, width), state_.picMask.row(y)) ||
+        !sameColors(row.last(width), state_.picAlpha.row(y)))
       return false;
   }
   return true;
@@ -117,9 +120,10 @@ Surface UndoHistory::snapshot(Surface picUndo) const {
   const int width = state_.picImage.width();
   const int height = state_.picImage.height();
   // Every pixel is written below, so a picUndo of the right size need not be cleared.
-  if (!fitsIcon(picUndo)) MakePicSize(picUndo, 2 * width, height);
+  if (!fitsIcon(picUndo)) MakePicSize(picUndo, kParts * width, height);
   BitBlt(picUndo, 0, 0, width, height, state_.picImage, 0, 0, RasterOp::SRCCOPY);
   BitBlt(picUndo, width, 0, width, height, state_.picMask, 0, 0, RasterOp::SRCCOPY);
+  BitBlt(picUndo, 2 * width, 0, width, height, state_.picAlpha, 0, 0, RasterOp::SRCCOPY);
   picUndo.makePersistent();
   return picUndo;
 }
@@ -131,8 +135,10 @@ void UndoHistory::apply(const Surface& snapshot) {
   const int height = state_.picImage.height();
   BitBlt(state_.picImage, 0, 0, width, height, snapshot, 0, 0, RasterOp::SRCCOPY);
   BitBlt(state_.picMask, 0, 0, width, height, snapshot, width, 0, RasterOp::SRCCOPY);
+  BitBlt(state_.picAlpha, 0, 0, width, height, snapshot, 2 * width, 0, RasterOp::SRCCOPY);
   state_.picImage.makePersistent();
   state_.picMask.makePersistent();
+  state_.picAlpha.makePersistent();
 }
 
 }  // namespace gp

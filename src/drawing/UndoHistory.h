@@ -1,4 +1,4 @@
-// The Undo and Redo history of the Current Icon: snapshots of picImage and picMask, one after each completed step. Owns
+// The Undo and Redo history of the Current Icon: snapshots of its pixels, one after each completed step. Owns
 // both stacks. There is one history, which starts again with each new icon in the Editing Area. A snapshot whose size
 // does not match the icon is never applied.
 //
@@ -24,7 +24,8 @@ class UndoHistory {
  public:
   UndoHistory(const Context& context, EditingArea& editingArea);
 
-  // Pushes a snapshot of picImage and picMask and clears the redo stack. Then processes events, as its last step.
+  // Pushes a snapshot of picImage, picMask and picAlpha and clears the redo stack. Then processes events, as its last
+  // step.
   void recordUndo();
   // The icon has changed and may change further in the same step.
   void openStep() { open_ = true; }
@@ -60,8 +61,8 @@ class UndoHistory {
   EditState& state_;
   EditingArea& editingArea_;
 
-  // Pictures of double width: picImage on the left, picMask on the right. The last one is the icon's current state, the
-  // first one the baseline.
+  // Pictures of triple width: picImage, picMask and picAlpha from left to right. The last one is the icon's current
+  // state, the first one the baseline.
   std::vector<Surface> mUndoStack;
   std::vector<Surface> mRedoStack;  // the step undone last is at the end
   std::int16_t mUndoSeq = 0;

@@ -27,7 +27,7 @@ Shell::Shell(EditState& state, const Ports& ports, Display& display, ProgramFold
       colour_(context_, mDialog, ports.pictures, folders_.settings),
       drawing_(context_, document_, colour_.selection, ports.clipboard),
       files_(context_, document_, drawing_, mDialog, folders_.scratch + "/" + kScratchFileName),
-      alpha_(files_.context()),
+      alpha_(files_.context(), files_.iconSaver),
       effects_(context_, document_, drawing_, {mDialog, ports.pictures, ports.text}),
       output_(context_, files_, alpha_.commands),
       settings_(state.options, settingsPath()),

@@ -173,23 +173,37 @@ TEST_F(GpiconEffectOnAll, ImagesThatStateTooFewBytesAreWrittenWhole) {
   EXPECT_EQ(written("short.ico"), written("whole.ico"));
 }
 
-TEST_F(GpiconEffectOnAll, AlphaStaysWithFlipsTurnsAndRotations) {
+TEST_F(GpiconEffectOnAll, AlphaMovesWithItsPixelsInFlipsTurnsAndRotations) {
+  struct Turn {
+    std::vector<std::string> words;
+    std::size_t (*source)(std::size_t x, std::size_t y);  // the pixel that comes to (x, y), row by row
+  };
+  const Turn turns[] = {
+      {{"rotate", "--angle", "360"}, [](std::size_t x, std::size_t y) { return 16 * y + x; }},
+      {{"flip", "--horizontal"}, [](std::size_t x, std::size_t y) { return 16 * y + 15 - x; }},
+      {{"turn", "--right"}, [](std::size_t x, std::size_t y) { return 16 * (15 - x) + y; }},
+  };
   Picture p = anyPicture(16, 32);
   p.transparent = [](int, int) { return false; };
   const Bytes file = build(entryOf(p));
   const std::string path = folder.write("alpha.ico", file);
-  for (const std::vector<std::string>& words : std::vector<std::vector<std::string>>{
-           {"rotate", "--angle", "360"}, {"flip", "--horizontal"}, {"turn", "--right"}}) {
+  // The blue, green, red and alpha of a pixel; the rows of a file begin at the bottom.
+  const auto pixel = [](const Bytes& bytes, std::size_t index) {
+    const auto at = static_cast<std::ptrdiff_t>(22 + 40 + 4 * (16 * (15 - index / 16) + index % 16));
+    return Bytes(bytes.begin() + at, bytes.begin() + at + 4);
+  };
+  for (const Turn& turn : turns) {
     std::vector<std::string> all{path};
-    all.insert(all.end(), words.begin(), words.end());
+    all.insert(all.end(), turn.words.begin(), turn.words.end());
     expectDone(apply(all, {"--force"}));
     const Bytes made = written("alpha.ico");
-    ASSERT_EQ(fieldsOf(made, 0), fieldsOf(file, 0)) << words.front();
+    ASSERT_EQ(fieldsOf(made, 0), fieldsOf(file, 0)) << turn.words.front();
     ASSERT_EQ(made.size(), file.size());
-    for (std::size_t at = 22 + 40 + 3; at < 22 + 40 + 4 * 256; at += 4) ASSERT_EQ(made[at], file[at]) << words.front();
-    EXPECT_EQ(made == file, words.front() == "rotate");
+    for (std::size_t y = 0; y < 16; ++y)
+      for (std::size_t x = 0; x < 16; ++x)
+        ASSERT_EQ(pixel(made, 16 * y + x), pixel(file, turn.source(x, y))) << turn.words.front() << x << " " << y;
     std::vector<std::string> one{"effect", path, "0", folder.path("one")};
-    one.insert(one.end(), words.begin(), words.end());
+    one.insert(one.end(), turn.words.begin(), turn.words.end());
     expectDone(run(one));
     EXPECT_EQ(bytesOf(folder.path("one")), made);
   }

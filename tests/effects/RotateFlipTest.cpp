@@ -1,4 +1,5 @@
 // The commands of the Rotate menu as effects: the same as in the editor, and as a slow model of their description.
+#include "document/CurrentIcon.h"
 #include "drawing/DrawingRooms.h"
 #include "effects/EffectCases.h"
 #include "effects/ModelIcons.h"
@@ -19,7 +20,7 @@ class RotateFlip : public DrawingRooms {
     record.hasAlpha = icon.hasAlphaValues();
     document.arrival.arrive(icon, record);
     command();
-    return {state.picImage, state.picMask, state.mAlphaRecs.front()};
+    return currentIcon(state);
   }
   void rotateBy(int angle) {
     drawing.rotatePanel.open();
@@ -125,18 +126,33 @@ TEST_F(RotateFlip, AWholeTurnChangesNothing) {
     for (const int angle : {-360, 0, 360}) ASSERT_TRUE(samePixels(applied("rotate", icon, {angle}), icon)) << angle;
 }
 
-TEST_F(RotateFlip, AlphaValuesStayWhereTheyAre) {
-  IconImage icon = iconsOfSize(16).back();
+// Each pixel has another colour, with its alpha value as red.
+TEST_F(RotateFlip, AlphaValuesMoveWithTheirPixels) {
+  IconImage icon = transparentIcon(16);
   icon.alpha = AlphaMatrix(16, 16);
   for (int y = 0; y < 16; ++y)
-    for (int x = 0; x < 16; ++x) icon.alpha.at(x, y) = static_cast<std::uint8_t>(16 * y + x);
+    for (int x = 0; x < 16; ++x) {
+      icon.image.SetPixelV(x, y, rgb(16 * y + x, 1, 0));
+      icon.mask.SetPixelV(x, y, kBlack);
+      icon.alpha.at(x, y) = static_cast<std::uint8_t>(16 * y + x);
+    }
+  const auto expectMoved = [](const IconImage& moved, const std::string& effect) {
+    for (int y = 0; y < 16; ++y)
+      for (int x = 0; x < 16; ++x) {
+        const int red = redOf(moved.image.GetPixel(x, y));
+        ASSERT_EQ(moved.alpha.at(x, y), moved.mask.GetPixel(x, y) == kBlack ? red : 255) << effect;
+      }
+  };
   for (const Turn& turn : kTurns) {
-    EXPECT_EQ(applied(turn.effect, icon, turn.values).alpha, icon.alpha) << turn.effect;
-    EXPECT_EQ(afterCommand(icon, [&] { (drawing.transforms.*turn.command)(); }).alpha, icon.alpha) << turn.effect;
+    const IconImage turned = applied(turn.effect, icon, turn.values);
+    expectMoved(turned, turn.effect);
+    EXPECT_FALSE(turned.alpha == icon.alpha) << turn.effect;
+    EXPECT_EQ(afterCommand(icon, [&] { (drawing.transforms.*turn.command)(); }).alpha, turned.alpha) << turn.effect;
   }
-  for (const int angle : {0, 45}) {
-    EXPECT_EQ(applied("rotate", icon, {angle}).alpha, icon.alpha);
-    EXPECT_EQ(afterCommand(icon, [&] { rotateBy(angle); }).alpha, icon.alpha);
+  for (const int angle : {0, 45, -30}) {
+    const IconImage turned = applied("rotate", icon, {angle});
+    expectMoved(turned, "rotate");
+    EXPECT_EQ(afterCommand(icon, [&] { rotateBy(angle); }).alpha, turned.alpha);
   }
 }
 

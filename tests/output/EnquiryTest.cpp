@@ -37,7 +37,7 @@ class EnquiryTest : public testing::Test, protected Rooms {
  protected:
   IconFolder folder;
   Files files{context, document, drawing, dialog, folder.path("gptmp.ico")};
-  Alpha alpha{files.context()};
+  Alpha alpha{files.context(), files.iconSaver};
   Output output{context, files, alpha.commands};
   Enquiry& enquiry = output.enquiry;
   RecordingForms forms{files.context().multiIcon};

@@ -114,9 +114,10 @@ class SnapshotMaker {
     for (int i = 0; i <= shell_.fileHistory().limit(); ++i)
       put("history " + std::to_string(i), shell_.fileHistory().path(i));
     put("process", state_.process.mLastFolder, state_.process.mCommandFile);
-    for (const auto& entry : std::filesystem::directory_iterator(folder_.path()))
-      snapshot_["file " + entry.path().filename().string()] =
-          withoutFolder(folder_.read(entry.path().filename().string()));
+    for (const auto& entry : std::filesystem::directory_iterator(folder_.path())) {
+      const std::string name = entry.path().filename().string();
+      snapshot_["file " + name] = entry.is_directory() ? "folder" : withoutFolder(folder_.read(name));
+    }
   }
 
   Shell& shell_;

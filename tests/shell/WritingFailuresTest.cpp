@@ -1,4 +1,5 @@
 // Every command of the editor that writes a file, on a device that fails.
+#include "alpha/AlphaConversion.h"
 #include "files/IcoBuilder.h"
 #include "files/browser/HeaderDiff.h"
 #include "files/browser/MultiIconBrowser.h"
@@ -127,10 +128,20 @@ void salvage(AgreeingProgram& p) {
   p.click("mnuEnquiryCurrent", 5);
 }
 
+template <AlphaResult result, const char* const& name>
+void leaveAlphaScreen(AgreeingProgram& p) {
+  p.form.onAlpha = [&p](const IconImage& icon, AlphaMode) {
+    return AlphaOutcome{result, p.path(name),
+                        result == AlphaResult::ConvertTo24 ? convertRetainAlpha(icon) : withAlphaValues(icon)};
+  };
+  p.click("mnuAlphaSub", 0);
+}
+
 constexpr const char* kFolder = "";
 constexpr const char* kSettings = "Glimmerpane.ini";
 constexpr const char* kSingle = "single.ico";
 constexpr const char* kMulti = "multi.ico";
+constexpr const char* kAlpha = "alpha.ico";
 constexpr const char* kLies = "lies.ico";
 constexpr const char* kOther = "other.ico";
 constexpr const char* kCursor = "a.cur";
@@ -178,6 +189,12 @@ const std::vector<WritingCommand> kWritingCommands{
      {"Failed to salvage to ", "Error occurred in writing overall header"}},
     {"SalvageOverItself", kLies, true, [](AgreeingProgram& p) { p.openAndPaint(kLies); }, salvage<kLies>,
      {"Failed to salvage to ", "Error occurred in writing overall header"}},
+    {"ConvertAlpha", kOther, false, [](AgreeingProgram& p) { p.openAndPaint(kAlpha); },
+     leaveAlphaScreen<AlphaResult::ConvertTo24, kOther>, {"Failed to save this icon"}, Mark::Cleared},
+    {"ChangeAlpha", kAlpha, true, [](AgreeingProgram& p) { p.openAndPaint(kAlpha); },
+     leaveAlphaScreen<AlphaResult::SaveChanged, kAlpha>, {"Failed to save this icon"}, Mark::Cleared},
+    {"CreateAlpha", kOther, false, [](AgreeingProgram& p) { p.openAndPaint(kSingle); },
+     leaveAlphaScreen<AlphaResult::SaveNew, kOther>, {"Failed to save this icon"}, Mark::Cleared},
     {"SavePalette", kPalette, false, [](AgreeingProgram& p) { p.answer(kPalette); },
      [](AgreeingProgram& p) { p.click("mnuPaletteSub", 5); }, {"The palette file cannot be written"}},
     {"Settings", kSettings, false, [](AgreeingProgram& p) { p.click("mnuOptionsSub", 3); },
@@ -211,6 +228,7 @@ class WritingFailures : public CommandUnderFailures, public testing::WithParamIn
     std::filesystem::current_path(directory_.before());
     if (GetParam().target != Target::New) write(command().target, {'o', 'l', 'd'});
     write(kSingle, build(anyEntry(32, 8)));
+    write(kAlpha, build(anyEntry(32, 32)));
     write(kMulti, build(IcoFile{{anyEntry(32, 4), anyEntry(16, 24), anyEntry(48, 8)}, 0, 1, {}}));
     write(kLies, build(entryOf(anyPicture(32, 24), 0, 0)));
   }

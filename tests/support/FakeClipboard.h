@@ -14,7 +14,10 @@ class FakeClipboard : public Clipboard {
   bool isWithdrawn = false;
   int clears = 0, largestLimit = 0;
 
-  void hold(const Surface& picture) { held = ClipboardImage{picture.width(), picture.height(), picture}; }
+  void hold(const Surface& picture, const Surface& alpha = Surface()) {
+    const Surface colors = alpha.width() > 0 ? picture : Surface();
+    held = ClipboardImage{picture.width(), picture.height(), picture, colors, alpha};
+  }
   bool hasImage() override { return held.has_value(); }
   bool getImage(ClipboardImage& image, int limit) override {
     largestLimit = std::max(largestLimit, limit);
@@ -22,8 +25,8 @@ class FakeClipboard : public Clipboard {
     image = *held;
     return true;
   }
-  bool setImage(const Surface& picture) override {
-    hold(picture);
+  bool setImage(const Surface& picture, const Surface& alpha) override {
+    hold(picture, alpha);
     return true;
   }
   void clear() override {

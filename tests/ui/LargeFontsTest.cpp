@@ -4,6 +4,7 @@
 #include "files/ui/frmGPHeaderDiff.h"
 #include "shell/ui/frmDirDialog.h"
 #include "shell/ui/frmGPAbout.h"
+#include "ui/AlphaFormFixture.h"
 #include "ui/FormFixture.h"
 #include "ui/IconFiles.h"
 #include "ui/MultiIconFormFixture.h"
@@ -196,6 +197,22 @@ TEST_F(LargeFontsOfIconForms, TheBrowserAndTheHeadersShowTheirTextsWhole) {
     settle();
     expectAllTextsAreWhole(headers);
     test::savePicture(headers, QString("font-%1-headers").arg(points));
+  }
+}
+
+class LargeFontsOfAlpha : public test::AlphaFormFixture {};
+
+TEST_F(LargeFontsOfAlpha, TheAlphaScreenShowsItsTextsWholeAndFitsASmallScreen) {
+  constexpr QSize kSmallScreen(800, 600);
+  constexpr int kTitleBar = 30;
+  for (const int points : kPoints) {
+    SCOPED_TRACE(points);
+    const FontOf font(points);
+    openWithAlpha();
+    expectAllTextsAreWhole(*form);
+    EXPECT_LE(form->width(), kSmallScreen.width());
+    EXPECT_LE(form->height() + kTitleBar, kSmallScreen.height());
+    test::saveInBothThemes(QString("font-%1-alpha").arg(points), [&] { return make(test::discIcon(48, true)); });
   }
 }
 

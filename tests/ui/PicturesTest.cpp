@@ -67,7 +67,7 @@ const std::vector<std::string> kOthers = {
     "shift-nw",     "shift-n",      "shift-ne",     "shift-w",     "shift-center", "shift-e",      "shift-sw",
     "shift-s",      "shift-se",     "region-move",  "lighten",     "darken",       "save-palette", "load-palette",
     "help",         "info",         "logo",         "glimmerpane", "more",         "bold",         "italic",
-    "underline",    "strikeout"};
+    "underline",    "strikeout",    "step-down",    "step-up"};
 
 TEST(Pictures, EveryButtonToolAndDialogHasItsPicture) {
   EXPECT_EQ(kToolbar.size(), 27u);

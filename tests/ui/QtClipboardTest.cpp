@@ -272,7 +272,7 @@ TEST_F(QtClipboardTest, AHugePictureThatCannotBeReadInPartIsRefused) {
 TEST_F(QtClipboardTest, AnIconCopiedHereIsAnOpaqueImageForOthers) {
   Surface icon(16, 16, kGround);
   icon.SetPixelV(2, 3, rgb(10, 20, 30));
-  EXPECT_TRUE(clipboard.setImage(icon));
+  EXPECT_TRUE(clipboard.setImage(icon, Surface()));
   EXPECT_TRUE(clipboard.hasImage());
   const QImage pasted = system().image();
   EXPECT_EQ(pasted.size(), QSize(16, 16));
@@ -284,14 +284,51 @@ TEST_F(QtClipboardTest, AnIconCopiedHereIsAnOpaqueImageForOthers) {
   EXPECT_EQ(image.corner.GetPixel(2, 3), rgb(10, 20, 30));
 }
 
+TEST_F(QtClipboardTest, APictureWithAlphaIsOneForOthers) {
+  Surface icon(16, 16, kGround), alpha(16, 16, kBlack);
+  icon.SetPixelV(2, 3, rgb(10, 20, 30));
+  alpha.SetPixelV(2, 3, rgb(60, 60, 60));
+  EXPECT_TRUE(clipboard.setImage(icon, alpha));
+  const QImage pasted = system().image();
+  EXPECT_EQ(pasted.pixel(2, 3), qRgba(10, 20, 30, 60));
+  EXPECT_EQ(pasted.pixel(0, 0), qRgba(192, 192, 192, 0));
+  ASSERT_TRUE(get());
+  ASSERT_TRUE(image.hasAlpha());
+  for (const Surface& colors : {image.corner, image.colors}) EXPECT_EQ(colors.GetPixel(2, 3), rgb(10, 20, 30));
+  EXPECT_EQ(image.alpha.GetPixel(2, 3), rgb(60, 60, 60));
+  EXPECT_EQ(image.alpha.GetPixel(0, 0), kBlack);
+  clipboard.setImage(icon, Surface());
+  ASSERT_TRUE(get());
+  EXPECT_FALSE(image.hasAlpha());
+}
+
+TEST_F(QtClipboardTest, APictureOfAnotherProgramBringsItsAlpha) {
+  QImage picture(20, 60, QImage::Format_ARGB32);
+  picture.fill(Qt::transparent);
+  picture.setPixel(1, 2, qRgba(200, 100, 0, 51));
+  offer({{"image/png", encoded(picture, "png")}});
+  ASSERT_TRUE(get());
+  ASSERT_TRUE(image.hasAlpha());
+  EXPECT_EQ(image.alpha.height(), kLimit);
+  EXPECT_EQ(image.colors.GetPixel(1, 2), rgb(200, 100, 0));
+  EXPECT_EQ(image.alpha.GetPixel(1, 2), rgb(51, 51, 51));
+  EXPECT_NEAR(redOf(image.corner.GetPixel(1, 2)), 192 + (200 - 192) / 5, 1);
+  EXPECT_NEAR(blueOf(image.corner.GetPixel(1, 2)), 192 - 192 / 5, 1);
+  for (const Surface& colors : {image.corner, image.colors}) EXPECT_EQ(colors.GetPixel(0, 0), kGround);
+  EXPECT_EQ(image.alpha.GetPixel(0, 0), kBlack);
+  offer({{"image/png", encoded(sampleImage(16, 16), "png")}});
+  ASSERT_TRUE(get());
+  EXPECT_FALSE(image.hasAlpha());
+}
+
 TEST_F(QtClipboardTest, ASurfaceWithoutPixelsIsNotTaken) {
   system().setText("kept");
-  EXPECT_FALSE(clipboard.setImage(Surface(0, 0)));
+  EXPECT_FALSE(clipboard.setImage(Surface(0, 0), Surface()));
   EXPECT_EQ(system().text(), "kept");
 }
 
 TEST_F(QtClipboardTest, ClearLeavesNothing) {
-  clipboard.setImage(Surface(16, 16));
+  clipboard.setImage(Surface(16, 16), Surface());
   clipboard.clear();
   EXPECT_FALSE(clipboard.hasImage());
   EXPECT_TRUE(system().text().isEmpty());
@@ -307,7 +344,7 @@ TEST_F(QtClipboardTest, EachChangeIsReportedAndSeen) {
   system().setText("text");
   EXPECT_EQ(changes, 2);
   EXPECT_FALSE(hadImage);
-  clipboard.setImage(Surface(16, 16));
+  clipboard.setImage(Surface(16, 16), Surface());
   EXPECT_EQ(changes, 3);
   EXPECT_TRUE(hadImage);
 }

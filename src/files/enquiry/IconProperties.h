@@ -12,7 +12,7 @@ namespace gp {
 // The depth that the image has now: true colour stays true colour, with 32 bits for alpha.
 ColorDepth presentDepth(const IconContainerRec& record, const Surface& image);
 // The bytes of the single-icon file that a save writes: directory, headers, palette and rows. A cursor with alpha
-// counts as such an icon, which it cannot be saved as.
+// counts as the icon with alpha that it becomes.
 std::uint32_t bytesWhenSaved(const IconContainerRec& record, const IconImage& icon);
 
 // The general properties, one per line, with blank lines between their groups.

@@ -10,6 +10,9 @@ namespace gp {
 namespace {
 
 constexpr int kBitsPerByte = 8;
+// Readers take an alpha of 0 for a transparent pixel; 1 looks the same, and the pixel stays painted.
+constexpr std::uint8_t kTransparentAlpha = 0;
+constexpr std::uint8_t kLeastPaintedAlpha = 1;
 
 constexpr std::uint8_t byteOf(int channel) { return static_cast<std::uint8_t>(channel); }
 
@@ -124,7 +127,9 @@ void WriteRowsTrue(const Surface& surface, const Surface& maskSurface, const Alp
   for (int y = surface.height() - 1; y >= 0; --y) {
     for (int x = 0; x < surface.width(); ++x) {
       writeBgr(storedForm(surface.GetPixel(x, y)), out);
-      if (alpha) out.u8(maskSurface.GetPixel(x, y) == kBlack ? alpha->at(x, y) : 0);
+      if (!alpha) continue;
+      const bool isPainted = maskSurface.GetPixel(x, y) == kBlack;
+      out.u8(isPainted ? std::max(alpha->at(x, y), kLeastPaintedAlpha) : kTransparentAlpha);
     }
   }
 }

@@ -45,8 +45,8 @@ void WriteMaskRows(const Surface& surface, ByteWriter& out);
 void WriteRows16(const Surface& surface, ByteWriter& out);
 // One byte per pixel.
 void WriteRows256(const Surface& surface, const Pal256& palette, ByteWriter& out);
-// Blue, green, red; with alpha a fourth byte, which is 0 where the Mask is not black. Rows are not padded. The alpha
-// matrix must have the Surface's size.
+// Blue, green, red; with alpha a fourth byte, which is 0 where the Mask is not black, and at least 1 where it is. Rows
+// are not padded. The alpha matrix must have the Surface's size.
 void WriteRowsTrue(const Surface& surface, const Surface& maskSurface, const AlphaMatrix* alpha, ByteWriter& out);
 
 }  // namespace gp

@@ -14,7 +14,6 @@ namespace {
 constexpr std::uint32_t kSideOfZero = 256;
 constexpr std::uint32_t kLargestSide = std::numeric_limits<int>::max();
 constexpr int kLeastOpaque = 128;
-constexpr std::uint8_t kOpaque = 255;
 
 std::span<const std::uint8_t> pictureOf(const IconFile& file, const IconEntry& entry) {
   return ByteReader(file.span()).bytesAt(entry.imageOffset, ico::readSize(entry.bytesInRes));
@@ -37,7 +36,8 @@ std::uint8_t alphaAt(const std::uint8_t* pixel) { return pixel[kRgbaBytes - 1]; 
 
 IconImage iconOf(const PngPicture& picture) {
   const int width = picture.width, height = picture.height;
-  IconImage icon{Surface(width, height, kBlack), Surface(width, height, kWhite), AlphaMatrix(width, height, kOpaque)};
+  IconImage icon{Surface(width, height, kBlack), Surface(width, height, kWhite),
+                 AlphaMatrix(width, height, kOpaqueAlpha)};
   const std::uint8_t* pixel = picture.rgba.data();
   for (int y = 0; y < height; ++y) {
     std::uint32_t* const image = icon.image.rowForWriting(y, 0, width);

@@ -13,6 +13,9 @@ namespace gp {
 // The kinds of files that Save As writes; the values number the filters.
 enum class SaveMode { Icon = 1, Cursor = 2, Bitmap = 3, Mask = 4 };
 
+struct IconContainerRec;
+struct IconImage;
+
 class IconSaver {
  public:
   // Both must outlive it.
@@ -31,6 +34,14 @@ class IconSaver {
   void doSaveAs(SaveMode mode);
   // Writes the Current Icon and updates its record. Reports a failure.
   void doSaveIconTo(const std::string& path, bool& ok);
+  // Writes `icon`, as `record` describes it, and only then makes it the pixels and the record of the Current Icon; Undo
+  // starts again when a pixel has changed. Asks before it writes over the file with several icons that the Current Icon
+  // came from, or over the file of another container. Returns false after a No and after a failure, which is reported;
+  // the Current Icon is as before then. The icon must have the size of the Current Icon, and alpha values if the record
+  // states alpha.
+  bool saveReplacement(const IconImage& icon, const IconContainerRec& record, const std::string& path);
+  // Closes an open side panel and the frame of an animated cursor.
+  void closeSidePanels();
   // Offers to save the Current Icon; `message` may be empty. `proceed` is false after Cancel and after a failed save.
   void AskSaveCurrent(const std::string& message, bool& proceed);
   // Writes a Surface as a bitmap file. Reports a failure.
@@ -47,14 +58,18 @@ class IconSaver {
 
   bool endsAniSession(int size);
   void showNewIcon(int size);
-  void closeSidePanels();
   void remindOfMultiIconFile();
+  bool mayReplaceFile(const std::string& path);
+  bool findVersionToReplace(const std::string& path, std::optional<FileVersion>& read);
   bool saveOver(const std::string& path);
   std::string askForName(const SaveKind& kind, const std::string& folder);
   // An empty folder means that of the last dialog.
   void saveAs(SaveMode mode, const std::string& folder);
   // When `read` is given, the file must still be that version.
   void saveIconTo(const std::string& path, const std::optional<FileVersion>& read, bool& ok);
+  bool write(const IconImage& icon, const IconContainerRec& record, const std::string& path,
+             const std::optional<FileVersion>& read);
+  void showSaved(const std::string& path);
   void saveCursorTo(const std::string& path, bool& ok);
   void saveBitmapTo(const std::string& path, bool& ok);
   void saveMaskTo(const std::string& path, bool& ok);

@@ -8,7 +8,7 @@ namespace {
 
 int alphaAt(const IconImage& icon, int x, int y) {
   if (icon.mask.GetPixel(x, y) != kBlack) return 0;
-  return icon.hasAlphaValues() ? icon.alpha.at(x, y) : 255;
+  return icon.alphaAt(x, y);
 }
 
 }  // namespace

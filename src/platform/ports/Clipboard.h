@@ -10,7 +10,13 @@ namespace gp {
 struct ClipboardImage {
   int width = 0;  // width of the whole picture, pixels
   int height = 0;
-  Surface corner;  // its top left part, at most as large as requested
+  Surface corner = Surface();  // its top left part, at most as large as requested, without transparency
+  // Of a picture with alpha also the colours of that part as they are, and its alpha values as greys: black is
+  // transparent, white is opaque. Otherwise both are empty.
+  Surface colors = Surface();
+  Surface alpha = Surface();
+
+  bool hasAlpha() const { return alpha.width() > 0; }
 };
 
 class Clipboard {
@@ -21,8 +27,9 @@ class Clipboard {
   // Gets the size of the picture and its corner of at most limit x limit pixels. Returns false and leaves `image`
   // unchanged when there is no picture or it cannot be read.
   virtual bool getImage(ClipboardImage& image, int limit) = 0;
-  // Offers a copy of a picture to other programs. Returns false when the clipboard refuses it.
-  virtual bool setImage(const Surface& image) = 0;
+  // Offers a copy of a picture to other programs. `alpha` has its alpha values as greys, or is empty: then the picture
+  // is opaque. Returns false when the clipboard refuses it.
+  virtual bool setImage(const Surface& image, const Surface& alpha) = 0;
   virtual void clear() = 0;
 };
 

@@ -97,6 +97,9 @@ bool readPictureCorner(const QByteArray& bytes, const QByteArray& format, int li
   const QImage picture = reader.read();
   if (picture.size() != corner) return false;
   image = {size.width(), size.height(), surfaceOf(picture, kGround)};
+  if (!picture.hasAlphaChannel()) return true;
+  image.colors = colorsOf(picture, kGround);
+  image.alpha = alphaGreysOf(picture);
   return true;
 }
 

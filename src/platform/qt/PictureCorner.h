@@ -8,7 +8,7 @@
 
 namespace gp {
 
-// `format` is the name of Qt's reader: "png", "bmp", "gif" or "jpeg". Transparent pixels have the colour kGround.
+// `format` is the name of Qt's reader: "png", "bmp", "gif" or "jpeg". The corner is blended with kGround.
 // Returns false and leaves `image` unchanged when the bytes have another format, are incomplete or are too large.
 bool readPictureCorner(const QByteArray& bytes, const QByteArray& format, int limit, ClipboardImage& image);
 

@@ -58,12 +58,16 @@ const OfferedFormat* formatOf(const QMimeData& content) {
 
 const QMimeData* currentContent() { return QGuiApplication::clipboard()->mimeData(); }
 
-// The program's own picture needs no decoding.
+// The program's own picture needs no decoding. Its colours are those that the icon shows, so that they are not blended.
 bool readOurImage(const QMimeData& content, int limit, ClipboardImage& image) {
   const auto whole = qvariant_cast<QImage>(content.imageData());
   if (whole.isNull()) return false;
-  const QSize corner = whole.size().boundedTo(QSize(limit, limit));
-  image = {whole.width(), whole.height(), surfaceOf(whole.copy(QRect(QPoint(0, 0), corner)), kGround)};
+  const QImage corner = whole.copy(QRect(QPoint(0, 0), whole.size().boundedTo(QSize(limit, limit))));
+  const Surface colors = colorsOf(corner, kGround);
+  image = {whole.width(), whole.height(), colors};
+  if (!corner.hasAlphaChannel()) return true;
+  image.colors = colors;
+  image.alpha = alphaGreysOf(corner);
   return true;
 }
 
@@ -100,10 +104,10 @@ bool QtClipboard::getImage(ClipboardImage& image, int limit) {
   return format && readPictureCorner(offeredData(*content, format->mimeType), format->reader, limit, image);
 }
 
-bool QtClipboard::setImage(const Surface& image) {
+bool QtClipboard::setImage(const Surface& image, const Surface& alpha) {
   if (image.width() == 0 || image.height() == 0) return false;
   auto* content = new QMimeData;
-  content->setImageData(opaqueImageOf(image));
+  content->setImageData(alpha.width() == 0 ? opaqueImageOf(image) : imageWithAlpha(image, alpha));
   ours_ = content;
   QGuiApplication::clipboard()->setMimeData(content);
   return currentContent() == ours_;

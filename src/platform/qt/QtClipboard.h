@@ -27,7 +27,7 @@ class QtClipboard : public Clipboard {
   // Queries the owner once for each content, because the owner may be slow to answer.
   bool hasImage() override;
   bool getImage(ClipboardImage& image, int limit) override;
-  bool setImage(const Surface& image) override;
+  bool setImage(const Surface& image, const Surface& alpha) override;
   void clear() override;
 
   // Called after the content has changed, whichever program changed it.

@@ -10,10 +10,7 @@
 #include "document/ui/ZoomKeys.h"
 #include "drawing/ui/ShiftPad.h"
 #include "drawing/ui/ToolBox.h"
-#include "files/ui/frmGPHeaderDiff.h"
-#include "files/ui/frmGPMultiIcon.h"
 #include "platform/qt/Accessibility.h"
-#include "platform/qt/DialogOwner.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/Pictures.h"
 #include "shell/FormPlacement.h"
@@ -26,7 +23,6 @@
 #include "shell/ui/PointerView.h"
 #include "shell/ui/ToolKeys.h"
 #include "shell/ui/ToolbarView.h"
-#include "shell/ui/frmGPAbout.h"
 
 #include <QCloseEvent>
 #include <QCursor>
@@ -249,25 +245,6 @@ void frmGPEdit::setPlace(const FormPlace& place) {
 }
 
 void frmGPEdit::maximize() { setWindowState(windowState() | Qt::WindowMaximized); }
-
-void frmGPEdit::showAbout() {
-  frmGPAbout about(shell_.ports().system, shell_.ports().boxes, this);
-  about.exec();
-}
-
-void frmGPEdit::showMultiIcon() {
-  const DialogOwner owner;
-  frmGPMultiIcon form(shell_.files().context(), display_, this);
-  form.run();
-}
-
-void frmGPEdit::showHeaderDiff() {
-  const DialogOwner owner;
-  frmGPHeaderDiff form(shell_.files().context(), display_, this);
-  form.exec();
-}
-
-AlphaOutcome frmGPEdit::showAlpha(const IconImage& /*icon*/, AlphaMode /*mode*/) { return {}; }
 
 void frmGPEdit::unload() { close(); }
 

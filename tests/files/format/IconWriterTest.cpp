@@ -110,6 +110,17 @@ TEST(IconRows, AlphaIsWrittenWhereTheMaskIsBlackAndZeroElsewhere) {
   EXPECT_EQ(taken(out), (Bytes{20, 10, 0, 77, 21, 11, 1, 0, 22, 12, 2, 0}));
 }
 
+TEST(IconRows, APaintedPixelOfAlpha0IsWrittenAs1AndATransparentOneAs0) {
+  const Surface surface(4, 1, kBlack);
+  const Surface mask = painted(4, 1, [](int x, int) { return x < 3 ? kBlack : kWhite; });
+  AlphaMatrix alpha(4, 1);
+  alpha.at(1, 0) = 1;
+  alpha.at(2, 0) = 2;
+  ByteWriter out;
+  WriteRowsTrue(surface, mask, &alpha, out);
+  EXPECT_EQ(taken(out), (Bytes{0, 0, 0, 1, 0, 0, 0, 1, 0, 0, 0, 2, 0, 0, 0, 0}));
+}
+
 IconImage plainIcon(int size, Color color) { return {Surface(size, size, color), Surface(size, size, kBlack), {}}; }
 
 IconContainerRec recordOf(ColorDepth depth) {

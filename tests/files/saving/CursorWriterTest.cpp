@@ -1,3 +1,4 @@
+#include "document/AlphaGreys.h"
 #include "document/EditState.h"
 #include "document/IconContainerRec.h"
 #include "files/CursorBuilder.h"
@@ -72,12 +73,13 @@ class CursorWriter : public testing::Test {
   }
   void showWithAlpha(const Picture& p) {
     show(p);
+    state.current().used = true;
     state.current().dirColors = kTrueColor;
     state.current().bitCount = 32;
     state.current().hasAlpha = true;
     state.mAlphaRecs[0] = AlphaMatrix(32, 32);
     for (int y = 0; y < 32; ++y)
-      for (int x = 0; x < 32; ++x) state.mAlphaRecs[0].at(x, y) = static_cast<std::uint8_t>(p.color(x, y).a);
+      for (int x = 0; x < 32; ++x) state.picAlpha.SetPixelV(x, y, greyOf(p.color(x, y).a));
   }
   Bytes written(int x, int y) {
     EXPECT_TRUE(writeCurrentCursor(state, x, y, path));
@@ -110,6 +112,17 @@ TEST_F(CursorWriter, AlphaIsWrittenInFourBytesWhileTheByteCountStaysThatOfThree)
   expected.bytesInRes = 40 + 3072 + 128;
   EXPECT_EQ(written(31, 0), build(expected));
   EXPECT_EQ(fs::file_size(path), 22u + 40 + 4096 + 128);
+}
+
+TEST_F(CursorWriter, APaintedPixelOfAlpha0IsWrittenAs1) {
+  Picture p = anyPicture(32, 32);
+  p.color = [](int x, int y) { return Rgb{x, y, 7, 0}; };
+  showWithAlpha(p);
+  Picture expected = p;
+  expected.color = [&p](int x, int y) { return Rgb{x, y, 7, p.transparent(x, y) ? 0 : 1}; };
+  CursorFile file = cursorOf(expected, 4, 5);
+  file.bytesInRes = 40 + 3072 + 128;
+  EXPECT_EQ(written(4, 5), build(file));
 }
 
 TEST_F(CursorWriter, TheDepthFollowsFromTheColorsOnThePicture) {

@@ -88,6 +88,18 @@ TEST_F(MultiIconAddTest, AnIconWithAlphaGoesInWithItsAlpha) {
   EXPECT_EQ(bytesOf(target), twoWith(entryOf(withSavedAlpha(anyPicture(16, 32))), 2));
 }
 
+TEST_F(MultiIconAddTest, APaintedPixelOfAlpha0GoesInWith1) {
+  Picture picture = anyPicture(16, 32);
+  hold(entryOf(picture));
+  state.picAlpha.fill(kBlack);
+  picture.color = [color = picture.color](int x, int y) {
+    const Rgb c = color(x, y);
+    return Rgb{c.r, c.g, c.b, 1};
+  };
+  add("1/3");
+  EXPECT_EQ(bytesOf(target), twoWith(entryOf(withSavedAlpha(picture)), 2));
+}
+
 TEST_F(MultiIconAddTest, APaintedDownIconGoesInAsWhatItHasBecome) {
   hold(entryOf(anyPicture(16, 8)));
   state.picImage.fill(kWhite);
