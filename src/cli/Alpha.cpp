@@ -1,6 +1,7 @@
 // The subcommands about alpha values: setting them, converting an icon that has them, and showing them as shades.
 #include "alpha/AlphaConversion.h"
 #include "alpha/AlphaShade.h"
+#include "cli/AllImages.h"
 #include "cli/Netpbm.h"
 #include "cli/OneImage.h"
 #include "cli/Streams.h"
@@ -48,12 +49,41 @@ int changeAlpha(const ImageArguments& given, int value, const std::optional<Area
   return writeIcon(icon, recordWithAlpha(loaded->record), given.output);
 }
 
+bool hasAlpha(const LoadedIcon& loaded) { return loaded.record.hasAlpha && loaded.icon.hasAlphaValues(); }
+
 // Loads an icon with alpha values. Empty after an error message.
 std::optional<LoadedIcon> loadWithAlpha(const ImageArguments& given) {
   auto loaded = loadImage(given);
-  if (!loaded || (loaded->record.hasAlpha && loaded->icon.hasAlphaValues())) return loaded;
+  if (!loaded || hasAlpha(*loaded)) return loaded;
   complain(given.input, kNoAlpha);
   return std::nullopt;
+}
+
+void convertTo24(LoadedIcon& loaded, bool asPalette) {
+  loaded.icon = convertRetainAlpha(loaded.icon);
+  loaded.record = recordWithoutAlpha(loaded.record, loaded.icon, asPalette);
+}
+
+int convertOne(const Arguments& arguments, bool asPalette) {
+  ImageArguments given;
+  if (const int status = takeImageArguments("to24", "IN.ico INDEX OUT.ico", arguments, 0, given); status != kDone)
+    return status;
+  auto loaded = loadWithAlpha(given);
+  if (!loaded) return kRefused;
+  convertTo24(*loaded, asPalette);
+  return writeIcon(loaded->icon, loaded->record, given.output);
+}
+
+int convertAll(const Arguments& arguments, bool asPalette) {
+  FolderArguments given;
+  if (const int status = parseFolderArguments("to24", arguments, given); status != kDone) return status;
+  if (const int status = refuseIndex("to24", given.files); status != kDone) return status;
+  const auto convert = [asPalette](LoadedIcon& loaded) -> const char* {
+    if (!hasAlpha(loaded)) return kNoAlpha;
+    convertTo24(loaded, asPalette);
+    return nullptr;
+  };
+  return changeAllImages(given, convert, "no image of it can be converted: ");
 }
 
 }  // namespace
@@ -76,13 +106,7 @@ int runAlpha(const Arguments& arguments) {
 int runTo24(const Arguments& arguments) {
   Arguments rest = arguments;
   const bool asPalette = takeFlag(rest, "--palette");
-  ImageArguments given;
-  if (const int status = takeImageArguments("to24", "IN.ico INDEX OUT.ico", rest, 0, given); status != kDone)
-    return status;
-  const auto loaded = loadWithAlpha(given);
-  if (!loaded) return kRefused;
-  const IconImage converted = convertRetainAlpha(loaded->icon);
-  return writeIcon(converted, recordWithoutAlpha(loaded->record, converted, asPalette), given.output);
+  return takeFlag(rest, "--all") ? convertAll(rest, asPalette) : convertOne(rest, asPalette);
 }
 
 int runShades(const Arguments& arguments) {

@@ -194,11 +194,16 @@ constexpr std::array kRows = std::to_array<Command>({
      .example = "alpha app.ico 0 soft.ico --set 128 --area 0,0,16,4",
      .run = runAlpha},
     {.name = "to24",
-     .usage = "to24 IN.ico INDEX OUT.ico [--palette]",
-     .summary = "one image without its alpha, as it looked",
+     .usage = "to24 IN.ico INDEX OUT.ico [--palette]\n"
+              "            | FILE... --all -d DIR [--palette] [--force] [--max-size MB]",
+     .summary = "one image, or all images of files, without alpha as they looked",
      .help = "Mixes the colors of one image with C0C0C0 as its alpha says, and saves it with 24\n"
              "bits, or with --palette in the bits that its colors need. Pixels whose alpha is 0\n"
-             "percent become transparent. Refused without alpha.",
+             "percent become transparent. Refused without alpha. With --all, converts every image\n"
+             "of each FILE that has alpha and writes the FILE under its name into DIR: all other\n"
+             "images as they are. A FILE without alpha is not written, and of two FILEs of one\n"
+             "name only the first. DIR, --force and --max-size are as with unpack; INDEX does not\n"
+             "go with --all, and a FILE whose name is a number is ./0.",
      .example = "to24 app.ico 0 app24.ico",
      .run = runTo24},
     {.name = "replace",

@@ -1,96 +1,17 @@
 #include "cli/EffectOnAll.h"
 
-#include "cli/Streams.h"
-#include "cli/Updating.h"
-#include "files/format/IconUpdates.h"
-
-#include <algorithm>
-#include <filesystem>
-#include <set>
+#include "cli/AllImages.h"
 
 namespace gp::cli {
-namespace {
-
-constexpr const char* kNameTaken = "a file of this name was given before it, so it is not written";
-constexpr const char* kTooLarge = "too large to be written";
-constexpr const char* kNoneTakesIt = "no image of it takes the effect: ";
-
-// A word in the place of INDEX, which a call without --all has.
-bool isIndex(const std::string& word) {
-  return !word.empty() && std::ranges::all_of(word, [](char c) { return c >= '0' && c <= '9'; });
-}
-
-std::string ownName(const std::string& path) {
-  return isStream(path) ? stemOf(path) + ".ico" : std::filesystem::path(path).filename().string();
-}
-
-// Why a file with images of that many bytes cannot be written; null when it can.
-const char* reasonAgainstSize(std::uint64_t size, const OutputFolder& folder) {
-  if (size > kMaxFileBytes) return kTooLarge;
-  return folder.hasRoomFor(1, size) ? nullptr : kTooMuch;
-}
-
-// Replaces an image by the one with the effect. Returns why it does not take the effect; null when it is replaced.
-const char* applyToEntry(const ChosenEffect& effect, int index, const std::string& path, IconArrays& arrays) {
-  IconDefect defect = IconDefect::None;
-  auto loaded = loadEntry(arrays.file, index, path, defect);
-  if (!loaded) return describe(defect);
-  if (const char* const reason = reasonAgainst(effect, *loaded)) return reason;
-  loaded->icon = applied(effect, loaded->icon);
-  auto icon = newIconOf(*loaded);
-  if (!icon) return describe(WriteDefect::NotWritten);
-  replaceImage(arrays, index, std::move(icon->image));
-  return nullptr;
-}
-
-// What an effect came to in one file.
-struct Outcome {
-  bool isTaken = false;                // by at least one image
-  const char* refusal = nullptr;       // of the first image that does not take it
-  const char* tooManyBytes = nullptr;  // the reason why no further image was tried
-};
-
-// The size is checked before each image, because few bytes of a file can be many images.
-Outcome applyToImages(const ChosenEffect& effect, const std::string& path, const OutputFolder& folder,
-                      IconArrays& arrays) {
-  Outcome outcome;
-  std::uint64_t size = totalSize(arrays.images);
-  for (int i = 0; i < arrays.count(); ++i) {
-    outcome.tooManyBytes = reasonAgainstSize(size, folder);
-    if (outcome.tooManyBytes) break;
-    const ImageBytes& image = arrays.images[static_cast<std::size_t>(i)];
-    size -= image.size();
-    const char* const refusal = applyToEntry(effect, i, path, arrays);
-    size += image.size();
-    if (!refusal) outcome.isTaken = true;
-    if (!outcome.refusal) outcome.refusal = refusal;
-  }
-  return outcome;
-}
-
-bool applyToFile(const ChosenEffect& effect, const std::string& path, OutputFolder& folder) {
-  IconArrays arrays;
-  if (!readForUpdate(path, arrays)) return false;
-  takeWholeImages(arrays);
-  const Outcome outcome = applyToImages(effect, path, folder, arrays);
-  if (outcome.tooManyBytes) return refuse(path, outcome.tooManyBytes);
-  if (!outcome.isTaken) return refuse(path, std::string(kNoneTakesIt) + outcome.refusal);
-  return folder.write(ownName(path), composeWholeFile(arrays));
-}
-
-}  // namespace
 
 int applyToAll(const ChosenEffect& effect, const FolderArguments& given) {
   if (effect.row.changesSize) return badUsage("effect: " + std::string(effect.row.name) + " does not go with --all");
-  if (const int status = makeFolderFor(given); status != kDone) return status;
-  OutputFolder folder(given);
-  std::set<std::string> names;
-  int status = kDone;
-  for (const std::string& path : given.files) {
-    const bool isNew = names.insert(ownName(path)).second;
-    if (!(isNew ? applyToFile(effect, path, folder) : refuse(path, kNameTaken))) status = kRefused;
-  }
-  return status;
+  const auto apply = [&effect](LoadedIcon& loaded) {
+    const char* const reason = reasonAgainst(effect, loaded);
+    if (!reason) loaded.icon = applied(effect, loaded.icon);
+    return reason;
+  };
+  return changeAllImages(given, apply, "no image of it takes the effect: ");
 }
 
 int runEffectOnAll(const Arguments& arguments, const GivenOptions& options) {
@@ -99,8 +20,7 @@ int runEffectOnAll(const Arguments& arguments, const GivenOptions& options) {
   const std::string name = given.files.back();
   given.files.pop_back();
   if (given.files.empty()) return badUsage("effect: FILE... NAME is needed");
-  if (const auto index = std::ranges::find_if(given.files, isIndex); index != given.files.end())
-    return badUsage("effect: --all takes no INDEX; the file of this name is ./" + *index);
+  if (const int status = refuseIndex("effect", given.files); status != kDone) return status;
   int refusal = kDone;
   const auto effect = chooseEffect(name, options, refusal);
   return effect ? applyToAll(*effect, given) : refusal;

@@ -16,7 +16,7 @@ constexpr Color kNavy = rgb(0, 0, 128);
 class PreviewPanelTest : public testing::Test, protected Rooms {
  protected:
   Files files{context, document, drawing, dialog, "/gptmp.ico"};
-  Alpha alpha{files.context()};
+  Alpha alpha{files.context(), files.iconSaver};
   Output output{context, files, alpha.commands};
   PreviewPanel& panel = output.previewPanel;
 
