@@ -37,6 +37,7 @@ TEST(ListTables, RangesHoldTheirNumbersAsText) {
       {"cboGradientAngle(1)", 361, "0", "1", "360", "0"},
       {"cboBlendIn(1)", 19, "0", "5", "90", "40"},
       {"cboTexturize(0)", 9, "0.1", "0.2", "0.9", "0.5"},
+      {"cboAlphaValue", 256, "0", "1", "255", "128"},
       {"cboANI(0)", 90, "1", "2", "90", "30"},
       {"cboANI(1)", 32, "0", "1", "31", "0"},
       {"cboANI(2)", 32, "0", "1", "31", "0"},
