@@ -43,6 +43,10 @@ class AlphaForm : public test::AlphaFormFixture {
       if (const QString name = QString("cmdAlpha(%1)").arg(i); find(name)->isEnabled()) names << name;
     return names;
   }
+  QColor colorAt(int x, int y) {
+    const QImage shown = area()->grab().toImage();
+    return shown.pixelColor(middleOf(x, y) * static_cast<int>(shown.devicePixelRatio()));
+  }
   // The colour in the middle of a sample, beside which the icon's pixel (16, 16) is.
   QColor sampleMiddle(int index) {
     const QImage sample = find(QString("picSample(%1)").arg(index))->grab().toImage();
@@ -96,7 +100,6 @@ TEST_F(AlphaForm, TheMousePaintsAndReadsOut) {
 
 TEST_F(AlphaForm, ThePaintedCellIsShownAtOnce) {
   openWithAlpha();
-  const auto colorAt = [this](int x, int y) { return area()->grab().toImage().pixelColor(middleOf(x, y)); };
   EXPECT_EQ(colorAt(16, 16), QColor(191, 80, 0));
   QTest::mouseClick(area(), Qt::LeftButton, Qt::NoModifier, middleOf(16, 16));
   EXPECT_EQ(colorAt(16, 16), QColor(191, 136, 96));
@@ -202,7 +205,7 @@ TEST_F(AlphaForm, RestoreShowsTheFormerValues) {
   boxes.expectAsked("Restore to original alpha values?", BoxAnswer::Yes);
   click("cmdRestoreAlpha");
   EXPECT_EQ(readouts().last(), "Alpha =  255");
-  EXPECT_EQ(area()->grab().toImage().pixelColor(middleOf(16, 16)), QColor(191, 80, 0));
+  EXPECT_EQ(colorAt(16, 16), QColor(191, 80, 0));
 }
 
 TEST_F(AlphaForm, AnOutcomeClosesTheForm) {
