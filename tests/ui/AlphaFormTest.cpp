@@ -102,7 +102,7 @@ TEST_F(AlphaForm, ThePaintedCellIsShownAtOnce) {
   EXPECT_EQ(colorAt(16, 16), QColor(191, 136, 96));
   EXPECT_EQ(sampleMiddle(0), QColor(223, 167, 127));
   EXPECT_EQ(sampleMiddle(1), QColor(191, 136, 96));
-  EXPECT_EQ(sampleMiddle(2), QColor(128, 72, 32));
+  EXPECT_EQ(sampleMiddle(2), QColor(127, 72, 32));
   EXPECT_EQ(sampleMiddle(3), QColor(128, 128, 128)) << "the shade";
 }
 
