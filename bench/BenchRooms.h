@@ -59,7 +59,7 @@ class NoClipboard : public Clipboard {
  public:
   bool hasImage() override { return false; }
   bool getImage(ClipboardImage&, int) override { return false; }
-  bool setImage(const Surface&) override { return false; }
+  bool setImage(const Surface&, const Surface&) override { return false; }
   void clear() override {}
 };
 

@@ -26,7 +26,7 @@ std::optional<Properties> propertiesOf(const IconFile& file, int index, const st
   if (!loaded) return std::nullopt;
   const IconContainerRec& record = loaded->record;
   return Properties{index,
-                    record.size,
+                    loaded->icon.width(),
                     record.depth(),
                     record.headerDepth(),
                     presentDepth(record, loaded->icon.image),

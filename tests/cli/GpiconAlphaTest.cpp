@@ -139,7 +139,15 @@ TEST_F(GpiconAlpha, InfoStatesDepthsColorsAndBytes) {
       << json.out;
 }
 
-TEST_F(GpiconAlpha, InfoCountsTheColorsWithTheBlackOfTransparentPixels) {
+TEST_F(GpiconAlpha, InfoStatesTheSizeOfEachImage) {
+  for (const int size : {16, 24, 32, 48}) {
+    const std::string input = icon("in.ico", size, 4), sides = std::to_string(size);
+    EXPECT_TRUE(run({"info", input, "0"}).out.starts_with(input + "\t0\t" + sides + "x" + sides + "\t16\t4\t"));
+    EXPECT_NE(run({"info", "--json", input, "0"}).out.find("\"size\":" + sides + ","), std::string::npos);
+  }
+}
+
+TEST_F(GpiconAlpha, InfoCountsTheColorsOfPaintedTransparentAndInvertingPixels) {
   for (const int bits : {1, 4, 8, 24}) {
     const std::string input = icon("in.ico", 16, bits);
     IconDefect defect = IconDefect::None;
@@ -148,7 +156,7 @@ TEST_F(GpiconAlpha, InfoCountsTheColorsWithTheBlackOfTransparentPixels) {
     std::set<Color> colors;
     for (int y = 0; y < 16; ++y)
       for (int x = 0; x < 16; ++x)
-        colors.insert(loaded->icon.mask.GetPixel(x, y) == kBlack ? loaded->icon.image.GetPixel(x, y) : kBlack);
+        colors.insert(loaded->icon.image.GetPixel(x, y));
     const std::string json = run({"info", "--json", input, "0"}).out;
     EXPECT_NE(json.find("\"colorsUsed\":" + std::to_string(colors.size()) + ",\"bytesWhenSaved\":"), std::string::npos)
         << json;

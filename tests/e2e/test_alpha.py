@@ -2,7 +2,7 @@
 flipped and converted back. The expected values are computed here."""
 import icons
 import readers
-from forms import read
+from forms import ALPHA_REMINDER, read
 from panels import PanelDesk
 
 EDIT, CONVERT = 'View/Edit/Create Alpha Channel', 'Convert 32 to 24 BPP (& Retain Alpha Effects)'
@@ -115,7 +115,9 @@ def test_a_24_bit_icon_gets_a_soft_edge_and_is_converted_back(session):
 
     # Opened again, and converted.
     other = desk.openContent('other.ico', icons.fileOf([icons.entryOf(square(), 24)]), SIZE)
-    desk.openFile(path)
+    program.command('ctrl+o')
+    program.chooseFile(path)
+    program.answerBox(ALPHA_REMINDER)
     desk.waitForIcon(SIZE, path)
     program.menu('Alpha', 'Convert 32 to 24 BPP')
     desk.openScreen(CONVERT)
@@ -138,6 +140,7 @@ def test_the_alpha_screen_loses_nothing_by_accident(session):
     content = icons.fileOf([icons.entryOf(withAlpha(square(), {}), 32)])
     path = desk.openContent('soft.ico', content, SIZE)
     program = desk.program
+    program.answerBox(ALPHA_REMINDER)
     program.menuByKeys('alt+a', 'Return')
     desk.openScreen(EDIT)
     session.keys('ctrl+Right', 'ctrl+Down', 'space', 'Return')

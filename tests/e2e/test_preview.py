@@ -5,6 +5,7 @@ from forms import ALPHA_REMINDER, write
 from panels import PanelDesk
 
 PREVIEW, ALPHA = 'Preview - different screen colors', 'Current icon with alpha effects'
+ALPHA_SCREEN = 'View/Edit/Create Alpha Channel'
 PREVIEW_MENU = 'Preview With Different Screen Colors'
 EDIT_ALPHA, REMARKS = 'Edit Alpha Channel ....', '(Remarks: Alpha values are blended with each screen color)'
 RED, GREEN = (255, 0, 0), (10, 200, 90)
@@ -130,8 +131,17 @@ def test_alpha_is_blended_with_each_screen_color(session):
     session.keys('v')
     desk.waitForPanel(ALPHA)
     expectShown(desk, picture, [(0, 128, 255), *SCREENS[1:]], 'the alpha effects')
-    # The panel closes with the container.
+    # The panel closes with the container, and for the alpha screen.
     desk.program.press('Container 2')
+    desk.waitForNoPanel(ALPHA)
+    desk.program.press('Container 1')
+    desk.waitForIcon(32, session.path('alpha.ico'))
+    desk.program.command('ctrl+a')
+    desk.waitForPanel(ALPHA)
+    desk.program.press(EDIT_ALPHA)
+    desk.waitForForm(ALPHA_SCREEN)
+    session.keys('Escape')
+    desk.waitForNoForm(ALPHA_SCREEN)
     desk.waitForNoPanel(ALPHA)
 
 

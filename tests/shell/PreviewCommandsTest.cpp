@@ -141,6 +141,23 @@ TEST_F(PreviewCommands, ProceedDoesNothingAndCloseAndEscLeaveTheIconAsItIs) {
   }
 }
 
+TEST_F(PreviewCommands, TheButtonClosesThePanelAndShowsTheAlphaScreenWithTheIcon) {
+  bringUpAlpha();
+  click("mnuEnquiryCurrent", kAlphaEffects);
+  int screens = 0;
+  form.onAlpha = [&](const IconImage& icon, AlphaMode mode) {
+    ++screens;
+    EXPECT_EQ(mode, AlphaMode::Edit);
+    EXPECT_EQ(icon.image.GetPixel(4, 4), rgb(200, 100, 0));
+    EXPECT_EQ(icon.alpha.at(4, 4), 128);
+    EXPECT_EQ(panel(), kColorPanel);
+    return AlphaOutcome();
+  };
+  preview.editAlphaChannel();
+  EXPECT_EQ(screens, 1);
+  EXPECT_FALSE(state.IsIconChanged());
+}
+
 TEST_F(PreviewCommands, AnotherContainerClosesThePanel) {
   bringUpAlpha();
   click("mnuEnquiryCurrent", kAlphaEffects);

@@ -190,6 +190,7 @@ TEST_F(AlphaForm, TheChangeTo32BitsShowsTheValuesAndMovesNothing) {
   EXPECT_TRUE(find("fraAlphaValuePanel")->isVisible());
   EXPECT_EQ(enabledButtons(), (QStringList{"cmdAlpha(0)", "cmdAlpha(2)", "cmdAlpha(3)"}));
   EXPECT_EQ(readouts().last(), "Alpha =  255");
+  EXPECT_EQ(form->focusWidget(), area()) << "the button is disabled";
   EXPECT_EQ(form->size(), before);
   EXPECT_EQ(find("cmdAlpha(0)")->geometry(), button);
 }

@@ -3,10 +3,10 @@
 #include "alpha/ui/AlphaAreaView.h"
 #include "alpha/ui/AlphaSampleView.h"
 #include "alpha/ui/AlphaValueView.h"
-#include "document/ui/ReadoutsView.h"
 #include "platform/qt/PathText.h"
 #include "platform/qt/widgets/TextCell.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
@@ -23,13 +23,14 @@ constexpr std::array kButtonCaptions{"&Convert to 24 BPP retaining alphaed color
                                      "C&hange current icon to 32 BPP True Color", "&Save session and exit",
                                      "&Abort session and exit"};
 
-struct Readout {
+struct ReadoutCell {
   const char* name;
   const char* widest;
+  int row, column, columns;
 };
-constexpr std::array<Readout, 3> kReadouts{{{"Position", "X= 48  Y= 48 "},
-                                            {"Color of pixel", "RGB:  255, 255, 255 "},
-                                            {"Alpha value of pixel", "Alpha =  255 "}}};
+constexpr std::array<ReadoutCell, 3> kReadouts{{{"Position", "X= 48  Y= 48 ", 0, 0, 1},
+                                                {"Color of pixel", "RGB:  255, 255, 255 ", 1, 0, 2},
+                                                {"Alpha value of pixel", "Alpha =  255 ", 0, 1, 1}}};
 
 // The last one shows the alpha values alone.
 constexpr std::array kSampleNames{"Icon on a light ground", "Icon on a gray ground", "Icon on a dark ground",
@@ -54,47 +55,56 @@ frmGPAlpha::frmGPAlpha(const FilesContext& context, const IconImage& icon, Alpha
 }
 
 void frmGPAlpha::layOut() {
-  auto* columns = new QHBoxLayout(this);
+  const AlphaCanvas& canvas = editor_.canvas();
+  auto* rows = new QVBoxLayout(this);
+  rows->setSpacing(kRowGap);
+  rows->setSizeConstraint(QLayout::SetFixedSize);
+  auto* columns = new QHBoxLayout;
   columns->setSpacing(kColumnGap);
-  columns->setSizeConstraint(QLayout::SetFixedSize);
-  columns->addLayout(makeAreaColumn());
-  auto* controls = new QVBoxLayout;
-  controls->setSpacing(kRowGap);
-  controls->addWidget(makeSamples());
-  controls->addWidget(fraAlphaValuePanel_ = new AlphaValueView(this, editor_));
+  columns->addWidget(area_ = new AlphaAreaView(this, {canvas.picDisp(), canvas.magnification()}), 0, Qt::AlignTop);
+  columns->addLayout(makeControls(), 1);
+  rows->addLayout(columns);
+  rows->addLayout(makeButtons());
+}
+
+QBoxLayout* frmGPAlpha::makeControls() {
+  auto* column = new QVBoxLayout;
+  column->setSpacing(kRowGap);
+  column->addLayout(makeReadouts());
+  column->addWidget(makeSamples());
+  column->addWidget(fraAlphaValuePanel_ = new AlphaValueView(this, editor_));
   // Nothing moves when it is shown.
   QSizePolicy kept = fraAlphaValuePanel_->sizePolicy();
   kept.setRetainSizeWhenHidden(true);
   fraAlphaValuePanel_->setSizePolicy(kept);
-  controls->addStretch();
-  for (int i = 0; i < static_cast<int>(cmdAlpha_.size()); ++i) controls->addWidget(makeButton(i));
-  columns->addLayout(controls);
   connect(fraAlphaValuePanel_, &AlphaValueView::restoreRequested, this,
           [this] { editor_.cmdRestoreAlpha(), refresh(); });
-}
-
-QBoxLayout* frmGPAlpha::makeAreaColumn() {
-  auto* column = new QVBoxLayout;
-  column->setSpacing(kSmallGap);
-  column->addLayout(makeReadouts());
-  const AlphaCanvas& canvas = editor_.canvas();
-  column->addWidget(area_ = new AlphaAreaView(this, {canvas.picDisp(), canvas.magnification()}));
   column->addStretch();
   return column;
 }
 
-QBoxLayout* frmGPAlpha::makeReadouts() {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(0);
+QLayout* frmGPAlpha::makeReadouts() {
+  auto* grid = new QGridLayout;
+  grid->setSpacing(0);
   for (std::size_t i = 0; i < kReadouts.size(); ++i) {
+    const ReadoutCell& readout = kReadouts.at(i);
     auto* cell = lblDispXY_.at(i) =
-        new TextCell(this, indexed("lblDispXY", static_cast<int>(i)), QLatin1String(kReadouts.at(i).name));
-    cell->setText(QLatin1String(kReadouts.at(i).widest));
+        new TextCell(this, indexed("lblDispXY", static_cast<int>(i)), QLatin1String(readout.name));
+    cell->setText(QLatin1String(readout.widest));
     cell->setMinimumSize(cell->sizeHint());
-    row->addWidget(cell);
+    grid->addWidget(cell, readout.row, readout.column, 1, readout.columns);
   }
-  row->addStretch();
-  return row;
+  return grid;
+}
+
+// What changes the icon is on the left, what closes the screen on the right.
+QLayout* frmGPAlpha::makeButtons() {
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(kColumnGap);
+  grid->setVerticalSpacing(kSmallGap);
+  for (int i = 0; i < static_cast<int>(cmdAlpha_.size()); ++i) grid->addWidget(makeButton(i), i % 2, i / 2);
+  for (const int column : {0, 1}) grid->setColumnStretch(column, 1);
+  return grid;
 }
 
 QWidget* frmGPAlpha::makeSamples() {
@@ -122,8 +132,11 @@ QPushButton* frmGPAlpha::makeButton(int index) {
   auto* button = cmdAlpha_.at(i) = new QPushButton(QLatin1String(kButtonCaptions.at(i)), this);
   button->setObjectName(indexed("cmdAlpha", index));
   button->setAutoDefault(false);
-  connect(button, &QPushButton::clicked, this,
-          [this, index] { editor_.cmdAlpha(static_cast<AlphaButton>(index)), refresh(); });
+  connect(button, &QPushButton::clicked, this, [this, button, index] {
+    editor_.cmdAlpha(static_cast<AlphaButton>(index));
+    refresh();
+    if (!button->isEnabled()) area_->view().setFocus();
+  });
   return button;
 }
 

@@ -35,8 +35,9 @@ class frmGPAlpha final : public QDialog {
 
  private:
   void layOut();
-  QBoxLayout* makeAreaColumn();
-  QBoxLayout* makeReadouts();
+  QBoxLayout* makeControls();
+  QLayout* makeReadouts();
+  QLayout* makeButtons();
   QWidget* makeSamples();
   AlphaSampleView* makeSample(QWidget* parent, int index);
   QPushButton* makeButton(int index);

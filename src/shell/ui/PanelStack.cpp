@@ -79,7 +79,7 @@ struct PanelWidget {
 
 // Sets the caption, unless the panel has one already, and the actions of Proceed and Close from the table of panels.
 void completeFrame(PanelFrame* panel, int number, Shell& shell) {
-  if (panel->title().isEmpty()) panel->setCaption(findPanel(number)->caption);
+  if (panel->caption().isEmpty()) panel->setCaption(findPanel(number)->caption);
   QObject::connect(panel, &PanelFrame::proceed, panel,
                    [&shell] { shell.guarded("cmdProceed_Click", [&shell] { shell.cmdProceed(); }); });
   QObject::connect(panel, &PanelFrame::closeRequested, panel,

@@ -22,6 +22,7 @@ class PanelFrame : public QWidget {
 
   // The name of the frame, a menu caption with && for &. It is the title of a panel that has no other one.
   void setCaption(const QString& caption);
+  const QString& caption() const { return caption_; }
   // The name of what the panel does, if it has another one; the caption is then above it.
   void setTitle(const QString& title);
   // The heading that is shown last: the title, or else the caption.
