@@ -295,25 +295,30 @@ TEST_F(AlphaCommandsTest, APaletteThatAFileCannotHaveIsNotOffered) {
   EXPECT_TRUE(samePixels(decode(bytesOf(target)).image, state.picImage));
 }
 
-TEST_F(AlphaCommandsTest, AnIconThatIsReplacedDuringThePaletteQuestionIsNotConverted) {
-  class ReplacingBoxes : public MessageBoxes {
-   public:
-    std::function<void()> inside;
-    BoxAnswer show(const std::string&, BoxButtons, BoxIcon, BoxAnswer) override { return inside(), BoxAnswer::Yes; }
-  } replacing;
+// The user agrees to a box, during which another program or a timer opens another icon.
+class ReplacingBoxes : public MessageBoxes {
+ public:
+  std::function<void()> inside;
+  BoxAnswer show(const std::string&, BoxButtons, BoxIcon, BoxAnswer) override { return inside(), BoxAnswer::Yes; }
+};
+
+TEST_F(AlphaCommandsTest, AnIconThatIsReplacedDuringAQuestionGetsNothing) {
+  ReplacingBoxes replacing;
   replacing.inside = [this] { EXPECT_TRUE(openQuietly(folder.write("other.ico", build(anyEntry(16, 32))))); };
-  given(entryOf(plainPicture(16, {1, 2, 3, 255})));
   const Context context{state, editor, display, replacing, pump};
   Files other{context, rooms.document, rooms.drawing, rooms.dialog, folder.path("scratch.ico")};
   AlphaCommands asking{other.context(), other.iconSaver};
   asking.attach(&screen);
-  screen.onAlpha = [this](const IconImage& icon) {
-    return AlphaOutcome{AlphaResult::ConvertTo24, target, convertRetainAlpha(icon)};
-  };
-  asking.mnuAlphaSub(kConvertAlpha);
-  EXPECT_FALSE(std::filesystem::exists(target));
-  EXPECT_TRUE(record().hasAlpha);
-  EXPECT_EQ(record().path.trimmed(), folder.path("other.ico"));
+  // The question about the palette, then that about the file of another container.
+  for (const AlphaResult result : {AlphaResult::ConvertTo24, AlphaResult::SaveChanged}) {
+    given(entryOf(plainPicture(16, {1, 2, 3, 255})));
+    state.mIconRecs[3].path = result == AlphaResult::SaveChanged ? target : "";
+    screen.onAlpha = [&](const IconImage& icon) { return AlphaOutcome{result, target, icon}; };
+    asking.mnuAlphaSub(kEditAlpha);
+    EXPECT_FALSE(std::filesystem::exists(target));
+    EXPECT_TRUE(record().hasAlpha);
+    EXPECT_EQ(record().path.trimmed(), folder.path("other.ico"));
+  }
 }
 
 // Targets.

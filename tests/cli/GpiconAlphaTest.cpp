@@ -155,8 +155,7 @@ TEST_F(GpiconAlpha, InfoCountsTheColorsOfPaintedTransparentAndInvertingPixels) {
     ASSERT_TRUE(loaded);
     std::set<Color> colors;
     for (int y = 0; y < 16; ++y)
-      for (int x = 0; x < 16; ++x)
-        colors.insert(loaded->icon.image.GetPixel(x, y));
+      for (int x = 0; x < 16; ++x) colors.insert(loaded->icon.image.GetPixel(x, y));
     const std::string json = run({"info", "--json", input, "0"}).out;
     EXPECT_NE(json.find("\"colorsUsed\":" + std::to_string(colors.size()) + ",\"bytesWhenSaved\":"), std::string::npos)
         << json;

@@ -62,6 +62,13 @@ TEST_F(GpiconTo24All, EachImageWithAlphaIsTheOneThatTo24AndReplaceMakeAndOthersS
   }
 }
 
+TEST_F(GpiconTo24All, TwoImagesThatGetOneSizeAndDepthBothStay) {
+  expectDone(convert({folder.write("two.ico", fileOf({anyEntry(16, 32), anyEntry(16, 24)}))}));
+  EXPECT_EQ(lines(run({"list", out + "/two.ico"}).out), 2);
+  EXPECT_EQ(number(written("two.ico"), 6 + 6, 2), 24U);
+  EXPECT_EQ(number(written("two.ico"), 6 + 16 + 6, 2), 24U);
+}
+
 TEST_F(GpiconTo24All, AFileWithoutAlphaIsRefusedAndTheOthersAreWritten) {
   const std::string plain = folder.write("plain.ico", fileOf({anyEntry(16, 24), anyEntry(32, 4)}));
   const std::string alpha = folder.write("alpha.ico", fileOf({anyEntry(16, 32)}));

@@ -55,8 +55,8 @@ class PreviewPanelTest : public testing::Test, protected Rooms {
   }
   // The first pixels of the first row.
   std::vector<Color> row(int i, int count) const {
-    std::vector<Color> colors;
-    for (int x = 0; x < count; ++x) colors.push_back(panel.picture(i).GetPixel(x, 0));
+    std::vector<Color> colors(static_cast<std::size_t>(count));
+    for (int x = 0; x < count; ++x) colors[static_cast<std::size_t>(x)] = panel.picture(i).GetPixel(x, 0);
     return colors;
   }
   int drawn() { return display.count(DisplayPart::SidePanel); }
