@@ -57,11 +57,13 @@ void AlphaCommands::showScreen(AlphaMode mode) {
   const unsigned serial = state_.iconSerial;
   const IconImage icon = currentIcon(state_);
   reportMissingValues(icon);
-  if (state_.iconSerial != serial) return;
-  const AlphaOutcome outcome = forms_->showAlpha(icon, mode);
-  // The values of another icon would be saved.
-  if (state_.iconSerial != serial) return;
-  apply(outcome);
+  std::optional<AlphaMatrix> resumed;
+  // The values of another icon are not saved.
+  while (state_.iconSerial == serial) {
+    const AlphaOutcome outcome = forms_->showAlpha(icon, mode, resumed);
+    if (state_.iconSerial != serial || apply(outcome)) break;
+    resumed = outcome.values;
+  }
   if (state_.iconSerial == serial) context_.document.editingArea.ShowCurrentIcon();
 }
 
@@ -70,29 +72,34 @@ void AlphaCommands::reportMissingValues(const IconImage& icon) {
   context_.boxes.tell(AlphaRecIsReady(state_) ? kValuesNotCopied : kValuesMissing, BoxIcon::Exclamation);
 }
 
-void AlphaCommands::apply(const AlphaOutcome& outcome) {
+// Returns false when the outcome could not be saved, so that the session is not over.
+bool AlphaCommands::apply(const AlphaOutcome& outcome) {
   switch (outcome.result) {
     case AlphaResult::None:
-      return;
+      break;
     case AlphaResult::ConvertTo24:
       return saveWithoutAlpha(outcome);
     case AlphaResult::SaveChanged:
     case AlphaResult::SaveNew:
       return saveWithAlpha(outcome);
   }
+  return true;
 }
 
-void AlphaCommands::saveWithAlpha(const AlphaOutcome& outcome) {
-  if (!outcome.icon.hasAlphaValues()) return context_.boxes.tell(kValuesNotStored, BoxIcon::Exclamation);
-  saver_.saveReplacement(outcome.icon, recordWithAlpha(state_.current()), outcome.target);
+bool AlphaCommands::saveWithAlpha(const AlphaOutcome& outcome) {
+  if (!outcome.icon.hasAlphaValues()) {
+    context_.boxes.tell(kValuesNotStored, BoxIcon::Exclamation);
+    return true;
+  }
+  return saver_.saveReplacement(outcome.icon, recordWithAlpha(state_.current()), outcome.target);
 }
 
-void AlphaCommands::saveWithoutAlpha(const AlphaOutcome& outcome) {
+bool AlphaCommands::saveWithoutAlpha(const AlphaOutcome& outcome) {
   const unsigned serial = state_.iconSerial;
   const IconContainerRec former = state_.current();
   const bool asPalette = choosesPalette(former, outcome.icon);
-  if (state_.iconSerial != serial) return;
-  saver_.saveReplacement(outcome.icon, recordWithoutAlpha(former, outcome.icon, asPalette), outcome.target);
+  if (state_.iconSerial != serial) return false;
+  return saver_.saveReplacement(outcome.icon, recordWithoutAlpha(former, outcome.icon, asPalette), outcome.target);
 }
 
 // Only a palette that can be written is offered.

@@ -18,17 +18,16 @@ class AlphaCommands {
   void attach(AlphaForms* forms) { forms_ = forms; }
 
   // mnuAlphaSub: 0 edits alpha values, 1 converts to 24 bits. Saves what the screen leaves; the Current Icon changes
-  // only after its file has been written.
+  // only after its file has been written. As long as it cannot be, the screen comes up again with the session.
   void mnuAlphaSub(int index);
 
  private:
   bool mayShow();
-  bool endsAniSession();
   void reportMissingValues(const IconImage& icon);
   void showScreen(AlphaMode mode);
-  void apply(const AlphaOutcome& outcome);
-  void saveWithAlpha(const AlphaOutcome& outcome);
-  void saveWithoutAlpha(const AlphaOutcome& outcome);
+  [[nodiscard]] bool apply(const AlphaOutcome& outcome);
+  bool saveWithAlpha(const AlphaOutcome& outcome);
+  bool saveWithoutAlpha(const AlphaOutcome& outcome);
   bool choosesPalette(const IconContainerRec& record, const IconImage& icon);
 
   FilesContext context_;

@@ -40,6 +40,11 @@ AlphaEditor::AlphaEditor(const IconImage& icon, AlphaMode mode, const FilesConte
   takeChanged();
 }
 
+void AlphaEditor::resume(const AlphaMatrix& values) {
+  canvas_.replaceAlpha(values);
+  mEditing_ = mChanged_ = true;
+}
+
 const char* AlphaEditor::caption() const { return kCaptions.at(static_cast<std::size_t>(mode_)); }
 
 bool AlphaEditor::isEnabled(AlphaButton button) const {
@@ -147,13 +152,13 @@ void AlphaEditor::changeTo32() {
 void AlphaEditor::convertTo24() {
   if (!context_.boxes.ask(kTo24Question)) return;
   const std::string path = chooseTargetFile();
-  if (!path.empty()) close({AlphaResult::ConvertTo24, path, convertRetainAlpha(canvas_.icon())});
+  if (!path.empty()) close({AlphaResult::ConvertTo24, path, convertRetainAlpha(canvas_.icon()), canvas_.icon().alpha});
 }
 
 void AlphaEditor::save() {
   const std::string path = chooseTargetFile();
   if (path.empty() || !context_.boxes.ask("Proceed to save to " + path + "?")) return;
-  close({mHadAlpha_ ? AlphaResult::SaveChanged : AlphaResult::SaveNew, path, canvas_.icon()});
+  close({mHadAlpha_ ? AlphaResult::SaveChanged : AlphaResult::SaveNew, path, canvas_.icon(), canvas_.icon().alpha});
 }
 
 // An icon from a file of several gets no name, which would be that of the whole file.

@@ -23,6 +23,9 @@ class AlphaEditor {
   AlphaEditor(const AlphaEditor&) = delete;
   AlphaEditor& operator=(const AlphaEditor&) = delete;
 
+  // Goes on with the values of a session that could not be saved. The matrix must have the size of the icon.
+  void resume(const AlphaMatrix& values);
+
   const char* caption() const;
   // True once a command has closed the screen. The outcome is final then.
   bool isClosed() const { return closed_; }

@@ -21,6 +21,8 @@ struct AlphaOutcome {
   AlphaResult result = AlphaResult::None;
   std::string target;  // the chosen file
   IconImage icon;      // the icon to save; without alpha values after ConvertTo24
+  // The values when the screen closed, with which it goes on if the icon cannot be saved.
+  AlphaMatrix values = AlphaMatrix();
 };
 
 }  // namespace gp

@@ -3,6 +3,7 @@
 #include "colour/ColorCount.h"
 #include "document/Announcements.h"
 #include "document/Messages.h"
+#include "files/opening/IconMessages.h"
 #include "platform/files/FileLock.h"
 
 #include <chrono>
@@ -365,6 +366,40 @@ TEST_F(AlphaCommandsTest, AFileThatAnotherContainerHoldsIsAskedAboutAtEachOutcom
   boxes.expectAsked(held, BoxAnswer::Yes);
   saveWith(77);
   EXPECT_EQ(alphaRec(), AlphaMatrix(32, 32, 77));
+}
+
+// The target is a folder at first.
+TEST_F(AlphaCommandsTest, TheScreenComesUpAgainWithItsValuesUntilTheyAreSavedOrGivenUp) {
+  for (const AlphaResult result : {AlphaResult::SaveNew, AlphaResult::ConvertTo24}) {
+    given(entryOf(anyPicture(16, 32)));
+    const std::string folderOfThatName = folder.path("a folder.ico");
+    std::filesystem::create_directory(folderOfThatName);
+    const AlphaMatrix painted(16, 16, 77);
+    const auto saveTo = [&](const std::string& path) {
+      IconImage icon = withAlpha(currentIcon(state), 77);
+      return AlphaOutcome{result, path, result == AlphaResult::SaveNew ? icon : convertRetainAlpha(icon), painted};
+    };
+    const int former = screen.resumptions;
+    screen.onAlpha = [&](const IconImage&) { return saveTo(folderOfThatName); };
+    screen.onResumed = [&](const AlphaMatrix& values) {
+      EXPECT_EQ(values, painted);
+      return saveTo(screen.resumptions - former < 3 ? folderOfThatName : target);
+    };
+    const auto expectPaletteQuestion = [&] {
+      if (result == AlphaResult::ConvertTo24)
+        boxes.expectAsked("The actual color depth of image is of 256-color only.\nSave with this palette mode instead?",
+                          BoxAnswer::No);
+    };
+    for (int failure = 0; failure < 3; ++failure) {
+      expectPaletteQuestion();
+      boxes.expectTold(kReadOnlyFile, BoxIcon::Exclamation);
+    }
+    expectPaletteQuestion();
+    commands.mnuAlphaSub(kEditAlpha);
+    EXPECT_EQ(screen.resumptions, former + 3);
+    EXPECT_EQ(record().path.trimmed(), target);
+    EXPECT_EQ(record().hasAlpha, result == AlphaResult::SaveNew);
+  }
 }
 
 TEST_F(AlphaCommandsTest, AFileThatAnotherProgramHasChangedOrUpdatesIsNotWritten) {

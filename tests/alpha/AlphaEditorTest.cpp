@@ -506,6 +506,40 @@ TEST_F(AlphaScreen, AlphaOfAllZeroBecomesAnEmptyIconAndAllOpaqueKeepsIts) {
 
 // Closing.
 
+TEST_F(AlphaScreen, AResumedSessionGoesOnWithItsValues) {
+  for (const bool hadAlpha : {true, false}) {
+    hadAlpha ? openWithAlpha(60) : open(halfIcon());
+    const AlphaMatrix values(32, 32, 200);
+    editor->resume(values);
+    EXPECT_TRUE(editor->isEditing() && editor->isChanged() && editor->canPaint());
+    EXPECT_FALSE(editor->isEnabled(AlphaButton::ChangeTo32));
+    EXPECT_EQ(alphaAt(3, 4), 200);
+    EXPECT_EQ(editor->canvas().picMaskAlpha().GetPixel(3, 4), rgb(56, 56, 56));
+    boxes.expectAsked(kExit, BoxAnswer::No);
+    EXPECT_FALSE(editor->mayClose());
+    paint(1, 1, 9);
+    dialogs.paths = {"/tmp/out.ico"};
+    boxes.expectAsked("Proceed to save to /tmp/out.ico?", BoxAnswer::Yes);
+    editor->cmdAlpha(AlphaButton::Save);
+    EXPECT_EQ(editor->outcome().result, hadAlpha ? AlphaResult::SaveChanged : AlphaResult::SaveNew);
+    EXPECT_EQ(editor->outcome().values.at(1, 1), 9);
+    EXPECT_EQ(editor->outcome().values.at(2, 1), 200);
+  }
+  openWithAlpha(60);
+  editor->resume(AlphaMatrix(32, 32, 200));
+  boxes.expectAsked(kRestore, BoxAnswer::Yes);
+  editor->cmdRestoreAlpha();
+  EXPECT_EQ(alphaAt(3, 4), 60) << "the values with which the icon arrived";
+}
+
+TEST_F(AlphaScreen, AConversionLeavesTheValuesToo) {
+  openWithAlpha(60, AlphaMode::Convert);
+  boxes.expectAsked(kTo24, BoxAnswer::Yes);
+  dialogs.paths = {"/tmp/out.ico"};
+  editor->cmdAlpha(AlphaButton::ConvertTo24);
+  EXPECT_EQ(editor->outcome().values, AlphaMatrix(32, 32, 60));
+}
+
 TEST_F(AlphaScreen, AbortDoesNotAsk) {
   openWithAlpha();
   paint(3, 3, 9);

@@ -12,14 +12,20 @@ namespace gp::test {
 
 inline constexpr int kEditAlpha = 0, kConvertAlpha = 1;
 
-// By default the user aborts the session.
+// By default the user aborts the session, and one that comes up again.
 class FakeAlphaForms : public AlphaForms {
  public:
   std::function<AlphaOutcome(const IconImage& icon)> onAlpha;
   std::vector<IconImage> icons;
   std::vector<AlphaMode> modes;
+  std::function<AlphaOutcome(const AlphaMatrix& values)> onResumed;
+  int resumptions = 0;
 
-  AlphaOutcome showAlpha(const IconImage& icon, AlphaMode mode) override {
+  AlphaOutcome showAlpha(const IconImage& icon, AlphaMode mode, const std::optional<AlphaMatrix>& resumed) override {
+    if (resumed) {
+      ++resumptions;
+      return onResumed ? onResumed(*resumed) : AlphaOutcome();
+    }
     icons.push_back(icon);
     modes.push_back(mode);
     return onAlpha ? onAlpha(icon) : AlphaOutcome();

@@ -9,6 +9,7 @@ EDIT, CONVERT = 'View/Edit/Create Alpha Channel', 'Convert 32 to 24 BPP (& Retai
 AREA = 'Alpha values of the icon'
 NO_CHANNEL = 'Current Icon has no Alpha Channel.  Proceed still?'
 HARDWARE = 'Not all hardware peripherals are always capable of supporting True Color.  Proceed?'
+HELD_BY_1 = 'Container 1 holds an icon of this file. Proceed?'
 SAVE_QUESTION, EXIT_QUESTION = 'Proceed to save to ', 'Exit without saving?'
 TO_24_QUESTION, PALETTE_QUESTION = 'Change the current icon to 24 BPP?', 'The actual color depth of image is of 256-color only.'
 TO_32, TO_24 = 'Change current icon to 32 BPP True Color', 'Convert to 24 BPP retaining alphaed colors'
@@ -159,3 +160,33 @@ def test_the_alpha_screen_loses_nothing_by_accident(session):
     desk.waitForNoForm(EDIT)
     assert read(path) == content
     program.wait(lambda: not program.dialogs(), 'no question')
+
+
+def test_values_that_could_not_be_saved_come_back(session):
+    desk = AlphaDesk(session)
+    content = icons.fileOf([icons.entryOf(square(), 24)])
+    held = desk.openContent('held.ico', content, SIZE)
+    program = desk.program
+    program.press('Container 2')
+    desk.openContent('square.ico', content, SIZE)
+    program.menu('Alpha', EDIT)
+    program.answerBox(NO_CHANNEL, 'alt+y')
+    desk.openScreen(EDIT)
+    program.press(TO_32)
+    program.answerBox(HARDWARE, 'alt+y')
+    session.click(desk.pixel(5, 6))
+    program.press('Save session and exit')
+    program.chooseFile(held, replace=True)
+    program.answerBox(SAVE_QUESTION + held, 'alt+y')
+    program.answerBox(HELD_BY_1, 'alt+n')
+    desk.openScreen(EDIT)
+    session.move(desk.pixel(5, 6))
+    desk.waitForReadout('Alpha value of pixel', f'Alpha = {FIRST_VALUE}')
+    assert read(held) == content
+    path = session.path('free.ico')
+    program.press('Save session and exit')
+    program.chooseFile(path)
+    program.answerBox(SAVE_QUESTION + path, 'alt+y')
+    desk.waitForNoForm(EDIT)
+    desk.waitForIcon(SIZE, path)
+    expectFile(path, withAlpha(square(), {(5, 6): FIRST_VALUE}), 32, 'the icon that found another file')

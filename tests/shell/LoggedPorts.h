@@ -53,7 +53,7 @@ class LoggedForms : public ShellForms, public FileForms, public AlphaForms {
   void unload() override { log_.push_back("unload"); }
   void showMultiIcon() override { log_.push_back("browser"); }
   void showHeaderDiff() override { log_.push_back("headers"); }
-  AlphaOutcome showAlpha(const IconImage&, AlphaMode) override {
+  AlphaOutcome showAlpha(const IconImage&, AlphaMode, const std::optional<AlphaMatrix>&) override {
     log_.push_back("alpha");
     return {};
   }

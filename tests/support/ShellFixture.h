@@ -32,8 +32,9 @@ class FakeForm : public ShellForms, public FileForms, public AlphaForms {
     ++multiIcons;
     if (onMultiIcon) onMultiIcon();
   }
-  AlphaOutcome showAlpha(const IconImage& icon, AlphaMode mode) override {
-    return onAlpha ? onAlpha(icon, mode) : AlphaOutcome();
+  // A session that comes up again is aborted.
+  AlphaOutcome showAlpha(const IconImage& icon, AlphaMode mode, const std::optional<AlphaMatrix>& resumed) override {
+    return onAlpha && !resumed ? onAlpha(icon, mode) : AlphaOutcome();
   }
   void showHeaderDiff() override {
     ++headerDiffs;

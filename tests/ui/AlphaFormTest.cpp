@@ -98,6 +98,18 @@ TEST_F(AlphaForm, TheMousePaintsAndReadsOut) {
   EXPECT_EQ(saved(), expected);
 }
 
+TEST_F(AlphaForm, AResumedSessionShowsItsValues) {
+  open(discIcon(32, false));
+  AlphaMatrix values(32, 32, 255);
+  values.at(18, 14) = 0;
+  form->resume(values);
+  EXPECT_TRUE(find("fraAlphaValuePanel")->isVisible());
+  EXPECT_EQ(enabledButtons(), (QStringList{"cmdAlpha(0)", "cmdAlpha(2)", "cmdAlpha(3)"}));
+  EXPECT_EQ(colorAt(18, 14), QColor(192, 192, 192));
+  QTest::mouseMove(area(), middleOf(18, 14));
+  EXPECT_EQ(readouts().last(), "Alpha =  0");
+}
+
 TEST_F(AlphaForm, ThePaintedCellIsShownAtOnce) {
   openWithAlpha();
   EXPECT_EQ(colorAt(16, 16), QColor(191, 80, 0));

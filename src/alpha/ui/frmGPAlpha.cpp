@@ -54,6 +54,11 @@ frmGPAlpha::frmGPAlpha(const FilesContext& context, const IconImage& icon, Alpha
   area_->view().setFocus();
 }
 
+void frmGPAlpha::resume(const AlphaMatrix& values) {
+  editor_.resume(values);
+  refresh();
+}
+
 void frmGPAlpha::layOut() {
   const AlphaCanvas& canvas = editor_.canvas();
   auto* rows = new QVBoxLayout(this);

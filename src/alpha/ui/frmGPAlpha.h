@@ -25,6 +25,8 @@ class frmGPAlpha final : public QDialog {
   // The icon must have one of the icon sizes. The objects that the context refers to must outlive the form.
   frmGPAlpha(const FilesContext& context, const IconImage& icon, AlphaMode mode, QWidget* parent);
 
+  // Before it is shown: goes on with the values of a session that could not be saved.
+  void resume(const AlphaMatrix& values);
   const AlphaOutcome& outcome() const { return editor_.outcome(); }
 
   // The close box and Escape.

@@ -47,7 +47,7 @@ class frmGPEdit final : public QMainWindow, public ShellForms, public FileForms,
   void showMultiIcon() override;
   void showHeaderDiff() override;
   // AlphaForms.
-  AlphaOutcome showAlpha(const IconImage& icon, AlphaMode mode) override;
+  AlphaOutcome showAlpha(const IconImage& icon, AlphaMode mode, const std::optional<AlphaMatrix>& resumed) override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;

@@ -26,9 +26,10 @@ void frmGPEdit::showHeaderDiff() {
   form.exec();
 }
 
-AlphaOutcome frmGPEdit::showAlpha(const IconImage& icon, AlphaMode mode) {
+AlphaOutcome frmGPEdit::showAlpha(const IconImage& icon, AlphaMode mode, const std::optional<AlphaMatrix>& resumed) {
   const DialogOwner owner;
   frmGPAlpha form(shell_.files().context(), icon, mode, this);
+  if (resumed) form.resume(*resumed);
   form.exec();
   return form.outcome();
 }
