@@ -1,6 +1,6 @@
 // gpicon effect --all: the files that it writes byte by byte, which files and images it refuses, and its arguments.
 #include "cli/EffectOnAll.h"
-#include "cli/GpiconFixture.h"
+#include "cli/GpiconAllFixture.h"
 #include "effects/EffectCases.h"
 #include "effects/MadeUpEffect.h"
 
@@ -46,31 +46,15 @@ Bytes imageOf(const Bytes& file, std::size_t i) {
   return part(file, number(file, at + 12, 4), number(file, at + 8, 4));
 }
 
-class GpiconEffectOnAll : public Gpicon {
+class GpiconEffectOnAll : public GpiconAll {
  protected:
-  const std::string out = folder.path("out");
+  GpiconEffectOnAll() : GpiconAll("effect") {}
 
-  Outcome apply(std::vector<std::string> words, const std::vector<std::string>& more = {}) const {
-    words.insert(words.begin(), "effect");
-    words.insert(words.end(), {"--all", "-d", out});
-    words.insert(words.end(), more.begin(), more.end());
-    return run(words);
-  }
-  void expectDone(const Outcome& o) const {
-    EXPECT_EQ(o.status, 0);
-    EXPECT_EQ(o.out + o.err, "");
-  }
   void expectLine(const Outcome& o, const std::string& line) const {
     EXPECT_EQ(o.status, 1);
     EXPECT_EQ(o.out, "");
     EXPECT_EQ(o.err, "gpicon: " + line + "\n");
   }
-  void expectBadUsage(const Outcome& o, const std::string& text) const {
-    EXPECT_EQ(o.status, 2);
-    EXPECT_EQ(o.err, "gpicon: effect: " + text + " (see gpicon --help)\n");
-    EXPECT_FALSE(fs::exists(out));
-  }
-  Bytes written(const std::string& name) const { return bytesOf(out + "/" + name); }
 };
 
 // Each image is what `effect` makes of it alone, put in by `replace`, and an image that `effect` refuses is not
@@ -97,7 +81,7 @@ TEST_F(GpiconEffectOnAll, EachImageIsTheOneThatEffectAndReplaceMake) {
     }
     std::vector<std::string> words{path, effect->name};
     words.insert(words.end(), options.begin(), options.end());
-    expectDone(apply(words, {"--force"}));
+    expectDone(runAll(words, {"--force"}));
     EXPECT_EQ(written("many.ico"), bytesOf(expected));
   }
   EXPECT_GT(replaced, 40);
@@ -110,7 +94,7 @@ TEST_F(GpiconEffectOnAll, ReservedBytesPlanesAndOtherImagesStay) {
     file[kDirectory + i * kEntry + 3] = static_cast<std::uint8_t>(100 + i);  // reserved
     file[kDirectory + i * kEntry + 4] = static_cast<std::uint8_t>(50 + i);   // planes
   }
-  expectDone(apply({folder.write("a.ico", file), "invert"}));
+  expectDone(runAll({folder.write("a.ico", file), "invert"}));
   const Bytes made = written("a.ico");
   ASSERT_EQ(made.size(), file.size());
   EXPECT_EQ(Bytes(made.begin(), made.begin() + 6), Bytes(file.begin(), file.begin() + 6));
@@ -122,7 +106,7 @@ TEST_F(GpiconEffectOnAll, ReservedBytesPlanesAndOtherImagesStay) {
 TEST_F(GpiconEffectOnAll, SizeColorsBitsAndBytesAreThoseOfASave) {
   Entry wrong = entry(16, 8);  // five standard colours, which a save writes in 4 bits
   Bytes file = fileOf({wrong, entry(32, 24)});
-  expectDone(apply({folder.write("a.ico", file), "turn", "--left"}));
+  expectDone(runAll({folder.write("a.ico", file), "turn", "--left"}));
   const Bytes made = written("a.ico");
   EXPECT_EQ(fieldsOf(made, 0), (Bytes{16, 16, 16, 0, 1, 0, 4, 0}));
   EXPECT_EQ(imageOf(made, 0).size(), imageBytes(pictureOf(16, 4)).size());
@@ -132,7 +116,7 @@ TEST_F(GpiconEffectOnAll, SizeColorsBitsAndBytesAreThoseOfASave) {
 TEST_F(GpiconEffectOnAll, AnImageIsWrittenEvenIfAnotherThenHasItsSizeAndDepth) {
   // Both have five standard colours.
   const std::string path = folder.write("a.ico", fileOf({entry(32, 4), entry(32, 8)}));
-  expectDone(apply({path, "flip", "--vertical"}));
+  expectDone(runAll({path, "flip", "--vertical"}));
   const Bytes made = written("a.ico");
   EXPECT_EQ(fieldsOf(made, 0), (Bytes{32, 32, 16, 0, 1, 0, 4, 0}));
   EXPECT_EQ(fieldsOf(made, 1), fieldsOf(made, 0));
@@ -157,8 +141,8 @@ TEST_F(GpiconEffectOnAll, ImagesAreLaidOutAfreshInTheOrderOfTheDirectory) {
     at += sizeOf(*e);
   }
   append(file, {1, 2, 3});
-  expectDone(apply({folder.write("mixed.ico", file), "invert"}));
-  expectDone(apply({folder.write("ordered.ico", ordered), "invert"}));
+  expectDone(runAll({folder.write("mixed.ico", file), "invert"}));
+  expectDone(runAll({folder.write("ordered.ico", ordered), "invert"}));
   EXPECT_EQ(written("mixed.ico"), written("ordered.ico"));
   EXPECT_EQ(written("mixed.ico").size(), ordered.size());
   EXPECT_EQ(number(written("mixed.ico"), kDirectory + 12, 4), end);
@@ -168,8 +152,8 @@ TEST_F(GpiconEffectOnAll, ImagesThatStateTooFewBytesAreWrittenWhole) {
   Entry taken = entry(16, 24), other = anyEntry(32, 32);
   taken.bytesInRes = 50;
   other.bytesInRes = 0;
-  expectDone(apply({folder.write("short.ico", fileOf({taken, other})), "invert"}));
-  expectDone(apply({folder.write("whole.ico", fileOf({entry(16, 24), anyEntry(32, 32)})), "invert"}));
+  expectDone(runAll({folder.write("short.ico", fileOf({taken, other})), "invert"}));
+  expectDone(runAll({folder.write("whole.ico", fileOf({entry(16, 24), anyEntry(32, 32)})), "invert"}));
   EXPECT_EQ(written("short.ico"), written("whole.ico"));
 }
 
@@ -195,7 +179,7 @@ TEST_F(GpiconEffectOnAll, AlphaMovesWithItsPixelsInFlipsTurnsAndRotations) {
   for (const Turn& turn : turns) {
     std::vector<std::string> all{path};
     all.insert(all.end(), turn.words.begin(), turn.words.end());
-    expectDone(apply(all, {"--force"}));
+    expectDone(runAll(all, {"--force"}));
     const Bytes made = written("alpha.ico");
     ASSERT_EQ(fieldsOf(made, 0), fieldsOf(file, 0)) << turn.words.front();
     ASSERT_EQ(made.size(), file.size());
@@ -231,10 +215,10 @@ TEST_F(GpiconEffectOnAll, AFileThatIsThereIsKeptUnlessForceIsGiven) {
                     b = folder.write("b.ico", fileOf({entry(16, 24)}));
   fs::create_directory(out);
   const std::string there = folder.write("out/a.ico", {1, 2, 3});
-  expectLine(apply({a, b, "invert"}), there + ": already there, and not replaced");
+  expectLine(runAll({a, b, "invert"}), there + ": already there, and not replaced");
   EXPECT_EQ(bytesOf(there), (Bytes{1, 2, 3}));
   EXPECT_TRUE(fs::exists(out + "/b.ico"));
-  expectDone(apply({a, b, "invert"}, {"--force"}));
+  expectDone(runAll({a, b, "invert"}, {"--force"}));
   EXPECT_EQ(bytesOf(there), written("b.ico"));
 }
 
@@ -255,12 +239,12 @@ TEST_F(GpiconEffectOnAll, OfTwoFilesOfOneNameTheLaterIsReportedAndNotWrittenEven
                     b = folder.write("b.ico", fileOf({entry(48, 24)}));
   for (const bool isForced : {false, true}) {
     const Outcome o =
-        apply({a, later, b, "invert"}, isForced ? std::vector<std::string>{"--force"} : std::vector<std::string>{});
+        runAll({a, later, b, "invert"}, isForced ? std::vector<std::string>{"--force"} : std::vector<std::string>{});
     expectLine(o, later + ": a file of this name was given before it, so it is not written");
     EXPECT_EQ(number(written("a.ico"), kDirectory, 1), 16u);
     EXPECT_EQ(number(written("b.ico"), kDirectory, 1), 48u);
   }
-  expectLine(apply({b, b, "invert"}, {"--force"}),
+  expectLine(runAll({b, b, "invert"}, {"--force"}),
              b + ": a file of this name was given before it, so it is not written");
 }
 
@@ -269,7 +253,7 @@ TEST_F(GpiconEffectOnAll, AFileOfWhichNoImageTakesTheEffectCostsOneLineAndNotThe
                     alpha = folder.write("alpha.ico", fileOf({anyEntry(32, 32), pngEntry()})),
                     large = folder.write("large.ico", fileOf({largeEntry()})),
                     good = folder.write("good.ico", fileOf({entry(16, 24), entry(32, 24)}));
-  const Outcome o = apply({small, alpha, large, good, folder.path("gone.ico"), "sphere"});
+  const Outcome o = runAll({small, alpha, large, good, folder.path("gone.ico"), "sphere"});
   EXPECT_EQ(o.status, 1);
   EXPECT_EQ(o.err, "gpicon: " + small +
                        ": no image of it takes the effect: Current icon is less then 32x 32.\n"
@@ -290,7 +274,7 @@ TEST_F(GpiconEffectOnAll, WhatIsNoWholeIconFileIsRefused) {
   const Bytes whole = fileOf({entry(16, 24), entry(32, 24)});
   const std::string cut = folder.write("cut.ico", Bytes(whole.begin(), whole.end() - 1)),
                     cursor = folder.write("c.cur", build(IcoFile{{anyEntry(32, 4)}, 0, 2, {}}));
-  const Outcome o = apply({cut, cursor, folder.folder(), "invert"});
+  const Outcome o = runAll({cut, cursor, folder.folder(), "invert"});
   EXPECT_EQ(o.status, 1);
   EXPECT_EQ(o.err, "gpicon: " + cut + ": shorter than its directory says\ngpicon: " + cursor +
                        ": not an icon file\ngpicon: " + folder.folder() + ": not a file that can be read\n");
@@ -300,9 +284,9 @@ TEST_F(GpiconEffectOnAll, WhatIsNoWholeIconFileIsRefused) {
 TEST_F(GpiconEffectOnAll, AnIndexIsBadUsage) {
   const std::string a = folder.write("a.ico", fileOf({entry(16, 24)}));
   for (const std::string index : {"0", "17", "007"}) {
-    expectBadUsage(apply({a, index, "invert"}), "--all takes no INDEX; the file of this name is ./" + index);
-    expectBadUsage(apply({index, a, "invert"}), "--all takes no INDEX; the file of this name is ./" + index);
-    expectBadUsage(apply({a, index, folder.path("b.ico"), "invert"}),
+    expectBadUsage(runAll({a, index, "invert"}), "--all takes no INDEX; the file of this name is ./" + index);
+    expectBadUsage(runAll({index, a, "invert"}), "--all takes no INDEX; the file of this name is ./" + index);
+    expectBadUsage(runAll({a, index, folder.path("b.ico"), "invert"}),
                    "--all takes no INDEX; the file of this name is ./" + index);
   }
   folder.write("0", fileOf({entry(16, 24)}));
@@ -312,17 +296,17 @@ TEST_F(GpiconEffectOnAll, AnIndexIsBadUsage) {
 
 TEST_F(GpiconEffectOnAll, BadUsageMakesNoFolder) {
   const std::string a = folder.write("a.ico", fileOf({entry(16, 24)}));
-  expectBadUsage(apply({"invert"}), "FILE... NAME is needed");
-  expectBadUsage(apply({}), "no file given");
-  expectBadUsage(apply({a}), "FILE... NAME is needed");
-  expectBadUsage(apply({a, a}), "no effect is named " + a);
-  expectBadUsage(apply({a, "inverted"}), "no effect is named inverted");
-  expectBadUsage(apply({a, "invert", "--percent", "3"}), "--percent goes with theme and blend only");
-  expectBadUsage(apply({a, "flip"}), "flip needs exactly one of its options");
-  expectBadUsage(apply({a, "flip", "--vertical", "--horizontal"}), "flip needs exactly one of its options");
-  expectBadUsage(apply({a, "rotate", "--angle", "361"}), "--angle takes a number from -360 to 360");
-  expectBadUsage(apply({a, "invert"}, {"--png"}), "unknown option --png");
-  expectBadUsage(apply({a, "invert"}, {"--max-size", "0"}), "--max-size takes a number of megabytes");
+  expectBadUsage(runAll({"invert"}), "FILE... NAME is needed");
+  expectBadUsage(runAll({}), "no file given");
+  expectBadUsage(runAll({a}), "FILE... NAME is needed");
+  expectBadUsage(runAll({a, a}), "no effect is named " + a);
+  expectBadUsage(runAll({a, "inverted"}), "no effect is named inverted");
+  expectBadUsage(runAll({a, "invert", "--percent", "3"}), "--percent goes with theme and blend only");
+  expectBadUsage(runAll({a, "flip"}), "flip needs exactly one of its options");
+  expectBadUsage(runAll({a, "flip", "--vertical", "--horizontal"}), "flip needs exactly one of its options");
+  expectBadUsage(runAll({a, "rotate", "--angle", "361"}), "--angle takes a number from -360 to 360");
+  expectBadUsage(runAll({a, "invert"}, {"--png"}), "unknown option --png");
+  expectBadUsage(runAll({a, "invert"}, {"--max-size", "0"}), "--max-size takes a number of megabytes");
   expectBadUsage(run({"effect", a, "invert", "--all"}), "one -d DIR is needed");
   expectBadUsage(run({"effect", a, "0", out, "invert", "-d", out}), "unknown option -d");
   expectBadUsage(run({"effect", a, "0", out, "invert", "--force"}), "unknown option --force");
@@ -345,7 +329,7 @@ TEST_F(GpiconEffectOnAll, AnEffectThatChangesTheSizeIsBadUsage) {
 }
 
 TEST_F(GpiconEffectOnAll, ResizingIsForOneImage) {
-  expectBadUsage(apply({folder.write("a.ico", fileOf({entry(16, 24)})), "resize", "--to", "32"}),
+  expectBadUsage(runAll({folder.write("a.ico", fileOf({entry(16, 24)})), "resize", "--to", "32"}),
                  "resize does not go with --all");
 }
 
@@ -362,7 +346,7 @@ TEST_F(GpiconEffectOnAll, WhatIsInTheWayIsReportedAndLeft) {
   for (int kind = 0; kind < 4; ++kind) {
     plant(kind);
     ASSERT_EQ(namesIn("out"), std::vector<std::string>{"a.ico"}) << kind;
-    expectLine(apply({a, "invert"}, {"--force"}), out + "/a.ico: already there, and not replaced");
+    expectLine(runAll({a, "invert"}, {"--force"}), out + "/a.ico: already there, and not replaced");
     EXPECT_EQ(bytesOf(outside), (Bytes{7, 7, 7})) << kind;
   }
   expectLine(run({"effect", a, "invert", "--all", "-d", outside}), outside + ": not a folder, and cannot be made");
@@ -373,22 +357,22 @@ TEST_F(GpiconEffectOnAll, ACallWritesNoMoreThanItsBound) {
   stuffed.image.resize(700'000);
   const std::string a = folder.write("a.ico", fileOf({entry(16, 24), stuffed})),
                     b = folder.write("b.ico", fileOf({entry(16, 24), stuffed}));
-  expectLine(apply({a, b, "invert"}, {"--max-size", "1"}), b + ": more than one call may write (see --max-size)");
+  expectLine(runAll({a, b, "invert"}, {"--max-size", "1"}), b + ": more than one call may write (see --max-size)");
   EXPECT_EQ(namesIn("out"), std::vector<std::string>{"a.ico"});
-  expectDone(apply({a, b, "invert"}, {"--max-size", "2", "--force"}));
+  expectDone(runAll({a, b, "invert"}, {"--max-size", "2", "--force"}));
   EXPECT_EQ(written("b.ico").size(), bytesOf(b).size());
 }
 
 TEST_F(GpiconEffectOnAll, StandardInputIsNamedAfterIt) {
   const std::string a = folder.write("a.ico", fileOf({entry(16, 24)}));
-  expectDone(apply({a, "invert"}));
+  expectDone(runAll({a, "invert"}));
   expectDone(runAfter("cat " + inShell(a) + " | ", {"effect", "-", "invert", "--all", "-d", out}));
   EXPECT_EQ(written("stdin.ico"), written("a.ico"));
 }
 
 TEST_F(GpiconEffectOnAll, AFileIsWrittenAlsoWhereNothingChanges) {
   const std::string a = folder.write("a.ico", fileOf({entry(16, 24)}));
-  expectDone(apply({a, "brightness", "--red", "0"}));
+  expectDone(runAll({a, "brightness", "--red", "0"}));
   EXPECT_EQ(written("a.ico"), bytesOf(a));
 }
 

@@ -1,5 +1,5 @@
 // gpicon to24 --all: the files that it writes byte by byte, which files it refuses, and its arguments.
-#include "cli/GpiconFixture.h"
+#include "cli/GpiconAllFixture.h"
 
 namespace gp::test {
 namespace {
@@ -16,26 +16,10 @@ Entry blackAndWhite(int size) {
   return entryOf(picture);
 }
 
-class GpiconTo24All : public Gpicon {
+class GpiconTo24All : public GpiconAll {
  protected:
-  const std::string out = folder.path("out");
+  GpiconTo24All() : GpiconAll("to24") {}
 
-  Outcome convert(std::vector<std::string> words, const std::vector<std::string>& more = {}) const {
-    words.insert(words.begin(), "to24");
-    words.insert(words.end(), {"--all", "-d", out});
-    words.insert(words.end(), more.begin(), more.end());
-    return run(words);
-  }
-  void expectDone(const Outcome& o) const {
-    EXPECT_EQ(o.status, 0);
-    EXPECT_EQ(o.out + o.err, "");
-  }
-  void expectBadUsage(const Outcome& o, const std::string& text) const {
-    EXPECT_EQ(o.status, 2);
-    EXPECT_EQ(o.err, "gpicon: to24: " + text + " (see gpicon --help)\n");
-    EXPECT_FALSE(fs::exists(out));
-  }
-  Bytes written(const std::string& name) const { return bytesOf(out + "/" + name); }
   // What to24 for one image and `replace` make of all images with alpha.
   Bytes convertedOneByOne(const std::vector<Entry>& entries, const std::vector<std::string>& options) const {
     const std::string path = folder.write("given.ico", fileOf(entries));
@@ -56,14 +40,14 @@ TEST_F(GpiconTo24All, EachImageWithAlphaIsTheOneThatTo24AndReplaceMakeAndOthersS
     const Bytes expected = convertedOneByOne(entries, options);
     std::vector<std::string> more = options;
     more.push_back("--force");
-    expectDone(convert({folder.path("given.ico")}, more));
+    expectDone(runAll({folder.path("given.ico")}, more));
     EXPECT_EQ(written("given.ico"), expected) << options.size();
     EXPECT_NE(written("given.ico"), fileOf(entries));
   }
 }
 
 TEST_F(GpiconTo24All, TwoImagesThatGetOneSizeAndDepthBothStay) {
-  expectDone(convert({folder.write("two.ico", fileOf({anyEntry(16, 32), anyEntry(16, 24)}))}));
+  expectDone(runAll({folder.write("two.ico", fileOf({anyEntry(16, 32), anyEntry(16, 24)}))}));
   EXPECT_EQ(lines(run({"list", out + "/two.ico"}).out), 2);
   EXPECT_EQ(number(written("two.ico"), 6 + 6, 2), 24U);
   EXPECT_EQ(number(written("two.ico"), 6 + 16 + 6, 2), 24U);
@@ -72,7 +56,7 @@ TEST_F(GpiconTo24All, TwoImagesThatGetOneSizeAndDepthBothStay) {
 TEST_F(GpiconTo24All, AFileWithoutAlphaIsRefusedAndTheOthersAreWritten) {
   const std::string plain = folder.write("plain.ico", fileOf({anyEntry(16, 24), anyEntry(32, 4)}));
   const std::string alpha = folder.write("alpha.ico", fileOf({anyEntry(16, 32)}));
-  const Outcome o = convert({plain, alpha});
+  const Outcome o = runAll({plain, alpha});
   EXPECT_EQ(o.status, 1);
   EXPECT_EQ(o.err, "gpicon: " + plain + ": no image of it can be converted: the icon has no alpha channel\n");
   EXPECT_EQ(namesIn("out"), std::vector<std::string>{"alpha.ico"});
@@ -82,15 +66,15 @@ TEST_F(GpiconTo24All, AFileThatIsThereStaysWithoutForce) {
   const std::string alpha = folder.write("alpha.ico", fileOf({anyEntry(16, 32)}));
   fs::create_directory(out);
   folder.write("out/alpha.ico", {1, 2, 3});
-  EXPECT_EQ(convert({alpha}).status, 1);
+  EXPECT_EQ(runAll({alpha}).status, 1);
   EXPECT_EQ(written("alpha.ico"), (Bytes{1, 2, 3}));
 }
 
 TEST_F(GpiconTo24All, BadUsageMakesNoFolder) {
   const std::string alpha = folder.write("alpha.ico", fileOf({anyEntry(16, 32)}));
-  expectBadUsage(convert({}), "no file given");
-  expectBadUsage(convert({alpha, "0"}), "--all takes no INDEX; the file of this name is ./0");
-  expectBadUsage(convert({alpha}, {"--png"}), "unknown option --png");
+  expectBadUsage(runAll({}), "no file given");
+  expectBadUsage(runAll({alpha, "0"}), "--all takes no INDEX; the file of this name is ./0");
+  expectBadUsage(runAll({alpha}, {"--png"}), "unknown option --png");
   expectBadUsage(run({"to24", alpha, "--all"}), "one -d DIR is needed");
 }
 

@@ -2,6 +2,7 @@
 //
 // The colours are the model. At the start the red of each pixel equals its alpha value; what is painted later has a red
 // of 255. All commands here move, copy and restore colours without mixing them, so that red and alpha stay equal.
+#include "alpha/AlphaConversion.h"
 #include "document/AlphaGreys.h"
 #include "document/Containers.h"
 #include "document/CurrentIcon.h"
@@ -21,13 +22,7 @@ bool belongsTo(Color color, int alpha) {
   return color == kGround ? alpha <= 1 || alpha == kOpaqueAlpha : alpha == redOf(color);
 }
 
-IconContainerRec alphaRecord() {
-  IconContainerRec record = NewRecord();
-  record.hasAlpha = true;
-  record.setDepth({kTrueColor, kBitsWithAlpha});
-  record.setHeaderDepth(record.depth());
-  return record;
-}
+IconContainerRec alphaRecord() { return recordWithAlpha(NewRecord()); }
 
 class AlphaFollows : public ProgramFixture<AgreeingBoxes>, public testing::WithParamInterface<unsigned> {
  protected:

@@ -1,4 +1,5 @@
 // The forms with fonts of 9, 12 and 14 points, in light and dark: no text is cut.
+#include "alpha/AlphaConversion.h"
 #include "document/Containers.h"
 #include "document/PanelNumbers.h"
 #include "files/ui/frmGPHeaderDiff.h"
@@ -124,10 +125,7 @@ TEST_F(LargeFonts, ThePreviewWithAlphaEffectsShowsItsTextsWhole) {
         icon.mask.SetPixelV(x, y, kBlack);
         icon.alpha.at(x, y) = static_cast<std::uint8_t>(std::min(255, (576 - distance) * 2 / 3 + 1));
       }
-    IconContainerRec record = NewRecord();
-    record.setDepth({kTrueColor, 32});
-    record.setHeaderDepth({kTrueColor, 32});
-    record.hasAlpha = true;
+    IconContainerRec record = recordWithAlpha(NewRecord());
     record.neverSaved = false;
     shell.document().arrival.arrive(icon, record);
     settle();

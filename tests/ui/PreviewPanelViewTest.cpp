@@ -1,4 +1,5 @@
 // fraPanel(21): the pictures of the icon on three screen colours, and how they are reached and changed.
+#include "alpha/AlphaConversion.h"
 #include "document/Containers.h"
 #include "document/PanelNumbers.h"
 #include "document/ui/NoticeLabel.h"
@@ -27,10 +28,7 @@ class PreviewPanelViewTest : public test::FormFixture {
     icon.mask.SetPixelV(0, 0, kBlack);
     icon.image.SetPixelV(1, 0, kWhite);
     icon.alpha = AlphaMatrix(kSide, kSide, 128);
-    IconContainerRec record = NewRecord();
-    record.setDepth({kTrueColor, 32});
-    record.setHeaderDepth({kTrueColor, 32});
-    record.hasAlpha = true;
+    IconContainerRec record = recordWithAlpha(NewRecord());
     record.neverSaved = false;
     shell.document().arrival.arrive(icon, record);
     settle();
