@@ -51,8 +51,7 @@ class AlphaProgram : public ShellFixture {
   }
 };
 
-// Outcomes that cannot be saved
-// ----------------------------------------------------------------------------------------
+// Outcomes that cannot be saved.
 
 struct UnsavedOutcome {
   const char* name;
@@ -74,7 +73,7 @@ const std::vector<UnsavedOutcome> kOutcomes{
 // A target that cannot be written, or may not. The file of the icon is own.ico.
 struct BadTarget {
   const char* name;
-  const char* target;
+  std::string target;
   void (*prepare)(const TempFolder& folder, EditState& state);
   void (*expect)(ScriptedBoxes& boxes, const std::string& path);
 };
@@ -90,13 +89,7 @@ const std::vector<BadTarget> kBadTargets{
     {"MissingFolder", "/no/such.ico", [](const TempFolder&, EditState&) {}, tellsNotSaved},
     {"Directory", "/folder.ico", [](const TempFolder& folder, EditState&) { folder.makeFolder("folder.ico"); },
      tellsReadOnly},
-    {"NameTooLong",
-     "/nnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnn"
-     "nnnn"
-     "nnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnn"
-     "nnn"
-     "nnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnn.ico",
-     [](const TempFolder&, EditState&) {}, tellsNotSaved},
+    {"NameTooLong", "/" + std::string(300, 'n') + ".ico", [](const TempFolder&, EditState&) {}, tellsNotSaved},
     {"HeldByAnother", "/old.ico",
      [](const TempFolder& folder, EditState& state) { state.mIconRecs[2].path = folder.write("old.ico"); },
      [](ScriptedBoxes& boxes, const std::string&) {
@@ -187,8 +180,7 @@ INSTANTIATE_TEST_SUITE_P(All, AlphaOnAFullDisk,
                                          UnsavedCase{kOutcomes[1], kBadTargets[0]},
                                          UnsavedCase{kOutcomes[2], kBadTargets[0]}));
 
-// Files with odd alpha values
-// ------------------------------------------------------------------------------------------
+// Files with odd alpha values.
 
 struct OddAlpha {
   const char* name;
@@ -228,8 +220,7 @@ TEST_F(AlphaProgram, OddAlphaSurvivesOpeningTheScreenSavingAndReopening) {
     }
 }
 
-// Switches between containers
-// ------------------------------------------------------------------------------------------
+// Switches between containers.
 
 class AlphaInContainers : public AlphaProgram {
  protected:
@@ -281,8 +272,7 @@ TEST_F(AlphaInContainers, KeepTheirOwnValuesThroughAStormOfSwitches) {
   expectOwnValues();
 }
 
-// Undo
-// -----------------------------------------------------------------------------------------------------------------
+// Undo.
 
 TEST_F(AlphaProgram, UndoStartsAgainWithNewAlphaAndWithTheConversion) {
   start();
