@@ -125,14 +125,15 @@ constexpr std::array kRows = std::to_array<Command>({
      .run = runUnpack},
     {.name = "split",
      .usage = "split FILE... -d DIR [--force] [--max-size MB]",
-     .summary = "every image as a file with a single icon",
+     .summary = "every image, or frame of an animated cursor, as a file",
      .help = "Writes every image of every size, PNG pictures too, as a single-icon file with\n"
              "the image's bytes as they are: NAME_SIZE_COLOR.ico, where SIZE is the height and\n"
              "COLOR the colors, or the bits and \"bpp\" for true color, by the directory:\n"
              "NAME_32_256.ico, NAME_48_32bpp.ico. No two of one call get the same name: the\n"
              "later ones become NAME_32_256-2.ico and so on, and none gets the name of an input\n"
              "that stands in DIR. DIR, --force and --max-size are as with unpack. An image that\n"
-             "is not all there costs a complaint and not the others.",
+             "is not all there costs a complaint and not the others. The frames of an animated\n"
+             "cursor are written as they are: NAME_1.cur, NAME_2.cur and so on, .ico for icons.",
      .example = "split app.ico -d icons",
      .run = runSplit},
     {.name = "bmp",

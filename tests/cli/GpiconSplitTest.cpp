@@ -1,5 +1,7 @@
 // gpicon split: each image as a single-icon file, byte by byte.
+#include "animation/AniBytes.h"
 #include "cli/GpiconFixture.h"
+#include "files/CursorBuilder.h"
 
 #include <sys/stat.h>
 
@@ -193,6 +195,50 @@ TEST_F(GpiconSplit, APipeInTheWayIsNoTrap) {
   fs::create_directories(folder.path("out"));
   ASSERT_EQ(mkfifo(folder.path("out/a_16_16.ico").c_str(), 0600), 0);
   EXPECT_EQ(split({path}).status, 1);
+}
+
+// Animated cursors.
+
+TEST_F(GpiconSplit, TheFramesOfAnAnimatedCursorAreWrittenAsTheyAre) {
+  const Bytes cursor = build(cursorOf(anyPicture(32, 8), 3, 4));
+  const Bytes icon = build(anyEntry(16, 4));
+  const std::string text =
+      aniOf(headerOf(3) + listOf("fram", chunkOf("icon", std::string(cursor.begin(), cursor.end())) +
+                                             chunkOf("icon", std::string(icon.begin(), icon.end())) +
+                                             padded(chunkOf("icon", "odd"))));
+  const Outcome o = split({folder.write("any name", bytesOfText(text))});
+  EXPECT_EQ(o.status, 0) << o.err;
+  EXPECT_EQ(o.out + o.err, "");
+  EXPECT_EQ(namesIn("out"), (std::vector<std::string>{"any name_1.cur", "any name_2.ico", "any name_3.cur"}));
+  EXPECT_EQ(output("any name_1.cur"), cursor);
+  EXPECT_EQ(output("any name_2.ico"), icon);
+  EXPECT_EQ(output("any name_3.cur"), bytesOfText("odd"));
+}
+
+TEST_F(GpiconSplit, AFrameThatIsCutCostsAComplaint) {
+  std::string text = aniOf(headerOf(2) + listOf("fram", chunkOf("icon", "first!") + chunkOf("icon", "second")));
+  text.pop_back();
+  const std::string path = folder.write("cut.ani", bytesOfText(text));
+  const Outcome o = split({path});
+  EXPECT_EQ(o.status, 1);
+  EXPECT_EQ(o.err, "gpicon: " + path + ": 1 of its 2 images reach behind the end of the file\n");
+  EXPECT_EQ(namesIn("out"), std::vector<std::string>{"cut_1.cur"});
+}
+
+TEST_F(GpiconSplit, AnimatedCursorsThatCannotBeReadAreRefused) {
+  const std::string frames = listOf("fram", chunkOf("icon", "abcd"));
+  const std::vector<std::pair<std::string, std::string>> cases{
+      {"RIFF", "Failed to read this ANI file"},
+      {aniOf(frames), "Failed to read jiffies info of file."},
+      {aniOf(headerOf(1, 10, 0) + frames), "Failed to read this ANI file"},
+      {aniOf(headerOf(1)), "Failed to read this ANI file"}};
+  for (const auto& [text, reason] : cases) {
+    const std::string path = folder.write("bad.ani", bytesOfText(text));
+    const Outcome o = split({path});
+    EXPECT_EQ(o.status, 1);
+    EXPECT_EQ(o.err, "gpicon: " + path + ": " + reason + "\n");
+    EXPECT_TRUE(namesIn("out").empty());
+  }
 }
 
 }  // namespace
