@@ -68,7 +68,7 @@ def saveAlone(desk, before):
 
 
 def assertPainted(after, before):
-    """The replaced entry is a bitmap with the picture's pixels, but for the painted one."""
+    """The replaced entry is a bitmap with the picture's pixels, but for the painted one, which is opaque."""
     assert [entry.image for index, entry in enumerate(after) if index != 2] == \
         [entry.image for index, entry in enumerate(before) if index != 2]
     replaced = after[2]
@@ -80,7 +80,7 @@ def assertPainted(after, before):
             blue, green, red, alpha = replaced.image[at:at + 4]
             color = wanted[x, y] if wanted[x, y][3] else (0, 0, 0, 0)
             if (x, y) == (5, 7):
-                color = RED + (color[3] or 255,)
+                color = RED + (255,)
             assert (red, green, blue, alpha) == color, (x, y, (red, green, blue, alpha), color)
 
 
