@@ -31,6 +31,7 @@ void IconArrival::showCurrentContainer() {
   editingArea_.SizeEditSurfaces(state_.current().size);
   BitbltPic(state_.picPanelImage.at(container), state_.picImage);
   BitbltPic(state_.picPanelMask.at(container), state_.picMask);
+  // Whatever brought the icon has ended; alpha values are taken over only for an icon that is there.
   state_.current().present = true;
   LoadAlphaFromRec(state_);
   editingArea_.ComposeCurrentIcon();

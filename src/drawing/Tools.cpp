@@ -71,9 +71,9 @@ void Tools::move(const MouseInput& mouse) {
   // Every key counts, so that the next one must not overtake it. Of the mouse only the last position does.
   if (!mouse.byKeyboard) context_.pump.pump();
   if (!state_.current().present) return;
-  // The mouse has moved on during the pump: what is dragged is there already. A stroke takes each position.
-  const bool isStroke = drawState_.mPainting || drawState_.mErasing || drawState_.mRestoring;
-  if (move != moves_ && !isStroke) return;
+  // The mouse has moved on during the pump: what is dragged is there already. A freehand stroke takes each position.
+  const bool isFreehand = drawState_.isStroke() && !isHeld();
+  if (move != moves_ && !isFreehand) return;
   const Surface& disp = state_.picDisp;
   if (mouse.x < 0 || mouse.y < 0 || mouse.x > static_cast<float>(disp.width() - 1) ||
       mouse.y > static_cast<float>(disp.height() - 1)) {

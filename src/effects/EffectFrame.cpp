@@ -1,6 +1,7 @@
 #include "effects/EffectFrame.h"
 
 #include "colour/ColorCount.h"
+#include "document/CurrentIcon.h"
 #include "document/Document.h"
 #include "document/EditState.h"
 #include "document/Editor.h"
@@ -9,7 +10,6 @@
 #include "document/PanelNumbers.h"
 #include "effects/EffectTable.h"
 #include "effects/EffectTexts.h"
-#include "platform/gdi/SurfaceOps.h"
 #include "platform/ports/MessageBoxes.h"
 
 namespace gp {
@@ -40,11 +40,10 @@ void EffectFrame::tell(const Refusal& refusal) { context_.boxes.tell(refusal.tex
 
 bool EffectFrame::hasIcon() const { return state_.current().present; }
 
-IconImage EffectFrame::currentIcon() const { return {state_.picImage, state_.picMask, {}}; }
+IconImage EffectFrame::currentIcon() const { return gp::currentIcon(state_); }
 
 void EffectFrame::applyTemps(const IconImage& result) {
-  BitbltPic(result.image, state_.picImage);
-  BitbltPic(result.mask, state_.picMask);
+  replacePixels(state_, result);
   copyPanelAfterApply();
 }
 

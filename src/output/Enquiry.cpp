@@ -8,7 +8,6 @@
 #include "document/Messages.h"
 #include "files/Files.h"
 #include "files/enquiry/IconProperties.h"
-#include "files/saving/CurrentIcon.h"
 #include "platform/files/Files.h"
 #include "platform/ports/MessagePump.h"
 

@@ -181,6 +181,26 @@ TEST_F(AlphaCommandsTest, UndoStartsAgainOnlyWhenAPixelHasChanged) {
   EXPECT_EQ(rooms.drawing.history.undoCount(), 1) << "other values";
 }
 
+// The history is recorded after the file is written, which processes events.
+TEST_F(AlphaCommandsTest, AnIconThatComesUpAfterTheWritingKeepsItsCopy) {
+  given(anyEntry(32, 32));
+  rooms.document.arrival.fillContainer(1, transparentIcon(32), NewRecord());
+  screen.onAlpha = [this](const IconImage& icon) {
+    pump.inside = [this] {
+      rooms.document.iconsPanel.SwitchContainer(1);
+      state.picMask.SetPixelV(4, 4, kBlack);
+    };
+    return AlphaOutcome{AlphaResult::SaveChanged, target, withAlpha(icon, 77)};
+  };
+  commands.mnuAlphaSub(kEditAlpha);
+  ASSERT_EQ(state.mCurContainer, 1);
+  EXPECT_EQ(state.picPanelMask[1].GetPixel(4, 4), kWhite) << "what is not stored yet";
+  EXPECT_EQ(state.mAlphaRecs[0], AlphaMatrix(32, 32, 77));
+  EXPECT_EQ(state.mIconRecs[0].path.trimmed(), target);
+  EXPECT_EQ(state.mIconRecs[1].path.trimmed(), "Untitled");
+  EXPECT_EQ(editor.count("AddHistory " + target), 1);
+}
+
 TEST_F(AlphaCommandsTest, AnOutcomeWithoutValuesIsReportedAndChangesNothing) {
   given(anyEntry(32, 32));
   const AlphaMatrix before = alphaRec();

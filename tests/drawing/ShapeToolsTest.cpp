@@ -28,6 +28,11 @@ class ShapeToolTest : public test::DrawingFixture {
     expectPicture(rows);
     expectAgreement();
   }
+  // The next position of the mouse comes while the events of the one before it are processed.
+  void moveTwiceAtOnce(int x1, int y1, int x2, int y2) {
+    pump.inside = [=, this] { move(x2, y2); };
+    move(x1, y1);
+  }
   int bandPixels() const {
     int count = 0;
     for (int y = 0; y < state.picDisp.height(); ++y)
@@ -477,6 +482,14 @@ TEST_F(OvalPumpTest, AStraightShapeIsDrawnBeforeAnythingElseHappens) {
   expectAgreement();
   panel.SwitchContainer(0);
   expectPicture({"gg", "gg"});
+}
+
+TEST_F(ShapeToolTest, ALaterPositionOfTheMouseIsNotOvertakenByAnEarlierOne) {
+  start(kLine);
+  press(1, 1);
+  moveTwiceAtOnce(3, 1, 5, 1);
+  release(5, 1);
+  expectPicture({".", ".ggggg"});
 }
 
 }  // namespace

@@ -190,3 +190,23 @@ def test_values_that_could_not_be_saved_come_back(session):
     desk.waitForNoForm(EDIT)
     desk.waitForIcon(SIZE, path)
     expectFile(path, withAlpha(square(), {(5, 6): FIRST_VALUE}), 32, 'the icon that found another file')
+
+
+def test_alpha_goes_with_a_copy_from_container_to_container(session):
+    desk = AlphaDesk(session)
+    values = {(x, y): 20 + 8 * x + y for x in range(SIZE) for y in range(SIZE)}
+    soft = withAlpha(square(), values)
+    desk.openContent('soft.ico', icons.fileOf([icons.entryOf(soft, 32)]), SIZE)
+    program = desk.program
+    program.answerBox(ALPHA_REMINDER)
+    program.command('ctrl+c')
+    program.press('Container 2')
+    bare = [[None] * SIZE for _ in range(SIZE - 1)] + [[(9, 9, 9, 99)] * SIZE]
+    path = desk.openContent('bare.ico', icons.fileOf([icons.entryOf(bare, 32)]), SIZE)
+    program.answerBox(ALPHA_REMINDER)
+    program.command('ctrl+v')
+    program.menu('Rotate', 'Flip Horizontal')  # of the floating region
+    desk.save(path)
+    wanted = [list(reversed(row)) for row in soft]
+    wanted[-1] = bare[-1]
+    expectFile(path, wanted, 32, 'the pasted and flipped copy on the other icon')

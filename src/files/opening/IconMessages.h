@@ -15,6 +15,10 @@ inline constexpr int kManyColorsScreenBits = 9;
 inline constexpr const char* kStrangeTrueColor =
     "\nIncoming icon is a True Color icon"
     " but not of 24 BPP or 32 BPP.\n";
+// Before the file with several icons that an icon came from is written over.
+inline constexpr const char* kMultiIconReminder =
+    "Reminder:  The original icon file contains multiple icons.\n\n"
+    " If you don't wish to overwrite it, save to a different name.";
 inline constexpr const char* kReadOnlyFile =
     "File is read-only\n\nYou may save it under"
     " a different file name or reset the file attributes.";

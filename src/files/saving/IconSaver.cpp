@@ -19,7 +19,6 @@
 #include "files/saving/HeldFiles.h"
 #include "files/saving/MultiIconSaving.h"
 #include "files/saving/MultiIconTexts.h"
-#include "files/saving/PanelFiles.h"
 #include "platform/files/Files.h"
 #include "platform/text/Paths.h"
 #include "platform/text/Utf8.h"
@@ -39,10 +38,6 @@ constexpr const char* kAniQuestion =
     "Animated cursor session for 32x32 icons only\nTerminate animated cursor session?\n";
 constexpr const char* kCursorNotSaved = "Failed to save curosr";
 constexpr const char* kFileNotSaved = "Failed to save this file.";
-constexpr const char* kMultiIconReminder =
-    "Reminder:  The original icon file contains multiple icons.\n\n"
-    " If you don't wish to overwrite it, save to a different name.";
-constexpr const char* kProceedQuestion = "\n\nProceed?";
 
 // Empty when the folder exists, or the path states none.
 std::string missingFolderOf(const std::string& path) {
@@ -180,44 +175,6 @@ void IconSaver::showSaved(const std::string& path) {
   context_.document.editingArea.UpdatePanelFromCurrent();
   context_.document.editingArea.RefreshStatusBar();
   context_.editor.AddHistory(path);
-}
-
-// Another icon, or none, can be the Current Icon after a question.
-bool IconSaver::saveReplacement(const IconImage& icon, const IconContainerRec& record, const std::string& path) {
-  const unsigned serial = state_.iconSerial;
-  if (!mayReplaceFile(path) || state_.iconSerial != serial) return false;
-  const auto lock = lockToUpdate(context_, path);
-  std::optional<FileVersion> read;
-  if (!lock || !findVersionToReplace(path, read) || !write(icon, record, path, read)) return false;
-  const bool hasChanged = replacePixels(state_, icon);
-  // Before events are processed: a switch to another container stores nothing of a saved icon.
-  context_.document.editingArea.UpdatePanelFromCurrent();
-  if (hasChanged) {
-    context_.document.editingArea.showChangedIcon();
-    context_.editor.clearUndoHistory();
-    context_.editor.recordUndo();
-  }
-  showSaved(path);
-  context_.display.announce(news::kSaved);
-  return true;
-}
-
-bool IconSaver::mayReplaceFile(const std::string& path) {
-  const IconContainerRec& record = state_.current();
-  const bool hasMoreIcons = record.fromMultiIconFile && isFileOf(record, path);
-  if (hasMoreIcons && !context_.boxes.ask(std::string(kMultiIconReminder) + kProceedQuestion)) return false;
-  return mayWriteOver(context_, path, Saved::CurrentIcon);
-}
-
-// The file of the Current Icon alone must still contain one icon. Returns false, after a message, when another program
-// has put more icons into it, or something else. Any other file is replaced as it is.
-bool IconSaver::findVersionToReplace(const std::string& path, std::optional<FileVersion>& read) {
-  const IconContainerRec& record = state_.current();
-  if (record.fromMultiIconFile || !endsWithAnyCase(path, kIconEnding) || !isFileOf(record, path) || !FileExists(path))
-    return true;
-  read = findFileOfOneIcon(path);
-  if (!read) context_.boxes.tell(fileChangedText(path));
-  return read.has_value();
 }
 
 void IconSaver::doSaveAs(SaveMode mode) { saveAs(mode, {}); }

@@ -60,6 +60,7 @@ class IconSaver {
   void showNewIcon(int size);
   void remindOfMultiIconFile();
   bool mayReplaceFile(const std::string& path);
+  bool writeReplacement(const IconImage& icon, const IconContainerRec& record, const std::string& path);
   bool findVersionToReplace(const std::string& path, std::optional<FileVersion>& read);
   bool saveOver(const std::string& path);
   std::string askForName(const SaveKind& kind, const std::string& folder);

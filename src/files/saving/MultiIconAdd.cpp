@@ -13,7 +13,6 @@
 #include "files/format/IconProbe.h"
 #include "files/format/IconWriter.h"
 #include "files/format/Rereading.h"
-#include "files/saving/CurrentIcon.h"
 #include "files/saving/MultiIconSaving.h"
 #include "files/saving/MultiIconTexts.h"
 #include "files/saving/PanelFiles.h"
