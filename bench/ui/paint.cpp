@@ -9,6 +9,7 @@
 #include "platform/qt/QtProcesses.h"
 #include "platform/qt/QtSystemInfo.h"
 #include "platform/qt/QtTextDrawing.h"
+#include "platform/qt/QtTimer.h"
 #include "shell/Shell.h"
 #include "shell/ui/frmGPEdit.h"
 #include "support/FoldersIn.h"
@@ -64,10 +65,11 @@ class Program {
   gp::QtClipboard clipboard_;
   gp::QtPictureLoader pictures_;
   gp::QtTextDrawing text_;
+  gp::QtTimer timer_;
   gp::EditState state_;
   gp::QtDisplay display_;
   gp::Shell shell_{state_,
-                   {boxes_, dialogs_, pump_, system_, processes_, clipboard_, pictures_, text_},
+                   {boxes_, dialogs_, pump_, system_, processes_, clipboard_, pictures_, text_, timer_},
                    display_,
                    gp::test::foldersIn(folder_.path().toStdString())};
   gp::frmGPEdit form_{shell_, display_, ""};

@@ -5,6 +5,7 @@
 #include "document/CurrentIcon.h"
 #include "document/Document.h"
 #include "document/EditState.h"
+#include "document/Editor.h"
 #include "document/Messages.h"
 #include "drawing/Drawing.h"
 #include "files/format/IconWriter.h"
@@ -37,6 +38,7 @@ void AlphaCommands::mnuAlphaSub(int index) {
   // Another icon, or none, can be the Current Icon after a question.
   const unsigned serial = state_.iconSerial;
   if (!mayShow() || state_.iconSerial != serial) return;
+  if (state_.screen.aniContainerVisible) context_.editor.endAniSession();
   saver_.closeSidePanels();
   context_.document.iconsPanel.EndToolAction();
   showScreen(static_cast<AlphaMode>(index));

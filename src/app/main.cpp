@@ -15,6 +15,7 @@
 #include "platform/qt/QtProcesses.h"
 #include "platform/qt/QtSystemInfo.h"
 #include "platform/qt/QtTextDrawing.h"
+#include "platform/qt/QtTimer.h"
 #include "shell/Shell.h"
 #include "shell/StartUp.h"
 #include "shell/ui/frmDirDialog.h"
@@ -43,6 +44,7 @@ int run(QApplication& application, const std::string& commandLine) {
   gp::QtClipboard clipboard(gp::QtClipboard::Asking::Later);
   gp::QtPictureLoader pictures;
   gp::QtTextDrawing text;
+  gp::QtTimer timer;
   const gp::ProgramFolders folders = gp::programFolders();
 
   gp::EditState state;
@@ -51,7 +53,7 @@ int run(QApplication& application, const std::string& commandLine) {
   gp::frmGPAbout startUpPicture;
   startUpPicture.showAtStart();
   gp::QtDisplay display;
-  gp::Shell shell(state, {boxes, dialogs, pump, system, processes, clipboard, pictures, text}, display, folders);
+  gp::Shell shell(state, {boxes, dialogs, pump, system, processes, clipboard, pictures, text, timer}, display, folders);
   gp::frmGPEdit form(shell, display, commandLine);
   clipboard.onChange = [&shell] { shell.UpdateCommands(); };
   shell.formLoad();

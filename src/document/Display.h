@@ -16,6 +16,8 @@ enum class DisplayPart {
   Panel,        // which fraPanel is up
   SidePanel,    // what the side panel shows
   ModalForm,    // what the modal form of files shows
+  AniPane,      // the film, buttons and texts of the animated cursor session
+  AniTest,      // the picture of the test of its film
   ColorPanel,   // frames, picColorToUse, direct entry
   Commands,     // enabling and ticks of menus and toolbar
   History,      // entries of the history menus

@@ -37,12 +37,20 @@ class Editor {
   // A click on the Editing Area while the cursor panel is shown, in icon pixels.
   virtual void setHotspotByClick(int x, int y) = 0;
 
+  // Animation.
+  // Ends the animated cursor session: its film is given up and its pane hidden. The caller has asked.
+  virtual void endAniSession() = 0;
+  // Its pane was hidden, and its film is kept.
+  virtual void aniPaneHidden() = 0;
+
   // Shell.
   virtual void UpdateCommands() = 0;
   virtual void showPanel(int panel) = 0;
   // Closes an open side panel and shows the colour panel.
   virtual void closePanels() = 0;
   virtual void AddHistory(const std::string& path) = 0;
+  // The same for the list of animated cursors.
+  virtual void AddAniHistory(const std::string& path) = 0;
   virtual void ShowRunTimeError(const std::string& name, const std::string& description) = 0;
 };
 

@@ -178,11 +178,11 @@ constexpr Command kCommands[] = {
     {"mnuExtractSub", 7, "mnuExtract", "Search && &Extract Icons From All EXE Files In Folder....", "", "", needs::always, Commits::No, nullptr, nullptr},
     {"mnuExtractSub", 9, "mnuExtract", "&Capture Image From Desktop", "", "capture", needs::always, Commits::No, nullptr, nullptr},
     // Animation
-    {"mnuANIFileCreateOrEdit", kNoIndex, "mnuANIFile", "&Create/Edit Animated Cursor File ....", "", "animation", needs::always, Commits::No, nullptr, nullptr},
+    {"mnuANIFileCreateOrEdit", kNoIndex, "mnuANIFile", "&Create/Edit Animated Cursor File ....", "", "animation", needs::always, Commits::Yes, nullptr, call<&AniSession::enter>},
     {"mnuANIFileHistory", 0, "mnuANIFile", "", "", "", needs::always, Commits::No, nullptr, nullptr},
-    {"mnuANIFileHistory", 1, "mnuANIFile", "", "", "", needs::always, Commits::No, nullptr, nullptr},
-    {"mnuANIFileHistory", 2, "mnuANIFile", "", "", "", needs::always, Commits::No, nullptr, nullptr},
-    {"mnuANIFileHistory", 3, "mnuANIFile", "", "", "", needs::always, Commits::No, nullptr, nullptr},
+    {"mnuANIFileHistory", 1, "mnuANIFile", "", "", "", needs::always, Commits::Yes, nullptr, callWithIndex<&Shell::openFromAniHistory>},
+    {"mnuANIFileHistory", 2, "mnuANIFile", "", "", "", needs::always, Commits::Yes, nullptr, callWithIndex<&Shell::openFromAniHistory>},
+    {"mnuANIFileHistory", 3, "mnuANIFile", "", "", "", needs::always, Commits::Yes, nullptr, callWithIndex<&Shell::openFromAniHistory>},
     // Alpha
     {"mnuAlphaSub", 0, "mnuAlpha", "&View/Edit/Create Alpha Channel ....", "", "alpha", needs::icon, Commits::No, nullptr, callWithIndex<&AlphaCommands::mnuAlphaSub>},
     {"mnuAlphaSub", 1, "mnuAlpha", "&Convert 32 to 24 BPP (&& Retain Alpha Effects) ....", "", "", needs::icon, Commits::No, nullptr, callWithIndex<&AlphaCommands::mnuAlphaSub>},

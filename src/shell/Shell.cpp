@@ -29,6 +29,7 @@ Shell::Shell(EditState& state, const Ports& ports, Display& display, ProgramFold
       files_(context_, document_, drawing_, mDialog, folders_.scratch + "/" + kScratchFileName),
       alpha_(files_.context(), files_.iconSaver),
       effects_(context_, document_, drawing_, {mDialog, ports.pictures, ports.text}),
+      animation_(files_.context(), files_.iconSaver, ports.timer),
       output_(context_, files_, alpha_.commands),
       settings_(state.options, settingsPath()),
       fileHistory_(kFileHistorySection, kFileHistoryLimit, settingsPath()),
@@ -118,6 +119,7 @@ void Shell::showPanel(int panel) {
   if (panel != kCursorPanel) files_.cursorFiles.mark().cancel();
   if (state_.screen.mActivePanel == kColorPanel && state_.screen.aniContainerVisible) {
     state_.screen.aniContainerVisible = false;
+    aniPaneHidden();
     document_.editingArea.RefreshStatusBar();
   }
   state_.screen.mActivePanel = panel;
@@ -133,5 +135,13 @@ void Shell::AddHistory(const std::string& path) {
   fileHistory_.add(path);
   display_.changed(DisplayPart::History);
 }
+
+void Shell::AddAniHistory(const std::string& path) {
+  aniHistory_.add(path);
+  display_.changed(DisplayPart::History);
+}
+
+void Shell::endAniSession() { animation_.session.end(); }
+void Shell::aniPaneHidden() { animation_.session.paneHidden(); }
 
 }  // namespace gp

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "alpha/Alpha.h"
+#include "animation/Animation.h"
 #include "colour/Colour.h"
 #include "document/Document.h"
 #include "document/Editor.h"
@@ -28,6 +29,7 @@ class Clipboard;
 class FileDialogs;
 class PictureLoader;
 class TextDrawing;
+class Timer;
 struct EditState;
 struct ScreenState;
 
@@ -41,6 +43,7 @@ struct Ports {
   Clipboard& clipboard;
   PictureLoader& pictures;
   TextDrawing& text;
+  Timer& timer;
 };
 
 class Shell final : public Editor {
@@ -65,6 +68,7 @@ class Shell final : public Editor {
   Alpha& alpha() { return alpha_; }
   Effects& effects() { return effects_; }
   const Effects& effects() const { return effects_; }
+  Animation& animation() { return animation_; }
   Output& output() { return output_; }
   const History& fileHistory() const { return fileHistory_; }
   const History& aniHistory() const { return aniHistory_; }
@@ -92,6 +96,7 @@ class Shell final : public Editor {
 
   // Command bodies of the shell itself.
   void openFromHistory(int index);
+  void openFromAniHistory(int index);
   // Clicks on imgTool, imgColorPicker and the directions of imgShiftDirBase.
   void chooseTool(Tool tool);
   void chooseColorPicker();
@@ -130,12 +135,17 @@ class Shell final : public Editor {
   void showPanel(int panel) override;
   void closePanels() override;
   void AddHistory(const std::string& path) override;
+  void AddAniHistory(const std::string& path) override;
+  void endAniSession() override;
+  void aniPaneHidden() override;
   void ShowRunTimeError(const std::string& name, const std::string& description) override;
 
  private:
   // Returns false when the command cannot run; then at most a message was shown.
   bool prepare(const Command& command);
   bool isMet(const char* refusal);
+  bool leavesAniSession();
+  bool isThere(const std::string& path);
   std::string settingsPath() const;
   void placeForm();
   void showEmptyStart();
@@ -157,6 +167,7 @@ class Shell final : public Editor {
   Files files_;
   Alpha alpha_;
   Effects effects_;
+  Animation animation_;
   Output output_;
   Settings settings_;
   History fileHistory_;

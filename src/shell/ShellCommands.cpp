@@ -17,6 +17,7 @@ namespace gp {
 namespace {
 
 constexpr const char* kHelpFile = "GPHelp.chm";
+constexpr const char* kAniQuestion = "Animated cursor session for 32x32 icons only\nTerminate animated cursor session?";
 constexpr int kEnlargedOption = 3;
 constexpr int kPixelRgbOption = 5;
 constexpr int kUpdateOnlyOption = 9;
@@ -27,14 +28,29 @@ void Shell::openFromHistory(int index) {
   const std::string path = fileHistory_.path(index);
   if (path.empty()) return;
   closePanels();
-  if (!mayCurrentIconGo(context_)) return;
-  if (!FileExists(path)) {
-    ports_.boxes.tell(fileNotFoundText(path), BoxIcon::Exclamation);
-    return;
-  }
+  if (!leavesAniSession() || !mayCurrentIconGo(context_) || !isThere(path)) return;
   bool ok = false;
   files_.iconFiles.doOpenIconFile(path, true, ok);
   if (ok) state_.process.mCommandFile = path;
+}
+
+// The user is asked: the session is for icons of one size, and a file can hold another.
+bool Shell::leavesAniSession() {
+  if (!state_.screen.aniContainerVisible) return true;
+  if (!ports_.boxes.ask(kAniQuestion)) return false;
+  endAniSession();
+  return true;
+}
+
+bool Shell::isThere(const std::string& path) {
+  if (FileExists(path)) return true;
+  ports_.boxes.tell(fileNotFoundText(path), BoxIcon::Exclamation);
+  return false;
+}
+
+void Shell::openFromAniHistory(int index) {
+  const std::string path = aniHistory_.path(index);
+  if (!path.empty() && isThere(path)) animation_.session.openFile(path);
 }
 
 void Shell::chooseTool(Tool tool) {

@@ -94,6 +94,7 @@ void Shell::openCommandLineFile(const std::string& commandLine) {
   bool ok = false;
   if (file.kind == CommandLineKind::Ico) files_.iconFiles.doOpenIconFile(file.path, false, ok);
   if (file.kind == CommandLineKind::Cur) files_.cursorFiles.doOpenCursorFile(file.path, ok);
+  if (file.kind == CommandLineKind::Ani) animation_.session.openFile(file.path);
   if (ok) return;
   std::error_code ignored;
   std::filesystem::current_path(folders_.settings, ignored);
@@ -127,6 +128,7 @@ void Shell::saveSettings() {
 bool Shell::queryUnload() {
   const std::string question = unsavedQuestion(state_);
   if (!question.empty() && !ports_.boxes.ask(question)) return false;
+  if (!animation_.session.mayExit()) return false;
   files_.cursorFiles.mark().cancel();
   saveSettings();
   return true;

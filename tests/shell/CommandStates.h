@@ -193,6 +193,8 @@ inline const std::vector<CommandNeed> kCommandNeeds{
     {"mnuFileSub", {18}, {kNeedsIcon, {[](const Facts& f, int) { return f.size32; }, "For cursor of 32x32 only"}}},
     {"mnuFileHistory", {1, 2, 3, 4, 5, 6}, {}},
     {"mnuFileExit", {kNoIndex}, {}},
+    {"mnuANIFileCreateOrEdit", {kNoIndex}, {}},
+    {"mnuANIFileHistory", {1, 2, 3}, {}},
     {"mnuPopUpSub", {0}, {}},
     {"mnuPopUpSub", {3}, {kNeedsIcon, {[](const Facts& f, int) { return f.multiIconFile; }, ""}}},
     {"mnuPopUpSub", {5}, {kNeedsIcon, {[](const Facts& f, int) { return f.alpha; }, ""}}},

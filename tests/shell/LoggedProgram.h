@@ -10,6 +10,7 @@
 #include "support/FakeClipboard.h"
 #include "support/FakeMachine.h"
 #include "support/FakeTextDrawing.h"
+#include "support/FakeTimer.h"
 #include "support/FoldersIn.h"
 #include "support/ScriptedPorts.h"
 #include "support/TempFolder.h"
@@ -51,6 +52,7 @@ class LoggedProgram {
   FakeClipboard clipboard_;
   ScriptedPictures pictures_;
   FakeTextDrawing text_;
+  FakeTimer timer_;
   EditState state_;
 
  protected:
@@ -58,8 +60,8 @@ class LoggedProgram {
   DisplayType display_;
 
  public:
-  Shell shell{state_, Ports{boxes_, dialogs_, pump_, system_, processes_, clipboard_, pictures_, text_}, display_,
-              test::foldersIn(folder_.path())};
+  Shell shell{state_, Ports{boxes_, dialogs_, pump_, system_, processes_, clipboard_, pictures_, text_, timer_},
+              display_, test::foldersIn(folder_.path())};
 };
 
 inline std::string nameOf(const Command& row) { return objectNameOf(row.control, row.index); }

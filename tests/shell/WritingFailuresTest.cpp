@@ -5,6 +5,7 @@
 #include "files/browser/MultiIconBrowser.h"
 #include "support/CommandUnderFailures.h"
 #include "support/FakeTextDrawing.h"
+#include "support/FakeTimer.h"
 #include "support/ShellFixture.h"
 
 #include <algorithm>
@@ -38,6 +39,7 @@ class AgreeingProgram {
   FakeClipboard clipboard_;
   ScriptedPictures pictures_;
   FakeTextDrawing text_;
+  FakeTimer timer_;
   RecordingDisplay display_;
   EditState state_;
   const std::string folder_;
@@ -47,7 +49,7 @@ class AgreeingProgram {
 
   explicit AgreeingProgram(const std::string& folder)
       : folder_(folder),
-        shell(state_, Ports{boxes, dialogs, pump_, system_, processes_, clipboard_, pictures_, text_}, display_,
+        shell(state_, Ports{boxes, dialogs, pump_, system_, processes_, clipboard_, pictures_, text_, timer_}, display_,
               foldersIn(folder)) {
     shell.attach(&form, &form, &form);
     shell.formLoad();

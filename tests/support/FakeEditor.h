@@ -68,6 +68,9 @@ class FakeEditor : public Editor {
   void showPanel(int panel) override { log("showPanel " + std::to_string(panel)); }
   void closePanels() override { log("closePanels"); }
   void AddHistory(const std::string& path) override { log("AddHistory " + path); }
+  void AddAniHistory(const std::string& path) override { log("AddAniHistory " + path); }
+  void endAniSession() override { log("endAniSession"); }
+  void aniPaneHidden() override { log("aniPaneHidden"); }
   void ShowRunTimeError(const std::string& name, const std::string&) override { log("ShowRunTimeError " + name); }
 
  protected:

@@ -7,6 +7,7 @@
 #include "support/FakeEditor.h"
 #include "support/FakeMachine.h"
 #include "support/FakeTextDrawing.h"
+#include "support/FakeTimer.h"
 #include "support/FoldersIn.h"
 #include "support/ScriptedPorts.h"
 #include "support/TempFolder.h"
@@ -56,10 +57,11 @@ class ProgramFixture : public testing::Test {
   FakeClipboard clipboard;
   ScriptedPictures pictures;
   FakeTextDrawing textDrawing;
+  FakeTimer timer;
   RecordingDisplay display;
   FakeForm form;
   EditState state;
-  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures, textDrawing}, display,
+  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures, textDrawing, timer}, display,
               test::foldersIn(folder.path())};
 
   ProgramFixture() { shell.attach(&form, &form, &form); }

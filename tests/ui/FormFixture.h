@@ -34,9 +34,10 @@ class FormFixture : public testing::Test {
   FakeClipboard clipboard;
   ScriptedPictures pictures;
   QtTextDrawing textDrawing;
+  FakeTimer timer;
   EditState state;
   QtDisplay display;
-  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures, textDrawing}, display,
+  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures, textDrawing, timer}, display,
               test::foldersIn(folder.path())};
   std::unique_ptr<frmGPEdit> form;
 

@@ -90,6 +90,7 @@ bool IconSaver::endsAniSession(int size) {
   if (size == kAniSize) return true;
   if (!context_.boxes.ask(kAniQuestion)) return false;
   closeSidePanels();
+  context_.editor.endAniSession();
   return true;
 }
 
@@ -103,6 +104,7 @@ void IconSaver::closeSidePanels() {
   context_.editor.closePanels();
   if (!state_.screen.aniContainerVisible) return;
   state_.screen.aniContainerVisible = false;
+  context_.editor.aniPaneHidden();
   context_.display.changed(DisplayPart::Panel);
 }
 

@@ -1,0 +1,16 @@
+// The face of the room: creates the animated cursor session. Contains no logic.
+#pragma once
+
+#include "animation/AniSession.h"
+
+namespace gp {
+
+struct Animation {
+  Animation(const FilesContext& context, IconSaver& saver, Timer& timer) : session(context, saver, timer) {}
+  Animation(const Animation&) = delete;
+  Animation& operator=(const Animation&) = delete;
+
+  AniSession session;
+};
+
+}  // namespace gp

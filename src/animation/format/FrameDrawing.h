@@ -1,0 +1,24 @@
+// Draws a frame of an animated cursor at the size of the film, as the platform draws a cursor.
+#pragma once
+
+#include "animation/format/FilmFrame.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+
+namespace gp {
+
+struct DrawnFrame {
+  FramePicture picture;  // on white
+  int hotspotX = 0;      // of the image that was drawn, scaled with it; not limited
+  int hotspotY = 0;
+  bool hasAlpha = false;    // a value between 1 and 254
+  bool isOneOfSize = true;  // the file has only this image, of 32 x 32 pixels
+};
+
+// Draws the image nearest to 32 x 32, of those the deepest; other sizes by keep-or-drop. Empty when no image can be
+// decoded.
+std::optional<DrawnFrame> drawFrame(std::span<const std::uint8_t> file);
+
+}  // namespace gp
