@@ -12,6 +12,8 @@
 
 #include <QAbstractButton>
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QStackedWidget>
 
 namespace gp {
 namespace {
@@ -22,6 +24,7 @@ constexpr int kFrameColumns = 4;
 // In compact size, which leaves the others out, the buttons of the two groups are in one row.
 constexpr int kNotInCompact[] = {9, 12, 13, 14, 15, 16, 17};
 constexpr const char* kWidestLabels[] = {"Frame:  70 / 70", "Jiffies:  90"};
+constexpr const char* kHint = "No frames yet: create or open a film.";
 constexpr const char* kLabelNames[] = {"Current frame", "Time of the frame"};
 
 AniGroup* groupOf(QWidget* parent, const char* name, const char* caption, QWidget* content) {
@@ -77,7 +80,7 @@ QVBoxLayout* AniBody::makeColumn() {
 }
 
 QWidget* AniBody::makeLabels() {
-  auto* labels = new QWidget(this);
+  auto* labels = new QWidget;
   auto* rows = new QVBoxLayout(labels);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(0);
@@ -87,7 +90,15 @@ QWidget* AniBody::makeLabels() {
     lblANI_[i]->setMinimumSize(lblANI_[i]->sizeHint());
     rows->addWidget(lblANI_[i]);
   }
-  return labels;
+  auto* hint = new QLabel(QLatin1String(kHint));
+  hint->setObjectName(QStringLiteral("lblANIHint"));
+  hint->setWordWrap(true);
+  hint->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  texts_ = new QStackedWidget(this);
+  texts_->addWidget(labels);
+  texts_->addWidget(hint);
+  texts_->setFixedHeight(labels->sizeHint().height());
+  return texts_;
 }
 
 AniGroup* AniBody::makeTest() {
@@ -120,6 +131,7 @@ QWidget* AniBody::firstControl() const {
 
 void AniBody::refresh() {
   picANISeriesBase_->refresh();
+  texts_->setCurrentIndex(events_.session.frames().count() > 0 ? 0 : 1);
   lblANI_[0]->setText(toText(events_.session.frameLabel()));
   lblANI_[1]->setText(toText(events_.session.jiffiesLabel()));
   lists_->refresh();

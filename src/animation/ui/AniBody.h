@@ -8,6 +8,7 @@
 #include <memory>
 
 class QHBoxLayout;
+class QStackedWidget;
 class QVBoxLayout;
 
 namespace gp {
@@ -52,6 +53,7 @@ class AniBody final : public QWidget {
   AniGroup* fraExchange_ = nullptr;
   AniGroup* fraFrame_ = nullptr;
   AniGroup* fraTest_ = nullptr;
+  QStackedWidget* texts_ = nullptr;  // the labels, or a hint without frames
   std::array<TextCell*, 2> lblANI_{};
   SampleView* picANITest_ = nullptr;
 };

@@ -48,11 +48,11 @@ AniTitle::AniTitle(QWidget* parent, AniButtons& buttons) : QWidget(parent) {
   setObjectName(QStringLiteral("fraANITitle"));
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(kGap, 0, 0, 0);
-  row->setSpacing(kGap);
+  row->setSpacing(0);
   row->addWidget(new TitlePicture(this));
+  row->addSpacing(kGap);
   row->addWidget(makeCaption(this));
   row->addStretch(1);
-  row->setSpacing(0);
   for (const int index : {1, 2, 0}) row->addWidget(buttons.makePicture(this, index));
 }
 
