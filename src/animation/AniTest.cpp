@@ -20,6 +20,11 @@ int millisecondsOf(const FilmFrame& frame) {
 
 }  // namespace
 
+// No tick may come to an object that is gone.
+AniTest::~AniTest() {
+  if (mAniTesting_) timer_.stop();
+}
+
 void AniTest::start() {
   mAniTesting_ = true;
   mAniTestFrame_ = 0;
