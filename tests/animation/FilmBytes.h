@@ -37,7 +37,9 @@ inline Picture plainPicture(int size, Rgb color, int bits = 24) {
   p.color = [color](int, int) { return color; };
   return p;
 }
-inline Entry plainEntry(int size, Rgb color, int bits = 24) { return entryOf(plainPicture(size, color, bits), 0, bits); }
+inline Entry plainEntry(int size, Rgb color, int bits = 24) {
+  return entryOf(plainPicture(size, color, bits), 0, bits);
+}
 inline Entry pngEntry(const PngFile& file) {
   return {static_cast<int>(file.width) % 256, static_cast<int>(file.height) % 256, 0, 32, build(file), {}, {}};
 }

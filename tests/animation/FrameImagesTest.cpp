@@ -153,7 +153,8 @@ PngFile pngOfAlpha(const std::function<int(int, int)>& alpha) {
 }
 
 TEST(FrameImages, APngPictureIsTransparentBelowAnAlphaOf128) {
-  const IconImage icon = decodedFirst(cursorFile({pngEntry(pngOfAlpha([](int x, int y) { return x + 32 * (y % 8); }))}));
+  const IconImage icon =
+      decodedFirst(cursorFile({pngEntry(pngOfAlpha([](int x, int y) { return x + 32 * (y % 8); }))}));
   ASSERT_TRUE(icon.hasAlphaValues());
   for (int y = 0; y < 32; ++y)
     for (int x = 0; x < 32; ++x) {
