@@ -21,6 +21,12 @@ inline constexpr std::size_t kHeaderColorsUsed = 32;
 inline constexpr std::size_t kHeaderMasks = 40;  // of red, green, blue and alpha, in longer headers or behind this one
 inline constexpr std::size_t kHeaderWithAlphaMask = 56;
 
+// BITMAPCOREHEADER, of old programs; offsets are from its start. Palette entries behind it have three bytes.
+inline constexpr std::size_t kOldHeaderSize = 12;
+inline constexpr std::size_t kOldHeaderWidth = 4;
+inline constexpr std::size_t kOldHeaderHeight = 6;
+inline constexpr std::size_t kOldHeaderBitCount = 10;
+
 inline constexpr std::size_t kRowAlignment = 4;
 
 constexpr std::size_t aligned(std::size_t bytes) { return (bytes + kRowAlignment - 1) / kRowAlignment * kRowAlignment; }
