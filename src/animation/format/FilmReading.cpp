@@ -3,11 +3,11 @@
 #include "animation/format/AniFile.h"
 #include "animation/format/AniInfo.h"
 #include "animation/format/AniLayout.h"
+#include "animation/format/AniSteps.h"
 #include "animation/format/FrameDrawing.h"
 #include "animation/format/FrameImages.h"
 
 #include <algorithm>
-#include <numeric>
 #include <optional>
 
 namespace gp {
@@ -15,22 +15,6 @@ namespace {
 
 using Bytes = std::span<const std::uint8_t>;
 using Steps = std::vector<std::size_t>;  // the image of each step, from 0; it may not exist
-
-bool hasPlayedSequence(const AniFile& file) {
-  return (file.header.flags & ani::kHasSequence) != 0 && file.sequence && !file.sequence->empty();
-}
-
-// A sequence ends with the stated steps or with its table, whichever is first. All images are played without one.
-Steps stepsOf(const AniFile& file) {
-  if (hasPlayedSequence(file)) {
-    const std::size_t stated = file.header.steps == 0 ? file.images.size() : file.header.steps;
-    const auto played = std::span(*file.sequence).first(std::min(stated, file.sequence->size()));
-    return {played.begin(), played.end()};
-  }
-  Steps steps(file.images.size());
-  std::iota(steps.begin(), steps.end(), std::size_t{0});
-  return steps;
-}
 
 Bytes bytesOf(Bytes file, const AniImage& image) { return file.subspan(image.offset, image.size); }
 
