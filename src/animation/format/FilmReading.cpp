@@ -4,6 +4,7 @@
 #include "animation/format/AniInfo.h"
 #include "animation/format/AniLayout.h"
 #include "animation/format/AniSteps.h"
+#include "animation/format/AniSteps.h"
 #include "animation/format/FrameDrawing.h"
 #include "animation/format/FrameImages.h"
 
@@ -14,7 +15,7 @@ namespace gp {
 namespace {
 
 using Bytes = std::span<const std::uint8_t>;
-using Steps = std::vector<std::size_t>;  // the image of each step, from 0; it may not exist
+using Steps = std::vector<std::size_t>;
 
 Bytes bytesOf(Bytes file, const AniImage& image) { return file.subspan(image.offset, image.size); }
 
