@@ -44,7 +44,9 @@ struct ReadFilm {
 int countAniFrames(std::span<const std::uint8_t> file);
 // Reads all frames, with their times and the hot spot.
 ReadFilm ReadANIFileFrames(std::span<const std::uint8_t> file);
-// The message for a film that was not read, with the file's path; empty for one that was.
+// The reason why a film was not read, in one line without the file's path; empty for one that was.
+std::string describe(const ReadFilm& film);
+// The same as the message of the session, with the path.
 std::string refusalOf(const ReadFilm& film, const std::string& path);
 
 }  // namespace gp

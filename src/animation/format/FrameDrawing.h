@@ -2,6 +2,7 @@
 #pragma once
 
 #include "animation/format/FilmFrame.h"
+#include "animation/format/FrameImages.h"
 
 #include <cstdint>
 #include <optional>
@@ -10,8 +11,9 @@
 namespace gp {
 
 struct DrawnFrame {
-  FramePicture picture;  // on white
-  int hotspotX = 0;      // of the image that was drawn, scaled with it; not limited
+  FramePicture picture;   // on white
+  FrameImageFacts image;  // the image that was drawn
+  int hotspotX = 0;       // of the image that was drawn, scaled with it; not limited
   int hotspotY = 0;
   bool hasAlpha = false;    // of values that image and mask do not keep
   bool isOneOfSize = true;  // the file has only this image, of 32 x 32 pixels
