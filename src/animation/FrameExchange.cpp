@@ -68,7 +68,7 @@ IconOfFrame iconOfFrame(const FramePicture& picture, int number) {
 LoadedPicture loadIconFile(const std::string& path) {
   const auto file = readIconFile(path);
   const IconFacts facts = file ? probeIcon(*file, false) : IconFacts();
-  if (const LoadedPicture refused = refusalOf(facts, path); !refused.isLoaded()) return refused;
+  if (LoadedPicture refused = refusalOf(facts, path); !refused.isLoaded()) return refused;
   const auto drawn = drawFrame(file->span());
   if (!drawn) return {{}, kNotLoaded};
   return {drawn->picture, {}};

@@ -1,11 +1,10 @@
 // The animated cursor session: the input is opened as a film and as the icon of a frame, and buttons are pressed as the
 // input selects. Frames stay in their ranges, and a film that was saved is read back the same.
+#include "../support/FakeTimer.h"
 #include "FuzzUser.h"
 #include "animation/AniSession.h"
-#include "support/FakeTimer.h"
 
 #include <algorithm>
-#include <array>
 
 namespace {
 
