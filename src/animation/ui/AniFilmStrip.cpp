@@ -24,6 +24,7 @@ AniFilmStrip::AniFilmStrip(QWidget* parent, const AniEvents& events)
     events_.guarded("VsrANISeries_Change", [&] { events_.session.scrollTo(value); });
     picFilm_->refresh();
   });
+  connect(picFilm_, &AniFilmView::heightChanged, this, &AniFilmStrip::refresh);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(0);

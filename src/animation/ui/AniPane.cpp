@@ -58,7 +58,8 @@ bool AniPane::hasFocusInside() const { return isAncestorOf(window()->focusWidget
 
 void AniPane::refresh() {
   if (!screen_.aniContainerVisible) return disappear();
-  const bool appears = isHidden(), hadFocus = hasFocusInside();
+  const bool appears = isHidden();
+  const QWidget* focused = window()->focusWidget();
   if (appears) dragged_.reset();
   showContent();
   arrange();
@@ -66,7 +67,7 @@ void AniPane::refresh() {
   if (appears)
     appear();
   else
-    keepFocus(hadFocus);
+    keepFocus(focused);
 }
 
 void AniPane::appear() {
@@ -104,9 +105,8 @@ void AniPane::arrange() {
 }
 
 // The focus stays in the pane when the control that had it is hidden or disabled.
-void AniPane::keepFocus(bool hadFocus) {
-  const QWidget* focused = window()->focusWidget();
-  if (!hadFocus || (isAncestorOf(focused) && focused->isVisible() && focused->isEnabled())) return;
+void AniPane::keepFocus(const QWidget* focused) {
+  if (!isAncestorOf(focused) || (focused->isVisible() && focused->isEnabled())) return;
   QWidget* next = body_->isHidden() ? buttons_->button(kResize) : body_->film();
   next->setFocus(Qt::OtherFocusReason);
 }

@@ -42,7 +42,7 @@ class AniPane final : public QWidget {
   void disappear();
   void showContent();
   void arrange();
-  void keepFocus(bool hadFocus);
+  void keepFocus(const QWidget* focused);
   void place();
   QSize sizeNow() const;
   void dragBy(const QPoint& distance);
