@@ -1,14 +1,16 @@
+#include "cli/AnimatedCommandRows.h"
 #include "cli/CommandTable.h"
 #include "cli/EffectOptions.h"
 #include "cli/Help.h"
 #include "cli/Subcommands.h"
 
+#include <algorithm>
 #include <array>
 
 namespace gp::cli {
 namespace {
 
-constexpr std::array kRows = std::to_array<Command>({
+constexpr std::array kIconRows = std::to_array<Command>({
     {.name = "make",
      .usage = "make OUT.ico PICTURE... [--from PICTURE] [--sizes 16,24,...] [--bits BITS] [--png-above SIZE]\n"
               "            [--filter FILTER] [--dither DITHER] [--hotspot X,Y] [--json] [--force]",
@@ -254,6 +256,9 @@ constexpr std::array kRows = std::to_array<Command>({
              "with one FILE.",
      .example = "strip icons/*.ico",
      .run = runStrip},
+});
+
+constexpr std::array kRowsAboutGpicon = std::to_array<Command>({
     {.name = "manual",
      .usage = "manual",
      .summary = "prints the manual page",
@@ -274,6 +279,16 @@ constexpr std::array kRows = std::to_array<Command>({
      .example = "help check",
      .run = runHelp},
 });
+
+template <std::size_t... counts>
+constexpr auto joined(const std::array<Command, counts>&... parts) {
+  std::array<Command, (counts + ...)> rows{};
+  auto end = rows.begin();
+  ((end = std::ranges::copy(parts, end).out), ...);
+  return rows;
+}
+
+constexpr auto kRows = joined(kIconRows, kAnimatedCommandRows, kRowsAboutGpicon);
 
 }  // namespace
 

@@ -1,20 +1,29 @@
 #include "cli/ImageFile.h"
 
+#include "animation/format/AniFile.h"
 #include "cli/Console.h"
 #include "cli/Streams.h"
 #include "files/cursor/CursorLoading.h"
 #include "files/format/IconProbe.h"
 #include "files/format/PngEntry.h"
+#include "platform/text/Utf8.h"
 
 namespace gp::cli {
 namespace {
 
 constexpr int kSideOfZero = 256;
 
-std::optional<IconFile> openFile(const std::string& path, bool withCursors) {
-  auto file = readIconInput(path);
-  const bool fits = file && (file->isIcon() || (withCursors && file->isCursor()));
-  if (fits && file->directory.presentCount() != 0) return file;
+enum class Kinds { Icons, IconsAndCursors, All };
+
+bool isOf(Kinds kinds, const IconFile& file, const std::string& path) {
+  if (kinds == Kinds::All && isAnimated(file, path)) return true;
+  const bool fits = file.isIcon() || (kinds != Kinds::Icons && file.isCursor());
+  return fits && file.directory.presentCount() != 0;
+}
+
+std::optional<IconFile> openFile(const std::string& path, Kinds kinds) {
+  auto file = kinds == Kinds::All ? readImageInput(path) : readIconInput(path);
+  if (file && isOf(kinds, *file, path)) return file;
   complain(path, describe(file ? IconDefect::NotAnIcon : IconDefect::NotReadable));
   return std::nullopt;
 }
@@ -34,8 +43,15 @@ std::optional<DecodedImage> decodeCursor(const IconFile& file) {
 
 }  // namespace
 
-std::optional<IconFile> openImageFile(const std::string& path) { return openFile(path, true); }
-std::optional<IconFile> openIconFile(const std::string& path) { return openFile(path, false); }
+std::optional<IconFile> openAnyFile(const std::string& path) { return openFile(path, Kinds::All); }
+std::optional<IconFile> openImageFile(const std::string& path) { return openFile(path, Kinds::IconsAndCursors); }
+std::optional<IconFile> openIconFile(const std::string& path) { return openFile(path, Kinds::Icons); }
+
+bool isNamedAni(const std::string& path) { return endsWithAnyCase(path, ".ani"); }
+
+bool isAnimated(const IconFile& file, const std::string& path) {
+  return isRiffFile(file.span()) || (isNamedAni(path) && !file.isIcon() && !file.isCursor());
+}
 
 int sideOf(int side) { return side == 0 ? kSideOfZero : side; }
 

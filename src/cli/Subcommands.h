@@ -31,6 +31,9 @@ int runRemove(const Arguments& arguments);
 int runReorder(const Arguments& arguments);
 int runSalvage(const Arguments& arguments);
 int runStrip(const Arguments& arguments);
+// Animated cursors, and the cursors of X11 and Wayland.
+int runXcursor(const Arguments& arguments);
+int runUnxcursor(const Arguments& arguments);
 
 // About gpicon.
 int runManual(const Arguments& arguments);

@@ -1,4 +1,5 @@
 // Every subcommand of gpicon that writes files, on a device that fails.
+#include "animation/XcursorBytes.h"
 #include "cli/Subcommands.h"
 #include "files/IcoBuilder.h"
 #include "support/CommandUnderFailures.h"
@@ -49,6 +50,9 @@ const std::vector<WritingSubcommand> kWritingSubcommands{
     {"Strip", cli::runStrip, {"@thin.ico"}, "thin.ico", true},
     {"StripTo", cli::runStrip, {"@thin.ico", "-o", "@a.ico"}, "a.ico"},
     {"Split", cli::runSplit, {"@multi.ico", "@single.ico", "-d", "@out", "--force"}, "out/multi_32_16.ico"},
+    {"Xcursor", cli::runXcursor, {"@multi.ico", "-o", "@a"}, "a"},
+    {"Unxcursor", cli::runUnxcursor, {"@xcursor", "-o", "@a.cur"}, "a.cur"},
+    {"UnxcursorMoving", cli::runUnxcursor, {"@moving", "-o", "@a.ani"}, "a.ani"},
 };
 
 struct FailingSubcommand {
@@ -87,6 +91,8 @@ class GpiconFailures : public CommandUnderFailures, public testing::WithParamInt
     thin.index = [](int x, int y) { return (x + y) % 3; };
     write("thin.ico", build(entryOf(thin)));
     write("logo.png", build(anyPng(32)));
+    write("xcursor", bytesOfText(xcursorOf({{}})));
+    write("moving", bytesOfText(xcursorOf({{}, {}})));
     write("lies.ico", build(entryOf(anyPicture(32, 8), 16, 4)));
   }
   // A failure is a status of 1 and a line for each file that was not written.

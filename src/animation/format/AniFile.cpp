@@ -81,6 +81,7 @@ class AniReader {
     if (is(chunk, ani::kHeader) && !hasHeader_) return takeHeader(chunk);
     if (is(chunk, ani::kRates) && !file_.rates) file_.rates = numbersOf(bytes_, chunk);
     if (is(chunk, ani::kSequence) && !file_.sequence) file_.sequence = numbersOf(bytes_, chunk);
+    if (is(chunk, ani::kDelays) && !file_.delaysMs) file_.delaysMs = numbersOf(bytes_, chunk);
   }
 
   // Lists in a list are passed over.

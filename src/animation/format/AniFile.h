@@ -31,7 +31,8 @@ struct AniFile {
   std::optional<std::string> artist;
   std::optional<std::vector<std::uint32_t>> rates;  // jiffies of each step
   std::optional<std::vector<std::uint32_t>> sequence;
-  std::vector<AniImage> images;  // in file order, whatever number the header states
+  std::optional<std::vector<std::uint32_t>> delaysMs;  // of each step, in files that this program converted
+  std::vector<AniImage> images;                        // in file order, whatever number the header states
 };
 
 enum class AniDefect {

@@ -16,6 +16,8 @@ inline constexpr std::string_view kArtist = "IART";
 inline constexpr std::string_view kHeader = "anih";
 inline constexpr std::string_view kRates = "rate";
 inline constexpr std::string_view kSequence = "seq ";
+// A chunk that only this program writes: the milliseconds of each step, which jiffies state less exactly.
+inline constexpr std::string_view kDelays = "msec";
 inline constexpr std::string_view kFrames = "fram";
 inline constexpr std::string_view kImage = "icon";
 

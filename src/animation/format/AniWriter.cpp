@@ -4,7 +4,6 @@
 #include "files/format/IcoLayout.h"
 #include "platform/files/ByteWriter.h"
 
-#include <numeric>
 #include <string_view>
 
 namespace gp {
@@ -39,16 +38,18 @@ void writeInfo(ByteWriter& out) {
   writeText(ani::kArtist, kArtist, out);
 }
 
-void writeHeader(std::size_t frames, ByteWriter& out) {
+void writeHeader(std::size_t frames, std::uint32_t rate, ByteWriter& out) {
   writeChunkHeader(ani::kHeader, ani::kAnihSize, out);
   out.u32(ani::kAnihSize);
   const auto count = static_cast<std::uint32_t>(frames);
-  for (const std::uint32_t field : {count, count, 0U, 0U, 0U, 0U, kHeaderRate, ani::kImagesAreFiles}) out.u32(field);
+  for (const std::uint32_t field : {count, count, 0U, 0U, 0U, 0U, rate, ani::kImagesAreFiles}) out.u32(field);
 }
 
-void writeRates(std::span<const AniFrame> frames, ByteWriter& out) {
-  writeChunkHeader(ani::kRates, kNumberSize * frames.size(), out);
-  for (const AniFrame& frame : frames) out.u32(static_cast<std::uint32_t>(frame.jiffies));
+// A table with a number of each frame.
+template <class Frames, class Number>
+void writeNumbers(std::string_view tag, const Frames& frames, Number number, ByteWriter& out) {
+  writeChunkHeader(tag, kNumberSize * frames.size(), out);
+  for (const auto& frame : frames) out.u32(static_cast<std::uint32_t>(frame.*number));
 }
 
 void setU16(std::vector<std::uint8_t>& bytes, std::size_t at, int value) {
@@ -63,15 +64,16 @@ std::vector<std::uint8_t> cursorOf(std::vector<std::uint8_t> file, int hotspotX,
   return file;
 }
 
-void writeFrames(std::span<const AniFrame> frames, int hotspotX, int hotspotY, ByteWriter& out) {
-  const std::size_t size = std::accumulate(
-      frames.begin(), frames.end(), ani::kTagSize,
-      [](std::size_t sum, const AniFrame& frame) { return sum + ani::kChunkHeaderSize + frame.file.size(); });
+// The list of the frames, whose bytes `fileOf` returns in their size.
+template <class Frames, class FileOf>
+void writeFrames(const Frames& frames, const FileOf& fileOf, ByteWriter& out) {
+  std::size_t size = ani::kTagSize;
+  for (const auto& frame : frames) size += ani::kChunkHeaderSize + frame.file.size();
   writeChunkHeader(ani::kList, size, out);
   out.text(ani::kFrames);
-  for (const AniFrame& frame : frames) {
+  for (const auto& frame : frames) {
     writeChunkHeader(ani::kImage, frame.file.size(), out);
-    out.bytes(cursorOf(frame.file, hotspotX, hotspotY));
+    out.bytes(fileOf(frame));
   }
 }
 
@@ -82,11 +84,25 @@ std::vector<std::uint8_t> composeAniFile(std::span<const AniFrame> frames, int h
   writeChunkHeader(ani::kRiff, 0, out);
   out.text(ani::kForm);
   writeInfo(out);
-  writeHeader(frames.size(), out);
-  writeRates(frames, out);
-  writeFrames(frames, hotspotX, hotspotY, out);
+  writeHeader(frames.size(), kHeaderRate, out);
+  writeNumbers(ani::kRates, frames, &AniFrame::jiffies, out);
+  writeFrames(
+      frames, [&](const AniFrame& frame) { return cursorOf(frame.file, hotspotX, hotspotY); }, out);
   // Intended: the length of the whole file, eight more than the rule of RIFF gives.
   out.setU32(ani::kTagSize, static_cast<std::uint32_t>(out.size()));
+  return out.take();
+}
+
+std::vector<std::uint8_t> composeConvertedAni(std::span<const AniStep> steps) {
+  ByteWriter out;
+  writeChunkHeader(ani::kRiff, 0, out);
+  out.text(ani::kForm);
+  writeHeader(steps.size(), steps.empty() ? kHeaderRate : steps.front().jiffies, out);
+  writeNumbers(ani::kRates, steps, &AniStep::jiffies, out);
+  writeNumbers(ani::kDelays, steps, &AniStep::delayMs, out);
+  writeFrames(
+      steps, [](const AniStep& step) -> std::span<const std::uint8_t> { return step.file; }, out);
+  out.setU32(ani::kTagSize, static_cast<std::uint32_t>(out.size() - ani::kChunkHeaderSize));
   return out.take();
 }
 

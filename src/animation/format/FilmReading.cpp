@@ -3,34 +3,18 @@
 #include "animation/format/AniFile.h"
 #include "animation/format/AniInfo.h"
 #include "animation/format/AniLayout.h"
+#include "animation/format/AniSteps.h"
 #include "animation/format/FrameDrawing.h"
 #include "animation/format/FrameImages.h"
 
 #include <algorithm>
-#include <numeric>
 #include <optional>
 
 namespace gp {
 namespace {
 
 using Bytes = std::span<const std::uint8_t>;
-using Steps = std::vector<std::size_t>;  // the image of each step, from 0; it may not exist
-
-bool hasPlayedSequence(const AniFile& file) {
-  return (file.header.flags & ani::kHasSequence) != 0 && file.sequence && !file.sequence->empty();
-}
-
-// A sequence ends with the stated steps or with its table, whichever is first. All images are played without one.
-Steps stepsOf(const AniFile& file) {
-  if (hasPlayedSequence(file)) {
-    const std::size_t stated = file.header.steps == 0 ? file.images.size() : file.header.steps;
-    const auto played = std::span(*file.sequence).first(std::min(stated, file.sequence->size()));
-    return {played.begin(), played.end()};
-  }
-  Steps steps(file.images.size());
-  std::iota(steps.begin(), steps.end(), std::size_t{0});
-  return steps;
-}
+using Steps = std::vector<std::size_t>;
 
 Bytes bytesOf(Bytes file, const AniImage& image) { return file.subspan(image.offset, image.size); }
 
@@ -132,21 +116,25 @@ ReadFilm ReadANIFileFrames(Bytes file) {
   return readSteps(file, reading.file, steps);
 }
 
-std::string refusalOf(const ReadFilm& film, const std::string& path) {
+std::string describe(const ReadFilm& film) {
   switch (film.defect) {
     case FilmDefect::None:
       break;
     case FilmDefect::NoFrames:
-      return path + "\nFailed to read this ANI file";
+      return "Failed to read this ANI file";
     case FilmDefect::TooManyFrames:
-      return path + "\nEither an invalid ANI file or number of frames exceeds limit of " +
-             std::to_string(cMaxAniFrames) + ".";
+      return "Either an invalid ANI file or number of frames exceeds limit of " + std::to_string(cMaxAniFrames) + ".";
     case FilmDefect::FrameNotDrawn:
-      return "Failed to retrieve one of the frames, i.e. " + std::to_string(film.failedFrame) + "\n";
+      return "Failed to retrieve one of the frames, i.e. " + std::to_string(film.failedFrame);
     case FilmDefect::NoJiffies:
-      return path + "\nFailed to read jiffies info of file.";
+      return "Failed to read jiffies info of file.";
   }
   return "";
+}
+
+std::string refusalOf(const ReadFilm& film, const std::string& path) {
+  if (film.isRead()) return "";
+  return film.defect == FilmDefect::FrameNotDrawn ? describe(film) + "\n" : path + "\n" + describe(film);
 }
 
 }  // namespace gp

@@ -1,0 +1,17 @@
+// What gpicon lists of an animated cursor: the film as a whole, and each of its images.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+namespace gp::cli {
+
+// Print a file that readAniFile accepts at least in part; see canListAni. The text has a line for the film and one for
+// each image, JSON is one object.
+void printAniAsText(const std::string& path, std::span<const std::uint8_t> file);
+void printAniAsJson(const std::string& path, std::span<const std::uint8_t> file);
+// False for a file that is no animated cursor.
+bool canListAni(std::span<const std::uint8_t> file);
+
+}  // namespace gp::cli
