@@ -226,9 +226,9 @@ TEST_F(AniPaneTest, DeleteOnTheFilmDoesNotEraseTheRegion) {
 TEST_F(AniPaneTest, AClickSelectsAFrameAndOneBelowTheLastIsIgnored) {
   open();
   makeFilm(3);
-  const QPoint first(20, 20);
+  const QPoint first = onFilm(20, 20);
   const auto clickAt = [&](int cell) {
-    QTest::mouseClick(film(), Qt::LeftButton, Qt::NoModifier, first + QPoint(0, cell * AniFilm::kCellHeight));
+    QTest::mouseClick(film(), Qt::LeftButton, Qt::NoModifier, onFilm(20, 20 + cell * AniFilm::kCellHeight));
   };
   clickAt(0);
   EXPECT_EQ(session().frames().current(), 1);
@@ -253,20 +253,19 @@ TEST_F(AniPaneTest, TheFilmIsShownPixelForPixelAndScrolls) {
   EXPECT_GT(bar->maximum(), 0);
   EXPECT_EQ(bar->singleStep(), 50);
   EXPECT_EQ(bar->pageStep(), session().film().largeStep());
-  constexpr int kEdge = 2;
+  const int factor = static_cast<int>(film()->devicePixelRatioF()), edge = qRound(2 * film()->devicePixelRatioF());
   for (const int scroll : {0, 130}) {
     bar->setValue(scroll);
     EXPECT_EQ(session().film().scroll(), scroll);
     const QImage shown = film()->grab().toImage();
-    ASSERT_EQ(shown.width(), AniFilm::kCellWidth + 2 * kEdge);
-    for (int y = 0; y < 120; ++y)
-      for (int x = 0; x < AniFilm::kCellWidth; ++x) {
-        const Color wanted = session().film().picFilm().GetPixel(x, y + scroll);
-        ASSERT_EQ(shown.pixel(x + kEdge, y + kEdge), qRgb(redOf(wanted), greenOf(wanted), blueOf(wanted)))
+    for (int y = 0; y < 120 * factor; ++y)
+      for (int x = 0; x < AniFilm::kCellWidth * factor; ++x) {
+        const Color wanted = session().film().picFilm().GetPixel(x / factor, y / factor + scroll);
+        ASSERT_EQ(shown.pixel(x + edge, y + edge), qRgb(redOf(wanted), greenOf(wanted), blueOf(wanted)))
             << x << ", " << y << " at " << scroll;
       }
   }
-  QTest::mouseClick(film(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 2 + 30));
+  QTest::mouseClick(film(), Qt::LeftButton, Qt::NoModifier, onFilm(20, 30));
   EXPECT_EQ(session().frames().current(), (130 + 30) / 50 + 1) << "the click counts from the top of the film";
 }
 

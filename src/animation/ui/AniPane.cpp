@@ -138,8 +138,9 @@ void AniPane::dragBy(const QPoint& distance) {
 
 bool AniPane::eventFilter(QObject* watched, QEvent* event) {
   const bool isLaidOut = event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest;
-  if (watched == window() && event->type() == QEvent::WindowStateChange) dragged_.reset();
-  if (watched == parentWidget() && isLaidOut && !isHidden()) place();
+  const bool isNewState = watched == window() && event->type() == QEvent::WindowStateChange;
+  if (isNewState) dragged_.reset();
+  if (!isHidden() && (isNewState || (watched == parentWidget() && isLaidOut))) place();
   return QWidget::eventFilter(watched, event);
 }
 
