@@ -157,6 +157,11 @@ TEST_F(AniPaneTest, WhatAButtonDoesToTheFilmIsAnnouncedWhileTheButtonHasTheFocus
   film()->setFocus();
   key(Qt::Key_Down);
   EXPECT_EQ(notice->text(), "Frame 2 of 3, 30 jiffies") << "the film speaks for itself";
+  button(3)->setFocus();
+  display.announce("Opened a.ani");
+  boxes.expectAsked("Without saving frames to file first?\n\n", BoxAnswer::Yes);
+  key(Qt::Key_Space);
+  EXPECT_EQ(notice->text(), "Opened a.ani") << "what the session announces about a file remains";
 }
 
 struct FilmKey {

@@ -55,7 +55,7 @@ AniButtons::AniButtons(QObject* parent, const AniEvents& events) : QObject(paren
 
 void AniButtons::add(int index, QAbstractButton* button) {
   cmdANI_.at(static_cast<std::size_t>(index)) = button;
-  connect(button, &QAbstractButton::clicked, this, [this, index] { events_.press(index); });
+  connect(button, &QAbstractButton::clicked, this, [this, index] { events_.press(index), emit pressed(index); });
 }
 
 QWidget* AniButtons::makePicture(QWidget* parent, int index) {
