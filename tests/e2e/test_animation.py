@@ -5,6 +5,7 @@ import os
 import films
 import icons
 from forms import HOTSPOT_X, HOTSPOT_Y, Desk, read, write
+from hearing import DESCRIBED, Hearing
 
 SIZE = 32
 GROUND, WHITE = (192, 192, 192), (255, 255, 255)
@@ -189,8 +190,10 @@ def test_a_film_is_made_by_keyboard_alone(session):
     program.keys('space')
     desk.waitForFilm('Frame 3 of 3, 4 jiffies')
     program.goTo('Film', role='canvas')
-    program.keys('ctrl+Up')
-    desk.waitForFilm('Frame 2 of 3, 4 jiffies')
+    with Hearing(session, program, DESCRIBED) as hearing:
+        program.keys('ctrl+Up')
+        desk.waitForFilm('Frame 2 of 3, 4 jiffies')
+        hearing.waitFor(lambda events: [DESCRIBED, 'canvas', 'Film'] in [event[:3] for event in events], 'the film to be spoken')
     program.keys('End')
     desk.waitForFilm('Frame 3 of 3, 30 jiffies')
     program.keys('Delete')

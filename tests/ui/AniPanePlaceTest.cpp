@@ -191,6 +191,7 @@ TEST_F(AniPanePlaceTest, ASidePanelTakesThePlaceOfThePane) {
   settle();
   EXPECT_FALSE(pane()->isVisible());
   EXPECT_TRUE(find("fraPanel(4)")->isVisible());
+  EXPECT_TRUE(find("fraPanel(4)")->isAncestorOf(QApplication::focusWidget()));
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QWheelEvent>
 
 #include <string>
 #include <vector>
@@ -272,6 +273,18 @@ TEST_F(AniPaneTest, TheFilmIsShownPixelForPixelAndScrolls) {
   }
   QTest::mouseClick(film(), Qt::LeftButton, Qt::NoModifier, onFilm(20, 30));
   EXPECT_EQ(session().frames().current(), (130 + 30) / 50 + 1) << "the click counts from the top of the film";
+}
+
+TEST_F(AniPaneTest, TheWheelScrollsTheFilm) {
+  open();
+  makeFilm(20);
+  session().goTo(1);
+  const QPointF middle = film()->rect().center();
+  QWheelEvent notch(middle, film()->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                    false);
+  QApplication::sendEvent(film(), &notch);
+  EXPECT_EQ(session().film().scroll(), QApplication::wheelScrollLines() * AniFilm::kCellHeight);
+  EXPECT_EQ(session().frames().current(), 1);
 }
 
 TEST_F(AniPaneTest, TheTestShowsItsPictureAndItsButtonStops) {
