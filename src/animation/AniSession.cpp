@@ -259,7 +259,12 @@ void AniSession::scrollTo(int value) {
   context_.display.changed(DisplayPart::AniPane);
 }
 
-void AniSession::setVisibleHeight(int height) { ani_.film.setVisibleHeight(height); }
+// A pane of another size shows the current frame.
+void AniSession::setVisibleHeight(int height) {
+  if (height == ani_.film.largeStep()) return;
+  ani_.film.setVisibleHeight(height);
+  ani_.film.scrollIntoView(ani_.frames.current());
+}
 
 std::string AniSession::frameLabel() const { return aniFrameLabel(ani_.frames); }
 std::string AniSession::jiffiesLabel() const { return aniJiffiesLabel(ani_.frames); }

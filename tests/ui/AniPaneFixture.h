@@ -14,6 +14,13 @@ class AniPaneFixture : public FormFixture {
   QWidget* button(int index) { return indexed("cmdANI", index); }
   void press(int index) { click(button(index)); }
 
+  // The place of a pixel of the visible part of the film, in the pixels of its view.
+  QPoint onFilm(int x, int y) {
+    constexpr int kEdge = 2;
+    const double ratio = film()->devicePixelRatioF();
+    return QPoint(kEdge, kEdge) + (QPointF(x + 0.5, y + 0.5) * static_cast<int>(ratio) / ratio).toPoint();
+  }
+
   void enter() {
     find<QAction>("mnuANIFileCreateOrEdit")->trigger();
     settle();

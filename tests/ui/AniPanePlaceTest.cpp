@@ -2,6 +2,8 @@
 #include "document/PanelNumbers.h"
 #include "ui/AniPaneFixture.h"
 
+#include <QScrollBar>
+
 #include <set>
 
 namespace gp {
@@ -65,6 +67,9 @@ TEST_F(AniPanePlaceTest, TheCompactPaneLeavesTheChartsFree) {
   EXPECT_LT(chart->mapTo(form.get(), QPoint(0, chart->height())).y(), pane()->mapTo(form.get(), QPoint(0, 0)).y());
   EXPECT_EQ(visibleButtons(), (std::set<int>{0, 1, 2, 8, 10, 11, 18, 19}));
   EXPECT_GE(session().film().largeStep(), 3 * AniFilm::kCellHeight);
+  EXPECT_EQ(session().film().scroll(), 5 * AniFilm::kCellHeight - session().film().largeStep())
+      << "the current frame is in view";
+  EXPECT_EQ(find<QScrollBar>("VsrANISeries")->value(), session().film().scroll());
   EXPECT_TRUE(find("lblANI(0)")->isVisible());
   EXPECT_TRUE(find("picANITest")->isVisible());
   press(1);
@@ -186,6 +191,7 @@ TEST_F(AniPanePlaceTest, ASidePanelTakesThePlaceOfThePane) {
   settle();
   EXPECT_FALSE(pane()->isVisible());
   EXPECT_TRUE(find("fraPanel(4)")->isVisible());
+  EXPECT_TRUE(find("fraPanel(4)")->isAncestorOf(QApplication::focusWidget()));
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QWheelEvent>
 
 #include <string>
 #include <vector>
@@ -157,6 +158,11 @@ TEST_F(AniPaneTest, WhatAButtonDoesToTheFilmIsAnnouncedWhileTheButtonHasTheFocus
   film()->setFocus();
   key(Qt::Key_Down);
   EXPECT_EQ(notice->text(), "Frame 2 of 3, 30 jiffies") << "the film speaks for itself";
+  button(3)->setFocus();
+  display.announce("Opened a.ani");
+  boxes.expectAsked("Without saving frames to file first?\n\n", BoxAnswer::Yes);
+  key(Qt::Key_Space);
+  EXPECT_EQ(notice->text(), "Opened a.ani") << "what the session announces about a file remains";
 }
 
 struct FilmKey {
@@ -226,9 +232,9 @@ TEST_F(AniPaneTest, DeleteOnTheFilmDoesNotEraseTheRegion) {
 TEST_F(AniPaneTest, AClickSelectsAFrameAndOneBelowTheLastIsIgnored) {
   open();
   makeFilm(3);
-  const QPoint first(20, 20);
+  const QPoint first = onFilm(20, 20);
   const auto clickAt = [&](int cell) {
-    QTest::mouseClick(film(), Qt::LeftButton, Qt::NoModifier, first + QPoint(0, cell * AniFilm::kCellHeight));
+    QTest::mouseClick(film(), Qt::LeftButton, Qt::NoModifier, onFilm(20, 20 + cell * AniFilm::kCellHeight));
   };
   clickAt(0);
   EXPECT_EQ(session().frames().current(), 1);
@@ -253,21 +259,37 @@ TEST_F(AniPaneTest, TheFilmIsShownPixelForPixelAndScrolls) {
   EXPECT_GT(bar->maximum(), 0);
   EXPECT_EQ(bar->singleStep(), 50);
   EXPECT_EQ(bar->pageStep(), session().film().largeStep());
-  constexpr int kEdge = 2;
+  const int factor = static_cast<int>(film()->devicePixelRatioF()), edge = qRound(2 * film()->devicePixelRatioF());
   for (const int scroll : {0, 130}) {
     bar->setValue(scroll);
     EXPECT_EQ(session().film().scroll(), scroll);
     const QImage shown = film()->grab().toImage();
-    ASSERT_EQ(shown.width(), AniFilm::kCellWidth + 2 * kEdge);
-    for (int y = 0; y < 120; ++y)
-      for (int x = 0; x < AniFilm::kCellWidth; ++x) {
-        const Color wanted = session().film().picFilm().GetPixel(x, y + scroll);
-        ASSERT_EQ(shown.pixel(x + kEdge, y + kEdge), qRgb(redOf(wanted), greenOf(wanted), blueOf(wanted)))
+    for (int y = 0; y < 120 * factor; ++y)
+      for (int x = 0; x < AniFilm::kCellWidth * factor; ++x) {
+        const Color wanted = session().film().picFilm().GetPixel(x / factor, y / factor + scroll);
+        ASSERT_EQ(shown.pixel(x + edge, y + edge), qRgb(redOf(wanted), greenOf(wanted), blueOf(wanted)))
             << x << ", " << y << " at " << scroll;
       }
   }
-  QTest::mouseClick(film(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 2 + 30));
+  QTest::mouseClick(film(), Qt::LeftButton, Qt::NoModifier, onFilm(20, 30));
   EXPECT_EQ(session().frames().current(), (130 + 30) / 50 + 1) << "the click counts from the top of the film";
+}
+
+TEST_F(AniPaneTest, TheWheelScrollsTheFilm) {
+  open();
+  makeFilm(20);
+  session().goTo(1);
+  QWidget* strip = find("picANISeriesBase");  // which gets the wheel also from the film
+  const QPointF middle = strip->rect().center();
+  QWheelEvent notch(middle, strip->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                    false);
+  const int step = QApplication::wheelScrollLines() * AniFilm::kCellHeight, maximum = session().film().scrollMaximum();
+  ASSERT_GT(maximum, step);
+  QApplication::sendEvent(strip, &notch);
+  EXPECT_EQ(session().film().scroll(), step);
+  for (int turned = step; turned < maximum + 2 * step; turned += step) QApplication::sendEvent(strip, &notch);
+  EXPECT_EQ(session().film().scroll(), maximum);
+  EXPECT_EQ(session().frames().current(), 1);
 }
 
 TEST_F(AniPaneTest, TheTestShowsItsPictureAndItsButtonStops) {
@@ -312,8 +334,8 @@ TEST_F(AniPaneTest, TabFollowsTheEyeAndEachGroupIsOneStop) {
   session().goTo(2);
   settle();
   button(1)->setFocus();
-  for (const char* name : {"cmdANI(1)", "cmdANI(2)", "cmdANI(0)", "picFilm", "cmdANI(3)", "cmdANI(10)", "cmdANI(18)",
-                           "cboANI(0)", "cmdANI(7)", "ckbJIFSinglely", "cboANI(1)", "cboANI(2)", "cmdANI(8)"}) {
+  for (const char* name : {"cmdANI(1)", "cmdANI(2)", "cmdANI(0)", "picFilm", "cmdANI(3)", "cmdANI(10)", "cmdANI(12)",
+                           "cboANI(0)", "ckbJIFSinglely", "cmdANI(7)", "cboANI(1)", "cboANI(2)", "cmdANI(8)"}) {
     ASSERT_NE(QApplication::focusWidget(), nullptr);
     EXPECT_EQ(QApplication::focusWidget()->objectName(), name);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);

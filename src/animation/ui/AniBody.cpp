@@ -54,6 +54,7 @@ AniBody::~AniBody() = default;
 
 void AniBody::makeTop(QVBoxLayout* rows) {
   fraFile_ = groupOf(this, "fraANIFile", "File", buttons_.makeGroup(this, {3, 4, 5, 6}, 4));
+  fraFile_->setAccessibleName(QStringLiteral("Film file"));  // "File" is the path in the status bar
   fraExchange_ = groupOf(this, "fraANIExchange", "Exchange", buttons_.makeGroup(this, {10, 11, 15}, 3));
   top_ = new QHBoxLayout;
   top_->setSpacing(kGap);

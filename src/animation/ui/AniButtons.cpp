@@ -24,26 +24,27 @@ struct ButtonLook {
   const char* tooltip;
 };
 
+// In the order of the eye.
 constexpr ButtonLook kLooks[] = {
-    {0, "close", "Close ANI session"},
     {1, "pane-resize", "Resize"},
     {2, "pane-minimize", "Minimize"},
+    {0, "close", "Close ANI session"},
     {3, "film-new", "Create new ANI file"},
     {4, "open", "Open ANI file"},
     {5, "save", "Save to ANI file -- Cursor-based"},
     {6, "close", "Close"},
-    {7, "film-time", "Set interval between frames"},
-    {9, "properties", "Frame property"},
     {10, "frame-from-area", "From Editing Area"},
     {11, "frame-to-area", "To Editing Area"},
+    {15, "frame-load", "Load direct from ICO file to current frame"},
+    {18, "frame-up", "Go to one frame up"},
+    {19, "frame-down", "Go to one frame down"},
+    {16, "frame-shift-up", "Shift current up"},
+    {17, "frame-shift-down", "Shift current down"},
     {12, "frame-below", "Add new frame below"},
     {13, "frame-above", "Add new frame above"},
     {14, "frame-remove", "Remove current frame"},
-    {15, "frame-load", "Load direct from ICO file to current frame"},
-    {16, "frame-shift-up", "Shift current up"},
-    {17, "frame-shift-down", "Shift current down"},
-    {18, "frame-up", "Go to one frame up"},
-    {19, "frame-down", "Go to one frame down"},
+    {9, "properties", "Frame property"},
+    {7, "film-time", "Set interval between frames"},
 };
 
 QString nameOf(int index) { return QStringLiteral("cmdANI(%1)").arg(index); }
@@ -54,7 +55,7 @@ AniButtons::AniButtons(QObject* parent, const AniEvents& events) : QObject(paren
 
 void AniButtons::add(int index, QAbstractButton* button) {
   cmdANI_.at(static_cast<std::size_t>(index)) = button;
-  connect(button, &QAbstractButton::clicked, this, [this, index] { events_.press(index); });
+  connect(button, &QAbstractButton::clicked, this, [this, index] { events_.press(index), emit pressed(index); });
 }
 
 QWidget* AniButtons::makePicture(QWidget* parent, int index) {
@@ -96,11 +97,11 @@ QWidget* AniButtons::makeGroup(QWidget* parent, std::initializer_list<int> indic
   return group;
 }
 
+// The first button that is enabled in a group becomes its Tab stop.
 void AniButtons::refresh() {
-  for (int index = 0; index < AniSession::kButtonCount; ++index)
-    if (QAbstractButton* made = button(index)) made->setEnabled(events_.session.isEnabled(index));
-  if (QAbstractButton* test = button(kTest))
-    test->setText(QLatin1String(events_.session.test().isRunning() ? kStopCaption : kTestCaption));
+  for (const ButtonLook& look : kLooks) button(look.index)->setEnabled(events_.session.isEnabled(look.index));
+  button(kTest)->setEnabled(events_.session.isEnabled(kTest));
+  button(kTest)->setText(QLatin1String(events_.session.test().isRunning() ? kStopCaption : kTestCaption));
 }
 
 }  // namespace gp

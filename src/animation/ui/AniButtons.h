@@ -37,6 +37,10 @@ class AniButtons final : public QObject {
   // Brings enabling and captions up to date.
   void refresh();
 
+ signals:
+  // A click was handled.
+  void pressed(int index);
+
  private:
   void add(int index, QAbstractButton* button);
 

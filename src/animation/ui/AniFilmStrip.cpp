@@ -4,7 +4,7 @@
 #include "animation/ui/AniFilmView.h"
 #include "platform/qt/Accessibility.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -24,6 +24,7 @@ AniFilmStrip::AniFilmStrip(QWidget* parent, const AniEvents& events)
     events_.guarded("VsrANISeries_Change", [&] { events_.session.scrollTo(value); });
     picFilm_->refresh();
   });
+  connect(picFilm_, &AniFilmView::heightChanged, this, &AniFilmStrip::refresh);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(0);
@@ -41,6 +42,10 @@ void AniFilmStrip::refresh() {
   picFilm_->refresh();
 }
 
-void AniFilmStrip::wheelEvent(QWheelEvent* event) { QCoreApplication::sendEvent(VsrANISeries_, event); }
+// As far as the wheel turns, so that a fine one scrolls smoothly.
+void AniFilmStrip::wheelEvent(QWheelEvent* event) {
+  const int step = VsrANISeries_->singleStep() * QApplication::wheelScrollLines();
+  VsrANISeries_->setValue(VsrANISeries_->value() - event->angleDelta().y() * step / QWheelEvent::DefaultDeltasPerStep);
+}
 
 }  // namespace gp

@@ -87,6 +87,7 @@ void AniFilmView::resizeEvent(QResizeEvent*) { reportHeight(); }
 void AniFilmView::reportHeight() {
   const int height = static_cast<int>(inside().height() * devicePixelRatioF()) / factor();
   events_.guarded("picANISeriesBase_Resize", [&] { events_.session.setVisibleHeight(height); });
+  emit heightChanged();
 }
 
 void AniFilmView::mousePressEvent(QMouseEvent* event) {

@@ -25,6 +25,10 @@ class AniFilmView final : public QWidget, public AccessibleValue {
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
 
+ signals:
+  // Another part of the film is visible.
+  void heightChanged();
+
  protected:
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;

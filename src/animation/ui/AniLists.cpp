@@ -36,13 +36,13 @@ QComboBox* AniLists::makeNumbers(QWidget* parent, int index, const char* name) {
 }
 
 void AniLists::makeJiffy(AniButtons& buttons) {
-  QHBoxLayout* row = fraJiffy_->addRow();
-  row->addWidget(makeNumbers(fraJiffy_, 0, "Jiffies"), 1);
+  fraJiffy_->addRow()->addWidget(makeNumbers(fraJiffy_, 0, "Jiffies"));
   ckbJIFSinglely_ = new QCheckBox(QStringLiteral("Set si&ngly"), fraJiffy_);
   ckbJIFSinglely_->setObjectName(QStringLiteral("ckbJIFSinglely"));
   ckbJIFSinglely_->setToolTip(QLatin1String(kSinglyTooltip));
   QObject::connect(ckbJIFSinglely_, &QCheckBox::toggled, ckbJIFSinglely_, [this] { choose(); });
-  fraJiffy_->addRow()->addWidget(ckbJIFSinglely_);
+  QHBoxLayout* row = fraJiffy_->addRow();
+  row->addWidget(ckbJIFSinglely_, 1);
   row->addWidget(buttons.makePicture(fraJiffy_, kSetInterval));
 }
 

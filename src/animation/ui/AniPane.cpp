@@ -21,6 +21,8 @@ namespace {
 
 constexpr int kFrame = 1;
 constexpr int kClose = 0, kResize = 1;
+// Those after which the film is at another frame or has other times.
+constexpr int kFrameButtons[] = {7, 12, 13, 14, 16, 17, 18, 19};
 
 }  // namespace
 
@@ -40,6 +42,7 @@ AniPane::AniPane(QWidget* column, const ScreenState& screen, AniEvents events)
   rows->setSpacing(0);
   rows->addWidget(title_);
   rows->addWidget(body_, 1);
+  connect(buttons_, &AniButtons::pressed, this, &AniPane::announceFrame);
   connect(title_, &AniTitle::dragged, this, &AniPane::dragBy);
   connect(title_, &AniTitle::doubleClicked, this,
           [this] { events_.guarded("imgANI_DblClick", [this] { events_.session.restorePane(); }); });
@@ -58,7 +61,8 @@ bool AniPane::hasFocusInside() const { return isAncestorOf(window()->focusWidget
 
 void AniPane::refresh() {
   if (!screen_.aniContainerVisible) return disappear();
-  const bool appears = isHidden(), hadFocus = hasFocusInside();
+  const bool appears = isHidden();
+  const QWidget* focused = window()->focusWidget();
   if (appears) dragged_.reset();
   showContent();
   arrange();
@@ -66,7 +70,7 @@ void AniPane::refresh() {
   if (appears)
     appear();
   else
-    keepFocus(hadFocus);
+    keepFocus(focused);
 }
 
 void AniPane::appear() {
@@ -84,13 +88,16 @@ void AniPane::disappear() {
   if (hadFocus) emit focusGivenBack();
 }
 
-// What a frame button does is spoken by the film while it has the focus, and otherwise by the status bar.
 void AniPane::showContent() {
   buttons_->refresh();
   body_->refresh();
-  const QString value = dynamic_cast<const AniFilmView*>(body_->film())->accessibleValue();
-  if (std::exchange(spoken_, value) == value || isHidden() || body_->film()->hasFocus() || !hasFocusInside()) return;
-  events_.announce(value.toStdString());
+}
+
+// What a button does to the film is spoken by the film while it has the focus, and otherwise by the status bar.
+void AniPane::announceFrame(int pressed) {
+  if (std::ranges::find(kFrameButtons, pressed) == std::end(kFrameButtons)) return;
+  if (body_->film()->hasFocus() || !hasFocusInside()) return;
+  events_.announce(dynamic_cast<const AniFilmView*>(body_->film())->accessibleValue().toStdString());
 }
 
 void AniPane::refreshTest() { body_->refreshTest(); }
@@ -104,9 +111,8 @@ void AniPane::arrange() {
 }
 
 // The focus stays in the pane when the control that had it is hidden or disabled.
-void AniPane::keepFocus(bool hadFocus) {
-  const QWidget* focused = window()->focusWidget();
-  if (!hadFocus || (isAncestorOf(focused) && focused->isVisible() && focused->isEnabled())) return;
+void AniPane::keepFocus(const QWidget* focused) {
+  if (!isAncestorOf(focused) || (focused->isVisible() && focused->isEnabled())) return;
   QWidget* next = body_->isHidden() ? buttons_->button(kResize) : body_->film();
   next->setFocus(Qt::OtherFocusReason);
 }
@@ -138,8 +144,9 @@ void AniPane::dragBy(const QPoint& distance) {
 
 bool AniPane::eventFilter(QObject* watched, QEvent* event) {
   const bool isLaidOut = event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest;
-  if (watched == window() && event->type() == QEvent::WindowStateChange) dragged_.reset();
-  if (watched == parentWidget() && isLaidOut && !isHidden()) place();
+  const bool isNewState = watched == window() && event->type() == QEvent::WindowStateChange;
+  if (isNewState) dragged_.reset();
+  if (!isHidden() && (isNewState || (watched == parentWidget() && isLaidOut))) place();
   return QWidget::eventFilter(watched, event);
 }
 

@@ -41,8 +41,9 @@ class AniPane final : public QWidget {
   void appear();
   void disappear();
   void showContent();
+  void announceFrame(int pressed);
   void arrange();
-  void keepFocus(bool hadFocus);
+  void keepFocus(const QWidget* focused);
   void place();
   QSize sizeNow() const;
   void dragBy(const QPoint& distance);
@@ -56,7 +57,6 @@ class AniPane final : public QWidget {
   AniBody* body_;
   std::optional<AniPaneSize> arranged_;
   std::optional<QPoint> dragged_;  // the corner that the user has chosen
-  QString spoken_;                 // the film's value when it was last announced
 };
 
 }  // namespace gp
