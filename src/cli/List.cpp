@@ -1,3 +1,4 @@
+#include "cli/AniListing.h"
 #include "cli/ImageFile.h"
 #include "cli/Json.h"
 #include "cli/Subcommands.h"
@@ -60,12 +61,29 @@ void printJson(const ImageRow& row) {
   std::putchar('}');
 }
 
+void printImagesAsText(const std::string& path, const IconFile& file) {
+  for (int i = 0; i < file.directory.presentCount(); ++i) printText(path, rowOf(file, i));
+}
+
+void printImagesAsJson(const std::string& path, const IconFile& file) {
+  std::printf("{\"file\":%s,\"kind\":\"%s\",\"images\":[", jsonText(path).c_str(), file.isCursor() ? "cur" : "ico");
+  for (int i = 0; i < file.directory.presentCount(); ++i) {
+    std::fputs(i == 0 ? "\n" : ",\n", stdout);
+    printJson(rowOf(file, i));
+  }
+  std::fputs("]}", stdout);
+}
+
 int listAsText(const Arguments& files) {
   int status = kDone;
   for (const std::string& path : files) {
-    const auto file = openImageFile(path);
-    if (!file) status = kRefused;
-    for (int i = 0; file && i < file->directory.presentCount(); ++i) printText(path, rowOf(*file, i));
+    const auto file = openAnyFile(path);
+    if (!file)
+      status = kRefused;
+    else if (isAnimated(*file, path))
+      printAniAsText(path, file->span());
+    else
+      printImagesAsText(path, *file);
   }
   return status;
 }
@@ -74,18 +92,11 @@ int listAsJson(const Arguments& files) {
   int status = kDone;
   JsonArray array;
   for (const std::string& path : files) {
-    const auto file = openImageFile(path);
-    if (!file) {
-      status = kRefused;
-      continue;
-    }
+    const auto file = openAnyFile(path);
+    if (!file) status = kRefused;
+    if (!file) continue;
     array.next();
-    std::printf("{\"file\":%s,\"kind\":\"%s\",\"images\":[", jsonText(path).c_str(), file->isCursor() ? "cur" : "ico");
-    for (int i = 0; i < file->directory.presentCount(); ++i) {
-      std::fputs(i == 0 ? "\n" : ",\n", stdout);
-      printJson(rowOf(*file, i));
-    }
-    std::fputs("]}", stdout);
+    isAnimated(*file, path) ? printAniAsJson(path, file->span()) : printImagesAsJson(path, *file);
   }
   array.end();
   return status;

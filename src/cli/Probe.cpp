@@ -1,3 +1,5 @@
+#include "animation/format/FilmReading.h"
+#include "cli/ImageFile.h"
 #include "cli/Json.h"
 #include "cli/Streams.h"
 #include "cli/Subcommands.h"
@@ -12,13 +14,14 @@
 namespace gp::cli {
 namespace {
 
-std::string numbersOf(const IconFile& file) {
+std::string numbersOf(const IconFile& file, const std::string& path) {
+  if (isAnimated(file, path) || isNamedAni(path)) return std::to_string(countAniFrames(file.span()));
   return file.directory.type == ico::kTypeCursor ? probeCursor(file).joined() : probeIcon(file, true).joined();
 }
 
 std::optional<std::string> probe(const std::string& path) {
-  const auto file = readIconInput(path);
-  if (file) return numbersOf(*file);
+  const auto file = readImageInput(path);
+  if (file) return numbersOf(*file, path);
   complain(path, describe(IconDefect::NotReadable));
   return std::nullopt;
 }

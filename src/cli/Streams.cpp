@@ -1,5 +1,6 @@
 #include "cli/Streams.h"
 
+#include "animation/format/AniFile.h"
 #include "platform/files/FileWriting.h"
 
 #include <array>
@@ -38,6 +39,12 @@ std::optional<FileBytes> readInput(const std::string& path) {
 
 std::optional<IconFile> readIconInput(const std::string& path) {
   return isStream(path) ? parseStandardInput() : readIconFile(path);
+}
+
+std::optional<IconFile> readImageInput(const std::string& path) {
+  auto file = readIconInput(path);
+  const bool isPart = file && !isStream(path) && isRiffFile(file->span());
+  return isPart ? readWholeIconFile(path) : std::move(file);
 }
 
 std::optional<IconFile> readWholeIconInput(const std::string& path) {

@@ -16,6 +16,8 @@ bool isStream(const std::string& path);
 // Read a file or standard input. Empty as readFile, and for an input of more than kMaxFileBytes.
 std::optional<FileBytes> readInput(const std::string& path);
 std::optional<IconFile> readIconInput(const std::string& path);
+// The same for commands that also accept animated cursors, which are read whole; see isRiffFile.
+std::optional<IconFile> readImageInput(const std::string& path);
 // Reads all bytes, see readWholeIconFile.
 std::optional<IconFile> readWholeIconInput(const std::string& path);
 

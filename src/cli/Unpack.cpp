@@ -1,3 +1,4 @@
+#include "animation/format/FilmReading.h"
 #include "cli/ImageFile.h"
 #include "cli/Netpbm.h"
 #include "cli/OutputFolder.h"
@@ -42,9 +43,22 @@ bool writeImage(const DecodedImage& image, const std::string& start, OutputFolde
          (!image.hasAlpha || folder.write(start + ".alpha.pgm", alphaFile(image.icon.alpha).bytes()));
 }
 
+bool unpackFilm(const std::string& path, std::span<const std::uint8_t> file, const std::string& name,
+                OutputFolder& folder) {
+  const ReadFilm film = ReadANIFileFrames(file);
+  if (!film.isRead()) return refuse(path, describe(film));
+  for (std::size_t i = 0; i < film.frames.size(); ++i) {
+    const FramePicture& picture = film.frames[i].picture;
+    if (!writeImage({{picture.image, picture.mask, AlphaMatrix()}, false}, name + "_" + std::to_string(i), folder))
+      return false;
+  }
+  return true;
+}
+
 bool unpackFile(const std::string& path, const std::string& name, OutputFolder& folder) {
-  const auto file = openImageFile(path);
+  const auto file = openAnyFile(path);
   if (!file) return false;
+  if (isAnimated(*file, path)) return unpackFilm(path, file->span(), name, folder);
   int unpacked = 0;
   for (int i = 0; i < file->directory.presentCount(); ++i) {
     const auto image = decodeImage(*file, i);

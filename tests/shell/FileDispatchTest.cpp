@@ -52,11 +52,13 @@ class FileDispatchTest : public ShellFixture {
 
 TEST_F(FileDispatchTest, TheseCommandsCommitWhatIsOpenAndNoOthersDo) {
   const std::set<std::string> expected{
-      "mnuFileSub(2)",     "mnuFileSub(3)",       "mnuFileSub(4)",     "mnuFileSub(5)",     "mnuFileSub(7)",
-      "mnuFileSub(9)",     "mnuFileSub(12)",      "mnuFileSub(13)",    "mnuFileSub(15)",    "mnuFileSub(16)",
-      "mnuFileSub(18)",    "mnuFileSub(19)",      "mnuFileSub(20)",    "mnuFileHistory(1)", "mnuFileHistory(2)",
-      "mnuFileHistory(3)", "mnuFileHistory(4)",   "mnuFileHistory(5)", "mnuFileHistory(6)", "mnuPopUpSub(0)",
-      "mnuPopUpSub(3)",    "mnuEnquiryCurrent(9)"};
+      "mnuFileSub(2)",        "mnuFileSub(3)",        "mnuFileSub(4)",          "mnuFileSub(5)",
+      "mnuFileSub(7)",        "mnuFileSub(9)",        "mnuFileSub(12)",         "mnuFileSub(13)",
+      "mnuFileSub(15)",       "mnuFileSub(16)",       "mnuFileSub(18)",         "mnuFileSub(19)",
+      "mnuFileSub(20)",       "mnuFileHistory(1)",    "mnuFileHistory(2)",      "mnuFileHistory(3)",
+      "mnuFileHistory(4)",    "mnuFileHistory(5)",    "mnuFileHistory(6)",      "mnuPopUpSub(0)",
+      "mnuPopUpSub(3)",       "mnuEnquiryCurrent(9)", "mnuANIFileCreateOrEdit", "mnuANIFileHistory(1)",
+      "mnuANIFileHistory(2)", "mnuANIFileHistory(3)"};
   std::set<std::string> committing;
   for (const Command& row : commandTable())
     if (row.commits == Commits::Yes) committing.insert(objectNameOf(row.control, row.index));

@@ -151,7 +151,8 @@ std::vector<const Command*> commandsOfManyRoads() {
   return rows;
 }
 std::string commandNameOf(const testing::TestParamInfo<const Command*>& info) {
-  return std::string(info.param->control) + std::to_string(info.param->index);
+  const int index = info.param->index;
+  return info.param->control + (index == kNoIndex ? std::string() : std::to_string(index));
 }
 INSTANTIATE_TEST_SUITE_P(All, OneCommand, testing::ValuesIn(commandsOfManyRoads()), commandNameOf);
 

@@ -14,7 +14,7 @@ namespace gp {
 namespace {
 
 using Bytes = std::span<const std::uint8_t>;
-using Steps = std::vector<std::size_t>;  // the image of each step, from 0; it may not exist
+using Steps = std::vector<std::size_t>;
 
 Bytes bytesOf(Bytes file, const AniImage& image) { return file.subspan(image.offset, image.size); }
 
@@ -116,21 +116,25 @@ ReadFilm ReadANIFileFrames(Bytes file) {
   return readSteps(file, reading.file, steps);
 }
 
-std::string refusalOf(const ReadFilm& film, const std::string& path) {
+std::string describe(const ReadFilm& film) {
   switch (film.defect) {
     case FilmDefect::None:
       break;
     case FilmDefect::NoFrames:
-      return path + "\nFailed to read this ANI file";
+      return "Failed to read this ANI file";
     case FilmDefect::TooManyFrames:
-      return path + "\nEither an invalid ANI file or number of frames exceeds limit of " +
-             std::to_string(cMaxAniFrames) + ".";
+      return "Either an invalid ANI file or number of frames exceeds limit of " + std::to_string(cMaxAniFrames) + ".";
     case FilmDefect::FrameNotDrawn:
-      return "Failed to retrieve one of the frames, i.e. " + std::to_string(film.failedFrame) + "\n";
+      return "Failed to retrieve one of the frames, i.e. " + std::to_string(film.failedFrame);
     case FilmDefect::NoJiffies:
-      return path + "\nFailed to read jiffies info of file.";
+      return "Failed to read jiffies info of file.";
   }
   return "";
+}
+
+std::string refusalOf(const ReadFilm& film, const std::string& path) {
+  if (film.isRead()) return "";
+  return film.defect == FilmDefect::FrameNotDrawn ? describe(film) + "\n" : path + "\n" + describe(film);
 }
 
 }  // namespace gp

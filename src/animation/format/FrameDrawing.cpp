@@ -1,6 +1,5 @@
 #include "animation/format/FrameDrawing.h"
 
-#include "animation/format/FrameImages.h"
 #include "files/format/IcoDirectory.h"
 #include "platform/gdi/Stretch.h"
 
@@ -78,6 +77,7 @@ DrawnFrame drawn(const IconImage& icon, const FrameImageFacts& facts) {
   const Surface image = icon.hasAlphaValues() ? blendedImage(icon) : invertedImage(icon);
   DrawnFrame frame;
   frame.picture = {scaled(image), scaled(icon.mask)};
+  frame.image = facts;
   frame.hotspotX = facts.hotspotX * kFrameSide / facts.width;
   frame.hotspotY = facts.hotspotY * kFrameSide / facts.height;
   frame.hasAlpha = losesAlpha(icon, image);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "animation/format/FilmFrame.h"
+#include "animation/format/FrameImages.h"
 
 #include <cstdint>
 #include <optional>
@@ -10,15 +11,17 @@
 namespace gp {
 
 struct DrawnFrame {
-  FramePicture picture;  // on white
-  int hotspotX = 0;      // of the image that was drawn, scaled with it; not limited
+  FramePicture picture;   // on white
+  FrameImageFacts image;  // the image that was drawn
+  int hotspotX = 0;       // of the image that was drawn, scaled with it; not limited
   int hotspotY = 0;
-  bool hasAlpha = false;    // a value between 1 and 254
+  bool hasAlpha = false;    // of values that image and mask do not keep
   bool isOneOfSize = true;  // the file has only this image, of 32 x 32 pixels
 };
 
-// Draws the image nearest to 32 x 32, of those the deepest; other sizes by keep-or-drop. Empty when no image can be
-// decoded.
+// Draws the image nearest to 32 x 32 by the sum of what width and height differ by, of those the deepest, of those the
+// first; other sizes by keep-or-drop. An image that cannot be decoded gives way to the next one, up to 16 times. Empty
+// when none can be decoded.
 std::optional<DrawnFrame> drawFrame(std::span<const std::uint8_t> file);
 
 }  // namespace gp

@@ -80,8 +80,9 @@ Surface maskSurface(const PngPicture& picture, const std::vector<std::uint8_t>& 
   return surface;
 }
 
+// Without alpha an empty matrix, since one of 1 x 1 would be that of an image of one pixel.
 AlphaMatrix alphaOf(const PngPicture& picture) {
-  if (!picture.hasAlpha) return {};
+  if (!picture.hasAlpha) return {0, 0};
   AlphaMatrix alpha(picture.width, picture.height);
   std::size_t pixel = 0;
   for (int y = 0; y < picture.height; ++y)
@@ -105,7 +106,7 @@ std::optional<IconImage> decodePngImage(Bytes bytes) {
   // Colours that nobody sees would become visible without alpha values.
   if (isInvisible(decoded.picture))
     return IconImage{Surface(decoded.picture.width, decoded.picture.height, kBlack),
-                     Surface(decoded.picture.width, decoded.picture.height, kWhite), AlphaMatrix()};
+                     Surface(decoded.picture.width, decoded.picture.height, kWhite), AlphaMatrix(0, 0)};
   return iconOf(decoded.picture, maskOfAlpha(decoded.picture));
 }
 

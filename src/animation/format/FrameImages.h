@@ -28,7 +28,8 @@ struct FrameImageFacts {
 std::vector<FrameImageFacts> frameImages(std::span<const std::uint8_t> file);
 
 // Decodes an image of the file at its size. The colours are as stored, also where the mask is white. There are alpha
-// values only if one of them is above 0. Empty when it cannot be decoded.
+// values only if one of them is above 0; the matrix is empty without. The colours of a PNG picture that is transparent
+// everywhere are black. Empty when it cannot be decoded.
 std::optional<IconImage> decodeFrameImage(std::span<const std::uint8_t> file, const FrameImageFacts& image);
 
 }  // namespace gp
