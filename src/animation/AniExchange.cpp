@@ -47,7 +47,8 @@ bool AniExchange::isRefused() {
 void AniExchange::toEditingArea() {
   const unsigned film = ani_.filmSerial;
   context_.document.iconsPanel.CommitPendingPaint();
-  // After the question another icon can be the Current Icon, and the session can have ended.
+  if (ani_.filmSerial != film) return;
+  // Another icon can be the Current Icon after the question.
   const unsigned icon = context_.state.iconSerial;
   if (!mayCurrentIconGo(context_) || ani_.filmSerial != film || context_.state.iconSerial != icon) return;
   const int number = ani_.frames.current();
