@@ -78,8 +78,8 @@ void findAniDefects(Bytes file, const DiscrepancySink& report) {
   if (reading.isRead()) Defects(file, reading.file, report).find();
   const ReadFilm film = ReadANIFileFrames(file);
   if (!film.isRead()) return report({.what = describe(film)});
-  const std::string losses = film.losses.text();
-  if (!losses.empty()) report({.what = "Will not be kept: " + losses});
+  const std::string losses = film.losses.notice();
+  if (!losses.empty()) report({.what = losses});
 }
 
 }  // namespace gp::cli
