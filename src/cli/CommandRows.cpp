@@ -47,7 +47,9 @@ constexpr std::array kIconRows = std::to_array<Command>({
              "of 32x32 is chosen, or a later one of 32x32 with 8 bits, which ends the scan.\n"
              "Of a cursor file, which its content shows and not its name, there are three\n"
              "numbers: 1 for a cursor that the editor takes, its colors and its bits by the\n"
-             "bitmap header; 0/0/0 for others. With --json, the numbers as an array.",
+             "bitmap header; 0/0/0 for others. Of an animated cursor, a file that begins with\n"
+             "RIFF or is named .ani, the number is that of its frames as they are played, or 0 if\n"
+             "it cannot be read. With --json, the numbers as an array.",
      .example = "probe *.ico",
      .run = runProbe},
     {.name = "list",
@@ -63,7 +65,12 @@ constexpr std::array kIconRows = std::to_array<Command>({
          "Lines of cursor files end with two more columns, the hot spot's x and y (with\n"
          "--json: kind \"cur\", \"hotspotX\", \"hotspotY\"). A cursor's directory states no\n"
          "depth: both pairs of colors and bits are the bitmap header's. Usable is a first\n"
-         "image of 32x32 at offset 22 with its hot spot inside.",
+         "image of 32x32 at offset 22 with its hot spot inside. Of an animated cursor, a line\n"
+         "for the film comes first: file, ani, title, artist, frames, steps, rate and flags by\n"
+         "its header, the tables of rates and of the sequence, and what the editor opens: the\n"
+         "jiffies of each frame, the hot spot's x and y (\"-\" for what is missing). Lines of its\n"
+         "images state, of the picture that is drawn: file, index, size, colors, bits, bytes\n"
+         "and offset of the frame, encoding, usable or unusable, and the hot spot.",
      .example = "list --json app.ico | python3 -m json.tool",
      .run = runList},
     {.name = "info",
@@ -96,6 +103,12 @@ constexpr std::array kIconRows = std::to_array<Command>({
              "  hotspotX, hotspotY  outside the picture; last, its width or height\n"
              "  count          more entries stated than the file holds (index \"-\")\n"
              "Old icons that state colors but no bits are healthy. Exit status 1 if there is any.\n"
+             "Of an animated cursor, the third value is what its header states and the last one\n"
+             "what it holds: size (of the file without 8 bytes, or whole), frames, steps, rates,\n"
+             "sequence (an index beyond the frames, or flag and table without each other: 1 and 0),\n"
+             "end and picture (a frame that is cut off or cannot be drawn). Then comes the message\n"
+             "of the editor if it does not open the file, or what a save will not keep of it:\n"
+             "\"Will not be kept: \" and alpha, sequence, other sizes, rates above 90.\n"
              "With --json, one array with an object for each, and null for nothing.",
      .example = "check --json app.ico",
      .run = runCheck},
@@ -118,6 +131,8 @@ constexpr std::array kIconRows = std::to_array<Command>({
              "With --png, writes every image of every size that can be decoded as NAME_INDEX.png:\n"
              "the bytes of a PNG picture as they are, and a bitmap with alpha, which is 0 where its\n"
              "mask is set, unless its 32 bits have alpha. Depth and size are the image's own.\n"
+             "Of an animated cursor, writes image and mask of each frame as the editor opens it,\n"
+             "32x32 on white, INDEX from 0; --png does not take animated cursors.\n"
              "NAME is the file's name without folder and extension; when two files share it,\n"
              "the later ones become NAME-2, NAME-3 and so on. DIR is made if it is not there.\n"
              "Files that are there already are kept and complained of; --force replaces them,\n"

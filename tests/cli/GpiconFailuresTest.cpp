@@ -1,4 +1,5 @@
 // Every subcommand of gpicon that writes files, on a device that fails.
+#include "animation/FilmBytes.h"
 #include "cli/Subcommands.h"
 #include "files/IcoBuilder.h"
 #include "support/CommandUnderFailures.h"
@@ -44,6 +45,7 @@ const std::vector<WritingSubcommand> kWritingSubcommands{
     {"Salvage", cli::runSalvage, {"@lies.ico", "-o", "@a.ico"}, "a.ico"},
     {"SalvageOverItself", cli::runSalvage, {"@lies.ico", "-o", "@lies.ico"}, "lies.ico", true},
     {"Unpack", cli::runUnpack, {"@multi.ico", "@single.ico", "-d", "@out", "--force"}, "out/multi_0.image.ppm"},
+    {"UnpackFilm", cli::runUnpack, {"@film.ani", "-d", "@out", "--force"}, "out/film_1.image.ppm"},
     {"UnpackPng", cli::runUnpack, {"@multi.ico", "--png", "-d", "@out", "--force"}, "out/multi_0.png"},
     {"Make", cli::runMake, {"@a.ico", "@logo.png", "--force"}, "a.ico"},
     {"Strip", cli::runStrip, {"@thin.ico"}, "thin.ico", true},
@@ -87,6 +89,8 @@ class GpiconFailures : public CommandUnderFailures, public testing::WithParamInt
     thin.index = [](int x, int y) { return (x + y) % 3; };
     write("thin.ico", build(entryOf(thin)));
     write("logo.png", build(anyPng(32)));
+    const std::string film = aniOf(headerOf(2) + frameList({smallFrame(), smallFrame()}));
+    write("film.ani", Bytes(film.begin(), film.end()));
     write("lies.ico", build(entryOf(anyPicture(32, 8), 16, 4)));
   }
   // A failure is a status of 1 and a line for each file that was not written.
