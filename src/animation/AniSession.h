@@ -2,37 +2,31 @@
 // picANIContainer(0) shows it. A film survives the closing of the pane.
 #pragma once
 
-#include "animation/AniFilm.h"
-#include "animation/AniFrames.h"
+#include "animation/AniExchange.h"
+#include "animation/AniFiles.h"
+#include "animation/AniState.h"
 #include "animation/AniTest.h"
 #include "files/FilesContext.h"
 
+#include <array>
 #include <string>
 
 namespace gp {
 
-class IconSaver;
 class Timer;
 
 // The sizes of the pane: all controls; the film and the most used buttons, beside which the color panel can be used;
 // the title alone.
 enum class AniPaneSize { Normal, Compact, Minimized };
-enum class AniMode { NoFrames = 0, Made = 1, Read = 2 };
-
-// The entries chosen in the lists of the pane, and its tick box.
-struct AniChoices {
-  int jiffies = 30;     // cboANI(0)
-  int hotspotX = 0;     // cboANI(1)
-  int hotspotY = 0;     // cboANI(2)
-  bool singly = false;  // ckbJIFSinglely
-};
 
 class AniSession {
  public:
   static constexpr int kButtonCount = 20;
 
-  // Saver and timer must outlive it.
-  AniSession(const FilesContext& context, IconSaver& saver, Timer& timer);
+  // The timer must outlive it.
+  AniSession(const FilesContext& context, Timer& timer);
+  AniSession(const AniSession&) = delete;
+  AniSession& operator=(const AniSession&) = delete;
 
   // mnuANIFileCreateOrEdit: shows the pane at its normal size. Asks first about unsaved work on the Current Icon.
   void enter();
@@ -60,30 +54,67 @@ class AniSession {
   void restorePane();
 
   AniPaneSize paneSize() const { return paneSize_; }
-  const AniFrames& frames() const { return frames_; }
-  const AniFilm& film() const { return film_; }
+  const AniFrames& frames() const { return ani_.frames; }
+  const AniFilm& film() const { return ani_.film; }
   const AniTest& test() const { return test_; }
-  AniMode mode() const { return mAniMode_; }
-  bool isChanged() const { return mAniChanged_; }
-  const std::string& path() const { return mAniPath_; }
-  const AniChoices& choices() const { return choices_; }
+  AniMode mode() const { return ani_.mAniMode; }
+  bool isChanged() const { return ani_.mAniChanged; }
+  const std::string& path() const { return ani_.mAniPath; }
+  const AniChoices& choices() const { return ani_.choices; }
   // The lists and the tick box; these values take effect with buttons 3, 5 and 7.
-  void setChoices(const AniChoices& choices) { choices_ = choices; }
+  void setChoices(const AniChoices& choices) { ani_.choices = choices; }
   // lblANI(0): "Frame:  2 / 5"; lblANI(1): "Jiffies:  30"; empty without frames.
   std::string frameLabel() const;
   std::string jiffiesLabel() const;
 
  private:
+  struct Button;
+  static const std::array<Button, kButtonCount>& buttons();
+
+  bool isAlways() const { return true; }
+  bool hasFrames() const { return ani_.frames.count() > 0; }
+  bool hasFrameAbove() const { return ani_.frames.current() > 1; }
+  bool hasFrameBelow() const { return ani_.frames.current() < ani_.frames.count(); }
+
+  void click(const Button& button);
+  bool showPane();
+  void setPaneVisible(bool isVisible);
+  void setPaneSize(AniPaneSize size);
+  void reset();
+  void select(int n);
+  void exchange(void (AniExchange::*act)());
+  void add(void (AniFrames::*addFrame)());
+  void shift(void (AniFrames::*shiftFrame)());
+
+  // The bodies of the buttons.
+  void closePane();
+  void resizePane();
+  void minimizePane();
+  void create();
+  void open();
+  void save();
+  void setInterval();
+  void startOrStopTest();
+  void showProperty();
+  void takeFromEditingArea();
+  void putToEditingArea();
+  void addBelow();
+  void addAbove();
+  void removeFrame();
+  void loadIcon();
+  void shiftUp();
+  void shiftDown();
+  void goUp();
+  void goDown();
+
   FilesContext context_;
-  IconSaver& saver_;
-  AniFrames frames_;
-  AniFilm film_;
+  AniState ani_;
   AniTest test_;
+  AniFiles files_;
+  AniExchange exchange_;
   AniPaneSize paneSize_ = AniPaneSize::Normal;
-  AniMode mAniMode_ = AniMode::NoFrames;
-  bool mAniChanged_ = false;  // frames differ from the last save or load
-  std::string mAniPath_;
-  AniChoices choices_;
+  // A command of the session is running. A dialog or a question can let other events in.
+  bool isBusy_ = false;
 };
 
 }  // namespace gp

@@ -14,6 +14,9 @@ class AniTest {
   // All must outlive it.
   AniTest(const AniFrames& frames, Timer& timer, Display& display)
       : frames_(frames), timer_(timer), display_(display) {}
+  ~AniTest();
+  AniTest(const AniTest&) = delete;
+  AniTest& operator=(const AniTest&) = delete;
 
   bool isRunning() const { return mAniTesting_; }
   // The frame now shown, from 1; 0 before the first tick.

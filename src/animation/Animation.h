@@ -6,7 +6,7 @@
 namespace gp {
 
 struct Animation {
-  Animation(const FilesContext& context, IconSaver& saver, Timer& timer) : session(context, saver, timer) {}
+  Animation(const FilesContext& context, Timer& timer) : session(context, timer) {}
   Animation(const Animation&) = delete;
   Animation& operator=(const Animation&) = delete;
 

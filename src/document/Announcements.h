@@ -30,5 +30,8 @@ inline std::string opened(const std::string& name) { return "Opened " + name; }
 inline std::string container(int index, const std::string& name) {
   return "Container " + std::to_string(index + 1) + ", " + name;
 }
+// "Frame 3 shows the icon" and "Frame 3 in Editing Area": frames of an animated cursor, from 1.
+inline std::string frameFromIcon(int number) { return "Frame " + std::to_string(number) + " shows the icon"; }
+inline std::string iconFromFrame(int number) { return "Frame " + std::to_string(number) + " in Editing Area"; }
 
 }  // namespace gp::news

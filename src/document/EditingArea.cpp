@@ -159,7 +159,10 @@ void EditingArea::RefreshStatusBar() {
 }
 
 void EditingArea::ClearStatusBar() {
+  std::string& path = state_.screen.lblStatusPanel.at(static_cast<std::size_t>(StatusPanel::Path));
+  const std::string aniPath = state_.screen.aniContainerVisible ? path : std::string();
   state_.screen.lblStatusPanel.fill("");
+  path = aniPath;
   state_.screen.imgAlphaOnStatusPanel = false;
   display_.changed(DisplayPart::StatusBar);
 }

@@ -29,7 +29,7 @@ Shell::Shell(EditState& state, const Ports& ports, Display& display, ProgramFold
       files_(context_, document_, drawing_, mDialog, folders_.scratch + "/" + kScratchFileName),
       alpha_(files_.context(), files_.iconSaver),
       effects_(context_, document_, drawing_, {mDialog, ports.pictures, ports.text}),
-      animation_(files_.context(), files_.iconSaver, ports.timer),
+      animation_(files_.context(), ports.timer),
       output_(context_, files_, alpha_.commands),
       settings_(state.options, settingsPath()),
       fileHistory_(kFileHistorySection, kFileHistoryLimit, settingsPath()),
@@ -120,7 +120,6 @@ void Shell::showPanel(int panel) {
   if (state_.screen.mActivePanel == kColorPanel && state_.screen.aniContainerVisible) {
     state_.screen.aniContainerVisible = false;
     aniPaneHidden();
-    document_.editingArea.RefreshStatusBar();
   }
   state_.screen.mActivePanel = panel;
   display_.changed(DisplayPart::Panel);

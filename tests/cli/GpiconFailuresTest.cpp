@@ -1,5 +1,6 @@
 // Every subcommand of gpicon that writes files, on a device that fails.
 #include "animation/FilmBytes.h"
+#include "animation/XcursorBytes.h"
 #include "cli/Subcommands.h"
 #include "files/IcoBuilder.h"
 #include "support/CommandUnderFailures.h"
@@ -51,6 +52,9 @@ const std::vector<WritingSubcommand> kWritingSubcommands{
     {"Strip", cli::runStrip, {"@thin.ico"}, "thin.ico", true},
     {"StripTo", cli::runStrip, {"@thin.ico", "-o", "@a.ico"}, "a.ico"},
     {"Split", cli::runSplit, {"@multi.ico", "@single.ico", "-d", "@out", "--force"}, "out/multi_32_16.ico"},
+    {"Xcursor", cli::runXcursor, {"@multi.ico", "-o", "@a"}, "a"},
+    {"Unxcursor", cli::runUnxcursor, {"@xcursor", "-o", "@a.cur"}, "a.cur"},
+    {"UnxcursorMoving", cli::runUnxcursor, {"@moving", "-o", "@a.ani"}, "a.ani"},
 };
 
 struct FailingSubcommand {
@@ -91,6 +95,8 @@ class GpiconFailures : public CommandUnderFailures, public testing::WithParamInt
     write("logo.png", build(anyPng(32)));
     const std::string film = aniOf(headerOf(2) + frameList({smallFrame(), smallFrame()}));
     write("film.ani", Bytes(film.begin(), film.end()));
+    write("xcursor", bytesOfText(xcursorOf({{}})));
+    write("moving", bytesOfText(xcursorOf({{}, {}})));
     write("lies.ico", build(entryOf(anyPicture(32, 8), 16, 4)));
   }
   // A failure is a status of 1 and a line for each file that was not written.

@@ -176,6 +176,8 @@ class GpiconHostile : public Gpicon {
              {"split", path, "-d", folder.path("parts")},
              {"info", path},
              {"info", "--json", path, "1"},
+             {"xcursor", path, "-o", folder.path("made")},
+             {"unxcursor", path, "-o", folder.path("made.cur")},
              {"bmp", path, "1", folder.path("made")},
              {"alpha", path, "1", folder.path("made"), "--set", "9"},
              {"to24", path, "1", folder.path("made")},
@@ -331,6 +333,7 @@ TEST_F(GpiconHostile, SixtyFiveThousandEntriesOverTheSameBytesTakeNoTime) {
        std::vector<std::vector<std::string>>{{"split", path, "-d", folder.path("parts")},
                                              {"effect", path, "invert", "--all", "-d", folder.path("effects")},
                                              {"replace", path, "0", icon24},
+                                             {"xcursor", path, "-o", folder.path("made")},
                                              {"remove", path, "0"}}) {
     const Outcome o = limited(arguments);
     EXPECT_EQ(o.status, 1) << o.err;

@@ -40,6 +40,7 @@ TEST_F(GpiconStreams, EachCommandThatWritesOneFileWritesItToStandardOutput) {
                                              {"remove", "in", "0", "-o", "out"},
                                              {"reorder", "in", "2,1", "-o", "out"},
                                              {"salvage", "in", "-o", "out"},
+                                             {"xcursor", "in", "-o", "out"},
                                              {"add", "in", icon16, "-o", "out"},
                                              {"replace", "in", "0", icon16, "-o", "out"}}) {
     std::vector<std::string> named = arguments, piped = arguments;

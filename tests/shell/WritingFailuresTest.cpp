@@ -139,6 +139,16 @@ void leaveAlphaScreen(AgreeingProgram& p) {
   p.click("mnuAlphaSub", 0);
 }
 
+// A film whose only frame is the icon of a file.
+void makeFilm(AgreeingProgram& p) {
+  AniSession& session = p.shell.animation().session;
+  session.enter();
+  session.cmdANI(3);
+  p.answer("single.ico");
+  session.cmdANI(15);
+  EXPECT_TRUE(session.isChanged());
+}
+
 constexpr const char* kFolder = "";
 constexpr const char* kSettings = "Glimmerpane.ini";
 constexpr const char* kSingle = "single.ico";
@@ -150,6 +160,7 @@ constexpr const char* kCursor = "a.cur";
 constexpr const char* kBitmap = "a.bmp";
 constexpr const char* kPalette = "a.pal";
 constexpr const char* kPart = "multi_32_16.ico";
+constexpr const char* kFilm = "film.ani";
 
 // Whether a command that is done clears the mark of an icon that has changed.
 enum class Mark { Cleared, Kept };
@@ -201,6 +212,8 @@ const std::vector<WritingCommand> kWritingCommands{
      [](AgreeingProgram& p) { p.click("mnuPaletteSub", 5); }, {"The palette file cannot be written"}},
     {"Settings", kSettings, false, [](AgreeingProgram& p) { p.click("mnuOptionsSub", 3); },
      [](AgreeingProgram& p) { EXPECT_TRUE(p.shell.queryUnload()); }, {}},
+    {"SaveAni", kFilm, false, [](AgreeingProgram& p) { makeFilm(p), p.answer(kFilm); },
+     [](AgreeingProgram& p) { p.shell.animation().session.cmdANI(5); }, {"Failed to save this ani file"}},
     {"History", kSettings, false, nothing, [](AgreeingProgram& p) { p.shell.AddHistory(p.path(kOther)); }, {}},
 };
 // clang-format on

@@ -1,5 +1,6 @@
 #include "shell/ui/frmGPEdit.h"
 
+#include "animation/ui/AniPane.h"
 #include "document/ui/CurrentIconView.h"
 #include "document/ui/EditingAreaView.h"
 #include "document/ui/FileDrops.h"
@@ -15,6 +16,7 @@
 #include "platform/qt/Pictures.h"
 #include "shell/FormPlacement.h"
 #include "shell/Shell.h"
+#include "shell/ui/AniPaneEvents.h"
 #include "shell/ui/CommandMenus.h"
 #include "shell/ui/EditingAreaEvents.h"
 #include "shell/ui/FormTitle.h"
@@ -65,7 +67,9 @@ frmGPEdit::frmGPEdit(Shell& shell, QtDisplay& display, std::string commandLine)
   connectEditingArea();
   connectIconsPanel();
   connectToolBox();
-  connect(panels_, &PanelStack::focusGivenBack, this, [this] { room_->view().setFocus(Qt::OtherFocusReason); });
+  const auto focusEditingArea = [this] { room_->view().setFocus(Qt::OtherFocusReason); };
+  connect(panels_, &PanelStack::focusGivenBack, this, focusEditingArea);
+  connect(aniPane_, &AniPane::focusGivenBack, this, focusEditingArea);
   connect(menus_, &CommandMenus::commandRan, this, &frmGPEdit::refreshCommandsSoon);
   commandsTimer_->setSingleShot(true);
   connect(commandsTimer_, &QTimer::timeout, this, &frmGPEdit::refreshCommands);
@@ -91,6 +95,7 @@ QWidget* frmGPEdit::makeMiddle(QWidget* parent) {
   columns->addWidget(makeToolColumn(middle));
   columns->addWidget(makeEditingColumn(middle), 1);
   columns->addWidget(panels_ = new PanelStack(middle, shell_, display_));
+  aniPane_ = makeAniPane(panels_, shell_, display_);
   return middle;
 }
 

@@ -15,6 +15,7 @@ class QTimer;
 
 namespace gp {
 
+class AniPane;
 class CommandMenus;
 class CurrentIconView;
 class EditingAreaRoom;
@@ -87,6 +88,7 @@ class frmGPEdit final : public QMainWindow, public ShellForms, public FileForms,
   ReadoutsView* readouts_ = nullptr;
   EditingAreaRoom* room_ = nullptr;
   PanelStack* panels_ = nullptr;
+  AniPane* aniPane_ = nullptr;
   StatusBarView* statusBar_ = nullptr;
   std::unique_ptr<PointerView> pointer_;
 };
