@@ -1,340 +1,226 @@
-// gpicon ani: build, set and icon.
+// What gpicon prints about animated cursors, and their frames.
 #include "animation/FilmBytes.h"
-#include "animation/format/AniFile.h"
-#include "animation/format/FilmReading.h"
 #include "cli/GpiconFixture.h"
-#include "files/SlowIconReader.h"
 
-#include <numeric>
+#include <cstring>
 
 namespace gp::test {
 namespace {
 
-constexpr const char* kHint = " (see gpicon --help)\n";
+constexpr const char* kNotRead = "Failed to read this ANI file";
+constexpr const char* kLimit = "Either an invalid ANI file or number of frames exceeds limit of 70.";
 
 class GpiconAni : public Gpicon {
  protected:
-  const std::string out = folder.path("out.ani");
+  std::string write(const std::string& name, const std::string& bytes) const {
+    return folder.write(name, bytesOfText(bytes));
+  }
+  std::string film(const std::string& name, const std::string& chunks) const { return write(name, aniOf(chunks)); }
+  Outcome unpack(const std::string& path) const { return run({"unpack", path, "-d", folder.path("out")}); }
+};
 
-  // An icon file of 32x32 with a colour of frameColor().
-  std::string frameIcon(int number) const {
-    return folder.write(std::to_string(number) + ".ico", build(plainEntry(32, frameColor(number))));
-  }
-  std::string cursor(const std::string& name, const Entry& entry) const {
-    return folder.write(name, cursorFile({entry}, {{9, 8}}));
-  }
-  std::string film(int frames) const {
-    std::vector<std::string> files;
-    for (int i = 1; i <= frames; ++i) files.push_back(test::plainFrame(i % 16, {4, 5}));
-    std::vector<std::uint32_t> rates(static_cast<std::size_t>(frames));
-    std::iota(rates.begin(), rates.end(), 1U);
-    const std::string text = aniOf(headerOf(static_cast<std::uint32_t>(frames)) + ratesOf(rates) + frameList(files));
-    return folder.write("film.ani", bytesOfText(text));
-  }
+// Two images and three steps, with all that a file can state.
+std::string fullFilm() {
+  return listOf("INFO", padded(chunkOf("INAM", std::string("A \"title\"\0rest", 14))) + chunkOf("IART", "Me")) +
+         headerWithSteps(2, 3, 3) + ratesOf({300, 5, 91}) + sequenceOf({1, 0, 1}) +
+         frameList({plainFrame(2, {3, 4}), plainFrame(5, {6, 7})});
+}
 
-  static std::vector<FilmFrame> framesIn(const std::string& path) { return ReadANIFileFrames(bytesOf(path)).frames; }
-  // The frames as numbers of frameColor(), 0 for a blank one.
-  static std::vector<int> numbersIn(const std::string& path) {
-    std::vector<int> numbers;
-    for (const FilmFrame& frame : framesIn(path)) {
-      const Color color = frame.picture.image.GetPixel(31, 31);
-      numbers.push_back(color == kWhite ? 0 : color >> 16);
-    }
-    return numbers;
-  }
-  static std::vector<int> jiffiesIn(const std::string& path) {
-    std::vector<int> jiffies;
-    for (const FilmFrame& frame : framesIn(path)) jiffies.push_back(frame.jiffies);
-    return jiffies;
-  }
-  static std::vector<int> hotspotIn(const std::string& path) {
-    return {framesIn(path).at(0).hotspotX, framesIn(path).at(0).hotspotY};
-  }
+TEST_F(GpiconAni, ProbePrintsTheNumberOfFrames) {
+  const std::string steps = film("steps.ani", fullFilm()), many = film("many.ani", headerOf(1) + frameList(71)),
+                    odd = write("any name", aniOf(headerOf(1) + frameList(2))), text = write("text.ani", "6x6"),
+                    cut = write("cut.ani", "RIFF"), still = write("still.ANI", plainFrame(1));
+  const Outcome o = run({"probe", steps, many, odd, text, cut, still});
+  EXPECT_EQ(o.status, 0);
+  EXPECT_EQ(o.out,
+            steps + "\t3\n" + many + "\t71\n" + odd + "\t2\n" + text + "\t0\n" + cut + "\t0\n" + still + "\t1\n");
+  EXPECT_EQ(run({"probe", "--json", steps}).out, "[\n{\"file\":\"" + steps + "\",\"numbers\":[3]}\n]\n");
+}
 
-  void expectDone(const std::vector<std::string>& arguments) const {
+TEST_F(GpiconAni, ProbeReadsAFileOfAnySizeWhole) {
+  std::vector<std::string> frames(60, asText(cursorFile({plainEntry(48, frameColor(1), 32)})));
+  const std::string path = film("large.ani", headerOf(60) + frameList(frames));
+  ASSERT_GT(std::filesystem::file_size(path), 512U * 1024);
+  EXPECT_EQ(run({"probe", path}).out, path + "\t60\n");
+  EXPECT_EQ(runAfter("cat " + inShell(path) + " | ", {"probe", "-"}).out, "-\t60\n");
+}
+
+TEST_F(GpiconAni, ListPrintsTheFilmAndItsImages) {
+  const std::string path = film("full.ani", fullFilm());
+  const Outcome o = run({"list", path});
+  EXPECT_EQ(o.status, 0) << o.err;
+  const std::string bytes = std::to_string(plainFrame(2).size());
+  const std::size_t first = aniOf(fullFilm()).find("framicon") + 12, second = first + plainFrame(2).size() + 8;
+  EXPECT_EQ(o.out, path + "\tani\tA \"title\"\tMe\t2\t3\t10\t3\t300,5,91\t1,0,1\t44,5,90\t3\t4\n" + path +
+                       "\t0\t32x32\t-1\t24\t" + bytes + "\t" + std::to_string(first) + "\tbmp\tusable\t3\t4\n" + path +
+                       "\t1\t32x32\t-1\t24\t" + bytes + "\t" + std::to_string(second) + "\tbmp\tusable\t6\t7\n");
+}
+
+TEST_F(GpiconAni, ListPrintsJson) {
+  const std::string path = film("full.ani", fullFilm());
+  const std::string bytes = std::to_string(plainFrame(2).size());
+  const std::size_t first = aniOf(fullFilm()).find("framicon") + 12, second = first + plainFrame(2).size() + 8;
+  const auto image = [&](int index, std::size_t offset, const std::string& hotspot) {
+    return "{\"index\":" + std::to_string(index) + ",\"width\":32,\"height\":32,\"colors\":-1,\"bits\":24," + hotspot +
+           ",\"bytes\":" + bytes + ",\"offset\":" + std::to_string(offset) + ",\"encoding\":\"bmp\",\"usable\":true}";
+  };
+  EXPECT_EQ(run({"list", "--json", path}).out,
+            "[\n{\"file\":\"" + path +
+                "\",\"kind\":\"ani\",\"title\":\"A \\\"title\\\"\",\"artist\":\"Me\",\"frames\":2,\"steps\":3,"
+                "\"rate\":10,\"flags\":3,\"rates\":[300,5,91],\"sequence\":[1,0,1],\"jiffies\":[44,5,90],"
+                "\"hotspotX\":3,\"hotspotY\":4,\"images\":[\n" +
+                image(0, first, "\"hotspotX\":3,\"hotspotY\":4") + ",\n" +
+                image(1, second, "\"hotspotX\":6,\"hotspotY\":7") + "]}\n]\n");
+}
+
+TEST_F(GpiconAni, ListPrintsNullForWhatIsMissingOrRefused) {
+  const std::string frames = frameList({smallFrame(), frameOf(2, 0, 0)});
+  const auto json = [&](const std::string& chunks) { return run({"list", "--json", film("a.ani", chunks)}).out; };
+  const std::string none = "\"rates\":null,\"sequence\":null,\"jiffies\":null,\"hotspotX\":null,\"hotspotY\":null,";
+  // A frame that cannot be drawn.
+  EXPECT_NE(json(headerOf(2) + frames)
+                .find("\"title\":null,\"artist\":null,\"frames\":2,\"steps\":2,\"rate\":10,"
+                      "\"flags\":1," +
+                      none + "\"images\":[\n{\"index\":0,"),
+            std::string::npos);
+  EXPECT_NE(json(headerOf(2) + frames).find("\"encoding\":\"bmp\",\"usable\":false}]}"), std::string::npos);
+  for (const std::string& header : {std::string(), chunkOf("anih", "")})
+    EXPECT_NE(json(header + frames).find("\"frames\":null,\"steps\":null,\"rate\":null,\"flags\":null," + none),
+              std::string::npos);
+  EXPECT_NE(json(headerOf(0, 9, 0)).find("\"frames\":0,\"steps\":0,\"rate\":9,\"flags\":0," + none + "\"images\":[]}"),
+            std::string::npos);
+  EXPECT_EQ(run({"list", film("b.ani", chunkOf("anih", ""))}).out,
+            folder.path("b.ani") + "\tani\t-\t-\t-\t-\t-\t-\t-\t-\t-\t-\t-\n");
+}
+
+TEST_F(GpiconAni, TheImageThatIsDrawnIsListed) {
+  const std::string frame =
+      asText(cursorFile({plainEntry(16, {}), pngEntry({.width = 48, .height = 40})}, {{1, 2}, {40, 9}}));
+  const std::string truncated = asText(cursorFile({anyEntry(32, 4)}, {{5, 6}})).substr(0, 200);
+  const std::string path = film("a.ani", headerOf(2) + frameList({frame, truncated}));
+  const std::string out = run({"list", path}).out;
+  EXPECT_NE(out.find("\t0\t48x40\t-1\t32\t"), std::string::npos) << out;
+  EXPECT_NE(out.find("\t32x32\t16\t4\t200\t"), std::string::npos) << out;
+  EXPECT_NE(out.find("\tbmp\tunusable\t5\t6\n"), std::string::npos) << out;
+}
+
+TEST_F(GpiconAni, FilesThatAreNoAnimatedCursorAreRefused) {
+  const std::string riff = write("wave", chunkOf("RIFF", "WAVEdata")), text = write("text.ani", "6x6");
+  const std::string lines = "gpicon: " + riff + ": " + kNotRead + "\ngpicon: " + text + ": " + kNotRead + "\n";
+  for (const std::vector<std::string>& arguments :
+       std::vector<std::vector<std::string>>{{"list", riff, text},
+                                             {"list", "--json", riff, text},
+                                             {"check", riff, text},
+                                             {"unpack", riff, text, "-d", folder.path("out")}}) {
     const Outcome o = run(arguments);
-    EXPECT_EQ(o.status, 0) << testing::PrintToString(arguments);
-    EXPECT_EQ(o.out + o.err, "");
+    EXPECT_EQ(o.status, 1) << arguments.front();
+    EXPECT_EQ(o.err, lines) << arguments.front();
   }
-  void expectRefused(const std::vector<std::string>& arguments, const std::string& error) const {
-    const Outcome o = run(arguments);
-    EXPECT_EQ(o.status, 1) << testing::PrintToString(arguments);
-    EXPECT_EQ(o.err, "gpicon: " + error + "\n");
-    EXPECT_FALSE(std::filesystem::exists(out));
+}
+
+TEST_F(GpiconAni, UnpackWritesTheFramesAsTheyArePlayed) {
+  const Outcome o = unpack(film("full.ani", fullFilm()));
+  EXPECT_EQ(o.status, 0) << o.err;
+  EXPECT_EQ(o.out + o.err, "");
+  EXPECT_EQ(namesIn("out"), (std::vector<std::string>{"full_0.image.ppm", "full_0.mask.pgm", "full_1.image.ppm",
+                                                      "full_1.mask.pgm", "full_2.image.ppm", "full_2.mask.pgm"}));
+  const auto imageOf = [](int number) {
+    std::string text = "P6\n32 32\n255\n";
+    for (int i = 0; i < 32 * 32; ++i)
+      for (const int channel : {16 * number, 255 - 16 * number, number}) text += static_cast<char>(channel);
+    return text;
+  };
+  EXPECT_EQ(textOf("out/full_0.image.ppm"), imageOf(5));
+  EXPECT_EQ(textOf("out/full_1.image.ppm"), imageOf(2));
+  EXPECT_EQ(textOf("out/full_2.image.ppm"), imageOf(5));
+  EXPECT_EQ(textOf("out/full_2.mask.pgm"), "P5\n32 32\n255\n" + std::string(32 * 32, '\0'));
+}
+
+TEST_F(GpiconAni, UnpackDrawsOnWhiteAndAt32Pixels) {
+  Picture p = plainPicture(16, {0, 0, 0, 255});
+  p.transparent = [](int x, int) { return x >= 8; };
+  ASSERT_EQ(unpack(film("a.ani", headerOf(1) + frameList({asText(cursorFile({entryOf(p, 0, 24)}))}))).status, 0);
+  std::string row, maskRow;
+  for (int x = 0; x < 32; ++x) {
+    row += std::string(3, static_cast<char>(x < 16 ? 0 : 255));
+    maskRow += static_cast<char>(x < 16 ? 0 : 255);
   }
-  void expectBadUsage(const std::vector<std::string>& arguments, const std::string& error) const {
-    const Outcome o = run(arguments);
-    EXPECT_EQ(o.status, 2) << testing::PrintToString(arguments);
-    EXPECT_EQ(o.err, "gpicon: " + error + kHint);
-    EXPECT_FALSE(std::filesystem::exists(out));
+  const std::string image = textOf("out/a_0.image.ppm"), mask = textOf("out/a_0.mask.pgm");
+  ASSERT_EQ(image.size(), 13U + 3 * 1024);
+  ASSERT_EQ(mask.size(), 13U + 1024);
+  for (std::size_t y = 0; y < 32; ++y) {
+    EXPECT_EQ(image.substr(13 + 96 * y, 96), row);
+    EXPECT_EQ(mask.substr(13 + 32 * y, 32), maskRow);
   }
-  // The operations on a film of so many frames, into another file.
-  void set(int frames, const std::vector<std::string>& operations) const {
-    std::vector<std::string> arguments{"ani", "set", film(frames), "-o", out};
-    arguments.insert(arguments.end(), operations.begin(), operations.end());
-    expectDone(arguments);
+}
+
+TEST_F(GpiconAni, UnpackWritesNothingOfAFileThatTheEditorRefuses) {
+  const std::vector<std::pair<std::string, std::string>> cases{
+      {headerOf(1) + frameList(71), kLimit},
+      {headerOf(2) + frameList({plainFrame(0), frameOf(2, 0, 0)}), "Failed to retrieve one of the frames, i.e. 1"},
+      {frameList(1), "Failed to read jiffies info of file."},
+      {headerOf(1, 10, 0) + frameList(1), kNotRead}};
+  for (const auto& [chunks, reason] : cases) {
+    const std::string path = film("bad.ani", chunks);
+    const Outcome o = unpack(path);
+    EXPECT_EQ(o.status, 1);
+    EXPECT_EQ(o.err, "gpicon: " + path + ": " + reason + "\n");
+    EXPECT_TRUE(namesIn("out").empty());
   }
-  void expectSetRefused(const std::vector<std::string>& operations, const std::string& error) const {
-    std::vector<std::string> arguments{"ani", "set", film(2), "-o", out};
-    arguments.insert(arguments.end(), operations.begin(), operations.end());
-    expectRefused(arguments, error);
-  }
-  void expectSetBadUsage(const std::vector<std::string>& operations, const std::string& error) const {
-    std::vector<std::string> arguments{"ani", "set", film(2), "-o", out};
-    arguments.insert(arguments.end(), operations.begin(), operations.end());
-    expectBadUsage(arguments, "ani set: " + error);
+}
+
+class GpiconAniCheck : public GpiconAni {
+ protected:
+  // What is printed behind the file's name.
+  std::string check(const std::string& bytes) const {
+    const std::string path = write("a.ani", bytes);
+    const Outcome o = run({"check", path});
+    EXPECT_EQ(o.status, o.out.empty() ? 0 : 1);
+    EXPECT_EQ(o.err, "");
+    std::string lines = o.out;
+    for (std::size_t at; (at = lines.find(path + "\t")) != std::string::npos;) lines.erase(at, path.size() + 1);
+    return lines;
   }
 };
 
-// Building.
-
-TEST_F(GpiconAni, AFilmIsBuiltOfIconsWith30JiffiesAndTheHotSpotAtZero) {
-  expectDone({"ani", "build", frameIcon(3), frameIcon(1), frameIcon(2), "-o", out});
-  EXPECT_EQ(numbersIn(out), (std::vector{3, 1, 2}));
-  EXPECT_EQ(jiffiesIn(out), (std::vector{30, 30, 30}));
-  EXPECT_EQ(hotspotIn(out), (std::vector{0, 0}));
+TEST_F(GpiconAniCheck, AFileInOrderHasNoLines) {
+  const std::string bytes = aniOf(headerOf(2) + ratesOf({1, 90}) + frameList(2));
+  EXPECT_EQ(check(bytes), "");
+  // The size of the whole file, as editors also write it.
+  EXPECT_EQ(check("RIFF" + u32Text(static_cast<std::uint32_t>(bytes.size())) + bytes.substr(8)), "");
+  EXPECT_EQ(check(aniOf(headerWithSteps(2, 0) + frameList(2))), "");
 }
 
-TEST_F(GpiconAni, TheFileHasTheLayoutOfTheEditor) {
-  expectDone({"ani", "build", frameIcon(3), "-o", out, "--jiffies", "90", "--hotspot", "31,30"});
-  const Bytes bytes = bytesOf(out);
-  EXPECT_EQ(number(bytes, 4, 4), bytes.size());
-  EXPECT_EQ(std::string(bytes.begin() + 28 + 4, bytes.begin() + 28 + 4 + 41),
-            "Edited with Glimmerpane of Zorvex Lattice");
-  const AniReading reading = readAniFile(bytes);
-  ASSERT_EQ(reading.file.images.size(), 1U);
-  const std::size_t frame = reading.file.images[0].offset;
-  EXPECT_EQ(number(bytes, frame + 2, 2), 2U);
-  EXPECT_EQ(number(bytes, frame + 10, 2), 31U);
-  EXPECT_EQ(number(bytes, frame + 12, 2), 30U);
-  EXPECT_EQ(reading.file.rates, (std::vector<std::uint32_t>{90}));
+TEST_F(GpiconAniCheck, WhatASaveWillNotKeepIsStated) {
+  EXPECT_EQ(check(aniOf(fullFilm())), "-\tWill not be kept: sequence, rates above 90\t-\t-\t-\n");
+  const std::string alpha = asText(cursorFile({plainEntry(48, {1, 2, 3, 9}, 32)}));
+  const std::string path = film("b.ani", headerOf(1) + frameList({alpha}));
+  EXPECT_EQ(run({"check", "--json", path}).out,
+            "[\n{\"file\":\"" + path +
+                "\",\"index\":null,\"what\":\"Will not be kept: alpha, other sizes\",\"directory\":null,"
+                "\"header\":null,\"pixels\":null}\n]\n");
 }
 
-TEST_F(GpiconAni, JiffiesAreForAllFramesOrForEach) {
-  expectDone({"ani", "build", frameIcon(1), frameIcon(2), "-o", out, "--jiffies", "7"});
-  EXPECT_EQ(jiffiesIn(out), (std::vector{7, 7}));
-  expectDone({"ani", "build", frameIcon(1), frameIcon(2), "-o", out, "--jiffies", "1,90"});
-  EXPECT_EQ(jiffiesIn(out), (std::vector{1, 90}));
+TEST_F(GpiconAniCheck, NumbersThatContradictEachOtherArePrinted) {
+  EXPECT_EQ(check(aniOf(headerOf(3) + frameList(2))), "-\tframes\t-\t3\t2\n-\tsteps\t-\t3\t2\n");
+  EXPECT_EQ(check(aniOf(headerOf(2) + ratesOf({1, 2, 3}) + frameList(2))), "-\trates\t-\t2\t3\n");
+  EXPECT_EQ(check(aniOf(headerOf(2) + sequenceOf({1, 0}) + frameList(2))), "-\tsequence\t-\t0\t1\n");
+  EXPECT_EQ(check(aniOf(headerWithSteps(2, 2, 3) + frameList(2))), "-\tsequence\t-\t1\t0\n");
+  EXPECT_EQ(check(aniOf(headerWithSteps(2, 3, 3) + sequenceOf({1, 0}) + frameList(2))),
+            "-\tsteps\t-\t3\t2\n-\tWill not be kept: sequence\t-\t-\t-\n");
+  EXPECT_EQ(check(aniOf(headerWithSteps(2, 2, 3) + sequenceOf({1, 7}) + frameList(2))),
+            "-\tsequence\t-\t7\t2\n-\tFailed to retrieve one of the frames, i.e. 1\t-\t-\t-\n");
 }
 
-TEST_F(GpiconAni, ACursorComesByWayOfTheEditingArea) {
-  Picture picture = plainPicture(32, frameColor(5));
-  picture.color = [](int x, int y) { return x < 16 && y < 16 ? Rgb{192, 192, 192} : frameColor(5); };
-  expectDone({"ani", "build", cursor("a.cur", entryOf(picture, 0, 24)), "-o", out});
-  const FilmFrame frame = framesIn(out).at(0);
-  // The colour of the ground becomes white, opaque because the mask is black there.
-  EXPECT_EQ(frame.picture.image.GetPixel(0, 0), kWhite);
-  EXPECT_EQ(frame.picture.mask.GetPixel(0, 0), kBlack);
-  EXPECT_EQ(frame.picture.image.GetPixel(31, 31), rgb(80, 175, 5));
-  EXPECT_EQ(hotspotIn(out), (std::vector{0, 0}));
-}
-
-TEST_F(GpiconAni, AnIconKeepsTheGrayOfTheGround) {
-  expectDone({"ani", "build", folder.write("g.ico", build(plainEntry(32, {192, 192, 192, 255}))), "-o", out});
-  EXPECT_EQ(framesIn(out).at(0).picture.image.GetPixel(0, 0), kGround);
-}
-
-TEST_F(GpiconAni, SeventyFramesAreBuiltAndOneMoreIsRefused) {
-  std::vector<std::string> arguments{"ani", "build", "-o", out};
-  arguments.insert(arguments.end(), 70, frameIcon(4));
-  std::vector<std::string> more = arguments;
-  more.push_back(frameIcon(4));
-  expectRefused(more, out + ": Maximum 70 frames reached");
-  expectDone(arguments);
-  EXPECT_EQ(framesIn(out).size(), 70U);
-}
-
-TEST_F(GpiconAni, FilesThatCannotBeFramesAreRefused) {
-  const auto refused = [&](const std::string& path, const std::string& reason) {
-    expectRefused({"ani", "build", frameIcon(1), path, "-o", out}, path + ": " + reason);
-  };
-  const std::string invalid = "Invalid icon file or icon not a size of 16x16, 24x24, 32x32 or 48x48.";
-  refused(folder.write("t.ico", {'h', 'i'}), invalid);
-  refused(folder.path("missing.ico"), invalid);
-  refused(icon("small.ico", 24, 24), "Size not of 32x32");
-  refused(icon("alpha.ico", 32, 32), "Cannot load a 32 BPP True Color icon");
-  refused(folder.write("two.ico", fileOf({anyEntry(32, 4), anyEntry(32, 24)})),
-          "This file is a multi-icon file.  Please load single-icon file only");
-  refused(cursor("alpha.cur", anyEntry(32, 32)), "Not allowed to load an icon with Alpha Channel");
-  refused(cursor("small.cur", anyEntry(16, 4)), "Invalid cursor file");
-}
-
-TEST_F(GpiconAni, TheFirstFrameCannotBeBlank) {
-  const std::string white = folder.write("white.ico", build(plainEntry(32, {255, 255, 255, 255})));
-  expectRefused({"ani", "build", white, frameIcon(1), "-o", out}, out + ": First frame cannot be a blank");
-  expectDone({"ani", "build", frameIcon(1), white, "-o", out});
-  EXPECT_EQ(numbersIn(out), (std::vector{1, 0}));
-}
-
-TEST_F(GpiconAni, WrongValuesOfBuildAreBadUsage) {
-  const std::string first = frameIcon(1), second = frameIcon(2);
-  for (const std::string jiffies : {"0", "91", "x", "1,2,3", "1,91", "1,", "-1", "4294967297"})
-    expectBadUsage({"ani", "build", first, second, "-o", out, "--jiffies", jiffies},
-                   "ani build: --jiffies takes 1 to 90 jiffies, once or for each frame");
-  for (const std::string hotspot : {"32,0", "0,32", "1", "1,2,3", "x,1", "-1,1"})
-    expectBadUsage({"ani", "build", first, "-o", out, "--hotspot", hotspot},
-                   "ani build: --hotspot takes X,Y, each 0 to 31");
-  expectBadUsage({"ani", "build", first}, "ani build: FRAME... -o OUT.ani is needed");
-  expectBadUsage({"ani", "build", "-o", out}, "ani build: FRAME... -o OUT.ani is needed");
-  expectBadUsage({"ani", "build", first, "-o", out, "--up", "1"}, "ani build: unknown option --up");
-  expectBadUsage({"ani", "build", first, "-o", out, "-o", out}, "ani build: -o takes one value, once");
-  expectBadUsage({"ani"}, "ani: build, set or icon is needed");
-  expectBadUsage({"ani", "play", first}, "ani: build, set or icon is needed");
-}
-
-// Changing.
-
-TEST_F(GpiconAni, WithoutOperationsTheFilmIsSavedAsItIs) {
-  set(3, {});
-  EXPECT_EQ(numbersIn(out), (std::vector{1, 2, 3}));
-  EXPECT_EQ(jiffiesIn(out), (std::vector{1, 2, 3}));
-  EXPECT_EQ(hotspotIn(out), (std::vector{4, 5}));
-}
-
-TEST_F(GpiconAni, EachOperationDoesWhatItsNameStates) {
-  struct Case {
-    std::vector<std::string> operations;
-    std::vector<int> numbers, jiffies;
-  };
-  for (const Case& c : std::vector<Case>{{{"--jiffies", "9"}, {1, 2, 3}, {9, 9, 9}},
-                                         {{"--jiffies-of", "2", "9"}, {1, 2, 3}, {1, 9, 3}},
-                                         {{"--below", "1"}, {1, 0, 2, 3}, {1, 1, 2, 3}},
-                                         {{"--above", "2"}, {1, 0, 2, 3}, {1, 2, 2, 3}},
-                                         {{"--below", "3"}, {1, 2, 3, 0}, {1, 2, 3, 3}},
-                                         {{"--remove", "1"}, {2, 3}, {2, 3}},
-                                         {{"--remove", "3"}, {1, 2}, {1, 2}},
-                                         {{"--up", "3"}, {1, 3, 2}, {1, 3, 2}},
-                                         {{"--down", "1"}, {2, 1, 3}, {2, 1, 3}},
-                                         {{"--load", "2", frameIcon(9)}, {1, 9, 3}, {1, 2, 3}},
-                                         {{"--take", "3", frameIcon(9)}, {1, 2, 9}, {1, 2, 3}}}) {
-    set(3, c.operations);
-    EXPECT_EQ(numbersIn(out), c.numbers) << c.operations.front();
-    EXPECT_EQ(jiffiesIn(out), c.jiffies) << c.operations.front();
-    EXPECT_EQ(hotspotIn(out), (std::vector{4, 5})) << c.operations.front();
-  }
-  set(3, {"--hotspot", "31,0"});
-  EXPECT_EQ(hotspotIn(out), (std::vector{31, 0}));
-}
-
-TEST_F(GpiconAni, OperationsAreAppliedFromLeftToRight) {
-  set(2, {"--below", "1", "--load", "2", frameIcon(7), "--remove", "1", "--jiffies-of", "1", "50", "--down", "1"});
-  EXPECT_EQ(numbersIn(out), (std::vector{2, 7}));
-  EXPECT_EQ(jiffiesIn(out), (std::vector{2, 50}));
-  set(2, {"--jiffies", "5", "--jiffies-of", "1", "6", "--hotspot", "1,1", "--hotspot", "2,3"});
-  EXPECT_EQ(jiffiesIn(out), (std::vector{6, 5}));
-  EXPECT_EQ(hotspotIn(out), (std::vector{2, 3}));
-  set(2, {"--jiffies-of", "1", "6", "--jiffies", "5"});
-  EXPECT_EQ(jiffiesIn(out), (std::vector{5, 5}));
-}
-
-TEST_F(GpiconAni, TakeOpensWhatTheEditorOpens) {
-  const std::string several = folder.write("two.ico", fileOf({anyEntry(16, 4), plainEntry(32, frameColor(8))}));
-  set(2, {"--take", "1", several, "--take", "2", cursor("a.cur", plainEntry(32, frameColor(9)))});
-  EXPECT_EQ(numbersIn(out), (std::vector{8, 9}));
-}
-
-TEST_F(GpiconAni, TheFileItselfIsSavedWithoutOutput) {
-  const std::string path = film(3);
-  expectDone({"ani", "set", "--remove", "2", path});
-  EXPECT_EQ(numbersIn(path), (std::vector{1, 3}));
-}
-
-TEST_F(GpiconAni, StandardInputIsSavedToStandardOutput) {
-  set(3, {"--up", "2"});
-  EXPECT_EQ(runAfter("cat " + film(3) + " | ", {"ani", "set", "-", "--up", "2"}).out, textOf("out.ani"));
-}
-
-TEST_F(GpiconAni, FramesThatAreNotThereAreRefused) {
-  const std::string path = folder.path("film.ani");
-  for (const std::string n : {"0", "3", "2000000000"}) {
-    for (const std::string operation : {"--below", "--above", "--remove"})
-      expectSetRefused({operation, n}, path + ": no frame " + n);
-    expectSetRefused({"--jiffies-of", n, "1"}, path + ": no frame " + n);
-    expectSetRefused({"--load", n, frameIcon(1)}, path + ": no frame " + n);
-    expectSetRefused({"--take", n, frameIcon(1)}, path + ": no frame " + n);
-  }
-  expectSetRefused({"--up", "1"}, path + ": no frame 0");
-  expectSetRefused({"--down", "2"}, path + ": no frame 3");
-  expectSetRefused({"--up", "3"}, path + ": no frame 3");
-  expectSetRefused({"--remove", "2", "--remove", "2"}, path + ": no frame 2");
-  expectRefused({"ani", "icon", film(2), "3", out}, path + ": no frame 3");
-  expectRefused({"ani", "icon", film(2), "0", out}, path + ": no frame 0");
-}
-
-TEST_F(GpiconAni, RefusalsLeaveTheFileAsItWas) {
-  const std::string path = film(70);
-  const Bytes former = bytesOf(path);
-  const Outcome full = run({"ani", "set", path, "--jiffies", "9", "--above", "1"});
-  EXPECT_EQ(full.status, 1);
-  EXPECT_EQ(full.err, "gpicon: " + path + ": Maximum 70 frames reached\n");
-  EXPECT_EQ(run({"ani", "set", path, "--below", "1"}).err, full.err);
-  EXPECT_EQ(run({"ani", "set", path, "--remove", "70", "--load", "1", path}).status, 1);
-  EXPECT_EQ(bytesOf(path), former);
-  expectSetRefused({"--above", "1"}, path + ": First frame cannot be a blank");
-  expectSetRefused({"--remove", "1", "--remove", "1"}, path + ": No frames prepared yet");
-  const std::string missing = folder.path("missing.ico");
-  expectSetRefused({"--load", "1", missing},
-                   missing + ": Invalid icon file or icon not a size of 16x16, 24x24, 32x32 or 48x48.");
-  expectSetRefused({"--take", "1", missing}, missing + ": not a file that can be read");
-  const std::string small = icon("small.ico", 24, 24), alpha = icon("alpha.ico", 32, 32);
-  expectSetRefused({"--take", "1", small}, small + ": Icon in Editing Area is not 32x32");
-  expectSetRefused({"--take", "1", alpha}, alpha + ": Not allowed to load an icon with Alpha Channel");
-}
-
-TEST_F(GpiconAni, FilesThatAreNoFilmAreRefused) {
-  const std::string text = folder.write("t.ani", {'h', 'i'}), missing = folder.path("missing.ani");
-  expectRefused({"ani", "set", text, "-o", out}, text + ": Failed to read this ANI file");
-  expectRefused({"ani", "icon", text, "1", out}, text + ": Failed to read this ANI file");
-  expectRefused({"ani", "set", missing, "-o", out}, missing + ": not a file that can be read");
-  std::vector<std::string> frames(71, smallFrame());
-  const std::string many = folder.write("many.ani", bytesOfText(aniOf(headerOf(71) + frameList(frames))));
-  expectRefused({"ani", "set", many, "-o", out},
-                many + ": Either an invalid ANI file or number of frames exceeds limit of 70.");
-}
-
-TEST_F(GpiconAni, WrongValuesOfSetAreBadUsage) {
-  for (const std::string jiffies : {"0", "91", "x", "1,2", ""}) {
-    expectSetBadUsage({"--jiffies", jiffies}, "--jiffies takes 1 to 90 jiffies");
-    expectSetBadUsage({"--jiffies-of", "1", jiffies}, "--jiffies-of takes N and 1 to 90 jiffies");
-  }
-  for (const std::string hotspot : {"32,0", "0,32", "1", "1,2,3", "x,1"})
-    expectSetBadUsage({"--hotspot", hotspot}, "--hotspot takes X,Y, each 0 to 31");
-  for (const std::string n : {"x", "-1", "1.5", ""}) expectSetBadUsage({"--below", n}, "--below takes N");
-  for (const std::string operation : {"--below", "--above", "--remove", "--up", "--down"})
-    expectSetBadUsage({operation}, operation + " takes N");
-  expectSetBadUsage({"--jiffies"}, "--jiffies takes 1 to 90 jiffies");
-  expectSetBadUsage({"--jiffies-of", "1"}, "--jiffies-of takes N and 1 to 90 jiffies");
-  expectSetBadUsage({"--load", "1"}, "--load takes N and ICON.ico");
-  expectSetBadUsage({"--take", "1"}, "--take takes N and FILE");
-  expectSetBadUsage({"--play"}, "unknown option --play");
-  expectSetBadUsage({"more.ani"}, "one FILE.ani is needed");
-  expectBadUsage({"ani", "set", "--jiffies", "1"}, "ani set: one FILE.ani is needed");
-}
-
-TEST_F(GpiconAni, WhatIsNotKeptOfTheFileIsNamed) {
-  const Bytes bytes =
-      bytesOfText(aniOf(headerOf(1) + frameList({test::textOf(cursorFile({entryOf(anyPicture(32, 32), 0, 32)}))})));
-  const std::string path = folder.write("alpha.ani", bytes);
-  const Outcome o = run({"ani", "set", path, "-o", out});
-  EXPECT_EQ(o.status, 0);
-  EXPECT_EQ(o.err, "gpicon: " + path + ": Will not be kept: alpha\n");
-}
-
-// Taking out.
-
-TEST_F(GpiconAni, AFrameIsSavedAsTheEditorSavesIt) {
-  const std::string path = folder.path("frame.ico");
-  expectDone({"ani", "icon", film(3), "2", path});
-  const Bytes bytes = bytesOf(path);
-  EXPECT_EQ(number(bytes, 2, 2), 1U);
-  EXPECT_EQ(number(bytes, 22 + 14, 2), 8U);
-  IconEntry entry;
-  entry.width = entry.height = 32;
-  entry.bitCount = 8;
-  entry.imageOffset = 22;
-  const IconImage icon = SlowIconReader(bytes, entry, 32, 32).read();
-  EXPECT_EQ(icon.image.GetPixel(0, 0), rgb(32, 223, 2));
-  EXPECT_EQ(icon.mask.GetPixel(0, 0), kBlack);
+TEST_F(GpiconAniCheck, DamageIsPrinted) {
+  const std::string bytes = aniOf(headerOf(2) + frameList({smallFrame(), smallFrame()}));
+  const std::string whole = std::to_string(bytes.size() - 8), cut = std::to_string(bytes.size() - 300);
+  EXPECT_EQ(check(bytes + "behind"), "-\tsize\t-\t" + whole + "\t" + std::to_string(bytes.size() - 2) + "\n");
+  EXPECT_EQ(check(bytes.substr(0, bytes.size() - 300)),
+            "-\tsize\t-\t" + whole + "\t" + std::to_string(bytes.size() - 308) + "\n1\tend\t-\t-\t" + cut +
+                "\n1\tpicture\t-\t-\t-\n-\tFailed to retrieve one of the frames, i.e. 1\t-\t-\t-\n");
+  EXPECT_EQ(check(aniOf(headerOf(2, 10, 0) + frameList(2))), std::string("-\t") + kNotRead + "\t-\t-\t-\n");
+  EXPECT_EQ(check(aniOf(headerOf(71) + frameList(71))), std::string("-\t") + kLimit + "\t-\t-\t-\n");
 }
 
 }  // namespace

@@ -46,6 +46,7 @@ const std::vector<WritingSubcommand> kWritingSubcommands{
     {"Salvage", cli::runSalvage, {"@lies.ico", "-o", "@a.ico"}, "a.ico"},
     {"SalvageOverItself", cli::runSalvage, {"@lies.ico", "-o", "@lies.ico"}, "lies.ico", true},
     {"Unpack", cli::runUnpack, {"@multi.ico", "@single.ico", "-d", "@out", "--force"}, "out/multi_0.image.ppm"},
+    {"UnpackFilm", cli::runUnpack, {"@film.ani", "-d", "@out", "--force"}, "out/film_1.image.ppm"},
     {"UnpackPng", cli::runUnpack, {"@multi.ico", "--png", "-d", "@out", "--force"}, "out/multi_0.png"},
     {"Make", cli::runMake, {"@a.ico", "@logo.png", "--force"}, "a.ico"},
     {"Strip", cli::runStrip, {"@thin.ico"}, "thin.ico", true},
@@ -97,7 +98,8 @@ class GpiconFailures : public CommandUnderFailures, public testing::WithParamInt
     write("thin.ico", build(entryOf(thin)));
     write("logo.png", build(anyPng(32)));
     write("frame.ico", build(plainEntry(32, {1, 2, 3, 255})));
-    write("film.ani", bytesOfText(aniOf(headerOf(1) + frameList(1))));
+    const std::string film = aniOf(headerOf(2) + frameList({smallFrame(), smallFrame()}));
+    write("film.ani", Bytes(film.begin(), film.end()));
     write("xcursor", bytesOfText(xcursorOf({{}})));
     write("moving", bytesOfText(xcursorOf({{}, {}})));
     write("lies.ico", build(entryOf(anyPicture(32, 8), 16, 4)));
