@@ -82,10 +82,13 @@ class RoomsEditor : public Editor {
   void offerIconsOfFile(const std::string&, int) override {}
   void AskSaveCurrent(const std::string&, bool&) override {}
   void setHotspotByClick(int, int) override {}
+  void endAniSession() override {}
+  void aniPaneHidden() override {}
   void UpdateCommands() override {}
   void showPanel(int panel) override { state->screen.mActivePanel = panel; }
   void closePanels() override { state->screen.mActivePanel = 0; }
   void AddHistory(const std::string&) override {}
+  void AddAniHistory(const std::string&) override {}
   void ShowRunTimeError(const std::string&, const std::string&) override {}
 };
 

@@ -119,6 +119,17 @@ TEST_F(AniSafety, TheAlphaScreenEndsTheSessionIfTheUserAgrees) {
   EXPECT_EQ(path(), "Untitled");
 }
 
+TEST_F(AniSafety, SaveAsClosesThePaneAndKeepsTheFilm) {
+  savedIcon();
+  press(kTestFilm);
+  dialogs.paths = {""};
+  click("mnuFileSub", 13);
+  EXPECT_FALSE(isVisible());
+  EXPECT_FALSE(session.test().isRunning());
+  EXPECT_EQ(path(), "Untitled");
+  expectKept();
+}
+
 // The history of animated cursors.
 
 TEST_F(AniSafety, AnEntryOfTheHistoryAsksAboutUnsavedFrames) {
@@ -349,6 +360,30 @@ TEST_F(AniSafety, ASessionThatEndsWhileAnIconIsCommittedTakesNoIcon) {
     expectEnded();
     EXPECT_EQ(state.current().path.trimmed(), "Untitled");
   }
+}
+
+// The command line.
+
+class AniCommandLine : public ShellFixture {};
+
+TEST_F(AniCommandLine, OpensAFilm) {
+  const std::vector<std::uint8_t> bytes = composeFilm(numberedFrames(2), 3, 4);
+  const std::string path = folder.write("film.ANI", std::string(bytes.begin(), bytes.end()));
+  start(path);
+  EXPECT_TRUE(state.screen.aniContainerVisible);
+  EXPECT_EQ(shell.animation().session.frames().count(), 2);
+  EXPECT_EQ(status(StatusPanel::Path), path);
+  EXPECT_EQ(shell.aniHistory().path(1), path);
+  EXPECT_EQ(state.process.mCommandFile, path);
+}
+
+TEST_F(AniCommandLine, AFileThatCannotBeReadLeavesAnEmptySession) {
+  const std::string path = folder.write("broken.ani", "no film");
+  boxes.expectTold(path + "\nFailed to read this ANI file", BoxIcon::Exclamation);
+  start(path);
+  EXPECT_TRUE(state.screen.aniContainerVisible);
+  EXPECT_EQ(shell.animation().session.frames().count(), 0);
+  EXPECT_EQ(shell.aniHistory().path(1), "");
 }
 
 }  // namespace
