@@ -313,7 +313,7 @@ TEST_F(GpiconAniEditing, WrongValuesOfSetAreBadUsage) {
 
 TEST_F(GpiconAniEditing, WhatIsNotKeptOfTheFileIsNamed) {
   const Bytes bytes =
-      bytesOfText(aniOf(headerOf(1) + frameList({test::textOf(cursorFile({entryOf(anyPicture(32, 32), 0, 32)}))})));
+      bytesOfText(aniOf(headerOf(1) + frameList({asText(cursorFile({entryOf(anyPicture(32, 32), 0, 32)}))})));
   const std::string path = folder.write("alpha.ani", bytes);
   const Outcome o = run({"ani", "set", path, "-o", out});
   EXPECT_EQ(o.status, 0);
