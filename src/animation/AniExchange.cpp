@@ -1,6 +1,7 @@
 #include "animation/AniExchange.h"
 
 #include "animation/AniState.h"
+#include "animation/AniTexts.h"
 #include "animation/FrameExchange.h"
 #include "document/Announcements.h"
 #include "document/Compositing.h"
@@ -13,13 +14,6 @@
 #include "platform/ports/MessageBoxes.h"
 
 namespace gp {
-namespace {
-
-constexpr const char* kNoAlpha = "Not allowed to load an icon with Alpha Channel";
-constexpr const char* kOtherSize = "Icon in Editing Area is not 32x32";
-
-}  // namespace
-
 void AniExchange::fromEditingArea() {
   const unsigned serial = ani_.filmSerial;
   context_.document.iconsPanel.CommitPendingPaint();
@@ -35,11 +29,11 @@ bool AniExchange::isRefused() {
   const IconContainerRec& record = context_.state.current();
   const char* refusal = nullptr;
   if (record.depth().hasAlpha())
-    refusal = kNoAlpha;
+    refusal = kNoAlphaInFrames;
   else if (!record.present)
     refusal = kNoIconYet;
   else if (record.size != kFrameSide)
-    refusal = kOtherSize;
+    refusal = kIconOfOtherSize;
   if (refusal) context_.boxes.tell(refusal);
   return refusal != nullptr;
 }

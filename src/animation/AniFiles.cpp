@@ -24,7 +24,6 @@ namespace {
 
 constexpr const char* kAniFilter = "Animated cursor files (*.ani)|*.ani|";
 constexpr const char* kAniExtension = "ani";
-constexpr const char* kBlankFirstFrame = "First frame cannot be a blank";
 constexpr const char* kNotSaved = "SaveANIFile.  Failed to save this ani file.";
 
 // The progress on the status bar, which lets events in to be seen.

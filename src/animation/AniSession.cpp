@@ -14,14 +14,11 @@ namespace gp {
 namespace {
 
 constexpr const char* kUntitled = "Untitled";
-constexpr const char* kNoFrames = "No frames prepared yet";
 constexpr const char* kOneFrame = "As there is only a single frame, animation not feasible.";
 constexpr const char* kIntervalSet = "Jiffies set (for all frames)";
 constexpr int kTestButton = 8;
 // Intended: a click on this cell does nothing.
 constexpr int kDeafCell = 50;
-
-std::string fullText() { return "Maximum " + std::to_string(cMaxAniFrames) + " frames reached"; }
 
 }  // namespace
 
@@ -207,7 +204,7 @@ void AniSession::addBelow() { add(&AniFrames::addBelow); }
 void AniSession::addAbove() { add(&AniFrames::addAbove); }
 
 void AniSession::add(void (AniFrames::*addFrame)()) {
-  if (ani_.frames.isFull()) return context_.boxes.tell(fullText());
+  if (ani_.frames.isFull()) return context_.boxes.tell(kFullFilm);
   (ani_.frames.*addFrame)();
   ani_.framesChanged();
 }

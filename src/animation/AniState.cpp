@@ -31,10 +31,7 @@ void AniState::framesChanged() {
   film.redraw(frames);
 }
 
-std::string AniState::lossesNotice() const {
-  const std::string text = losses.text();
-  return text.empty() ? text : "Will not be kept: " + text;
-}
+std::string AniState::lossesNotice() const { return losses.notice(); }
 
 void showAniPath(const Context& context, const AniState& ani) {
   context.state.screen.lblStatusPanel.at(static_cast<std::size_t>(StatusPanel::Path)) = pathToShow(context.state, ani);

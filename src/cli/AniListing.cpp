@@ -4,6 +4,7 @@
 #include "animation/format/FilmReading.h"
 #include "animation/format/FrameDrawing.h"
 #include "cli/Console.h"
+#include "cli/ImageFile.h"
 #include "cli/Json.h"
 #include "document/ColorDepth.h"
 
@@ -86,11 +87,25 @@ struct ImageRow {
   const char* encoding() const { return image.isPng ? "png" : "bmp"; }
 };
 
+// What a frame states about its first image, which has no pixels.
+FrameImageFacts statedFacts(Bytes frame) {
+  const IconFile file = parseIconFile(FileBytes(frame));
+  if (!file.isIcon() && !file.isCursor()) return {};
+  const IconEntry entry = file.entry(0);
+  FrameImageFacts facts;
+  facts.width = sideOf(entry.width);
+  facts.height = sideOf(entry.height);
+  facts.bits = headerBitCount(file, entry);
+  facts.hotspotX = file.isCursor() ? entry.hotspotX() : 0;
+  facts.hotspotY = file.isCursor() ? entry.hotspotY() : 0;
+  facts.isPng = isPngImage(file, entry);
+  return facts;
+}
+
 ImageRow rowOf(Bytes file, const AniImage& image, std::size_t index) {
   const Bytes frame = file.subspan(image.offset, image.size);
-  if (const auto drawn = drawFrame(frame)) return {index, image, drawn->image, true};
-  const auto images = frameImages(frame);
-  return {index, image, images.empty() ? FrameImageFacts() : images.front(), false};
+  const auto drawn = drawFrame(frame);
+  return {index, image, drawn ? drawn->image : statedFacts(frame), drawn.has_value()};
 }
 
 void printText(const std::string& path, const ImageRow& row) {
@@ -108,8 +123,6 @@ void printJson(const ImageRow& row) {
 }
 
 }  // namespace
-
-bool canListAni(Bytes file) { return readAniFile(file).defect != AniDefect::NotAnimated; }
 
 void printAniAsText(const std::string& path, Bytes file) {
   const AniReading reading = readAniFile(file);

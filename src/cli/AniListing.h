@@ -7,11 +7,8 @@
 
 namespace gp::cli {
 
-// Print a file that readAniFile accepts at least in part; see canListAni. The text has a line for the film and one for
-// each image, JSON is one object.
+// Print an animated cursor of any content. The text has a line for the film and one for each image, JSON is one object.
 void printAniAsText(const std::string& path, std::span<const std::uint8_t> file);
 void printAniAsJson(const std::string& path, std::span<const std::uint8_t> file);
-// False for a file that is no animated cursor.
-bool canListAni(std::span<const std::uint8_t> file);
 
 }  // namespace gp::cli

@@ -1,3 +1,4 @@
+#include "cli/AniDefects.h"
 #include "cli/Discrepancies.h"
 #include "cli/ImageFile.h"
 #include "cli/Json.h"
@@ -10,17 +11,9 @@
 namespace gp::cli {
 namespace {
 
-// Reads the whole file, unlike openImageFile: its size is one of the things that are checked.
-std::optional<IconFile> openWholeFile(const std::string& path) {
-  auto file = readWholeIconInput(path);
-  if (file && (file->isIcon() || file->isCursor())) return file;
-  complain(path, describe(file ? IconDefect::NotAnIcon : IconDefect::NotReadable));
-  return std::nullopt;
-}
-
 void printText(const std::string& path, const Discrepancy& discrepancy) {
   const std::string index = discrepancy.index < 0 ? kNothingStated : std::to_string(discrepancy.index);
-  std::printf("%s\t%s\t%s\t%s\t%s\t%s\n", printable(path).c_str(), index.c_str(), discrepancy.what,
+  std::printf("%s\t%s\t%s\t%s\t%s\t%s\n", printable(path).c_str(), index.c_str(), printable(discrepancy.what).c_str(),
               discrepancy.directory.c_str(), discrepancy.header.c_str(), discrepancy.pixels.c_str());
 }
 
@@ -28,9 +21,10 @@ std::string jsonOrNull(const std::string& text) { return text == kNothingStated 
 
 void printJson(const std::string& path, const Discrepancy& discrepancy) {
   const std::string index = discrepancy.index < 0 ? "null" : std::to_string(discrepancy.index);
-  std::printf("{\"file\":%s,\"index\":%s,\"what\":\"%s\",\"directory\":%s,\"header\":%s,\"pixels\":%s}",
-              jsonText(path).c_str(), index.c_str(), discrepancy.what, jsonOrNull(discrepancy.directory).c_str(),
-              jsonOrNull(discrepancy.header).c_str(), jsonOrNull(discrepancy.pixels).c_str());
+  std::printf("{\"file\":%s,\"index\":%s,\"what\":%s,\"directory\":%s,\"header\":%s,\"pixels\":%s}",
+              jsonText(path).c_str(), index.c_str(), jsonText(discrepancy.what).c_str(),
+              jsonOrNull(discrepancy.directory).c_str(), jsonOrNull(discrepancy.header).c_str(),
+              jsonOrNull(discrepancy.pixels).c_str());
 }
 
 using Printer = std::function<void(const std::string& path, const Discrepancy& discrepancy)>;
@@ -38,13 +32,15 @@ using Printer = std::function<void(const std::string& path, const Discrepancy& d
 int checkFiles(const Arguments& files, const Printer& print) {
   int status = kDone;
   for (const std::string& path : files) {
-    const auto file = openWholeFile(path);
+    // The size of the file is one of the things that are checked.
+    const auto file = accepted(readWholeIconInput(path), path);
     if (!file) status = kRefused;
     if (!file) continue;
-    findDiscrepancies(*file, [&](const Discrepancy& discrepancy) {
+    const auto report = [&](const Discrepancy& discrepancy) {
       status = kRefused;
       print(path, discrepancy);
-    });
+    };
+    isAnimated(*file, path) ? findAniDefects(file->span(), report) : findDiscrepancies(*file, report);
   }
   return status;
 }

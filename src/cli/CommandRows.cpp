@@ -2,6 +2,7 @@
 #include "cli/CommandTable.h"
 #include "cli/EffectOptions.h"
 #include "cli/Help.h"
+#include "cli/LookingCommandRows.h"
 #include "cli/Subcommands.h"
 
 #include <algorithm>
@@ -10,7 +11,7 @@
 namespace gp::cli {
 namespace {
 
-constexpr std::array kIconRows = std::to_array<Command>({
+constexpr std::array kMakingRows = std::to_array<Command>({
     {.name = "make",
      .usage = "make OUT.ico PICTURE... [--from PICTURE] [--sizes 16,24,...] [--bits BITS] [--png-above SIZE]\n"
               "            [--filter FILTER] [--dither DITHER] [--hotspot X,Y] [--json] [--force]",
@@ -36,80 +37,9 @@ constexpr std::array kIconRows = std::to_array<Command>({
              "and when OUT is already there, which --force replaces.",
      .example = "make app.ico small.png --from logo.png --sizes 32,48,256",
      .run = runMake},
-    {.name = "probe",
-     .usage = "probe [--json] FILE...",
-     .summary = "kind, size and depth of a file, as numbers",
-     .help = "Prints the file's name, a tab, and nine numbers joined by \"/\": kind (0 no icon\n"
-             "file, 1 one entry, 2 several), usable entries as far as the scan went, chosen\n"
-             "entry, its width, height, colors and bits by the directory, colors and bits by\n"
-             "the bitmap header. Colors are -1 for true color. A PNG picture states all of them\n"
-             "itself, as 32 bits with alpha and 24 without. Of several entries the first\n"
-             "of 32x32 is chosen, or a later one of 32x32 with 8 bits, which ends the scan.\n"
-             "Of a cursor file, which its content shows and not its name, there are three\n"
-             "numbers: 1 for a cursor that the editor takes, its colors and its bits by the\n"
-             "bitmap header; 0/0/0 for others. With --json, the numbers as an array.",
-     .example = "probe *.ico",
-     .run = runProbe},
-    {.name = "list",
-     .usage = "list [--json] FILE...",
-     .summary = "one line per image of a file",
-     .help =
-         "Prints one line per image, parted by tabs: file, index, size, colors and bits by\n"
-         "the directory, colors and bits by the bitmap header (0 for PNG), bytes, offset,\n"
-         "encoding (bmp or png), usable or unusable. A width or height of 0 in the file is\n"
-         "256. Usable images are square, of 16, 24, 32 or 48 pixels, and either bitmaps of\n"
-         "1, 4, 8, 24 or 32 bits or PNG pictures, whose size is their own. With --json, one\n"
-         "array with an object for each file; bytes of a name that are not UTF-8 become \"\\udc80\" to \"\\udcff\".\n"
-         "Lines of cursor files end with two more columns, the hot spot's x and y (with\n"
-         "--json: kind \"cur\", \"hotspotX\", \"hotspotY\"). A cursor's directory states no\n"
-         "depth: both pairs of colors and bits are the bitmap header's. Usable is a first\n"
-         "image of 32x32 at offset 22 with its hot spot inside.",
-     .example = "list --json app.ico | python3 -m json.tool",
-     .run = runList},
-    {.name = "info",
-     .usage = "info FILE [INDEX] [--json]",
-     .summary = "the properties of images, and their bytes when saved",
-     .help = "Prints one line for the image, without INDEX for each image that the editor opens,\n"
-             "parted by tabs: file, index, size, colors and bits by the directory, colors and bits\n"
-             "by the bitmap header, present colors and bits, number of colors used, and the bytes\n"
-             "when saved to a single-icon file. Colors are -1 for true color. Transparent pixels\n"
-             "count with their black. With --json, an array of objects.",
-     .example = "info app.ico 0",
-     .run = runInfo},
-    {.name = "check",
-     .usage = "check [--json] FILE...",
-     .summary = "what directory, headers and pixels of a file contradict each other in",
-     .help = "Prints one line for each place where directory, headers and pixels of an icon or\n"
-             "cursor file contradict each other, parted by tabs: file, index, what, and what\n"
-             "the directory, the header and the pixels state of it (\"-\" for nothing). What is\n"
-             "  width, height  the size; PNG pictures are asked too\n"
-             "  colors, bits   the depth; last, the depth that the pixels need\n"
-             "  bytes          fewer stated than the image needs; \"incomplete\" for a cut PNG\n"
-             "  png            \"damaged\": a PNG picture that cannot be read\n"
-             "  offset         inside the directory; last, where that ends\n"
-             "  end            behind the file's end; last, the file's size\n"
-             "  pixels         palette index beyond the colors that the header states\n"
-             "  alpha          pixels that the alpha calls transparent (0) and the mask painted,\n"
-             "                 which open opaque; last, their number\n"
-             "  shared         the same bytes as another image\n"
-             "  same           size and colors of an image before it\n"
-             "  hotspotX, hotspotY  outside the picture; last, its width or height\n"
-             "  count          more entries stated than the file holds (index \"-\")\n"
-             "Old icons that state colors but no bits are healthy. Exit status 1 if there is any.\n"
-             "With --json, one array with an object for each, and null for nothing.",
-     .example = "check --json app.ico",
-     .run = runCheck},
-    {.name = "show",
-     .usage = "show FILE... [--color WHEN] [--width COLUMNS]",
-     .summary = "the images of a file as colored text",
-     .help = "Prints each image of every size that can be decoded: a line with the file, index and\n"
-             "size, parted by tabs, and lines of half blocks, two pixels in each. Pixels with an\n"
-             "alpha below 128 show the ground. Images wider than COLUMNS (80 if not given) are\n"
-             "scaled down. Colors are 24-bit sequences of terminals. WHEN is always, never, or auto\n"
-             "(if not given): in a terminal, unless NO_COLOR is set. Without colors, the blocks\n"
-             "show which pixels are not transparent.",
-     .example = "show app.ico --width 48",
-     .run = runShow},
+});
+
+constexpr std::array kIconRows = std::to_array<Command>({
     {.name = "unpack",
      .usage = "unpack FILE... -d DIR [--png] [--force] [--max-size MB]",
      .summary = "the pictures in files, as PNG or as image, mask and alpha",
@@ -118,6 +48,8 @@ constexpr std::array kIconRows = std::to_array<Command>({
              "With --png, writes every image of every size that can be decoded as NAME_INDEX.png:\n"
              "the bytes of a PNG picture as they are, and a bitmap with alpha, which is 0 where its\n"
              "mask is set, unless its 32 bits have alpha. Depth and size are the image's own.\n"
+             "Of an animated cursor, writes image and mask of each frame as the editor opens it,\n"
+             "32x32 on white, INDEX from 0; --png does not take animated cursors.\n"
              "NAME is the file's name without folder and extension; when two files share it,\n"
              "the later ones become NAME-2, NAME-3 and so on. DIR is made if it is not there.\n"
              "Files that are there already are kept and complained of; --force replaces them,\n"
@@ -288,7 +220,7 @@ constexpr auto joined(const std::array<Command, counts>&... parts) {
   return rows;
 }
 
-constexpr auto kRows = joined(kIconRows, kAnimatedCommandRows, kRowsAboutGpicon);
+constexpr auto kRows = joined(kMakingRows, kLookingCommandRows, kIconRows, kAnimatedCommandRows, kRowsAboutGpicon);
 
 }  // namespace
 

@@ -14,7 +14,7 @@ inline constexpr const char* kNothingStated = "-";
 
 struct Discrepancy {
   int index = -1;  // of the entry, -1 for the file as a whole
-  const char* what = "";
+  std::string what;
   // The value that each of the three states.
   std::string directory = kNothingStated;
   std::string header = kNothingStated;

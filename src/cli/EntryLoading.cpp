@@ -2,9 +2,11 @@
 
 #include "cli/Console.h"
 #include "cli/ImageFile.h"
+#include "files/cursor/CursorLoading.h"
 #include "files/format/IconProbe.h"
 #include "files/format/IconWriter.h"
 #include "files/opening/IconLoading.h"
+#include "files/opening/IconMessages.h"
 
 #include <utility>
 
@@ -47,6 +49,23 @@ std::optional<LoadedIcon> loadNamedEntry(const IconFile& file, int index, const 
   return loaded;
 }
 
+const char* refusalOf(const CursorFacts& facts, const DecodedIcon& decoded) {
+  if (!facts.valid) return kInvalidCursorFile;
+  if (!decoded.isRead()) return kCursorNotLoaded;
+  return facts.depth.isShown() ? nullptr : kStrangeTrueColor;
+}
+
+std::optional<LoadedIcon> loadOpenedCursor(const IconFile& file, const std::string& path) {
+  const CursorFacts facts = probeCursor(file);
+  DecodedIcon decoded = loadCursorImage(file);
+  if (const char* const reason = refusalOf(facts, decoded)) {
+    complain(path, reason);
+    return std::nullopt;
+  }
+  const IconContainerRec record = recordOfLoadedCursor(facts, decoded.icon, path);
+  return LoadedIcon{std::move(decoded.icon), record};
+}
+
 }  // namespace
 
 std::optional<LoadedIcon> loadEntry(const IconFile& file, int index, const std::string& path, IconDefect& defect) {
@@ -57,6 +76,12 @@ std::optional<LoadedIcon> loadEntry(const IconFile& file, int index, const std::
   if (!decoded.isRead()) return std::nullopt;
   const IconContainerRec record = recordOfLoadedIcon(factsOfEntry(file, index), decoded.icon, path);
   return LoadedIcon{std::move(decoded.icon), record};
+}
+
+std::optional<LoadedIcon> loadOpenedIcon(const std::string& path) {
+  const auto file = openImageFile(path);
+  if (!file) return std::nullopt;
+  return file->isCursor() ? loadOpenedCursor(*file, path) : loadChosenEntry(*file, path);
 }
 
 std::optional<NewIcon> newIconOf(const LoadedIcon& loaded) {

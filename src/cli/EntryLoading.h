@@ -20,6 +20,10 @@ struct LoadedIcon {
 // is stored in the record.
 std::optional<LoadedIcon> loadEntry(const IconFile& file, int index, const std::string& path, IconDefect& defect);
 
+// Loads the icon or cursor that the editor opens without asking. Empty, after an error message, for a file that it does
+// not open.
+std::optional<LoadedIcon> loadOpenedIcon(const std::string& path);
+
 // An icon to put into a file with several icons.
 struct NewIcon {
   IconTraits traits;

@@ -13,19 +13,21 @@ namespace {
 
 constexpr int kSideOfZero = 256;
 
-enum class Kinds { Icons, IconsAndCursors, All };
-
-bool isOf(Kinds kinds, const IconFile& file, const std::string& path) {
-  if (kinds == Kinds::All && isAnimated(file, path)) return true;
-  const bool fits = file.isIcon() || (kinds != Kinds::Icons && file.isCursor());
-  return fits && file.directory.presentCount() != 0;
-}
-
-std::optional<IconFile> openFile(const std::string& path, Kinds kinds) {
-  auto file = kinds == Kinds::All ? readImageInput(path) : readIconInput(path);
-  if (file && isOf(kinds, *file, path)) return file;
+std::optional<IconFile> openFile(const std::string& path, bool withCursors) {
+  auto file = readIconInput(path);
+  const bool fits = file && (file->isIcon() || (withCursors && file->isCursor()));
+  if (fits && file->directory.presentCount() != 0) return file;
   complain(path, describe(file ? IconDefect::NotAnIcon : IconDefect::NotReadable));
   return std::nullopt;
+}
+
+// Empty for a file that gpicon prints about.
+const char* refusalOf(const IconFile& file, const std::string& path) {
+  if (isAnimated(file, path)) {
+    const AniDefect defect = readAniFile(file.span()).defect;
+    return defect == AniDefect::NotAnimated ? describe(defect) : "";
+  }
+  return file.isIcon() || file.isCursor() ? "" : describe(IconDefect::NotAnIcon);
 }
 
 bool isUsableCursor(const IconFile& file) {
@@ -43,9 +45,22 @@ std::optional<DecodedImage> decodeCursor(const IconFile& file) {
 
 }  // namespace
 
-std::optional<IconFile> openAnyFile(const std::string& path) { return openFile(path, Kinds::All); }
-std::optional<IconFile> openImageFile(const std::string& path) { return openFile(path, Kinds::IconsAndCursors); }
-std::optional<IconFile> openIconFile(const std::string& path) { return openFile(path, Kinds::Icons); }
+std::optional<IconFile> openImageFile(const std::string& path) { return openFile(path, true); }
+std::optional<IconFile> openIconFile(const std::string& path) { return openFile(path, false); }
+
+std::optional<IconFile> accepted(std::optional<IconFile> file, const std::string& path) {
+  const char* const reason = file ? refusalOf(*file, path) : describe(IconDefect::NotReadable);
+  if (*reason == '\0') return file;
+  complain(path, reason);
+  return std::nullopt;
+}
+
+std::optional<IconFile> openAnyFile(const std::string& path) {
+  auto file = accepted(readImageInput(path), path);
+  if (!file || isAnimated(*file, path) || file->directory.presentCount() != 0) return file;
+  complain(path, describe(IconDefect::NotAnIcon));
+  return std::nullopt;
+}
 
 bool isNamedAni(const std::string& path) { return endsWithAnyCase(path, ".ani"); }
 

@@ -9,11 +9,14 @@
 
 namespace gp::cli {
 
-// Opens an icon or cursor file; openIconFile accepts icon files only, and openAnyFile animated cursors too, see
-// isAnimated. Empty after an error message.
-std::optional<IconFile> openAnyFile(const std::string& path);
+// Opens an icon or cursor file; openIconFile accepts icon files only. Empty after an error message.
 std::optional<IconFile> openImageFile(const std::string& path);
 std::optional<IconFile> openIconFile(const std::string& path);
+// Opens an icon or cursor file, or an animated cursor of any content. Empty after an error message.
+std::optional<IconFile> openAnyFile(const std::string& path);
+// Accepts icon and cursor files, also without an entry, and animated cursors of any content. Empty after an error
+// message, for others and for nullopt.
+std::optional<IconFile> accepted(std::optional<IconFile> file, const std::string& path);
 
 // True for a file that is an animated cursor by its first bytes, and for one that only its name calls so.
 bool isAnimated(const IconFile& file, const std::string& path);

@@ -1,4 +1,3 @@
-#include "animation/format/AniFile.h"
 #include "cli/AniListing.h"
 #include "cli/ImageFile.h"
 #include "cli/Json.h"
@@ -62,14 +61,6 @@ void printJson(const ImageRow& row) {
   std::putchar('}');
 }
 
-// Empty after an error message.
-std::optional<IconFile> openListed(const std::string& path) {
-  auto file = openAnyFile(path);
-  if (!file || !isAnimated(*file, path) || canListAni(file->span())) return file;
-  complain(path, describe(AniDefect::NotAnimated));
-  return std::nullopt;
-}
-
 void printImagesAsText(const std::string& path, const IconFile& file) {
   for (int i = 0; i < file.directory.presentCount(); ++i) printText(path, rowOf(file, i));
 }
@@ -86,7 +77,7 @@ void printImagesAsJson(const std::string& path, const IconFile& file) {
 int listAsText(const Arguments& files) {
   int status = kDone;
   for (const std::string& path : files) {
-    const auto file = openListed(path);
+    const auto file = openAnyFile(path);
     if (!file)
       status = kRefused;
     else if (isAnimated(*file, path))
@@ -101,7 +92,7 @@ int listAsJson(const Arguments& files) {
   int status = kDone;
   JsonArray array;
   for (const std::string& path : files) {
-    const auto file = openListed(path);
+    const auto file = openAnyFile(path);
     if (!file) status = kRefused;
     if (!file) continue;
     array.next();

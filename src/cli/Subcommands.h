@@ -32,6 +32,7 @@ int runReorder(const Arguments& arguments);
 int runSalvage(const Arguments& arguments);
 int runStrip(const Arguments& arguments);
 // Animated cursors, and the cursors of X11 and Wayland.
+int runAni(const Arguments& arguments);
 int runXcursor(const Arguments& arguments);
 int runUnxcursor(const Arguments& arguments);
 

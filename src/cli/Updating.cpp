@@ -3,6 +3,7 @@
 #include "cli/Streams.h"
 #include "files/format/IconDecoder.h"
 
+#include <array>
 #include <filesystem>
 
 namespace gp::cli {
@@ -31,6 +32,16 @@ bool isOrdinary(const std::string& path) {
   std::error_code error;
   const auto status = std::filesystem::status(path, error);
   return !std::filesystem::exists(status) || std::filesystem::is_regular_file(status);
+}
+
+// False, after an error message, for a defect.
+bool isDone(WriteDefect defect, const std::string& target, const FailureText& failure) {
+  if (defect == WriteDefect::None) return true;
+  if (defect == WriteDefect::Changed)
+    complain(target, kChanged);
+  else
+    complain(target, isOrdinary(target) ? failure() : kNotOrdinary);
+  return false;
 }
 
 }  // namespace
@@ -77,14 +88,15 @@ const std::string& targetOf(const std::string& path, const std::string& output) 
 }
 
 bool writeUpdate(IconArrays& arrays, const std::string& path, const std::string& output, const FailureText& failure) {
+  return isDone(writeTarget(arrays, path, output), targetOf(path, output), failure);
+}
+
+bool writeUpdate(std::span<const std::uint8_t> bytes, const FileBytes& read, const std::string& path,
+                 const std::string& output, const FailureText& failure) {
   const std::string& target = targetOf(path, output);
-  const WriteDefect defect = writeTarget(arrays, path, output);
-  if (defect == WriteDefect::None) return true;
-  if (defect == WriteDefect::Changed)
-    complain(target, kChanged);
-  else
-    complain(target, isOrdinary(target) ? failure() : kNotOrdinary);
-  return false;
+  if (!isStream(target) && output.empty())
+    return isDone(writeFile(target, std::array{bytes}, read.version()), target, failure);
+  return isDone(writeOutput(target, bytes) ? WriteDefect::None : WriteDefect::NotWritten, target, failure);
 }
 
 }  // namespace gp::cli

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 
 namespace gp::cli {
@@ -43,5 +44,9 @@ using FailureText = std::function<std::string()>;
 // printed and the result is false.
 [[nodiscard]] bool writeUpdate(IconArrays& arrays, const std::string& path, const std::string& output,
                                const FailureText& failure);
+
+// The same with the bytes of a file that is not of icons. `read` are those that were read from `path`.
+[[nodiscard]] bool writeUpdate(std::span<const std::uint8_t> bytes, const FileBytes& read, const std::string& path,
+                               const std::string& output, const FailureText& failure);
 
 }  // namespace gp::cli

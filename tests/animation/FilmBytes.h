@@ -46,12 +46,12 @@ inline Entry pngEntry(const PngFile& file) {
 
 // A frame of 32 x 32 pixels whose picture is one of 16 different ones.
 inline Rgb frameColor(int number) { return {16 * number, 255 - 16 * number, number, 255}; }
-inline std::string textOf(const Bytes& bytes) { return {bytes.begin(), bytes.end()}; }
+inline std::string asText(const Bytes& bytes) { return {bytes.begin(), bytes.end()}; }
 inline std::string plainFrame(int number, Hotspot hotspot = {}) {
-  return textOf(cursorFile({plainEntry(32, frameColor(number))}, {hotspot}));
+  return asText(cursorFile({plainEntry(32, frameColor(number))}, {hotspot}));
 }
 // A small frame: of two colours, in 310 bytes.
-inline std::string smallFrame(Hotspot hotspot = {}) { return textOf(cursorFile({anyEntry(32, 1)}, {hotspot})); }
+inline std::string smallFrame(Hotspot hotspot = {}) { return asText(cursorFile({anyEntry(32, 1)}, {hotspot})); }
 
 // A list of frames, with a pad byte behind odd ones.
 inline std::string frameList(const std::vector<std::string>& frames) {

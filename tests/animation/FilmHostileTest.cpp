@@ -103,12 +103,12 @@ std::vector<HostileFile> hostileTables() {
 }
 
 std::vector<HostileFile> hostileFrames() {
-  const std::string several = textOf(cursorFile({anyEntry(16, 1), anyEntry(32, 1), anyEntry(48, 1)}));
+  const std::string several = asText(cursorFile({anyEntry(16, 1), anyEntry(32, 1), anyEntry(48, 1)}));
   return {
-      {"icons", aniOf(kHeader + frameList({textOf(build(anyEntry(32, 1))), textOf(build(anyEntry(16, 4)))}))},
+      {"icons", aniOf(kHeader + frameList({asText(build(anyEntry(32, 1))), asText(build(anyEntry(16, 4)))}))},
       {"several images in a frame", aniOf(kHeader + frameList({several, smallFrame()}))},
       {"frames of different sizes",
-       aniOf(kHeader + frameList({textOf(cursorFile({anyEntry(48, 1)})), textOf(cursorFile({anyEntry(8, 1)}))}))},
+       aniOf(kHeader + frameList({asText(cursorFile({anyEntry(48, 1)})), asText(cursorFile({anyEntry(8, 1)}))}))},
       {"a frame without a picture", aniOf(kHeader + kStrangeFrames), FilmDefect::FrameNotDrawn},
       {"an empty frame", aniOf(kHeader + frameList({"", smallFrame()})), FilmDefect::FrameNotDrawn},
       {"a size beyond the list", aniOf(kHeader + listOf("fram", "icon" + u32Text(kHuge) + smallFrame())),

@@ -169,11 +169,11 @@ TEST(FilmReading, TheHotSpotOfAFirstFrameOf32PixelsIsFoundByTags) {
   // The tags are not beside each other.
   EXPECT_EQ(hotspotOf(headerOf(1) + listOf("fram", chunkOf("JUNK", "") + chunkOf("icon", plainFrame(0, {7, 9})))),
             (Numbers{0, 0}));
-  EXPECT_EQ(hotspotOf(headerOf(1) + frameList({textOf(build(anyEntry(32, 4)))})), (Numbers{0, 0}));
+  EXPECT_EQ(hotspotOf(headerOf(1) + frameList({asText(build(anyEntry(32, 4)))})), (Numbers{0, 0}));
 }
 
 std::string frameWith(const std::vector<Entry>& images, const std::vector<Hotspot>& hotspots) {
-  return textOf(cursorFile(images, hotspots));
+  return asText(cursorFile(images, hotspots));
 }
 
 TEST(FilmReading, TheHotSpotOfOtherFirstFramesIsThatOfTheDrawnImage) {
@@ -182,7 +182,7 @@ TEST(FilmReading, TheHotSpotOfOtherFirstFramesIsThatOfTheDrawnImage) {
             (Numbers{16, 31}));
   EXPECT_EQ(hotspotOf(headerOf(1) + frameList({frameWith({large, right}, {{1, 12}, {5, 8}})})), (Numbers{5, 8}));
   EXPECT_EQ(hotspotOf(headerOf(1) + frameList({frameWith({right, large}, {{300, 8}, {1, 12}})})), (Numbers{31, 8}));
-  EXPECT_EQ(hotspotOf(headerOf(1) + frameList({textOf(build({{large}, 0, 1, {}}))})), (Numbers{0, 0}));
+  EXPECT_EQ(hotspotOf(headerOf(1) + frameList({asText(build({{large}, 0, 1, {}}))})), (Numbers{0, 0}));
 }
 
 std::string lossesOf(const std::string& chunks) { return read(chunks).losses.text(); }

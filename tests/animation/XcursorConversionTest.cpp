@@ -171,6 +171,16 @@ TEST(ToXcursor, AFrameThatLacksASizeHasTheOthers) {
   EXPECT_EQ(made[2].nominalSize, 8U);
 }
 
+TEST(ToXcursor, StepsThatAreCutToSmallerSidesAreStillOneSize) {
+  const Bytes first = cursorOf({plain(8, 8, 24, {1, 0, 0}), plain(20, 10, 24, {2, 0, 0})});
+  const Bytes second = cursorOf({plain(6, 9, 24, {3, 0, 0}), plain(12, 12, 24, {4, 0, 0})});
+  EXPECT_EQ(madeOf(aniBytes(headerOf(2, 6) + frames({first, second}))),
+            (std::vector<Made>{{9, 100, 8, 8, 1, 2, 0xFF010000},
+                               {9, 100, 6, 9, 1, 2, 0xFF030000},
+                               {20, 100, 20, 10, 2, 3, 0xFF020000},
+                               {20, 100, 12, 12, 2, 3, 0xFF040000}}));
+}
+
 TEST(ToXcursor, WhatCannotBeReadIsRefused) {
   EXPECT_EQ(toXcursor({}).refusal, "no image that can be read");
   EXPECT_EQ(toXcursor(bytesOfText("RIFF")).refusal, "Failed to read this ANI file");

@@ -1,4 +1,5 @@
 // Every subcommand of gpicon that writes files, on a device that fails.
+#include "animation/FilmBytes.h"
 #include "animation/XcursorBytes.h"
 #include "cli/Subcommands.h"
 #include "files/IcoBuilder.h"
@@ -45,12 +46,17 @@ const std::vector<WritingSubcommand> kWritingSubcommands{
     {"Salvage", cli::runSalvage, {"@lies.ico", "-o", "@a.ico"}, "a.ico"},
     {"SalvageOverItself", cli::runSalvage, {"@lies.ico", "-o", "@lies.ico"}, "lies.ico", true},
     {"Unpack", cli::runUnpack, {"@multi.ico", "@single.ico", "-d", "@out", "--force"}, "out/multi_0.image.ppm"},
+    {"UnpackFilm", cli::runUnpack, {"@film.ani", "-d", "@out", "--force"}, "out/film_1.image.ppm"},
     {"UnpackPng", cli::runUnpack, {"@multi.ico", "--png", "-d", "@out", "--force"}, "out/multi_0.png"},
     {"Make", cli::runMake, {"@a.ico", "@logo.png", "--force"}, "a.ico"},
     {"Strip", cli::runStrip, {"@thin.ico"}, "thin.ico", true},
     {"StripTo", cli::runStrip, {"@thin.ico", "-o", "@a.ico"}, "a.ico"},
     {"Split", cli::runSplit, {"@multi.ico", "@single.ico", "-d", "@out", "--force"}, "out/multi_32_16.ico"},
     {"Xcursor", cli::runXcursor, {"@multi.ico", "-o", "@a"}, "a"},
+    {"AniBuild", cli::runAni, {"build", "@frame.ico", "-o", "@a.ani"}, "a.ani"},
+    {"AniSet", cli::runAni, {"set", "@film.ani", "--jiffies", "7"}, "film.ani", true},
+    {"AniSetTo", cli::runAni, {"set", "@film.ani", "--jiffies", "7", "-o", "@a.ani"}, "a.ani"},
+    {"AniIcon", cli::runAni, {"icon", "@film.ani", "1", "@a.ico"}, "a.ico"},
     {"Unxcursor", cli::runUnxcursor, {"@xcursor", "-o", "@a.cur"}, "a.cur"},
     {"UnxcursorMoving", cli::runUnxcursor, {"@moving", "-o", "@a.ani"}, "a.ani"},
 };
@@ -91,6 +97,9 @@ class GpiconFailures : public CommandUnderFailures, public testing::WithParamInt
     thin.index = [](int x, int y) { return (x + y) % 3; };
     write("thin.ico", build(entryOf(thin)));
     write("logo.png", build(anyPng(32)));
+    write("frame.ico", build(plainEntry(32, {1, 2, 3, 255})));
+    const std::string film = aniOf(headerOf(2) + frameList({smallFrame(), smallFrame()}));
+    write("film.ani", Bytes(film.begin(), film.end()));
     write("xcursor", bytesOfText(xcursorOf({{}})));
     write("moving", bytesOfText(xcursorOf({{}, {}})));
     write("lies.ico", build(entryOf(anyPicture(32, 8), 16, 4)));

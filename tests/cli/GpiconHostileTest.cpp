@@ -1,6 +1,7 @@
 // Every known kind of defective icon file, given to every subcommand that accepts icon files, with little memory and
 // little time. Expected everywhere: exit status 0 or 1, one line per refusal, an unchanged file after a refusal, and no
 // written file whose directory and images contradict each other.
+#include "animation/FilmBytes.h"
 #include "cli/GpiconFixture.h"
 
 #include <random>
@@ -176,6 +177,9 @@ class GpiconHostile : public Gpicon {
              {"info", path},
              {"info", "--json", path, "1"},
              {"xcursor", path, "-o", folder.path("made")},
+             {"ani", "set", path, "--jiffies", "1", "-o", folder.path("made")},
+             {"ani", "icon", path, "1", folder.path("made")},
+             {"ani", "build", path, "-o", folder.path("made")},
              {"unxcursor", path, "-o", folder.path("made.cur")},
              {"bmp", path, "1", folder.path("made")},
              {"alpha", path, "1", folder.path("made"), "--set", "9"},
@@ -297,6 +301,21 @@ TEST_F(GpiconHostile, ACursorThatIsCutAtAnyByteEndsInAnAnswer) {
     EXPECT_NE((checked.out + checked.err).find(paths[size] + (size < 5 ? ":" : "\t")), std::string::npos) << size;
   EXPECT_NE(run(call("list", paths)).status, -1);
   EXPECT_NE(run(call("unpack", paths, {"-d", folder.path("pictures")})).status, -1);
+}
+
+TEST_F(GpiconHostile, AnAnimatedCursorThatIsCutAtAnyByteEndsInAnAnswer) {
+  const std::string film =
+      aniOf(headerWithSteps(2, 2, 3) + ratesOf({1, 2}) + sequenceOf({1, 0}) + frameList({smallFrame(), smallFrame()}));
+  const std::vector<std::string> paths = cuts(folder, Bytes(film.begin(), film.end()));
+  const Outcome checked = run(call("check", paths));
+  EXPECT_EQ(checked.status, 1);
+  for (std::size_t size = 0; size < paths.size(); ++size)
+    EXPECT_NE((checked.out + checked.err).find(paths[size] + (size < 12 ? ":" : "\t")), std::string::npos) << size;
+  EXPECT_EQ(run(call("list", paths)).status, 1);
+  EXPECT_EQ(run(call("unpack", paths, {"-d", folder.path("pictures")})).status, 1);
+  const Outcome probed = run(call("probe", paths));
+  EXPECT_EQ(probed.status, 0);
+  EXPECT_EQ(lines(probed.out), static_cast<long>(paths.size()));
 }
 
 TEST_F(GpiconHostile, SixtyFiveThousandEntriesOverTheSameBytesTakeNoTime) {

@@ -18,12 +18,12 @@ WINDOW_MANAGER_SETTINGS = os.path.join(os.path.dirname(os.path.realpath(__file__
 ACCESSIBILITY_BUS = '/usr/libexec/at-spi-bus-launcher'
 
 
-def waitUntil(question, what):
+def waitUntil(question, what, poll=POLL_SECONDS):
     end = time.monotonic() + START_SECONDS
     while not question():
         if time.monotonic() > end:
             raise RuntimeError(f'waited in vain for {what}')
-        time.sleep(POLL_SECONDS)
+        time.sleep(poll)
 
 
 class Session:

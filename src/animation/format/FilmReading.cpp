@@ -101,6 +101,11 @@ std::string FilmLosses::text() const {
       {alpha ? "alpha" : "", sequence ? "sequence" : "", sizes ? "other sizes" : "", rates ? "rates above 90" : ""});
 }
 
+std::string FilmLosses::notice() const {
+  const std::string losses = text();
+  return losses.empty() ? losses : "Will not be kept: " + losses;
+}
+
 int countAniFrames(Bytes file) {
   if (!isRiffFile(file)) return frameImages(file).empty() ? 0 : 1;
   const AniReading reading = readAniFile(file);

@@ -29,6 +29,8 @@ struct FilmLosses {
 
   // "alpha, sequence", in this order; empty without losses.
   std::string text() const;
+  // "Will not be kept: alpha, sequence"; empty without losses.
+  std::string notice() const;
 };
 
 struct ReadFilm {

@@ -1,6 +1,7 @@
 #include "animation/format/FrameDrawing.h"
 
-#include "files/format/IcoDirectory.h"
+#include "files/format/IcoLayout.h"
+#include "platform/files/ByteReader.h"
 #include "platform/gdi/Stretch.h"
 
 #include <algorithm>
@@ -85,7 +86,7 @@ DrawnFrame drawn(const IconImage& icon, const FrameImageFacts& facts) {
 }
 
 bool isOneOfSize(std::span<const std::uint8_t> file, const FrameImageFacts& image) {
-  return parseIconDirectory(file).count == 1 && image.width == kFrameSide && image.height == kFrameSide;
+  return ByteReader(file).u16At(ico::kDirCount) == 1 && image.width == kFrameSide && image.height == kFrameSide;
 }
 
 }  // namespace

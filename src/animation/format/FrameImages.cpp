@@ -103,7 +103,7 @@ bool isInvisible(const PngPicture& picture) {
 std::optional<IconImage> decodePngImage(Bytes bytes) {
   const DecodedPng decoded = decodePng(bytes, kLargestImage);
   if (!decoded.isRead()) return std::nullopt;
-  // Colours that nobody sees would become visible without alpha values.
+  // Colours that no one sees would become visible without alpha values.
   if (isInvisible(decoded.picture))
     return IconImage{Surface(decoded.picture.width, decoded.picture.height, kBlack),
                      Surface(decoded.picture.width, decoded.picture.height, kWhite), AlphaMatrix(0, 0)};

@@ -55,19 +55,43 @@ std::vector<FrameImageFacts> deepestOfEachSize(const std::vector<FrameImageFacts
   return deepest;
 }
 
-// Two images of one nominal size would be played one after the other: the second one gets the next free size.
+std::uint32_t longerSide(const FrameImageFacts& image) {
+  return static_cast<std::uint32_t>(std::max(image.width, image.height));
+}
+
+// The images of a frame by size, the smallest first.
 PlannedFrame planOf(Bytes frame) {
-  std::vector<FrameImageFacts> images = deepestOfEachSize(frameImages(frame));
-  std::ranges::stable_sort(images, {}, [](const FrameImageFacts& image) {
-    return std::tuple(std::max(image.width, image.height), image.width, image.height);
-  });
   PlannedFrame plan;
-  std::uint32_t free = 0;
-  for (const FrameImageFacts& image : images) {
-    plan.push_back({image, std::max(static_cast<std::uint32_t>(std::max(image.width, image.height)), free)});
-    free = plan.back().nominalSize + 1;
-  }
+  for (const FrameImageFacts& image : deepestOfEachSize(frameImages(frame))) plan.push_back({image, longerSide(image)});
+  std::ranges::stable_sort(plan, {}, [](const PlannedImage& image) {
+    return std::tuple(image.nominalSize, image.facts.width, image.facts.height);
+  });
   return plan;
+}
+
+// Two images of one step and one nominal size would be played one after the other: the second one gets the next size.
+void separate(PlannedFrame& plan) {
+  for (std::size_t i = 1; i < plan.size(); ++i)
+    plan[i].nominalSize = std::max(plan[i].nominalSize, plan[i - 1].nominalSize + 1);
+}
+
+// If all steps have as many images, those of one rank belong together, also where some are cut to smaller sides.
+void joinRanks(std::vector<PlannedFrame>& plans) {
+  const auto hasOtherCount = [&](const PlannedFrame& plan) { return plan.size() != plans.front().size(); };
+  if (plans.empty() || std::ranges::any_of(plans, hasOtherCount)) return;
+  for (std::size_t rank = 0; rank < plans.front().size(); ++rank) {
+    std::uint32_t longest = 0;
+    for (const PlannedFrame& plan : plans) longest = std::max(longest, plan[rank].nominalSize);
+    for (PlannedFrame& plan : plans) plan[rank].nominalSize = longest;
+  }
+}
+
+std::vector<PlannedFrame> plansOf(const std::vector<Bytes>& frames) {
+  std::vector<PlannedFrame> plans(frames.size());
+  std::ranges::transform(frames, plans.begin(), planOf);
+  joinRanks(plans);
+  std::ranges::for_each(plans, separate);
+  return plans;
 }
 
 std::uint32_t opaque(int red, int green, int blue) {
@@ -148,8 +172,7 @@ bool isTooLarge(const Played& played, const std::vector<PlannedFrame>& plans) {
 }
 
 ConvertedCursor convert(const Played& played, const char* noImages) {
-  std::vector<PlannedFrame> plans(played.frames.size());
-  std::ranges::transform(played.frames, plans.begin(), planOf);
+  const std::vector<PlannedFrame> plans = plansOf(played.frames);
   if (isTooLarge(played, plans)) return refused(kTooLarge);
   Frames frames(played, plans);
   std::vector<XcursorImage> images;

@@ -20,8 +20,9 @@ struct ConvertedCursor {
 };
 
 // Converts a file, which its first bytes show to be an animated cursor or not. All images of all sizes are kept, of
-// several with one size the deepest, with the hot spot of each; their nominal size is the longer side. The steps are
-// those that are played. Pixels that invert the screen become opaque, in the colour that they have on white.
+// several with one size the deepest, with the hot spot of each. Their nominal size is the longer side; if all frames
+// have as many images, that of the largest one of each rank. The steps are those that are played. Pixels that invert
+// the screen become opaque, in the colour that they have on white.
 ConvertedCursor toXcursor(std::span<const std::uint8_t> file);
 
 }  // namespace gp

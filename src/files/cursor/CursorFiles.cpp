@@ -20,8 +20,6 @@ namespace gp {
 namespace {
 
 constexpr const char* kCursorFilter = "Cursor files (*.cur)|*.cur|";
-constexpr const char* kInvalidFile = "\nInvalid cursor file";
-constexpr const char* kFailedToLoad = "Failed to load this cursor";
 constexpr const char* kAlphaReminder =
     "Reminder:  The original cursor is with Alpha Channel.  To view the icon with\n"
     "alpha effects, or to edit the alpha values, invoke the Alpha Channel screen.\n"
@@ -44,9 +42,9 @@ void CursorFiles::doOpenCursorFile(const std::string& path, bool& ok) {
   ok = false;
   const auto file = readIconFile(path);
   const CursorFacts facts = file ? probeCursor(*file) : CursorFacts{};
-  if (!facts.valid) return context_.boxes.tell(path + kInvalidFile, BoxIcon::Exclamation);
+  if (!facts.valid) return context_.boxes.tell(path + kInvalidCursorFile, BoxIcon::Exclamation);
   const DecodedIcon decoded = loadCursorImage(*file);
-  if (!decoded.isRead()) return context_.boxes.tell(kFailedToLoad, BoxIcon::Exclamation);
+  if (!decoded.isRead()) return context_.boxes.tell(kCursorNotLoaded, BoxIcon::Exclamation);
   if (!facts.depth.isShown()) return context_.boxes.tell(path + kStrangeTrueColor, BoxIcon::Information);
   {
     const Hourglass hourglass(context_);

@@ -9,6 +9,10 @@
 
 namespace gp {
 
+// Why a cursor is not opened.
+inline constexpr const char* kInvalidCursorFile = "\nInvalid cursor file";
+inline constexpr const char* kCursorNotLoaded = "Failed to load this cursor";
+
 // Decodes the first image of a cursor file. The bitmap header decides how the bytes are read.
 [[nodiscard]] DecodedIcon loadCursorImage(const IconFile& file);
 // The record of a decoded cursor.
