@@ -150,5 +150,15 @@ TEST(FrameDrawing, OfManyDamagedImagesOnlySomeAreTried) {
   EXPECT_FALSE(drawFrame(cursorFile(images)));
 }
 
+TEST(FrameDrawing, EntriesThatShareADamagedImageCountOnce) {
+  std::vector<Entry> images(100, damagedPicture());
+  for (std::size_t i = 1; i < images.size(); ++i) {
+    images[i].offset = 6 + 16 * 101;
+    images[i].image.clear();
+  }
+  images.push_back(plainEntry(16, kGreen));
+  EXPECT_EQ(firstColor(images), rgb(0, 255, 0));
+}
+
 }  // namespace
 }  // namespace gp::test

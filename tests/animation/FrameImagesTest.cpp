@@ -209,9 +209,11 @@ TEST(FrameImages, ASizeThatIsTooSmallDoesNotCount) {
     entry.bytesInRes = size;
     expectPicture(decodedFirst(cursorFile({entry})), p);
   }
-  Entry picture = pngEntry(pngOfAlpha([](int, int) { return 255; }));
-  picture.bytesInRes = 0;
-  EXPECT_EQ(decodedFirst(cursorFile({picture})).image.GetPixel(4, 2), rgb(4, 2, 200));
+  for (const std::uint32_t size : {0U, 40U}) {
+    Entry picture = pngEntry(pngOfAlpha([](int, int) { return 255; }));
+    picture.bytesInRes = size;
+    EXPECT_EQ(decodedFirst(cursorFile({picture})).image.GetPixel(4, 2), rgb(4, 2, 200));
+  }
 }
 
 Entry entryWith(const std::function<void(Picture& p)>& change) {

@@ -89,13 +89,23 @@ bool isOneOfSize(std::span<const std::uint8_t> file, const FrameImageFacts& imag
   return ByteReader(file).u16At(ico::kDirCount) == 1 && image.width == kFrameSide && image.height == kFrameSide;
 }
 
+// The best images first. Entries that share their bytes count once.
+std::vector<FrameImageFacts> imagesToTry(std::span<const std::uint8_t> file) {
+  std::vector<FrameImageFacts> images = frameImages(file);
+  std::ranges::stable_sort(images, isPreferred);
+  std::vector<FrameImageFacts> tried;
+  for (const FrameImageFacts& image : images) {
+    if (std::ranges::find(tried, image.offset, &FrameImageFacts::offset) != tried.end()) continue;
+    tried.push_back(image);
+    if (tried.size() == kMostImagesTried) break;
+  }
+  return tried;
+}
+
 }  // namespace
 
 std::optional<DrawnFrame> drawFrame(std::span<const std::uint8_t> file) {
-  std::vector<FrameImageFacts> images = frameImages(file);
-  std::ranges::stable_sort(images, isPreferred);
-  if (images.size() > kMostImagesTried) images.resize(kMostImagesTried);
-  for (const FrameImageFacts& image : images) {
+  for (const FrameImageFacts& image : imagesToTry(file)) {
     const auto icon = decodeFrameImage(file, image);
     if (!icon) continue;
     DrawnFrame frame = drawn(*icon, image);

@@ -20,8 +20,8 @@ struct DrawnFrame {
 };
 
 // Draws the image nearest to 32 x 32 by the sum of what width and height differ by, of those the deepest, of those the
-// first; other sizes by keep-or-drop. An image that cannot be decoded gives way to the next one, up to 16 times. Empty
-// when none can be decoded.
+// first; other sizes by keep-or-drop. An image that cannot be decoded gives way to the next one with other bytes, up to
+// the 16th. Empty when none can be decoded.
 std::optional<DrawnFrame> drawFrame(std::span<const std::uint8_t> file);
 
 }  // namespace gp

@@ -129,9 +129,11 @@ std::vector<FrameImageFacts> frameImages(Bytes file) {
   return images;
 }
 
+// A PNG picture states its end itself.
 std::optional<IconImage> decodeFrameImage(Bytes file, const FrameImageFacts& image) {
-  const Bytes bytes = ByteReader(file).bytesAt(image.offset, image.size);
-  return image.isPng ? decodePngImage(bytes) : decodeBitmapImage(bytes);
+  ByteReader reader(file);
+  return image.isPng ? decodePngImage(reader.bytesAt(image.offset, reader.size()))
+                     : decodeBitmapImage(reader.bytesAt(image.offset, image.size));
 }
 
 }  // namespace gp
