@@ -248,6 +248,11 @@ TEST_F(AniPaneTest, AClickSelectsAFrameAndOneBelowTheLastIsIgnored) {
   QTest::mousePress(film(), Qt::LeftButton, Qt::NoModifier, first);
   QTest::mouseRelease(film(), Qt::LeftButton, Qt::NoModifier, QPoint(-5, 20));
   EXPECT_EQ(session().frames().current(), 2) << "released outside";
+  for (int i = 0; i < 17; ++i) press(12);
+  session().goTo(1);
+  QTest::mousePress(film(), Qt::LeftButton, Qt::NoModifier, first);
+  QTest::mouseRelease(film(), Qt::LeftButton, Qt::NoModifier, QPoint(20, film()->height() + 20));
+  EXPECT_EQ(session().frames().current(), 1) << "released below, where a frame is hidden";
 }
 
 TEST_F(AniPaneTest, TheFilmIsShownPixelForPixelAndScrolls) {

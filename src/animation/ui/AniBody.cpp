@@ -122,12 +122,13 @@ void AniBody::setCompact(bool compact) {
     top_->addWidget(fraExchange_, 1);
 }
 
-QWidget* AniBody::film() const { return &picANISeriesBase_->film(); }
+AniFilmView* AniBody::film() const { return &picANISeriesBase_->film(); }
 
 QWidget* AniBody::firstControl() const {
   QWidget* create = buttons_.button(kCreate);
   const bool hasFilm = events_.session.frames().count() > 0;
-  return hasFilm || !create->isVisible() ? film() : create;
+  if (hasFilm || !create->isVisible()) return film();
+  return create;
 }
 
 void AniBody::refresh() {

@@ -15,6 +15,7 @@ namespace gp {
 
 class AniButtons;
 class AniFilmStrip;
+class AniFilmView;
 class AniGroup;
 class AniLists;
 class SampleView;
@@ -32,7 +33,7 @@ class AniBody final : public QWidget {
   void setCompact(bool compact);
   // The control that gets the focus when the pane appears.
   QWidget* firstControl() const;
-  QWidget* film() const;
+  AniFilmView* film() const;
 
   void refresh();
   void refreshTest();

@@ -97,7 +97,7 @@ void AniPane::showContent() {
 void AniPane::announceFrame(int pressed) {
   if (std::ranges::find(kFrameButtons, pressed) == std::end(kFrameButtons)) return;
   if (body_->film()->hasFocus() || !hasFocusInside()) return;
-  events_.announce(dynamic_cast<const AniFilmView*>(body_->film())->accessibleValue().toStdString());
+  events_.announce(body_->film()->accessibleValue().toStdString());
 }
 
 void AniPane::refreshTest() { body_->refreshTest(); }
@@ -113,8 +113,10 @@ void AniPane::arrange() {
 // The focus stays in the pane when the control that had it is hidden or disabled.
 void AniPane::keepFocus(const QWidget* focused) {
   if (!isAncestorOf(focused) || (focused->isVisible() && focused->isEnabled())) return;
-  QWidget* next = body_->isHidden() ? buttons_->button(kResize) : body_->film();
-  next->setFocus(Qt::OtherFocusReason);
+  if (body_->isHidden())
+    buttons_->button(kResize)->setFocus(Qt::OtherFocusReason);
+  else
+    body_->film()->setFocus(Qt::OtherFocusReason);
 }
 
 QSize AniPane::sizeNow() const {
