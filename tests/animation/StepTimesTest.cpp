@@ -27,6 +27,8 @@ TEST(StepTimes, NoStepHasLessThanOneJiffyAndALongOneKeepsItsTime) {
   Times jiffies(100, 1);
   jiffies.push_back(60);
   EXPECT_EQ(jiffiesOf(delays), jiffies);
+  // What a lifted step has already got is not carried to the next: 41 ms are 2.46 jiffies.
+  EXPECT_EQ(jiffiesOf(Times{1, 1, 1, 1, 1, 1, 1, 1, 41}), (Times{1, 1, 1, 1, 1, 1, 1, 1, 2}));
   EXPECT_EQ(delaysOf(Times{0}), Times{17});
   EXPECT_EQ(jiffiesOf(Times{0}), Times{1});
 }
