@@ -49,16 +49,16 @@ void addLosses(const DrawnFrame& frame, FilmLosses& losses) {
   losses.sizes = losses.sizes || !frame.isOneOfSize;
 }
 
-struct Hotspot {
+struct FilmHotspot {
   int x = 0, y = 0;
 };
 
-Hotspot hotspotOf(const DrawnFrame& first, const AniInfo& info) {
+FilmHotspot hotspotOf(const DrawnFrame& first, const AniInfo& info) {
   if (first.isOneOfSize) return {info.hotspotX, info.hotspotY};
   return {std::min(first.hotspotX, ani::kMostHotspot), std::min(first.hotspotY, ani::kMostHotspot)};
 }
 
-FilmFrame frameOf(const DrawnFrame& drawn, std::size_t index, int jiffies, Hotspot hotspot) {
+FilmFrame frameOf(const DrawnFrame& drawn, std::size_t index, int jiffies, FilmHotspot hotspot) {
   return {drawn.picture, jiffies, hotspot.x, hotspot.y, static_cast<int>(index)};
 }
 
@@ -71,7 +71,7 @@ ReadFilm readSteps(Bytes bytes, const AniFile& file, const Steps& steps) {
   film.losses.sequence = hasPlayedSequence(file);
   film.losses.rates = hasLongRates(file, steps.size());
   ImageDrawer drawer(bytes, file.images);
-  Hotspot hotspot;
+  FilmHotspot hotspot;
   for (std::size_t i = 0; i < steps.size(); ++i) {
     const DrawnFrame* const drawn = drawer.draw(steps[i]);
     if (!drawn) return failed(FilmDefect::FrameNotDrawn, static_cast<int>(i));
