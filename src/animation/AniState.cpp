@@ -4,13 +4,17 @@
 #include "document/Display.h"
 #include "document/EditState.h"
 
+#include <filesystem>
+
 namespace gp {
 namespace {
 
 std::string pathToShow(const EditState& state, const AniState& ani) {
   if (!state.screen.aniContainerVisible) return state.current().used ? state.current().path.trimmed() : std::string();
   const std::string notice = ani.lossesNotice();
-  return notice.empty() ? ani.mAniPath : ani.mAniPath + "    " + notice;
+  if (notice.empty()) return ani.mAniPath;
+  // Without the folder, there is room for name and notice.
+  return std::filesystem::path(ani.mAniPath).filename().string() + "    " + notice;
 }
 
 }  // namespace
