@@ -4,6 +4,7 @@
 #include "animation/format/FilmReading.h"
 #include "animation/format/FrameImages.h"
 #include "files/IcoBuilder.h"
+#include "support/PictureHashes.h"
 #include "support/Sha256.h"
 
 #include <filesystem>
@@ -37,22 +38,6 @@ std::vector<Measured> measurements() {
     all.push_back(m);
   }
   return all;
-}
-
-std::string hashOf(const Surface& surface) {
-  Bytes rows;
-  for (const std::uint32_t pixel : surface.pixels()) {
-    const auto color = static_cast<Color>(pixel & kColorBits);
-    for (const int channel : {redOf(color), greenOf(color), blueOf(color)})
-      rows.push_back(static_cast<std::uint8_t>(channel));
-  }
-  return Sha256::of(rows);
-}
-
-std::string bitsHashOf(const Surface& mask) {
-  Bytes rows;
-  for (const std::uint32_t pixel : mask.pixels()) rows.push_back((pixel & kColorBits) ? 1 : 0);
-  return Sha256::of(rows);
 }
 
 std::string alphaHashOf(const IconImage& icon) {
@@ -91,8 +76,8 @@ TEST(FilmCorpus, EveryImageOfEveryFrameDecodesToTheMeasuredPixels) {
     ASSERT_LT(std::stoul(m.index), images.size()) << m.name();
     const auto icon = decodeFrameImage(frame, images[std::stoul(m.index)]);
     ASSERT_TRUE(icon) << m.name();
-    expectHash(m.picture, hashOf(icon->image), m.name());
-    expectHash(m.mask, bitsHashOf(icon->mask), m.name());
+    expectHash(m.picture, pictureHash(icon->image), m.name());
+    expectHash(m.mask, maskHash(icon->mask), m.name());
     expectHash(m.alpha, alphaHashOf(*icon), m.name());
     ++checked;
   }
@@ -126,8 +111,8 @@ int differenceOf(const ReadFilm& film, const Measured& m) {
   if (m.number >= film.frames.size()) return kRefused;
   const FramePicture& picture = film.frames[m.number].picture;
   int difference = kNothing;
-  if (hashOf(picture.image) != m.picture) difference |= kPicture;
-  if (hashOf(picture.mask) != m.mask) difference |= kMask;
+  if (pictureHash(picture.image) != m.picture) difference |= kPicture;
+  if (pictureHash(picture.mask) != m.mask) difference |= kMask;
   return difference;
 }
 

@@ -4,6 +4,7 @@
 #include "files/Decoding.h"
 #include "files/format/IconProbe.h"
 #include "platform/codec/Png.h"
+#include "support/PictureHashes.h"
 #include "support/Sha256.h"
 
 #include <filesystem>
@@ -32,22 +33,6 @@ std::vector<Measured> measuredEntries() {
     all.push_back(m);
   }
   return all;
-}
-
-std::string pictureHash(const Surface& surface) {
-  Bytes rows;
-  for (const std::uint32_t pixel : surface.pixels()) {
-    const auto color = static_cast<Color>(pixel & kColorBits);
-    for (const int channel : {redOf(color), greenOf(color), blueOf(color)})
-      rows.push_back(static_cast<std::uint8_t>(channel));
-  }
-  return Sha256::of(rows);
-}
-
-std::string maskHash(const Surface& surface) {
-  Bytes rows;
-  for (const std::uint32_t pixel : surface.pixels()) rows.push_back((pixel & kColorBits) ? 1 : 0);
-  return Sha256::of(rows);
 }
 
 enum Difference { kNothing = 0, kPicture = 1, kMask = 2, kRefused = 4 };
