@@ -4,7 +4,7 @@
 #include "cli/ImageFile.h"
 
 #include <set>
-#include <string_view>
+#include <string>
 
 namespace {
 
@@ -30,7 +30,7 @@ class Report {
  private:
   const int most_;
   int last_ = -1;
-  std::set<std::string_view> ofEntry_;
+  std::set<std::string> ofEntry_;
   bool isCutShort_ = false;
 };
 
