@@ -34,6 +34,7 @@ double worstDifference() {
   double worst = 0;
   int shown = 0;
   display.onChanged = [&](DisplayPart) {
+    if (!film.isRunning()) return;
     if (shown > 0) {
       const double milliseconds = static_cast<double>(clock.nsecsElapsed()) / 1e6;
       worst = std::max(worst, std::abs(milliseconds - frames.frame(shown).jiffies * kMillisecondsPerJiffy));
