@@ -144,7 +144,6 @@ class Shell final : public Editor {
   // Returns false when the command cannot run; then at most a message was shown.
   bool prepare(const Command& command);
   bool isMet(const char* refusal);
-  bool leavesAniSession();
   bool isThere(const std::string& path);
   std::string settingsPath() const;
   void placeForm();

@@ -28,18 +28,14 @@ void Shell::openFromHistory(int index) {
   const std::string path = fileHistory_.path(index);
   if (path.empty()) return;
   closePanels();
-  if (!leavesAniSession() || !mayCurrentIconGo(context_) || !isThere(path)) return;
+  // The session is for icons of one size, and a file can hold another. It ends after the last question.
+  const bool endsAniSession = state_.screen.aniContainerVisible;
+  if (endsAniSession && !ports_.boxes.ask(kAniQuestion)) return;
+  if (!mayCurrentIconGo(context_) || !isThere(path)) return;
+  if (endsAniSession) endAniSession();
   bool ok = false;
   files_.iconFiles.doOpenIconFile(path, true, ok);
   if (ok) state_.process.mCommandFile = path;
-}
-
-// The user is asked: the session is for icons of one size, and a file can hold another.
-bool Shell::leavesAniSession() {
-  if (!state_.screen.aniContainerVisible) return true;
-  if (!ports_.boxes.ask(kAniQuestion)) return false;
-  endAniSession();
-  return true;
 }
 
 bool Shell::isThere(const std::string& path) {

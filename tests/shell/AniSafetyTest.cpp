@@ -101,6 +101,29 @@ TEST_F(AniSafety, AFileFromTheHistoryEndsTheSessionIfTheUserAgrees) {
   EXPECT_EQ(path(), folder.file("icon.ico"));
 }
 
+TEST_F(AniSafety, AFilmStaysWhenTheCommandStopsAfterTheUserHasAgreed) {
+  const std::string icon = iconFile();
+  shell.AddHistory(icon);
+  click("mnuFileSub", 2);
+  paint(1, 1);
+  ASSERT_TRUE(state.IsIconChanged());
+  boxes.expectAsked(std::string(kSizeQuestion) + "\n", BoxAnswer::Yes);
+  expectSaveIconQuestion(BoxAnswer::Cancel);
+  click("mnuFileSub", 3);
+  expectKept();
+  boxes.expectAsked(kSizeQuestion, BoxAnswer::Yes);
+  expectSaveIconQuestion(BoxAnswer::Cancel);
+  click("mnuFileHistory", 1);
+  expectKept();
+  std::filesystem::remove(icon);
+  boxes.expectAsked(kSizeQuestion, BoxAnswer::Yes);
+  expectSaveIconQuestion(BoxAnswer::No);
+  boxes.expectTold(icon + "\nFile not found.", BoxIcon::Exclamation);
+  click("mnuFileHistory", 1);
+  expectKept();
+  EXPECT_TRUE(isVisible());
+}
+
 TEST_F(AniSafety, TheAlphaScreenEndsTheSessionIfTheUserAgrees) {
   savedIcon();
   int shown = 0;

@@ -76,22 +76,18 @@ void IconSaver::saveAsBitmap() {
 
 // New Icon.
 
+// All frames of an animated cursor have one size; a new icon of another size ends the session, after the last question.
 void IconSaver::doNewIcon(int size) {
-  if (endsAniSession(size) && mayCurrentIconGo(context_)) showNewIcon(size);
-}
-
-// All frames of an animated cursor have one size; a new icon of another size ends the session. False if the user
-// refuses.
-bool IconSaver::endsAniSession(int size) {
-  if (!state_.screen.aniContainerVisible) {
-    context_.editor.closePanels();
-    return true;
+  const bool isAniSession = state_.screen.aniContainerVisible;
+  const bool endsAniSession = isAniSession && size != kAniSize;
+  if (!isAniSession) context_.editor.closePanels();
+  if (endsAniSession && !context_.boxes.ask(kAniQuestion)) return;
+  if (!mayCurrentIconGo(context_)) return;
+  if (endsAniSession) {
+    closeSidePanels();
+    context_.editor.endAniSession();
   }
-  if (size == kAniSize) return true;
-  if (!context_.boxes.ask(kAniQuestion)) return false;
-  closeSidePanels();
-  context_.editor.endAniSession();
-  return true;
+  showNewIcon(size);
 }
 
 void IconSaver::showNewIcon(int size) {

@@ -56,7 +56,6 @@ class IconSaver {
   struct SaveKind;
   static const SaveKind& kindOf(SaveMode mode);
 
-  bool endsAniSession(int size);
   void showNewIcon(int size);
   void remindOfMultiIconFile();
   bool mayReplaceFile(const std::string& path);
