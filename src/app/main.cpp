@@ -9,6 +9,7 @@
 #include "platform/qt/ProgramStyle.h"
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtFileDialogs.h"
+#include "platform/qt/QtFileTypeIcons.h"
 #include "platform/qt/QtMessageBoxes.h"
 #include "platform/qt/QtMessagePump.h"
 #include "platform/qt/QtPictureLoader.h"
@@ -45,6 +46,7 @@ int run(QApplication& application, const std::string& commandLine) {
   gp::QtPictureLoader pictures;
   gp::QtTextDrawing text;
   gp::QtTimer timer;
+  gp::QtFileTypeIcons fileTypes;
   const gp::ProgramFolders folders = gp::programFolders();
 
   gp::EditState state;
@@ -53,7 +55,8 @@ int run(QApplication& application, const std::string& commandLine) {
   gp::frmGPAbout startUpPicture;
   startUpPicture.showAtStart();
   gp::QtDisplay display;
-  gp::Shell shell(state, {boxes, dialogs, pump, system, processes, clipboard, pictures, text, timer}, display, folders);
+  gp::Shell shell(state, {boxes, dialogs, pump, system, processes, clipboard, pictures, text, timer, fileTypes},
+                  display, folders);
   gp::frmGPEdit form(shell, display, commandLine);
   clipboard.onChange = [&shell] { shell.UpdateCommands(); };
   shell.formLoad();

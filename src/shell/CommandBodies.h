@@ -37,6 +37,8 @@ inline Effects& ownerIn(Shell& shell, std::type_identity<Effects>) { return shel
 inline ResizePanel& ownerIn(Shell& shell, std::type_identity<ResizePanel>) {
   return shell.effects().panel<ResizePanel>();
 }
+inline IconsList& ownerIn(Shell& shell, std::type_identity<IconsList>) { return shell.extraction().list; }
+inline SearchPanel& ownerIn(Shell& shell, std::type_identity<SearchPanel>) { return shell.extraction().search; }
 inline AniSession& ownerIn(Shell& shell, std::type_identity<AniSession>) { return shell.animation().session; }
 inline Enquiry& ownerIn(Shell& shell, std::type_identity<Enquiry>) { return shell.output().enquiry; }
 inline PreviewPanel& ownerIn(Shell& shell, std::type_identity<PreviewPanel>) { return shell.output().previewPanel; }

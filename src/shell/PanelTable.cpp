@@ -12,6 +12,7 @@ namespace {
 
 void saveCursor(Shell& shell) { shell.files().iconSaver.doSaveAs(SaveMode::Cursor); }
 void rotate(Shell& shell) { shell.drawing().rotatePanel.doRotateProceed(); }
+void search(Shell& shell) { shell.extraction().search.doSearchExtract(); }
 void applyEffect(Shell& shell) { shell.effects().proceed(shell.screen().mActivePanel); }
 
 constexpr PanelRow kPanels[] = {
@@ -35,7 +36,7 @@ constexpr PanelRow kPanels[] = {
     {17, "Texturize Painted Area", applyEffect},
     {18, "Resize current icon", applyEffect},
     {19, "Reduce number of colors", applyEffect},
-    {20, "Search && extract from exe files", nullptr},
+    {SearchPanel::kNumber, "Search && extract from exe files", search},
     {PreviewPanel::kNumber, PreviewPanel::kCaption, nullptr},
 };
 

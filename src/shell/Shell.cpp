@@ -7,6 +7,8 @@
 #include "shell/CommandNeeds.h"
 #include "shell/PanelTable.h"
 
+#include <utility>
+
 namespace gp {
 
 namespace {
@@ -30,6 +32,7 @@ Shell::Shell(EditState& state, const Ports& ports, Display& display, ProgramFold
       alpha_(files_.context(), files_.iconSaver),
       effects_(context_, document_, drawing_, {mDialog, ports.pictures, ports.text}),
       animation_(files_.context(), ports.timer),
+      extraction_(files_, ports.fileTypes),
       output_(context_, files_, alpha_.commands),
       settings_(state.options, settingsPath()),
       fileHistory_(kFileHistorySection, kFileHistoryLimit, settingsPath()),
@@ -121,7 +124,9 @@ void Shell::showPanel(int panel) {
     state_.screen.aniContainerVisible = false;
     aniPaneHidden();
   }
-  state_.screen.mActivePanel = panel;
+  const int former = std::exchange(state_.screen.mActivePanel, panel);
+  if (former == kIconsListPanel && panel != kIconsListPanel) extraction_.list.finish();
+  if (former == SearchPanel::kNumber && panel != SearchPanel::kNumber) extraction_.search.finish();
   display_.changed(DisplayPart::Panel);
   UpdateCommands();
 }

@@ -9,6 +9,7 @@
 #include "document/Editor.h"
 #include "drawing/Drawing.h"
 #include "effects/Effects.h"
+#include "extraction/Extraction.h"
 #include "files/Files.h"
 #include "output/Output.h"
 #include "platform/dialogs/clsGPDialog.h"
@@ -27,6 +28,7 @@ namespace gp {
 
 class Clipboard;
 class FileDialogs;
+class FileTypeIcons;
 class PictureLoader;
 class TextDrawing;
 class Timer;
@@ -44,6 +46,7 @@ struct Ports {
   PictureLoader& pictures;
   TextDrawing& text;
   Timer& timer;
+  FileTypeIcons& fileTypes;
 };
 
 class Shell final : public Editor {
@@ -69,6 +72,8 @@ class Shell final : public Editor {
   Effects& effects() { return effects_; }
   const Effects& effects() const { return effects_; }
   Animation& animation() { return animation_; }
+  Extraction& extraction() { return extraction_; }
+  const Extraction& extraction() const { return extraction_; }
   Output& output() { return output_; }
   const History& fileHistory() const { return fileHistory_; }
   const History& aniHistory() const { return aniHistory_; }
@@ -167,6 +172,7 @@ class Shell final : public Editor {
   Alpha alpha_;
   Effects effects_;
   Animation animation_;
+  Extraction extraction_;
   Output output_;
   Settings settings_;
   History fileHistory_;

@@ -8,6 +8,7 @@
 #include "shell/Shell.h"
 #include "shell/ShellSnapshot.h"
 #include "support/FakeClipboard.h"
+#include "support/FakeFileTypeIcons.h"
 #include "support/FakeMachine.h"
 #include "support/FakeTextDrawing.h"
 #include "support/FakeTimer.h"
@@ -53,6 +54,7 @@ class LoggedProgram {
   ScriptedPictures pictures_;
   FakeTextDrawing text_;
   FakeTimer timer_;
+  FakeFileTypeIcons fileTypes_;
   EditState state_;
 
  protected:
@@ -60,7 +62,8 @@ class LoggedProgram {
   DisplayType display_;
 
  public:
-  Shell shell{state_, Ports{boxes_, dialogs_, pump_, system_, processes_, clipboard_, pictures_, text_, timer_},
+  Shell shell{state_,
+              Ports{boxes_, dialogs_, pump_, system_, processes_, clipboard_, pictures_, text_, timer_, fileTypes_},
               display_, test::foldersIn(folder_.path())};
 };
 

@@ -4,6 +4,7 @@
 #include "files/browser/HeaderDiff.h"
 #include "files/browser/MultiIconBrowser.h"
 #include "support/CommandUnderFailures.h"
+#include "support/FakeFileTypeIcons.h"
 #include "support/FakeTextDrawing.h"
 #include "support/FakeTimer.h"
 #include "support/ShellFixture.h"
@@ -40,6 +41,7 @@ class AgreeingProgram {
   ScriptedPictures pictures_;
   FakeTextDrawing text_;
   FakeTimer timer_;
+  FakeFileTypeIcons fileTypes_;
   RecordingDisplay display_;
   EditState state_;
   const std::string folder_;
@@ -49,8 +51,9 @@ class AgreeingProgram {
 
   explicit AgreeingProgram(const std::string& folder)
       : folder_(folder),
-        shell(state_, Ports{boxes, dialogs, pump_, system_, processes_, clipboard_, pictures_, text_, timer_}, display_,
-              foldersIn(folder)) {
+        shell(state_,
+              Ports{boxes, dialogs, pump_, system_, processes_, clipboard_, pictures_, text_, timer_, fileTypes_},
+              display_, foldersIn(folder)) {
     shell.attach(&form, &form, &form);
     shell.formLoad();
     shell.formActivate("");

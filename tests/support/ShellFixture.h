@@ -5,6 +5,7 @@
 #include "shell/Shell.h"
 #include "support/FakeClipboard.h"
 #include "support/FakeEditor.h"
+#include "support/FakeFileTypeIcons.h"
 #include "support/FakeMachine.h"
 #include "support/FakeTextDrawing.h"
 #include "support/FakeTimer.h"
@@ -58,11 +59,12 @@ class ProgramFixture : public testing::Test {
   ScriptedPictures pictures;
   FakeTextDrawing textDrawing;
   FakeTimer timer;
+  FakeFileTypeIcons fileTypes;
   RecordingDisplay display;
   FakeForm form;
   EditState state;
-  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures, textDrawing, timer}, display,
-              test::foldersIn(folder.path())};
+  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures, textDrawing, timer, fileTypes},
+              display, test::foldersIn(folder.path())};
 
   ProgramFixture() { shell.attach(&form, &form, &form); }
   // Load and the first Activate, in the same order as app/.

@@ -35,10 +35,11 @@ class FormFixture : public testing::Test {
   ScriptedPictures pictures;
   QtTextDrawing textDrawing;
   FakeTimer timer;
+  FakeFileTypeIcons fileTypes;
   EditState state;
   QtDisplay display;
-  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures, textDrawing, timer}, display,
-              test::foldersIn(folder.path())};
+  Shell shell{state, Ports{boxes, dialogs, pump, system, processes, clipboard, pictures, textDrawing, timer, fileTypes},
+              display, test::foldersIn(folder.path())};
   std::unique_ptr<frmGPEdit> form;
 
   // Shows the form as app/ does, and waits for its first Activate.

@@ -1,52 +1,21 @@
 #include "platform/files/Files.h"
 
-#include "platform/files/Descriptor.h"
+#include "platform/files/OpenFile.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <fcntl.h>
 #include <filesystem>
 #include <new>
 #include <sys/stat.h>
 #include <system_error>
-#include <unistd.h>
 
 namespace gp {
 namespace {
 
 namespace fs = std::filesystem;
 
-// An ordinary file, opened, and its status at that moment.
-struct OpenFile {
-  Descriptor file;
-  struct stat status = {};
-
-  std::uint64_t size() const { return static_cast<std::uint64_t>(status.st_size); }
-};
-
-std::optional<OpenFile> openToRead(const std::string& path) {
-  OpenFile open{.file = Descriptor(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC))};
-  const bool isOrdinary =
-      open.file.isOpen() && fstat(open.file.number(), &open.status) == 0 && S_ISREG(open.status.st_mode);
-  return isOrdinary ? std::optional(std::move(open)) : std::nullopt;
-}
-
 // Memory filled with zeros, which the system allocates only when it is touched. Null when there is not enough.
 FileBytes::Memory zeros(std::size_t size) {
   return FileBytes::Memory(static_cast<std::uint8_t*>(std::calloc(std::max<std::size_t>(size, 1), 1)));
-}
-
-// Returns the number of bytes that were read, fewer than `count` at the end of the file; nullopt after an error.
-std::optional<std::size_t> readAt(int file, std::uint64_t position, std::uint8_t* bytes, std::size_t count) {
-  std::size_t done = 0;
-  while (done < count) {
-    const ssize_t read = pread(file, bytes + done, count - done, static_cast<off_t>(position + done));
-    if (read < 0 && errno == EINTR) continue;
-    if (read < 0) return std::nullopt;
-    if (read == 0) break;
-    done += static_cast<std::size_t>(read);
-  }
-  return done;
 }
 
 std::optional<FileBytes> readBytes(int file, const FileVersion& version, std::size_t size,
