@@ -27,9 +27,13 @@ struct FrameImageFacts {
 // Returns the images of a frame's file that have pixels, in the order of its directory.
 std::vector<FrameImageFacts> frameImages(std::span<const std::uint8_t> file);
 
-// Decodes an image of the file at its size. The colours are as stored, also where the mask is white. There are alpha
-// values only if one of them is above 0; the matrix is empty without. The colours of a PNG picture that is transparent
-// everywhere are black. Empty when it cannot be decoded.
+// Those to try when the icon is drawn at size x size pixels, the best one first, see imagesToTry.
+std::vector<FrameImageFacts> frameImagesToTry(std::span<const std::uint8_t> file, int size);
+
+// The bytes of an image of the file, as decodeImage takes them.
+std::span<const std::uint8_t> bytesOfFrameImage(std::span<const std::uint8_t> file, const FrameImageFacts& image);
+
+// Decodes an image of the file at its size, see decodeImage. Empty when it cannot be decoded.
 std::optional<IconImage> decodeFrameImage(std::span<const std::uint8_t> file, const FrameImageFacts& image);
 
 }  // namespace gp

@@ -14,6 +14,7 @@ inline constexpr std::size_t kFilePixelsOffset = 10;
 inline constexpr std::size_t kHeaderSize = 40;
 inline constexpr std::size_t kHeaderWidth = 4;
 inline constexpr std::size_t kHeaderHeight = 8;
+inline constexpr std::size_t kHeaderPlanes = 12;
 inline constexpr std::size_t kHeaderBitCount = 14;
 inline constexpr std::size_t kHeaderCompression = 16;
 inline constexpr std::size_t kHeaderSizeImage = 20;

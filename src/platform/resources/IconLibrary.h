@@ -45,6 +45,9 @@ struct GroupImage {
   bool isThere() const { return place.size > 0; }
 };
 
+struct IconResource;
+struct ResourceTable;
+
 class IconLibrary {
  public:
   // Null when the file is no PE and no NE file, or cannot be read. A file with damaged resources has those groups that
@@ -52,19 +55,26 @@ class IconLibrary {
   static std::unique_ptr<IconLibrary> open(const std::string& path);
   // The source must outlive it.
   static std::unique_ptr<IconLibrary> parse(const ByteSource& source);
-  virtual ~IconLibrary() = default;
+  ~IconLibrary();
 
-  virtual LibraryFormat format() const = 0;
+  LibraryFormat format() const { return format_; }
   // Groups with a name come before those with a number, each ascending; one for all languages, of which the first in
   // the file counts. Cursors are not listed.
   const std::vector<IconGroup>& groups() const { return groups_; }
   // The images of a group in the order of its directory; those that its bytes hold.
-  virtual std::vector<GroupImage> imagesOf(const IconGroup& group) const = 0;
+  std::vector<GroupImage> imagesOf(const IconGroup& group) const;
   // The bytes of an image or group: fewer when the file has become shorter.
   std::vector<std::uint8_t> bytesAt(const ResourcePlace& place) const;
 
- protected:
+ private:
+  IconLibrary(const ByteSource& source, LibraryFormat format, ResourceTable table);
+  ResourcePlace placeOfImage(const GroupImage& image) const;
+
+  std::unique_ptr<ByteSource> opened_;  // by open()
+  const ByteSource& source_;
+  LibraryFormat format_;
   std::vector<IconGroup> groups_;
+  std::vector<IconResource> icons_;
 };
 
 }  // namespace gp
