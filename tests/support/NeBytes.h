@@ -69,7 +69,7 @@ class NeResources {
     out_.resize((out_.size() + unit - 1) / unit * unit, 0);
     set(place, out_.size() / unit);
     set(place + 2, (data.size() + unit - 1) / unit);
-    append(out_, data);
+    out_.insert(out_.end(), data.begin(), data.end());
     out_.resize((out_.size() + unit - 1) / unit * unit, 0);
   }
 

@@ -75,7 +75,7 @@ inline Bytes peFile(const Bytes& resources, const PeOptions& options = {}) {
   }
   out.resize(kPeSections, 0);
   for (const PeSection& section : sections) {
-    append(out, section.data);
+    out.insert(out.end(), section.data.begin(), section.data.end());
     if (&section != &sections.back()) out.resize((out.size() + 511) / 512 * 512, 0);
   }
   return out;
@@ -161,7 +161,7 @@ class ResourceSection {
   void addData(std::size_t place, const Bytes& data) {
     out_.resize((out_.size() + 7) / 8 * 8, 0);
     set32(out_, place, address_ + here());
-    append(out_, data);
+    out_.insert(out_.end(), data.begin(), data.end());
   }
 
   std::uint32_t address_;
