@@ -5,6 +5,12 @@
 #include <QScrollBar>
 
 namespace gp {
+namespace {
+
+constexpr int kLeastLines = 3;
+constexpr int kLeastWidth = 100;
+
+}  // namespace
 
 void FoundFilesModel::follow() {
   const int count = static_cast<int>(files_.size());
@@ -37,6 +43,8 @@ FoundFiles::FoundFiles(QWidget* parent, const std::vector<std::string>& files)
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
 }
+
+QSize FoundFiles::sizeHint() const { return {kLeastWidth, kLeastLines * fontMetrics().height() + 2 * frameWidth()}; }
 
 void FoundFiles::refresh() {
   const bool isAtEnd = verticalScrollBar()->value() == verticalScrollBar()->maximum();

@@ -36,6 +36,10 @@ class FoundFiles final : public QListView {
   // Shows the files that were added; the last one is visible unless the user has scrolled up.
   void refresh();
 
+  // A few lines; the panel gives it what is left.
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
  private:
   FoundFilesModel* model_;
 };

@@ -49,7 +49,8 @@ void showText(QLineEdit* line, const QString& text) {
 SearchPanelView::SearchPanelView(QWidget* parent, SearchPanel& panel, Guarded guarded)
     : PanelFrame(parent, SearchPanel::kNumber), panel_(panel), guarded_(std::move(guarded)) {
   for (int i = 0; i < SearchPanel::kFolders; ++i) addFolder(i);
-  for (int i = 0; i < SearchPanel::kTicks; ++i) addTick(i);
+  addWide(makeTicks());
+  addWide(makeTick(rows(), SearchPanel::kTicks - 1));
   addWide(makeMaximum());
   addWide(lblProgress_ = new TextCell(rows(), "lblSearchExeDir(2)", "Progress"));
   addWide(lblForExtendedFrame_ = new TextCell(rows(), "lblForExtendedFrame", "Current file"));
@@ -84,15 +85,23 @@ void SearchPanelView::addFolder(int i) {
   addWide(place);
 }
 
-void SearchPanelView::addTick(int i) {
+// The short ones share a row.
+QWidget* SearchPanelView::makeTicks() {
+  auto* place = new QWidget(rows());
+  QHBoxLayout* row = rowIn(place);
+  for (int i = 0; i < SearchPanel::kTicks - 1; ++i) row->addWidget(makeTick(place, i), 1);
+  return place;
+}
+
+QCheckBox* SearchPanelView::makeTick(QWidget* parent, int i) {
   const auto index = static_cast<std::size_t>(i);
-  auto* box = ckbExtractEXE_.at(index) = new WrappedCheckBox(kTickCaptions.at(index), rows());
+  auto* box = ckbExtractEXE_.at(index) = new WrappedCheckBox(kTickCaptions.at(index), parent);
   box->setObjectName(QString("ckbExtractEXE(%1)").arg(i));
   connect(box, &QCheckBox::toggled, this, [this, i](bool isOn) {
     guarded_("ckbExtractEXE_Click", [&] { panel_.setTick(i, isOn); });
     refresh();
   });
-  addWide(box);
+  return box;
 }
 
 // The Stop button keeps its place while it is hidden, so that nothing moves when a search starts.

@@ -33,7 +33,8 @@ class SearchPanelView final : public PanelFrame {
 
  private:
   void addFolder(int i);
-  void addTick(int i);
+  QWidget* makeTicks();
+  QCheckBox* makeTick(QWidget* parent, int i);
   QWidget* makeMaximum();
   void stop();
   void refreshFolders();
