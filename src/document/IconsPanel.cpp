@@ -57,12 +57,30 @@ void IconsPanel::CommitPendingPaint() {
 bool IconsPanel::leaveCurrent() {
   if (!state_.IsIconChanged()) return true;
   if (state_.options.promptToSave && !mayCurrentIconGo(context_, kReminderHint)) return false;
+  // The container has its icon, and the Editing Area another one.
+  if (arrival_.displayWaits()) return true;
   editingArea_.UpdatePanelFromCurrent();
   context_.editor.UpdateCommands();
   return true;
 }
 
+void IconsPanel::storeForList(const IconImage& icon, const IconContainerRec& record) {
+  arrival_.fillContainer(state_.mCurContainer, icon, record);
+  arrival_.setDisplayWaits(true);
+  context_.display.changed(DisplayPart::IconsPanel);
+  context_.editor.UpdateCommands();
+}
+
+bool IconsPanel::displayWaits() const { return arrival_.displayWaits(); }
+
+bool IconsPanel::showWaitingIcon() {
+  if (!arrival_.displayWaits()) return false;
+  showCurrentContainer();
+  return true;
+}
+
 void IconsPanel::SwitchContainer(int container) {
+  if (isHeld_) return;
   EndToolAction();
   const ScreenState& screen = state_.screen;
   const bool sidePanelUp = screen.mActivePanel != kColorPanel && screen.mActivePanel != kIconsListPanel;
@@ -72,7 +90,10 @@ void IconsPanel::SwitchContainer(int container) {
   state_.mCurContainer = container;
   context_.display.changed(DisplayPart::IconsPanel);
   // The Icons List only selects the container; its icon is shown later.
-  if (screen.mActivePanel != kIconsListPanel) showCurrentContainer();
+  if (screen.mActivePanel != kIconsListPanel)
+    showCurrentContainer();
+  else
+    arrival_.setDisplayWaits(true);
   context_.display.announce(news::container(state_.mCurContainer, nameOf(state_.current())));
 }
 
@@ -91,6 +112,7 @@ void IconsPanel::showCurrentContainer() {
 }
 
 void IconsPanel::showEmptyContainer() {
+  arrival_.setDisplayWaits(false);
   ++state_.iconSerial;
   state_.screen.fraTools[1] = false;
   ClearContainer(state_);
@@ -106,6 +128,7 @@ void IconsPanel::showEmptyContainer() {
 }
 
 void IconsPanel::PanelRightClick(int container) {
+  if (isHeld_) return;
   if (state_.screen.mActivePanel == kIconsListPanel) context_.editor.closePanels();
   context_.pump.pump();
   SwitchContainer(container);
@@ -116,7 +139,8 @@ bool IconsPanel::PanelDragOver(const std::vector<std::string>& files) const { re
 
 void IconsPanel::PanelDrop(int container, const std::vector<std::string>& files) {
   const std::string file = iconFileOf(files);
-  if (file.empty()) return;
+  if (isHeld_ || file.empty()) return;
+  showWaitingIcon();
   CommitPendingPaint();
   if (state_.screen.mActivePanel != kColorPanel && !state_.screen.aniContainerVisible) context_.editor.closePanels();
 
@@ -136,13 +160,14 @@ void IconsPanel::PanelDrop(int container, const std::vector<std::string>& files)
 }
 
 void IconsPanel::AreaDrop(const std::vector<std::string>& files) {
-  if (!PanelDragOver(files)) return;
+  if (isHeld_ || !PanelDragOver(files)) return;
+  showWaitingIcon();
   CommitPendingPaint();
   if (mayCurrentIconGo(context_)) PanelDrop(state_.mCurContainer, files);
 }
 
 void IconsPanel::updateFromCurrent() {
-  if (state_.screen.mActivePanel == kIconsListPanel || !state_.current().present) return;
+  if (isHeld_ || state_.screen.mActivePanel == kIconsListPanel || !state_.current().present) return;
   editingArea_.UpdatePanelFromCurrent();
   context_.editor.clearUndoHistory();
   context_.editor.recordUndo();

@@ -21,7 +21,7 @@ bool isSame(const FoundGroup& a, const FoundGroup& b) { return a.isNamed == b.is
 
 std::vector<IconGroup> groupsInOrder(std::vector<FoundGroup> found) {
   std::ranges::stable_sort(found, isBefore);
-  found.erase(std::ranges::unique(found, isSame).begin(), found.end());
+  found.erase(std::unique(found.begin(), found.end(), isSame), found.end());
   std::vector<IconGroup> groups;
   groups.reserve(found.size());
   for (FoundGroup& each : found) {
@@ -33,7 +33,8 @@ std::vector<IconGroup> groupsInOrder(std::vector<FoundGroup> found) {
 
 std::vector<IconResource> iconsInOrder(std::vector<IconResource> found) {
   std::ranges::stable_sort(found, {}, &IconResource::id);
-  found.erase(std::ranges::unique(found, {}, &IconResource::id).begin(), found.end());
+  const auto isSameNumber = [](const IconResource& a, const IconResource& b) { return a.id == b.id; };
+  found.erase(std::unique(found.begin(), found.end(), isSameNumber), found.end());
   return found;
 }
 
