@@ -27,6 +27,7 @@ void IconArrival::showCurrentContainer() {
   const auto container = static_cast<std::size_t>(state_.mCurContainer);
   // The region of the former icon must end before the Surfaces change.
   editor.clearRegion();
+  displayWaits_ = false;
   ++state_.iconSerial;
   editingArea_.SizeEditSurfaces(state_.current().size);
   BitbltPic(state_.picPanelImage.at(container), state_.picImage);

@@ -22,11 +22,15 @@ class IconArrival {
   void fillContainer(int container, const IconImage& icon, const IconContainerRec& record);
   // Shows the icon stored in the current container. Processes events as the last step.
   void showCurrentContainer();
+  // True while the Editing Area shows another icon than that of the current container.
+  bool displayWaits() const { return displayWaits_; }
+  void setDisplayWaits(bool waits) { displayWaits_ = waits; }
 
  private:
   Context context_;
   EditState& state_;
   EditingArea& editingArea_;
+  bool displayWaits_ = false;
 };
 
 }  // namespace gp

@@ -13,6 +13,7 @@
 #include "document/Messages.h"
 #include "document/PanelNumbers.h"
 #include "platform/ports/MessagePump.h"
+#include "platform/resources/ShellLink.h"
 #include "platform/text/Utf8.h"
 
 namespace gp {
@@ -21,6 +22,14 @@ namespace {
 
 constexpr std::size_t kShortestDroppedName = 5;
 constexpr const char* kIconEnding = ".ICO";
+
+// The icon file that was dropped, or that a dropped shortcut means; empty for other files.
+std::string iconFileOf(const std::vector<std::string>& files) {
+  if (files.empty()) return {};
+  const std::string& file = files.front();
+  if (file.size() >= kShortestDroppedName && endsWithAnyCase(file, kIconEnding)) return file;
+  return isNamedShellLink(file) || isNamedDesktopEntry(file) ? droppedIconFile(file) : std::string();
+}
 
 }  // namespace
 
@@ -48,12 +57,30 @@ void IconsPanel::CommitPendingPaint() {
 bool IconsPanel::leaveCurrent() {
   if (!state_.IsIconChanged()) return true;
   if (state_.options.promptToSave && !mayCurrentIconGo(context_, kReminderHint)) return false;
+  // The container has its icon, and the Editing Area another one.
+  if (arrival_.displayWaits()) return true;
   editingArea_.UpdatePanelFromCurrent();
   context_.editor.UpdateCommands();
   return true;
 }
 
+void IconsPanel::storeForList(const IconImage& icon, const IconContainerRec& record) {
+  arrival_.fillContainer(state_.mCurContainer, icon, record);
+  arrival_.setDisplayWaits(true);
+  context_.display.changed(DisplayPart::IconsPanel);
+  context_.editor.UpdateCommands();
+}
+
+bool IconsPanel::displayWaits() const { return arrival_.displayWaits(); }
+
+bool IconsPanel::showWaitingIcon() {
+  if (!arrival_.displayWaits()) return false;
+  showCurrentContainer();
+  return true;
+}
+
 void IconsPanel::SwitchContainer(int container) {
+  if (isHeld_) return;
   EndToolAction();
   const ScreenState& screen = state_.screen;
   const bool sidePanelUp = screen.mActivePanel != kColorPanel && screen.mActivePanel != kIconsListPanel;
@@ -63,7 +90,10 @@ void IconsPanel::SwitchContainer(int container) {
   state_.mCurContainer = container;
   context_.display.changed(DisplayPart::IconsPanel);
   // The Icons List only selects the container; its icon is shown later.
-  if (screen.mActivePanel != kIconsListPanel) showCurrentContainer();
+  if (screen.mActivePanel != kIconsListPanel)
+    showCurrentContainer();
+  else
+    arrival_.setDisplayWaits(true);
   context_.display.announce(news::container(state_.mCurContainer, nameOf(state_.current())));
 }
 
@@ -82,6 +112,7 @@ void IconsPanel::showCurrentContainer() {
 }
 
 void IconsPanel::showEmptyContainer() {
+  arrival_.setDisplayWaits(false);
   ++state_.iconSerial;
   state_.screen.fraTools[1] = false;
   ClearContainer(state_);
@@ -97,18 +128,19 @@ void IconsPanel::showEmptyContainer() {
 }
 
 void IconsPanel::PanelRightClick(int container) {
+  if (isHeld_) return;
   if (state_.screen.mActivePanel == kIconsListPanel) context_.editor.closePanels();
   context_.pump.pump();
   SwitchContainer(container);
   context_.editor.chooseColorChart();
 }
 
-bool IconsPanel::PanelDragOver(const std::vector<std::string>& files) const {
-  return !files.empty() && files.front().size() >= kShortestDroppedName && endsWithAnyCase(files.front(), kIconEnding);
-}
+bool IconsPanel::PanelDragOver(const std::vector<std::string>& files) const { return !iconFileOf(files).empty(); }
 
 void IconsPanel::PanelDrop(int container, const std::vector<std::string>& files) {
-  if (!PanelDragOver(files)) return;
+  const std::string file = iconFileOf(files);
+  if (isHeld_ || file.empty()) return;
+  showWaitingIcon();
   CommitPendingPaint();
   if (state_.screen.mActivePanel != kColorPanel && !state_.screen.aniContainerVisible) context_.editor.closePanels();
 
@@ -117,24 +149,25 @@ void IconsPanel::PanelDrop(int container, const std::vector<std::string>& files)
   if (container != former && state_.IsIconChanged()) editingArea_.UpdatePanelFromCurrent();
   state_.mCurContainer = container;
   bool ok = false;
-  context_.editor.doOpenIconFileQuietly(files.front(), ok);
+  context_.editor.doOpenIconFileQuietly(file, ok);
   if (ok) {
     SwitchContainer(state_.mCurContainer);
     context_.editor.chooseColorChart();
     return;
   }
   state_.mCurContainer = former;
-  context_.editor.offerIconsOfFile(files.front(), container);
+  context_.editor.offerIconsOfFile(file, container);
 }
 
 void IconsPanel::AreaDrop(const std::vector<std::string>& files) {
-  if (!PanelDragOver(files)) return;
+  if (isHeld_ || !PanelDragOver(files)) return;
+  showWaitingIcon();
   CommitPendingPaint();
   if (mayCurrentIconGo(context_)) PanelDrop(state_.mCurContainer, files);
 }
 
 void IconsPanel::updateFromCurrent() {
-  if (state_.screen.mActivePanel == kIconsListPanel || !state_.current().present) return;
+  if (isHeld_ || state_.screen.mActivePanel == kIconsListPanel || !state_.current().present) return;
   editingArea_.UpdatePanelFromCurrent();
   context_.editor.clearUndoHistory();
   context_.editor.recordUndo();

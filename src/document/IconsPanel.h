@@ -2,6 +2,7 @@
 #pragma once
 
 #include "document/Context.h"
+#include "platform/scope/FlagFor.h"
 
 #include <string>
 #include <vector>
@@ -10,6 +11,8 @@ namespace gp {
 
 class EditingArea;
 class IconArrival;
+struct IconContainerRec;
+struct IconImage;
 
 class IconsPanel {
  public:
@@ -19,7 +22,8 @@ class IconsPanel {
   void SwitchContainer(int container);
   // A right click on a container: closes the Icons List if it is open and switches to the container.
   void PanelRightClick(int container);
-  // Returns true when dropping these files is accepted: the first name ends in ".ICO".
+  // Returns true when dropping these files is accepted: the first name ends in ".ICO", or is that of a shortcut
+  // to such a file.
   bool PanelDragOver(const std::vector<std::string>& files) const;
   // Opens the first file into the container, without questions. A file that cannot be opened changes no container; if
   // it holds icons all the same, they are offered.
@@ -28,6 +32,23 @@ class IconsPanel {
   void AreaDrop(const std::vector<std::string>& files);
   // imgUpdIconsPanel: copies the icon's current state to its container and makes it the baseline of Undo.
   void updateFromCurrent();
+
+  // The Icons List fills the current container, whose icon is not shown yet: the Editing Area keeps the former one.
+  void storeForList(const IconImage& icon, const IconContainerRec& record);
+  // True while the Editing Area shows another icon than that of the current container. Whatever uses picImage, or what
+  // the screen shows, calls showWaitingIcon() first.
+  bool displayWaits() const;
+  // Shows the icon, or that there is none. False when the display does not wait.
+  bool showWaitingIcon();
+  // While it lives, the containers and the Editing Area do not answer the user.
+  class Hold {
+   public:
+    explicit Hold(IconsPanel& panel) : held_(panel.isHeld_) {}
+
+   private:
+    FlagFor held_;
+  };
+  bool isHeld() const { return isHeld_; }
 
   // Ends an open tool action, clears the tools and stores the icon in its container, with the same question as a click
   // on the container. Unlike a click it keeps the Undo history, of which the action is a step.
@@ -45,6 +66,7 @@ class IconsPanel {
   EditState& state_;
   EditingArea& editingArea_;
   IconArrival& arrival_;
+  bool isHeld_ = false;
 };
 
 }  // namespace gp

@@ -2,10 +2,17 @@
 // container.
 #pragma once
 
+#include "extraction/IconSource.h"
+#include "extraction/ListCell.h"
 #include "extraction/ListGrid.h"
+#include "extraction/ListPages.h"
+#include "extraction/ListPick.h"
+#include "extraction/ListWork.h"
+#include "extraction/SaveAllFrames.h"
+#include "extraction/SourceTable.h"
 #include "files/FilesContext.h"
-#include "platform/gdi/Surface.h"
 
+#include <chrono>
 #include <memory>
 #include <string>
 #include <vector>
@@ -14,32 +21,6 @@ namespace gp {
 
 class FileTypeIcons;
 class Files;
-class IconSource;
-
-// mListSource.
-enum class ListSource {
-  None = 0,
-  Folder = 1,
-  AniFrames = 2,
-  LargeIcons = 3,
-  SmallIcons = 4,
-  IclScan = 5,
-  FileType = 6,
-  Desktop = 7,
-};
-
-enum class ListButton { Left, Right };
-enum class ListMove { Left, Right, Up, Down, PageUp, PageDown, Home, End };
-enum class SavedFrames { Icons = 0, Bitmaps = 1 };
-
-// What a cell of the panel shows.
-struct ListCell {
-  std::string label;
-  bool isMultiIcon = false;  // a red "**" follows the label
-  bool isDrawn = false;      // not yet, or the drawing was stopped
-  bool valid = true;         // otherwise a diagonal line takes the place of the picture
-  Surface picture{0, 0};     // on the ground of the list
-};
 
 class IconsList {
  public:
@@ -77,22 +58,25 @@ class IconsList {
   // Esc: stops the drawing of the panel at the next cell. False when none is under way.
   bool stopDrawing();
   void cmdSaveAllExtractToFiles(SavedFrames kind);
+  // The time between two looks at events while it draws or saves; 0 looks after each cell.
+  void setEventInterval(std::chrono::milliseconds interval) { work_.setEventInterval(interval); }
 
   // What the view shows.
   ListSource mListSource() const;
-  bool isDrawing() const;
+  // A panel is being drawn, or all frames are being saved: commands do nothing meanwhile.
+  bool isDrawing() const { return work_.isRunning(); }
   const ListGrid& grid() const { return grid_; }
   // The cells of the panel, at most kCellsOnPanel.
   const std::vector<ListCell>& cells() const { return cells_; }
   // The marked cell of the panel; -1 without one.
-  int markedCell() const;
-  int scrollValue() const;
-  int panelCount() const;  // items of cboPanelNum; 0 without a list
-  int panelItem() const;
-  int pageCount() const;    // visible buttons of cmdPageRef
-  int currentPage() const;  // -1 between pages
-  bool isNextPanelEnabled() const;
-  bool isNextPageVisible() const;
+  int markedCell() const { return markedCell_; }
+  int scrollValue() const { return pages_.scrollValue(); }
+  int panelCount() const { return pages_.panelCount(); }  // items of cboPanelNum; 0 without a list
+  int panelItem() const { return pages_.panelItem(); }
+  int pageCount() const { return pages_.pageCount(); }      // visible buttons of cmdPageRef
+  int currentPage() const { return pages_.currentPage(); }  // -1 between pages
+  bool isNextPanelEnabled() const { return pages_.isNextPanelEnabled(); }
+  bool isNextPageVisible() const { return pages_.isNextPageVisible(); }
   bool offersSaveAll() const;  // cmdSaveAllExtractToFiles is visible
   bool isSaveAllEnabled() const;
   std::string kindLabel() const;    // lblExtract(0)
@@ -102,12 +86,38 @@ class IconsList {
   std::string spokenMark() const;
 
  private:
+  void open(const SourceRow& row);
+  bool isSameSession(const SourceRow& row) const;
+  void showOpened(OpenedList opened, const std::string& path);
+  void replaceList(OpenedList opened, const std::string& path);
+  void closeEmptyFolder();
+  void draw();
+  void drawPanel();
+  void drawCell(int cell);
+  void showPanelWithMark(int item, int cell);
+  int shownEntries() const;
+  bool isIdle() const { return !work_.isRunning() && !isTaking_ && !isOpening_; }
+  void take(int cell, ListButton button);
+  void show(PickResult result, int cell, ListButton button);
+  void notify();
+
   FilesContext context_;
   Files& files_;
   FileTypeIcons& fileTypes_;
   ListGrid grid_;
-  std::vector<ListCell> cells_;
+  ListWork work_;
+  // The list: null without one. What a question or an event inside a loop can replace is looked up again by its serial.
+  const SourceRow* row_ = nullptr;
   std::unique_ptr<IconSource> source_;
+  unsigned serial_ = 0;
+  std::string mListFolder_;
+  ListPages pages_;
+  std::vector<ListCell> cells_;
+  std::vector<bool> invalid_;  // by entry
+  int markedCell_ = -1;
+  bool isRedrawn_ = false;  // the panel that is being drawn gives way to another one
+  bool isOpening_ = false;
+  bool isTaking_ = false;
 };
 
 }  // namespace gp

@@ -5,6 +5,7 @@
 #include "document/Hourglass.h"
 #include "platform/ports/MessageBoxes.h"
 #include "shell/CommandNeeds.h"
+#include "shell/PanelCommands.h"
 #include "shell/PanelTable.h"
 
 #include <utility>
@@ -58,11 +59,28 @@ void Shell::run(const Command& command) {
 }
 
 bool Shell::prepare(const Command& command) {
+  if (!mayAct() || isRefusedByList(command)) return false;
   if (!mayRun(command)) return false;
   if (command.commits == Commits::No) return true;
   document_.iconsPanel.CommitPendingPaint();
   // Committing may have saved the icon, which can change what the command needs.
   return mayRun(command);
+}
+
+// What the user does counts for the icon of the current container, which may have to be shown first. While a list is
+// drawn it does not count.
+bool Shell::mayAct() {
+  if (extraction_.list.isDrawing()) return false;
+  document_.iconsPanel.showWaitingIcon();
+  return true;
+}
+
+// A panel or the pane of a film would take the place of the list.
+bool Shell::isRefusedByList(const Command& command) {
+  const std::string message = extraction_.list.sessionMessage();
+  if (message.empty() || !opensPanel(command)) return false;
+  ports_.boxes.tell(message);
+  return true;
 }
 
 bool Shell::mayRun(const Command& command) {
@@ -77,6 +95,7 @@ bool Shell::isMet(const char* refusal) {
 }
 
 void Shell::runToolbar(const ToolbarButton& button) {
+  if (!mayAct()) return;
   state_.picDisp.clearDrawing();
   display_.changed(DisplayPart::EditingArea);
   if (const Command* command = findCommand(button.control, button.commandIndex)) run(*command);
@@ -107,6 +126,7 @@ void Shell::offerIconsOfFile(const std::string& path, int container) {
   files_.iconFiles.offerIconsOfFile(path, container);
 }
 void Shell::AskSaveCurrent(const std::string& message, bool& proceed) {
+  document_.iconsPanel.showWaitingIcon();
   files_.iconSaver.AskSaveCurrent(message, proceed);
 }
 void Shell::setHotspotByClick(int x, int y) { files_.cursorFiles.setHotspotByClick(x, y); }
@@ -129,6 +149,7 @@ void Shell::showPanel(int panel) {
   if (former == SearchPanel::kNumber && panel != SearchPanel::kNumber) extraction_.search.finish();
   display_.changed(DisplayPart::Panel);
   UpdateCommands();
+  if (panel != kIconsListPanel) document_.iconsPanel.showWaitingIcon();
 }
 
 void Shell::closePanels() {

@@ -148,6 +148,8 @@ class Shell final : public Editor {
  private:
   // Returns false when the command cannot run; then at most a message was shown.
   bool prepare(const Command& command);
+  bool mayAct();
+  bool isRefusedByList(const Command& command);
   bool isMet(const char* refusal);
   bool isThere(const std::string& path);
   std::string settingsPath() const;

@@ -50,18 +50,19 @@ void Shell::openFromAniHistory(int index) {
 }
 
 void Shell::chooseTool(Tool tool) {
-  if (isMet(needs::icon(*this, tool))) drawing_.tools.selectTool(tool);
+  if (mayAct() && isMet(needs::icon(*this, tool))) drawing_.tools.selectTool(tool);
 }
 
 void Shell::chooseColorPicker() {
-  if (isMet(needs::icon(*this, kNoIndex))) colour_.selection.imgColorPicker();
+  if (mayAct() && isMet(needs::icon(*this, kNoIndex))) colour_.selection.imgColorPicker();
 }
 
 void Shell::shiftTowards(ShiftCell cell) {
-  if (isMet(needs::icon(*this, kShift))) drawing_.shift.padRelease(cell);
+  if (mayAct() && isMet(needs::icon(*this, kShift))) drawing_.shift.padRelease(cell);
 }
 
 void Shell::zoom(ZoomStep step) {
+  if (!mayAct()) return;
   document_.areaOptions.zoom(step);
   drawing_.tools.followMagnification();
 }
@@ -116,6 +117,7 @@ void Shell::confirmReset() {
 }
 
 void Shell::cmdProceed() {
+  if (!mayAct()) return;
   const PanelRow* panel = findPanel(state_.screen.mActivePanel);
   if (!panel || !panel->proceed) return;
   // The Current Icon may have changed while the panel was open.
@@ -124,12 +126,14 @@ void Shell::cmdProceed() {
 }
 
 void Shell::cmdCancel() {
+  if (!extraction_.list.mayClose()) return;
   showPanel(kColorPanel);
   ports_.pump.pump();
   if (state_.current().present) document_.editingArea.MagnifyIcon();
 }
 
 void Shell::escapeKey() {
+  if (extraction_.list.stopDrawing()) return;
   if (state_.screen.mActivePanel != kColorPanel)
     cmdCancel();
   else if (state_.mRegionExists)

@@ -111,6 +111,7 @@ void Shell::applyStartScreen() {
 }
 
 void Shell::formResize(int dispContainerWidth, int dispContainerHeight) {
+  document_.iconsPanel.showWaitingIcon();
   if (!state_.mInLoad) document_.areaOptions.setRoom(dispContainerWidth, dispContainerHeight);
 }
 
@@ -130,6 +131,8 @@ bool Shell::queryUnload() {
   if (!question.empty() && !ports_.boxes.ask(question)) return false;
   if (!animation_.session.mayExit()) return false;
   files_.cursorFiles.mark().cancel();
+  extraction_.list.finish();
+  extraction_.search.finish();
   saveSettings();
   return true;
 }

@@ -1,6 +1,7 @@
 #include "shell/UnsavedQuestion.h"
 
 #include "document/EditState.h"
+#include "extraction/format/ExtractedIcon.h"
 
 namespace gp {
 namespace {
@@ -9,7 +10,7 @@ namespace {
 // container leaves its flags, which mean nothing then.
 bool isUnsaved(const IconContainerRec& record, const EditState& state) {
   const bool isCurrentNew = state.current().used && state.current().neverSaved;
-  return record.used && (record.modified || isCurrentNew);
+  return record.used && (record.modified || isCurrentNew || isUnsavedExtraction(record));
 }
 
 std::string lineOf(int container, const IconContainerRec& record) {

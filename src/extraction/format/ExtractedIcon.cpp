@@ -32,6 +32,10 @@ IconContainerRec recordOfExtracted(const IconImage& icon, const std::string& nam
   return record;
 }
 
+bool isUnsavedExtraction(const IconContainerRec& record) {
+  return record.used && record.neverSaved && record.sourceLabel.trimmed() == kExtractedLabel;
+}
+
 std::vector<std::uint8_t> fileOfExtracted(const IconImage& icon) {
   return composeSingleIcon(icon, depthOfExtracted(icon));
 }

@@ -81,7 +81,7 @@ void MultiIconRetrieval::load(const LoadAnswer& answer) {
   if (intoEditingArea_)
     context_.document.arrival.arrive(icon, record);
   else
-    context_.document.arrival.fillContainer(answer.container, icon, record);
+    context_.document.iconsPanel.storeForList(icon, record);
   context_.editor.UpdateCommands();
   context_.editor.AddHistory(file_);
   const auto container = static_cast<std::size_t>(answer.container);

@@ -23,6 +23,10 @@ void IconFiles::doOpenIconFileQuietly(const std::string& path, bool& ok) {
   ok = IconOpening(context_, path, OpeningManner::Quiet, multiIcon_).run();
 }
 
+void IconFiles::loadIconFileToContainer(const std::string& path, bool& ok) {
+  ok = IconOpening(context_, path, OpeningManner::Stored, multiIcon_).run();
+}
+
 void IconFiles::offerIconsOfFile(const std::string& path, int container) {
   IconOpening(context_, path, OpeningManner::Browsed, multiIcon_).offerIcons(container);
 }

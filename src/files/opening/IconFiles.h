@@ -23,6 +23,9 @@ class IconFiles {
   void doOpenIconFile(const std::string& path, bool useBrowser, bool& ok);
   // The same without message boxes, history entry and reminders.
   void doOpenIconFileQuietly(const std::string& path, bool& ok);
+  // Stores the icon in the current container only; the Editing Area does not show it yet. The user chooses among
+  // several icons. Without reminders.
+  void loadIconFileToContainer(const std::string& path, bool& ok);
   // For a file dropped on a container that could not be opened: if it holds icons all the same, asks whether to show
   // them, and then lets the user choose one. The container is proposed as its place.
   void offerIconsOfFile(const std::string& path, int container);

@@ -111,12 +111,13 @@ bool IconOpening::isSquare() {
 bool IconOpening::browse() {
   file_ = {};  // the browser reads the file again
   std::string answer;
-  browser_.MultiIconFileSubRoutine(path_, true, answer);
+  browser_.MultiIconFileSubRoutine(path_, !isStored(), answer);
   return finishBrowsing(answer);
 }
 
 bool IconOpening::finishBrowsing(const std::string& answer) {
   if (answer.empty()) return false;
+  if (isStored()) state_.current().present = true;
   remind();
   return true;
 }
@@ -131,7 +132,10 @@ void IconOpening::show() {
     const Hourglass hourglass(context_);
     IconContainerRec record = recordOfLoadedIcon(facts_, decoded_.icon, path_);
     if (record.fromMultiIconFile) record.origin = originOf(file_, file_.entry(facts_.chosen));
-    context_.document.arrival.arrive(decoded_.icon, record);
+    if (isStored())
+      context_.document.iconsPanel.storeForList(decoded_.icon, record);
+    else
+      context_.document.arrival.arrive(decoded_.icon, record);
   }
   if (!isSpoken()) return;
   context_.editor.AddHistory(path_);
@@ -139,7 +143,9 @@ void IconOpening::show() {
   remind();
 }
 
+// Reminders are about the icon on the Editing Area.
 void IconOpening::remind() {
+  if (isStored()) return;
   const IconContainerRec& record = state_.current();
   if (state_.options.flagMessageIfAlpha && record.hasAlpha) {
     flashAlphaIndicator(state_, context_.display, context_.pump);

@@ -12,8 +12,8 @@
 namespace gp {
 
 // Spoken: with message boxes, confirmation, history entry and reminders. Quiet: without. Browsed: as Spoken, and a file
-// with several icons is shown in the browser.
-enum class OpeningManner { Spoken, Quiet, Browsed };
+// with several icons is shown in the browser. Stored: as Browsed, but the icon is only stored in its container.
+enum class OpeningManner { Spoken, Quiet, Browsed, Stored };
 
 class MultiIconCommands;
 
@@ -34,13 +34,14 @@ class IconOpening {
   bool refuse();
   bool agreesToShow(int icons);
   bool isSquare();
-  bool isBrowsed() const { return manner_ == OpeningManner::Browsed && facts_.hasSeveralEntries(); }
+  bool isBrowsed() const { return (manner_ == OpeningManner::Browsed || isStored()) && facts_.hasSeveralEntries(); }
   bool browse();
   bool finishBrowsing(const std::string& answer);
   bool isConfirmed();
   void show();
   void remind();
   bool fail(const std::string& text, BoxIcon icon);
+  bool isStored() const { return manner_ == OpeningManner::Stored; }
   bool isSpoken() const { return manner_ != OpeningManner::Quiet; }
 
   FilesContext& context_;

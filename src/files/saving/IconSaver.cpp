@@ -9,6 +9,7 @@
 #include "document/EditState.h"
 #include "document/Editor.h"
 #include "document/Hourglass.h"
+#include "document/PanelNumbers.h"
 #include "drawing/Drawing.h"
 #include "files/FileQuestions.h"
 #include "files/format/DepthTexts.h"
@@ -179,7 +180,8 @@ void IconSaver::doSaveAs(SaveMode mode) { saveAs(mode, {}); }
 
 void IconSaver::saveAs(SaveMode mode, const std::string& folder) {
   const SaveKind& kind = kindOf(mode);
-  closeSidePanels();
+  // Icons of the list are saved one after the other.
+  if (state_.screen.mActivePanel != kIconsListPanel) closeSidePanels();
   context_.document.iconsPanel.EndToolAction();
   context_.drawing.regions.clearRegion();
   if (mode == SaveMode::Icon) remindOfMultiIconFile();
