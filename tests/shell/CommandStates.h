@@ -186,7 +186,7 @@ inline std::vector<int> effectIndices() {
 
 inline const std::vector<CommandNeed> kCommandNeeds{
     {"mnuFileSubCustomSize", {kNoIndex}, {}},
-    {"mnuFileSub", {2, 3, 4, 5, 7, 9}, {}},
+    {"mnuFileSub", {2, 3, 4, 5, 7, 8, 9}, {}},
     {"mnuFileSub", {12, 13, 19, 20}, {kNeedsIcon}},
     {"mnuFileSub", {15}, {kNeedsIcon, {[](const Facts& f, int) { return f.multiIconFile; }, ""}}},
     {"mnuFileSub", {16}, {kNeedsIcon, {[](const Facts& f, int) { return !f.multiIconFile; }, ""}}},
@@ -195,7 +195,7 @@ inline const std::vector<CommandNeed> kCommandNeeds{
     {"mnuFileExit", {kNoIndex}, {}},
     {"mnuANIFileCreateOrEdit", {kNoIndex}, {}},
     {"mnuANIFileHistory", {1, 2, 3}, {}},
-    {"mnuPopUpSub", {0}, {}},
+    {"mnuPopUpSub", {0, 1}, {}},
     {"mnuPopUpSub", {3}, {kNeedsIcon, {[](const Facts& f, int) { return f.multiIconFile; }, ""}}},
     {"mnuPopUpSub", {5}, {kNeedsIcon, {[](const Facts& f, int) { return f.alpha; }, ""}}},
     {"mnuPopUpSub", {7}, {kNeedsIcon, {[](const Facts& f, int) { return f.cursor; }, ""}}},
@@ -231,6 +231,7 @@ inline const std::vector<CommandNeed> kCommandNeeds{
     {"mnuEnquiryCurrent", {9}, {kNeedsIcon, {[](const Facts& f, int) { return f.multiIconFile; }, ""}}},
     {"mnuEnquiryCurrent", {10}, {kNeedsIcon, {[](const Facts& f, int) { return f.alpha; }, ""}}},
     {"mnuEnquiryCurrent", {11}, {kNeedsIcon, {[](const Facts& f, int) { return f.cursor; }, ""}}},
+    {"mnuExtractSub", {0, 1, 2, 3, 4, 5, 7}, {}},
     {"mnuAlphaSub", {0, 1}, {kNeedsIcon}},
     {"mnuOptionsSubGrid", {0, 1, 2, 3, 4, 5, 6}, {}},
     {"mnuOptionsStartScreenSub", {0, 1, 2}, {}},
@@ -245,8 +246,8 @@ struct PopUpEntry {
   const char* control;
   int commandIndex;
 };
-inline constexpr std::array<PopUpEntry, 4> kPopUpEntries{
-    {{0, "mnuFileSub", 7}, {3, "mnuEnquiryCurrent", 9}, {5, "mnuEnquiryCurrent", 10}, {7, "mnuEnquiryCurrent", 11}}};
+inline constexpr std::array<PopUpEntry, 5> kPopUpEntries{
+    {{0, "mnuFileSub", 7}, {1, "mnuFileSub", 8}, {3, "mnuEnquiryCurrent", 9}, {5, "mnuEnquiryCurrent", 10}, {7, "mnuEnquiryCurrent", 11}}};
 
 inline const CommandNeed* findNeed(const Command& row) {
   const auto found = std::ranges::find_if(kCommandNeeds, [&row](const CommandNeed& need) {
