@@ -41,8 +41,8 @@ std::size_t nextHeader(Bytes file, std::size_t from, std::size_t end) {
 
 // The first image at a position or behind it.
 std::optional<IclScanEntry> nextImage(Bytes file, std::size_t from) {
-  // Positions from 1 must be below the length without a header.
-  const std::size_t end = file.size() > dib::kHeaderSize + 1 ? file.size() - dib::kHeaderSize - 1 : 0;
+  // Every image is longer than its header.
+  const std::size_t end = file.size() > dib::kHeaderSize ? file.size() - dib::kHeaderSize : 0;
   if (from >= end) return std::nullopt;
   for (std::size_t at = nextHeader(file, from, end); at < end; at = nextHeader(file, at + 1, end))
     if (const auto image = imageAt(file, at)) return image;
