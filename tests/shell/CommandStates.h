@@ -246,8 +246,11 @@ struct PopUpEntry {
   const char* control;
   int commandIndex;
 };
-inline constexpr std::array<PopUpEntry, 5> kPopUpEntries{
-    {{0, "mnuFileSub", 7}, {1, "mnuFileSub", 8}, {3, "mnuEnquiryCurrent", 9}, {5, "mnuEnquiryCurrent", 10}, {7, "mnuEnquiryCurrent", 11}}};
+inline constexpr std::array<PopUpEntry, 5> kPopUpEntries{{{0, "mnuFileSub", 7},
+                                                          {1, "mnuFileSub", 8},
+                                                          {3, "mnuEnquiryCurrent", 9},
+                                                          {5, "mnuEnquiryCurrent", 10},
+                                                          {7, "mnuEnquiryCurrent", 11}}};
 
 inline const CommandNeed* findNeed(const Command& row) {
   const auto found = std::ranges::find_if(kCommandNeeds, [&row](const CommandNeed& need) {
