@@ -13,6 +13,7 @@
 #include "document/Messages.h"
 #include "document/PanelNumbers.h"
 #include "platform/ports/MessagePump.h"
+#include "platform/resources/ShellLink.h"
 #include "platform/text/Utf8.h"
 
 namespace gp {
@@ -21,6 +22,14 @@ namespace {
 
 constexpr std::size_t kShortestDroppedName = 5;
 constexpr const char* kIconEnding = ".ICO";
+
+// The icon file that was dropped, or that a dropped shortcut means; empty for other files.
+std::string iconFileOf(const std::vector<std::string>& files) {
+  if (files.empty()) return {};
+  const std::string& file = files.front();
+  if (file.size() >= kShortestDroppedName && endsWithAnyCase(file, kIconEnding)) return file;
+  return isNamedShellLink(file) || isNamedDesktopEntry(file) ? droppedIconFile(file) : std::string();
+}
 
 }  // namespace
 
@@ -126,12 +135,11 @@ void IconsPanel::PanelRightClick(int container) {
   context_.editor.chooseColorChart();
 }
 
-bool IconsPanel::PanelDragOver(const std::vector<std::string>& files) const {
-  return !files.empty() && files.front().size() >= kShortestDroppedName && endsWithAnyCase(files.front(), kIconEnding);
-}
+bool IconsPanel::PanelDragOver(const std::vector<std::string>& files) const { return !iconFileOf(files).empty(); }
 
 void IconsPanel::PanelDrop(int container, const std::vector<std::string>& files) {
-  if (isHeld_ || !PanelDragOver(files)) return;
+  const std::string file = iconFileOf(files);
+  if (isHeld_ || file.empty()) return;
   showWaitingIcon();
   CommitPendingPaint();
   if (state_.screen.mActivePanel != kColorPanel && !state_.screen.aniContainerVisible) context_.editor.closePanels();
@@ -141,14 +149,14 @@ void IconsPanel::PanelDrop(int container, const std::vector<std::string>& files)
   if (container != former && state_.IsIconChanged()) editingArea_.UpdatePanelFromCurrent();
   state_.mCurContainer = container;
   bool ok = false;
-  context_.editor.doOpenIconFileQuietly(files.front(), ok);
+  context_.editor.doOpenIconFileQuietly(file, ok);
   if (ok) {
     SwitchContainer(state_.mCurContainer);
     context_.editor.chooseColorChart();
     return;
   }
   state_.mCurContainer = former;
-  context_.editor.offerIconsOfFile(files.front(), container);
+  context_.editor.offerIconsOfFile(file, container);
 }
 
 void IconsPanel::AreaDrop(const std::vector<std::string>& files) {

@@ -22,7 +22,8 @@ class IconsPanel {
   void SwitchContainer(int container);
   // A right click on a container: closes the Icons List if it is open and switches to the container.
   void PanelRightClick(int container);
-  // Returns true when dropping these files is accepted: the first name ends in ".ICO".
+  // Returns true when dropping these files is accepted: the first name ends in ".ICO", or is that of a shortcut
+  // to such a file.
   bool PanelDragOver(const std::vector<std::string>& files) const;
   // Opens the first file into the container, without questions. A file that cannot be opened changes no container; if
   // it holds icons all the same, they are offered.

@@ -237,6 +237,7 @@ inline const std::vector<CommandNeed> kCommandNeeds{
     {"mnuOptionsStartScreenSub", {0, 1, 2}, {}},
     {"mnuOptionsSub", {3, 5, 7, 11, 12, 13, 14, 16}, {}},
     {"mnuOptionsSub", {9}, {{[](const Facts& f, int) { return !f.region; }, ""}}},
+    {"mnuExtractSub", {0, 1, 2, 3, 4, 5, 7}, {}},
     {"mnuHelpSub", {0, 1}, {}},
 };
 

@@ -113,7 +113,11 @@ const std::vector<std::string> kOthers = {"color-picker",
                                           "frame-to-area",
                                           "frame-load",
                                           "pane-resize",
-                                          "pane-minimize"};
+                                          "pane-minimize",
+                                          "next-panel",
+                                          "next-page",
+                                          "print",
+                                          "stop"};
 
 TEST(Pictures, EveryButtonToolAndDialogHasItsPicture) {
   EXPECT_EQ(kToolbar.size(), 27u);

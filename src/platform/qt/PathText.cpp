@@ -49,4 +49,15 @@ std::string textToPath(QStringView text) {
   return path;
 }
 
+QString printable(QString line) {
+  for (qsizetype i = 0; i < line.size(); ++i) {
+    const bool pair = line[i].isHighSurrogate() && i + 1 < line.size() && line[i + 1].isLowSurrogate();
+    if (pair)
+      ++i;
+    else if (!line[i].isPrint())
+      line[i] = QChar::ReplacementCharacter;
+  }
+  return line;
+}
+
 }  // namespace gp

@@ -16,4 +16,7 @@ std::string textToPath(QStringView text);
 // Returns a text of the program (UTF-8) for a widget. Bytes that are not UTF-8 are kept as in a path.
 inline QString toText(std::string_view text) { return pathToText(text); }
 
+// Returns a line of text in which control characters and bytes that are not text are replacement characters.
+QString printable(QString line);
+
 }  // namespace gp

@@ -6,6 +6,8 @@
 #include "drawing/ui/RotatePanelView.h"
 #include "effects/ui/EffectPanelView.h"
 #include "effects/ui/EffectViews.h"
+#include "extraction/ui/IconsListView.h"
+#include "extraction/ui/SearchPanelView.h"
 #include "files/ui/CursorPanelView.h"
 #include "output/ui/PreviewPanelView.h"
 #include "shell/PanelTable.h"
@@ -62,6 +64,23 @@ QWidget* makePreviewPanel(QWidget* parent, Shell& shell, QtDisplay& display) {
   return panel;
 }
 
+QWidget* makeIconsList(QWidget* parent, Shell& shell, QtDisplay& display) {
+  const auto guarded = [&shell](const char* event, const std::function<void()>& handler) {
+    shell.guarded(event, handler);
+  };
+  auto* panel = new IconsListView(parent, {shell.extraction().list, guarded});
+  display.listen(DisplayPart::SidePanel, panel, [panel] { panel->refresh(); });
+  return panel;
+}
+
+QWidget* makeSearchPanel(QWidget* parent, Shell& shell, QtDisplay& display) {
+  auto* panel = new SearchPanelView(
+      parent, shell.extraction().search,
+      [&shell](const char* event, const std::function<void()>& handler) { shell.guarded(event, handler); });
+  display.listen(DisplayPart::SidePanel, panel, [panel] { panel->refresh(); });
+  return panel;
+}
+
 // An effect's samples depend on the icon and the current colour, which can change while the panel is open.
 QWidget* makeEffectPanel(int number, QWidget* parent, Shell& shell, QtDisplay& display) {
   EffectPanelView* view = makeEffectView(number, parent, shell.effects());
@@ -87,10 +106,9 @@ void completeFrame(PanelFrame* panel, int number, Shell& shell) {
 }
 
 constexpr std::array kPanelWidgets = {
-    PanelWidget{kColorPanel, makeColorPanel},
-    PanelWidget{kCursorPanel, makeCursorPanel},
-    PanelWidget{kRotatePanel, makeRotatePanel},
-    PanelWidget{PreviewPanel::kNumber, makePreviewPanel},
+    PanelWidget{kColorPanel, makeColorPanel},           PanelWidget{kIconsListPanel, makeIconsList},
+    PanelWidget{kCursorPanel, makeCursorPanel},         PanelWidget{kRotatePanel, makeRotatePanel},
+    PanelWidget{SearchPanel::kNumber, makeSearchPanel}, PanelWidget{PreviewPanel::kNumber, makePreviewPanel},
 };
 
 // Returns null for a panel that is not implemented yet.

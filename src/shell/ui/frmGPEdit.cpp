@@ -18,6 +18,7 @@
 #include "shell/Shell.h"
 #include "shell/ui/AniPaneEvents.h"
 #include "shell/ui/CommandMenus.h"
+#include "shell/ui/DrawingHold.h"
 #include "shell/ui/EditingAreaEvents.h"
 #include "shell/ui/FormTitle.h"
 #include "shell/ui/MenuBar.h"
@@ -276,6 +277,7 @@ bool frmGPEdit::event(QEvent* event) {
 }
 
 void frmGPEdit::activate() {
+  new DrawingHold(*windowHandle(), shell_);
   shell_.formActivate(commandLine_);
   refreshCommands();
 }

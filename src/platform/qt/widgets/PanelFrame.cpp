@@ -148,6 +148,7 @@ void PanelFrame::addCloseButton() {
 void PanelFrame::focusFirstControl() { firstControl_->setFocus(Qt::TabFocusReason); }
 
 QWidget* PanelFrame::proceedButton() const { return cmdProceed_; }
+QWidget* PanelFrame::closeButton() const { return cmdCancel_; }
 
 void PanelFrame::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {

@@ -33,6 +33,7 @@ class PanelFrame : public QWidget {
   void setFirstControl(QWidget* control) { firstControl_ = control; }
   void focusFirstControl();
   QWidget* proceedButton() const;
+  QWidget* closeButton() const;
 
  signals:
   void proceed();

@@ -1,5 +1,7 @@
 #include "platform/qt/widgets/TextCell.h"
 
+#include "platform/qt/PathText.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -9,18 +11,6 @@ namespace {
 
 constexpr int kLeading = 4;
 constexpr int kSlack = 2;  // letter widths are not whole pixels
-
-// Control characters and bytes that are not text are shown as replacement characters.
-QString printable(QString line) {
-  for (qsizetype i = 0; i < line.size(); ++i) {
-    const bool pair = line[i].isHighSurrogate() && i + 1 < line.size() && line[i + 1].isLowSurrogate();
-    if (pair)
-      ++i;
-    else if (!line[i].isPrint())
-      line[i] = QChar::ReplacementCharacter;
-  }
-  return line;
-}
 
 }  // namespace
 
