@@ -91,6 +91,8 @@ void IconsList::replaceList(OpenedList opened, const std::string& path) {
   row_ = opened.row;
   source_ = std::move(opened.source);
   mListFolder_ = path;
+  // The user has just been asked about its icon.
+  filledContainer_ = context_.state.mCurContainer;
   invalid_.assign(static_cast<std::size_t>(source_->count()), false);
   pages_.fill(source_->count());
   markedCell_ = -1;
@@ -215,8 +217,9 @@ void IconsList::take(int cell, ListButton button) {
   markedCell_ = cell;
   notify();
   const unsigned serial = serial_;
-  if (!mayIconBeReplaced(context_) || serial_ != serial) return;
+  if (!mayIconBeReplaced(context_, filledContainer_) || serial_ != serial) return;
   const PickResult result = pick.run(button);
+  if (result == PickResult::Taken) filledContainer_ = context_.state.mCurContainer;
   if (serial_ == serial) show(result, cell, button);
 }
 

@@ -115,7 +115,8 @@ class IconsList {
   std::vector<ListCell> cells_;
   std::vector<bool> invalid_;  // by entry
   int markedCell_ = -1;
-  bool isRedrawn_ = false;  // the panel that is being drawn gives way to another one
+  int filledContainer_ = 0;  // whose icon the next pick replaces without a question
+  bool isRedrawn_ = false;   // the panel that is being drawn gives way to another one
   bool isOpening_ = false;
   bool isTaking_ = false;
 };

@@ -57,7 +57,7 @@ OpenedList listIcl(const FilesContext& context, const SourceRow& row, const std:
     const SourceRow& library = *findSource(kLargeIconsCommand);
     return library.list(context, library, path, icons);
   }
-  if (source->count() == 0) return {&row, nullptr, path + "\nNo 16x16, 24x24, 32x32 or 48x48 icon found in this file"};
+  if (source->count() == 0) return {&row, nullptr, "No 16x16, 24x24, 32x32 or 48x48 icon found in this file"};
   return {&row, std::move(source), {}};
 }
 

@@ -336,7 +336,7 @@ TEST_F(IconsListSources, AScanShowsSizesAndBits) {
 
 TEST_F(IconsListSources, AScanThatFindsNothingSaysSo) {
   const std::string bad = folder.write("bad.icl");
-  boxes.expectTold(bad + "\nNo 16x16, 24x24, 32x32 or 48x48 icon found in this file", BoxIcon::Exclamation);
+  boxes.expectTold("No 16x16, 24x24, 32x32 or 48x48 icon found in this file", BoxIcon::Exclamation);
   extract(kIclCommand, bad);
   EXPECT_TRUE(list.cells().empty());
 }
@@ -351,7 +351,7 @@ TEST_F(IconsListSources, ALibraryWithMoreIconsThanTheScanFindsIsOffered) {
                                  "\n\nThe scan finds 0 icons in this file, which is a library of 2 icons.\n\n"
                                  "List the large icons of the library instead?";
     boxes.expectAsked(question, BoxAnswer::No);
-    boxes.expectTold(path + "\nNo 16x16, 24x24, 32x32 or 48x48 icon found in this file", BoxIcon::Exclamation);
+    boxes.expectTold("No 16x16, 24x24, 32x32 or 48x48 icon found in this file", BoxIcon::Exclamation);
     extract(kIclCommand, path);
     EXPECT_EQ(list.mListSource(), ListSource::IclScan);
     shell.cmdCancel();
