@@ -2,9 +2,11 @@
 // events between files.
 #pragma once
 
+#include "extraction/FolderSearch.h"
 #include "files/FilesContext.h"
 
 #include <array>
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -22,7 +24,7 @@ class SearchPanel {
   // mnuExtractSub(7).
   void open();
   void setFolder(int i, const std::string& path);
-  // cmdInvokeSearchPath: asks for a folder.
+  // cmdInvokeSearchPath: asks for a folder. Nothing changes the choices while a search runs.
   void cmdInvokeSearchPath(int i);
   void setTick(int i, bool isOn);
   // txbMaxIcons: a text that is no number above 0 puts the last valid one back.
@@ -36,7 +38,8 @@ class SearchPanel {
   const std::string& folder(int i) const { return folders_.at(static_cast<std::size_t>(i)); }
   bool tick(int i) const { return ticks_.at(static_cast<std::size_t>(i)); }
   int maximum() const { return maximum_; }
-  bool isRunning() const { return mSearchRunning_; }
+  // Until Proceed has returned, also after Stop.
+  bool isRunning() const { return isWalking_; }
   int mSearchCount() const { return mSearchCount_; }
   const std::string& progressText() const { return progressText_; }  // lblSearchExeDir(2)
   const std::string& currentFile() const { return currentFile_; }    // lblForExtendedFrame
@@ -44,16 +47,30 @@ class SearchPanel {
   const std::vector<std::string>& foundFiles() const { return foundFiles_; }
 
  private:
+  using Clock = std::chrono::steady_clock;
+
+  bool isReady();
+  bool mayOverwrite(const std::string& target);
+  void search();
+  void walk();
+  void visit(const std::string& path, const SearchChoices& choices);
+  SearchChoices choices() const;
+  bool letsGoOn();
+  void notify();
+
   FilesContext context_;
   std::array<std::string, kFolders> folders_;
   std::array<bool, kTicks> ticks_{};
   int maximum_ = kFirstMaximum;
+  bool isWalking_ = false;
   bool mSearchStop_ = false;
   bool mSearchRunning_ = false;
   int mSearchCount_ = 0;
   std::string progressText_;
   std::string currentFile_;
   std::vector<std::string> foundFiles_;
+  Clock::time_point lastEvents_;
+  Clock::time_point lastShown_;
 };
 
 }  // namespace gp
