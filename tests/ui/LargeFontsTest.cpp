@@ -40,7 +40,8 @@ class LargeFonts : public test::FormFixture {
       {"gradient", "mnuEffectsSub", 4},     {"brightness", "mnuEffectsSub", 6},  {"sharpen", "mnuEffectsSub", 7},
       {"antialias", "mnuEffectsSub", 8},    {"theme", "mnuEffectsSub", 9},       {"cast", "mnuEffectsSub", 16},
       {"swap", "mnuEffectsSub", 20},        {"blend", "mnuEffectsSub", 23},      {"texture", "mnuEffectsSub", 24},
-      {"resize", "mnuEffectsSub1", 2},      {"text", "mnuEffectsSub", 0},        {"preview", "mnuEnquiryCurrent", 7}};
+      {"resize", "mnuEffectsSub1", 2},      {"text", "mnuEffectsSub", 0},        {"preview", "mnuEnquiryCurrent", 7},
+      {"search", "mnuExtractSub", 7}};
 
   void trigger(const char* control, int index) {
     find<QAction>(QString("%1(%2)").arg(control).arg(index))->trigger();
