@@ -1,6 +1,7 @@
 #include "cli/AnimatedCommandRows.h"
 #include "cli/CommandTable.h"
 #include "cli/EffectOptions.h"
+#include "cli/ExtractingCommandRows.h"
 #include "cli/Help.h"
 #include "cli/LookingCommandRows.h"
 #include "cli/Subcommands.h"
@@ -220,7 +221,8 @@ constexpr auto joined(const std::array<Command, counts>&... parts) {
   return rows;
 }
 
-constexpr auto kRows = joined(kMakingRows, kLookingCommandRows, kIconRows, kAnimatedCommandRows, kRowsAboutGpicon);
+constexpr auto kRows =
+    joined(kMakingRows, kLookingCommandRows, kIconRows, kExtractingCommandRows, kAnimatedCommandRows, kRowsAboutGpicon);
 
 }  // namespace
 

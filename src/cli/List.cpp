@@ -1,64 +1,22 @@
 #include "cli/AniListing.h"
 #include "cli/ImageFile.h"
+#include "cli/ImageRow.h"
 #include "cli/Json.h"
 #include "cli/Subcommands.h"
 
+#include <cstdint>
 #include <cstdio>
 
 namespace gp::cli {
 namespace {
 
-// One image in the list.
-struct ImageRow {
-  int index, width, height;
-  ColorDepth directory, header;
-  unsigned bytes, offset;
-  const char* encoding;
-  bool usable;
-  bool hasHotspot;
-  int hotspotX, hotspotY;
-};
-
-// The depth by the bitmap header. Zeros for a PNG picture, which has none. A cursor's entry states no colours.
-ColorDepth headerDepth(const IconFile& file, const IconEntry& entry) {
-  if (isPngImage(file, entry)) return {};
-  const int bits = headerBitCount(file, entry);
-  return file.isCursor() ? depthOfBits(bits) : depthOfEntry(entry, bits);
-}
-
-ImageRow rowOf(const IconFile& file, int index) {
-  const IconEntry entry = file.entry(index);
-  const ColorDepth header = headerDepth(file, entry);
-  return {index,
-          sideOf(entry.width),
-          sideOf(entry.height),
-          file.isCursor() ? header : depthOfEntry(entry),
-          header,
-          entry.bytesInRes,
-          entry.imageOffset,
-          isPngImage(file, entry) ? "png" : "bmp",
-          isUsableImage(file, index),
-          file.isCursor(),
-          entry.hotspotX(),
-          entry.hotspotY()};
-}
-
 void printText(const std::string& path, const ImageRow& row) {
-  std::printf("%s\t%d\t%dx%d\t%d\t%d\t%d\t%d\t%u\t%u\t%s\t%s", printable(path).c_str(), row.index, row.width,
-              row.height, row.directory.colors, row.directory.bits, row.header.colors, row.header.bits, row.bytes,
-              row.offset, row.encoding, row.usable ? "usable" : "unusable");
+  std::printf("%s\t%d\t%dx%d\t%d\t%d\t%d\t%d\t%ju\t%ju\t%s\t%s", printable(path).c_str(), row.index, row.width,
+              row.height, row.directory.colors, row.directory.bits, row.header.colors, row.header.bits,
+              static_cast<std::uintmax_t>(row.bytes), static_cast<std::uintmax_t>(row.offset), row.encoding,
+              row.usable ? "usable" : "unusable");
   if (row.hasHotspot) std::printf("\t%d\t%d", row.hotspotX, row.hotspotY);
   std::putchar('\n');
-}
-
-void printJson(const ImageRow& row) {
-  std::printf(
-      "{\"index\":%d,\"width\":%d,\"height\":%d,\"colors\":%d,\"bits\":%d,\"headerColors\":%d,\"headerBits\":%d,"
-      "\"bytes\":%u,\"offset\":%u,\"encoding\":\"%s\",\"usable\":%s",
-      row.index, row.width, row.height, row.directory.colors, row.directory.bits, row.header.colors, row.header.bits,
-      row.bytes, row.offset, row.encoding, row.usable ? "true" : "false");
-  if (row.hasHotspot) std::printf(",\"hotspotX\":%d,\"hotspotY\":%d", row.hotspotX, row.hotspotY);
-  std::putchar('}');
 }
 
 void printImagesAsText(const std::string& path, const IconFile& file) {
@@ -69,7 +27,7 @@ void printImagesAsJson(const std::string& path, const IconFile& file) {
   std::printf("{\"file\":%s,\"kind\":\"%s\",\"images\":[", jsonText(path).c_str(), file.isCursor() ? "cur" : "ico");
   for (int i = 0; i < file.directory.presentCount(); ++i) {
     std::fputs(i == 0 ? "\n" : ",\n", stdout);
-    printJson(rowOf(file, i));
+    std::fputs(jsonOf(rowOf(file, i)).c_str(), stdout);
   }
   std::fputs("]}", stdout);
 }

@@ -23,19 +23,18 @@ bool parseBounds(const std::string& text, OutputBounds& bounds) {
 }  // namespace
 
 bool OutputFolder::write(const std::string& name, std::span<const std::uint8_t> bytes) {
-  const std::string path = folder_ + "/" + name;
-  if (!hasRoomFor(1, bytes.size())) {
-    complain(path, kTooMuch);
-    return false;
-  }
+  const char* const reason = tryWrite(name, bytes);
+  if (reason) complain(pathOf(name), reason);
+  return !reason;
+}
+
+const char* OutputFolder::tryWrite(const std::string& name, std::span<const std::uint8_t> bytes) {
+  if (!hasRoomFor(1, bytes.size())) return kTooMuch;
   const WriteDefect defect = writeInto(folder_, name, bytes, replaces_ ? ExistingFile::Replace : ExistingFile::Keep);
-  if (defect != WriteDefect::None) {
-    complain(path, describe(defect));
-    return false;
-  }
+  if (defect != WriteDefect::None) return describe(defect);
   --left_.files;
   left_.bytes -= bytes.size();
-  return true;
+  return nullptr;
 }
 
 std::string OutputNames::nameFor(const std::string& bare) {

@@ -53,6 +53,9 @@ class OutputFolder {
   }
   // False, after an error message, when the file cannot be written, may not be replaced, or exceeds the bounds.
   [[nodiscard]] bool write(const std::string& name, std::span<const std::uint8_t> bytes);
+  // The same without the message: returns the reason, null after a success.
+  [[nodiscard]] const char* tryWrite(const std::string& name, std::span<const std::uint8_t> bytes);
+  std::string pathOf(const std::string& name) const { return folder_ + "/" + name; }
 
  private:
   std::string folder_;

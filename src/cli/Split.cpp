@@ -1,11 +1,11 @@
 #include "animation/format/AniFile.h"
 #include "cli/ImageFile.h"
 #include "cli/OutputFolder.h"
+#include "cli/PresentImages.h"
 #include "cli/Streams.h"
 #include "cli/Subcommands.h"
 #include "files/format/DepthTexts.h"
 #include "files/format/IcoLayout.h"
-#include "files/format/IconUpdates.h"
 #include "files/format/SingleEntryFile.h"
 #include "platform/files/ByteReader.h"
 
@@ -26,26 +26,6 @@ void keepOffInputs(const FolderArguments& given, OutputNames& names) {
     if (isUnknown) known->second = fs::equivalent(above.empty() ? fs::path(".") : above, given.folder, error);
     if (known->second) names.keepOff(stemOf(path));
   }
-}
-
-bool isAllThere(const IconFile& file, int index, const IconEntry& entry) {
-  const ByteReader reader(file.span());
-  const std::size_t at = ico::kDirSize + static_cast<std::size_t>(index) * ico::kEntrySize;
-  return reader.contains(at, ico::kEntrySize) && reader.contains(entry.imageOffset, entry.bytesInRes);
-}
-
-// Keeps the images of which the file contains what it states; updates refuse a file that lacks any.
-IconArrays takePresentImages(IconFile file) {
-  IconArrays arrays;
-  arrays.file = std::move(file);
-  for (int i = 0; i < arrays.file.directory.presentCount(); ++i) {
-    const IconEntry entry = arrays.file.entry(i);
-    if (!isAllThere(arrays.file, i, entry)) continue;
-    arrays.entries.push_back(entry);
-    arrays.images.push_back(ByteReader(arrays.file.span()).bytesAt(entry.imageOffset, entry.bytesInRes));
-  }
-  takeWholeImages(arrays);
-  return arrays;
 }
 
 std::string nameOf(const std::string& stem, const IconEntry& entry) {

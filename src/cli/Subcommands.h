@@ -17,6 +17,8 @@ int runShow(const Arguments& arguments);
 // Taking apart.
 int runUnpack(const Arguments& arguments);
 int runSplit(const Arguments& arguments);
+int runExtract(const Arguments& arguments);
+int runScan(const Arguments& arguments);
 int runBmp(const Arguments& arguments);
 int runShades(const Arguments& arguments);
 // Writing.

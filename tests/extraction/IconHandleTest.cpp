@@ -86,6 +86,19 @@ TEST(IconHandle, SixteenImagesAreTriedAndSharedOnesOnce) {
   EXPECT_EQ(handle->image.GetPixel(0, 0), kDrawnGreen);
 }
 
+// 20 images in different places, but without bytes, before one with bytes.
+TEST(IconHandle, MissingImagesAreNotAmongThoseThatAreTried) {
+  std::vector<LibraryImage> images(20, damaged());
+  images.push_back(plainImage(48, kGreen));
+  Bytes section = ResourceSection(iconWith(images), 0x2000).bytes();
+  // The sizes of the first 20 data entries, behind the directories of types and of names; each follows that of its
+  // language.
+  for (std::size_t i = 0; i < 20; ++i) set32(section, 32 + 16 + 21 * 8 + i * 40 + 24 + 4, 0);
+  const auto handle = firstIconOf(peFile(section));
+  ASSERT_TRUE(handle);
+  EXPECT_EQ(handle->image.GetPixel(0, 0), kDrawnGreen);
+}
+
 TEST(IconHandle, AnNeImageIsTheSame) {
   const auto handle = firstIconOf(neWith(iconWith({plainImage(16, kRed), plainImage(32, kGreen)}), {.shift = 9}));
   ASSERT_TRUE(handle);

@@ -1,6 +1,7 @@
 // Reads the programs and libraries of the corpus of real and generated files, if the corpus is beside the repository,
 // and compares their icons with independent measurements.
 #include "extraction/format/IconHandle.h"
+#include "files/IcoBuilder.h"
 #include "files/format/ImageDecoding.h"
 #include "platform/gdi/Stretch.h"
 #include "support/PictureHashes.h"
@@ -91,6 +92,26 @@ TEST_F(LibraryCorpus, EveryGroupHasTheMeasuredNameLanguageAndImages) {
   }
   std::cout << "corpus: " << groups << " groups\n";
   EXPECT_GT(groups, 25);
+}
+
+TEST_F(LibraryCorpus, EveryLibraryCanBeCutAnywhere) {
+  int icons = 0;
+  for (const Measured& m : measurements()) {
+    if (m.kind != "count") continue;
+    const auto whole = bytesOf(kCorpus + m.file);
+    for (std::size_t part = 0; part < 64; ++part) {
+      const Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(whole.size() * part / 64));
+      const MemorySource source(cut);
+      const auto library = IconLibrary::parse(source);
+      if (!library) continue;
+      ASSERT_LE(library->groups().size(), m.number()) << m.name() << ' ' << part;
+      for (const IconGroup& group : library->groups())
+        if (const auto handle = libraryIcon(*library, group, kLargeIcon))
+          icons += handle->width() == kLargeIcon ? 1 : 0;
+    }
+  }
+  std::cout << "corpus: " << icons << " icons drawn of libraries that were cut\n";
+  EXPECT_GT(icons, 30);
 }
 
 bool hasImageOf(const IconLibrary& library, const IconGroup& group, int size) {

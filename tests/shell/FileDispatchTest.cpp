@@ -58,7 +58,9 @@ TEST_F(FileDispatchTest, TheseCommandsCommitWhatIsOpenAndNoOthersDo) {
       "mnuFileSub(20)",       "mnuFileHistory(1)",    "mnuFileHistory(2)",      "mnuFileHistory(3)",
       "mnuFileHistory(4)",    "mnuFileHistory(5)",    "mnuFileHistory(6)",      "mnuPopUpSub(0)",
       "mnuPopUpSub(3)",       "mnuEnquiryCurrent(9)", "mnuANIFileCreateOrEdit", "mnuANIFileHistory(1)",
-      "mnuANIFileHistory(2)", "mnuANIFileHistory(3)"};
+      "mnuANIFileHistory(2)", "mnuANIFileHistory(3)", "mnuFileSub(8)",          "mnuPopUpSub(1)",
+      "mnuExtractSub(0)",     "mnuExtractSub(1)",     "mnuExtractSub(2)",       "mnuExtractSub(3)",
+      "mnuExtractSub(4)",     "mnuExtractSub(5)",     "mnuExtractSub(7)"};
   std::set<std::string> committing;
   for (const Command& row : commandTable())
     if (row.commits == Commits::Yes) committing.insert(objectNameOf(row.control, row.index));

@@ -36,9 +36,10 @@ struct PeOptions {
   std::optional<std::uint32_t> directoryCount = {};
   std::optional<std::uint32_t> directoryAddress = {};
   std::optional<std::uint32_t> sectionCount = {};
+  std::size_t headersSize = 0x400;
 };
 
-inline constexpr std::size_t kPeHeader = 0x40, kPeSections = 0x400;
+inline constexpr std::size_t kPeHeader = 0x40, kPeSections = 0x400;  // unless the headers are larger
 
 // A PE file with sections at multiples of 512 bytes.
 inline Bytes peFile(const Bytes& resources, const PeOptions& options = {}) {
@@ -57,11 +58,11 @@ inline Bytes peFile(const Bytes& resources, const PeOptions& options = {}) {
   set16(out, optional, options.is64 ? 0x20B : 0x10B);
   set32(out, optional + 32, 0x1000);
   set32(out, optional + 36, 0x200);
-  set32(out, optional + 60, kPeSections);
+  set32(out, optional + 60, static_cast<std::uint32_t>(options.headersSize));
   set32(out, count, options.directoryCount.value_or(16));
   set32(out, count + 4 + 2 * 8, options.directoryAddress.value_or(options.address));
   set32(out, count + 4 + 2 * 8 + 4, static_cast<std::uint32_t>(resources.size()));
-  std::size_t at = kPeSections;
+  std::size_t at = options.headersSize;
   for (const PeSection& section : sections) {
     const std::size_t row = out.size();
     out.resize(row + 40, 0);
@@ -73,7 +74,7 @@ inline Bytes peFile(const Bytes& resources, const PeOptions& options = {}) {
     set32(out, row + 20, section.offset.value_or(static_cast<std::uint32_t>(at)));
     at += (section.data.size() + 511) / 512 * 512;
   }
-  out.resize(kPeSections, 0);
+  out.resize(options.headersSize, 0);
   for (const PeSection& section : sections) {
     out.insert(out.end(), section.data.begin(), section.data.end());
     if (&section != &sections.back()) out.resize((out.size() + 511) / 512 * 512, 0);

@@ -32,17 +32,20 @@ std::optional<IclScanEntry> imageAt(Bytes file, std::size_t at) {
   return IclScanEntry{at + 1, at + size, side, bits};
 }
 
+// The first header byte at a position or behind it; `end` if there is none before it.
+std::size_t nextHeader(Bytes file, std::size_t from, std::size_t end) {
+  if (from == end || file[from] == dib::kHeaderSize) return from;  // many in succession
+  const void* const found = std::memchr(&file[from], dib::kHeaderSize, end - from);
+  return found == nullptr ? end : static_cast<std::size_t>(static_cast<const std::uint8_t*>(found) - file.data());
+}
+
 // The first image at a position or behind it.
 std::optional<IclScanEntry> nextImage(Bytes file, std::size_t from) {
-  // Positions from 1 must be below the length without a header.
-  const std::size_t end = file.size() > dib::kHeaderSize + 1 ? file.size() - dib::kHeaderSize - 1 : 0;
-  while (from < end) {
-    const void* const found = std::memchr(&file[from], dib::kHeaderSize, end - from);
-    if (found == nullptr) break;
-    from = static_cast<std::size_t>(static_cast<const std::uint8_t*>(found) - file.data());
-    if (const auto image = imageAt(file, from)) return image;
-    ++from;
-  }
+  // Every image is longer than its header.
+  const std::size_t end = file.size() > dib::kHeaderSize ? file.size() - dib::kHeaderSize : 0;
+  if (from >= end) return std::nullopt;
+  for (std::size_t at = nextHeader(file, from, end); at < end; at = nextHeader(file, at + 1, end))
+    if (const auto image = imageAt(file, at)) return image;
   return std::nullopt;
 }
 

@@ -48,6 +48,7 @@ struct GroupImage {
 struct IconResource;
 struct ResourceTable;
 
+// Can be used on several threads at once.
 class IconLibrary {
  public:
   // Null when the file is no PE and no NE file, or cannot be read. A file with damaged resources has those groups that

@@ -90,7 +90,7 @@ class Table {
 ResourceTable readNeResources(SourceReader& reader, std::uint64_t header) {
   const std::uint16_t offset = reader.u16(header + kResourceTable);
   // A program without resources has its names in the place of the table.
-  if (offset == 0 || offset == reader.u16(header + kNameTable)) return {};
+  if (offset == reader.u16(header + kNameTable)) return {};
   Table table(reader, header + offset);
   table.read();
   return table.take();

@@ -28,16 +28,13 @@ bool isNamed(SourceReader& reader, std::uint64_t at, std::string_view name) {
   return true;
 }
 
-bool isWithin(std::uint32_t address, std::uint32_t first, std::uint32_t size) {
-  return address >= first && address - first < size;
-}
-
 }  // namespace
 
 PeFile::PeFile(SourceReader& reader, std::uint64_t header) : reader_(reader) {
   const std::uint64_t optionalHeader = header + kOptionalHeader;
   const std::uint64_t optionalSize = reader.u16(header + kOptionalHeaderSize);
   readSections(optionalHeader + optionalSize, reader.u16(header + kSectionCount));
+  mapSections();
   headersSize_ = reader.u32(optionalHeader + kSizeOfHeaders);
   resources_ = statedResources(optionalHeader, optionalSize);
 }
@@ -50,7 +47,6 @@ void PeFile::readSections(std::uint64_t table, int count) {
     section.fileSize = reader_.u32(at + kFileSize);
     section.offset = reader_.u32(at + kOffset);
     section.memorySize = reader_.u32(at + kMemorySize);
-    if (section.memorySize == 0) section.memorySize = section.fileSize;
     sections_.push_back(section);
   }
 }
@@ -64,12 +60,10 @@ std::uint32_t PeFile::statedResources(std::uint64_t optionalHeader, std::uint64_
   return reader_.u32(optionalHeader + directory);
 }
 
-// The bytes of a section can be more in the file than in memory; another section's memory comes first.
-const PeFile::Section* PeFile::sectionOf(std::uint32_t address) const {
+void PeFile::mapSections() {
   for (const auto size : {&Section::memorySize, &Section::fileSize})
-    for (const Section& section : sections_)
-      if (isWithin(address, section.address, section.*size)) return &section;
-  return nullptr;
+    for (std::size_t i = 0; i < sections_.size(); ++i) addresses_.add(sections_[i].address, sections_[i].*size, i);
+  addresses_.build();
 }
 
 ResourcePlace PeFile::partInFile(std::uint64_t offset, std::uint64_t size) const {
@@ -79,10 +73,11 @@ ResourcePlace PeFile::partInFile(std::uint64_t offset, std::uint64_t size) const
 }
 
 ResourcePlace PeFile::placeOf(std::uint32_t address, std::uint32_t size) const {
-  if (const Section* const section = sectionOf(address)) {
-    const std::uint32_t within = address - section->address;
-    const std::uint32_t rest = section->fileSize - std::min(within, section->fileSize);
-    return partInFile(std::uint64_t{section->offset} + within, std::min(size, rest));
+  if (const auto found = addresses_.find(address)) {
+    const Section& section = sections_[*found];
+    const std::uint32_t within = address - section.address;
+    const std::uint32_t rest = section.fileSize - std::min(within, section.fileSize);
+    return partInFile(std::uint64_t{section.offset} + within, std::min(size, rest));
   }
   // The headers are in memory as they are in the file; a file without sections is so as a whole.
   const bool isHeader = sections_.empty() || address < headersSize_;

@@ -2,6 +2,7 @@
 // resources begin.
 #pragma once
 
+#include "platform/resources/AddressMap.h"
 #include "platform/resources/IconLibrary.h"
 #include "platform/resources/SourceReader.h"
 
@@ -32,11 +33,13 @@ class PeFile {
   void readSections(std::uint64_t table, int count);
   // The address that the headers state; 0 if they state none.
   std::uint32_t statedResources(std::uint64_t optionalHeader, std::uint64_t size) const;
-  const Section* sectionOf(std::uint32_t address) const;
+  // The bytes of a section can be more in the file than in memory; they come behind the memory of all sections.
+  void mapSections();
   ResourcePlace partInFile(std::uint64_t offset, std::uint64_t size) const;
 
   SourceReader& reader_;
   std::vector<Section> sections_;
+  AddressMap addresses_;  // of the sections
   std::uint32_t headersSize_ = 0;
   std::uint32_t resources_ = 0;
 };

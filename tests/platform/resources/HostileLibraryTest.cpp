@@ -123,6 +123,13 @@ TEST(HostileLibrary, OnlyThreeLevelsAreFollowed) {
   EXPECT_LE(source.reads(), 2u);
 }
 
+TEST(HostileLibrary, ADirectoryBelowTheLanguagesIsNoData) {
+  Bytes section = ResourceSection({groupOf(1, {{16, 16}})}, 0x2000).bytes();
+  ASSERT_GT(ParsedLibrary(peFile(section))->groups().at(0).place.size, 0u);
+  set32(section, 48 + 16 + 4, directoryAt(3 * 24));
+  EXPECT_EQ(ParsedLibrary(peFile(section))->groups().at(0).place.size, 0u);
+}
+
 TEST(HostileLibrary, CountsThatDoNotFitAreThoseOfTheBytes) {
   Bytes section;
   putDirectory(section, {{14, directoryAt(24)}});
@@ -157,25 +164,49 @@ TEST(HostileLibrary, SharedNamesStayWithinTheirMemory) {
   const Bytes file = peFile(section);
   restartPeakMemory();
   const std::size_t before = peakMemory();
-  const std::size_t groups = IconLibrary::parse(MemorySource(file))->groups().size();
-  EXPECT_GT(groups, 50u);
-  EXPECT_LE(groups, 100u);
+  const MemorySource source(file);
+  const auto library = IconLibrary::parse(source);
+  EXPECT_GT(library->groups().size(), 50u);
+  EXPECT_LE(library->groups().size(), 100u);
+  for (const IconGroup& group : library->groups()) EXPECT_FALSE(group.name.empty());
   EXPECT_LT(peakMemory() - before, 64 * kMegabyte);
 }
 
-// 131070 names, twice the most that are kept.
-TEST(HostileLibrary, AsManyGroupsAsThereAreNumbersAreKept) {
+// 65535 names and as many numbers, nearly twice the most that are kept.
+TEST(HostileLibrary, OfTooManyGroupsTheFirstAreKept) {
   Entries names;
-  for (std::uint32_t i = 0; i < 131070; ++i) names.emplace_back(i, 0);
+  const std::uint32_t texts = 32 + 16 + 131070 * 8;
+  for (std::uint32_t i = 0; i < 65535; ++i) names.emplace_back(directoryAt(texts + 4 * i), 0);
+  for (std::uint32_t i = 0; i < 65535; ++i) names.emplace_back(i, 0);
   Bytes section;
   putDirectory(section, {{3, directoryAt(32)}, {14, directoryAt(32)}});
   putDirectory(section, names, 65535);
+  for (std::uint32_t i = 0; i < 65535; ++i) put16(section, 1), put16(section, i);
   const Bytes file = peFile(section);
   restartPeakMemory();
   const std::size_t before = peakMemory();
-  const auto library = IconLibrary::parse(MemorySource(file));
-  EXPECT_EQ(library->groups().size(), 65536u);
+  const MemorySource source(file);
+  const auto library = IconLibrary::parse(source);
+  ASSERT_EQ(library->groups().size(), 65536u);
+  EXPECT_EQ(library->groups().back().label(), "#0");
   EXPECT_LT(peakMemory() - before, 64 * kMegabyte);
+}
+
+// As many sections as a file can state, for as many resources: neither multiplies the cost of the other.
+TEST(HostileLibrary, EverySectionIsSearchedOnce) {
+  Entries names;
+  const std::uint32_t data = 32 + 16 + 65535 * 8;
+  for (std::uint32_t i = 0; i < 65535; ++i) names.emplace_back(i, data);
+  Bytes section;
+  putDirectory(section, {{3, directoryAt(32)}, {14, directoryAt(32)}});
+  putDirectory(section, names);
+  put32(section, 0x2000), put32(section, 8), put32(section, 0), put32(section, 0);
+  PeOptions options;
+  options.headersSize = 0x300000;
+  options.before.assign(65534, PeSection{"", 0x10000000, {}, 0x1000, 0, 0});
+  const ParsedLibrary library(peFile(section, options));
+  ASSERT_EQ(library->groups().size(), 65535u);
+  EXPECT_EQ(library->groups().back().place.size, 8u);
 }
 
 // 400 groups that name one image of 1 MB 200 times.

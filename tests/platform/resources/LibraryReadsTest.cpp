@@ -26,6 +26,11 @@ std::vector<Resource> manyIcons() {
   return resources;
 }
 
+void write(const std::string& path, const Bytes& file) {
+  std::ofstream(path, std::ios::binary)
+      .write(reinterpret_cast<const char*>(file.data()), static_cast<std::streamsize>(file.size()));
+}
+
 TEST(LibraryReads, OfALargeProgramOnlyHeadersAndDirectoriesAreRead) {
   PeOptions options{.address = 0x200000};
   options.before = {{".text", 0x1000, Bytes(kMegabyte, 0xCC), {}, {}, {}}};
@@ -72,8 +77,7 @@ TEST(LibraryReads, AFileThatBecomesShorterGivesFewerBytes) {
   const TempFolder folder;
   const std::string path = folder.path() + "/program";
   const Bytes file = peWith({iconOf(1, numbered(500)), groupOf(1, {{32, 32}})});
-  std::ofstream(path, std::ios::binary)
-      .write(reinterpret_cast<const char*>(file.data()), static_cast<std::streamsize>(file.size()));
+  write(path, file);
   const auto library = IconLibrary::open(path);
   ASSERT_TRUE(library);
   const ResourcePlace place = library->imagesOf(library->groups().at(0)).at(0).place;
@@ -82,6 +86,19 @@ TEST(LibraryReads, AFileThatBecomesShorterGivesFewerBytes) {
   std::filesystem::resize_file(path, 0);
   EXPECT_TRUE(library->bytesAt(place).empty());
   EXPECT_TRUE(library->imagesOf(library->groups().at(0)).empty());
+}
+
+// An installer with its content behind the program, in a file with a hole.
+TEST(LibraryReads, AnInstallerCanHaveAnySize) {
+  const TempFolder folder;
+  const std::string path = folder.path() + "/setup.exe";
+  const Bytes file = peWith({iconOf(1, numbered(500)), groupOf(1, {{32, 32}})}, {.fileSize = 0xFFFFFFFF});
+  write(path, file);
+  std::filesystem::resize_file(path, std::uintmax_t{5} << 30);
+  const auto library = IconLibrary::open(path);
+  ASSERT_TRUE(library);
+  ASSERT_EQ(library->groups().size(), 1u);
+  EXPECT_EQ(library->bytesAt(library->imagesOf(library->groups()[0]).at(0).place), numbered(500));
 }
 
 TEST(LibraryReads, WhatIsNoFileIsNotOpened) {

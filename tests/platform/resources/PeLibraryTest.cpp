@@ -123,7 +123,14 @@ TEST(PeLibrary, WithoutAUsableDirectoryTheSectionIsFoundByItsName) {
   expectTwoGroups(ParsedLibrary(peWith(twoGroups(), {.directoryAddress = 0})), "no address");
   expectTwoGroups(ParsedLibrary(peWith(twoGroups(), {.directoryAddress = 0xFFFFFF00})), "outside");
   EXPECT_EQ(ParsedLibrary(peWith(twoGroups(), {.name = "other", .directoryCount = 0})).groups(), "");
-  Bytes unknownMagic = peWith(twoGroups());
+  // A count of 2 ends before the directory of the resources.
+  PeOptions decoy{.directoryCount = 2, .directoryAddress = 0x8000};
+  decoy.before = {{"decoy", 0x8000, ResourceSection({groupOf(66, {})}, 0x8000).bytes(), {}, {}, {}}};
+  expectTwoGroups(ParsedLibrary(peWith(twoGroups(), decoy)), "a directory that does not count");
+  Bytes unknownMagic = peWith(twoGroups(), {.name = "other"});
+  set16(unknownMagic, kPeHeader + 24, 0x107);
+  EXPECT_EQ(ParsedLibrary(unknownMagic).groups(), "");
+  unknownMagic = peWith(twoGroups());
   set16(unknownMagic, kPeHeader + 24, 0x107);
   expectTwoGroups(ParsedLibrary(unknownMagic), "another optional header");
 }
