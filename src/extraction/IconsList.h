@@ -39,7 +39,7 @@ class IconsList {
   void finish();
   // Close: asks about an unsaved icon that came from the list. False when the list is to stay.
   bool mayClose();
-  // For a command that wants the panel: "You are already in ... session."; empty without a list.
+  // For a command that needs the side panel: "You are already in ... session."; empty without a list.
   std::string sessionMessage() const;
 
   // The view has another size.
