@@ -15,21 +15,23 @@ MOST_LEVELS = 20
 class ListDesk(PanelDesk):
     # Folders ---------------------------------------------------------------------------------------------------------
 
-    def chooseFolder(self, path):
-        """Goes to a folder in the folder dialog by keys, and accepts it."""
+    def chooseFolder(self, path, isEmpty=False):
+        """Goes to a folder in the folder dialog by keys, and accepts it; `isEmpty` also that it has no files."""
         self.waitForForm('Directory dialog')
         for _ in range(MOST_LEVELS):
             here = self.program.value('Selected folder')
             if here == path:
                 break
             if path.startswith(here.rstrip(os.sep) + os.sep):
-                self.session.type(os.path.relpath(path, here).split(os.sep)[0])
-                self.session.keys('Return')
+                folders = sorted((entry.name for entry in os.scandir(here) if entry.is_dir()), key=str.lower)
+                self.session.keys(*['Down'] * (folders.index(os.path.relpath(path, here).split(os.sep)[0]) + 1), 'Return')
             else:
                 self.session.keys('BackSpace')
             self.program.wait(lambda: self.program.value('Selected folder') != here, f'another folder than {here}')
         assert self.program.value('Selected folder') == path
         self.session.keys('alt+o')
+        if isEmpty:
+            self.program.answerBox('There is no', 'alt+y')
         self.waitForNoForm('Directory dialog')
 
     # The list --------------------------------------------------------------------------------------------------------
