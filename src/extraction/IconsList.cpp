@@ -223,7 +223,8 @@ void IconsList::take(int cell, ListButton button) {
 void IconsList::show(PickResult result, int cell, ListButton button) {
   if (result == PickResult::Taken && button == ListButton::Right) return context_.editor.showPanel(kColorPanel);
   if (result != PickResult::Invalid) return;
-  invalid_.at(static_cast<std::size_t>(pages_.firstEntry() + cell)) = true;
+  const int entry = pages_.firstEntry() + cell;
+  invalid_.at(static_cast<std::size_t>(entry)) = true;
   cells_.at(static_cast<std::size_t>(cell)).valid = false;
   notify();
 }

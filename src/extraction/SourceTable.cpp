@@ -90,7 +90,7 @@ void remember(ProcessValues& process, const std::string& path) {
 }
 
 std::string askForFolder(FilesContext& context) {
-  const std::string folder = context.dialog.chooseFolder(kFolderPattern, context.process.mLastFolder);
+  std::string folder = context.dialog.chooseFolder(kFolderPattern, context.process.mLastFolder);
   if (!folder.empty()) context.process.mLastFolder = isSeparator(folder.back()) ? folder : folder + "/";
   return folder;
 }
@@ -102,7 +102,7 @@ std::string askForLibrary(FilesContext& context, const SourceRow& row) {
   options.fileName = library;
   options.filter = row.filter;
   options.initialFolder = context.process.gSystemDir;
-  const std::string path = context.dialog.ShowOpen(options);
+  std::string path = context.dialog.ShowOpen(options);
   remember(context.process, path);
   return path;
 }

@@ -20,6 +20,9 @@ class IconsListSafety : public IconsListProgram {
     expectSaveQuestion(BoxAnswer::No);
     openLibrary();
   }
+  void openLibraryIfClosed() {
+    if (!isListUp()) openLibrary();
+  }
   void expectShown(int n) {
     EXPECT_FALSE(panel.displayWaits());
     EXPECT_EQ(shown(), large(n));
@@ -93,6 +96,20 @@ TEST_F(IconsListSafety, ThePressThatShowsTheIconDrawsNothing) {
   shell.drawing().tools.release(at(4, 4));
   EXPECT_FALSE(state.current().modified);
   EXPECT_EQ(state.picImage.GetPixel(3, 3), large(2));
+}
+
+TEST_F(IconsListSafety, ThePressThatShowsTheIconPicksNoColor) {
+  click("mnuFileSub", 2);
+  openLibrary();
+  click("mnuPaletteSub", 1);
+  shell.chooseColorPicker();
+  ASSERT_TRUE(shell.colour().selection.isPickerSelected());
+  const Color before = state.mCurrentColor;
+  openLibraryIfClosed();
+  clickCell(2);
+  paint(3, 3);
+  expectShown(2);
+  EXPECT_EQ(state.mCurrentColor, before);
 }
 
 TEST_F(IconsListSafety, ToolsZoomAndResizeShowTheIcon) {
