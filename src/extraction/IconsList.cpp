@@ -273,6 +273,11 @@ std::string IconsList::countLabel() const {
   return "Icons  " + std::to_string(shown) + " / " + std::to_string(pages_.entries());
 }
 
+std::string IconsList::wholeLabel(int cell) const {
+  if (source_->isOneFile()) return cells_.at(static_cast<std::size_t>(cell)).label;
+  return std::filesystem::path(source_->fileOf(pages_.firstEntry() + cell)).filename().string();
+}
+
 std::string IconsList::spokenMark() const {
   if (markedCell_ < 0 || !source_) return {};
   const int entry = pages_.firstEntry() + markedCell_;

@@ -68,6 +68,8 @@ class IconsList {
   const ListGrid& grid() const { return grid_; }
   // The cells of the panel, at most kCellsOnPanel.
   const std::vector<ListCell>& cells() const { return cells_; }
+  // What a cell shows in short: the name of its file, or its label where all icons are in one file.
+  std::string wholeLabel(int cell) const;
   // The marked cell of the panel; -1 without one.
   int markedCell() const { return markedCell_; }
   int scrollValue() const { return pages_.scrollValue(); }
