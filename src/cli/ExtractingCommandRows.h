@@ -44,6 +44,24 @@ inline constexpr std::array kExtractingCommandRows = std::to_array<Command>({
              "--index one, as NAME_INDEX.ico; NAME, DIR, --force and --max-size are as with unpack.",
      .example = "scan old.icl -d icons",
      .run = runScan},
+    {.name = "find",
+     .usage = "find FOLDER [--recursive] [--pattern LIST] [--jobs N]\n"
+              "            | FOLDER -d DIR [--recursive] [--pattern LIST] [--small] [--serial] [--max N]\n"
+              "            [--jobs N] [--force]",
+     .summary = "the programs of a folder that have icons, and their icons",
+     .help = "Prints one line for each file of FOLDER with icons inside, parted by a tab: file and\n"
+             "number of icons. LIST has the patterns of the names, \"*.exe\" if not given, in any case.\n"
+             "With --recursive, the folders in it come first, from the last to the first; links to\n"
+             "folders are not followed. Files without icons and folders that cannot be read are\n"
+             "passed over.\n"
+             "With -d, saves the icons as the editor does, one picture of 32x32 each, or 16x16 with\n"
+             "--small: BASE<i>_x.ico with BASE of the program's name and i from 0, or with --serial\n"
+             "<n>_BASE.ico with n from 0 over all of them. DIR must be there. At most N are saved\n"
+             "with --max. Files that are there already, and a second program of one name, are kept\n"
+             "and complained of; --force replaces the former. The last line is \"Total: N icons\".\n"
+             "--jobs is as with extract.",
+     .example = "find ~/.wine --recursive --pattern \"*.exe;*.dll\" -d icons --serial",
+     .run = runFind},
 });
 
 }  // namespace gp::cli

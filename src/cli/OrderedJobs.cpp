@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <atomic>
-#include <condition_variable>
 #include <cstdio>
-#include <mutex>
 #include <thread>
 
 namespace gp::cli {
@@ -15,27 +13,19 @@ constexpr int kMostJobs = 64;
 
 }  // namespace
 
-// Whose turn it is to print. Items are begun in their order, so that the one whose turn it is is always under way.
-class Turns {
- public:
-  void await(std::size_t item) {
-    std::unique_lock lock(mutex_);
-    changed_.wait(lock, [&] { return next_ == item; });
-  }
-  void end(std::size_t item) {
-    await(item);
-    {
-      const std::lock_guard lock(mutex_);
-      ++next_;
-    }
-    changed_.notify_all();
-  }
+void Turns::await(std::size_t item) {
+  std::unique_lock lock(mutex_);
+  changed_.wait(lock, [&] { return next_ == item; });
+}
 
- private:
-  std::mutex mutex_;
-  std::condition_variable changed_;
-  std::size_t next_ = 0;
-};
+void Turns::end(std::size_t item) {
+  await(item);
+  {
+    const std::lock_guard lock(mutex_);
+    ++next_;
+  }
+  changed_.notify_all();
+}
 
 void ItemOutput::print(std::string_view text) {
   text_ += text;

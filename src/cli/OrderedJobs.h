@@ -4,8 +4,10 @@
 #include "cli/Console.h"
 #include "cli/Json.h"
 
+#include <condition_variable>
 #include <cstddef>
 #include <functional>
+#include <mutex>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -13,7 +15,19 @@
 
 namespace gp::cli {
 
-class Turns;
+// Whose turn it is. Items are begun in their order, so that the one whose turn it is is always under way.
+class Turns {
+ public:
+  // Waits until all items before this one have ended their turn.
+  void await(std::size_t item);
+  // Each item ends its turn once.
+  void end(std::size_t item);
+
+ private:
+  std::mutex mutex_;
+  std::condition_variable changed_;
+  std::size_t next_ = 0;
+};
 
 // What one item gives. It is kept until all items before it are printed, but no more than about a megabyte of it: a
 // longer one waits for its turn.

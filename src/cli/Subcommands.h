@@ -18,6 +18,7 @@ int runShow(const Arguments& arguments);
 int runUnpack(const Arguments& arguments);
 int runSplit(const Arguments& arguments);
 int runExtract(const Arguments& arguments);
+int runFind(const Arguments& arguments);
 int runScan(const Arguments& arguments);
 int runBmp(const Arguments& arguments);
 int runShades(const Arguments& arguments);
