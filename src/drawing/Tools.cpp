@@ -57,9 +57,8 @@ ToolMouse Tools::toolMouse(const MouseInput& mouse) const {
 
 void Tools::press(const MouseInput& mouse) {
   if (iconsPanel_.isHeld()) return;
-  // The first press only shows the icon that waits; its release draws nothing either.
-  isPressIdle_ = mouse.button == kLeftButton && iconsPanel_.showWaitingIcon();
-  if (isPressIdle_) return;
+  // The first press only shows the icon that waits. No tool is selected while the Icons List is open.
+  if (mouse.button == kLeftButton && iconsPanel_.showWaitingIcon()) return;
   if (mouse.button != kLeftButton) {
     display_.showPopUpMenu();
     return;
@@ -74,7 +73,7 @@ void Tools::move(const MouseInput& mouse) {
   const unsigned move = ++moves_;
   // Every key counts, so that the next one must not overtake it. Of the mouse only the last position does.
   if (!mouse.byKeyboard) context_.pump.pump();
-  if (!state_.current().present || isPressIdle_ || iconsPanel_.isHeld() || iconsPanel_.displayWaits()) return;
+  if (!state_.current().present || iconsPanel_.isHeld() || iconsPanel_.displayWaits()) return;
   // The mouse has moved on during the pump: what is dragged is there already. A freehand stroke takes each position.
   const bool isFreehand = drawState_.isStroke() && !isHeld();
   if (move != moves_ && !isFreehand) return;
@@ -98,7 +97,7 @@ void Tools::leave() {
 
 void Tools::release(const MouseInput& mouse) {
   drawState_.mPainting = drawState_.mErasing = drawState_.mRestoring = false;
-  if (iconsPanel_.isHeld() || iconsPanel_.displayWaits() || std::exchange(isPressIdle_, false)) return;
+  if (iconsPanel_.isHeld() || iconsPanel_.displayWaits()) return;
   if (!state_.current().present) return;
   locate(mouse);
   if (state_.screen.mActivePanel == kCursorPanel) {

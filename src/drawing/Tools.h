@@ -106,7 +106,6 @@ class Tools {
   unsigned moves_ = 0;  // how often the mouse or the keyboard has moved
   float lastX_ = 0;     // the pointer's last position, Editing Area pixels
   float lastY_ = 0;
-  bool isPressIdle_ = false;  // the last press has only shown an icon
 };
 
 enum class SnapMode { CellCentre = 1, NearestCorner = 2 };

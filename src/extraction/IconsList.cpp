@@ -91,6 +91,8 @@ void IconsList::replaceList(OpenedList opened, const std::string& path) {
   row_ = opened.row;
   source_ = std::move(opened.source);
   mListFolder_ = path;
+  // The user has just been asked about its icon.
+  filledContainer_ = context_.state.mCurContainer;
   invalid_.assign(static_cast<std::size_t>(source_->count()), false);
   pages_.fill(source_->count());
   markedCell_ = -1;
@@ -215,15 +217,17 @@ void IconsList::take(int cell, ListButton button) {
   markedCell_ = cell;
   notify();
   const unsigned serial = serial_;
-  if (!mayIconBeReplaced(context_) || serial_ != serial) return;
+  if (!mayIconBeReplaced(context_, filledContainer_) || serial_ != serial) return;
   const PickResult result = pick.run(button);
+  if (result == PickResult::Taken) filledContainer_ = context_.state.mCurContainer;
   if (serial_ == serial) show(result, cell, button);
 }
 
 void IconsList::show(PickResult result, int cell, ListButton button) {
   if (result == PickResult::Taken && button == ListButton::Right) return context_.editor.showPanel(kColorPanel);
   if (result != PickResult::Invalid) return;
-  invalid_.at(static_cast<std::size_t>(pages_.firstEntry() + cell)) = true;
+  const int entry = pages_.firstEntry() + cell;
+  invalid_.at(static_cast<std::size_t>(entry)) = true;
   cells_.at(static_cast<std::size_t>(cell)).valid = false;
   notify();
 }
@@ -267,6 +271,11 @@ std::string IconsList::sourceLabel() const { return row_ ? " " + mListFolder_ : 
 std::string IconsList::countLabel() const {
   const int shown = pages_.panelCount() == 1 ? pages_.entries() : pages_.mListOnPanel();
   return "Icons  " + std::to_string(shown) + " / " + std::to_string(pages_.entries());
+}
+
+std::string IconsList::wholeLabel(int cell) const {
+  if (source_->isOneFile()) return cells_.at(static_cast<std::size_t>(cell)).label;
+  return std::filesystem::path(source_->fileOf(pages_.firstEntry() + cell)).filename().string();
 }
 
 std::string IconsList::spokenMark() const {

@@ -39,7 +39,7 @@ class IconsList {
   void finish();
   // Close: asks about an unsaved icon that came from the list. False when the list is to stay.
   bool mayClose();
-  // For a command that wants the panel: "You are already in ... session."; empty without a list.
+  // For a command that needs the side panel: "You are already in ... session."; empty without a list.
   std::string sessionMessage() const;
 
   // The view has another size.
@@ -68,6 +68,8 @@ class IconsList {
   const ListGrid& grid() const { return grid_; }
   // The cells of the panel, at most kCellsOnPanel.
   const std::vector<ListCell>& cells() const { return cells_; }
+  // What a cell shows in short: the name of its file, or its label where all icons are in one file.
+  std::string wholeLabel(int cell) const;
   // The marked cell of the panel; -1 without one.
   int markedCell() const { return markedCell_; }
   int scrollValue() const { return pages_.scrollValue(); }
@@ -115,7 +117,8 @@ class IconsList {
   std::vector<ListCell> cells_;
   std::vector<bool> invalid_;  // by entry
   int markedCell_ = -1;
-  bool isRedrawn_ = false;  // the panel that is being drawn gives way to another one
+  int filledContainer_ = 0;  // whose icon the next pick replaces without a question
+  bool isRedrawn_ = false;   // the panel that is being drawn gives way to another one
   bool isOpening_ = false;
   bool isTaking_ = false;
 };

@@ -49,10 +49,11 @@ int movedMark(ListMove move, int entry, int first, int shown) {
   }
 }
 
-bool mayIconBeReplaced(const FilesContext& context) {
+bool mayIconBeReplaced(const FilesContext& context, int filled) {
   context.document.iconsPanel.CommitPendingPaint();
   const IconContainerRec& record = context.state.current();
-  if (isUnsavedExtraction(record) && !record.modified) return true;
+  const bool isLastPick = context.state.mCurContainer == filled && isUnsavedExtraction(record);
+  if (isLastPick && !record.modified) return true;
   return mayCurrentIconGo(context);
 }
 

@@ -20,9 +20,9 @@ enum class PickResult { Taken, NotTaken, Invalid };
 // leaves the mark where it is if that is in another column.
 int movedMark(ListMove move, int entry, int first, int shown);
 
-// Asks about the icon in the current container. An icon that came from the list and was not changed since gives way
-// without a question.
-[[nodiscard]] bool mayIconBeReplaced(const FilesContext& context);
+// Asks about the icon in the current container. If that is `filled`, the container that the list has filled last, an
+// icon that came from the list and was not changed since gives way without a question.
+[[nodiscard]] bool mayIconBeReplaced(const FilesContext& context, int filled);
 
 // GET_FROM_ICONLIST_TO_PANEL, for one entry.
 class ListPick {

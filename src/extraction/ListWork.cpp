@@ -24,6 +24,7 @@ bool ListWork::run(int count, const std::function<bool(int)>& step) {
     const IconsPanel::Hold hold(context_.document.iconsPanel);
     const Hourglass hourglass(context_);
     context_.editor.UpdateCommands();
+    context_.display.changed(DisplayPart::SidePanel);
     isWhole = runSteps(count, step);
     showProgress(kHidden);
   }

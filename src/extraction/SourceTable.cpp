@@ -57,7 +57,7 @@ OpenedList listIcl(const FilesContext& context, const SourceRow& row, const std:
     const SourceRow& library = *findSource(kLargeIconsCommand);
     return library.list(context, library, path, icons);
   }
-  if (source->count() == 0) return {&row, nullptr, path + "\nNo 16x16, 24x24, 32x32 or 48x48 icon found in this file"};
+  if (source->count() == 0) return {&row, nullptr, "No 16x16, 24x24, 32x32 or 48x48 icon found in this file"};
   return {&row, std::move(source), {}};
 }
 
@@ -90,7 +90,7 @@ void remember(ProcessValues& process, const std::string& path) {
 }
 
 std::string askForFolder(FilesContext& context) {
-  const std::string folder = context.dialog.chooseFolder(kFolderPattern, context.process.mLastFolder);
+  std::string folder = context.dialog.chooseFolder(kFolderPattern, context.process.mLastFolder);
   if (!folder.empty()) context.process.mLastFolder = isSeparator(folder.back()) ? folder : folder + "/";
   return folder;
 }
@@ -102,7 +102,7 @@ std::string askForLibrary(FilesContext& context, const SourceRow& row) {
   options.fileName = library;
   options.filter = row.filter;
   options.initialFolder = context.process.gSystemDir;
-  const std::string path = context.dialog.ShowOpen(options);
+  std::string path = context.dialog.ShowOpen(options);
   remember(context.process, path);
   return path;
 }

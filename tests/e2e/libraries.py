@@ -2,6 +2,8 @@
 the numbers 1, 2, ... in their order."""
 import struct
 
+import icons
+
 RT_ICON, RT_GROUP_ICON = 3, 14
 GROUP_ENTRY = struct.Struct('<BBBBHHIH')
 LANGUAGE = 1033
@@ -9,10 +11,10 @@ SECTION_RVA, SECTION_OFFSET, HEADERS_BYTES = 0x1000, 0x200, 0x200
 PE_HEADER = 0x80
 
 
-def resourcesOf(icons):
+def resourcesOf(listed):
     """The images and the groups of icons: {number: bytes} for each."""
     images, groups = {}, {}
-    for number, entries in enumerate(icons, 1):
+    for number, entries in enumerate(listed, 1):
         directory = struct.pack('<HHH', 0, 1, len(entries))
         for entry in entries:
             images[len(images) + 1] = entry.image
@@ -54,9 +56,9 @@ def resourceSection(resources):
     return bytes(whole)
 
 
-def portableExecutable(icons):
+def portableExecutable(listed):
     """A library of the PE format, 32 bits, whose only section holds its resources."""
-    section = resourceSection(resourcesOf(icons))
+    section = resourceSection(resourcesOf(listed))
     raw = aligned(section, 0x200)
     dos = b'MZ' + bytes(0x3A) + struct.pack('<I', PE_HEADER)
     optional = struct.pack('<HBBIIIII', 0x10B, 0, 0, 0, len(raw), 0, 0, SECTION_RVA)
@@ -71,10 +73,10 @@ def portableExecutable(icons):
     return aligned(aligned(dos, PE_HEADER) + header, HEADERS_BYTES) + raw
 
 
-def newExecutable(icons, shift=4):
+def newExecutable(listed, shift=4):
     """A library of the NE format: its resource table has offsets and lengths in units of 2 ** shift bytes."""
     unit, header = 1 << shift, 0x40
-    resources = resourcesOf(icons)
+    resources = resourcesOf(listed)
     tableBytes = 2 + sum(8 + 12 * len(items) for items in resources.values()) + 2 + 1
     base = -(-(0x40 + header + tableBytes) // unit) * unit
     listing, content = struct.pack('<H', shift), b''
@@ -91,3 +93,8 @@ def newExecutable(icons, shift=4):
     struct.pack_into('<H', start, 0x24, header)  # the resource table
     start[0x36] = 2  # for Windows
     return (dos + bytes(start) + listing).ljust(base, b'\0') + content
+
+
+def motifs(count, bits=4):
+    """Icons of a large and a small image each."""
+    return [[icons.entryOf(icons.motif(size, bits, seed), bits) for size in (32, 16)] for seed in range(count)]

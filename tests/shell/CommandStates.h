@@ -231,7 +231,6 @@ inline const std::vector<CommandNeed> kCommandNeeds{
     {"mnuEnquiryCurrent", {9}, {kNeedsIcon, {[](const Facts& f, int) { return f.multiIconFile; }, ""}}},
     {"mnuEnquiryCurrent", {10}, {kNeedsIcon, {[](const Facts& f, int) { return f.alpha; }, ""}}},
     {"mnuEnquiryCurrent", {11}, {kNeedsIcon, {[](const Facts& f, int) { return f.cursor; }, ""}}},
-    {"mnuExtractSub", {0, 1, 2, 3, 4, 5, 7}, {}},
     {"mnuAlphaSub", {0, 1}, {kNeedsIcon}},
     {"mnuOptionsSubGrid", {0, 1, 2, 3, 4, 5, 6}, {}},
     {"mnuOptionsStartScreenSub", {0, 1, 2}, {}},

@@ -40,6 +40,24 @@ TEST_F(IconsListSafety, ClicksWithinTheListReplaceOneAnotherWithoutAQuestion) {
   }
 }
 
+TEST_F(IconsListSafety, AnIconThatWasCollectedInAnotherContainerIsAskedAbout) {
+  state.options.promptToSave = false;
+  openLibrary();
+  clickCell(0);
+  panel.SwitchContainer(1);
+  clickCell(1);
+  panel.SwitchContainer(0);
+  expectSaveQuestion(BoxAnswer::Cancel);
+  clickCell(2);
+  EXPECT_EQ(stored(0), large(0));
+  expectSaveQuestion(BoxAnswer::No);
+  clickCell(2);
+  EXPECT_EQ(stored(0), large(2));
+  EXPECT_EQ(stored(1), large(1));
+  clickCell(3);
+  EXPECT_EQ(stored(0), large(3)) << "the last one gives way without a question";
+}
+
 TEST_F(IconsListSafety, AnotherUnsavedIconIsAskedAbout) {
   click("mnuFileSub", 2);
   paint(3, 3);

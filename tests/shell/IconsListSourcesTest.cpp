@@ -221,6 +221,11 @@ TEST_F(IconsListSources, AFileWithoutFramesIsRefusedAndTheListIsEmpty) {
   EXPECT_EQ(drawnCells(), 2);
 }
 
+TEST_F(IconsListSources, SeventyFramesAreListedAtMost) {
+  extract(kAniCommand, writeAni(71));
+  EXPECT_EQ(list.countLabel(), "Icons  48 / 70");
+}
+
 TEST_F(IconsListSources, AFrameThatCannotBeDrawnIsInvalidAndTheOthersAreNot) {
   const std::string ani =
       folder.write("film.ani", aniOf(headerOf(3) + frameList({plainFrame(0), "no icon file", plainFrame(2)})));
@@ -331,7 +336,7 @@ TEST_F(IconsListSources, AScanShowsSizesAndBits) {
 
 TEST_F(IconsListSources, AScanThatFindsNothingSaysSo) {
   const std::string bad = folder.write("bad.icl");
-  boxes.expectTold(bad + "\nNo 16x16, 24x24, 32x32 or 48x48 icon found in this file", BoxIcon::Exclamation);
+  boxes.expectTold("No 16x16, 24x24, 32x32 or 48x48 icon found in this file", BoxIcon::Exclamation);
   extract(kIclCommand, bad);
   EXPECT_TRUE(list.cells().empty());
 }
@@ -346,7 +351,7 @@ TEST_F(IconsListSources, ALibraryWithMoreIconsThanTheScanFindsIsOffered) {
                                  "\n\nThe scan finds 0 icons in this file, which is a library of 2 icons.\n\n"
                                  "List the large icons of the library instead?";
     boxes.expectAsked(question, BoxAnswer::No);
-    boxes.expectTold(path + "\nNo 16x16, 24x24, 32x32 or 48x48 icon found in this file", BoxIcon::Exclamation);
+    boxes.expectTold("No 16x16, 24x24, 32x32 or 48x48 icon found in this file", BoxIcon::Exclamation);
     extract(kIclCommand, path);
     EXPECT_EQ(list.mListSource(), ListSource::IclScan);
     shell.cmdCancel();
@@ -424,12 +429,55 @@ TEST_F(IconsListSources, ADesktopThatIsNotThereOrEmptySaysSo) {
   EXPECT_EQ(list.countLabel(), "Icons  0 / 0");
 }
 
-TEST_F(IconsListSources, AnIconOfAnotherSizeIsNotTaken) {
+TEST_F(IconsListSources, AnIconWithoutAVisiblePixelIsInvalid) {
   const std::string path = folder.write("letter.txt");
   fileTypes.colors[path] = 0x123456;
   fileTypes.alpha = 0;
   extract(kFileTypeCommand, path);
-  EXPECT_FALSE(list.cells()[0].valid);  // nothing of it is visible
+  EXPECT_FALSE(list.cells()[0].valid);
+}
+
+TEST_F(IconsListSources, AnIconOfTheDesktopWithAnotherSizeIsNotTaken) {
+  const std::string path = folder.write("letter.txt");
+  fileTypes.colors[path] = 0x123456;
+  fileTypes.givenSize = 20;
+  extract(kFileTypeCommand, path);
+  boxes.expectTold(path + "\nWidth and height of this image not 16x16, 24x24, 32x32 or 48x48", BoxIcon::Exclamation);
+  clickCell(0);
+  EXPECT_FALSE(state.current().used);
+}
+
+// A question can let other events in.
+class ClosingBoxes : public ScriptedBoxes {
+ public:
+  std::function<void()> inside;  // at the next box
+
+  BoxAnswer show(const std::string& text, BoxButtons buttons, BoxIcon icon, BoxAnswer suggested) override {
+    if (auto action = std::exchange(inside, nullptr)) action();
+    return ScriptedBoxes::show(text, buttons, icon, suggested);
+  }
+};
+
+class IconsListEvents : public ListProgram<ProgramFixture<ClosingBoxes>> {};
+
+TEST_F(IconsListEvents, AListThatClosesDuringAQuestionBringsNoIcon) {
+  click("mnuFileSub", 2);
+  paint(3, 3);
+  expectSaveQuestion(BoxAnswer::No);
+  extract(kLargeCommand, writeLibrary(2));
+  expectSaveQuestion(BoxAnswer::No);
+  boxes.inside = [&] { shell.showPanel(kColorPanel); };
+  clickCell(1);
+  EXPECT_FALSE(isListUp());
+  EXPECT_EQ(state.picImage.GetPixel(3, 3), state.mCurrentColor);
+}
+
+TEST_F(IconsListEvents, NothingIsOpenedWhileADialogOfTheListIsOpen) {
+  const std::string path = writeLibrary(2);
+  dialogs.inside = [&] { click("mnuExtractSub", kSmallCommand); };
+  extract(kLargeCommand, path);
+  EXPECT_EQ(list.mListSource(), ListSource::LargeIcons);
+  EXPECT_EQ(dialogs.requests.size(), 1U);
 }
 
 }  // namespace

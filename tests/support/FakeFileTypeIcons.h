@@ -15,6 +15,7 @@ class FakeFileTypeIcons : public FileTypeIcons {
   // The colour of the icon of a path or name; others have none.
   std::map<std::string, Color> colors;
   std::uint8_t alpha = 255;             // of all pixels
+  int givenSize = 0;                    // instead of the size that is asked for; 0 for that one
   std::vector<std::string> askedFiles;  // in order
   std::vector<std::string> askedNames;
 
@@ -31,6 +32,7 @@ class FakeFileTypeIcons : public FileTypeIcons {
   std::optional<FileTypeIcon> icon(const std::string& key, int size) const {
     const auto found = colors.find(key);
     if (found == colors.end()) return std::nullopt;
+    if (givenSize > 0) size = givenSize;
     return FileTypeIcon{
         Surface(size, size, found->second),
         std::vector<std::uint8_t>(static_cast<std::size_t>(size) * static_cast<std::size_t>(size), alpha)};

@@ -112,6 +112,33 @@ TEST_F(LargeFonts, EachPanelShowsItsTextsWhole) {
   });
 }
 
+// Four rows of icons are visible in each font.
+TEST_F(LargeFonts, ThePanelsOfExtractionShowTheirTextsWhole) {
+  const std::string icons = folder.makeFolder("icons");
+  for (int i = 0; i < 60; ++i)
+    folder.write("icons/icon " + std::to_string(i) + ".ico", test::plainIconFile(i % 3 ? 32 : 16, i % 16));
+  folder.write("icons/bad.ico", "no icon");
+  const auto expectFits = [this](int panel) {
+    const auto* area = find(QString("fraPanel(%1)").arg(panel))->findChild<QScrollArea*>();
+    EXPECT_FALSE(area->verticalScrollBar()->isVisible());
+    EXPECT_LE(area->widget()->minimumSizeHint().width(), area->viewport()->width());
+  };
+  inEachFontAndTheme([&](int points, const char* theme) {
+    start();
+    form->resize(100, 100);
+    dialogs.paths = {icons};
+    trigger("mnuFileSub", 8);
+    look("icons-list", points, theme);
+    expectFits(kIconsListPanel);
+    const ListGrid& grid = shell.extraction().list.grid();
+    EXPECT_LE(grid.iconPlace(kCellsOnPage - 1).top + 32, grid.baseHeight());
+    shell.showPanel(SearchPanel::kNumber);
+    look("search", points, theme);
+    expectFits(SearchPanel::kNumber);
+    shell.showPanel(kColorPanel);
+  });
+}
+
 TEST_F(LargeFonts, ThePreviewWithAlphaEffectsShowsItsTextsWhole) {
   inEachFontAndTheme([this](int points, const char* theme) {
     start();

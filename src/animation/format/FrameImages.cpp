@@ -68,6 +68,7 @@ std::vector<FrameImageFacts> frameImages(Bytes file) {
 std::vector<FrameImageFacts> frameImagesToTry(Bytes file, int size) {
   const std::vector<FrameImageFacts> images = frameImages(file);
   std::vector<ImageTrait> traits;
+  traits.reserve(images.size());
   for (const FrameImageFacts& image : images) traits.push_back({image.width, image.height, image.bits, image.offset});
   std::vector<FrameImageFacts> tried;
   for (const std::size_t i : imagesToTry(traits, size)) tried.push_back(images[i]);

@@ -59,6 +59,7 @@ Surface maskOfAlpha(const IconImage& handle, int least) {
 std::optional<IconImage> libraryIcon(const IconLibrary& library, const IconGroup& group, int size) {
   const std::vector<GroupImage> images = imagesThere(library, group);
   std::vector<ImageTrait> traits;
+  traits.reserve(images.size());
   for (const GroupImage& image : images) traits.push_back({image.width, image.height, image.bits, image.place.offset});
   for (const std::size_t i : imagesToTry(traits, size))
     if (const auto decoded = decodeImage(imageBytes(library, images[i].place))) return handleOf(*decoded, size);

@@ -176,15 +176,16 @@ void IconsListSurface::keyPressEvent(QKeyEvent* event) {
     QWidget::keyPressEvent(event);
 }
 
-// The whole label of the cell under the pointer, where the cell shows only a part of it.
+// The whole text of the cell under the pointer, where the cell shows only a part of it.
 bool IconsListSurface::showLabelTip(const QPoint& position, const QPoint& globalPosition) {
   const QPoint at = onList(position);
   const int index = inside().contains(position) ? events_.list.grid().cellAt(at.x(), at.y()) : -1;
   const std::vector<ListCell>& cells = events_.list.cells();
   if (index < 0 || index >= static_cast<int>(cells.size())) return false;
   const ListCell& cell = cells[static_cast<std::size_t>(index)];
-  const QString whole = printable(toText(cell.label));
+  const QString whole = printable(toText(events_.list.wholeLabel(index)));
   if (!cell.isDrawn || shownLabel(cell, labelFont(font()), labelWidth(index)) == whole) return false;
+  // Escaped, because rich text would drop parts of a name that look like a tag.
   QToolTip::showText(globalPosition, whole.toHtmlEscaped(), this, cellRect(index));
   return true;
 }

@@ -14,6 +14,7 @@ constexpr std::uint64_t kResourceTable = 0x24, kNameTable = 0x26;
 constexpr std::uint64_t kTypeHeader = 8, kTypeCount = 2;
 constexpr std::uint64_t kResourceSize = 12, kLength = 2, kId = 6;
 constexpr int kMostShift = 31;
+constexpr std::uint64_t kMostTable = 1U << 20;  // more than all numbers of groups and images take
 constexpr std::uint16_t kNumbered = 0x8000;
 constexpr std::uint16_t kIconType = kNumbered | 3, kGroupType = kNumbered | 14;
 
@@ -24,7 +25,7 @@ class Table {
   void read() {
     if (shift_ > kMostShift) return;
     std::uint64_t at = start_ + 2;
-    while (reader_.contains(at, kTypeHeader)) {
+    while (at - start_ < kMostTable && reader_.contains(at, kTypeHeader)) {
       const std::uint16_t type = reader_.u16(at);
       if (type == 0) break;
       const int count = reader_.u16(at + kTypeCount);

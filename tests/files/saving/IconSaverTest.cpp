@@ -300,7 +300,7 @@ TEST_F(IconSaverTest, SaveAsOffersANameAndSaves) {
   rooms.clipboard.hold(Surface(4, 4, kWhite));
   rooms.drawing.clipboardCommands.doPaste(true);
   ASSERT_TRUE(state.mRegionExists && state.mPendingPaint);
-  state.screen.mActivePanel = kIconsListPanel;
+  state.screen.mActivePanel = kRotatePanel;
   const std::string path = folder.path("grin.ico");
   dialogs.paths = {path};
   saver.doSaveAs(SaveMode::Icon);

@@ -241,6 +241,25 @@ TEST(HostileLibrary, ResourcesCanOverlapAndBeMoreThanTheFile) {
   EXPECT_EQ(readAll(file), 2u);
 }
 
+TEST(HostileLibrary, AnNeTableIsNotLongerThanItsNumbersRequire) {
+  Bytes file = neWith({});
+  file.resize(kNeHeader + kNeTable + 2);
+  const auto addGroup = [&](std::uint32_t id) {
+    put16(file, 0x800E), put16(file, 1), put32(file, 0);
+    put32(file, 0), put16(file, 0), put16(file, 0x8000U | id), put32(file, 0);
+  };
+  addGroup(1);
+  while (file.size() < kMegabyte - 100) put16(file, 1), put16(file, 0), put32(file, 0);
+  addGroup(2);
+  while (file.size() < 3 * kMegabyte) put16(file, 1), put16(file, 0), put32(file, 0);
+  addGroup(3);
+  const CountingSource source(file);
+  const auto library = IconLibrary::parse(source);
+  ASSERT_EQ(library->groups().size(), 2u);
+  EXPECT_EQ(library->groups()[1].label(), "#2");
+  EXPECT_LE(source.bytes(), kMegabyte + 3 * 8192);
+}
+
 TEST(HostileLibrary, AnNeTableWithoutAnEndStopsAtThatOfTheFile) {
   Bytes file = neWith({});
   file.resize(kNeHeader + kNeTable + 2);
