@@ -34,7 +34,7 @@ MUTATIONS = {
     'ani': 7000, 'cur': 8000, 'ico': 4000, 'ico_browser': 12000, 'ico_check': 5000, 'ico_headers': 2500, 'ico_large': 1500,
     'ico_multi': 40000, 'ico_png': 12000, 'ico_rewrite': 4000, 'ini': 20000, 'pictures': 120000, 'pictures_qt': 30000, 'text': 60000,
     'ani_session': 1500, 'ani_xcursor': 20000, 'xcursor': 20000,
-    'library': 4500, 'scan': 11000,
+    'library': 4500, 'link': 60000, 'scan': 11000,
 }
 OTHER_MUTATIONS = 5000   # of a target that is not in the table
 LONGEST_INPUT = 65536
