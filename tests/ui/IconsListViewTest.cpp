@@ -362,6 +362,19 @@ TEST_F(IconsListDrawingTest, MouseAndKeysOfTheFormDoNothing) {
   EXPECT_TRUE(find("cmdInvokeFolderOrFileDialog")->hasFocus()) << "where it was";
 }
 
+// Otherwise the next control that is enabled, Close, would have it.
+TEST_F(IconsListDrawingTest, TheIconsHaveTheFocusMeanwhile) {
+  openFolder(100);
+  click("cmdPageRef(3)");
+  bool ran = false;
+  const std::function<void()> look = [this] { EXPECT_TRUE(surface()->hasFocus()); };
+  pump.inside = [&] { once(look, ran); };
+  click("cmdNextPage");
+  EXPECT_TRUE(ran);
+  EXPECT_EQ(list().panelItem(), 1);
+  EXPECT_TRUE(find("cmdNextPage")->hasFocus());
+}
+
 TEST_F(IconsListViewTest, LooksRightInBothThemes) {
   for (const char* theme : {"", "-dark"}) {
     QApplication::setPalette(*theme ? test::darkPalette() : QPalette());
