@@ -59,9 +59,10 @@ bool isNamedShellLink(const std::string& path) { return endsWithAnyCase(path, kL
 bool isNamedDesktopEntry(const std::string& path) { return endsWithAnyCase(path, kEntryEnding); }
 
 std::string localFile(const std::string& stored) {
-  if (stored.size() < 2 || (isSeparator(stored[0]) && isSeparator(stored[1]))) return {};
-  const std::string path = stored.front() == '/' ? stored : pathOnDrive(stored);
-  return !path.empty() && FileExists(path) ? path : std::string();
+  const std::string path = stored.starts_with('/') ? stored : pathOnDrive(stored);
+  // Two separators begin the path of a network.
+  const bool isLocal = path.size() > 1 && !isSeparator(path[1]);
+  return isLocal && FileExists(path) ? path : std::string();
 }
 
 void ResolveShortcut(const std::string& path, std::string& target) {

@@ -43,8 +43,8 @@ TEST_F(ShortcutFiles, OtherDrivesRelativePathsAndNetworksAreNot) {
   const std::string file = folder_.write("a.exe");
   for (const std::string& path :
        {onDrive(file, "C:"), onDrive(file, ""), "Z:" + file.substr(1), "/" + file, "\\" + onDrive(file, ""),
-        "\\\\?\\" + onDrive(file), "/\\" + file, "\\/" + file, std::string("a.exe"), std::string("Z:"),
-        std::string("/"), std::string(), "file://" + file, file + ".exe", "%HOME%" + file})
+        "\\\\?\\" + onDrive(file), "Z:/" + file, onDrive("/" + file), "/\\" + file, "\\/" + file, std::string("a.exe"),
+        std::string("Z:"), std::string("/"), std::string(), "file://" + file, file + ".exe", "%HOME%" + file})
     EXPECT_EQ(localFile(path), "") << path;
 }
 
