@@ -159,6 +159,7 @@ bool IconsList::stopDrawing() {
 
 void IconsList::setGrid(const ListGrid& grid) {
   grid_ = grid;
+  pages_.fit(grid_.scrollMaximum());
   notify();
 }
 

@@ -59,4 +59,11 @@ void ListPages::scrollTo(int value, int maximum) {
   currentPage_ = -1;
 }
 
+void ListPages::fit(int maximum) {
+  if (currentPage_ >= 0)
+    showPage(currentPage_, maximum);
+  else
+    scrollValue_ = std::min(scrollValue_, maximum);
+}
+
 }  // namespace gp

@@ -37,6 +37,8 @@ class ListPages {
   bool nextPage(int maximum);
   // The user moves the scroll bar: the view is between pages. mListBusy keeps the page while a button moves it.
   void scrollTo(int value, int maximum);
+  // The scroll bar has another maximum: the page that is seen stays.
+  void fit(int maximum);
 
  private:
   int pageBelow(int maximum) const;

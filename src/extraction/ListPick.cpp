@@ -90,8 +90,9 @@ PickResult ListPick::openFile(ListButton button) {
 PickResult ListPick::extract() {
   const FetchedIcon fetched = source_.fetch(entry_);
   if (fetched.icon) return storeExtractedIcon(*fetched.icon);
-  refuse(fetched.failure);
-  return source_.marksFailures() ? PickResult::Invalid : PickResult::NotTaken;
+  const PickResult failed = source_.marksFailures() ? PickResult::Invalid : PickResult::NotTaken;
+  refuse(fetched.failure);  // events during the message can close the list
+  return failed;
 }
 
 PickResult ListPick::storeExtractedIcon(const IconImage& icon) {

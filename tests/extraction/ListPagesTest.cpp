@@ -102,6 +102,18 @@ TEST(ListPages, ABarThatDoesNotMoveKeepsThePage) {
   EXPECT_EQ(pages.currentPage(), 0);
 }
 
+TEST(ListPages, APageStaysWhenThePaneChangesItsSize) {
+  ListPages pages = pagesOf(48);
+  pages.showPage(2, kMaximum);
+  pages.fit(600);
+  EXPECT_EQ(pages.currentPage(), 2);
+  EXPECT_EQ(pages.scrollValue(), 400);
+  pages.scrollTo(500, 600);
+  pages.fit(kMaximum);
+  EXPECT_EQ(pages.currentPage(), -1);
+  EXPECT_EQ(pages.scrollValue(), kMaximum);
+}
+
 TEST(ListPages, ANewPanelBeginsAtItsTop) {
   ListPages pages = pagesOf(100);
   pages.scrollTo(77, kMaximum);

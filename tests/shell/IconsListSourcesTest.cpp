@@ -1,7 +1,9 @@
 // The commands that open the Icons List: questions, dialogs, messages, and what each source shows and brings.
 #include "shell/IconsListFixture.h"
+#include "support/LinkBytes.h"
 #include "support/NeBytes.h"
 
+#include <algorithm>
 #include <filesystem>
 
 namespace gp::test {
@@ -415,6 +417,48 @@ TEST_F(IconsListSources, TheDesktopShowsItsFiles) {
   EXPECT_EQ(state.current().size, 32);
   EXPECT_EQ(stored(0), 0x102030);
   EXPECT_EQ(this->path(), path + "/letter_Extract");
+}
+
+// A shell link to a file of this machine.
+std::string linkTo(std::string path) {
+  constexpr std::uint32_t kHasInfo = 0x2;
+  std::ranges::replace(path, '/', '\\');
+  LinkBytes link(kHasInfo);
+  return asText(link.info("Z:" + path).bytes());
+}
+
+TEST_F(IconsListSources, AShellLinkCountsAsItsTarget) {
+  desktop();
+  const std::string target = folder.write("setup.exe");
+  fileTypes.colors[target] = 0x102030;
+  folder.write("desktop/a.lnk", linkTo(target));
+  click("mnuExtractSub", kDesktopCommand);
+  EXPECT_THAT(labels(), ElementsAre("setup"));
+  clickCell(0);
+  EXPECT_EQ(stored(0), 0x102030);
+  EXPECT_EQ(path(), folder.path() + "/setup_Extract");
+}
+
+TEST_F(IconsListSources, ALinkWithoutATargetHereCountsAsItself) {
+  const std::string path = desktop();
+  folder.write("desktop/gone.lnk", linkTo(folder.file("gone.exe")));
+  folder.write("desktop/link", linkTo(folder.write("setup.exe")));  // not named as a link
+  for (const char* name : {"gone.lnk", "link"}) fileTypes.colors[path + "/" + name] = 0x102030;
+  click("mnuExtractSub", kDesktopCommand);
+  EXPECT_THAT(labels(), ElementsAre("gone", "link"));
+  EXPECT_TRUE(list.cells()[0].valid && list.cells()[1].valid);
+}
+
+TEST_F(IconsListSources, ADesktopEntryHasTheIconThatItNames) {
+  const std::string path = desktop();
+  folder.write("desktop/a.desktop", "[Desktop Entry]\nName=Paint\nIcon=painter\nExec=never\n");
+  folder.write("desktop/b.desktop", "[Desktop Entry]\nIcon=unknown\n");
+  fileTypes.colors["painter"] = 0x112233;
+  fileTypes.colors[path + "/b.desktop"] = 0x445566;
+  click("mnuExtractSub", kDesktopCommand);
+  EXPECT_EQ(cellColor(0), 0x112233);
+  EXPECT_EQ(cellColor(1), 0x445566);
+  EXPECT_THAT(fileTypes.askedNames, ElementsAre("painter", "unknown"));
 }
 
 TEST_F(IconsListSources, ADesktopThatIsNotThereOrEmptySaysSo) {
