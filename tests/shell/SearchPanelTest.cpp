@@ -46,6 +46,20 @@ TEST_F(SearchProgram, TheCommandOpensThePanelOnce) {
   EXPECT_EQ(state.screen.mActivePanel, SearchPanel::kNumber);
 }
 
+TEST_F(SearchProgram, ASessionOfAnAnimatedCursorEndsAfterAQuestion) {
+  shell.closePanels();
+  click("mnuANIFileCreateOrEdit", kNoIndex);
+  shell.animation().session.openFile(writeAni(3));
+  boxes.expectAsked("Terminate animated cursor session?", BoxAnswer::No);
+  click("mnuExtractSub", kSearchCommand);
+  EXPECT_TRUE(state.screen.aniContainerVisible);
+  boxes.expectAsked("Terminate animated cursor session?", BoxAnswer::Yes);
+  click("mnuExtractSub", kSearchCommand);
+  EXPECT_FALSE(state.screen.aniContainerVisible);
+  EXPECT_EQ(shell.animation().session.frames().count(), 0);
+  EXPECT_EQ(state.screen.mActivePanel, SearchPanel::kNumber);
+}
+
 TEST_F(SearchProgram, BothFoldersAreNeeded) {
   search.setFolder(0, "  ");
   boxes.expectTold("Source directory not entered yet", BoxIcon::None);
@@ -156,6 +170,26 @@ TEST_F(SearchProgram, StopLeavesTheCountSoFarAndAnotherSearchStartsFromZero) {
   expectEnded(0);
   search.doSearchExtract();
   expectEnded(1);
+}
+
+// The events of the search come while icons are saved, whenever the machine gets to them.
+TEST_F(SearchProgram, StopInTheMiddleLeavesTheIconsThatAreSaved) {
+  constexpr int kIcons = 1000;
+  writeProgram("a.exe", kIcons);
+  search.setMaximum(std::to_string(2 * kIcons));
+  std::function<void()> stopAfterAnIcon = [&] {
+    if (search.mSearchCount() == 0)
+      pump.inside = stopAfterAnIcon;
+    else
+      search.cmdStopBrowse();
+  };
+  pump.inside = stopAfterAnIcon;
+  search.doSearchExtract();
+  const int saved = search.mSearchCount();
+  EXPECT_GT(saved, 0);
+  EXPECT_LT(saved, kIcons);
+  expectEnded(saved);
+  EXPECT_EQ(savedNames().size(), static_cast<std::size_t>(saved));
 }
 
 TEST_F(SearchProgram, WhileItRunsNothingChangesItsChoicesAndNoOtherOneStarts) {

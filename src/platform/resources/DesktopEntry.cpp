@@ -12,14 +12,15 @@ constexpr std::string_view kBlanks = " \t\r";
 
 std::string_view trimmed(std::string_view text) {
   const std::size_t first = text.find_first_not_of(kBlanks);
-  return first == text.npos ? std::string_view() : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+  return first == std::string_view::npos ? std::string_view()
+                                         : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
 // Removes the first line of the text and returns it.
 std::string_view takeLine(std::string_view& text) {
   const std::size_t end = text.find('\n');
   const std::string_view line = text.substr(0, end);
-  text.remove_prefix(end == text.npos ? text.size() : end + 1);
+  text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
   return trimmed(line);
 }
 
@@ -47,9 +48,9 @@ std::string iconOfDesktopEntry(std::span<const std::uint8_t> bytes) {
       isInGroup = line == kGroup;
     }
     const std::size_t sign = line.find('=');
-    if (!isInGroup || sign == line.npos || trimmed(line.substr(0, sign)) != kKey) continue;
+    if (!isInGroup || sign == std::string_view::npos || trimmed(line.substr(0, sign)) != kKey) continue;
     const std::string_view value = trimmed(line.substr(sign + 1));
-    return value.find('\0') == value.npos ? decoded(value) : std::string();
+    return value.find('\0') == std::string_view::npos ? decoded(value) : std::string();
   }
   return {};
 }
