@@ -1,4 +1,5 @@
-// fraPanel(20): the search for icons on the screen, by mouse and keyboard.
+// fraPanel(20): the search for icons on the screen, by mouse and keyboard, and while it runs.
+#include "document/PanelNumbers.h"
 #include "platform/qt/widgets/PanelFrame.h"
 #include "ui/FormFixture.h"
 
@@ -23,9 +24,10 @@ class SearchPanelViewTest : public test::FormFixture {
   QLineEdit* folderField(int i) { return find<QLineEdit>(QString("txbSearchExeDir(%1)").arg(i)); }
   QPushButton* proceed() { return inFrame<QPushButton>("cmdProceed"); }
   QPushButton* stop() { return find<QPushButton>("cmdStopBrowse"); }
+  QString progress() { return valueOf(inFrame("lblSearchExeDir(2)")); }
   void open() {
     start();
-    shell.showPanel(SearchPanel::kNumber);
+    find<QAction>("mnuExtractSub(7)")->trigger();
     settle();
   }
   void type(QLineEdit* field, const QString& text) {
@@ -33,6 +35,30 @@ class SearchPanelViewTest : public test::FormFixture {
     field->selectAll();
     QTest::keyClicks(field, text);
     settle();
+  }
+  // Opens the panel on a folder with programs without icons, and an empty target.
+  void openOnTree() {
+    open();
+    folder.makeFolder("tree/sub");
+    folder.makeFolder("out");
+    for (const char* name : {"tree/a.exe", "tree/b.exe", "tree/sub/c.exe"}) folder.write(name, "no program");
+    type(folderField(0), QString::fromStdString(folder.path()) + "/tree");
+    type(folderField(1), QString::fromStdString(folder.path()) + "/out");
+  }
+  // Runs `action` at the first pump of a search.
+  void whileSearching(const std::function<void()>& action) {
+    bool ran = false;
+    pump.inside = [&] { once(action, ran); };
+    click(proceed());
+    EXPECT_TRUE(ran) << "no pump in the search";
+  }
+  void once(const std::function<void()>& action, bool& ran) {
+    if (!search().isRunning()) {
+      pump.inside = [this, &action, &ran] { once(action, ran); };
+      return;
+    }
+    ran = true;
+    action();
   }
 };
 
@@ -59,6 +85,98 @@ TEST_F(SearchPanelViewTest, TheFieldsReachTheSearch) {
     click(QString("ckbExtractEXE(%1)").arg(i));
     EXPECT_TRUE(search().tick(i));
   }
+}
+
+TEST_F(SearchPanelViewTest, TheFolderButtonsAskForAFolder) {
+  open();
+  for (int i = 0; i < SearchPanel::kFolders; ++i) {
+    const std::string chosen = folder.makeFolder("chosen" + std::to_string(i));
+    dialogs.paths = {chosen};
+    click(QString("cmdInvokeSearchPath(%1)").arg(i));
+    EXPECT_EQ(folderField(i)->text().toStdString(), chosen);
+    EXPECT_EQ(search().folder(i), chosen);
+  }
+}
+
+TEST_F(SearchPanelViewTest, TheMaximumTakesDigitsAndGoesBackToTheLastValidNumber) {
+  open();
+  auto* maximum = find<QLineEdit>("txbMaxIcons");
+  type(maximum, "1x2-3");
+  EXPECT_EQ(maximum->text(), "123");
+  EXPECT_EQ(search().maximum(), 123);
+  type(maximum, "0");
+  folderField(0)->setFocus();
+  settle();
+  EXPECT_EQ(maximum->text().toInt(), search().maximum());
+  EXPECT_GT(search().maximum(), 0);
+  maximum->setFocus();
+  maximum->selectAll();
+  key(Qt::Key_Backspace);
+  EXPECT_EQ(maximum->text(), "") << "another number can be typed";
+  folderField(0)->setFocus();
+  settle();
+  EXPECT_EQ(maximum->text().toInt(), search().maximum());
+}
+
+TEST_F(SearchPanelViewTest, WithoutFoldersThereIsAMessage) {
+  open();
+  boxes.expectTold("Source directory not entered yet", BoxIcon::None);
+  key(Qt::Key_Return);
+  EXPECT_TRUE(boxes.done());
+  type(folderField(0), "/tmp");
+  boxes.expectTold("Save to directory not entered yet", BoxIcon::None);
+  click(proceed());
+  EXPECT_TRUE(boxes.done());
+}
+
+TEST_F(SearchPanelViewTest, WhileItRunsOnlyStopAndCloseCanBePressed) {
+  openOnTree();
+  whileSearching([this] {
+    EXPECT_TRUE(stop()->isVisible());
+    EXPECT_TRUE(stop()->isDefault());
+    EXPECT_TRUE(stop()->hasFocus()) << "Proceed had it";
+    EXPECT_FALSE(proceed()->isEnabled());
+    for (int i = 0; i < SearchPanel::kFolders; ++i) {
+      EXPECT_TRUE(folderField(i)->isReadOnly());
+      EXPECT_FALSE(indexed("cmdInvokeSearchPath", i)->isEnabled());
+    }
+    EXPECT_EQ(progress(), "In progress... (To halt click Stop)");
+  });
+  EXPECT_FALSE(stop()->isVisible());
+  EXPECT_TRUE(proceed()->isEnabled());
+  EXPECT_TRUE(proceed()->isDefault());
+  EXPECT_TRUE(proceed()->hasFocus());
+  EXPECT_FALSE(folderField(0)->isReadOnly());
+  EXPECT_EQ(progress(), "Total: 0 icons");
+  EXPECT_EQ(valueOf(inFrame("lblForExtendedFrame")), "");
+}
+
+TEST_F(SearchPanelViewTest, StopByMouseAndByKeyEndsTheSearchAndKeepsThePanel) {
+  openOnTree();
+  const std::function<void()> ways[] = {
+      [this] { QTest::mouseClick(stop(), Qt::LeftButton); },
+      [this] { QTest::keyClick(stop(), Qt::Key_Escape); },
+      [this] { QTest::keyClick(folderField(0), Qt::Key_Escape); },
+      [this] { QTest::keyClick(folderField(0), Qt::Key_Return); },
+      [this] { QTest::keyClick(stop(), Qt::Key_Space); },
+  };
+  for (const auto& way : ways) {
+    whileSearching([&] {
+      way();
+      EXPECT_FALSE(search().isRunning());
+    });
+    EXPECT_EQ(state.screen.mActivePanel, SearchPanel::kNumber);
+    EXPECT_TRUE(proceed()->isEnabled());
+  }
+  key(Qt::Key_Escape);
+  EXPECT_EQ(state.screen.mActivePanel, kColorPanel);
+}
+
+TEST_F(SearchPanelViewTest, ClosingThePanelStopsTheSearch) {
+  openOnTree();
+  whileSearching([this] { QTest::mouseClick(inFrame("cmdCancel"), Qt::LeftButton); });
+  EXPECT_FALSE(search().isRunning());
+  EXPECT_EQ(state.screen.mActivePanel, kColorPanel);
 }
 
 TEST_F(SearchPanelViewTest, EveryControlIsNamedAndTabFollowsTheEye) {
