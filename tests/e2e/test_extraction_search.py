@@ -28,11 +28,17 @@ def test_the_shortcuts_of_the_desktop_are_listed(session):
     desk.expectIcon(picture, 'the icon of the shortcut')
 
 
+def fill(desk, name, text):
+    """Clicks on a field and types."""
+    desk.program.press(name, role='text')
+    desk.program.typeInto(name, text, role='text')
+
+
 def startSearch(desk, source, target, *ticks):
     desk.program.menu('Extract', 'Search & Extract Icons From All EXE Files In Folder....')
     desk.waitForPanel(SEARCH)
-    desk.program.typeInto('Search in', source, role='text')
-    desk.program.typeInto('Save to', target, role='text')
+    fill(desk, 'Search in', source)
+    fill(desk, 'Save to', target)
     for tick in ticks:
         desk.program.press(tick, role='check box')
 
@@ -59,7 +65,7 @@ def test_a_tree_is_searched_and_its_icons_are_saved(session):
 
     other = session.path('other')
     os.mkdir(other)
-    desk.program.typeInto('Save to', other, role='text')
+    fill(desk, 'Save to', other)
     for tick in ('Incl Subdir', 'Small icons', 'Add serial prefix to file name'):
         desk.program.press(tick, role='check box')
     desk.program.press('Proceed')
@@ -80,7 +86,7 @@ def test_a_search_is_stopped_and_started_again(session):
     desk = ListDesk(session)
     desk.start()
     startSearch(desk, source, target)
-    desk.program.typeInto('Max', str(40 * count), role='text')
+    fill(desk, 'Max', str(40 * count))
     desk.program.press('Proceed')
     desk.program.wait(lambda: len(os.listdir(target)) > 40, 'the first icons')
     session.keys('Escape')
@@ -91,7 +97,7 @@ def test_a_search_is_stopped_and_started_again(session):
     assert desk.isUp(SEARCH)
 
     # The target has icon files now.
-    desk.program.typeInto('Max', '41', role='text')
+    fill(desk, 'Max', '41')
     desk.program.press('Proceed')
     box = desk.program.wait(desk.program.messageBox, 'the question about the files in the target')
     assert box

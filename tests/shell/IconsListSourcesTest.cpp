@@ -461,6 +461,26 @@ TEST_F(IconsListSources, ADesktopEntryHasTheIconThatItNames) {
   EXPECT_THAT(fileTypes.askedNames, ElementsAre("painter", "unknown"));
 }
 
+TEST_F(IconsListSources, AnIconFileThatADesktopEntryNamesIsReadAsAnyIcon) {
+  desktop();
+  const std::string own = folder.write("own.ico", asText(build(IcoFile{{plainEntry(32, {1, 2, 3})}, 0, 1, {}})));
+  folder.write("desktop/a.desktop", "[Desktop Entry]\nIcon=" + own + "\n");
+  click("mnuExtractSub", kDesktopCommand);
+  EXPECT_EQ(cellColor(0), colorOf({1, 2, 3}));
+  EXPECT_TRUE(fileTypes.askedNames.empty());
+}
+
+TEST_F(IconsListSources, AnIconOfTheDesktopThatHasGoneSaysSo) {
+  const std::string file = desktop() + "/a.txt";
+  folder.write("desktop/a.txt", "");
+  fileTypes.colors[file] = 0x445566;
+  click("mnuExtractSub", kDesktopCommand);
+  fileTypes.colors.clear();
+  boxes.expectTold(file + "\nUnable to retieve this one.", BoxIcon::Exclamation);
+  clickCell(0);
+  EXPECT_FALSE(state.current().used);
+}
+
 TEST_F(IconsListSources, ADesktopThatIsNotThereOrEmptySaysSo) {
   state.process.mDesktopFolder = "";
   boxes.expectTold("No desktop shortcut icon files found", BoxIcon::Exclamation);

@@ -1,6 +1,7 @@
 // fraPanel(20): the search for icons on the screen, by mouse and keyboard, and while it runs.
 #include "document/PanelNumbers.h"
 #include "platform/qt/widgets/PanelFrame.h"
+#include "support/PeBytes.h"
 #include "ui/FormFixture.h"
 
 #include <QCheckBox>
@@ -153,6 +154,8 @@ TEST_F(SearchPanelViewTest, WhileItRunsOnlyStopAndCloseCanBePressed) {
 
 TEST_F(SearchPanelViewTest, StopByMouseAndByKeyEndsTheSearchAndKeepsThePanel) {
   openOnTree();
+  const auto program = test::peWith({test::iconOf(1, {}), test::groupOf(1, {{}})});
+  folder.write("tree/a.exe", std::string(program.begin(), program.end()));
   const std::function<void()> ways[] = {
       [this] { QTest::mouseClick(stop(), Qt::LeftButton); },
       [this] { QTest::keyClick(stop(), Qt::Key_Escape); },
@@ -161,13 +164,14 @@ TEST_F(SearchPanelViewTest, StopByMouseAndByKeyEndsTheSearchAndKeepsThePanel) {
       [this] { QTest::keyClick(stop(), Qt::Key_Space); },
   };
   for (const auto& way : ways) {
-    whileSearching([&] {
-      way();
-      EXPECT_FALSE(search().isRunning());
-    });
+    whileSearching(way);
+    EXPECT_FALSE(search().isRunning());
+    EXPECT_TRUE(search().foundFiles().empty()) << "it went on after Stop";
     EXPECT_EQ(state.screen.mActivePanel, SearchPanel::kNumber);
     EXPECT_TRUE(proceed()->isEnabled());
   }
+  click(proceed());
+  EXPECT_EQ(search().foundFiles().size(), 1u) << "a search that is not stopped";
   key(Qt::Key_Escape);
   EXPECT_EQ(state.screen.mActivePanel, kColorPanel);
 }

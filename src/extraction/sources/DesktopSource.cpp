@@ -12,7 +12,8 @@ namespace gp {
 namespace {
 
 constexpr const char* kPattern = "*.*";
-constexpr const char* kNotRetrieved = "Unable to retrieve this one.";
+// The odd spelling is intended: it is that of the message.
+constexpr const char* kNotRetrieved = "Unable to retieve this one.";
 constexpr int kLongestLabel = 10;
 constexpr std::size_t kMostEntryBytes = 1U << 16;  // of a .desktop file
 
@@ -34,10 +35,17 @@ DesktopSource::DesktopSource(const std::string& folder, FileTypeIcons& icons) : 
     files_.push_back(resolved((std::filesystem::path(folder) / name).string()));
 }
 
+// An icon file of this machine is read as any icon; the desktop has all others.
+std::optional<IconImage> DesktopSource::namedIcon(const std::string& name) const {
+  const std::string file = name.starts_with('/') ? droppedIconFile(localFile(name)) : std::string();
+  const auto bytes = file.empty() ? std::nullopt : readFile(file);
+  if (bytes) return fileIcon(bytes->span(), kLargeIcon);
+  return name.empty() ? std::nullopt : handleOf(icons_.namedIcon(name, kLargeIcon));
+}
+
 std::optional<IconImage> DesktopSource::handle(int index) const {
   const std::string path = fileOf(index);
-  if (const std::string name = iconNameOf(path); !name.empty())
-    if (auto icon = handleOf(icons_.namedIcon(name, kLargeIcon))) return icon;
+  if (auto icon = namedIcon(iconNameOf(path))) return icon;
   return handleOf(icons_.iconOfFile(path, kLargeIcon));
 }
 

@@ -22,6 +22,7 @@ class DesktopSource final : public IconSource {
 
  private:
   std::optional<IconImage> handle(int index) const;
+  std::optional<IconImage> namedIcon(const std::string& name) const;
 
   std::vector<std::string> files_;
   FileTypeIcons& icons_;

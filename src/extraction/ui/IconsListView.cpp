@@ -27,7 +27,7 @@ struct SaveLook {
   const char* tooltip;
 };
 constexpr std::array<SaveLook, 2> kSaveLooks{{{"Save All As &Icons", "Save all frames as icon files (ico)"},
-                                              {"As &Bitmaps", "Save all frames as bitmap files (bmp)"}}};
+                                              {"As Bitmap&s", "Save all frames as bitmap files (bmp)"}}};
 
 QHBoxLayout* rowIn(QWidget* place) {
   auto* row = new QHBoxLayout(place);

@@ -28,9 +28,9 @@ struct FolderLook {
   const char* tooltip;
 };
 constexpr std::array<FolderLook, SearchPanel::kFolders> kFolderLooks{
-    {{"Search &in:", "Search in", "Browse folder to search in"}, {"Save &to:", "Save to", "Browse folder to save to"}}};
+    {{"&Search in:", "Search in", "Browse folder to search in"}, {"Sa&ve to:", "Save to", "Browse folder to save to"}}};
 constexpr std::array<const char*, SearchPanel::kTicks> kTickCaptions{"Incl S&ubdir", "Sma&ll icons",
-                                                                     "Add serial prefi&x to file name"};
+                                                                     "Add ser&ial prefix to file name"};
 
 QHBoxLayout* rowIn(QWidget* place) {
   auto* row = new QHBoxLayout(place);
@@ -108,7 +108,7 @@ QCheckBox* SearchPanelView::makeTick(QWidget* parent, int i) {
 QWidget* SearchPanelView::makeMaximum() {
   auto* place = new QWidget(rows());
   QHBoxLayout* row = rowIn(place);
-  auto* label = new QLabel("&Max", place);
+  auto* label = new QLabel("Max", place);
   label->setObjectName("lblMaxIcons");
   txbMaxIcons_ = new QLineEdit(place);
   txbMaxIcons_->setObjectName("txbMaxIcons");
