@@ -8,11 +8,14 @@
 #include <atomic>
 #include <climits>
 #include <cstdio>
+#include <filesystem>
 #include <set>
 #include <span>
 
 namespace gp::cli {
 namespace {
+
+namespace fs = std::filesystem;
 
 struct Wish {
   std::string folder;
@@ -67,7 +70,7 @@ class Saving {
 
   void save(std::size_t item, ItemOutput& output) {
     std::vector<DrawnIcon> icons;
-    draw(item, icons, output);
+    if (hasRoom()) draw(item, icons, output);
     named_.await(item);
     giveNames(programs_[item], icons, output);
     named_.end(item);
@@ -87,10 +90,12 @@ class Saving {
     const auto next = [&] {
       ++index;
       if (icons.size() == kMostKept) saveInTurn(item, icons, output);
-      return total_ < wish_.choices.maximum;
+      return hasRoom();
     };
     extractIconsOfFile(programs_[item], choices, keep, drawn, next);
   }
+
+  bool hasRoom() const { return total_ < wish_.choices.maximum; }
 
   void saveInTurn(std::size_t item, std::vector<DrawnIcon>& icons, ItemOutput& output) {
     named_.await(item);
@@ -99,16 +104,25 @@ class Saving {
     icons.clear();
   }
 
-  // Icons without a name are not written: those beyond the maximum, and those of a second program of one name.
+  // The reason why a file with that name is not written; null for none.
+  const char* refusalOf(const std::string& name) const {
+    std::error_code ignored;
+    if (names_.contains(name)) return "is from another program of this name (see --serial)";
+    const bool isThere = fs::exists(fs::symlink_status(fs::path(wish_.choices.target) / name, ignored));
+    return isThere && !wish_.replaces ? describe(WriteDefect::AlreadyThere) : nullptr;
+  }
+
+  // Icons without a name are not written: those beyond the maximum, and those whose file would replace another one.
   void giveNames(const std::string& program, std::vector<DrawnIcon>& icons, ItemOutput& output) {
     for (DrawnIcon& icon : icons) {
-      if (total_ >= wish_.choices.maximum) return;
-      std::string name = searchedName(wish_.choices, program, total_, icon.index);
-      if (!names_.insert(name).second) {
-        output.complain(program, name + " is from another program of this name (see --serial)");
+      if (!hasRoom()) return;
+      const std::string name = searchedName(wish_.choices, program, total_, icon.index);
+      if (const char* const reason = refusalOf(name)) {
+        output.complain(program, name + " " + reason);
         continue;
       }
-      icon.name = std::move(name);
+      names_.insert(name);
+      icon.name = name;
       ++total_;
     }
   }

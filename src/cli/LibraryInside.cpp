@@ -27,17 +27,6 @@ IconEntry entryOf(const GroupImage& image, std::uint32_t offset) {
   return entry;
 }
 
-void writeEntry(const IconEntry& entry, ByteWriter& out) {
-  out.u8(static_cast<std::uint8_t>(entry.width));
-  out.u8(static_cast<std::uint8_t>(entry.height));
-  out.u8(static_cast<std::uint8_t>(entry.colorCount));
-  out.u8(0);
-  out.u16(static_cast<std::uint16_t>(entry.planes));
-  out.u16(static_cast<std::uint16_t>(entry.bitCount));
-  out.u32(entry.bytesInRes);
-  out.u32(entry.imageOffset);
-}
-
 void writeHeader(std::size_t images, ByteWriter& out) {
   out.u16(0);
   out.u16(ico::kTypeIcon);

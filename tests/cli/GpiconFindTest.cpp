@@ -106,6 +106,23 @@ TEST_F(GpiconFind, FilesThatAreThereAreKeptWithoutForce) {
   EXPECT_EQ(redOf("setup0_x.ico"), 0);
 }
 
+TEST_F(GpiconFind, FilesThatAreKeptDoNotCountForTheMaximum) {
+  ASSERT_EQ(run({"find", tree, "-d", target(), "--max", "1"}).out, "Total: 1 icons\n");
+  EXPECT_EQ(run({"find", tree, "-d", target(), "--max", "1"}).out, "Total: 1 icons\n");
+  EXPECT_EQ(namesIn("out"), (std::vector<std::string>{"setup0_x.ico", "setup1_x.ico"}));
+}
+
+TEST_F(GpiconFind, BehindTheMaximumNoProgramIsOpened) {
+  const std::string opened = folder.path("opened");
+  const Outcome o = runAfter("strace -f -e trace=openat -o " + inShell(opened) + " ",
+                             {"find", tree, "--jobs", "1", "-d", target(), "--max", "1"});
+  if (!fs::exists(opened)) GTEST_SKIP() << "no strace";
+  EXPECT_EQ(o.out, "Total: 1 icons\n");
+  const std::string calls = textOf("opened");
+  EXPECT_NE(calls.find("setup.exe"), std::string::npos);
+  EXPECT_EQ(calls.find("UPPER.EXE"), std::string::npos);
+}
+
 TEST_F(GpiconFind, TheTargetMustBeThere) {
   const Outcome o = run({"find", tree, "-d", folder.path("gone")});
   EXPECT_EQ(o.status, 1);

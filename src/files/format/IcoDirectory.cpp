@@ -2,6 +2,7 @@
 
 #include "files/format/IcoLayout.h"
 #include "platform/files/ByteReader.h"
+#include "platform/files/ByteWriter.h"
 
 #include <algorithm>
 
@@ -59,6 +60,17 @@ IconDirectory parseIconDirectory(std::span<const std::uint8_t> file) {
   for (std::size_t i = 0; i < present; ++i)
     directory.entries.push_back(parseEntry(reader, ico::kDirSize + i * ico::kEntrySize));
   return directory;
+}
+
+void writeEntry(const IconEntry& entry, ByteWriter& out) {
+  out.u8(static_cast<std::uint8_t>(entry.width));
+  out.u8(static_cast<std::uint8_t>(entry.height));
+  out.u8(static_cast<std::uint8_t>(entry.colorCount));
+  out.u8(static_cast<std::uint8_t>(entry.reserved));
+  out.u16(static_cast<std::uint16_t>(entry.planes));
+  out.u16(static_cast<std::uint16_t>(entry.bitCount));
+  out.u32(entry.bytesInRes);
+  out.u32(entry.imageOffset);
 }
 
 int ColorsForEntry(const IconEntry& entry, int bitCount) {

@@ -28,6 +28,8 @@ struct IconEntry {
   int hotspotY() const { return bitCount; }
 };
 
+class ByteWriter;
+
 struct IconDirectory {
   int reserved = 0;
   int type = 0;
@@ -44,6 +46,8 @@ struct IconDirectory {
 };
 
 IconDirectory parseIconDirectory(std::span<const std::uint8_t> file);
+// Appends an entry as a file has it.
+void writeEntry(const IconEntry& entry, ByteWriter& out);
 
 // The number of colours of an entry for a bit count (its own or the bitmap header's); -1 for true colour. A colour
 // count in the entry has priority and is rounded to 2 or 16.

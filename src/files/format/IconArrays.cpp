@@ -35,17 +35,6 @@ ArraysDefect takeFile(IconFile file, ReservedField rule, IconArrays& arrays) {
 
 std::size_t directorySize(const IconArrays& arrays) { return ico::kDirSize + arrays.entries.size() * ico::kEntrySize; }
 
-void writeEntry(const IconEntry& entry, ByteWriter& out) {
-  out.u8(static_cast<std::uint8_t>(entry.width));
-  out.u8(static_cast<std::uint8_t>(entry.height));
-  out.u8(static_cast<std::uint8_t>(entry.colorCount));
-  out.u8(static_cast<std::uint8_t>(entry.reserved));
-  out.u16(static_cast<std::uint16_t>(entry.planes));
-  out.u16(static_cast<std::uint16_t>(entry.bitCount));
-  out.u32(entry.bytesInRes);
-  out.u32(entry.imageOffset);
-}
-
 std::vector<std::uint8_t> directoryBytes(const IconArrays& arrays) {
   ByteWriter out(directorySize(arrays));
   out.u16(static_cast<std::uint16_t>(arrays.reserved));
